@@ -1,0 +1,46 @@
+#include "app/ColourSelector.h"
+
+#include "app/Editor.h"
+#include "app/Mum.h"
+
+namespace tarvik {
+namespace {
+
+struct Choice {
+  const char* caption;
+  Property<Colour> Settings::*colour;  ///< null: black
+};
+
+constexpr Choice kChoices[ColourSelector::kColours] = {
+    {"Buttons", &Settings::BTNColour},  {"Slash", &Settings::SlashColour},
+    {"Raw, Dly", &Settings::RAWColour}, {"Misc", &Settings::MiscellaneousColour},
+    {"Rem", &Settings::RemStatements},  {"Black", nullptr},
+};
+
+}  // namespace
+
+ColourSelector::ColourSelector(Application& application) : Form("ColourSelector"), application_(application) {
+  for (int i = 0; i < kColours; ++i) {
+    Command1(i).Caption = kChoices[i].caption;
+    Command1(i).Click = [this, i] { Command1_Click(i); };
+  }
+  Activate = [this] { Form_Activate(); };
+  Deactivate = [this] { Form_Deactivate(); };
+}
+
+void ColourSelector::Form_Activate() {
+  for (int i = 0; i < kColours; ++i) {
+    const auto member = kChoices[i].colour;
+    Label1(i).BackColor = member ? (application_.settings.*member).Get() : kBlack;
+  }
+}
+
+void ColourSelector::Command1_Click(int index) {
+  const Colour colour = Label1(index).BackColor;
+  application_.mum().Picture1.BackColor = colour;
+  if (Editor* const editor = application_.editor(); editor && editor->Visible)
+    editor->ColourSelection(colour);
+  Visible = false;
+}
+
+}  // namespace tarvik

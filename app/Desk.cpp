@@ -1,0 +1,41 @@
+#include "app/Desk.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int kPaneIndent = 20;  // pixels
+
+constexpr const char* kSavedStateTips[] = {
+    " has no text and isn't saved",
+    " is saved",
+    " has been modified and isn't saved",
+};
+
+}  // namespace
+
+void Desk::Say(const std::string& text) const { status.Panels(1).Text = text; }
+
+void Desk::ShowLineNumber(const Document& document, std::size_t position) const {
+  status.Panels(3).Text = "Line no: " + TextOf(1 + document.text.GetLineFromChar(position));
+}
+
+void Desk::UpdateSavedIcon() const {
+  const Document& document = Active();
+  const int image = document.Dirty + 2;
+  status.Panels(2).Picture = image;
+  status.Panels(2).ToolTipText = document.Name.Get() + kSavedStateTips[image - 1];
+}
+
+void Desk::ApplyFont(Pane& pane) const {
+  pane.SelIndent = kPaneIndent;
+  pane.SelFontName = settings.TextFontName;
+  pane.SelBold = settings.TextFontBold != 0;
+  pane.SelFontSize = static_cast<float>(settings.TextFontSize.Get());
+}
+
+void Desk::ApplyLook(const Document& document) const {
+  document.text.BackColor = (settings.*document.traits.background).Get();
+  ApplyFont(document.text);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,490 @@
+#include "app/Editor.h"
+
+#include "app/EditorTables.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int kAutoSaveInterval = 60000;  // milliseconds
+constexpr int kBlinkInterval = 200;
+constexpr int kNormalTabImage = 9;
+constexpr int kProtectedTabImage = 6;
+constexpr int kFirstFileButton = 2;
+constexpr int kDelayButton = 11;
+constexpr int kUndoButton = 11;
+constexpr int kRedoButton = 12;
+constexpr int kFormatButton = 5;  // "/F" or "/A", by the joystick
+constexpr int kIgnoreDelayButton = 12;
+
+constexpr const char* kWelcome =
+    "Hi there buddy! Welcome to the first final release of Tarvik, a new utility to help you get the most "
+    "out of your "
+    "Thrustmaster hardware. Now I'm going to need some information from you regarding what Thrustmaster "
+    "equipment you "
+    "have, and where your Thrustmaster files are on your hard disk. Remember, you must still have installed "
+    "the "
+    "Thrustmaster software to use parts of Tarvik. So let's go to the Preferences Window, and fill out all "
+    "the sections "
+    "on the first tab, the File Locations tab. If you get lost, press the Help button there. Cheers, and "
+    "enjoy Tarvik.";
+
+}  // namespace
+
+Editor::Editor(Application& application)
+    : Form("Editor"),
+      JoystickText(*this, "JoystickText", application.platform.files),
+      MacroText(*this, "MacroText", application.platform.files),
+      TempRichTextBox(*this, "TempRichTextBox", application.platform.files),
+      CompareRTF(*this, "CompareRTF", application.platform.files),
+      menus(*this, tables::kMenus),
+      popUps(*this, tables::kPopUps),
+      Joystick(*this, "Joystick", kJoystickTraits, JoystickText),
+      Macro(*this, "Macro", kMacroTraits, MacroText),
+      application_(application),
+      mum_(application.mum()),
+      desk_{application.platform,
+            application.settings,
+            application.values,
+            application.errors,
+            mum_.StatusBar,
+            mum_.ProgressBar1,
+            mum_.Picture1,
+            mum_.MousePointer,
+            TabStrip1,
+            Joystick,
+            Macro,
+            TempRichTextBox,
+            CompareRTF,
+            [this] { UpdateUndoRedoMenus(); }},
+      copies_(desk_),
+      highlighter_(desk_, copies_),
+      insertion_(desk_, [this](Document& document) { TextChanged(document); }),
+      lists_(desk_, Combo1, List1),
+      layout_(desk_, {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros, mnuViewTileVertically}),
+      blink_(desk_, TimerBlinkLine),
+      input_(desk_, menus, [this](Document& document) { TextChanged(document); }),
+      files_(desk_, copies_, highlighter_, lists_, [this] { layout_.ShowMacroFrame(); }),
+      autoSave_(desk_, files_, Timer1) {
+  SetUpControls();
+  SetUpToolbar();
+}
+
+void Editor::SetUpControls() {
+  TempRichTextBox.Visible = false;
+  CompareRTF.Visible = false;
+  TabStrip1.Tabs(1).ToolTipText =
+      "Your joystick file: where you assign macros to joystick buttons, hats etc.";
+  TabStrip1.Tabs(2).ToolTipText = "Your macro file: it contains your macro definitions";
+  TabStrip1.Tabs(2).Image = kNormalTabImage;
+  TabStrip1.Click = [this] { TabStrip1_Click(); };
+  FrameMacros.Caption = "Macros";
+  FrameMacros.MouseMove = [this](const Mouse& mouse) { layout_.FrameMouseMove(mouse); };
+  FrameMacros.DblClick = [this] { mnuViewMacros_Click(); };
+  Combo1.ToolTipText = "Macro categories";
+  Combo1.Click = [this] { Combo1_Click(); };
+  Combo1.GotFocus = [this] { layout_.ResetFramePointer(); };
+  for (int i = 0; i < kModifierButtons; ++i) {
+    Command1(i).Caption = tables::kModifierCaptions[i];
+    Command1(i).Click = [this, i] { Command1_Click(i); };
+    Command1(i).MouseMove = [this](const Mouse&) { layout_.ResetFramePointer(); };
+  }
+  List1.Prepare = [this](ListBox& list) { AttachList(list); };
+  AttachList(List1(0));
+  Timer1.Interval = kAutoSaveInterval;
+  Timer1.Elapsed = [this] { autoSave_.Minute(); };
+  TimerBlinkLine.Interval = kBlinkInterval;
+  TimerBlinkLine.Elapsed = [this] { blink_.Step(); };
+  input_.Attach(Joystick);
+  input_.Attach(Macro);
+  mnuViewMacros.Checked = true;
+  mnuViewWordWrap.Checked = true;
+  Form::Resize = [this] { Form_Resize(); };
+  Form::Activate = [this] { Form_Activate(); };
+  ScaleWidth = mum_.Width / kTwipsPerPixel;
+  ScaleHeight = mum_.Height / kTwipsPerPixel;
+}
+
+void Editor::AttachList(ListBox& list) {
+  const int index = *list.Index();
+  list.ToolTipText = "Double click macro to insert into Joystick file, or use drag and drop";
+  list.MouseDown = [this, index](const Mouse& mouse) { List1_MouseDown(index, mouse); };
+  list.MouseMove = [this, index](const Mouse& mouse) { List1_MouseMove(index, mouse); };
+  list.DblClick = [this, index] { List1_DblClick(index); };
+  list.OLEStartDrag = [this, index] { List1_OLEStartDrag(index); };
+  const ListBox& first = List1(0);
+  list.Move(first.Left, first.Top, first.Width, first.Height);
+}
+
+void Editor::SetUpToolbar() {
+  for (const tables::ToolbarRow& row : tables::kToolbar) {
+    ToolbarButton& button = mum_.Toolbar1.Buttons(row.button);
+    button.ToolTipText = row.tip;
+    button.Image = row.icon;
+    button.Enabled = menus(row.entry).Enabled;
+    button.Click = [this, number = row.button] { Toolbar1_ButtonClick(number); };
+  }
+}
+
+// Life of the form.
+
+void Editor::Form_Load() {
+  const Trap trap{application_.errors, "ED_Form_Load"};
+  Values& values = application_.values;
+  const Settings& settings = application_.settings;
+  values.LoadingFile = 1;
+  mum_.MousePointer = pointer::kHourglass;
+  values.PreferencesTab = 0;
+  application_.settings.GetColours();
+  values.FontChanged = 0;
+  values.HardwareChanged = 0;
+  mnuInsertWithColour.Checked = settings.InsertWithColour != 0;
+  desk_.status.Panels(8).Text = "No macro file analysed";
+  desk_.status.Panels(8).ToolTipText = "The macros in the macros list are from this file";
+  for (Document* document : {&Joystick, &Macro}) {
+    desk_.ApplyLook(*document);
+    files_.NameUntitled(*document);
+    document->Dirty = saved::kNoText;
+    files_.ResetHistory(*document);
+  }
+  layout_.Place();
+  Visible = true;
+  Form_Activate();
+  GetOpenSingleOnly();
+  JoystickText.SetFocus();
+
+  TestCommandLine();
+  if (!values.CommandLine.Get().empty()) OpenPreviouslySavedFiles(values.CommandLine);
+  values.LoadingFile = 0;
+  Joystick.Caret = 0;
+  Macro.Caret = 0;
+  desk_.ShowLineNumber(Joystick, 0);
+  desk_.UpdateSavedIcon();
+  F22MenusUpdate();
+  autoSave_.Restart();
+  mum_.MousePointer = pointer::kDefault;
+  if (settings.FirstTimeUsed == 1) FirstTimeFlow();
+}
+
+void Editor::FirstTimeFlow() {
+  application_.platform.dialogs.Show(
+      {"Tarvik initialising ...", kWelcome, BoxIcon::Information, BoxButtons::Ok});
+  application_.settings.FirstTimeUsed = 0;
+  application_.settings.SaveOptions();
+}
+
+void Editor::Form_Activate() {
+  mum_.Toolbar1.Visible = true;
+  desk_.Active().text.SetFocus();
+  UpdateToolBarOpenSaveTooltips();
+  if (application_.values.FontChanged == 1) DamnFontWasChanged();
+}
+
+void Editor::Form_Unload() {
+  SaveOpenSingleOnly();
+  mum_.Toolbar1.Visible = false;
+}
+
+void Editor::TestCommandLine() {
+  Property<std::string>& line = application_.values.CommandLine;
+  if (!application_.platform.files.FileExists(line.Get())) line = std::string();
+}
+
+void Editor::OpenPreviouslySavedFiles(const std::string& path) {
+  files_.OpenWithoutDialog(path);
+  if (!mnuJoyPopUpSingleFile.Checked) {
+    mnuFileOpen_Click();
+  } else {
+    // The ending is looked for anywhere in the joined extensions, so that "22m" counts as a macro file as
+    // well.
+    const std::string& name = files_.NameToOpen();
+    const std::string ending = name.substr(name.size() - std::min<std::size_t>(3, name.size()));
+    constexpr std::string_view kMacroExtensions = "m22m50mdf";
+    if (kMacroExtensions.find(ending) != std::string_view::npos) {
+      MnuFileMacroLoad_Click();
+    } else {
+      mnuFileJoystickLoad_Click();
+    }
+  }
+  files_.OpenWithDialogs();
+}
+
+void Editor::F22MenusUpdate() {
+  const bool f22 = application_.settings.JoyName == 0;
+  for (const char* entry : tables::kF22Entries) menus(entry).Visible = f22;
+  Command1(kIgnoreDelayButton).Visible = f22;
+  Command1(kFormatButton).Caption = f22 ? "/F" : "/A";
+  menus("mnuSlashModifier", kFormatButton).Caption = f22 ? "/F  format as repeating" : "/A  force analogue";
+}
+
+void Editor::HardwareHasChanged() {
+  for (Document* document : {&Joystick, &Macro}) {
+    if (desk_.TabOf(*document).Caption.Get().starts_with("untitled")) files_.NameUntitled(*document);
+  }
+  F22MenusUpdate();
+  application_.values.HardwareChanged = 0;
+}
+
+void Editor::DamnFontWasChanged() {
+  application_.values.FontChanged = 0;
+  Document& before = desk_.Active();
+  for (Document* document : {&Joystick, &Macro}) {
+    desk_.Select(*document);
+    mnuViewReformat_Click();
+  }
+  desk_.Select(before);
+}
+
+void Editor::GetOpenSingleOnly() {
+  mnuJoyPopUpSingleFile.Checked = application_.profile.GetInt("Miscellaneous", "OpenSingleFileOnly", 1) != 0;
+}
+
+void Editor::SaveOpenSingleOnly() {
+  application_.settings.Write("Miscellaneous", "OpenSingleFileOnly",
+                              mnuJoyPopUpSingleFile.Checked ? "1" : "0");
+}
+
+// Documents.
+
+void Editor::NewFile(Document& document) {
+  if (files_.New(document)) autoSave_.Restart();
+}
+
+void Editor::mnuFileNewBoth_Click() {
+  mnuFileNewJoystick_Click();
+  mnuFileNewMacro_Click();
+  desk_.Say("Done .... now what?");
+}
+
+void Editor::mnuPreferencesProtectMacroFile_Click() {
+  const bool protect = !mnuPreferencesProtectMacroFile.Checked;
+  MacroText.Locked = protect;
+  mnuPreferencesProtectMacroFile.Checked = protect;
+  popUps("mnuRHMProtect").Checked = protect;
+  TabStrip1.Tabs(2).Image = protect ? kProtectedTabImage : kNormalTabImage;
+}
+
+void Editor::TextChanged(Document& document) {
+  document.Dirty = saved::kModified;
+  desk_.UpdateSavedIcon();
+  if (document.Undo.Absorbs()) {
+    document.Undo.Absorb();
+    return;
+  }
+  document.Undo.Open(application_.settings.UndoMax);
+  UpdateUndoRedoMenus();
+  document.Undo.GoToNewest();
+  mnuEditRedo.Enabled = false;
+  mum_.Toolbar1.Buttons(kRedoButton).Enabled = false;
+}
+
+// Undo.
+
+void Editor::StepThroughHistory(void (UndoHistory::*step)()) {
+  const Loading loading(application_.values);
+  Document& document = desk_.Active();
+  (document.Undo.*step)();
+  document.Caret = document.text.SelStart;
+  UpdateUndoRedoMenus();
+  if (application_.settings.HighlightLineOnUndo == 1) blink_.Start();
+}
+
+void Editor::mnuEditUndo_Click() { StepThroughHistory(&UndoHistory::Undo); }
+void Editor::mnuEditRedo_Click() { StepThroughHistory(&UndoHistory::Redo); }
+
+void Editor::UpdateUndoRedoMenus() {
+  const UndoHistory& history = desk_.Active().Undo;
+  const auto show = [this](MenuItem& item, const char* popUp, int button, const std::string& word,
+                           int steps) {
+    const std::string text = steps > 0 ? word + " (" + TextOf(steps) + ")" : word;
+    item.Caption = "&" + text;
+    item.Enabled = steps > 0;
+    popUps(popUp).Enabled = steps > 0;
+    mum_.Toolbar1.Buttons(button).ToolTipText = text;
+    mum_.Toolbar1.Buttons(button).Enabled = steps > 0;
+  };
+  show(mnuEditUndo, "mnuRHMUndo", kUndoButton, "Undo", history.UndoSteps());
+  show(mnuEditRedo, "mnuRHMRedo", kRedoButton, "Redo", history.RedoSteps());
+}
+
+void Editor::DeleteUndosFromMemory() {
+  DeleteUndosOnSaveJ();
+  DeleteUndosOnSaveM();
+}
+
+// View.
+
+void Editor::TabStrip1_Click() {
+  Document& document = desk_.Active();
+  const std::string caption = desk_.TabOf(document).Caption;
+  const bool protectedFile = !document.IsJoystick() && mnuPreferencesProtectMacroFile.Checked;
+  desk_.status.Panels(3).Enabled = true;
+  desk_.Say(protectedFile ? caption + " is protected and can't be edited." : "Editing " + caption);
+  desk_.UpdateSavedIcon();
+  document.text.SelStart = document.Caret;
+  layout_.ShowPanes();
+  document.text.SetFocus();
+  UpdateUndoRedoMenus();
+}
+
+void Editor::mnuViewReformat_Click() {
+  const Loading loading(application_.values);
+  desk_.Say("Reformatting layout. Please wait ...");
+  Document& document = desk_.Active();
+  desk_.ApplyFont(document.text);
+  document.text.SelStart = document.Caret;
+}
+
+void Editor::mnuViewWordWrap_Click() {
+  constexpr int kNoWrapping = 2000;
+  const bool wrap = !mnuViewWordWrap.Checked;
+  for (Pane* pane : {&JoystickText, &MacroText}) pane->RightMargin = wrap ? 0 : kNoWrapping;
+  mnuViewWordWrap.Checked = wrap;
+}
+
+void Editor::UpdateToolBarOpenSaveTooltips() {
+  const Settings& settings = application_.settings;
+  Toolbar& toolbar = mum_.Toolbar1;
+  toolbar.Buttons(kFirstFileButton).ToolTipText =
+      settings.OpenBothOnToolbar == 1 ? "Open joystick file and its macro file (F8)" : "Open file";
+  toolbar.Buttons(kFirstFileButton + 1).ToolTipText =
+      settings.SaveBothOnToolbar == 1 ? "Save both files" : "Save currently selected file (Ctrl+S)";
+}
+
+void Editor::Toolbar1_ButtonClick(int button) {
+  const Settings& settings = application_.settings;
+  const bool joystick = desk_.Active().IsJoystick();
+  if (button == kFirstFileButton && settings.OpenBothOnToolbar != 1) {
+    files_.Load(desk_.Active());
+    return;
+  }
+  if (button == kFirstFileButton + 1 && settings.SaveBothOnToolbar == 1) {
+    mnuFileSaveBoth_Click();
+    return;
+  }
+  for (const tables::ToolbarRow& row : tables::kToolbar) {
+    if (row.button == button) menus(joystick || !row.macroEntry ? row.entry : row.macroEntry).Click();
+  }
+}
+
+// Colours.
+
+void Editor::mnuViewApplyColourBothFiles_Click() {
+  Document& before = desk_.Active();
+  mnuViewColourJoystick_Click();
+  mnuViewColourMacro_Click();
+  desk_.Select(before);
+}
+
+void Editor::mnuRemoveColourSelectedText_Click() {
+  highlighter_.ColourSelection(kBlack);
+  desk_.Say("Done");
+}
+
+void Editor::mnuInsertWithColour_Click() {
+  const bool colour = !mnuInsertWithColour.Checked;
+  mnuInsertWithColour.Checked = colour;
+  application_.settings.InsertWithColour = colour ? 1 : 0;
+  application_.settings.Write("Colours", "InsertWithColour", colour ? "1" : "0");
+}
+
+void Editor::ColourSelection(Colour colour) {
+  highlighter_.ColourSelection(colour);
+  desk_.UpdateSavedIcon();
+  desk_.Active().text.SetFocus();
+}
+
+// Macros.
+
+void Editor::mnuEditUpdateMacros_Click() {
+  const Trap trap{application_.errors, "ED_mnuEditUpdateMacros_Click"};
+  const std::size_t equals = MacroText.Characters().find('=');
+  if (equals == std::string_view::npos || equals == 0) return;
+  desk_.Select(Macro);
+  if (Macro.Dirty == saved::kModified) {
+    Dialogs& dialogs = application_.platform.dialogs;
+    const std::string name = Macro.Name;
+    const Answer answer =
+        dialogs.Show({" Save " + name + " now?",
+                      name + " has changed and isn't saved. You must save it if you want to update "
+                             "your macros list. Shall I go ahead and save it?",
+                      BoxIcon::Question, BoxButtons::YesNo});
+    if (answer == Answer::Yes) {
+      desk_.Select(Macro);
+      mnuFileSave_Click();
+    }
+    if (answer != Answer::Yes || Macro.Dirty == saved::kModified) {
+      dialogs.Show({"File not saved", name + " wasn't saved, so I won't continue to update your macros list.",
+                    BoxIcon::Exclamation, BoxButtons::Ok});
+      return;
+    }
+  }
+  application_.values.MacroListChanged = 1;
+  files_.AnalyseMacroFile();
+}
+
+void Editor::mnuFindInJF_Click() {
+  lists_.TakeFrom(lists_.PopupListIndex);
+  lists_.FindMacroInJF();
+}
+
+void Editor::mnuRHListEdit_Click() {
+  desk_.Select(Macro);
+  lists_.TakeFrom(lists_.PopupListIndex);
+  MacroText.SetFocus();
+  lists_.ShowMacroKeys();
+}
+
+void Editor::Combo1_Click() {
+  layout_.ResetFramePointer();
+  lists_.ShowCategory();
+}
+
+void Editor::TakeMacroUnder(int index, const Mouse& mouse) {
+  constexpr int kLeft = 1;
+  if (List1(index).ListCount() == 0 || mouse.button == 0) return;
+  lists_.TakeFrom(index);
+  lists_.ShowMacroKeys();
+  if (mouse.button == kLeft && mouse.shift == shift::kShift) lists_.FindMacroInJF();
+}
+
+void Editor::List1_MouseDown(int index, const Mouse& mouse) {
+  constexpr int kRight = 2;
+  TakeMacroUnder(index, mouse);
+  if (mouse.button != kRight || List1(index).ListCount() == 0) return;
+  lists_.PopupListIndex = index;
+  PopUp("mnuRHList");
+}
+
+void Editor::List1_MouseMove(int index, const Mouse& mouse) {
+  layout_.ResetFramePointer();
+  TakeMacroUnder(index, mouse);
+}
+
+void Editor::List1_OLEStartDrag(int index) {
+  lists_.TakeFrom(index);
+  List1(index).DragText = " " + application_.values.SelectedMacro.Get() + " ";
+}
+
+void Editor::Command1_Click(int index) {
+  Values& values = application_.values;
+  const Settings& settings = application_.settings;
+  const std::string value = TextOf(settings.DefaultDLYvalue.Get());
+  const bool delay = index == kDelayButton;
+  values.InsertionText = delay ? "DLY(" : Command1(index).Caption.Get() + " ";
+  insertion_.BeginColInsert();
+  if (settings.InsertWithColour == 0) {
+    if (delay) values.InsertionText = "DLY(" + value + ") ";
+    insertion_.InsertBlackText();
+  } else if (delay) {
+    insertion_.AddSpaceToColouredText();
+    insertion_.InsertColouredStringNoSpace(values.InsertionText, settings.RAWColour);
+    insertion_.InsertColouredStringNoSpace(value, kBlack);
+    insertion_.InsertColouredString(") ", settings.RAWColour);
+  } else {
+    insertion_.AddSpaceToColouredText();
+    insertion_.InsertColouredString(values.InsertionText, settings.SlashColour);
+  }
+  insertion_.EndColInsert();
+}
+
+}  // namespace tarvik

@@ -1,0 +1,156 @@
+// The window of the two files: panes on a tab strip, the macro lists beside them, and the menu bar. The form
+// is a switchboard: its handlers hand over to small classes that know one matter each.
+#pragma once
+
+#include "app/AutoSave.h"
+#include "app/FileCommands.h"
+#include "app/Layout.h"
+#include "app/LineBlink.h"
+#include "app/Mum.h"
+#include "app/PaneInput.h"
+#include "language/ColouredInsertion.h"
+
+namespace tarvik {
+
+class Editor : public Form {
+ public:
+  static constexpr int kModifierButtons = 13;
+
+  explicit Editor(Application& application);
+
+  // Controls.
+  Pane JoystickText;
+  Pane MacroText;
+  Pane TempRichTextBox;  ///< hidden, for work that must not show
+  Pane CompareRTF;       ///< hidden, for the comparison of a coloured copy with its file
+  TabStrip TabStrip1{*this, "TabStrip1", 2};
+  Frame FrameMacros{*this, "FrameMacros"};
+  ComboBox Combo1{*this, "Combo1"};
+  ControlArray<ListBox> List1{*this, "List1", 1};
+  ControlArray<CommandButton> Command1{*this, "Command1", kModifierButtons};
+  Timer Timer1{*this, "Timer1"};
+  Timer TimerBlinkLine{*this, "TimerBlinkLine"};
+  Menus menus;
+  /// The pop-up menus: the panes', and the macro lists'.
+  Menus popUps;
+
+  MenuItem& mnuEditUndo = menus("mnuEditUndo");
+  MenuItem& mnuEditRedo = menus("mnuEditRedo");
+  MenuItem& mnuViewMacros = menus("mnuViewMacros");
+  MenuItem& mnuViewTileVertically = menus("mnuViewTileVertically");
+  MenuItem& mnuViewWordWrap = menus("mnuViewWordWrap");
+  MenuItem& mnuInsertWithColour = menus("mnuInsertWithColour");
+  MenuItem& mnuJoyPopUpSingleFile = menus("mnuJoyPopUpSingleFile");
+  MenuItem& mnuPreferencesProtectMacroFile = menus("mnuPreferencesProtectMacroFile");
+
+  // The documents.
+  Document Joystick;
+  Document Macro;
+
+  // Life of the form.
+  void Form_Load();
+  void Form_Activate();
+  bool Form_QueryUnload() { return files_.MayExit(); }
+  void Form_Unload();
+  void Form_Resize() { layout_.Place(); }
+  void TestCommandLine();
+  void OpenPreviouslySavedFiles(const std::string& path);
+  void F22MenusUpdate();
+  void HardwareHasChanged();
+  void DamnFontWasChanged();
+  void GetOpenSingleOnly();
+  void SaveOpenSingleOnly();
+
+  // Documents.
+  void mnuFileNewJoystick_Click() { NewFile(Joystick); }
+  void mnuFileNewMacro_Click() { NewFile(Macro); }
+  void mnuFileNewBoth_Click();
+  void mnuFileJoystickLoad_Click() { files_.Load(Joystick); }
+  void MnuFileMacroLoad_Click() { files_.Load(Macro); }
+  void mnuFileOpen_Click() { files_.OpenPair(); }
+  void mnuFileSave_Click() { files_.Save(desk_.Active()); }
+  void mnuFileSaveAs_Click() { files_.SaveAs(desk_.Active()); }
+  void mnuFileSaveBoth_Click() { files_.SaveBoth(); }
+  void mnuJoyPopUpSingleFile_Click() { mnuJoyPopUpSingleFile.Checked = !mnuJoyPopUpSingleFile.Checked; }
+  void mnuFileExit_Click() { application_.CloseMum(); }
+  void mnuPreferencesProtectMacroFile_Click();
+  void JoystickTextChanged() { TextChanged(Joystick); }
+  void MacroTextChanged() { TextChanged(Macro); }
+
+  // Undo.
+  void mnuEditUndo_Click();
+  void mnuEditRedo_Click();
+  void UpdateUndoRedoMenus();
+  void DeleteUndosOnSaveJ() { files_.ResetHistory(Joystick); }
+  void DeleteUndosOnSaveM() { files_.ResetHistory(Macro); }
+  void DeleteUndosFromMemory();
+
+  // View.
+  void mnuViewMacros_Click() { layout_.ToggleMacroFrame(); }
+  void mnuViewTileVertically_Click() { layout_.ToggleTiled(); }
+  void mnuViewReformat_Click();
+  void mnuViewWordWrap_Click();
+  void mnuViewHighlightLine_Click() { blink_.Start(); }
+  void TabStrip1_Click();
+  void UpdateToolBarOpenSaveTooltips();
+  void Toolbar1_ButtonClick(int button);
+
+  // Colours.
+  void mnuViewColourJoystick_Click() { highlighter_.Apply(Joystick); }
+  void mnuViewColourMacro_Click() { highlighter_.Apply(Macro); }
+  void mnuViewApplyColourBothFiles_Click();
+  void mnuRemoveColourJoystick_Click() { highlighter_.Remove(Joystick); }
+  void mnuRemoveColourMacro_Click() { highlighter_.Remove(Macro); }
+  void mnuRemoveColourSelectedText_Click();
+  void mnuRHMColour_Click() { highlighter_.Apply(desk_.Active()); }
+  void mnuRHMColoursRemove_Click() { highlighter_.Remove(desk_.Active()); }
+  void mnuInsertWithColour_Click();
+  /// Gives the selection of the pane on top a colour chosen by hand.
+  void ColourSelection(Colour colour);
+
+  // Macros.
+  void mnuEditUpdateMacros_Click();
+  void mnuViewIdentify_Click() { lists_.IdentifyMacrosUsed(); }
+  void mnuRHListInsert_Click() { lists_.Insert(lists_.PopupListIndex); }
+  void mnuFindInJF_Click();
+  void mnuRHListIdentify_Click() { lists_.IdentifyMacrosUsed(); }
+  void mnuRHListEdit_Click();
+  void ExtractButtonDefinition(const std::string& name) { lists_.ExtractButtonDefinition(name); }
+  void Combo1_Click();
+  void List1_MouseDown(int index, const Mouse& mouse);
+  void List1_MouseMove(int index, const Mouse& mouse);
+  void List1_DblClick(int index) { lists_.Insert(index); }
+  void List1_OLEStartDrag(int index);
+  void Command1_Click(int index);
+  void mnuSlashModifier_Click(int index) { Command1_Click(index); }
+  void mnuSlashModifierQ_Click() { Command1_Click(12); }
+  void mnuSlashModifierDLY_Click() { Command1_Click(11); }
+
+  /// For whatever shows a pop-up menu at the pointer.
+  Signal<std::string_view> PopUp;
+
+ private:
+  void SetUpControls();
+  void AttachList(ListBox& list);
+  void SetUpToolbar();
+  void NewFile(Document& document);
+  void FirstTimeFlow();
+  void TextChanged(Document& document);
+  void StepThroughHistory(void (UndoHistory::*step)());
+  void TakeMacroUnder(int index, const Mouse& mouse);
+
+  Application& application_;
+  Mum& mum_;
+  Desk desk_;
+  ColouredCopies copies_;
+  Highlighter highlighter_;
+  ColouredInsertion insertion_;
+  MacroLists lists_;
+  Layout layout_;
+  LineBlink blink_;
+  PaneInput input_;
+  FileCommands files_;
+  AutoSave autoSave_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,131 @@
+#include "app/Layout.h"
+
+#include <algorithm>
+
+namespace tarvik {
+namespace {
+
+constexpr int kNarrowestFrame = 185;
+constexpr int kGrip = 8;  // pixels at the frame's right edge
+
+// In the tab strip, in pixels.
+constexpr float kPaneLeft = 3;
+constexpr float kPaneTop = 23;
+constexpr float kPaneRight = 3;
+constexpr float kPaneBottom = 22;
+
+// In the frame, in twips.
+constexpr float kMargin = 120;
+constexpr float kComboTop = 300;
+constexpr float kComboHeight = 360;
+constexpr float kListTop = kComboTop + kComboHeight + 60;
+constexpr float kButtonWidth = 352;
+constexpr float kWideButtonWidth = 410;
+constexpr float kButtonHeight = 405;
+constexpr float kGap = 30;
+constexpr int kUpperButtons = 6;
+constexpr int kLowerButtons = 12;  // one past the last of the lower row
+constexpr int kLastButton = 12;    // stands in the upper row
+
+}  // namespace
+
+Layout::Layout(Desk& desk, LayoutControls controls) : desk_(desk), controls_(controls) {
+  controls_.categories.Move(kMargin, kComboTop, 0, kComboHeight);
+  for (int i = 0; i <= kLastButton; ++i) {
+    const bool upper = i < kUpperButtons || i == kLastButton;
+    const float column = static_cast<float>(i == kLastButton ? kUpperButtons : i % kUpperButtons);
+    const float width = upper ? kButtonWidth : kWideButtonWidth;
+    controls_.buttons(i).Move(kMargin + column * (width + kGap / 2), 0, width, kButtonHeight);
+  }
+}
+
+void Layout::Place() {
+  PlaceFrame();
+  if (controls_.tile.Checked) {
+    ShowBothFiles();
+  } else {
+    PositionControls();
+  }
+}
+
+void Layout::PlaceFrame() {
+  const float width = static_cast<float>(desk_.settings.MacroFrameWidth.Get());
+  const float height = controls_.form.ScaleHeight;
+  controls_.frame.Move(0, 0, width, height);
+  controls_.categories.Width = width * kTwipsPerPixel - 240;
+  const float listHeight = std::max(0.0F, height * kTwipsPerPixel - 840 - controls_.categories.Height - 680);
+  for (int i = 0; i < controls_.lists.Count(); ++i) {
+    controls_.lists(i).Move(kMargin, kListTop, controls_.categories.Width, listHeight);
+  }
+  const float upperRow = kListTop + listHeight + kGap;
+  const float lowerRow = upperRow + controls_.buttons(0).Height + kGap;
+  for (int i = 0; i <= kLastButton; ++i) {
+    controls_.buttons(i).Top = i >= kUpperButtons && i < kLowerButtons ? lowerRow : upperRow;
+  }
+}
+
+void Layout::PlaceTabStrip() {
+  const float left =
+      controls_.viewMacros.Checked ? static_cast<float>(desk_.settings.MacroFrameWidth.Get()) : 0;
+  desk_.tabs.Move(left, 0, controls_.form.ScaleWidth - left, controls_.form.ScaleHeight);
+}
+
+void Layout::PositionControls() {
+  PlaceTabStrip();
+  const TabStrip& strip = desk_.tabs;
+  for (Document* document : {&desk_.joystick, &desk_.macro}) {
+    document->text.Move(strip.Left + kPaneLeft, strip.Top + kPaneTop, strip.Width - kPaneLeft - kPaneRight,
+                        strip.Height - kPaneBottom);
+  }
+  ShowPanes();
+}
+
+void Layout::ShowBothFiles() {
+  PlaceTabStrip();
+  const TabStrip& strip = desk_.tabs;
+  const float half = strip.Width / 2;
+  const float top = strip.Top + kPaneTop;
+  const float height = strip.Height - kPaneBottom;
+  desk_.joystick.text.Move(strip.Left + kPaneLeft, top, half - 4, height);
+  desk_.macro.text.Move(strip.Left + half, top, half - 4, height);
+  ShowPanes();
+}
+
+void Layout::ShowPanes() {
+  const bool both = controls_.tile.Checked;
+  desk_.joystick.text.Visible = both || desk_.Active().IsJoystick();
+  desk_.macro.text.Visible = both || !desk_.Active().IsJoystick();
+}
+
+void Layout::ToggleMacroFrame() {
+  controls_.frame.Visible = !controls_.frame.Visible;
+  controls_.viewMacros.Checked = controls_.frame.Visible;
+  Place();
+}
+
+void Layout::ShowMacroFrame() {
+  if (!controls_.viewMacros.Checked) ToggleMacroFrame();
+}
+
+void Layout::ToggleTiled() {
+  controls_.tile.Checked = !controls_.tile.Checked;
+  Place();
+  desk_.Active().text.SetFocus();
+}
+
+void Layout::FrameMouseMove(const Mouse& mouse) {
+  const int x = static_cast<int>(mouse.x / kTwipsPerPixel);
+  Frame& frame = controls_.frame;
+  if (mouse.button != 1 || frame.MousePointer != pointer::kWestEast) {
+    const bool atEdge = x + kGrip >= static_cast<int>(frame.Width);
+    frame.MousePointer = atEdge ? pointer::kWestEast : pointer::kDefault;
+    return;
+  }
+  const int width = std::max(x + 1, kNarrowestFrame);
+  if (width == desk_.settings.MacroFrameWidth) return;
+  desk_.settings.MacroFrameWidth = width;
+  Place();
+  desk_.settings.Write("Miscellaneous", "MacroFrameWidth", TextOf(width));
+}
+
+}  // namespace tarvik

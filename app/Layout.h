@@ -1,0 +1,49 @@
+// Where the editor's controls stand: the macro frame with its draggable edge, the tab strip, and the panes in
+// the single or the tiled view. The frame and the strip are placed in pixels, what stands in the frame in
+// twips.
+#pragma once
+
+#include "app/Desk.h"
+
+namespace tarvik {
+
+inline constexpr float kTwipsPerPixel = 15;
+
+/// The controls that the layout places.
+struct LayoutControls {
+  Form& form;
+  Frame& frame;
+  ComboBox& categories;
+  ControlArray<ListBox>& lists;
+  ControlArray<CommandButton>& buttons;
+  MenuItem& viewMacros;
+  MenuItem& tile;
+};
+
+class Layout {
+ public:
+  Layout(Desk& desk, LayoutControls controls);
+
+  /// Places everything for the form's present size.
+  void Place();
+  void ToggleMacroFrame();
+  void ShowMacroFrame();
+  void ToggleTiled();
+  /// In the single view only the pane of the selected tab is on show.
+  void ShowPanes();
+
+  /// The pointer at the frame's edge, and the dragging of it.
+  void FrameMouseMove(const Mouse& mouse);
+  void ResetFramePointer() { controls_.frame.MousePointer = pointer::kDefault; }
+
+ private:
+  void PositionControls();
+  void ShowBothFiles();
+  void PlaceTabStrip();
+  void PlaceFrame();
+
+  Desk& desk_;
+  LayoutControls controls_;
+};
+
+}  // namespace tarvik

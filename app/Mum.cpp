@@ -1,0 +1,172 @@
+#include "app/Mum.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "app/ColourSelector.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* kMiscellaneous = "Miscellaneous";
+constexpr std::size_t kPositionBuffer = 100;
+
+constexpr MenuRow<Mum> kMenus[] = {
+    {0, "mnuMumFile", "&File"},
+    {1, "mnuMumFileExit", "E&xit", "", &Mum::mnuMumFileExit_Click},
+    {0, "mnuMumApps", "&Apps"},
+    {1, "mnuMumAppsEditor", "&Editor", "", &Mum::mnuMumAppsEditor_Click},
+};
+
+struct PanelRow {
+  const char* text;
+  const char* tip;
+};
+
+constexpr PanelRow kPanels[kStatusPanels] = {
+    {"Welcome!", ""},
+    {"", "Currently active file saved state"},
+    {"Line no:", "Current insertion point in the joystick file"},
+    {"CAPS", "State of the Caps Lock key"},
+    {"INS", "State of the Insert key"},
+    {"NUM", "State of the Num Lock key"},
+    {"", "The current time"},
+    {"No macrofile analysed", "The macros in the macros list are from this file"},
+};
+
+/// What stands on the disk of somebody with a controller's own software, and the settings that follow.
+struct Installation {
+  const char* folder;
+  const char* file;  ///< that must be there too, or null
+  const char* programFiles;
+  const char* loader;  ///< null: unchanged
+  const char* joystickExtension;
+  const char* macroExtension;
+  const char* controlCentre;
+  int joystick;
+  int throttle;  ///< -1: unchanged
+};
+
+constexpr Installation kInstallations[] = {
+    {"c:\\tm\\f22", nullptr, "c:\\tm\\f22\\f22progs", "c:\\tm\\f22\\f22load.exe", "f22", "m22",
+     "c:\\tm\\f22\\f22.bat", 0, -1},
+    {"c:\\tqs", nullptr, "c:\\tqs\\programs", "c:\\tqs\\b50load.exe", "b50", "m50", "c:\\tqs\\tm.bat", 1, 1},
+    {"c:\\tm", "c:\\tm\\b50load.exe", "c:\\tm\\b50progs", "c:\\tm\\b50load.exe", "b50", "m50",
+     "c:\\tm\\tm.bat", 1, 0},
+    {"c:\\tm", nullptr, "c:\\tm\\programs", nullptr, "adv", "mdf", "c:\\tm\\tm.bat", 2, 0},
+};
+
+float ToFloat(const std::string& text) {
+  float value = 0;
+  std::from_chars(text.data(), text.data() + text.size(), value);
+  return std::isfinite(value) ? value : 0;
+}
+
+}  // namespace
+
+Mum::Mum(Application& application) : Form("Mum"), menus(*this, kMenus), application_(application) {
+  Caption = "Tarvik";
+  for (int i = 1; i <= kStatusPanels; ++i) {
+    StatusBar.Panels(i).Text = kPanels[i - 1].text;
+    StatusBar.Panels(i).ToolTipText = kPanels[i - 1].tip;
+  }
+  ProgressBar1.Visible = false;
+  Toolbar1.Visible = false;
+  Picture1.ToolTipText = "Select text colour";
+  Picture1.Click = [this] { Picture1_Click(); };
+  Resize = [this] { MDIForm_Resize(); };
+}
+
+void Mum::MDIForm_Load() {
+  const Trap trap{application_.errors, "MUM MDIForm_Load"};
+  Values& values = application_.values;
+  Settings& settings = application_.settings;
+  Files& files = application_.platform.files;
+  SetPaths();
+  GetMumPosition();
+  if (!files.FolderExists(values.BackupDir.Get())) trap(files.MakeFolder(values.BackupDir.Get()));
+  if (!files.FolderExists(values.RtfDir.Get())) trap(files.MakeFolder(values.RtfDir.Get()));
+  settings.GetOptions();
+  const std::string& folder = application_.platform.folder;
+  if (settings.ImageFilePath.Get().empty()) settings.ImageFilePath = folder + "\\tarvik.jpg";
+  if (settings.TextFilePath.Get().empty()) settings.TextFilePath = folder + "\\readme.txt";
+  settings.SaveOptions();
+  if (settings.ProgramFilesPath.Get().empty()) AutoDetect();
+  values.CommandLine = application_.platform.commandLine;
+
+  application_.Loaded(*this);
+  Visible = true;
+  Toolbar1.Wrappable = settings.CanWrapToolbar != 0;
+  MDIForm_Resize();
+  if (settings.FlatToolbar == 1) MakeFlat();
+  application_.ShowEditor();
+}
+
+void Mum::SetPaths() {
+  const std::string& folder = application_.platform.folder;
+  application_.values.IniFile = folder + "\\Tarvik.ini";
+  application_.values.BackupDir = folder + "\\Backup\\";
+  application_.values.RtfDir = folder + "\\Rtf\\";
+}
+
+/// The swatch stands where its button is.
+void Mum::MDIForm_Resize() { Picture1.ToFront(); }
+
+void Mum::MakeFlat() { Toolbar1.Flat = !Toolbar1.Flat; }
+
+void Mum::MDIForm_Unload() { SaveMumPosition(); }
+
+void Mum::GetMumPosition() {
+  const Profile stored = application_.profile.Read();
+  const auto read = [&stored](const char* key, const char* fallback) {
+    return ToFloat(stored.GetString(kMiscellaneous, key, fallback, kPositionBuffer));
+  };
+  Top = read("MumTopAtStartup", "0");
+  Left = read("MumLeftAtStartup", "0");
+  Width = read("MumWidthAtStartup", "13320");
+  Height = read("MumHeightAtStartup", "8895");
+  MumWindowstate = To16Bits(stored.GetInt(kMiscellaneous, "MumWindowstate", 2));
+  if (MumWindowstate != 0) WindowState = 2;
+}
+
+void Mum::SaveMumPosition() {
+  // A frame that is maximised or minimised keeps the size that it would be restored to.
+  const ScreenSize& screen = application_.platform.screen;
+  if (WindowState != 1) {
+    Top = std::max(0.0F, Top.Get());
+    Left = std::max(0.0F, Left.Get());
+    Width = std::min(screen.width, Width.Get());
+    Height = std::min(screen.height, Height.Get());
+    MumWindowstate = WindowState;
+  }
+  Ignore(application_.profile.WriteAll(std::vector<ProfileEntry>{
+      {kMiscellaneous, "MumTopAtStartup", TextOf(Top.Get())},
+      {kMiscellaneous, "MumLeftAtStartup", TextOf(Left.Get())},
+      {kMiscellaneous, "MumWidthAtStartup", TextOf(Width.Get())},
+      {kMiscellaneous, "MumHeightAtStartup", TextOf(Height.Get())},
+      {kMiscellaneous, "MumWindowstate", TextOf(MumWindowstate.Get())},
+  }));
+}
+
+void Mum::AutoDetect() {
+  ColoursSortOut();
+  Files& files = application_.platform.files;
+  Settings& settings = application_.settings;
+  for (const Installation& row : kInstallations) {
+    if (!files.FolderExists(row.folder) || (row.file && !files.FileExists(row.file))) continue;
+    settings.ProgramFilesPath = row.programFiles;
+    if (row.loader) settings.B50LoadPath = row.loader;
+    settings.JoystickExtension = row.joystickExtension;
+    settings.MacroExtension = row.macroExtension;
+    settings.CandCCPath = row.controlCentre;
+    settings.JoyName = row.joystick;
+    if (row.throttle >= 0) settings.ThrottleName = row.throttle;
+    settings.SaveOptions();
+    return;
+  }
+}
+
+void Mum::Picture1_Click() { application_.colourSelector().Visible = true; }
+
+}  // namespace tarvik

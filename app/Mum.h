@@ -1,0 +1,47 @@
+// The frame window: toolbar, status bar, progress bar and colour swatch around the editor. It is the
+// program's first window and its last.
+#pragma once
+
+#include "app/Application.h"
+#include "controls/Menu.h"
+
+namespace tarvik {
+
+inline constexpr int kToolbarButtons = 42;
+inline constexpr int kStatusPanels = 8;
+/// The toolbar button that the colour swatch covers.
+inline constexpr int kSwatchButton = 29;
+
+class Mum : public Form {
+ public:
+  explicit Mum(Application& application);
+
+  Toolbar Toolbar1{*this, "Toolbar1", kToolbarButtons};
+  tarvik::StatusBar StatusBar{*this, "StatusBar", kStatusPanels};
+  ProgressBar ProgressBar1{*this, "ProgressBar1"};
+  PictureBox Picture1{*this, "Picture1"};
+  Menus menus;
+
+  /// 0 normal, other values maximised, as stored.
+  Property<int> MumWindowstate{*this, "MumWindowstate", 0};
+
+  void MDIForm_Load();
+  void MDIForm_Resize();
+  void MDIForm_Unload();
+  void GetMumPosition();
+  void SaveMumPosition();
+  void AutoDetect();
+  void ColoursSortOut() { application_.settings.ColoursSortOut(); }
+  void Picture1_Click();
+  /// Turns the toolbar's flat style over.
+  void MakeFlat();
+  void mnuMumAppsEditor_Click() { application_.ShowEditor(); }
+  void mnuMumFileExit_Click() { application_.CloseMum(); }
+
+ private:
+  void SetPaths();
+
+  Application& application_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,316 @@
+// tarvik_bench: the hot operations of the core beside their peers, at 30 KB, 1 MB and 10 MB.
+#include <QGuiApplication>
+#include <QRegularExpression>
+#include <QSyntaxHighlighter>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <cstring>
+#include <set>
+
+#include "Compare.h"
+#include "Samples.h"
+#include "app/UndoHistory.h"
+#include "language/MacroAnalysis.h"
+#include "language/Passes.h"
+#include "panes/Rtf.h"
+#include "platform/CodePage.h"
+#include "support/MemoryFiles.h"
+
+namespace {
+
+using namespace tarvik;
+using namespace tarvik::bench;
+
+struct Size {
+  const char* name;
+  std::size_t bytes;
+};
+constexpr Size kSizes[] = {{"30 KB", 30'000}, {"1 MB", 1'000'000}, {"10 MB", 10'000'000}};
+constexpr std::size_t kPeerLimit = 1'000'000;  // beyond it a slow peer is not waited for
+
+constexpr Colour kClassColours[kColourClasses] = {0, 16711680, 255, 32768, 12615680, 8421504};
+
+volatile std::size_t sink = 0;  // keeps results from being optimised away
+
+/// The growth of an operation from 1 MB to 10 MB, which is to stay in a straight line.
+class Growth {
+ public:
+  void Add(const Size& size, Seconds own) {
+    if (size.bytes == 1'000'000) atOne_ = own;
+    if (size.bytes == 10'000'000) atTen_ = own;
+  }
+  void Tell(const char* what) const {
+    Report(std::string(what) + ", 10 MB to 1 MB", {atTen_, atOne_}, Goal::AtMost, 13);
+  }
+
+ private:
+  Seconds atOne_ = 1;
+  Seconds atTen_ = 1;
+};
+
+// Find.
+
+void BenchFind() {
+  Growth growth;
+  for (const Size& size : kSizes) {
+    const std::string text = JoystickFile(size.bytes);
+    const std::string folded = LowerCase(text);
+    const SearchableText searchable{text, folded};
+    const std::string needle = "No_Such_Macro";
+    const auto own = [&] { sink = sink + FindText(searchable, needle, 0, text.size(), 0).value_or(0); };
+    const auto libc = [&] { sink = sink + (strcasestr(text.c_str(), needle.c_str()) != nullptr); };
+    const Medians beside = Measure(own, libc);
+    Report(std::string("find, no hit, beside strcasestr, ") + size.name, beside, Goal::AtLeast, 8);
+    growth.Add(size, beside.own);
+
+    if (size.bytes <= kPeerLimit) {
+      QTextDocument document;
+      document.setPlainText(QString::fromLatin1(text));
+      const auto qt = [&] { sink = sink + !document.find("No_Such_Macro").isNull(); };
+      Report(std::string("find, no hit, beside QTextDocument, ") + size.name, Measure(own, qt, 5),
+             Goal::AtLeast, 100);
+    }
+    const auto word = [&] {
+      sink = sink + FindText(searchable, needle, 0, text.size(), find::kWholeWord).value_or(0);
+    };
+    Report(std::string("find whole word, beside plain, ") + size.name, Measure(word, own), Goal::AtMost,
+           1.15);
+  }
+  growth.Tell("find");
+
+  const auto worst = [](std::size_t bytes) {
+    const std::string text(bytes, 'a');
+    const std::string needle = std::string(200, 'a') + "b";
+    return Measure(
+               [&] {
+                 sink = sink + FindText({text, text}, needle, 0, text.size(), 0).value_or(0);
+               },
+               [] {}, 5)
+        .own;
+  };
+  Report("find \"aaaa...b\", 10 MB to 1 MB", {worst(10'000'000), worst(1'000'000)}, Goal::AtMost, 13);
+}
+
+// Colouring.
+
+class PeerHighlighter : public QSyntaxHighlighter {
+ public:
+  explicit PeerHighlighter(QTextDocument* document) : QSyntaxHighlighter(document) {
+    for (const Pass& pass : JoystickPasses()) {
+      QString pattern = QRegularExpression::escape(
+          QString::fromLatin1(pass.text.data(), static_cast<int>(pass.text.size())));
+      if (pass.options & find::kWholeWord) pattern = "(?<!\\w)" + pattern + "(?!\\w)";
+      if (pass.kind == PassKind::WordAndOperand) pattern += ".[^ ]*";
+      if (pass.kind == PassKind::Comment) pattern += ".*";
+      if (pass.kind == PassKind::Bracket) pattern += "[^)]*\\)";
+      if (pass.kind == PassKind::Modifier) pattern = "(?<= )/[^ ]";
+      QTextCharFormat format;
+      format.setForeground(QColor::fromRgb(kClassColours[static_cast<std::size_t>(pass.colour)]));
+      const bool matchCase = (pass.options & find::kMatchCase) != 0;
+      rules_.push_back({QRegularExpression(pattern, matchCase ? QRegularExpression::NoPatternOption
+                                                              : QRegularExpression::CaseInsensitiveOption),
+                        format});
+    }
+  }
+
+ protected:
+  void highlightBlock(const QString& text) override {
+    for (const Rule& rule : rules_) {
+      for (auto hits = rule.expression.globalMatch(text); hits.hasNext();) {
+        const QRegularExpressionMatch hit = hits.next();
+        setFormat(static_cast<int>(hit.capturedStart()), static_cast<int>(hit.capturedLength()), rule.format);
+      }
+    }
+  }
+
+ private:
+  struct Rule {
+    QRegularExpression expression;
+    QTextCharFormat format;
+  };
+  std::vector<Rule> rules_;
+};
+
+void BenchColouring() {
+  Growth growth;
+  for (const Size& size : kSizes) {
+    const std::string text = JoystickFile(size.bytes);
+    const std::string folded = LowerCase(text);
+    const SearchableText searchable{text, folded};
+    const auto own = [&] {
+      Painting painting(searchable, JoystickPasses());
+      for (const Pass& pass : JoystickPasses()) painting.Run(pass);
+      sink = sink + painting.Colours(kClassColours).runs().size();
+    };
+    // The same number of searches, each over the whole text, with nothing done at a hit.
+    const auto passes = [&] {
+      for (const Pass& pass : JoystickPasses()) {
+        std::size_t from = 0;
+        while (const auto hit = FindText(searchable, pass.text, from, text.size(), pass.options)) {
+          sink = sink + *hit;
+          from = *hit + pass.text.size();
+        }
+      }
+    };
+    const Medians beside = Measure(own, passes);
+    Report(std::string("colouring, beside the searches of its passes, ") + size.name, beside, Goal::AtLeast,
+           2);
+    growth.Add(size, beside.own);
+    if (size.bytes > kPeerLimit) continue;
+    QTextDocument document;
+    document.setPlainText(QString::fromLatin1(text));
+    PeerHighlighter highlighter(&document);
+    Report(std::string("colouring, beside QSyntaxHighlighter, ") + size.name,
+           Measure(
+               own, [&] { highlighter.rehighlight(); }, 3),
+           Goal::AtLeast, 50);
+  }
+  growth.Tell("colouring");
+}
+
+// Macros.
+
+void BenchAnalysis() {
+  for (const auto& [macros, headings] : {std::pair{5'000, 500}, std::pair{50'000, 5'000}}) {
+    const std::string file = MacroFile(static_cast<std::size_t>(macros), static_cast<std::size_t>(headings));
+    const auto own = [&] {
+      auto records = ReadMacroRecords(file);
+      MacroAnalysis analysis = AnalyseMacros(records);
+      std::stable_sort(analysis.macros.begin(), analysis.macros.end(), SortsBefore);
+      for (MacroCategory& category : analysis.categories) {
+        std::stable_sort(category.macros.begin(), category.macros.end(), SortsBefore);
+      }
+      sink = sink + analysis.macros.size();
+    };
+    const auto peer = [&] {
+      std::vector<std::string> names;
+      for (std::size_t at = 0; at < file.size();) {
+        const std::size_t end = std::min(file.find("\r\n", at), file.size());
+        const std::string line = file.substr(at, end - at);
+        if (const std::size_t equals = line.find(" ="); equals != std::string::npos)
+          names.push_back(line.substr(0, equals));
+        at = end + 2;
+      }
+      std::stable_sort(names.begin(), names.end(), SortsBefore);
+      sink = sink + names.size();
+    };
+    Report("analysis of " + std::to_string(macros) + " macros, beside split and sort", Measure(own, peer, 5),
+           Goal::AtMost, 3);
+  }
+}
+
+void BenchTicking() {
+  const std::string text = JoystickFile(30'000);
+  const std::string folded = LowerCase(text);
+  const std::vector<std::string> names = Names(2'000);
+  const auto own = [&] { sink = sink + NamesUsed(text, names).size(); };
+  const auto peer = [&] {
+    for (const std::string& name : names) {
+      sink = sink + FindText({text, folded}, name, 0, text.size(), find::kWholeWord).has_value();
+    }
+  };
+  Report("ticking 2,000 names in 30 KB, beside one find a name", Measure(own, peer), Goal::AtLeast, 30);
+}
+
+// Undo.
+
+struct Bench final : Form {
+  Bench() : Form("Bench") {}
+  MemoryFiles files;
+  Pane pane{*this, "Pane", files};
+  UndoHistory history{*this, "Index", "Start", pane};
+};
+
+void BenchUndo() {
+  constexpr int kDepth = 30'000;
+  const std::string text = JoystickFile(1'000'000);
+  Bench bench;
+  bench.pane.SetContent(RichText(text));
+  bench.pane.Recolour(0, [&] {
+    const std::string folded = LowerCase(text);
+    Painting painting({text, folded}, JoystickPasses());
+    for (const Pass& pass : JoystickPasses()) painting.Run(pass);
+    return painting.Colours(kClassColours);
+  }());
+  bench.history.Clear();
+  bench.pane.SelStart = text.size() / 2;
+  // The edit itself, without a history and with one: what is left is the cost of recording.
+  Bench plain;
+  plain.pane.SetContent(bench.pane.Content());
+  plain.pane.SelStart = text.size() / 2;
+  const auto type = [](Pane& pane) { pane.UserReplaced({pane.Selection().start, 0}, "x"); };
+  const Medians copy = Measure([&] { sink = sink + RichText(bench.pane.Content()).size(); }, [] {});
+  const PaneEdit edit{text.size() / 2, {}, RichText("x")};
+  const Medians record = Measure(
+      [&] {
+        bench.pane.Edited(edit);
+        bench.history.Open(kDepth);
+        bench.history.GoToNewest();
+      },
+      [] {});
+  Report("one typed key recorded in 1 MB, beside a copy of the pane", {record.own, copy.own}, Goal::AtLeast,
+         1000);
+  (void)type;
+}
+
+// RTF.
+
+void BenchRtf() {
+  Growth writing;
+  Growth reading;
+  for (const Size& size : kSizes) {
+    const std::string text = JoystickFile(size.bytes);
+    const std::string folded = LowerCase(text);
+    Painting painting({text, folded}, JoystickPasses());
+    for (const Pass& pass : JoystickPasses()) painting.Run(pass);
+    const RichText content(text, painting.Colours(kClassColours));
+    const std::string rtf = WriteRtf(content);
+    const auto write = [&] { sink = sink + WriteRtf(content).size(); };
+    const auto read = [&] { sink = sink + ReadRtf(rtf).size(); };
+    if (size.bytes > kPeerLimit) {
+      writing.Add(size, Measure(
+                            write, [] {}, 3)
+                            .own);
+      reading.Add(size, Measure(
+                            read, [] {}, 3)
+                            .own);
+      continue;
+    }
+    QTextDocument document;
+    QTextCursor cursor(&document);
+    for (std::size_t i = 0; i < content.colours.runs().size(); ++i) {
+      const ColourRuns::Run& run = content.colours.runs()[i];
+      QTextCharFormat format;
+      format.setForeground(QColor::fromRgb(run.colour));
+      std::string part = text.substr(run.start, content.colours.EndOf(i) - run.start);
+      std::erase(part, '\r');
+      cursor.insertText(QString::fromLatin1(part), format);
+    }
+    const QString html = document.toHtml();
+    const Medians written = Measure(
+        write, [&] { sink = sink + static_cast<std::size_t>(document.toHtml().size()); }, 5);
+    Report(std::string("writing RTF, beside toHtml, ") + size.name, written, Goal::AtLeast, 40);
+    writing.Add(size, written.own);
+    QTextDocument target;
+    const Medians readings = Measure(
+        read, [&] { target.setHtml(html); }, 5);
+    Report(std::string("reading RTF, beside setHtml, ") + size.name, readings, Goal::AtLeast, 100);
+    reading.Add(size, readings.own);
+  }
+  writing.Tell("writing RTF");
+  reading.Tell("reading RTF");
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(count, arguments);
+  std::printf("%-58s %13s %15s   %9s\n", "", "own", "peer", "ratio");
+  BenchFind();
+  BenchColouring();
+  BenchAnalysis();
+  BenchTicking();
+  BenchUndo();
+  BenchRtf();
+}

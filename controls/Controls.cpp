@@ -1,0 +1,124 @@
+#include "controls/Controls.h"
+
+#include <algorithm>
+
+#include "platform/CodePage.h"
+
+namespace tarvik {
+namespace {
+
+template <class T>
+std::vector<std::unique_ptr<T>> MakeParts(Component& parent, std::string_view name, int count) {
+  std::vector<std::unique_ptr<T>> parts;
+  for (int i = 1; i <= count; ++i) parts.push_back(std::make_unique<T>(parent, name, i));
+  return parts;
+}
+
+std::vector<std::string> Sorted(std::vector<std::string> items) {
+  std::stable_sort(items.begin(), items.end(), SortsBefore);
+  return items;
+}
+
+void AddLine(std::string& lines, const std::string& line) {
+  if (!lines.empty()) lines += "\r\n";
+  lines += line;
+}
+
+}  // namespace
+
+void Form::Focus(Control& control) {
+  if (active_ == &control) {
+    ActiveControlChanged();
+    return;
+  }
+  Control* const old = active_;
+  active_ = &control;
+  if (old) old->LostFocus();
+  if (active_ != &control) return;
+  ActiveControlChanged();
+  control.GotFocus();
+}
+
+void Control::Move(float left, float top, float width, float height) {
+  Left = left;
+  Top = top;
+  Width = width;
+  Height = height;
+}
+
+void Control::SetFocus() { OwnForm().Focus(*this); }
+
+Form& Control::OwnForm() const {
+  Component* at = Parent();
+  while (at->Parent()) at = at->Parent();
+  return static_cast<Form&>(*at);
+}
+
+std::string ListBox::Current() const {
+  return ListIndex >= 0 && ListIndex < ListCount() ? List(ListIndex) : std::string();
+}
+
+void ListBox::Fill(std::vector<std::string> items) {
+  ListIndex = -1;
+  items_ = Sorted(std::move(items));
+  ticks_.assign(items_.size(), false);
+  ItemsChanged();
+}
+
+void ListBox::Tick(std::vector<bool> ticks) {
+  ticks.resize(items_.size());
+  if (ticks == ticks_) return;
+  ticks_ = std::move(ticks);
+  TicksChanged();
+}
+
+std::string ListBox::Lines(bool tickedOnly) const {
+  std::string lines;
+  for (std::size_t i = 0; i < items_.size(); ++i) {
+    if (!tickedOnly || ticks_[i]) AddLine(lines, items_[i]);
+  }
+  return lines;
+}
+
+std::string ComboBox::Text() const {
+  return ListIndex >= 0 && ListIndex < ListCount() ? items_[static_cast<std::size_t>(ListIndex.Get())]
+                                                   : std::string();
+}
+
+void ComboBox::Fill(std::vector<std::string> items) {
+  ListIndex = -1;
+  items_ = Sorted(std::move(items));
+  ItemsChanged();
+}
+
+void ComboBox::Select(int index) {
+  ListIndex = index;
+  Click();
+}
+
+std::string ComboBox::Lines() const {
+  std::string lines;
+  for (const std::string& item : items_) AddLine(lines, item);
+  return lines;
+}
+
+TabStrip::TabStrip(Component& parent, std::string_view name, int count)
+    : Control(parent, name), tabs_(MakeParts<Tab>(*this, "Tabs", count)) {
+  Tabs(1).Selected = true;
+}
+
+void TabStrip::Select(int index) {
+  if (index == SelectedItem) return;
+  Tabs(SelectedItem).Selected = false;
+  Tabs(index).Selected = true;
+  SelectedItem = index;
+  Click();
+}
+
+Toolbar::Toolbar(Component& parent, std::string_view name, int count)
+    : Control(parent, name), buttons_(MakeParts<ToolbarButton>(*this, "Buttons", count)) {}
+
+StatusBar::StatusBar(Component& parent, std::string_view name, int count)
+    : Control(parent, name), panels_(MakeParts<Panel>(*this, "Panels", count)) {}
+
+}  // namespace tarvik

@@ -1,0 +1,305 @@
+// The kinds of control that forms are made of. Each is a bundle of properties and events under the names that
+// the forms' code uses; positions and sizes are in the unit of the form.
+#pragma once
+
+#include <map>
+#include <memory>
+
+#include "controls/Component.h"
+#include "controls/Form.h"
+
+namespace tarvik {
+
+/// Shift states of keys and the mouse, added up.
+namespace shift {
+inline constexpr int kShift = 1;
+inline constexpr int kCtrl = 2;
+inline constexpr int kAlt = 4;
+}  // namespace shift
+
+struct Mouse {
+  int button = 0;  ///< 1 left, 2 right, 4 middle; while moving, the buttons that are down
+  int shift = 0;
+  float x = 0;  ///< in twips from the control's left edge
+  float y = 0;
+};
+
+/// A key by its Windows virtual-key code. A handler that sets `code` to 0 swallows the key.
+struct Key {
+  int code = 0;
+  int shift = 0;
+};
+
+/// The mouse pointers that forms and controls ask for.
+namespace pointer {
+inline constexpr int kDefault = 0;
+inline constexpr int kWestEast = 9;
+inline constexpr int kHourglass = 11;
+inline constexpr int kWhatsThis = 14;
+}  // namespace pointer
+
+class Control : public Component {
+ public:
+  Control(Component& parent, std::string_view name, std::optional<int> index = {})
+      : Component(parent, name, index) {}
+
+  Property<bool> Visible{*this, "Visible", true};
+  Property<bool> Enabled{*this, "Enabled", true};
+  Property<std::string> ToolTipText{*this, "ToolTipText"};
+  Property<float> Left{*this, "Left"};
+  Property<float> Top{*this, "Top"};
+  Property<float> Width{*this, "Width"};
+  Property<float> Height{*this, "Height"};
+  Property<int> MousePointer{*this, "MousePointer", pointer::kDefault};
+
+  Event<> GotFocus{*this, "GotFocus"};
+  Event<> LostFocus{*this, "LostFocus"};
+  Event<const Mouse&> MouseDown{*this, "MouseDown"};
+  Event<const Mouse&> MouseMove{*this, "MouseMove"};
+  Event<const Mouse&> MouseUp{*this, "MouseUp"};
+
+  void Move(float left, float top, float width, float height);
+  void SetFocus();
+  /// Brings the control in front of its siblings.
+  void ToFront() { Raised(); }
+  Signal<> Raised;
+
+  [[nodiscard]] Form& OwnForm() const;
+};
+
+class MenuItem : public Component {
+ public:
+  using Component::Component;
+  MenuItem(Component& parent, std::string_view name, std::string caption, std::string shortcut = {})
+      : Component(parent, name) {
+    Caption = std::move(caption);
+    Shortcut = std::move(shortcut);
+  }
+
+  Property<std::string> Caption{*this, "Caption"};
+  Property<std::string> Shortcut{*this, "Shortcut"};  ///< "Ctrl+S", "F8"
+  Property<bool> Checked{*this, "Checked", false};
+  Property<bool> Enabled{*this, "Enabled", true};
+  Property<bool> Visible{*this, "Visible", true};
+  Event<> Click{*this, "Click"};
+
+  static constexpr std::string_view kDivider = "-";
+};
+
+class CommandButton : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> Caption{*this, "Caption"};
+  Event<> Click{*this, "Click"};
+};
+
+class Label : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> Caption{*this, "Caption"};
+  Property<unsigned> BackColor{*this, "BackColor", 0xFFFFFFU};
+};
+
+class Frame : public Control {
+ public:
+  using Control::Control;
+  Property<std::string> Caption{*this, "Caption"};
+  Event<> DblClick{*this, "DblClick"};
+};
+
+class PictureBox : public Control {
+ public:
+  using Control::Control;
+  Property<unsigned> BackColor{*this, "BackColor"};
+  Event<> Click{*this, "Click"};
+};
+
+class ProgressBar : public Control {
+ public:
+  using Control::Control;
+  Property<int> Min{*this, "Min", 0};
+  Property<int> Max{*this, "Max", 100};
+  Property<int> Value{*this, "Value", 0};
+};
+
+/// A sorted list of texts, each of which can bear a tick.
+class ListBox : public Control {
+ public:
+  using Control::Control;
+
+  [[nodiscard]] int ListCount() const { return static_cast<int>(items_.size()); }
+  [[nodiscard]] const std::string& List(int index) const { return items_[static_cast<std::size_t>(index)]; }
+  [[nodiscard]] const std::vector<std::string>& List() const { return items_; }
+  [[nodiscard]] bool Selected(int index) const { return ticks_[static_cast<std::size_t>(index)]; }
+  /// The item at ListIndex, empty when there is none.
+  [[nodiscard]] std::string Current() const;
+
+  /// Takes the items and sorts them, with nothing selected and nothing ticked.
+  void Fill(std::vector<std::string> items);
+  void Clear() { Fill({}); }
+  /// One tick for each item, in the order of the list.
+  void Tick(std::vector<bool> ticks);
+
+  Property<int> ListIndex{*this, "ListIndex", -1};
+  Attribute<std::string> Items{*this, "Items", [this] { return Lines(false); }};
+  Attribute<std::string> Ticked{*this, "Ticked", [this] { return Lines(true); }};
+  Attribute<int> Count{*this, "ListCount", [this] { return ListCount(); }};
+  Event<> DblClick{*this, "DblClick"};
+  Event<> OLEStartDrag{*this, "OLEStartDrag"};
+  /// What a drag carries, as plain text; the drag's handler fills it.
+  Property<std::string> DragText{*this, "DragText"};
+
+  Signal<> ItemsChanged;
+  Signal<> TicksChanged;
+
+ private:
+  [[nodiscard]] std::string Lines(bool tickedOnly) const;
+
+  std::vector<std::string> items_;
+  std::vector<bool> ticks_;
+};
+
+/// A drop-down list of sorted texts, with no free typing.
+class ComboBox : public Control {
+ public:
+  using Control::Control;
+
+  [[nodiscard]] int ListCount() const { return static_cast<int>(items_.size()); }
+  [[nodiscard]] const std::vector<std::string>& List() const { return items_; }
+  [[nodiscard]] std::string Text() const;
+
+  void Fill(std::vector<std::string> items);
+  void Clear() { Fill({}); }
+  /// Selects the item and fires Click, also when it is selected already.
+  void Select(int index);
+
+  Property<int> ListIndex{*this, "ListIndex", -1};
+  Attribute<std::string> TextProperty{*this, "Text", [this] { return Text(); }};
+  Attribute<std::string> Items{*this, "Items", [this] { return Lines(); }};
+  Event<> Click{*this, "Click"};
+  Signal<> ItemsChanged;
+
+ private:
+  [[nodiscard]] std::string Lines() const;
+
+  std::vector<std::string> items_;
+};
+
+class Tab : public Component {
+ public:
+  using Component::Component;
+  Property<std::string> Caption{*this, "Caption"};
+  Property<std::string> ToolTipText{*this, "ToolTipText"};
+  Property<int> Image{*this, "Image", 0};
+  Property<bool> Selected{*this, "Selected", false};
+};
+
+class TabStrip : public Control {
+ public:
+  TabStrip(Component& parent, std::string_view name, int count);
+
+  /// 1-based.
+  [[nodiscard]] Tab& Tabs(int index) const { return *tabs_[static_cast<std::size_t>(index - 1)]; }
+  [[nodiscard]] int Count() const { return static_cast<int>(tabs_.size()); }
+  [[nodiscard]] int SelectedIndex() const { return SelectedItem; }
+  /// Selects a tab; fires Click when it was not the selected one.
+  void Select(int index);
+
+  Property<int> SelectedItem{*this, "SelectedItem", 1};
+  Event<> Click{*this, "Click"};
+
+ private:
+  std::vector<std::unique_ptr<Tab>> tabs_;
+};
+
+class ToolbarButton : public Component {
+ public:
+  using Component::Component;
+  Property<std::string> ToolTipText{*this, "ToolTipText"};
+  Property<std::string> Image{*this, "Image"};  ///< an icon's name; empty for a separator
+  Property<bool> Enabled{*this, "Enabled", true};
+  Property<bool> Visible{*this, "Visible", true};
+  Event<> Click{*this, "Click"};
+};
+
+class Toolbar : public Control {
+ public:
+  Toolbar(Component& parent, std::string_view name, int count);
+
+  /// 1-based.
+  [[nodiscard]] ToolbarButton& Buttons(int index) const {
+    return *buttons_[static_cast<std::size_t>(index - 1)];
+  }
+  [[nodiscard]] int Count() const { return static_cast<int>(buttons_.size()); }
+
+  Property<bool> Wrappable{*this, "Wrappable", false};
+  Property<bool> Flat{*this, "Flat", false};
+
+ private:
+  std::vector<std::unique_ptr<ToolbarButton>> buttons_;
+};
+
+class Panel : public Component {
+ public:
+  using Component::Component;
+  Property<std::string> Text{*this, "Text"};
+  Property<std::string> ToolTipText{*this, "ToolTipText"};
+  Property<int> Picture{*this, "Picture", 0};
+  Property<bool> Enabled{*this, "Enabled", true};
+};
+
+class StatusBar : public Control {
+ public:
+  StatusBar(Component& parent, std::string_view name, int count);
+
+  /// 1-based.
+  [[nodiscard]] Panel& Panels(int index) const { return *panels_[static_cast<std::size_t>(index - 1)]; }
+  [[nodiscard]] int Count() const { return static_cast<int>(panels_.size()); }
+
+ private:
+  std::vector<std::unique_ptr<Panel>> panels_;
+};
+
+/// Fires between other events, also while a message box is open. Whoever runs the program keeps its time.
+class Timer : public Component {
+ public:
+  using Component::Component;
+  Property<int> Interval{*this, "Interval", 0};  ///< milliseconds
+  Property<bool> Enabled{*this, "Enabled", false};
+  Event<> Elapsed{*this, "Timer"};
+};
+
+/// Controls of one name, told apart by their index; members may come and go while the program runs.
+template <class T>
+class ControlArray {
+ public:
+  ControlArray(Form& form, std::string_view name, int count) : form_(form), name_(name) {
+    for (int i = 0; i < count; ++i) Load(i);
+  }
+
+  T& operator()(int index) const { return *members_.at(index); }
+  [[nodiscard]] int Count() const { return static_cast<int>(members_.size()); }
+  T& Load(int index) {
+    auto& member = members_[index];
+    member = std::make_unique<T>(form_, name_, index);
+    if (Prepare) Prepare(*member);
+    Loaded(*member);
+    return *member;
+  }
+  void Unload(int index) {
+    Unloading(*members_.at(index));
+    members_.erase(index);
+  }
+
+  /// The form's own set-up of a member loaded while the program runs.
+  std::function<void(T&)> Prepare;
+  Signal<T&> Loaded;
+  Signal<T&> Unloading;
+
+ private:
+  Form& form_;
+  std::string name_;
+  std::map<int, std::unique_ptr<T>> members_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,45 @@
+// A window of the program, as the logic knows it: controls by name, one of which has the focus. It does not
+// know what shows it.
+#pragma once
+
+#include "controls/Component.h"
+
+namespace tarvik {
+
+class Control;
+
+class Form : public Component {
+ public:
+  using Component::Component;
+
+  Property<std::string> Caption{*this, "Caption"};
+  Property<bool> Visible{*this, "Visible", false};
+  /// On the screen, in twips.
+  Property<float> Left{*this, "Left"};
+  Property<float> Top{*this, "Top"};
+  Property<float> Width{*this, "Width"};
+  Property<float> Height{*this, "Height"};
+  /// The inside, in the unit the form lays its controls out in.
+  Property<float> ScaleWidth{*this, "ScaleWidth"};
+  Property<float> ScaleHeight{*this, "ScaleHeight"};
+  /// 0 normal, 1 minimised, 2 maximised.
+  Property<int> WindowState{*this, "WindowState", 0};
+  /// 0 the ordinary pointer, 9 west-east, 11 hourglass, 14 what's-this.
+  Property<int> MousePointer{*this, "MousePointer", 0};
+
+  Event<> Resize{*this, "Resize"};
+  Event<> Activate{*this, "Activate"};
+  Event<> Deactivate{*this, "Deactivate"};
+
+  /// The control with the focus, or null.
+  [[nodiscard]] Control* ActiveControl() const { return active_; }
+  /// Moves the focus: the old control hears of the loss before the new one of the gain.
+  void Focus(Control& control);
+  /// Also when a control is to get the focus that it has: on screen it may be elsewhere.
+  Signal<> ActiveControlChanged;
+
+ private:
+  Control* active_ = nullptr;
+};
+
+}  // namespace tarvik

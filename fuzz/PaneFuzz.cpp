@@ -1,0 +1,119 @@
+// A stream of pane operations against a model made of a string and one colour a character, and of undo
+// against a list of whole copies.
+#include <algorithm>
+#include <cstdlib>
+
+#include "app/UndoHistory.h"
+#include "platform/CodePage.h"
+#include "support/MemoryFiles.h"
+
+namespace {
+
+using namespace tarvik;
+
+struct Model {
+  std::string text;
+  std::vector<Colour> colours;
+
+  void Replace(std::size_t start, std::size_t length, const std::string& with, Colour colour) {
+    text.replace(start, length, with);
+    const auto at = colours.begin() + static_cast<std::ptrdiff_t>(start);
+    colours.insert(colours.erase(at, at + static_cast<std::ptrdiff_t>(length)), with.size(), colour);
+  }
+};
+
+/// Hands out the fuzzer's bytes as numbers.
+class Bytes {
+ public:
+  Bytes(const unsigned char* data, std::size_t size) : data_(data), size_(size) {}
+  [[nodiscard]] bool Empty() const { return at_ >= size_; }
+  std::size_t Below(std::size_t limit) { return Empty() || limit == 0 ? 0 : data_[at_++] % limit; }
+
+ private:
+  const unsigned char* data_;
+  std::size_t size_;
+  std::size_t at_ = 0;
+};
+
+struct Fixture final : Form {
+  Fixture() : Form("Fixture") {}
+  MemoryFiles files;
+  Pane pane{*this, "Pane", files};
+  UndoHistory history{*this, "Index", "Start", pane};
+};
+
+void Check(const Pane& pane, const Model& model) {
+  if (pane.Characters() != model.text) std::abort();
+  for (std::size_t i = 0; i < model.text.size(); ++i) {
+    if (pane.Content().colours.At(i) != model.colours[i]) std::abort();
+  }
+  const auto runs = pane.Content().colours.runs();
+  for (std::size_t i = 0; i + 1 < runs.size(); ++i) {
+    if (runs[i].colour == runs[i + 1].colour || runs[i].start >= runs[i + 1].start) std::abort();
+  }
+  const Range selection = pane.Selection();
+  if (selection.End() > model.text.size()) std::abort();
+  const SearchableText searchable = pane.Searchable();
+  if (searchable.folded != LowerCase(model.text)) std::abort();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+  constexpr const char* kTexts[] = {"", "a", "BTN ", "\r\n", "Rem x\r\n", "\xC9\xCD"};
+  constexpr Colour kColours[] = {0, 255, 16711680, 8421504};
+  Bytes bytes(data, size);
+  Fixture fixture;
+  Pane& pane = fixture.pane;
+  UndoHistory& history = fixture.history;
+  history.Clear();
+  (void)pane.Searchable();
+  Model model;
+  std::vector<Model> slots = {model};  // the newest first
+  std::size_t index = 0;
+
+  while (!bytes.Empty()) {
+    const std::size_t start = bytes.Below(model.text.size() + 1);
+    const std::size_t length = bytes.Below(model.text.size() - start + 1);
+    switch (bytes.Below(6)) {
+      case 0: {
+        pane.Select({start, length});
+        const Colour colour = kColours[bytes.Below(4)];
+        if (length == 0) break;
+        pane.SelColor = colour;
+        std::fill_n(model.colours.begin() + static_cast<std::ptrdiff_t>(start), length, colour);
+        break;
+      }
+      case 1: {
+        const std::string text = kTexts[bytes.Below(6)];
+        const Colour colour = kColours[bytes.Below(4)];
+        pane.Select({start, length});
+        pane.ReplaceSelection(RichText(text, colour));
+        model.Replace(start, length, text, colour);
+        break;
+      }
+      case 2:
+        history.Open(4);
+        history.GoToNewest();
+        slots.insert(slots.begin(), model);
+        if (slots.size() > 5) slots.pop_back();
+        index = 0;
+        break;
+      case 3:
+        history.StoreShown();
+        slots[index] = model;
+        break;
+      case 4:
+        if (index + 1 == slots.size()) break;
+        history.Undo();
+        model = slots[++index];
+        break;
+      default:
+        if (index == 0) break;
+        history.Redo();
+        model = slots[--index];
+    }
+    Check(pane, model);
+  }
+  return 0;
+}

@@ -1,0 +1,88 @@
+#include "language/Highlighter.h"
+
+#include <array>
+#include <limits>
+
+namespace tarvik {
+namespace {
+
+constexpr int kCommandGroup = 15;  // the progress bar's length during the passes over commands
+
+std::array<Colour, kColourClasses> ColoursOf(const Settings& settings) {
+  return {kBlack,
+          settings.BTNColour,
+          settings.SlashColour,
+          settings.RAWColour,
+          settings.MiscellaneousColour,
+          settings.RemStatements};
+}
+
+int Clamped(std::size_t position) {
+  return static_cast<int>(std::min<std::size_t>(position, std::numeric_limits<int>::max()));
+}
+
+}  // namespace
+
+void Highlighter::Apply(Document& document) {
+  const std::string caption = desk_.TabOf(document).Caption;
+  if (document.text.Characters().empty()) {
+    desk_.Say(caption + " has no text to highlight.");
+    return;
+  }
+  const Loading loading(desk_.values);
+  Remove(document);
+  desk_.Select(document);
+  desk_.Say("Applying colour highlighting to " + caption + ". Please wait ...");
+  desk_.ApplyLook(desk_.macro);
+  desk_.ApplyLook(desk_.joystick);
+
+  desk_.progress.Visible = true;
+  MakePasses(document);
+  desk_.progress.Visible = false;
+
+  desk_.macro.text.SelStart = desk_.macro.Caret;
+  desk_.joystick.text.SelStart = desk_.joystick.Caret;
+  document.Undo.StoreLook();
+  if (document.Dirty == saved::kSaved || copies_.Exists(document)) copies_.Save(document);
+  desk_.Say("Done");
+}
+
+void Highlighter::ShowBefore(const Pass& pass, int textLength) {
+  if (pass.status) desk_.Say(pass.status);
+  desk_.progress.Min = 0;
+  desk_.progress.Max = pass.progress || !pass.status ? kCommandGroup : textLength;
+}
+
+void Highlighter::MakePasses(Document& document) {
+  Painting painting(document.text.Searchable());
+  const int textLength = Clamped(document.text.Characters().size());
+  ProgressBar& bar = desk_.progress;
+  for (const Pass& pass : document.IsJoystick() ? JoystickPasses() : MacroPasses()) {
+    ShowBefore(pass, textLength);
+    if (pass.progress) {
+      painting.Run(pass);
+      bar.Value = pass.progress;
+    } else if (pass.status) {
+      painting.Run(pass, [&bar](std::size_t hit) { bar.Value = Clamped(hit + 1); });
+      bar.Value = 0;
+    } else {
+      painting.Run(pass);
+    }
+  }
+  document.text.Recolour(0, painting.Colours(ColoursOf(desk_.settings)));
+}
+
+void Highlighter::Remove(Document& document) {
+  const Loading loading(desk_.values);
+  desk_.Say("Removing colour highlighting from " + desk_.TabOf(document).Caption.Get() + ". Please wait ...");
+  document.text.Recolour(0, ColourRuns(document.text.Characters().size(), kBlack));
+  document.text.SelStart = document.Caret;
+  desk_.Say("Done");
+}
+
+void Highlighter::ColourSelection(Colour colour) {
+  const Loading loading(desk_.values);
+  desk_.Active().text.SelColor = colour;
+}
+
+}  // namespace tarvik

@@ -1,0 +1,29 @@
+// Colours a whole document by statement type, and takes its colours away again.
+#pragma once
+
+#include "language/ColouredCopies.h"
+#include "language/Passes.h"
+
+namespace tarvik {
+
+class Highlighter {
+ public:
+  Highlighter(Desk& desk, ColouredCopies& copies) : desk_(desk), copies_(copies) {}
+
+  /// Removes all colour and makes all passes of the document's language, with their progress on show. Never
+  /// marks a document as changed and is no undo step: it changes how the snapshot on show looks.
+  void Apply(Document& document);
+  /// Blackens the whole document.
+  void Remove(Document& document);
+  /// Blackens the selection, or gives it another colour, in the document of the selected tab.
+  void ColourSelection(Colour colour);
+
+ private:
+  void MakePasses(Document& document);
+  void ShowBefore(const Pass& pass, int textLength);
+
+  Desk& desk_;
+  ColouredCopies& copies_;
+};
+
+}  // namespace tarvik

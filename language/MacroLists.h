@@ -1,0 +1,53 @@
+// The macro frame's lists: filled from the macro file, ticked by use in the joystick file, and the ways from
+// a macro in a list to its keys, its definition and its use.
+#pragma once
+
+#include "app/Desk.h"
+#include "language/MacroAnalysis.h"
+
+namespace tarvik {
+
+class MacroLists {
+ public:
+  MacroLists(Desk& desk, ComboBox& categories, ControlArray<ListBox>& lists)
+      : desk_(desk), categories_(categories), lists_(lists) {}
+
+  /// Member of the "List1" array on which the pop-up menu was opened.
+  int PopupListIndex = 0;
+
+  // Analysis, in the order of its calls.
+  void ClearAllForNewMacroFile();
+  /// Reads the macro file from disk. A missing file leaves the records of the one before.
+  void GetEachLineFromMacroFile();
+  void ExtractMacrosAndTitles();
+
+  /// Shows the definition of SelectedMacro in status panel 1, and selects it in the macro file when that is
+  /// on show.
+  void ShowMacroKeys();
+  /// Brings the list of the selected category to the front and takes its first macro.
+  void ShowCategory();
+  /// Takes SelectedMacro from a list.
+  void TakeFrom(int list) { desk_.values.SelectedMacro = lists_(list).Current(); }
+
+  void IdentifyMacrosUsed();
+  void ClearMacroTicks();
+  /// Selects the first use of SelectedMacro in the joystick file.
+  void FindMacroInJF();
+  /// Selects the definition of a button in the joystick file, up to the next statement that begins another
+  /// one.
+  void ExtractButtonDefinition(const std::string& name);
+  /// Inserts the current macro of a list at the joystick file's remembered caret.
+  void Insert(int list);
+
+ private:
+  void Fill(MacroAnalysis analysis);
+  void ShowAll();
+
+  Desk& desk_;
+  ComboBox& categories_;
+  ControlArray<ListBox>& lists_;
+  std::vector<std::string> records_;   // the macro file's, in order
+  std::vector<std::string> headings_;  // "All", then those of the file; each has the list of its index
+};
+
+}  // namespace tarvik

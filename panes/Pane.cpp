@@ -1,0 +1,171 @@
+#include "panes/Pane.h"
+
+#include <algorithm>
+
+#include "panes/Rtf.h"
+#include "platform/CodePage.h"
+
+namespace tarvik {
+
+void Apply(const PaneEdit& edit, RichText& content) {
+  if (!edit.OnlyColours()) content.text.replace(edit.position, edit.removed.text.size(), edit.inserted.text);
+  content.colours.Replace({edit.position, edit.removed.colours.size()}, edit.inserted.colours);
+}
+
+Pane::Pane(Form& form, std::string_view name, Files& files)
+    : Control(form, name),
+      TextRTF(
+          *this, "TextRTF",
+          [this] {
+            return WriteRtf(content_, {{SelFontName.Get(), SelFontSize, SelBold}, SelIndent});
+          },
+          [this](const std::string& rtf) { SetContent(ReadRtf(rtf)); }),
+      SelText(
+          *this, "SelText", [this] { return content_.text.substr(selection_.start, selection_.length); },
+          [this](const std::string& text) {
+            ReplaceSelection(RichText(WithPaneLineBreaks(text), InsertionColour()));
+          }),
+      SelRTF(
+          *this, "SelRTF",
+          [this] {
+            const RichText selected(content_.text.substr(selection_.start, selection_.length),
+                                    content_.colours.Slice(selection_));
+            return WriteRtf(selected, {{SelFontName.Get(), SelFontSize, SelBold}, SelIndent});
+          },
+          [this](const std::string& rtf) { ReplaceSelection(ReadRtf(rtf)); }),
+      SelColor(
+          *this, "SelColor",
+          [this] { return selection_.length ? content_.colours.At(selection_.start) : InsertionColour(); },
+          [this](Colour colour) {
+            if (selection_.length == 0) {
+              nextColour_ = colour;
+            } else {
+              Recolour(selection_.start, ColourRuns(selection_.length, colour));
+            }
+          }),
+      files_(files) {}
+
+SearchableText Pane::Searchable() const {
+  if (!isFolded_) {
+    folded_ = LowerCase(content_.text);
+    isFolded_ = true;
+  }
+  return {content_.text, folded_};
+}
+
+Range Pane::Clipped(Range range) const {
+  const std::size_t start = std::min(range.start, content_.size());
+  return {start, std::min(range.length, content_.size() - start)};
+}
+
+void Pane::SetContent(RichText content) {
+  nextColour_.reset();
+  PaneEdit edit{0, std::move(content_), std::move(content)};
+  content_ = edit.inserted;
+  isFolded_ = false;
+  selection_ = {0, 0};
+  Edited(edit);
+  SelectionChanged();
+  Change();
+  SelChange();
+}
+
+void Pane::Recolour(std::size_t start, const ColourRuns& colours) {
+  const Range range = Clipped({start, colours.size()});
+  if (range.length == 0) return;
+  PaneEdit edit{range.start, {{}, content_.colours.Slice(range)}, {{}, colours.Slice({0, range.length})}};
+  if (edit.removed == edit.inserted) return;
+  content_.colours.Replace(range, edit.inserted.colours);
+  Edited(edit);
+}
+
+void Pane::ApplyEdit(const PaneEdit& edit) {
+  if (edit.OnlyColours()) {
+    Recolour(edit.position, edit.inserted.colours);
+  } else {
+    Replace({edit.position, edit.removed.size()}, edit.inserted);
+    Change();
+  }
+  Select({0, 0});
+}
+
+void Pane::Replace(Range range, const RichText& content) {
+  PaneEdit edit{
+      range.start, {content_.text.substr(range.start, range.length), content_.colours.Slice(range)}, content};
+  content_.text.replace(range.start, range.length, content.text);
+  content_.colours.Replace(range, content.colours);
+  if (isFolded_) folded_.replace(range.start, range.length, LowerCase(content.text));
+  nextColour_.reset();
+  selection_ = {range.start + content.size(), 0};
+  Edited(edit);
+}
+
+Outcome<> Pane::LoadFile(std::string_view path) {
+  auto bytes = files_.Read(path);
+  if (!bytes) return bytes.failure();
+  SetContent(LooksLikeRtf(*bytes) ? ReadRtf(*bytes) : RichText(WithPaneLineBreaks(*bytes)));
+  return Done{};
+}
+
+Outcome<> Pane::SaveFile(std::string_view path, FileFormat format) const {
+  return files_.Write(path, format == FileFormat::Text ? content_.text : TextRTF.Get());
+}
+
+void Pane::Select(Range range) { MoveSelection(Clipped(range)); }
+
+void Pane::MoveSelection(Range range) {
+  if (range == selection_) return;
+  selection_ = range;
+  nextColour_.reset();
+  SelectionChanged();
+  SelChange();
+}
+
+void Pane::ReplaceSelection(const RichText& content) {
+  Replace(selection_, content);
+  SelectionChanged();
+  Change();
+  SelChange();
+}
+
+void Pane::UserReplaced(Range range, std::string_view text) {
+  const Range clipped = Clipped(range);
+  const bool whereCaretWas =
+      clipped.length == 0 && clipped.start == selection_.start && selection_.length == 0;
+  if (!whereCaretWas) {
+    nextColour_.reset();
+    selection_ = clipped;
+  }
+  const std::optional<Colour> asked = nextColour_;
+  Replace(clipped, RichText(WithPaneLineBreaks(text), InsertionColour()));
+  if (asked) nextColour_ = asked;
+  Change();
+  SelChange();
+}
+
+Colour Pane::InsertionColour() const {
+  if (selection_.length) return content_.colours.At(selection_.start);
+  if (nextColour_) return *nextColour_;
+  const std::size_t at = selection_.start;
+  const bool lineStart = at == 0 || content_.text[at - 1] == '\n';
+  return content_.colours.At(lineStart ? at : at - 1);
+}
+
+std::optional<std::size_t> Pane::Find(std::string_view text, std::size_t start, std::size_t end,
+                                      int options) {
+  const auto hit = FindText(Searchable(), text, start, end, options);
+  if (hit && !(options & find::kKeepSelection)) Select({*hit, text.size()});
+  return hit;
+}
+
+void Pane::Span(std::string_view set) {
+  const std::size_t stop = std::min(content_.text.find_first_of(set, selection_.start), content_.size());
+  Select({selection_.start, stop - selection_.start});
+}
+
+std::size_t Pane::GetLineFromChar(std::size_t position) const {
+  const auto end = content_.text.begin() + static_cast<std::ptrdiff_t>(std::min(position, content_.size()));
+  return static_cast<std::size_t>(std::count(content_.text.begin(), end, '\n'));
+}
+
+}  // namespace tarvik

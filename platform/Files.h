@@ -1,0 +1,35 @@
+// The disk as the program sees it: paths with drive letters and backslashes, as in c:\tm\f22\file.f22, in the
+// Windows-1252 code page. Names are looked up without regard to case.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/Outcome.h"
+
+namespace tarvik {
+
+class Files {
+ public:
+  virtual ~Files() = default;
+
+  /// True for an existing file that is not a folder. A name that cannot be one (with quotation marks,
+  /// wildcards, empty) is simply a file that does not exist.
+  [[nodiscard]] virtual bool FileExists(std::string_view path) const = 0;
+  [[nodiscard]] virtual bool FolderExists(std::string_view path) const = 0;
+
+  /// The whole content, byte for byte.
+  [[nodiscard]] virtual Outcome<std::string> Read(std::string_view path) const = 0;
+
+  /// Replaces or creates the file in one step: afterwards the disk holds the whole old content or the whole
+  /// new one. A file that may not be written, a folder of that name and a missing folder are failures.
+  virtual Outcome<> Write(std::string_view path, std::string_view content) = 0;
+
+  /// Creates one folder; its parent must exist.
+  virtual Outcome<> MakeFolder(std::string_view path) = 0;
+
+  /// Makes the drive of `path` the current one. Fails for a drive that is not there.
+  virtual Outcome<> ChangeDrive(std::string_view path) = 0;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,224 @@
+#include "platform/HostFiles.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <optional>
+#include <system_error>
+#include <utility>
+
+namespace tarvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr mode_t kPermissions = 07777;
+constexpr mode_t kAnyMayWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr mode_t kReadWriteAll = 0666;
+constexpr mode_t kOwnerOnly = 0600;
+constexpr mode_t kFolder = 0777;
+
+Failure SystemFailure(int code, int numberWhenMissing = error::kPathNotFound) {
+  const bool full = code == ENOSPC || code == EDQUOT || code == EFBIG;
+  const bool missing = code == ENOENT || code == ENOTDIR;
+  const int number = full ? error::kDiskFull : missing ? numberWhenMissing : error::kPathAccess;
+  return {number, std::generic_category().message(code), code};
+}
+
+class Descriptor {
+ public:
+  Descriptor() = default;
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() { Close(); }
+
+  /// `errno` tells why it is not open afterwards.
+  void Open(const fs::path& path, int flags, mode_t mode = 0) {
+    number_ = open(path.c_str(), flags | O_CLOEXEC, mode);
+  }
+  /// False where the system tells only now that what was written is lost.
+  bool Close() { return number_ < 0 || close(std::exchange(number_, -1)) == 0; }
+
+  [[nodiscard]] bool IsOpen() const { return number_ >= 0; }
+  [[nodiscard]] int number() const { return number_; }
+
+ private:
+  int number_ = -1;
+};
+
+std::optional<struct stat> StatusOf(const fs::path& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
+}
+
+bool MayWrite(const fs::path& path, const struct stat& status) {
+  return (status.st_mode & kAnyMayWrite) != 0 && access(path.c_str(), W_OK) == 0;
+}
+
+/// The file that a chain of links leads to, whether it exists or not.
+Outcome<fs::path> FollowLinks(fs::path path) {
+  constexpr int kMostLinks = 40;
+  std::error_code error;
+  for (int followed = 0; fs::is_symlink(fs::symlink_status(path, error)); ++followed) {
+    if (followed == kMostLinks) return SystemFailure(ELOOP);
+    const fs::path target = fs::read_symlink(path, error);
+    if (error) return SystemFailure(error.value());
+    path = path.parent_path() / target;
+  }
+  return path;
+}
+
+/// What forbids replacing `target`, or 0.
+int Obstacle(const fs::path& target, const std::optional<struct stat>& old) {
+  const fs::path folder = target.parent_path();
+  const auto folderStatus = StatusOf(folder);
+  if (!folderStatus) return ENOENT;
+  if (!MayWrite(folder, *folderStatus)) return EACCES;
+  if (!old) return 0;
+  if (S_ISDIR(old->st_mode)) return EISDIR;
+  return S_ISREG(old->st_mode) && MayWrite(target, *old) ? 0 : EACCES;
+}
+
+Outcome<> WriteAll(int file, std::string_view content) {
+  while (!content.empty()) {
+    const ssize_t written = write(file, content.data(), content.size());
+    if (written >= 0) {
+      content.remove_prefix(static_cast<std::size_t>(written));
+    } else if (errno != EINTR) {
+      return SystemFailure(errno);
+    }
+  }
+  return Done{};
+}
+
+/// A new file that is to take the place of another one. It goes away again unless it has done so.
+class Replacement {
+ public:
+  /// Opened for the owner alone where it stands in for `old`, which may be private.
+  Replacement(const fs::path& folder, const std::optional<struct stat>& old) : old_(old) {
+    constexpr int kMostTries = 100;
+    const std::string stem = ".tarvik-" + std::to_string(getpid()) + "-";
+    for (int i = 0; i < kMostTries && !file_.IsOpen(); ++i) {
+      path_ = folder / (stem + std::to_string(i));
+      file_.Open(path_, O_WRONLY | O_CREAT | O_EXCL, old ? kOwnerOnly : kReadWriteAll);
+      if (!file_.IsOpen() && errno != EEXIST) break;  // an earlier process may have died and left one
+    }
+    if (!file_.IsOpen()) error_ = errno;
+  }
+  Replacement(const Replacement&) = delete;
+  Replacement& operator=(const Replacement&) = delete;
+  ~Replacement() {
+    if (error_ == 0 && !replaced_) unlink(path_.c_str());
+  }
+
+  Outcome<> Fill(std::string_view content) {
+    if (error_ != 0) return SystemFailure(error_);
+    if (auto written = WriteAll(file_.number(), content); !written) return written;
+    if (old_ && !KeepOwnerAndMode()) return SystemFailure(errno);
+    if (fsync(file_.number()) != 0 || !file_.Close()) return SystemFailure(errno);
+    return Done{};
+  }
+
+  Outcome<> Replace(const fs::path& target) {
+    replaced_ = rename(path_.c_str(), target.c_str()) == 0;
+    if (!replaced_) return SystemFailure(errno);
+    return Done{};
+  }
+
+ private:
+  /// Only the mode has to succeed. A new owner costs a file its set-id bits, so it comes first.
+  bool KeepOwnerAndMode() {
+    if (fchown(file_.number(), old_->st_uid, old_->st_gid) != 0) errno = 0;
+    return fchmod(file_.number(), old_->st_mode & kPermissions) == 0;
+  }
+
+  std::optional<struct stat> old_;
+  fs::path path_;
+  Descriptor file_;
+  int error_ = 0;
+  bool replaced_ = false;
+};
+
+/// Makes a rename last through a power cut. Not every file system can, and the file is whole either way.
+void FlushFolder(const fs::path& folder) {
+  Descriptor descriptor;
+  descriptor.Open(folder, O_RDONLY | O_DIRECTORY);
+  if (descriptor.IsOpen()) fsync(descriptor.number());
+}
+
+Outcome<> ReplaceFile(const fs::path& target, std::string_view content) {
+  const auto old = StatusOf(target);
+  if (const int code = Obstacle(target, old); code != 0) return SystemFailure(code);
+  Replacement replacement(target.parent_path(), old);
+  if (auto filled = replacement.Fill(content); !filled) return filled;
+  if (auto replaced = replacement.Replace(target); !replaced) return replaced;
+  FlushFolder(target.parent_path());
+  return Done{};
+}
+
+Outcome<std::string> ReadAll(const Descriptor& file, std::size_t expected) {
+  constexpr std::size_t kStep = 64 * 1024;
+  std::string content;
+  std::size_t size = 0;
+  content.resize(expected + 1);  // one more, so that the end shows without another round
+  while (true) {
+    const ssize_t count = read(file.number(), content.data() + size, content.size() - size);
+    if (count == 0) break;
+    if (count < 0 && errno != EINTR) return SystemFailure(errno);
+    if (count > 0) size += static_cast<std::size_t>(count);
+    if (size == content.size()) content.resize(size + kStep);
+  }
+  content.resize(size);
+  return content;
+}
+
+}  // namespace
+
+bool HostFiles::FileExists(std::string_view path) const {
+  const auto host = drives_.ToHost(path);
+  const auto status = host ? StatusOf(*host) : std::nullopt;
+  return status && !S_ISDIR(status->st_mode);
+}
+
+bool HostFiles::FolderExists(std::string_view path) const {
+  const auto host = drives_.ToHost(path);
+  const auto status = host ? StatusOf(*host) : std::nullopt;
+  return status && S_ISDIR(status->st_mode);
+}
+
+Outcome<std::string> HostFiles::Read(std::string_view path) const {
+  const auto host = drives_.ToHost(path);
+  if (!host) return SystemFailure(ENOENT, error::kFileNotFound);
+  Descriptor file;
+  file.Open(*host, O_RDONLY | O_NONBLOCK);  // a pipe that nobody writes to would wait here for ever
+  struct stat status {};
+  if (!file.IsOpen() || fstat(file.number(), &status) != 0) return SystemFailure(errno, error::kFileNotFound);
+  if (S_ISDIR(status.st_mode)) return SystemFailure(EISDIR);
+  if (!S_ISREG(status.st_mode)) return SystemFailure(EACCES);
+  return ReadAll(file, static_cast<std::size_t>(status.st_size));
+}
+
+Outcome<> HostFiles::Write(std::string_view path, std::string_view content) {
+  const auto host = drives_.ToHostNew(path);
+  if (!host) return SystemFailure(ENOENT);
+  const auto target = FollowLinks(*host);
+  if (!target) return target.failure();
+  return ReplaceFile(*target, content);
+}
+
+Outcome<> HostFiles::MakeFolder(std::string_view path) {
+  while (path.ends_with('\\') || path.ends_with('/')) path.remove_suffix(1);
+  const auto host = drives_.ToHostNew(path);
+  if (!host) return SystemFailure(ENOENT);
+  const auto parent = StatusOf(host->parent_path());
+  if (parent && !MayWrite(host->parent_path(), *parent)) return SystemFailure(EACCES);
+  if (mkdir(host->c_str(), kFolder) != 0) return SystemFailure(errno);
+  return Done{};
+}
+
+Outcome<> HostFiles::ChangeDrive(std::string_view path) { return drives_.ChangeDrive(path); }
+
+}  // namespace tarvik

@@ -1,0 +1,34 @@
+// The host's disk behind the `Files` interface, for the running program.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/Drives.h"
+#include "platform/Files.h"
+#include "platform/Outcome.h"
+
+namespace tarvik {
+
+/// Failures carry the system's errno and its text.
+class HostFiles : public Files {
+ public:
+  explicit HostFiles(Drives& drives) : drives_(drives) {}
+
+  [[nodiscard]] bool FileExists(std::string_view path) const override;
+  [[nodiscard]] bool FolderExists(std::string_view path) const override;
+  [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
+
+  /// A link stays a link: the file it leads to is replaced. A file keeps its mode and, as far as the system
+  /// lets us, its owner. A file or folder whose mode forbids writing is a failure, also for those whom no
+  /// mode stops.
+  Outcome<> Write(std::string_view path, std::string_view content) override;
+
+  Outcome<> MakeFolder(std::string_view path) override;
+  Outcome<> ChangeDrive(std::string_view path) override;
+
+ private:
+  Drives& drives_;
+};
+
+}  // namespace tarvik

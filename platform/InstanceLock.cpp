@@ -1,0 +1,28 @@
+#include "platform/InstanceLock.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace tarvik {
+
+InstanceLock::~InstanceLock() {
+  if (descriptor_ >= 0) close(descriptor_);
+}
+
+bool InstanceLock::Acquire() {
+  if (descriptor_ >= 0) return true;
+  // Closed in started programs: they would go on holding the lock when this one has ended.
+  const int descriptor = open(file_.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0666);
+  if (descriptor < 0) return true;
+  if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+    close(descriptor);
+    return false;
+  }
+  descriptor_ = descriptor;
+  return true;
+}
+
+}  // namespace tarvik

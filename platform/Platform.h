@@ -1,0 +1,70 @@
+// What the program needs from outside, handed in at construction. The real services live in screen/, scripted
+// ones in tests/.
+#pragma once
+
+#include <string>
+
+#include "platform/Files.h"
+#include "platform/Outcome.h"
+
+namespace tarvik {
+
+enum class BoxIcon { None, Information, Question, Exclamation };
+enum class BoxButtons { Ok, YesNo, YesNoCancel };
+enum class Answer { Ok, Yes, No, Cancel };
+
+/// A message box: all its texts stand here, word for word.
+struct MessageBox {
+  std::string title;
+  std::string text;
+  BoxIcon icon = BoxIcon::None;
+  BoxButtons buttons = BoxButtons::Ok;
+};
+
+enum class FileDialogKind { Open, Save };
+
+/// What a file dialog is asked for. `filter` is "description|pattern;pattern|description|pattern".
+struct FileRequest {
+  FileDialogKind kind = FileDialogKind::Open;
+  std::string title;
+  std::string filter;
+  std::string folder;
+  std::string fileName;
+  std::string defaultExtension;
+};
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  /// Shows the box and waits for its answer. Closing the box answers Cancel where there is one, else No or
+  /// Ok.
+  virtual Answer Show(const MessageBox& box) = 0;
+  /// The chosen path in the program's form, or failure 32755 when the user cancels.
+  virtual Outcome<std::string> AskForFile(const FileRequest& request) = 0;
+};
+
+/// Held by the running program, so that a second start can tell.
+class SingleInstance {
+ public:
+  virtual ~SingleInstance() = default;
+  /// True when this process is now the one that runs; it stays so until the process ends.
+  virtual bool Acquire() = 0;
+};
+
+/// The screen's size in twips (15 to the pixel).
+struct ScreenSize {
+  float width = 0;
+  float height = 0;
+};
+
+/// Everything from outside in one hand.
+struct Platform {
+  Files& files;
+  Dialogs& dialogs;
+  SingleInstance& instance;
+  ScreenSize screen;
+  std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
+  std::string commandLine;  ///< raw, as one string
+};
+
+}  // namespace tarvik

@@ -1,0 +1,78 @@
+// The settings file: sections and keys with the rules of the Windows private profile calls. `Settings` and
+// the forms read and write their keys through it.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "platform/Files.h"
+#include "platform/Outcome.h"
+
+namespace tarvik {
+
+/// The text of a settings file at one moment. Every text is a profile, garbage too: what is no section and no
+/// key is kept and never found. Names are found in either case, and the first section and key of a name
+/// counts.
+class Profile {
+ public:
+  Profile() = default;
+  explicit Profile(std::string text) : text_(std::move(text)) {}
+
+  /// The value as a buffer of `size` characters holds it: cut at `size` - 1. Blanks and one pair of quotation
+  /// marks (double or single) round it are dropped. A missing key gives `fallback`, cut as well.
+  [[nodiscard]] std::string GetString(std::string_view section, std::string_view key,
+                                      std::string_view fallback, std::size_t size) const;
+
+  /// The decimal number that the value begins with: 0 where it begins with none, `fallback` for a missing
+  /// key. Larger numbers than 32 bits hold keep their lowest 32 bits.
+  [[nodiscard]] int GetInt(std::string_view section, std::string_view key, int fallback) const;
+
+  /// Gives the key a new value, adding section and key where they are missing: a key goes behind the last
+  /// line of its section that is not blank. All other bytes stay. A value ends at its first line end or NUL.
+  void Set(std::string_view section, std::string_view key, std::string_view value);
+
+  [[nodiscard]] const std::string& text() const { return text_; }
+
+ private:
+  [[nodiscard]] std::optional<std::string_view> Value(std::string_view section, std::string_view key) const;
+
+  std::string text_;
+};
+
+/// A key and the value it is to get.
+struct ProfileEntry {
+  std::string section;
+  std::string key;
+  std::string value;
+};
+
+/// The settings file on the disk.
+class ProfileFile {
+ public:
+  ProfileFile(Files& files, std::string path) : files_(files), path_(std::move(path)) {}
+
+  /// The file as it is now, empty when it is missing or cannot be read. Whoever reads many keys takes this
+  /// once.
+  [[nodiscard]] Profile Read() const;
+
+  [[nodiscard]] std::string GetString(std::string_view section, std::string_view key,
+                                      std::string_view fallback, std::size_t size) const;
+  [[nodiscard]] int GetInt(std::string_view section, std::string_view key, int fallback) const;
+
+  /// Creates file, section and key as needed. The file is read again first, so that what a user has edited
+  /// meanwhile stays; one that exists and cannot be read is a failure and is left alone.
+  Outcome<> Write(std::string_view section, std::string_view key, std::string_view value);
+
+  /// The same for many keys with one write to the disk: all of them are stored, or none.
+  Outcome<> WriteAll(std::span<const ProfileEntry> entries);
+
+ private:
+  Files& files_;
+  std::string path_;
+};
+
+}  // namespace tarvik

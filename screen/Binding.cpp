@@ -1,0 +1,293 @@
+#include "screen/Binding.h"
+
+#include <QMouseEvent>
+#include <cmath>
+
+#include "screen/Icons.h"
+#include "screen/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+// Numbers of the tab strip's images.
+constexpr int kFileImage = 9;
+constexpr int kProtectedImage = 6;
+
+Qt::CursorShape CursorOf(int mousePointer) {
+  switch (mousePointer) {
+    case pointer::kWestEast:
+      return Qt::SizeHorCursor;
+    case pointer::kHourglass:
+      return Qt::WaitCursor;
+    case pointer::kWhatsThis:
+      return Qt::WhatsThisCursor;
+    default:
+      return Qt::ArrowCursor;
+  }
+}
+
+int ButtonNumber(Qt::MouseButtons buttons) {
+  return (buttons & Qt::LeftButton ? 1 : 0) + (buttons & Qt::RightButton ? 2 : 0) +
+         (buttons & Qt::MiddleButton ? 4 : 0);
+}
+
+QString Escaped(QString text) { return text.replace(u'&', QLatin1String("&&")); }
+QString Unescaped(QString text) { return text.replace(QLatin1String("&&"), QLatin1String("&")); }
+
+/// Hands a widget's events on without taking them.
+class Watcher : public QObject {
+ public:
+  Watcher(QWidget& widget, std::function<void(QEvent&)> watch) : QObject(&widget), watch_(std::move(watch)) {
+    widget.installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    watch_(*event);
+    return false;
+  }
+
+ private:
+  std::function<void(QEvent&)> watch_;
+};
+
+}  // namespace
+
+int ToPixels(float value, float unitsPerPixel) {
+  return static_cast<int>(std::lround(value / unitsPerPixel));
+}
+
+int ShiftState(Qt::KeyboardModifiers modifiers) {
+  return (modifiers & Qt::ShiftModifier ? shift::kShift : 0) +
+         (modifiers & Qt::ControlModifier ? shift::kCtrl : 0) +
+         (modifiers & Qt::AltModifier ? shift::kAlt : 0);
+}
+
+Mouse ToMouse(const QMouseEvent& event) {
+  const bool moving = event.type() == QEvent::MouseMove;
+  return {ButtonNumber(moving ? event.buttons() : event.button()), ShiftState(event.modifiers()),
+          static_cast<float>(event.position().x()) * kTwips,
+          static_cast<float>(event.position().y()) * kTwips};
+}
+
+void Bindings::Bind(PropertyBase& property, std::function<void()> show, Reader read) {
+  show();
+  connections_.push_back(property.Changed.Connect(std::move(show)));
+  if (read) readers_[&property] = std::move(read);
+}
+
+void Bindings::Shows(const Component& component, QObject& shown) {
+  shown.setObjectName(ToScreen(component.FullName()));
+  shown_[&component] = &shown;
+}
+
+void Bindings::Forget(const Component& component) {
+  shown_.erase(&component);
+  for (const PropertyBase* property : component.Properties()) readers_.erase(property);
+}
+
+QObject* Bindings::Find(const Component& component) const {
+  const auto found = shown_.find(&component);
+  return found == shown_.end() ? nullptr : found->second;
+}
+
+std::optional<std::string> Bindings::Read(const PropertyBase& property) const {
+  const auto found = readers_.find(&property);
+  return found == readers_.end() ? std::nullopt : found->second();
+}
+
+void Bindings::BindControl(Control& control, QWidget& widget) {
+  Shows(control, widget);
+  Bind(
+      control.Visible,
+      [&] {
+        // Otherwise the toolkit hands the focus to whatever comes next.
+        if (!control.Visible && widget.hasFocus()) widget.clearFocus();
+        widget.setVisible(control.Visible);
+      },
+      [&] { return TextOf(!widget.isHidden()); });
+  Bind(
+      control.Enabled, [&] { widget.setEnabled(control.Enabled); },
+      [&] { return TextOf(widget.isEnabled()); });
+  Bind(
+      control.ToolTipText, [&] { widget.setToolTip(ToScreen(control.ToolTipText.Get())); },
+      [&] { return FromScreen(widget.toolTip()); });
+  Bind(control.MousePointer, [&] { widget.setCursor(CursorOf(control.MousePointer)); });
+  if (widget.focusPolicy() == Qt::NoFocus) return;
+  new Watcher(widget, [&control](QEvent& event) {
+    if (event.type() == QEvent::FocusIn) control.SetFocus();
+  });
+  Form& form = control.OwnForm();
+  Keep(form.ActiveControlChanged.Connect([&form, &control, &widget] {
+    if (form.ActiveControl() == &control && !widget.hasFocus()) widget.setFocus();
+  }));
+}
+
+void Bindings::BindMouse(Control& control, QWidget& widget) {
+  widget.setMouseTracking(true);
+  new Watcher(widget, [&control](QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress)
+      control.MouseDown(ToMouse(static_cast<QMouseEvent&>(event)));
+    if (event.type() == QEvent::MouseMove) control.MouseMove(ToMouse(static_cast<QMouseEvent&>(event)));
+    if (event.type() == QEvent::MouseButtonRelease)
+      control.MouseUp(ToMouse(static_cast<QMouseEvent&>(event)));
+  });
+}
+
+void Bindings::Place(Control& control, QWidget& widget, float unitsPerPixel) {
+  const auto place = [&control, &widget, unitsPerPixel] {
+    widget.setGeometry(ToPixels(control.Left, unitsPerPixel), ToPixels(control.Top, unitsPerPixel),
+                       ToPixels(control.Width, unitsPerPixel), ToPixels(control.Height, unitsPerPixel));
+  };
+  const auto read = [unitsPerPixel](Property<float>& property, auto pixels) {
+    // A place between two pixels is shown on the nearer one.
+    return [=, &property]() -> std::optional<std::string> {
+      const bool there = pixels() == ToPixels(property, unitsPerPixel);
+      return there ? property.ToText() : TextOf(static_cast<float>(pixels()) * unitsPerPixel);
+    };
+  };
+  Bind(control.Left, place, read(control.Left, [&widget] { return widget.x(); }));
+  Bind(control.Top, place, read(control.Top, [&widget] { return widget.y(); }));
+  Bind(control.Width, place, read(control.Width, [&widget] { return widget.width(); }));
+  Bind(control.Height, place, read(control.Height, [&widget] { return widget.height(); }));
+}
+
+void Bindings::Bind(MenuItem& item, QAction& action) {
+  Shows(item, action);
+  action.setShortcut(QKeySequence(ToScreen(item.Shortcut.Get())));
+  Bind(
+      item.Caption,
+      [&] {
+        action.setSeparator(item.Caption.Get() == MenuItem::kDivider);
+        action.setText(action.isSeparator() ? QString() : ToScreen(item.Caption.Get()));
+      },
+      [&] { return action.isSeparator() ? std::string(MenuItem::kDivider) : FromScreen(action.text()); });
+  Bind(
+      item.Enabled, [&] { action.setEnabled(item.Enabled); }, [&] { return TextOf(action.isEnabled()); });
+  Bind(
+      item.Visible, [&] { action.setVisible(item.Visible); }, [&] { return TextOf(action.isVisible()); });
+  const auto showCheck = [&] {
+    action.setCheckable(item.Checked);
+    action.setChecked(item.Checked);
+  };
+  Bind(item.Checked, showCheck, [&] { return TextOf(action.isChecked()); });
+  QObject::connect(&action, &QAction::triggered, &action, [&item, showCheck] {
+    item.Click();
+    showCheck();  // the toolkit has turned the check mark over by itself
+  });
+}
+
+void Bindings::Bind(CommandButton& button, QAbstractButton& widget) {
+  BindControl(button, widget);
+  Bind(
+      button.Caption, [&] { widget.setText(ToScreen(button.Caption.Get())); },
+      [&] { return FromScreen(widget.text()); });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Click(); });
+}
+
+void Bindings::Bind(ToolbarButton& button, QToolButton& widget) {
+  Shows(button, widget);
+  Bind(
+      button.ToolTipText,
+      [&] {
+        widget.setToolTip(ToScreen(button.ToolTipText.Get()));
+        widget.setAccessibleName(widget.toolTip());
+      },
+      [&] { return FromScreen(widget.toolTip()); });
+  Bind(button.Image, [&] { widget.setIcon(Icon(button.Image.Get())); });
+  Bind(
+      button.Enabled, [&] { widget.setEnabled(button.Enabled); }, [&] { return TextOf(widget.isEnabled()); });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Click(); });
+}
+
+void Bindings::Bind(Label& label, QLabel& widget) {
+  BindControl(label, widget);
+  Bind(
+      label.Caption, [&] { widget.setText(ToScreen(label.Caption.Get())); },
+      [&] { return FromScreen(widget.text()); });
+  widget.setAutoFillBackground(true);
+  Bind(
+      label.BackColor,
+      [&] {
+        QPalette palette = widget.palette();
+        palette.setColor(widget.backgroundRole(), ToScreenColour(label.BackColor.Get()));
+        widget.setPalette(palette);
+      },
+      [&] { return TextOf(FromScreenColour(widget.palette().color(widget.backgroundRole()))); });
+}
+
+void Bindings::Bind(ComboBox& combo, QComboBox& widget) {
+  BindControl(combo, widget);
+  widget.setAccessibleName(widget.toolTip());
+  const auto showItem = [&] { widget.setCurrentIndex(combo.ListIndex); };
+  const auto showItems = [&combo, &widget, showItem] {
+    widget.clear();
+    for (const std::string& item : combo.List()) widget.addItem(ToScreen(item));
+    showItem();
+  };
+  showItems();
+  Keep(combo.ItemsChanged.Connect(showItems));
+  Bind(combo.ListIndex, showItem, [&] { return TextOf(widget.currentIndex()); });
+  const auto read = [&] { return FromScreen(widget.currentText()); };
+  Bind(
+      combo.TextProperty, [] {}, read);
+  Bind(
+      combo.Items, [] {},
+      [&] {
+        QStringList items;
+        for (int i = 0; i < widget.count(); ++i) items += widget.itemText(i);
+        return FromScreen(items.join(u'\n'));
+      });
+  QObject::connect(&widget, &QComboBox::activated, &widget, [&](int index) { combo.Select(index); });
+}
+
+void Bindings::BindTab(Tab& tab, QTabBar& widget, int index) {
+  widget.addTab(QString());
+  Bind(
+      tab.Caption, [&tab, &widget, index] { widget.setTabText(index, Escaped(ToScreen(tab.Caption.Get()))); },
+      [&widget, index] { return FromScreen(Unescaped(widget.tabText(index))); });
+  Bind(
+      tab.ToolTipText,
+      [&tab, &widget, index] { widget.setTabToolTip(index, ToScreen(tab.ToolTipText.Get())); },
+      [&widget, index] { return FromScreen(widget.tabToolTip(index)); });
+  Bind(tab.Image, [&tab, &widget, index] {
+    const char* const name = tab.Image == kProtectedImage ? "object-locked" : "tab-file";
+    const bool any = tab.Image == kProtectedImage || tab.Image == kFileImage;
+    widget.setTabIcon(index, any ? Icon(name) : QIcon());
+  });
+  Bind(
+      tab.Selected, [] {}, [&widget, index] { return TextOf(widget.currentIndex() == index); });
+}
+
+void Bindings::Bind(TabStrip& strip, QTabBar& widget) {
+  BindControl(strip, widget);
+  for (int i = 1; i <= strip.Count(); ++i) BindTab(strip.Tabs(i), widget, i - 1);
+  Bind(
+      strip.SelectedItem, [&] { widget.setCurrentIndex(strip.SelectedIndex() - 1); },
+      [&] { return TextOf(widget.currentIndex() + 1); });
+  QObject::connect(&widget, &QTabBar::currentChanged, &widget, [&](int index) { strip.Select(index + 1); });
+}
+
+void Bindings::Bind(ProgressBar& bar, QProgressBar& widget) {
+  BindControl(bar, widget);
+  Bind(
+      bar.Min, [&] { widget.setMinimum(bar.Min); }, [&] { return TextOf(widget.minimum()); });
+  Bind(
+      bar.Max, [&] { widget.setMaximum(bar.Max); }, [&] { return TextOf(widget.maximum()); });
+  Bind(
+      bar.Value, [&] { widget.setValue(bar.Value); }, [&] { return TextOf(widget.value()); });
+}
+
+void Bindings::Bind(Timer& timer, QTimer& clock) {
+  Shows(timer, clock);
+  const auto show = [&] {
+    if (timer.Enabled && timer.Interval > 0) {
+      clock.start(timer.Interval);
+    } else {
+      clock.stop();
+    }
+  };
+  Bind(timer.Interval, show);
+  Bind(timer.Enabled, show);
+  QObject::connect(&clock, &QTimer::timeout, &clock, [&] { timer.Elapsed(); });
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,76 @@
+// How each kind of control is shown: both directions of its properties, its events, its name and tool tip,
+// written once per kind. Every view holds one `Bindings` for its form; tests ask it what the screen shows.
+#pragma once
+
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QTabBar>
+#include <QTimer>
+#include <QToolButton>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <optional>
+
+#include "controls/Controls.h"
+
+namespace tarvik::screen {
+
+/// Whether timers run by the clock, or only when a script says so.
+enum class Clock { Real, Scripted };
+
+/// Twips to the pixel, the unit of most controls' places.
+inline constexpr float kTwips = 15;
+
+[[nodiscard]] int ToPixels(float value, float unitsPerPixel);
+[[nodiscard]] int ShiftState(Qt::KeyboardModifiers modifiers);
+/// The event as a control hears of it. While moving, the buttons that are down.
+[[nodiscard]] Mouse ToMouse(const QMouseEvent& event);
+
+class Bindings {
+ public:
+  /// What the screen shows, as the property's text; nothing while it does not show it.
+  using Reader = std::function<std::optional<std::string>()>;
+
+  Bindings() = default;
+  Bindings(const Bindings&) = delete;
+  Bindings& operator=(const Bindings&) = delete;
+
+  /// `show` runs now and after every change of the property.
+  void Bind(PropertyBase& property, std::function<void()> show, Reader read = {});
+  void Keep(Connection connection) { connections_.push_back(std::move(connection)); }
+  /// The widget or action that shows the component, which gets the component's name.
+  void Shows(const Component& component, QObject& shown);
+  /// For a component that goes before its view.
+  void Forget(const Component& component);
+
+  [[nodiscard]] QObject* Find(const Component& component) const;
+  [[nodiscard]] std::optional<std::string> Read(const PropertyBase& property) const;
+
+  /// What all controls have: visibility, tool tip, pointer, focus.
+  void BindControl(Control& control, QWidget& widget);
+  /// The mouse events, for widgets that have no say in them themselves.
+  void BindMouse(Control& control, QWidget& widget);
+  /// Where the control stands in its parent.
+  void Place(Control& control, QWidget& widget, float unitsPerPixel);
+
+  void Bind(MenuItem& item, QAction& action);
+  void Bind(CommandButton& button, QAbstractButton& widget);
+  void Bind(ToolbarButton& button, QToolButton& widget);
+  void Bind(Label& label, QLabel& widget);
+  void Bind(ComboBox& combo, QComboBox& widget);
+  void Bind(TabStrip& strip, QTabBar& widget);
+  void Bind(ProgressBar& bar, QProgressBar& widget);
+  void Bind(Timer& timer, QTimer& clock);
+
+ private:
+  void BindTab(Tab& tab, QTabBar& widget, int index);
+
+  std::map<const PropertyBase*, Reader> readers_;
+  std::map<const Component*, QObject*> shown_;
+  std::vector<Connection> connections_;
+};
+
+}  // namespace tarvik::screen

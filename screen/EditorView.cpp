@@ -1,0 +1,175 @@
+#include "screen/EditorView.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPushButton>
+#include <QShortcut>
+
+#include "screen/MumWindow.h"
+#include "screen/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr int kTabHeight = 23;
+constexpr int kCaptionTop = 3;
+constexpr int kCaptionLeft = 8;
+constexpr int kGripWidth = 8;
+constexpr int kLastLowerButton = 11;
+constexpr int kUpperButtons = 6;
+constexpr int kLastUpperButton = 12;
+
+/// The macro frame: a caption, and a line along the edge that can be dragged.
+class FrameView : public QWidget {
+ public:
+  FrameView(Frame& frame, Bindings& bindings, QWidget* parent) : QWidget(parent), frame_(frame) {
+    bindings.BindControl(frame, *this);
+    bindings.Place(frame, *this, 1);
+    bindings.BindMouse(frame, *this);
+    bindings.Bind(
+        frame.Caption,
+        [this] {
+          setAccessibleName(ToScreen(frame_.Caption.Get()));
+          update();
+        },
+        [this] { return FromScreen(accessibleName()); });
+  }
+
+ protected:
+  void mouseDoubleClickEvent(QMouseEvent*) override { frame_.DblClick(); }
+
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.drawText(QRect(kCaptionLeft, kCaptionTop, width() - 2 * kCaptionLeft, fontMetrics().height()),
+                     Qt::AlignLeft | Qt::AlignTop, accessibleName());
+    painter.setPen(palette().color(QPalette::Mid));
+    const int centre = height() / 2;
+    for (const int dot : {-6, -2, 2, 6}) {
+      painter.fillRect(width() - kGripWidth / 2 - 1, centre + dot, 2, 2, palette().color(QPalette::Mid));
+    }
+  }
+
+ private:
+  Frame& frame_;
+};
+
+}  // namespace
+
+EditorView::EditorView(Application& application, Editor& editor, Clock clock)
+    : FormView(editor), application_(application), editor_(editor) {
+  setObjectName(QStringLiteral("Editor"));
+  menus_ = MakeMenus(editor.menus, bindings_);
+  popUps_ = MakeMenus(editor.popUps, bindings_);
+  MakeMacroFrame();
+  MakeTabs();
+  MakePanes();
+  OrderFocus();
+  bindings_.Shows(editor, *this);
+  bindings_.Bind(
+      editor.Caption, [this] { setWindowTitle(ToScreen(editor_.Caption.Get())); },
+      [this] { return FromScreen(windowTitle()); });
+  bindings_.Bind(
+      editor.Visible, [] {}, [this] { return TextOf(isVisible()); });
+  bindings_.Keep(editor.PopUp.Connect([this](std::string_view name) { PopUp(name); }));
+  if (clock == Clock::Scripted) return;
+  for (Timer* timer : {&editor.Timer1, &editor.TimerBlinkLine}) bindings_.Bind(*timer, *new QTimer(this));
+}
+
+void EditorView::MakeMacroFrame() {
+  auto* const frame = new FrameView(editor_.FrameMacros, bindings_, this);
+  auto* const categories = new QComboBox(frame);
+  bindings_.Bind(editor_.Combo1, *categories);
+  bindings_.Place(editor_.Combo1, *categories, kTwips);
+  list_ = new MacroListView(editor_, bindings_, frame);
+  for (int i = 0; i < Editor::kModifierButtons; ++i) {
+    auto* const button = new QToolButton(frame);
+    button->setFocusPolicy(Qt::TabFocus);
+    bindings_.Bind(editor_.Command1(i), *button);
+    bindings_.BindMouse(editor_.Command1(i), *button);
+    bindings_.Place(editor_.Command1(i), *button, kTwips);
+  }
+}
+
+void EditorView::MakeTabs() {
+  tabs_ = new QTabBar(this);
+  tabs_->setExpanding(false);
+  tabs_->setDrawBase(false);
+  tabs_->setElideMode(Qt::ElideMiddle);
+  tabs_->setAccessibleName(tr("Files"));
+  TabStrip& strip = editor_.TabStrip1;
+  bindings_.Bind(strip, *tabs_);
+  for (PropertyBase* side :
+       std::initializer_list<PropertyBase*>{&strip.Left, &strip.Top, &strip.Width, &strip.Height}) {
+    bindings_.Bind(*side, [this] { PlaceTabs(); });
+  }
+  const auto turn = [this](int step) {
+    const int count = editor_.TabStrip1.Count();
+    editor_.TabStrip1.Select((editor_.TabStrip1.SelectedIndex() - 1 + step + count) % count + 1);
+  };
+  connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Tab), this), &QShortcut::activated, this,
+          [turn] { turn(1); });
+  connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab), this), &QShortcut::activated,
+          this, [turn] { turn(-1); });
+}
+
+void EditorView::MakePanes() {
+  panes_[0] = new PaneView(editor_.JoystickText, bindings_, this);
+  panes_[0]->setAccessibleName(tr("Joystick file"));
+  panes_[1] = new PaneView(editor_.MacroText, bindings_, this);
+  panes_[1]->setAccessibleName(tr("Macro file"));
+}
+
+/// As the eye goes: the upper row of the modifier buttons ends with the one that came last.
+void EditorView::OrderFocus() {
+  const auto button = [this](int index) {
+    return static_cast<QWidget*>(bindings_.Find(editor_.Command1(index)));
+  };
+  setTabOrder(button(kUpperButtons - 1), button(kLastUpperButton));
+  setTabOrder(button(kLastUpperButton), button(kUpperButtons));
+  setTabOrder(button(kLastLowerButton), tabs_);
+  setTabOrder(tabs_, panes_[0]);
+  setTabOrder(panes_[0], panes_[1]);
+}
+
+void EditorView::PlaceTabs() {
+  const TabStrip& strip = editor_.TabStrip1;
+  tabs_->setGeometry(ToPixels(strip.Left, 1) + 2, ToPixels(strip.Top, 1), ToPixels(strip.Width, 1) - 4,
+                     kTabHeight);
+  update();
+}
+
+void EditorView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  editor_.ScaleWidth = static_cast<float>(width());
+  editor_.ScaleHeight = static_cast<float>(height());
+  editor_.Resize();
+}
+
+void EditorView::paintEvent(QPaintEvent*) {
+  const TabStrip& strip = editor_.TabStrip1;
+  QPainter painter(this);
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawRect(ToPixels(strip.Left, 1) + 2, ToPixels(strip.Top, 1) + kTabHeight - 1,
+                   ToPixels(strip.Width, 1) - 5, ToPixels(strip.Height, 1) - kTabHeight);
+}
+
+/// At the pointer, or at what the keyboard is at.
+void EditorView::PopUp(std::string_view name) {
+  QPoint place = QCursor::pos();
+  if (!(QGuiApplication::mouseButtons() & Qt::RightButton)) {
+    const auto* const pane = dynamic_cast<PaneView*>(focusWidget());
+    if (pane) place = pane->viewport()->mapToGlobal(pane->cursorRect().bottomLeft());
+    if (focusWidget() == list_) {
+      place = list_->viewport()->mapToGlobal(list_->visualRect(list_->currentIndex()).bottomLeft());
+    }
+  }
+  for (const auto* const menus : {&popUps_, &menus_}) {
+    for (const auto& menu : *menus) {
+      if (menu->objectName() == ToScreen(name)) menu->popup(place);
+    }
+  }
+}
+
+void EditorView::CloseByUser() { static_cast<MumWindow*>(window())->CloseChildByUser(); }
+
+}  // namespace tarvik::screen

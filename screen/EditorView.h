@@ -1,0 +1,41 @@
+// The editor form on screen. The form places its controls itself; the view tells it its size.
+#pragma once
+
+#include <QFrame>
+
+#include "screen/FormView.h"
+#include "screen/MacroListView.h"
+#include "screen/MenuBuilder.h"
+#include "screen/PaneView.h"
+
+namespace tarvik::screen {
+
+class EditorView : public QWidget, public FormView {
+ public:
+  EditorView(Application& application, Editor& editor, Clock clock);
+
+  [[nodiscard]] const std::vector<std::unique_ptr<QMenu>>& menus() const { return menus_; }
+  void CloseByUser() override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void MakeMacroFrame();
+  void MakeTabs();
+  void MakePanes();
+  void OrderFocus();
+  void PlaceTabs();
+  void PopUp(std::string_view name);
+
+  Application& application_;
+  Editor& editor_;
+  std::vector<std::unique_ptr<QMenu>> menus_;
+  std::vector<std::unique_ptr<QMenu>> popUps_;
+  MacroListView* list_ = nullptr;
+  QTabBar* tabs_ = nullptr;
+  PaneView* panes_[2] = {};
+};
+
+}  // namespace tarvik::screen

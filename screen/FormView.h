@@ -1,0 +1,29 @@
+// What the view of a form has, whatever the form: its bindings, for those who look for a widget or read what
+// is on screen.
+#pragma once
+
+#include "controls/Form.h"
+#include "screen/Binding.h"
+
+namespace tarvik::screen {
+
+class FormView {
+ public:
+  explicit FormView(Form& form) : form_(form) {}
+  virtual ~FormView() = default;
+  FormView(const FormView&) = delete;
+  FormView& operator=(const FormView&) = delete;
+
+  [[nodiscard]] Form& form() const { return form_; }
+  [[nodiscard]] const Bindings& bindings() const { return bindings_; }
+  /// The window's close box.
+  virtual void CloseByUser() = 0;
+
+ protected:
+  Bindings bindings_;
+
+ private:
+  Form& form_;
+};
+
+}  // namespace tarvik::screen

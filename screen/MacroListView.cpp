@@ -1,0 +1,231 @@
+#include "screen/MacroListView.h"
+
+#include <QDrag>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QStyledItemDelegate>
+#include <algorithm>
+
+#include "screen/Icons.h"
+#include "screen/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr int kTick = 16;
+constexpr int kLeftButton = 1;
+constexpr int kRightButton = 2;
+
+/// A tick, and as much blank space where there is none.
+class TickDelegate : public QStyledItemDelegate {
+ public:
+  explicit TickDelegate(QWidget& list)
+      : QStyledItemDelegate(&list),
+        tick_(Icon("tick", list.palette().color(QPalette::Text))),
+        selectedTick_(Icon("tick", list.palette().color(QPalette::HighlightedText))) {}
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    option->features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false);
+    option->features.setFlag(QStyleOptionViewItem::HasDecoration);
+    option->decorationSize = {kTick, kTick};
+    const QIcon& tick = option->state & QStyle::State_Selected ? selectedTick_ : tick_;
+    option->icon = ticked ? tick : QIcon();
+  }
+
+ private:
+  QIcon tick_;
+  QIcon selectedTick_;
+};
+
+}  // namespace
+
+void MacroListModel::SetList(const ListBox* list) {
+  beginResetModel();
+  list_ = list;
+  endResetModel();
+}
+
+void MacroListModel::ShowTicks() {
+  if (rowCount() > 0) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
+}
+
+int MacroListModel::rowCount(const QModelIndex& parent) const {
+  return list_ && !parent.isValid() ? list_->ListCount() : 0;
+}
+
+QVariant MacroListModel::data(const QModelIndex& index, int role) const {
+  if (!list_ || index.row() >= list_->ListCount()) return {};
+  if (role == Qt::DisplayRole) return ToScreen(list_->List(index.row()));
+  if (role == Qt::CheckStateRole) return list_->Selected(index.row()) ? Qt::Checked : Qt::Unchecked;
+  return {};
+}
+
+MacroListView::MacroListView(Editor& form, Bindings& bindings, QWidget* parent)
+    : QListView(parent), form_(form), bindings_(bindings) {
+  setModel(&model_);
+  setItemDelegate(new TickDelegate(*this));
+  setUniformItemSizes(true);
+  setDragEnabled(true);
+  setMouseTracking(true);
+  setEditTriggers(NoEditTriggers);
+  setAccessibleName(tr("Macros"));
+  bindings.Place(form.List1(0), *this, kTwips);
+  for (int i = 0; i < form.List1.Count(); ++i) Add(form.List1(i));
+  bindings.Keep(form.List1.Loaded.Connect([this](ListBox& list) { Add(list); }));
+  bindings.Keep(form.List1.Unloading.Connect([this](ListBox& list) { Remove(list); }));
+  bindings.Keep(form.ActiveControlChanged.Connect([this] {
+    if (form_.ActiveControl() == front_ && front_ && !hasFocus()) setFocus();
+  }));
+}
+
+// Which list is in front.
+
+void MacroListView::Add(ListBox& list) {
+  Shown shown{&list, {}};
+  const auto inFront = [this, &list](auto act) {
+    return [this, &list, act] {
+      if (front_ == &list) act();
+    };
+  };
+  shown.connections = {
+      list.Raised.Connect([this, &list] { Raise(list); }),
+      list.Visible.Changed.Connect([this] { BringUpToDate(); }),
+      list.ItemsChanged.Connect(inFront([this] { ShowItems(); })),
+      list.TicksChanged.Connect(inFront([this] { model_.ShowTicks(); })),
+      list.ListIndex.Changed.Connect(inFront([this] { ShowIndex(); })),
+  };
+  const auto read = [this, &list](auto what) -> Bindings::Reader {
+    return [this, &list, what]() -> std::optional<std::string> {
+      return front_ == &list ? std::optional<std::string>(what()) : std::nullopt;
+    };
+  };
+  const auto lines = [this](bool tickedOnly) {
+    QStringList texts;
+    for (int row = 0; row < model_.rowCount(); ++row) {
+      const QModelIndex index = model_.index(row);
+      const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+      if (ticked || !tickedOnly) texts += index.data().toString();
+    }
+    return FromScreen(texts.join(u'\n'));
+  };
+  bindings_.Bind(
+      list.Items, [] {}, read([lines] { return lines(false); }));
+  bindings_.Bind(
+      list.Ticked, [] {}, read([lines] { return lines(true); }));
+  bindings_.Bind(
+      list.Count, [] {}, read([this] { return TextOf(model_.rowCount()); }));
+  bindings_.Bind(
+      list.ListIndex, [] {}, read([this] { return TextOf(currentIndex().row()); }));
+  bindings_.Bind(
+      list.ToolTipText, [] {}, read([this] { return FromScreen(toolTip()); }));
+  bindings_.Bind(
+      list.Visible, [] {},
+      [this, &list]() -> std::optional<std::string> {
+        if (front_ == &list) return TextOf(true);
+        return list.Visible ? std::nullopt : std::optional(TextOf(false));  // it may be behind another one
+      });
+  stack_.push_back(std::move(shown));
+  BringUpToDate();
+}
+
+void MacroListView::Remove(ListBox& list) {
+  std::erase_if(stack_, [&list](const Shown& shown) { return shown.list == &list; });
+  bindings_.Forget(list);
+  if (form_.ActiveControl() == &list) form_.Focus(form_.List1(0));
+  BringUpToDate();
+}
+
+void MacroListView::Raise(ListBox& list) {
+  const auto at =
+      std::find_if(stack_.begin(), stack_.end(), [&list](const Shown& shown) { return shown.list == &list; });
+  if (at != stack_.end()) std::rotate(at, at + 1, stack_.end());
+  BringUpToDate();
+}
+
+void MacroListView::BringUpToDate() {
+  const auto top = std::find_if(stack_.rbegin(), stack_.rend(),
+                                [](const Shown& shown) { return shown.list->Visible.Get(); });
+  ListBox* const front = top == stack_.rend() ? nullptr : top->list;
+  if (front == front_) return;
+  front_ = front;
+  if (front_) {
+    bindings_.Shows(*front_, *this);
+    setToolTip(ToScreen(front_->ToolTipText.Get()));
+  }
+  ShowItems();
+}
+
+void MacroListView::ShowItems() {
+  const QScopedValueRollback showing(showing_, true);
+  model_.SetList(front_);
+  ShowIndex();
+}
+
+// The item in hand.
+
+void MacroListView::ShowIndex() {
+  const QScopedValueRollback showing(showing_, true);
+  setCurrentIndex(front_ ? model_.index(front_->ListIndex) : QModelIndex());
+}
+
+void MacroListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QListView::currentChanged(current, previous);
+  if (!showing_ && front_ && current.isValid()) front_->ListIndex = current.row();
+}
+
+void MacroListView::mousePressEvent(QMouseEvent* event) {
+  QListView::mousePressEvent(event);
+  if (const QModelIndex under = indexAt(event->pos()); under.isValid()) setCurrentIndex(under);
+  if (front_) front_->MouseDown(ToMouse(*event));
+}
+
+void MacroListView::mouseMoveEvent(QMouseEvent* event) {
+  QListView::mouseMoveEvent(event);
+  if (front_) front_->MouseMove(ToMouse(*event));
+}
+
+void MacroListView::mouseReleaseEvent(QMouseEvent* event) {
+  QListView::mouseReleaseEvent(event);
+  if (front_) front_->MouseUp(ToMouse(*event));
+}
+
+void MacroListView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (front_ && event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) front_->DblClick();
+}
+
+/// A move by keys shows the macro as a click does.
+void MacroListView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (front_ && currentIndex().isValid()) front_->DblClick();
+    return;
+  }
+  const int before = currentIndex().row();
+  QListView::keyPressEvent(event);
+  if (front_ && currentIndex().row() != before) front_->MouseDown({kLeftButton, 0, 0, 0});
+}
+
+void MacroListView::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+  if (event->reason() == QContextMenuEvent::Keyboard && front_) front_->MouseDown({kRightButton, 0, 0, 0});
+}
+
+void MacroListView::focusInEvent(QFocusEvent* event) {
+  QListView::focusInEvent(event);
+  if (front_) front_->SetFocus();
+}
+
+void MacroListView::startDrag(Qt::DropActions) {
+  if (!front_) return;
+  front_->OLEStartDrag();
+  auto* const data = new QMimeData;
+  data->setText(ToScreen(front_->DragText.Get()));
+  auto* const drag = new QDrag(this);
+  drag->setMimeData(data);
+  drag->exec(Qt::CopyAction);
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,63 @@
+// The macro lists, which stand on one another: one list view that shows the one in front, with its ticks, and
+// lets macros be dragged out as text.
+#pragma once
+
+#include <QAbstractListModel>
+#include <QListView>
+
+#include "app/Editor.h"
+#include "screen/Binding.h"
+
+namespace tarvik::screen {
+
+/// The items of whichever list is in front.
+class MacroListModel : public QAbstractListModel {
+ public:
+  using QAbstractListModel::QAbstractListModel;
+  void SetList(const ListBox* list);
+  void ShowTicks();
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+
+ private:
+  const ListBox* list_ = nullptr;
+};
+
+class MacroListView : public QListView {
+ public:
+  MacroListView(Editor& form, Bindings& bindings, QWidget* parent);
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void startDrag(Qt::DropActions actions) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  struct Shown {
+    ListBox* list;
+    std::vector<Connection> connections;
+  };
+
+  void Add(ListBox& list);
+  void Remove(ListBox& list);
+  void Raise(ListBox& list);
+  void BringUpToDate();
+  void ShowItems();
+  void ShowIndex();
+
+  Editor& form_;
+  Bindings& bindings_;
+  MacroListModel model_;
+  std::vector<Shown> stack_;  // the last one is on top
+  ListBox* front_ = nullptr;
+  bool showing_ = false;
+};
+
+}  // namespace tarvik::screen

@@ -1,0 +1,16 @@
+// Makes menus on screen out of a form's table of entries.
+#pragma once
+
+#include <QMenu>
+#include <memory>
+#include <vector>
+
+#include "controls/Menu.h"
+#include "screen/Binding.h"
+
+namespace tarvik::screen {
+
+/// The menus of level 0, in order, with all that is in them. Each bears the name of its entry.
+[[nodiscard]] std::vector<std::unique_ptr<QMenu>> MakeMenus(const Menus& menus, Bindings& bindings);
+
+}  // namespace tarvik::screen

@@ -1,0 +1,195 @@
+#include "screen/MumWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScreen>
+#include <QTime>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include "screen/Icons.h"
+#include "screen/MenuBuilder.h"
+#include "screen/StatusBarView.h"
+#include "screen/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr int kClockPanel = 7;
+constexpr int kClockInterval = 1000;  // milliseconds
+constexpr QSize kSmallest(480, 320);
+
+// Window states of a form.
+constexpr int kNormal = 0;
+constexpr int kMinimised = 1;
+constexpr int kMaximised = 2;
+
+}  // namespace
+
+MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
+    : FormView(mum),
+      application_(application),
+      mum_(mum),
+      area_(new QMdiArea),
+      closeChild_(new QToolButton(this)) {
+  setMinimumSize(kSmallest);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  auto* const centre = new QWidget;
+  auto* const column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(new ToolbarView(mum.Toolbar1, mum.Picture1, kSwatchButton, bindings_, centre));
+  column->addWidget(area_, 1);
+  area_->setFrameShape(QFrame::NoFrame);
+  area_->setBackground(palette().color(QPalette::Window).darker(110));
+  setCentralWidget(centre);
+  setStatusBar(new StatusBarView(mum.StatusBar, mum.ProgressBar1, bindings_, this));
+  closeChild_->setIcon(Icon("close"));
+  closeChild_->setAutoRaise(true);
+  closeChild_->setFocusPolicy(Qt::NoFocus);
+  closeChild_->setToolTip(tr("Close the editor"));
+  closeChild_->setAccessibleName(closeChild_->toolTip());
+  connect(
+      closeChild_, &QAbstractButton::clicked, this, [this] { application_.CloseEditor(); },
+      Qt::QueuedConnection);
+  menus_ = MakeMenus(mum.menus, bindings_);
+  RemoveChild();
+  if (clock == Clock::Real) KeepTime();
+  BindWindow();
+}
+
+MumWindow::~MumWindow() {
+  if (waiting_) QApplication::restoreOverrideCursor();
+}
+
+void MumWindow::BindWindow() {
+  bindings_.Shows(mum_, *this);
+  PlaceWindow();
+  bindings_.Bind(
+      mum_.Caption, [this] { setWindowTitle(ToScreen(mum_.Caption.Get())); },
+      [this] { return FromScreen(windowTitle()); });
+  bindings_.Bind(mum_.MousePointer, [this] { ShowPointer(); });
+  bindings_.Bind(mum_.WindowState, [this] {
+    if (isVisible()) ShowWindow();
+  });
+  bindings_.Bind(
+      mum_.Visible,
+      [this] {
+        if (mum_.Visible) {
+          ShowWindow();
+        } else {
+          hide();
+        }
+      },
+      [this] { return TextOf(isVisible()); });
+}
+
+void MumWindow::KeepTime() {
+  auto* const timer = new QTimer(this);
+  const auto show = [this] {
+    mum_.StatusBar.Panels(kClockPanel).Text = FromScreen(QTime::currentTime().toString(u"hh:mm"));
+  };
+  connect(timer, &QTimer::timeout, this, show);
+  timer->start(kClockInterval);
+  show();
+}
+
+// Children and menus.
+
+void MumWindow::ShowChild(QWidget& view, const std::vector<std::unique_ptr<QMenu>>& menus) {
+  menuBar()->clear();
+  for (const auto& menu : menus) menuBar()->addMenu(menu.get());
+  menuBar()->setCornerWidget(closeChild_);
+  closeChild_->show();
+  child_ = area_->addSubWindow(&view, Qt::FramelessWindowHint);
+  child_->showMaximized();
+}
+
+void MumWindow::RemoveChild() {
+  menuBar()->clear();
+  for (const auto& menu : menus_) menuBar()->addMenu(menu.get());
+  closeChild_->hide();
+  if (!child_) return;
+  child_->setWidget(nullptr);
+  area_->removeSubWindow(child_);
+  std::exchange(child_, nullptr)->deleteLater();
+}
+
+// The window.
+
+void MumWindow::PlaceWindow() {
+  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+  QRect frame(ToPixels(mum_.Left, kTwips), ToPixels(mum_.Top, kTwips), ToPixels(mum_.Width, kTwips),
+              ToPixels(mum_.Height, kTwips));
+  frame.setSize(frame.size().expandedTo(kSmallest).boundedTo(screen.size()));
+  frame.moveLeft(std::clamp(frame.left(), screen.left(), screen.right() + 1 - frame.width()));
+  frame.moveTop(std::clamp(frame.top(), screen.top(), screen.bottom() + 1 - frame.height()));
+  move(frame.topLeft());
+  resize(frame.size());
+}
+
+void MumWindow::ShowWindow() {
+  if (mum_.WindowState == kMaximised) {
+    showMaximized();
+  } else if (mum_.WindowState == kMinimised) {
+    showMinimized();
+  } else {
+    showNormal();
+  }
+}
+
+/// The stored size is that of the whole frame, which is known only once the window stands.
+void MumWindow::FitFrame() {
+  const QMargins margins = windowHandle() ? windowHandle()->frameMargins() : QMargins();
+  if (frameFitted_ || margins.isNull() || windowState() != Qt::WindowNoState) return;
+  frameFitted_ = true;
+  resize(size().shrunkBy(margins));
+}
+
+void MumWindow::TakePlace() {
+  if (!isVisible() || windowState() & (Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen))
+    return;
+  FitFrame();
+  const QRect frame = frameGeometry();
+  mum_.Left = static_cast<float>(frame.left()) * kTwips;
+  mum_.Top = static_cast<float>(frame.top()) * kTwips;
+  mum_.Width = static_cast<float>(frame.width()) * kTwips;
+  mum_.Height = static_cast<float>(frame.height()) * kTwips;
+}
+
+void MumWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange) TakePlace();
+  if (event->type() != QEvent::WindowStateChange) return;
+  mum_.WindowState = isMinimized() ? kMinimised : isMaximized() ? kMaximised : kNormal;
+}
+
+void MumWindow::moveEvent(QMoveEvent* event) {
+  QMainWindow::moveEvent(event);
+  TakePlace();
+}
+
+void MumWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  TakePlace();
+  mum_.ScaleWidth = static_cast<float>(area_->width()) * kTwips;
+  mum_.ScaleHeight = static_cast<float>(area_->height()) * kTwips;
+  mum_.Resize();
+}
+
+void MumWindow::closeEvent(QCloseEvent* event) { event->setAccepted(application_.CloseMum()); }
+
+void MumWindow::ShowPointer() {
+  const bool wait = mum_.MousePointer == pointer::kHourglass;
+  if (wait == waiting_) return;
+  waiting_ = wait;
+  if (wait) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,52 @@
+// The frame window on screen: menu bar, toolbar, the area of the child windows and the status bar.
+#pragma once
+
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMenu>
+#include <memory>
+
+#include "app/Mum.h"
+#include "screen/FormView.h"
+#include "screen/ToolbarView.h"
+
+namespace tarvik::screen {
+
+class MumWindow : public QMainWindow, public FormView {
+ public:
+  MumWindow(Application& application, Mum& mum, Clock clock);
+  ~MumWindow() override;
+
+  /// Shows `view` as the child that fills the area, once its form is visible, with its menus in the menu bar.
+  void ShowChild(QWidget& view, const std::vector<std::unique_ptr<QMenu>>& menus);
+  /// Forgets the child, which is about to go, and shows the frame's own menus.
+  void RemoveChild();
+  void CloseByUser() override { close(); }
+  void CloseChildByUser() { closeChild_->click(); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void BindWindow();
+  void ShowWindow();
+  void PlaceWindow();
+  void TakePlace();
+  void FitFrame();
+  void ShowPointer();
+  void KeepTime();
+
+  Application& application_;
+  Mum& mum_;
+  QMdiArea* area_;
+  QMdiSubWindow* child_ = nullptr;
+  QToolButton* closeChild_;
+  std::vector<std::unique_ptr<QMenu>> menus_;
+  bool frameFitted_ = false;
+  bool waiting_ = false;
+};
+
+}  // namespace tarvik::screen

@@ -1,0 +1,88 @@
+// How a pane's text is painted: line by line, each run of one colour in its colour.
+#include <QPaintEvent>
+#include <QPainter>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <algorithm>
+
+#include "screen/PaneView.h"
+#include "screen/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr qreal kLineBreakWidth = 5;  // of a selected line break, in pixels
+
+}  // namespace
+
+void PaneView::paintEvent(QPaintEvent* event) {
+  QPainter painter(viewport());
+  QPointF offset = contentOffset();
+  const int caret = getPaintContext().cursorPosition;
+  for (QTextBlock block = firstVisibleBlock(); block.isValid(); block = block.next()) {
+    const QRectF place = blockBoundingRect(block).translated(offset);
+    if (place.top() > event->rect().bottom()) break;
+    if (place.bottom() >= event->rect().top()) PaintBlock(painter, block, offset, caret);
+    offset.ry() += place.height();
+  }
+}
+
+void PaneView::PaintBlock(QPainter& painter, const QTextBlock& block, const QPointF& offset,
+                          int caret) const {
+  QTextLayout& layout = *block.layout();
+  const bool composing = !layout.preeditAreaText().isEmpty();
+  painter.setPen(Qt::black);
+  if (composing) {
+    layout.draw(&painter, offset);
+  } else {
+    const int start = block.position();
+    const int length = block.length();  // with the line break
+    const QTextCursor cursor = textCursor();
+    const int from = std::clamp(cursor.selectionStart() - start, 0, length);
+    const int to = std::clamp(cursor.selectionEnd() - start, 0, length);
+    const Range selected{static_cast<std::size_t>(from), static_cast<std::size_t>(to - from)};
+    for (int i = 0; i < layout.lineCount(); ++i) {
+      PaintLine(painter, layout.lineAt(i), offset, static_cast<std::size_t>(start + block.blockNumber()),
+                static_cast<std::size_t>(length - 1), selected);
+    }
+  }
+  painter.setPen(Qt::black);
+  if (block.contains(caret)) {
+    layout.drawCursor(&painter, offset, caret - block.position(), cursorWidth());
+  } else if (caret < -1 && composing) {
+    layout.drawCursor(&painter, offset, layout.preeditAreaPosition() - (caret + 2), cursorWidth());
+  }
+}
+
+void PaneView::PaintLine(QPainter& painter, const QTextLine& line, const QPointF& offset,
+                         std::size_t blockStart, std::size_t textLength, Range selected) const {
+  const auto x = [&line](std::size_t at) { return line.cursorToX(static_cast<int>(at)); };
+  const auto group = hasFocus() ? QPalette::Active : QPalette::Inactive;
+  const auto begin = static_cast<std::size_t>(line.textStart());
+  const std::size_t end = begin + static_cast<std::size_t>(line.textLength());
+  const std::size_t from = std::clamp(selected.start, begin, end);
+  const std::size_t to = std::clamp(selected.End(), begin, end);
+  const bool lineBreak = selected.start <= end && selected.End() > end && end == textLength;
+  if (from < to || lineBreak) {
+    const qreal width = x(to) - x(from) + (lineBreak ? kLineBreakWidth : 0);
+    painter.fillRect(QRectF(offset.x() + x(from), offset.y() + line.y(), width, line.height()),
+                     palette().brush(group, QPalette::Highlight));
+  }
+  const ColourRuns& colours = pane_.Content().colours;
+  for (std::size_t at = begin; at < end;) {
+    const std::size_t position = blockStart + at;
+    if (position >= colours.size()) break;
+    const bool inSelection = at >= from && at < to;
+    std::size_t next = std::min(end, colours.EndOf(colours.RunAt(position)) - blockStart);
+    if (at < from) next = std::min(next, from);
+    if (inSelection) next = std::min(next, to);
+    painter.setPen(inSelection ? palette().color(group, QPalette::HighlightedText)
+                               : ToScreenColour(colours.At(position)));
+    for (const QGlyphRun& run : line.glyphRuns(static_cast<int>(at), static_cast<int>(next - at))) {
+      painter.drawGlyphRun(offset, run);
+    }
+    at = next;
+  }
+}
+
+}  // namespace tarvik::screen

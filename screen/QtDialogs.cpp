@@ -1,0 +1,104 @@
+#include "screen/QtDialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "screen/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+struct ButtonsRow {
+  QMessageBox::StandardButtons buttons;
+  QMessageBox::StandardButton entered;  ///< what the Enter key gives
+  QMessageBox::StandardButton closed;
+};
+
+/// In the order of BoxButtons.
+constexpr ButtonsRow kButtons[] = {
+    {QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok},
+    {QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes, QMessageBox::No},
+    {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes, QMessageBox::Cancel},
+};
+
+/// In the order of BoxIcon.
+constexpr QMessageBox::Icon kIcons[] = {QMessageBox::NoIcon, QMessageBox::Information, QMessageBox::Question,
+                                        QMessageBox::Warning};
+
+Answer ToAnswer(int button) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return Answer::Yes;
+    case QMessageBox::No:
+      return Answer::No;
+    case QMessageBox::Cancel:
+      return Answer::Cancel;
+    default:
+      return Answer::Ok;
+  }
+}
+
+/// The ordinary pointer, while the program that waits behind the dialog shows the hourglass.
+class OrdinaryPointer {
+ public:
+  OrdinaryPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
+  ~OrdinaryPointer() { QApplication::restoreOverrideCursor(); }
+  OrdinaryPointer(const OrdinaryPointer&) = delete;
+  OrdinaryPointer& operator=(const OrdinaryPointer&) = delete;
+};
+
+}  // namespace
+
+Answer QtDialogs::Show(const MessageBox& box) {
+  const OrdinaryPointer pointer;
+  const ButtonsRow& row = kButtons[static_cast<int>(box.buttons)];
+  QMessageBox window(kIcons[static_cast<int>(box.icon)], ToScreen(box.title), ToScreen(box.text), row.buttons,
+                     QApplication::activeWindow());
+  window.setTextFormat(Qt::PlainText);
+  window.setDefaultButton(row.entered);
+  window.setEscapeButton(row.closed);
+  return ToAnswer(window.exec());
+}
+
+QStringList NameFilters(const std::string& filter) {
+  const QStringList parts = ToScreen(filter).split(u'|');
+  QStringList filters;
+  for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+    // The description names its patterns too, which the toolkit would take for the patterns themselves.
+    const QString description = parts[i].left(parts[i].indexOf(QLatin1String(" ("))).trimmed();
+    QString patterns = parts[i + 1];
+    filters += description + QLatin1String(" (") + patterns.replace(u';', u' ') + u')';
+  }
+  return filters.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+}
+
+QString QtDialogs::StartFolder(const std::string& folder) const {
+  const auto host = drives_.ToHost(folder);
+  std::error_code missing;
+  if (host && std::filesystem::is_directory(*host, missing)) return QFile::decodeName(host->c_str());
+  return lastFolder_.isEmpty() ? QDir::homePath() : lastFolder_;
+}
+
+Outcome<std::string> QtDialogs::AskForFile(const FileRequest& request) {
+  const OrdinaryPointer pointer;
+  const bool save = request.kind == FileDialogKind::Save;
+  QFileDialog dialog(QApplication::activeWindow(), ToScreen(request.title), StartFolder(request.folder));
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
+  dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setNameFilters(NameFilters(request.filter));
+  if (save) dialog.setDefaultSuffix(ToScreen(request.defaultExtension));
+  if (!request.fileName.empty()) dialog.selectFile(ToScreen(request.fileName));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    return Failure{error::kDialogCancelled, "Cancel was selected.", 0};
+  }
+  const QString chosen = dialog.selectedFiles().constFirst();
+  lastFolder_ = QFileInfo(chosen).absolutePath();
+  return drives_.FromHost(QFile::encodeName(chosen).toStdString());
+}
+
+}  // namespace tarvik::screen

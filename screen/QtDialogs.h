@@ -1,0 +1,30 @@
+// The message boxes and file dialogs that the user sees.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "platform/Drives.h"
+#include "platform/Platform.h"
+
+namespace tarvik::screen {
+
+class QtDialogs : public Dialogs {
+ public:
+  explicit QtDialogs(Drives& drives) : drives_(drives) {}
+
+  Answer Show(const MessageBox& box) override;
+  Outcome<std::string> AskForFile(const FileRequest& request) override;
+
+ private:
+  /// The folder asked for, else the one of the last choice, else the user's own.
+  [[nodiscard]] QString StartFolder(const std::string& folder) const;
+
+  Drives& drives_;
+  QString lastFolder_;
+};
+
+/// "description|pattern;pattern|..." as the toolkit has it, the patterns in brackets behind the description.
+[[nodiscard]] QStringList NameFilters(const std::string& filter);
+
+}  // namespace tarvik::screen

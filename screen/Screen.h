@@ -1,0 +1,40 @@
+// Shows the forms of a program: makes a view when a form is loaded, takes it away when the form is unloaded.
+// The program and the tests on real widgets each have one.
+#pragma once
+
+#include <memory>
+
+#include "app/Application.h"
+#include "screen/FormView.h"
+
+namespace tarvik::screen {
+
+class MumWindow;
+
+/// Made before the program starts; it must go before the application does.
+class Screen {
+ public:
+  Screen(Application& application, Clock clock);
+  ~Screen();
+  Screen(const Screen&) = delete;
+  Screen& operator=(const Screen&) = delete;
+
+  /// The view of a loaded form, or null.
+  [[nodiscard]] FormView* ViewOf(const Form& form) const;
+  /// The widget or action that shows a component, or null.
+  [[nodiscard]] QObject* Find(const Component& component) const;
+  /// What the screen shows of a property, as its text; nothing for what is not to be seen.
+  [[nodiscard]] std::optional<std::string> Read(const PropertyBase& property) const;
+
+ private:
+  void Show(Form& form);
+  void Unload(const Form& form);
+
+  Application& application_;
+  Clock clock_;
+  MumWindow* frame_ = nullptr;
+  std::vector<std::unique_ptr<FormView>> views_;
+  std::vector<Connection> connections_;
+};
+
+}  // namespace tarvik::screen

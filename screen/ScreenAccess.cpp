@@ -1,0 +1,186 @@
+#include "screen/ScreenAccess.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QListView>
+#include <QMenu>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QTabBar>
+
+#include "screen/PaneView.h"
+#include "screen/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+void Settle() { QApplication::processEvents(); }
+
+/// Where mouse events of a widget arrive.
+QWidget& Surface(QWidget& widget) {
+  auto* const area = qobject_cast<QAbstractScrollArea*>(&widget);
+  return area ? *area->viewport() : widget;
+}
+
+/// Its middle, or that of the item in hand, or where the caret stands in text.
+QPointF PlaceToClick(QWidget& widget) {
+  if (auto* const pane = dynamic_cast<PaneView*>(&widget)) {
+    pane->ensureCursorVisible();
+    return pane->cursorRect().center();
+  }
+  const auto* const list = qobject_cast<QListView*>(&widget);
+  if (list && list->currentIndex().isValid()) return list->visualRect(list->currentIndex()).center();
+  return Surface(widget).rect().center();
+}
+
+void SendMouse(QWidget& surface, QEvent::Type type, const QPointF& place, Qt::MouseButton button) {
+  const Qt::MouseButtons down = type == QEvent::MouseButtonRelease ? Qt::NoButton : button;
+  QMouseEvent event(type, place, surface.mapToGlobal(place), button, down, Qt::NoModifier);
+  QApplication::sendEvent(&surface, &event);
+}
+
+/// The enabled menu entry that a key runs.
+QAction* ActionOf(const QWidget& widget, QKeyCombination key) {
+  for (QAction* action : widget.window()->findChildren<QAction*>()) {
+    if (action->isEnabled() && action->isVisible() && action->shortcut() == QKeySequence(key)) return action;
+  }
+  return nullptr;
+}
+
+/// What a key types with these modifiers.
+QString TextOfKey(QKeyCombination key) {
+  const int code = key.key();
+  if (code == Qt::Key_Return) return QStringLiteral("\r");
+  if (code == Qt::Key_Backspace) return QStringLiteral("\b");
+  if (code == Qt::Key_Tab) return QStringLiteral("\t");
+  if (code == Qt::Key_Escape) return QStringLiteral("\x1b");
+  const bool letter = code >= Qt::Key_A && code <= Qt::Key_Z;
+  if (key.keyboardModifiers() == Qt::ControlModifier) return letter ? QString(QChar(code - '@')) : QString();
+  if (code > 0xFF || key.keyboardModifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) return {};
+  const QString text(QChar(static_cast<char16_t>(code)));
+  return key.keyboardModifiers() & Qt::ShiftModifier ? text : text.toLower();
+}
+
+}  // namespace
+
+QWidget* ScreenAccess::WidgetOf(const Component& component) const {
+  auto* const widget = qobject_cast<QWidget*>(screen_.Find(component));
+  return widget && widget->isVisible() && widget->isEnabled() ? widget : nullptr;
+}
+
+void ScreenAccess::ClickAt(Component& component, Qt::MouseButton button, bool twice) {
+  QWidget* const widget = WidgetOf(component);
+  if (!widget) return;
+  if (widget->focusPolicy() & Qt::ClickFocus) widget->setFocus(Qt::MouseFocusReason);
+  QWidget& surface = Surface(*widget);
+  const QPointF place = PlaceToClick(*widget);
+  SendMouse(surface, QEvent::MouseButtonPress, place, button);
+  SendMouse(surface, QEvent::MouseButtonRelease, place, button);
+  if (twice) {
+    SendMouse(surface, QEvent::MouseButtonDblClick, place, button);
+    SendMouse(surface, QEvent::MouseButtonRelease, place, button);
+  }
+  Settle();
+}
+
+void ScreenAccess::Click(Component& component) {
+  auto* const action = qobject_cast<QAction*>(screen_.Find(component));
+  if (!action) {
+    ClickAt(component, Qt::LeftButton, false);
+    return;
+  }
+  if (action->isVisible()) action->trigger();
+  while (QWidget* const popUp = QApplication::activePopupWidget()) popUp->close();
+  Settle();
+}
+
+void ScreenAccess::DoubleClick(Component& component) { ClickAt(component, Qt::LeftButton, true); }
+void ScreenAccess::RightClick(Component& component) { ClickAt(component, Qt::RightButton, false); }
+
+void ScreenAccess::Focus(Component& component) {
+  if (QWidget* const widget = WidgetOf(component)) widget->setFocus(Qt::TabFocusReason);
+  Settle();
+}
+
+bool ScreenAccess::Pick(Component& component, int index) {
+  QWidget* const widget = WidgetOf(component);
+  if (!widget || index < 0) return false;
+  if (auto* const list = qobject_cast<QListView*>(widget)) {
+    const QModelIndex item = list->model()->index(index, 0);
+    if (!item.isValid()) return false;
+    list->setCurrentIndex(item);
+    ClickAt(component, Qt::LeftButton, false);
+  } else if (auto* const combo = qobject_cast<QComboBox*>(widget)) {
+    if (index >= combo->count()) return false;
+    combo->setCurrentIndex(index);
+    Q_EMIT combo->activated(index);
+  } else if (auto* const tabs = qobject_cast<QTabBar*>(widget)) {
+    if (index >= tabs->count()) return false;
+    SendMouse(*tabs, QEvent::MouseButtonPress, tabs->tabRect(index).center(), Qt::LeftButton);
+    SendMouse(*tabs, QEvent::MouseButtonRelease, tabs->tabRect(index).center(), Qt::LeftButton);
+  } else {
+    return false;
+  }
+  Settle();
+  return true;
+}
+
+void ScreenAccess::Press(QWidget& widget, QKeyCombination key, const QString& text) {
+  QKeyEvent first(QEvent::ShortcutOverride, key.key(), key.keyboardModifiers(), text);
+  first.ignore();
+  QApplication::sendEvent(&widget, &first);
+  QAction* const action = first.isAccepted() ? nullptr : ActionOf(widget, key);
+  if (action) {
+    action->trigger();
+    return;
+  }
+  QKeyEvent down(QEvent::KeyPress, key.key(), key.keyboardModifiers(), text);
+  QApplication::sendEvent(&widget, &down);
+  QKeyEvent up(QEvent::KeyRelease, key.key(), key.keyboardModifiers(), text);
+  QApplication::sendEvent(&widget, &up);
+}
+
+void ScreenAccess::Type(Pane& pane, std::string_view text) {
+  QWidget* const widget = WidgetOf(pane);
+  if (!widget) return;
+  widget->setFocus();
+  for (const QChar character : ToScreen(text)) {
+    const bool enter = character == u'\n';
+    const auto key = enter ? Qt::Key_Return : static_cast<Qt::Key>(character.toUpper().unicode());
+    const bool upper = character.isUpper();
+    Press(*widget, QKeyCombination(upper ? Qt::ShiftModifier : Qt::NoModifier, key),
+          enter ? QStringLiteral("\r") : QString(character));
+  }
+  Settle();
+}
+
+void ScreenAccess::PressKey(Component& component, std::string_view chord) {
+  QWidget* widget = WidgetOf(component);
+  if (!widget) return;
+  if (widget->focusPolicy() != Qt::NoFocus) widget->setFocus();
+  const QKeySequence sequence(ToScreen(chord));
+  if (sequence.isEmpty()) return;
+  Press(*widget, sequence[0], TextOfKey(sequence[0]));
+  Settle();
+}
+
+void ScreenAccess::Drop(ListBox& from, Pane& to, std::size_t position) {
+  auto* const view = dynamic_cast<PaneView*>(WidgetOf(to));
+  if (!view || !WidgetOf(from)) return;
+  from.OLEStartDrag();
+  QMimeData data;
+  data.setText(ToScreen(from.DragText.Get()));
+  const QRect caret = view->CaretAt(position);
+  QDragEnterEvent enter(caret.center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(view->viewport(), &enter);
+  QDropEvent drop(QPointF(caret.center()), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(view->viewport(), &drop);
+  Settle();
+}
+
+void ScreenAccess::Close(const Form& form) {
+  if (FormView* const view = screen_.ViewOf(form)) view->CloseByUser();
+  Settle();
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,50 @@
+// A user's hands and eyes on real widgets, for session tests: mouse and keys go to the widget that shows a
+// component, and what it shows is read back.
+#pragma once
+
+#include <QKeyEvent>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "panes/Pane.h"
+#include "screen/Screen.h"
+
+namespace tarvik::screen {
+
+/// Each act returns when all that follows from it has happened. On what is hidden or disabled it does
+/// nothing.
+class ScreenAccess {
+ public:
+  explicit ScreenAccess(Screen& screen) : screen_(screen) {}
+
+  /// With the left button; menu entries are chosen.
+  void Click(Component& component);
+  void DoubleClick(Component& component);
+  void RightClick(Component& component);
+  /// Gives the focus.
+  void Focus(Component& component);
+  /// An item of a list, drop-down list or tab strip, from 0. False when it is not there.
+  bool Pick(Component& component, int index);
+  /// Key by key.
+  void Type(Pane& pane, std::string_view text);
+  /// "Ctrl+Z", "F8", "Return".
+  void PressKey(Component& component, std::string_view chord);
+  /// Drags the list's current item as text to a position in a pane.
+  void Drop(ListBox& from, Pane& to, std::size_t position);
+  /// The window's close box.
+  void Close(const Form& form);
+
+  [[nodiscard]] std::optional<std::string> Read(const PropertyBase& property) const {
+    return screen_.Read(property);
+  }
+
+ private:
+  [[nodiscard]] QWidget* WidgetOf(const Component& component) const;
+  void ClickAt(Component& component, Qt::MouseButton button, bool twice);
+  void Press(QWidget& widget, QKeyCombination key, const QString& text);
+
+  Screen& screen_;
+};
+
+}  // namespace tarvik::screen

@@ -1,0 +1,29 @@
+// Text on its way between the program's code page and the screen. Every view and dialog uses it, and the
+// panes rely on every byte having one character of its own.
+#pragma once
+
+#include <QColor>
+#include <QString>
+#include <string>
+#include <string_view>
+
+#include "panes/RichText.h"
+
+namespace tarvik::screen {
+
+/// The character that stands for a byte on screen: that of the code page, and the control picture of its
+/// number for a control character other than the tab. No two bytes share one.
+[[nodiscard]] QChar ToScreen(char byte);
+[[nodiscard]] char FromScreen(QChar character);
+
+/// CR LF becomes one line feed.
+[[nodiscard]] QString ToScreen(std::string_view text);
+/// Line and paragraph ends become CR LF; each character that the code page lacks becomes one "?".
+[[nodiscard]] std::string FromScreen(QStringView text);
+/// The text as it would come back: without what the code page lacks.
+[[nodiscard]] QString AsWritten(QStringView text);
+
+[[nodiscard]] QColor ToScreenColour(Colour colour);
+[[nodiscard]] Colour FromScreenColour(const QColor& colour);
+
+}  // namespace tarvik::screen

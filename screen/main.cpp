@@ -1,0 +1,94 @@
+// The program: the real services, the screen, and the forms between them.
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QScreen>
+#include <QStyleFactory>
+#include <filesystem>
+
+#include "app/Application.h"
+#include "platform/CodePage.h"
+#include "platform/HostFiles.h"
+#include "platform/InstanceLock.h"
+#include "platform/ProfileFile.h"
+#include "screen/Icons.h"
+#include "screen/QtDialogs.h"
+#include "screen/Screen.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace tarvik;
+
+constexpr std::size_t kLongestPath = 4096;
+
+QByteArray ContentOf(const fs::path& path) {
+  QFile file(QFile::decodeName(path.c_str()));
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The folders of the drives, from the settings file beside the executable. Drive c is a folder beside it too
+/// where nothing else is said.
+Drives::Folders DriveFolders(const fs::path& home) {
+  const Profile profile(ContentOf(home / "Tarvik.ini").toStdString());
+  Drives::Folders folders;
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    const std::string folder = profile.GetString("Drives", std::string(1, letter), "", kLongestPath);
+    if (!folder.empty()) folders[letter] = folder;
+  }
+  if (!folders.contains('c')) {
+    const fs::path own = home / "drive_c";
+    std::error_code ignored;  // a program in a folder that cannot be written to has an empty drive c
+    fs::create_directory(own, ignored);
+    folders['c'] = own.string();
+  }
+  return folders;
+}
+
+/// A file that is there is passed on by its path on the drives, anything else as it is.
+std::string CommandLine(const QStringList& arguments, Drives& drives) {
+  std::error_code ignored;
+  if (arguments.size() == 1) {
+    const fs::path host = QFile::encodeName(arguments.constFirst()).toStdString();
+    if (fs::exists(host, ignored)) return drives.FromHost(fs::absolute(host));
+  }
+  return FromUtf8(arguments.join(u' ').toStdString());
+}
+
+ScreenSize SizeOfScreen() {
+  const QSize size = QGuiApplication::primaryScreen()->size();
+  return {static_cast<float>(size.width()) * screen::kTwips,
+          static_cast<float>(size.height()) * screen::kTwips};
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  QApplication toolkit(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Tarvik"));
+  QApplication::setDesktopFileName(QStringLiteral("tarvik"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  screen::ChooseIconTheme();
+  QApplication::setWindowIcon(screen::Icon("tarvik"));
+
+  const fs::path home = QFile::encodeName(QApplication::applicationDirPath()).toStdString();
+  Drives drives(DriveFolders(home));
+  HostFiles files(drives);
+  screen::QtDialogs dialogs(drives);
+  InstanceLock lock(home / "tarvik.lock");
+  Platform platform{files,
+                    dialogs,
+                    lock,
+                    SizeOfScreen(),
+                    drives.FromHost(home),
+                    CommandLine(QApplication::arguments().mid(1), drives)};
+
+  Application application(platform);
+  screen::Screen screen(application, screen::Clock::Real);
+  const Connection ended = application.HasEnded.Connect([] {
+    QMetaObject::invokeMethod(
+        qApp, [] { qApp->quit(); }, Qt::QueuedConnection);
+  });
+  if (!application.Start() || application.Ended()) return 0;
+  return QApplication::exec();
+}

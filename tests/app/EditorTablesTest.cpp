@@ -1,0 +1,143 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "app/EditorTables.h"
+#include "app/Program.h"
+
+namespace tarvik {
+namespace {
+
+using Row = MenuRow<Editor>;
+
+bool HasHandler(const Row& row) { return row.handler || row.indexedHandler; }
+
+std::string FullName(const Row& row) {
+  return row.index < 0 ? row.name : std::string(row.name) + "(" + TextOf(row.index) + ")";
+}
+
+std::vector<const Row*> AllRows() {
+  std::vector<const Row*> rows;
+  for (const Row& row : tables::kMenus) rows.push_back(&row);
+  for (const Row& row : tables::kPopUps) rows.push_back(&row);
+  return rows;
+}
+
+const Row* MenuRowOf(std::string_view entry) {
+  for (const Row& row : tables::kMenus) {
+    if (row.name == entry) return &row;
+  }
+  return nullptr;
+}
+
+/// A table's row with the rows under which it stands, itself last.
+template <std::size_t N>
+std::vector<const Row*> WayTo(const Row (&table)[N], const Row& row) {
+  std::vector<const Row*> way = {&row};
+  for (const Row* above = &row; way.front()->level > 0 && above != table;) {
+    --above;
+    if (above->level < way.front()->level) way.insert(way.begin(), above);
+  }
+  return way;
+}
+
+TEST(EditorTables, NoShortcutIsGivenTwice) {
+  std::set<std::string> seen;
+  for (const Row& row : tables::kMenus) {
+    const std::string shortcut = row.shortcut;
+    if (shortcut.empty()) continue;
+    EXPECT_TRUE(seen.insert(shortcut).second) << shortcut << " of " << FullName(row);
+    EXPECT_THAT(shortcut, testing::MatchesRegex("Ctrl\\+[A-Z]|F[0-9]+"));
+  }
+}
+
+TEST(EditorTables, EveryEntryHasANameOfItsOwn) {
+  std::set<std::string> seen;
+  for (const Row* row : AllRows()) EXPECT_TRUE(seen.insert(FullName(*row)).second) << FullName(*row);
+}
+
+TEST(EditorTables, EveryMenuIsOneLevelBelowItsOwnAtMost) {
+  int level = -1;
+  for (const Row* row : AllRows()) {
+    EXPECT_LE(row->level, level + 1) << FullName(*row);
+    level = row->level;
+  }
+}
+
+TEST(EditorTables, EveryToolbarButtonRunsAnEntry) {
+  for (const tables::ToolbarRow& row : tables::kToolbar) {
+    EXPECT_TRUE(MenuRowOf(row.entry)) << row.button << " " << row.entry;
+    EXPECT_TRUE(!row.macroEntry || MenuRowOf(row.macroEntry)) << row.button << " " << row.macroEntry;
+  }
+}
+
+TEST(EditorTables, EveryToolbarButtonIsThereOnceAndNotUnderTheSwatch) {
+  std::set<int> seen;
+  for (const tables::ToolbarRow& row : tables::kToolbar) {
+    EXPECT_TRUE(seen.insert(row.button).second) << row.button;
+    EXPECT_THAT(row.button, testing::AllOf(testing::Ge(1), testing::Le(kToolbarButtons)));
+    EXPECT_NE(row.button, kSwatchButton);
+    EXPECT_STRNE(row.icon, "") << row.button;
+  }
+}
+
+TEST(EditorTables, ATipTellsTheShortcutOfItsEntry) {
+  for (const tables::ToolbarRow& row : tables::kToolbar) {
+    const std::string tip = row.tip;
+    const Row* entry = MenuRowOf(row.entry);
+    ASSERT_TRUE(entry);
+    const std::size_t bracket = tip.find('(');
+    const std::string told =
+        bracket == std::string::npos ? "" : tip.substr(bracket + 1, tip.size() - bracket - 2);
+    if (told.empty()) continue;
+    EXPECT_EQ(told, entry->shortcut) << tip;
+  }
+}
+
+class EditorTablesInUse : public testing::Test {
+ protected:
+  /// True when a user gets there: every menu on the way can be opened.
+  template <std::size_t N>
+  static bool IsOpen(const Menus& menus, const Row (&table)[N], const Row& row) {
+    for (const Row* step : WayTo(table, row)) {
+      const auto index = step->index < 0 ? std::optional<int>() : step->index;
+      const MenuItem& item = menus(step->name, index);
+      if (!item.Enabled || !item.Visible) return false;
+    }
+    return true;
+  }
+
+  Program program;
+  Editor& editor = program.editor();
+};
+
+TEST_F(EditorTablesInUse, EachEntryWithAHandlerCanBeReachedAndTheOthersCannot) {
+  editor.JoystickText.UserReplaced({0, 0}, "a");
+  editor.mnuEditUndo_Click();
+  editor.JoystickText.UserReplaced({0, 0}, "b");
+  editor.JoystickText.UserReplaced({1, 0}, "c");
+  editor.mnuEditUndo_Click();  // now both undo and redo have something to do
+  const auto check = [](const Menus& menus, const auto& table) {
+    for (std::size_t i = 0; i < std::size(table); ++i) {
+      const Row& row = table[i];
+      const bool opensMenu = i + 1 < std::size(table) && table[i + 1].level > row.level;
+      EXPECT_EQ(IsOpen(menus, table, row), HasHandler(row) || opensMenu) << FullName(row);
+      EXPECT_FALSE(HasHandler(row) && opensMenu) << FullName(row);
+      EXPECT_FALSE(HasHandler(row) && row.caption == MenuItem::kDivider) << FullName(row);
+    }
+  };
+  check(editor.menus, tables::kMenus);
+  check(editor.popUps, tables::kPopUps);
+}
+
+TEST_F(EditorTablesInUse, AToolbarButtonCanBeClickedWhenItsEntryCan) {
+  for (const tables::ToolbarRow& row : tables::kToolbar) {
+    EXPECT_EQ(program.application.mum().Toolbar1.Buttons(row.button).Enabled.Get(),
+              editor.menus(row.entry).Enabled.Get())
+        << row.tip;
+  }
+}
+
+}  // namespace
+}  // namespace tarvik

@@ -1,0 +1,258 @@
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <string>
+#include <vector>
+
+#include "platform/HostFiles.h"
+#include "platform/InstanceLock.h"
+#include "platform/TemporaryFolder.h"
+
+namespace tarvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+class HostFilesTest : public testing::Test {
+ protected:
+  HostFilesTest() { temporary.Make("dos"); }
+  ~HostFilesTest() override { fs::permissions(temporary.path() / "dos", fs::perms::owner_all); }
+
+  fs::path Host(const std::string& name) const { return temporary.path() / "dos" / name; }
+  std::string Content(const std::string& name) const { return TemporaryFolder::Content(Host(name)); }
+
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(Host("")))
+      names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+  TemporaryFolder temporary;
+  Drives drives{{{'c', Host("").string()}}};
+  HostFiles files{drives};
+};
+
+TEST_F(HostFilesTest, WhatWasWrittenIsReadByteForByte) {
+  const std::string content("BTN S1\r\n\0\x1A\xFF", 11);
+  ASSERT_TRUE(files.Write("c:\\A.B50", content));
+  EXPECT_EQ(*files.Read("c:\\a.b50"), content);
+  EXPECT_EQ(Names(), std::vector<std::string>{"a.b50"});
+}
+
+TEST_F(HostFilesTest, LargeAndEmptyFilesAreReadWhole) {
+  const std::string large(3'000'000, 'x');
+  ASSERT_TRUE(files.Write("c:\\large", large));
+  ASSERT_TRUE(files.Write("c:\\empty", ""));
+  EXPECT_EQ(*files.Read("c:\\large"), large);
+  EXPECT_EQ(*files.Read("c:\\empty"), "");
+}
+
+TEST_F(HostFilesTest, FilesAndFoldersAreToldApart) {
+  temporary.Put("dos/TM/a.b50", "");
+  EXPECT_TRUE(files.FileExists("c:\\tm\\a.b50"));
+  EXPECT_FALSE(files.FolderExists("c:\\tm\\a.b50"));
+  EXPECT_TRUE(files.FolderExists("c:\\tm"));
+  EXPECT_TRUE(files.FolderExists("c:\\tm\\"));
+  EXPECT_FALSE(files.FileExists("c:\\tm"));
+  EXPECT_FALSE(files.FileExists(""));
+  EXPECT_FALSE(files.FileExists("c:\\tm\\*.*"));
+}
+
+TEST_F(HostFilesTest, ReadingWhatIsNoFileFails) {
+  EXPECT_EQ(files.Read("c:\\none").failure().number, error::kFileNotFound);
+  EXPECT_EQ(files.Read("c:\\none").failure().systemCode, ENOENT);
+  temporary.Make("dos/tm");
+  EXPECT_EQ(files.Read("c:\\tm").failure().number, error::kPathAccess);
+  ASSERT_EQ(mkfifo(Host("pipe").c_str(), 0600), 0);
+  EXPECT_EQ(files.Read("c:\\pipe").failure().number, error::kPathAccess);
+}
+
+TEST_F(HostFilesTest, AnUnreadableFileFails) {
+  if (geteuid() == 0) GTEST_SKIP() << "everything is readable for root";
+  temporary.Put("dos/a.b50", "secret");
+  fs::permissions(Host("a.b50"), fs::perms::none);
+  EXPECT_EQ(files.Read("c:\\a.b50").failure().number, error::kPathAccess);
+}
+
+TEST_F(HostFilesTest, AWriteKeepsTheModeAndTheOwner) {
+  temporary.Put("dos/a.b50", "old");
+  ASSERT_EQ(chmod(Host("a.b50").c_str(), 0640), 0);
+  if (geteuid() == 0) {
+    ASSERT_EQ(chown(Host("a.b50").c_str(), 1234, 2345), 0);
+  }
+  struct stat before {};
+  struct stat after {};
+  ASSERT_EQ(stat(Host("a.b50").c_str(), &before), 0);
+  ASSERT_TRUE(files.Write("c:\\a.b50", "new"));
+  ASSERT_EQ(stat(Host("a.b50").c_str(), &after), 0);
+  EXPECT_EQ(after.st_mode, before.st_mode);
+  EXPECT_EQ(after.st_uid, before.st_uid);
+  EXPECT_EQ(after.st_gid, before.st_gid);
+  EXPECT_EQ(Content("a.b50"), "new");
+}
+
+TEST_F(HostFilesTest, ANewFileHasTheModeOfAnyNewFile) {
+  temporary.Put("dos/other", "");
+  ASSERT_TRUE(files.Write("c:\\a.b50", "new"));
+  EXPECT_EQ(fs::status(Host("a.b50")).permissions(), fs::status(Host("other")).permissions());
+}
+
+TEST_F(HostFilesTest, ALinkStaysALink) {
+  temporary.Put("elsewhere/a.b50", "old");
+  fs::create_symlink("../elsewhere/a.b50", Host("second"));
+  fs::create_symlink(Host("second"), Host("First"));
+  ASSERT_TRUE(files.Write("c:\\first", "new"));
+  EXPECT_TRUE(fs::is_symlink(Host("First")));
+  EXPECT_TRUE(fs::is_symlink(Host("second")));
+  EXPECT_EQ(TemporaryFolder::Content(temporary.path() / "elsewhere/a.b50"), "new");
+}
+
+TEST_F(HostFilesTest, ALinkWithoutTargetGetsItsTarget) {
+  fs::create_symlink("target", Host("link"));
+  ASSERT_TRUE(files.Write("c:\\link", "new"));
+  EXPECT_TRUE(fs::is_symlink(Host("link")));
+  EXPECT_EQ(Content("target"), "new");
+}
+
+TEST_F(HostFilesTest, ALoopOfLinksCannotBeWritten) {
+  fs::create_symlink("a", Host("b"));
+  fs::create_symlink("b", Host("a"));
+  EXPECT_EQ(files.Write("c:\\a", "new").failure().systemCode, ELOOP);
+}
+
+TEST_F(HostFilesTest, AReadOnlyFileStaysAsItIs) {
+  temporary.Put("dos/a.b50", "old");
+  fs::create_symlink("a.b50", Host("link"));
+  ASSERT_EQ(chmod(Host("a.b50").c_str(), 0444), 0);
+  for (const char* path : {"c:\\a.b50", "c:\\link"}) {
+    const auto written = files.Write(path, "new");
+    ASSERT_FALSE(written);
+    EXPECT_EQ(written.failure().number, error::kPathAccess);
+    EXPECT_EQ(written.failure().systemCode, EACCES);
+    EXPECT_EQ(written.failure().text, "Permission denied");
+  }
+  EXPECT_EQ(Content("a.b50"), "old");
+}
+
+TEST_F(HostFilesTest, InAReadOnlyFolderTheOldFileStays) {
+  temporary.Put("dos/a.b50", "old");
+  ASSERT_EQ(chmod(Host("").c_str(), 0555), 0);
+  EXPECT_EQ(files.Write("c:\\a.b50", "new").failure().number, error::kPathAccess);
+  EXPECT_EQ(files.Write("c:\\b.b50", "new").failure().number, error::kPathAccess);
+  EXPECT_EQ(files.MakeFolder("c:\\tm").failure().number, error::kPathAccess);
+  EXPECT_EQ(Content("a.b50"), "old");
+  EXPECT_EQ(Names(), std::vector<std::string>{"a.b50"});
+}
+
+TEST_F(HostFilesTest, AFolderInTheWayStays) {
+  temporary.Make("dos/a.b50");
+  EXPECT_EQ(files.Write("c:\\a.b50", "new").failure().number, error::kPathAccess);
+  EXPECT_TRUE(files.FolderExists("c:\\a.b50"));
+  EXPECT_EQ(Names(), std::vector<std::string>{"a.b50"});
+}
+
+TEST_F(HostFilesTest, ADeviceOrPipeIsNotReplaced) {
+  ASSERT_EQ(mkfifo(Host("pipe").c_str(), 0600), 0);
+  EXPECT_EQ(files.Write("c:\\pipe", "new").failure().number, error::kPathAccess);
+  EXPECT_TRUE(fs::is_fifo(Host("pipe")));
+}
+
+TEST_F(HostFilesTest, WritingIntoAMissingFolderFails) {
+  EXPECT_EQ(files.Write("c:\\none\\a.b50", "new").failure().number, error::kPathNotFound);
+  EXPECT_EQ(files.Write("q:\\a.b50", "new").failure().number, error::kPathNotFound);
+  EXPECT_EQ(files.Write("", "new").failure().number, error::kPathNotFound);
+}
+
+TEST_F(HostFilesTest, WhenTheDiskTakesNoMoreTheOldFileStaysAndNothingElseIsLeft) {
+  temporary.Put("dos/a.b50", "old");
+  const pid_t child = fork();
+  if (child == 0) {
+    const rlimit limit{1000, 1000};
+    signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &limit);
+    const auto written = files.Write("c:\\a.b50", std::string(5000, 'x'));
+    _exit(written ? 0 : written.failure().number);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(WEXITSTATUS(status), error::kDiskFull);
+  EXPECT_EQ(Content("a.b50"), "old");
+  EXPECT_EQ(Names(), std::vector<std::string>{"a.b50"});
+}
+
+TEST_F(HostFilesTest, WhatACrashedProcessLeftIsNotTakenOver) {
+  const std::string leftover = ".tarvik-" + std::to_string(getpid()) + "-0";
+  temporary.Put("dos/" + leftover, "left");
+  ASSERT_TRUE(files.Write("c:\\a.b50", "new"));
+  EXPECT_EQ(Content(leftover), "left");
+  EXPECT_EQ(Content("a.b50"), "new");
+}
+
+TEST_F(HostFilesTest, OfTwoNamesThatDifferInCaseThePickedOneIsWritten) {
+  temporary.Put("dos/a.b50", "lower");
+  const std::string path = drives.FromHost(temporary.Put("dos/A.b50", "upper"));
+  ASSERT_TRUE(files.Write(path, "new"));
+  EXPECT_EQ(Content("A.b50"), "new");
+  EXPECT_EQ(Content("a.b50"), "lower");
+}
+
+TEST_F(HostFilesTest, AFileOutsideTheCodePageIsWrittenUnderItsName) {
+  const std::string path = drives.FromHost(temporary.Put("dos/\u2603.b50", "old"));
+  ASSERT_TRUE(files.Write(path, "new"));
+  EXPECT_EQ(Names(), std::vector<std::string>{"\u2603.b50"});
+  EXPECT_EQ(*files.Read(path), "new");
+}
+
+TEST_F(HostFilesTest, AFolderIsMadeInLowerCaseInAnExistingOne) {
+  EXPECT_TRUE(files.MakeFolder("c:\\TM\\"));
+  EXPECT_TRUE(fs::is_directory(Host("tm")));
+  EXPECT_FALSE(files.MakeFolder("c:\\tm"));
+  EXPECT_EQ(files.MakeFolder("c:\\none\\f22").failure().number, error::kPathNotFound);
+}
+
+TEST_F(HostFilesTest, TheCurrentDriveDecidesWhereAPathWithoutOneLeads) {
+  temporary.Put("dos/a.b50", "");
+  EXPECT_TRUE(files.FileExists("\\a.b50"));
+  ASSERT_TRUE(files.ChangeDrive("z:\\"));
+  EXPECT_FALSE(files.FileExists("\\a.b50"));
+  EXPECT_FALSE(files.ChangeDrive("q:\\"));
+}
+
+TEST(InstanceLock, OnlyOneOfTwoGetsTheLock) {
+  const TemporaryFolder folder;
+  InstanceLock second(folder.path() / "tarvik.lock");
+  {
+    InstanceLock first(folder.path() / "tarvik.lock");
+    EXPECT_TRUE(first.Acquire());
+    EXPECT_TRUE(first.Acquire());
+    EXPECT_FALSE(second.Acquire());
+  }
+  EXPECT_TRUE(second.Acquire());
+}
+
+TEST(InstanceLock, AProcessThatEndsGivesTheLockBack) {
+  const TemporaryFolder folder;
+  InstanceLock lock(folder.path() / "tarvik.lock");
+  const pid_t child = fork();
+  if (child == 0) _exit(lock.Acquire() ? 0 : 1);
+  int status = 1;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  EXPECT_TRUE(lock.Acquire());
+}
+
+TEST(InstanceLock, WhereNoLockFileCanBeMadeTheProgramStartsAllTheSame) {
+  InstanceLock lock("/proc/none/tarvik.lock");
+  EXPECT_TRUE(lock.Acquire());
+}
+
+}  // namespace
+}  // namespace tarvik

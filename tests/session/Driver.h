@@ -1,0 +1,37 @@
+// How a session acts as a user and reads what a user sees: on the forms themselves, or on real widgets.
+#pragma once
+
+#include <memory>
+
+#include "app/Application.h"
+#include "panes/Pane.h"
+
+namespace tarvik::session {
+
+class Driver {
+ public:
+  virtual ~Driver() = default;
+
+  /// These fail (false) when the user could not do it: the control is disabled or hidden.
+  virtual bool Click(Component& control) = 0;
+  virtual bool DoubleClick(Component& control) = 0;
+  virtual bool RightClick(Component& control) = 0;
+  virtual bool Pick(Component& control, int index) = 0;
+  virtual bool Type(Pane& pane, std::string_view text) = 0;
+  /// A key such as "Ctrl+Z", "Return", "Shift+Right", "F8".
+  virtual bool PressKey(Component& control, std::string_view chord) = 0;
+  /// The close box of a window.
+  virtual void Close(Form& form) = 0;
+  virtual void Drop(ListBox& from, Pane& pane, std::size_t position) = 0;
+  /// What is on show of the property, as its text.
+  virtual std::string Read(const PropertyBase& property) = 0;
+  /// Lets what is pending happen, before something is expected.
+  virtual void Settle() {}
+};
+
+/// Acts on the forms, with no screen.
+std::unique_ptr<Driver> MakeFormDriver(Application& application);
+/// Acts on widgets; there must be a QApplication.
+std::unique_ptr<Driver> MakeScreenDriver(Application& application);
+
+}  // namespace tarvik::session

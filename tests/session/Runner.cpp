@@ -1,0 +1,460 @@
+#include "session/Runner.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "app/Editor.h"
+#include "platform/CodePage.h"
+
+namespace tarvik::session {
+namespace {
+
+constexpr const char* kFolder = "c:\\tarvik";
+
+/// Thrown out of a command that cannot go on; its text is the failure.
+struct Stop {
+  std::string text;
+};
+
+std::string FromHex(const std::vector<std::string>& words, std::size_t first) {
+  std::string bytes;
+  for (std::size_t i = first; i < words.size(); ++i)
+    bytes += static_cast<char>(std::stoi(words[i], nullptr, 16));
+  return bytes;
+}
+
+std::string ToHex(std::string_view bytes) {
+  std::ostringstream text;
+  text << std::hex << std::uppercase;
+  for (const char c : bytes) text << (static_cast<unsigned char>(c) < 16 ? "0" : "") << (c & 0xFF) << ' ';
+  std::string result = text.str();
+  if (!result.empty()) result.pop_back();
+  return result;
+}
+
+std::string FileContent(const Line& line) {
+  const bool open = line.words.back() == "open";  // the last line has no line end
+  return line.block.empty() ? "" : Joined(line.block) + (open ? "" : "\r\n");
+}
+
+}  // namespace
+
+Runner::Runner(MakeDriver makeDriver, const std::string& dataFolder) : makeDriver_(std::move(makeDriver)) {
+  namespace fs = std::filesystem;
+  files_.PutFolder(kFolder);
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(dataFolder)) {
+    if (!entry.is_regular_file()) continue;
+    std::ifstream in(entry.path(), std::ios::binary);
+    const std::string content{std::istreambuf_iterator<char>(in), {}};
+    std::string name = fs::relative(entry.path(), dataFolder).string();
+    std::replace(name.begin(), name.end(), '/', '\\');
+    files_.Put(std::string(kFolder) + "\\" + name, content);
+  }
+}
+
+Runner::~Runner() {
+  driver_.reset();
+  application_.reset();
+}
+
+std::vector<std::string> Runner::Run(std::string_view script) {
+  const std::vector<Line> lines = ParseScript(script);
+  for (const Line& line : lines) {
+    line_ = &line;
+    try {
+      Step(line);
+    } catch (const Stop& stop) {
+      Fail(stop.text);
+    }
+  }
+  for (const MessageBox& box : dialogs_.boxes)
+    Fail("an unexpected box: \"" + box.title + "\" \"" + box.text + "\"");
+  if (!dialogs_.answers.empty()) Fail("an answer that no box took");
+  return failures_;
+}
+
+const std::map<std::string_view, Runner::Command>& Runner::Commands() {
+  static const std::map<std::string_view, Command> commands = {
+      {"file", &Runner::File},
+      {"bytes", &Runner::Bytes},
+      {"folder", &Runner::Folder},
+      {"readonly", &Runner::ReadOnly},
+      {"remove", &Runner::Remove},
+      {"ini", &Runner::Ini},
+      {"room", &Runner::DiskRoom},
+      {"start", &Runner::Start},
+      {"close", &Runner::Close},
+      {"killed", &Runner::Killed},
+      {"wait", &Runner::Wait},
+      {"click", &Runner::Click},
+      {"dblclick", &Runner::DoubleClick},
+      {"rightclick", &Runner::RightClick},
+      {"focus", &Runner::Focus},
+      {"pick", &Runner::Pick},
+      {"type", &Runner::Type},
+      {"key", &Runner::PressKey},
+      {"drag", &Runner::Drag},
+      {"mouse", &Runner::Mouse},
+      {"set", &Runner::Set},
+      {"call", &Runner::Call},
+      {"choose", &Runner::Choose},
+      {"answer", &Runner::AnswerBox},
+      {"expect", &Runner::Expect},
+  };
+  return commands;
+}
+
+const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
+  static const std::map<std::string_view, Command> expectations = {
+      {"value", &Runner::ExpectValue},   {"box", &Runner::ExpectBox},
+      {"dialog", &Runner::ExpectDialog}, {"file", &Runner::ExpectFile},
+      {"bytes", &Runner::ExpectBytes},   {"no", &Runner::ExpectNo},
+      {"folder", &Runner::ExpectFolder}, {"ini", &Runner::ExpectIni},
+      {"colour", &Runner::ExpectColour}, {"colours", &Runner::ExpectColours},
+      {"ended", &Runner::ExpectEnded},   {"running", &Runner::ExpectRunning},
+  };
+  return expectations;
+}
+
+void Runner::Step(const Line& line) {
+  const auto command = Commands().find(line.words[0]);
+  if (command == Commands().end()) throw Stop{"no such command"};
+  (this->*command->second)(line);
+  if (driver_) driver_->Settle();
+}
+
+void Runner::Fail(const std::string& what) {
+  failures_.push_back(std::to_string(line_->number) + ": " + line_->source + "\n    " + ToUtf8(what));
+}
+
+void Runner::Compare(const std::string& wanted, const std::string& found) {
+  if (wanted == found) return;
+  Fail("expected: " + wanted + "\n    found:    " + found);
+}
+
+const std::string& Runner::Word(const Line& line, std::size_t index) {
+  if (index >= line.words.size()) throw Stop{"a word is missing"};
+  return line.words[index];
+}
+
+/// The word at `index`, or the indented lines where there are any.
+std::string Runner::Wanted(const Line& line, std::size_t index) {
+  return line.hasBlock ? Joined(line.block) : Word(line, index);
+}
+
+Component* Runner::Find(const std::string& path) {
+  if (!application_) throw Stop{"no program runs"};
+  const std::size_t dot = std::min(path.find('.'), path.size());
+  Form* form = application_->FindForm(path.substr(0, dot));
+  if (!form) throw Stop{"no such form is loaded"};
+  Component* found = dot < path.size() ? form->Resolve(std::string_view(path).substr(dot + 1)) : form;
+  if (!found) throw Stop{"there is no " + path};
+  return found;
+}
+
+template <class T>
+T* Runner::FindAs(const std::string& path) {
+  auto* found = dynamic_cast<T*>(Find(path));
+  if (!found) throw Stop{path + " is of another kind"};
+  return found;
+}
+
+PropertyBase* Runner::FindProperty(const std::string& path) {
+  const std::size_t dot = path.rfind('.');
+  if (dot == std::string::npos) throw Stop{"a property is missing"};
+  PropertyBase* property = Find(path.substr(0, dot))->FindProperty(path.substr(dot + 1));
+  if (!property) throw Stop{"there is no property " + path};
+  return property;
+}
+
+// Before the start.
+
+void Runner::File(const Line& line) { files_.Put(Word(line, 1), FileContent(line)); }
+void Runner::Bytes(const Line& line) { files_.Put(Word(line, 1), FromHex(line.words, 2)); }
+void Runner::Folder(const Line& line) { files_.PutFolder(Word(line, 1)); }
+void Runner::ReadOnly(const Line& line) { files_.SetReadOnly(Word(line, 1)); }
+void Runner::Remove(const Line& line) { files_.Remove(Word(line, 1)); }
+
+void Runner::Ini(const Line& line) {
+  ProfileFile profile(files_, std::string(kFolder) + "\\tarvik.ini");
+  if (!profile.Write(Word(line, 1), Word(line, 2), Word(line, 3)))
+    throw Stop{"the settings file can't be written"};
+}
+
+void Runner::DiskRoom(const Line& line) {
+  if (Word(line, 1) == "enough") return files_.StopFailing();
+  files_.FailAfter(static_cast<std::size_t>(std::stoul(Word(line, 1))));
+}
+
+// The process.
+
+void Runner::Start(const Line& line) {
+  const std::string commandLine = line.words.size() > 1 ? line.words[1] : "";
+  if (application_) {
+    // A second process beside the first.
+    Platform second{files_, dialogs_, instance_, {28800, 21600}, kFolder, commandLine};
+    Application(second).Start();
+    return;
+  }
+  platform_ =
+      std::make_unique<Platform>(Platform{files_, dialogs_, instance_, {28800, 21600}, kFolder, commandLine});
+  application_ = std::make_unique<Application>(*platform_);
+  driver_ = makeDriver_(*application_);
+  application_->Start();
+}
+
+void Runner::Close(const Line& line) {
+  auto* form = FindAs<Form>(Word(line, 1));
+  driver_->Close(*form);
+  if (application_->Ended()) Killed(line);
+}
+
+void Runner::Killed(const Line&) {
+  elapsed_.clear();
+  driver_.reset();
+  application_.reset();
+  instance_.held = false;
+}
+
+void Runner::Wait(const Line& line) {
+  int left = std::stoi(Word(line, 1)) * (line.words[1].ends_with("ms") ? 1 : 1000);
+  while (application_) {
+    std::vector<Timer*> running;
+    int next = left;
+    for (const char* name : {"Mum", "Editor"}) {
+      const Form* form = application_->FindForm(name);
+      if (!form) continue;
+      for (Component* child : form->Children()) {
+        auto* timer = dynamic_cast<Timer*>(child);
+        if (!timer || !timer->Enabled || timer->Interval <= 0) continue;
+        running.push_back(timer);
+        next = std::min(next, timer->Interval - elapsed_[timer]);
+      }
+    }
+    std::erase_if(elapsed_, [&](const auto& each) {
+      return std::find(running.begin(), running.end(), each.first) == running.end();
+    });
+    left -= next;
+    for (Timer* timer : running) elapsed_[timer] += next;
+    for (Timer* timer : running) {
+      if (elapsed_[timer] < timer->Interval) continue;
+      elapsed_[timer] = 0;
+      timer->Elapsed();
+    }
+    if (left == 0) return;
+  }
+}
+
+// The user.
+
+void Runner::Click(const Line& line) {
+  if (!driver_->Click(*Find(Word(line, 1)))) throw Stop{"it is disabled or hidden"};
+  if (application_->Ended()) Killed(line);
+}
+void Runner::DoubleClick(const Line& line) {
+  Component* control = Find(Word(line, 1));
+  if (line.words.size() > 2) driver_->Pick(*control, ItemIndex(*control, line.words[2]));
+  if (!driver_->DoubleClick(*control)) throw Stop{"it can't be double clicked"};
+}
+void Runner::RightClick(const Line& line) {
+  Component* control = Find(Word(line, 1));
+  if (line.words.size() > 2) driver_->Pick(*control, ItemIndex(*control, line.words[2]));
+  if (!driver_->RightClick(*control)) throw Stop{"it can't be clicked"};
+}
+void Runner::Focus(const Line& line) { FindAs<Control>(Word(line, 1))->SetFocus(); }
+
+int Runner::ItemIndex(Component& control, const std::string& item) {
+  if (item.starts_with('#')) return std::stoi(item.substr(1));
+  std::vector<std::string> items;
+  if (auto* list = dynamic_cast<ListBox*>(&control)) items = list->List();
+  if (auto* combo = dynamic_cast<ComboBox*>(&control)) items = combo->List();
+  if (auto* strip = dynamic_cast<TabStrip*>(&control)) {
+    for (int i = 1; i <= strip->Count(); ++i) items.push_back(strip->Tabs(i).Caption);
+  }
+  const auto found = std::find(items.begin(), items.end(), item);
+  if (found == items.end()) throw Stop{"there is no item " + item};
+  return static_cast<int>(found - items.begin());
+}
+
+void Runner::Pick(const Line& line) {
+  Component* control = Find(Word(line, 1));
+  if (!driver_->Pick(*control, ItemIndex(*control, Word(line, 2)))) throw Stop{"it can't be picked"};
+}
+
+void Runner::Type(const Line& line) {
+  if (!driver_->Type(*FindAs<Pane>(Word(line, 1)), Word(line, 2))) throw Stop{"it isn't on show"};
+}
+void Runner::PressKey(const Line& line) {
+  if (!driver_->PressKey(*Find(Word(line, 1)), Word(line, 2))) throw Stop{"nothing takes the key"};
+  if (application_->Ended()) Killed(line);
+}
+
+void Runner::Drag(const Line& line) {
+  auto* list = FindAs<ListBox>(Word(line, 1));
+  driver_->Pick(*list, ItemIndex(*list, Word(line, 2)));
+  driver_->Drop(*list, *FindAs<Pane>(Word(line, 3)), std::stoul(Word(line, 4)));
+}
+
+/// mouse down|move|up CONTROL BUTTON X Y [SHIFT], in twips
+void Runner::Mouse(const Line& line) {
+  auto* control = FindAs<Control>(Word(line, 2));
+  const tarvik::Mouse mouse{std::stoi(Word(line, 3)), line.words.size() > 6 ? std::stoi(line.words[6]) : 0,
+                            std::stof(Word(line, 4)), std::stof(Word(line, 5))};
+  if (line.words[1] == "down") control->MouseDown(mouse);
+  if (line.words[1] == "move") control->MouseMove(mouse);
+  if (line.words[1] == "up") control->MouseUp(mouse);
+}
+
+void Runner::Set(const Line& line) {
+  const bool value = Word(line, 1) == "value";
+  PropertyBase* property = value ? application_->FindValue(Word(line, 2)) : FindProperty(line.words[1]);
+  if (!property) throw Stop{"there is no such value"};
+  if (!property->FromText(Wanted(line, value ? 3 : 2))) throw Stop{"it can't be set to that"};
+}
+
+/// The named operations that no control reaches.
+void Runner::Call(const Line& line) {
+  Editor& editor = *application_->editor();
+  const std::map<std::string, std::function<void()>> operations = {
+      {"Editor.ExtractButtonDefinition", [&] { editor.ExtractButtonDefinition(Word(line, 2)); }},
+      {"Editor.HardwareHasChanged", [&] { editor.HardwareHasChanged(); }},
+      {"Editor.DamnFontWasChanged", [&] { editor.DamnFontWasChanged(); }},
+      {"Editor.DeleteUndosFromMemory", [&] { editor.DeleteUndosFromMemory(); }},
+      {"Editor.Form_Activate", [&] { editor.Form_Activate(); }},
+      {"Mum.MakeFlat", [&] { application_->mum().MakeFlat(); }},
+      {"Mum.ColoursSortOut", [&] { application_->mum().ColoursSortOut(); }},
+      {"Settings.SaveOptions", [&] { application_->settings.SaveOptions(); }},
+  };
+  const auto operation = operations.find(Word(line, 1));
+  if (operation == operations.end()) throw Stop{"there is no such operation"};
+  operation->second();
+}
+
+void Runner::Choose(const Line& line) { dialogs_.choices.push_back(Word(line, 1)); }
+
+void Runner::AnswerBox(const Line& line) {
+  const std::map<std::string, Answer> answers = {
+      {"OK", Answer::Ok}, {"Yes", Answer::Yes}, {"No", Answer::No}, {"Cancel", Answer::Cancel}};
+  const auto answer = answers.find(Word(line, 1));
+  if (answer == answers.end()) throw Stop{"no such answer"};
+  dialogs_.answers.push_back(answer->second);
+}
+
+// What is seen.
+
+void Runner::Expect(const Line& line) {
+  const auto expectation = Expectations().find(Word(line, 1));
+  if (expectation != Expectations().end()) return (this->*expectation->second)(line);
+  ExpectProperty(line);
+}
+
+void Runner::ExpectProperty(const Line& line) {
+  const PropertyBase* property = FindProperty(line.words[1]);
+  Compare(Wanted(line, 2), driver_->Read(*property));
+}
+
+void Runner::ExpectValue(const Line& line) {
+  const PropertyBase* property = application_ ? application_->FindValue(Word(line, 2)) : nullptr;
+  if (!property) throw Stop{"there is no such value"};
+  Compare(Wanted(line, 3), property->ToText());
+}
+
+/// expect box TITLE [TEXT [none|information|question|exclamation]]
+void Runner::ExpectBox(const Line& line) {
+  constexpr const char* kIcons[] = {"none", "information", "question", "exclamation"};
+  if (dialogs_.boxes.empty()) throw Stop{"there was no box"};
+  const MessageBox box = dialogs_.boxes.front();
+  dialogs_.boxes.pop_front();
+  Compare(Word(line, 2), box.title);
+  if (line.words.size() > 3) Compare(line.words[3], box.text);
+  if (line.words.size() > 4) Compare(line.words[4], kIcons[static_cast<int>(box.icon)]);
+}
+
+/// expect dialog title|filter|folder|fileName TEXT, of the last file dialog
+void Runner::ExpectDialog(const Line& line) {
+  if (dialogs_.requests.empty()) throw Stop{"there was no dialog"};
+  const FileRequest& request = dialogs_.requests.back();
+  const std::map<std::string, std::string> parts = {{"title", request.title},
+                                                    {"filter", request.filter},
+                                                    {"folder", request.folder},
+                                                    {"fileName", request.fileName}};
+  Compare(Word(line, 3), parts.at(Word(line, 2)));
+}
+
+void Runner::ExpectFile(const Line& line) {
+  const auto content = files_.Content(Word(line, 2));
+  if (!content) throw Stop{"there is no such file"};
+  if (line.hasBlock || line.words.back() == "empty") Compare(FileContent(line), *content);
+}
+
+void Runner::ExpectBytes(const Line& line) {
+  const auto content = files_.Content(Word(line, 2));
+  if (!content) throw Stop{"there is no such file"};
+  Compare(ToHex(FromHex(line.words, 3)), ToHex(*content));
+}
+
+void Runner::ExpectNo(const Line& line) {
+  if (Word(line, 2) == "file" && files_.FileExists(Word(line, 3))) Fail("it is there");
+  if (line.words[2] == "dialog" && !dialogs_.requests.empty()) Fail("there was one");
+  if (line.words[2] == "list" && application_->editor()->Resolve(Word(line, 3))) Fail("it is there");
+}
+
+void Runner::ExpectFolder(const Line& line) {
+  if (!files_.FolderExists(Word(line, 2))) Fail("it isn't there");
+}
+
+void Runner::ExpectIni(const Line& line) {
+  const ProfileFile profile(files_, std::string(kFolder) + "\\tarvik.ini");
+  Compare(Word(line, 4), profile.GetString(Word(line, 2), Word(line, 3), "(missing)", 1000));
+}
+
+void Runner::ExpectColour(const Line& line) {
+  const auto* pane = FindAs<Pane>(Word(line, 2));
+  const std::size_t start = std::stoul(Word(line, 3));
+  const std::size_t length = std::stoul(Word(line, 4));
+  for (std::size_t i = start; i < start + length; ++i) {
+    const std::string found = TextOf(pane->Content().colours.At(i));
+    if (found != Word(line, 5)) return Fail("position " + TextOf(i) + " has the colour " + found);
+  }
+}
+
+std::string Runner::ColourLetters(const Pane& pane, std::size_t start, std::size_t length) const {
+  const Settings& settings = application_->settings;
+  const std::map<Colour, char> letters = {{settings.BTNColour, 'B'},     {settings.SlashColour, 'S'},
+                                          {settings.RAWColour, 'R'},     {settings.MiscellaneousColour, 'M'},
+                                          {settings.RemStatements, 'C'}, {kBlack, '.'}};
+  std::string result;
+  for (std::size_t i = start; i < start + length; ++i) {
+    const auto letter = letters.find(pane.Content().colours.At(i));
+    result += letter == letters.end() ? '?' : letter->second;
+  }
+  return result;
+}
+
+/// Pairs of lines: a line of the text, which is looked for from the place of the last one on, and its
+/// letters.
+void Runner::ExpectColours(const Line& line) {
+  const auto* pane = FindAs<Pane>(Word(line, 2));
+  const std::string_view text = pane->Characters();
+  std::size_t from = 0;
+  for (std::size_t i = 0; i + 1 < line.block.size(); i += 2) {
+    const std::string& wanted = line.block[i];
+    std::size_t at = text.find(wanted, from);
+    while (at != std::string_view::npos && at > 0 && text[at - 1] != '\n') at = text.find(wanted, at + 1);
+    if (at == std::string_view::npos) throw Stop{"there is no line " + wanted};
+    Compare(wanted + "\n              " + line.block[i + 1],
+            wanted + "\n              " + ColourLetters(*pane, at, line.block[i + 1].size()));
+    from = at + wanted.size();
+  }
+}
+
+void Runner::ExpectEnded(const Line&) {
+  if (application_) Fail("the program still runs");
+}
+void Runner::ExpectRunning(const Line&) {
+  if (!application_) Fail("the program has ended");
+}
+
+}  // namespace tarvik::session

@@ -1,0 +1,100 @@
+// Walks a session script over a whole program with a disk of its own, and tells each line that does not hold.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "app/Application.h"
+#include "session/Driver.h"
+#include "session/Script.h"
+#include "session/ScriptedPlatform.h"
+
+namespace tarvik::session {
+
+using MakeDriver = std::function<std::unique_ptr<Driver>(Application&)>;
+
+class Runner {
+ public:
+  /// `dataFolder` is copied into the program's folder on the session's disk.
+  Runner(MakeDriver makeDriver, const std::string& dataFolder);
+  ~Runner();
+
+  /// What did not hold, one text a line; empty when the session passed.
+  std::vector<std::string> Run(std::string_view script);
+
+ private:
+  using Command = void (Runner::*)(const Line&);
+  static const std::map<std::string_view, Command>& Commands();
+  static const std::map<std::string_view, Command>& Expectations();
+
+  void Step(const Line& line);
+  void Fail(const std::string& what);
+  void Compare(const std::string& wanted, const std::string& found);
+
+  // Before the start.
+  void File(const Line& line);
+  void Bytes(const Line& line);
+  void Folder(const Line& line);
+  void ReadOnly(const Line& line);
+  void Remove(const Line& line);
+  void Ini(const Line& line);
+  void DiskRoom(const Line& line);
+  // The process.
+  void Start(const Line& line);
+  void Close(const Line& line);
+  void Killed(const Line& line);
+  void Wait(const Line& line);
+  // The user.
+  void Click(const Line& line);
+  void DoubleClick(const Line& line);
+  void RightClick(const Line& line);
+  void Focus(const Line& line);
+  void Pick(const Line& line);
+  void Type(const Line& line);
+  void PressKey(const Line& line);
+  void Drag(const Line& line);
+  void Mouse(const Line& line);
+  void Set(const Line& line);
+  void Call(const Line& line);
+  void Choose(const Line& line);
+  void AnswerBox(const Line& line);
+  // What is seen.
+  void Expect(const Line& line);
+  void ExpectProperty(const Line& line);
+  void ExpectValue(const Line& line);
+  void ExpectBox(const Line& line);
+  void ExpectDialog(const Line& line);
+  void ExpectFile(const Line& line);
+  void ExpectBytes(const Line& line);
+  void ExpectNo(const Line& line);
+  void ExpectFolder(const Line& line);
+  void ExpectIni(const Line& line);
+  void ExpectColour(const Line& line);
+  void ExpectColours(const Line& line);
+  void ExpectEnded(const Line& line);
+  void ExpectRunning(const Line& line);
+
+  [[nodiscard]] const std::string& Word(const Line& line, std::size_t index);
+  [[nodiscard]] std::string Wanted(const Line& line, std::size_t index);
+  Component* Find(const std::string& path);
+  template <class T>
+  T* FindAs(const std::string& path);
+  PropertyBase* FindProperty(const std::string& path);
+  int ItemIndex(Component& control, const std::string& item);
+  [[nodiscard]] std::string ColourLetters(const Pane& pane, std::size_t start, std::size_t length) const;
+
+  MakeDriver makeDriver_;
+  MemoryFiles files_;
+  ScriptedDialogs dialogs_;
+  ScriptedInstance instance_;
+  std::unique_ptr<Platform> platform_;
+  std::unique_ptr<Application> application_;
+  std::unique_ptr<Driver> driver_;
+  std::map<Timer*, int> elapsed_;  // milliseconds since a running timer last fired
+  std::vector<std::string> failures_;
+  const Line* line_ = nullptr;
+};
+
+}  // namespace tarvik::session

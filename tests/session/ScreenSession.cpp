@@ -1,0 +1,67 @@
+#include "session/ScreenSession.h"
+
+#include <QApplication>
+
+#include "screen/Screen.h"
+#include "screen/ScreenAccess.h"
+#include "session/Driver.h"
+
+namespace tarvik::session {
+namespace {
+
+class ScreenDriver : public Driver {
+ public:
+  explicit ScreenDriver(Application& application)
+      : screen_(application, screen::Clock::Scripted), access_(screen_) {}
+
+  bool Click(Component& control) override { return Usable(control) && (access_.Click(control), true); }
+  bool DoubleClick(Component& control) override {
+    return Usable(control) && (access_.DoubleClick(control), true);
+  }
+  bool RightClick(Component& control) override {
+    return Usable(control) && (access_.RightClick(control), true);
+  }
+  bool Pick(Component& control, int index) override { return access_.Pick(control, index); }
+  bool Type(Pane& pane, std::string_view text) override {
+    return Usable(pane) && (access_.Type(pane, text), true);
+  }
+  void Close(Form& form) override { access_.Close(form); }
+  bool PressKey(Component& control, std::string_view chord) override {
+    return Usable(control) && (access_.PressKey(control, chord), true);
+  }
+  void Drop(ListBox& from, Pane& pane, std::size_t position) override { access_.Drop(from, pane, position); }
+  std::string Read(const PropertyBase& property) override {
+    return access_.Read(property).value_or(property.ToText());
+  }
+  void Settle() override { QApplication::processEvents(); }
+
+ private:
+  /// Whether a user can get at the control: it is shown, and not greyed out.
+  [[nodiscard]] bool Usable(const Component& control) {
+    for (const char* name : {"Visible", "Enabled"}) {
+      const PropertyBase* property = control.FindProperty(name);
+      if (property && Read(*property) == "False") return false;
+    }
+    return true;
+  }
+
+  screen::Screen screen_;
+  screen::ScreenAccess access_;
+};
+
+}  // namespace
+
+struct ScreenSession::Toolkit {
+  Toolkit(int& count, char** arguments) : application(count, arguments) {}
+  QApplication application;
+};
+
+ScreenSession::ScreenSession(bool wanted, int& count, char** arguments)
+    : toolkit_(wanted ? std::make_unique<Toolkit>(count, arguments) : nullptr) {}
+ScreenSession::~ScreenSession() = default;
+
+std::unique_ptr<Driver> MakeScreenDriver(Application& application) {
+  return std::make_unique<ScreenDriver>(application);
+}
+
+}  // namespace tarvik::session

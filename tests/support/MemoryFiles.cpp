@@ -1,0 +1,123 @@
+#include "support/MemoryFiles.h"
+
+#include <algorithm>
+#include <cassert>
+#include <cerrno>
+
+namespace tarvik {
+namespace {
+
+Failure PathNotFound() { return {error::kPathNotFound, "Path not found", ENOENT}; }
+Failure PathAccess() { return {error::kPathAccess, "Path/File access error", EACCES}; }
+
+LogicalPath Parent(LogicalPath path) {
+  path.names.pop_back();
+  return path;
+}
+
+}  // namespace
+
+MemoryFiles::MemoryFiles() { PutFolder("c:\\"); }
+
+void MemoryFiles::Put(std::string_view path, std::string_view content) {
+  const auto whole = current_.Complete(path);
+  assert(whole && !whole->names.empty());
+  PutFolder(Parent(*whole).Text());
+  entries_[whole->Text()] = {.content = std::string(content)};
+}
+
+void MemoryFiles::PutFolder(std::string_view path) {
+  auto whole = current_.Complete(path);
+  assert(whole);
+  for (; !whole->names.empty(); whole->names.pop_back()) entries_[whole->Text()].isFolder = true;
+  entries_[whole->Text()].isFolder = true;
+}
+
+void MemoryFiles::Remove(std::string_view path) {
+  const auto whole = current_.Complete(path);
+  if (!whole) return;
+  const std::string text = whole->Text();
+  const std::string inside = text.ends_with('\\') ? text : text + '\\';
+  std::erase_if(entries_, [&](const auto& e) { return e.first == text || e.first.starts_with(inside); });
+}
+
+void MemoryFiles::SetReadOnly(std::string_view path, bool readOnly) {
+  const auto whole = current_.Complete(path);
+  const auto found = whole ? entries_.find(whole->Text()) : entries_.end();
+  if (found != entries_.end()) found->second.readOnly = readOnly;
+}
+
+std::optional<std::string> MemoryFiles::Content(std::string_view path) const {
+  const Entry* entry = Find(path);
+  return entry && !entry->isFolder ? std::optional(entry->content) : std::nullopt;
+}
+
+std::vector<std::string> MemoryFiles::List() const {
+  std::vector<std::string> files;
+  for (const auto& [path, entry] : entries_) {
+    if (!entry.isFolder) files.push_back(path);
+  }
+  return files;
+}
+
+const MemoryFiles::Entry* MemoryFiles::Find(std::string_view path) const {
+  const auto whole = current_.Complete(path);
+  const auto found = whole ? entries_.find(whole->Text()) : entries_.end();
+  if (found == entries_.end() || (whole->mustBeFolder && !found->second.isFolder)) return nullptr;
+  return &found->second;
+}
+
+bool MemoryFiles::FileExists(std::string_view path) const {
+  const Entry* entry = Find(path);
+  return entry && !entry->isFolder;
+}
+
+bool MemoryFiles::FolderExists(std::string_view path) const {
+  const Entry* entry = Find(path);
+  return entry && entry->isFolder;
+}
+
+Outcome<std::string> MemoryFiles::Read(std::string_view path) const {
+  const Entry* entry = Find(path);
+  if (!entry) return Failure{error::kFileNotFound, "File not found", ENOENT};
+  if (entry->isFolder) return PathAccess();
+  return entry->content;
+}
+
+Outcome<LogicalPath> MemoryFiles::PlaceFor(std::string_view path) const {
+  auto whole = current_.Complete(path);
+  if (!whole || whole->names.empty() || !IsName(whole->names.back())) return PathNotFound();
+  const Entry* folder = Find(Parent(*whole).Text());
+  if (!folder || !folder->isFolder) return PathNotFound();
+  if (folder->readOnly) return PathAccess();
+  return *std::move(whole);
+}
+
+Outcome<> MemoryFiles::Write(std::string_view path, std::string_view content) {
+  const auto place = PlaceFor(path);
+  if (!place) return place.failure();
+  if (place->mustBeFolder) return PathNotFound();
+  const Entry* old = Find(path);
+  if (old && (old->isFolder || old->readOnly)) return PathAccess();
+  if (room_ && content.size() > *room_) return Failure{error::kDiskFull, "Disk full", ENOSPC};
+  if (room_) *room_ -= content.size();
+  entries_[place->Text()].content = content;
+  return Done{};
+}
+
+Outcome<> MemoryFiles::MakeFolder(std::string_view path) {
+  const auto place = PlaceFor(path);
+  if (!place) return place.failure();
+  const bool made = entries_.try_emplace(place->Text(), Entry{.isFolder = true}).second;
+  if (!made) return PathAccess();
+  return Done{};
+}
+
+Outcome<> MemoryFiles::ChangeDrive(std::string_view path) {
+  const auto whole = current_.Complete(path);
+  if (!whole || !FolderExists(LogicalPath{.drive = whole->drive}.Text())) return PathNotFound();
+  current_.SetDrive(whole->drive);
+  return Done{};
+}
+
+}  // namespace tarvik

@@ -1,0 +1,62 @@
+// A disk in memory with the rules of the real one, for tests and scripted sessions. It fails on demand.
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Files.h"
+#include "platform/LogicalPath.h"
+
+namespace tarvik {
+
+/// Starts with an empty drive c, which is the current one. Paths come back in lower case.
+class MemoryFiles : public Files {
+ public:
+  MemoryFiles();
+
+  /// Places a file with all folders above it, whatever the disk otherwise refuses.
+  void Put(std::string_view path, std::string_view content);
+  /// Places a folder with all folders above it; "d:\" is an empty drive.
+  void PutFolder(std::string_view path);
+  /// Takes away a file, or a folder with all that is in it.
+  void Remove(std::string_view path);
+  /// For a file, or a folder in which nothing new may then be written.
+  void SetReadOnly(std::string_view path, bool readOnly = true);
+  /// The disk takes that many more bytes. A `Write` of more fails and leaves the old content.
+  void FailAfter(std::size_t bytes) { room_ = bytes; }
+  void StopFailing() { room_.reset(); }
+
+  /// The bytes of a file, nothing where there is none.
+  [[nodiscard]] std::optional<std::string> Content(std::string_view path) const;
+  /// All files, sorted.
+  [[nodiscard]] std::vector<std::string> List() const;
+  [[nodiscard]] char currentDrive() const { return current_.drive(); }
+
+  [[nodiscard]] bool FileExists(std::string_view path) const override;
+  [[nodiscard]] bool FolderExists(std::string_view path) const override;
+  [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
+  Outcome<> Write(std::string_view path, std::string_view content) override;
+  Outcome<> MakeFolder(std::string_view path) override;
+  Outcome<> ChangeDrive(std::string_view path) override;
+
+ private:
+  struct Entry {
+    bool isFolder = false;
+    bool readOnly = false;
+    std::string content{};
+  };
+
+  [[nodiscard]] const Entry* Find(std::string_view path) const;
+  /// The place of a new file or folder, or why there can be none.
+  [[nodiscard]] Outcome<LogicalPath> PlaceFor(std::string_view path) const;
+
+  std::map<std::string, Entry> entries_;  ///< by whole path in lower case
+  std::optional<std::size_t> room_;
+  CurrentFolders current_;
+};
+
+}  // namespace tarvik
