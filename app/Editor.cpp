@@ -128,7 +128,6 @@ void Editor::SetUpToolbar() {
 // Life of the form.
 
 void Editor::Form_Load() {
-  const Trap trap{application_.errors, "ED_Form_Load"};
   Values& values = application_.values;
   const Settings& settings = application_.settings;
   values.LoadingFile = 1;
@@ -154,6 +153,7 @@ void Editor::Form_Load() {
 
   TestCommandLine();
   if (!values.CommandLine.Get().empty()) OpenPreviouslySavedFiles(values.CommandLine);
+  values.CommandLine = std::string();  // an editor that is shown again begins with untitled files
   values.LoadingFile = 0;
   Joystick.Caret = 0;
   Macro.Caret = 0;
@@ -182,6 +182,7 @@ void Editor::Form_Activate() {
 void Editor::Form_Unload() {
   SaveOpenSingleOnly();
   mum_.Toolbar1.Visible = false;
+  for (const tables::ToolbarRow& row : tables::kToolbar) mum_.Toolbar1.Buttons(row.button).Click = nullptr;
 }
 
 void Editor::TestCommandLine() {
@@ -396,7 +397,6 @@ void Editor::ColourSelection(Colour colour) {
 // Macros.
 
 void Editor::mnuEditUpdateMacros_Click() {
-  const Trap trap{application_.errors, "ED_mnuEditUpdateMacros_Click"};
   const std::size_t equals = MacroText.Characters().find('=');
   if (equals == std::string_view::npos || equals == 0) return;
   desk_.Select(Macro);

@@ -47,28 +47,32 @@ void Highlighter::Apply(Document& document) {
   desk_.Say("Done");
 }
 
-void Highlighter::ShowBefore(const Pass& pass, int textLength) {
-  if (pass.status) desk_.Say(pass.status);
-  desk_.progress.Min = 0;
-  desk_.progress.Max = pass.progress || !pass.status ? kCommandGroup : textLength;
-}
-
 void Highlighter::MakePasses(Document& document) {
-  Painting painting(document.text.Searchable());
   const int textLength = Clamped(document.text.Characters().size());
   ProgressBar& bar = desk_.progress;
-  for (const Pass& pass : document.IsJoystick() ? JoystickPasses() : MacroPasses()) {
-    ShowBefore(pass, textLength);
-    if (pass.progress) {
-      painting.Run(pass);
-      bar.Value = pass.progress;
-    } else if (pass.status) {
-      painting.Run(pass, [&bar](std::size_t hit) { bar.Value = Clamped(hit + 1); });
-      bar.Value = 0;
-    } else {
-      painting.Run(pass);
-    }
-  }
+  // The bar follows the hits, or counts the passes over commands.
+  bool followsHits = true;
+  const PaintingProgress progress = {
+      [&](const Pass& pass) {
+        if (pass.status) {
+          desk_.Say(pass.status);
+          followsHits = pass.progress == 0;
+        }
+        bar.Max = followsHits ? textLength : kCommandGroup;
+      },
+      [&](std::size_t hit) {
+        if (followsHits) bar.Value = Clamped(hit + 1);
+      },
+      [&](const Pass& pass) {
+        if (followsHits) {
+          bar.Value = 0;
+        } else if (pass.progress) {
+          bar.Value = pass.progress;
+        }
+      },
+  };
+  Painting painting(document.text.Searchable(), document.IsJoystick() ? JoystickPasses() : MacroPasses());
+  painting.Run(progress);
   document.text.Recolour(0, painting.Colours(ColoursOf(desk_.settings)));
 }
 

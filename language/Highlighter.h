@@ -2,7 +2,7 @@
 #pragma once
 
 #include "language/ColouredCopies.h"
-#include "language/Passes.h"
+#include "language/Painting.h"
 
 namespace tarvik {
 
@@ -20,7 +20,6 @@ class Highlighter {
 
  private:
   void MakePasses(Document& document);
-  void ShowBefore(const Pass& pass, int textLength);
 
   Desk& desk_;
   ColouredCopies& copies_;

@@ -2,6 +2,8 @@
 // pass. The painting of whole files works on it.
 #pragma once
 
+#include <vector>
+
 #include "language/Passes.h"
 
 namespace tarvik {

@@ -2,10 +2,10 @@
 // later one overrides an earlier one. Adding a statement kind is adding a row.
 #pragma once
 
-#include <functional>
 #include <span>
+#include <string_view>
 
-#include "panes/Pane.h"
+#include "panes/Search.h"
 
 namespace tarvik {
 
@@ -36,28 +36,5 @@ struct Pass {
 
 [[nodiscard]] std::span<const Pass> JoystickPasses();
 [[nodiscard]] std::span<const Pass> MacroPasses();
-
-/// The classes of all characters of one text, as far as the passes made so far have set them.
-class Painting {
- public:
-  explicit Painting(SearchableText text) : text_(text), classes_(text.text.size(), ColourClass::Black) {}
-
-  /// Makes one pass. `onHit` is told the position of each hit.
-  void Run(const Pass& pass, const std::function<void(std::size_t)>& onHit = {});
-  /// The colours of the classes, `colours` being indexed by ColourClass.
-  [[nodiscard]] ColourRuns Colours(std::span<const Colour, kColourClasses> colours) const;
-
- private:
-  std::size_t Handle(const Pass& pass, std::size_t hit);
-  std::size_t HandleWordAndOperand(const Pass& pass, std::size_t hit);
-  std::size_t HandleModifier(const Pass& pass, std::size_t hit);
-  std::size_t HandleBracket(const Pass& pass, std::size_t hit);
-  std::size_t HandlePort(const Pass& pass, std::size_t hit);
-  [[nodiscard]] std::size_t Until(std::string_view set, std::size_t from) const;
-  void Paint(std::size_t from, std::size_t to, ColourClass colour);
-
-  SearchableText text_;
-  std::vector<ColourClass> classes_;
-};
 
 }  // namespace tarvik

@@ -381,8 +381,8 @@ void Reader::TakeHex() {
     at_ = end_;
     return;
   }
-  const int high = kHexDigits[Byte(at_[0])];
-  const int low = kHexDigits[Byte(at_[1])];
+  const auto high = kHexDigits[Byte(at_[0])];
+  const auto low = kHexDigits[Byte(at_[1])];
   if (high < 0 || low < 0) return;
   at_ += 2;
   TakeByte(static_cast<char>(high << 4 | low));

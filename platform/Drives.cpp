@@ -142,13 +142,13 @@ std::optional<fs::path> Drives::ToHost(std::string_view path) const {
 std::optional<fs::path> Drives::ToHostNew(std::string_view path) const {
   auto folder = current_.Complete(path);
   if (!folder || folder->mustBeFolder || folder->names.empty()) return std::nullopt;
-  const auto picked = LookUp(picked_, *folder);
+  auto picked = LookUp(picked_, *folder);
   if (picked && IsTaken(*picked)) return picked;
   const std::string name = folder->names.back();
   folder->names.pop_back();
   const auto host = Find(*folder);
   if (!host || !IsFolder(*host)) return std::nullopt;
-  const auto match = Match(*host, name);
+  auto match = Match(*host, name);
   if (match && !picked) return match;
   if (!match && IsName(name)) return *host / ToUtf8(LowerCase(name));
   return picked;
@@ -162,7 +162,7 @@ std::string Drives::FromHost(const fs::path& host) {
     Placed behindLinks = Place(WithoutLinks(folders_), WithoutLinks(whole));
     if (behindLinks.path.drive != kRootDrive) placed = std::move(behindLinks);
   }
-  const std::string result = placed.path.Text();
+  std::string result = placed.path.Text();
   picked_[result] = placed.host;
   while (!placed.path.names.empty()) {
     holders_[placed.path.Text()] = placed.host;

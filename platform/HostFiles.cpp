@@ -160,7 +160,7 @@ Outcome<> ReplaceFile(const fs::path& target, std::string_view content) {
 }
 
 Outcome<std::string> ReadAll(const Descriptor& file, std::size_t expected) {
-  constexpr std::size_t kStep = 64 * 1024;
+  constexpr std::size_t kStep = 65536;
   std::string content;
   std::size_t size = 0;
   content.resize(expected + 1);  // one more, so that the end shows without another round

@@ -1,9 +1,10 @@
 #include "screen/Icons.h"
 
+#include <QApplication>
 #include <QFile>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QSvgRenderer>
 
 #include "screen/Text.h"
@@ -15,6 +16,7 @@ namespace tarvik::screen {
 namespace {
 
 constexpr const char* kInk = "#232629";  // what own drawings have for "text colour"
+constexpr qreal kFaded = 0.35;
 constexpr int kSizes[] = {16, 22, 32, 44, 48, 64, 128, 256};
 
 QIcon Rendered(const QByteArray& svg) {
@@ -31,10 +33,27 @@ QIcon Rendered(const QByteArray& svg) {
   return icon;
 }
 
+class FadingStyle : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+  QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
+                              const QStyleOption* option) const override {
+    if (mode != QIcon::Disabled) return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+    QPixmap faded(pixmap.size());
+    faded.setDevicePixelRatio(pixmap.devicePixelRatio());
+    faded.fill(Qt::transparent);
+    QPainter painter(&faded);
+    painter.setOpacity(kFaded);
+    painter.drawPixmap(0, 0, pixmap);
+    return faded;
+  }
+};
+
 }  // namespace
 
 void ChooseIconTheme() {
-  const bool dark = QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
+  QApplication::setStyle(new FadingStyle(QApplication::style()->name()));
+  const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
   if (QIcon::themeName() != QLatin1String("hicolor")) QIcon::setFallbackThemeName(QIcon::themeName());
   QIcon::setThemeName(QLatin1String(dark ? "breeze-dark" : "breeze"));
 }
@@ -44,7 +63,7 @@ QIcon Icon(std::string_view name, const QColor& ink) {
   const QString file = ToScreen(name);
   QFile own(QLatin1String(":/icons/") + file + QLatin1String(".svg"));
   if (!own.open(QIODevice::ReadOnly)) return QIcon::fromTheme(file);
-  const QColor colour = ink.isValid() ? ink : QGuiApplication::palette().color(QPalette::WindowText);
+  const QColor colour = ink.isValid() ? ink : QApplication::palette().color(QPalette::WindowText);
   return Rendered(own.readAll().replace(kInk, colour.name().toLatin1()));
 }
 

@@ -8,7 +8,7 @@
 namespace tarvik::screen {
 
 /// Takes Breeze, light or dark as the palette is, so that all icons are of one hand; the desktop's own theme
-/// where Breeze lacks a name.
+/// where Breeze lacks a name. Disabled icons fade, which tells them apart on dark palettes too.
 void ChooseIconTheme();
 
 /// Empty for a name that is nowhere. Own drawings are in `ink`, the palette's text colour if not given.

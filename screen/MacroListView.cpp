@@ -64,6 +64,10 @@ QVariant MacroListModel::data(const QModelIndex& index, int role) const {
   return {};
 }
 
+Qt::ItemFlags MacroListModel::flags(const QModelIndex& index) const {
+  return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
+}
+
 MacroListView::MacroListView(Editor& form, Bindings& bindings, QWidget* parent)
     : QListView(parent), form_(form), bindings_(bindings) {
   setModel(&model_);

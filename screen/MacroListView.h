@@ -19,6 +19,7 @@ class MacroListModel : public QAbstractListModel {
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
  private:
   const ListBox* list_ = nullptr;

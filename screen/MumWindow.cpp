@@ -10,6 +10,7 @@
 #include <QWindow>
 
 #include "screen/Icons.h"
+#include "screen/LockKeys.h"
 #include "screen/MenuBuilder.h"
 #include "screen/StatusBarView.h"
 #include "screen/Text.h"
@@ -17,8 +18,10 @@
 namespace tarvik::screen {
 namespace {
 
+constexpr int kCapsPanel = 4;
+constexpr int kNumPanel = 6;
 constexpr int kClockPanel = 7;
-constexpr int kClockInterval = 1000;  // milliseconds
+constexpr int kPanelInterval = 250;  // milliseconds
 constexpr QSize kSmallest(480, 320);
 
 // Window states of a form.
@@ -56,7 +59,7 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
       Qt::QueuedConnection);
   menus_ = MakeMenus(mum.menus, bindings_);
   RemoveChild();
-  if (clock == Clock::Real) KeepTime();
+  if (clock == Clock::Real) KeepPanels();
   BindWindow();
 }
 
@@ -86,13 +89,20 @@ void MumWindow::BindWindow() {
       [this] { return TextOf(isVisible()); });
 }
 
-void MumWindow::KeepTime() {
+/// The time, and the keys that light up.
+void MumWindow::KeepPanels() {
   auto* const timer = new QTimer(this);
   const auto show = [this] {
     mum_.StatusBar.Panels(kClockPanel).Text = FromScreen(QTime::currentTime().toString(u"hh:mm"));
+    if (const auto keys = ReadLockKeys()) {
+      mum_.StatusBar.Panels(kCapsPanel).Enabled = keys->caps;
+      mum_.StatusBar.Panels(kNumPanel).Enabled = keys->num;
+    } else {
+      for (const int panel : {kCapsPanel, kNumPanel}) mum_.StatusBar.Panels(panel).Text = std::string();
+    }
   };
   connect(timer, &QTimer::timeout, this, show);
-  timer->start(kClockInterval);
+  timer->start(kPanelInterval);
   show();
 }
 

@@ -37,7 +37,7 @@ class MumWindow : public QMainWindow, public FormView {
   void TakePlace();
   void FitFrame();
   void ShowPointer();
-  void KeepTime();
+  void KeepPanels();
 
   Application& application_;
   Mum& mum_;

@@ -23,6 +23,7 @@ class PaneView : public QPlainTextEdit {
 
  protected:
   bool event(QEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;

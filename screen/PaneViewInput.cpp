@@ -44,15 +44,19 @@ bool PaneView::event(QEvent* event) {
   return QPlainTextEdit::event(event);
 }
 
+/// Tab is a character of the text; Shift+Tab is the way out.
+bool PaneView::focusNextPrevChild(bool next) {
+  return next ? QPlainTextEdit::focusNextPrevChild(next) : QWidget::focusNextPrevChild(next);
+}
+
 /// Each character is a key press that the form may change or cancel; what is left comes back.
 QString PaneView::PressKeys(const QString& text) {
   QString pressed;
   for (const char byte : FromScreen(text)) {
     int character = static_cast<unsigned char>(byte);
     pane_.KeyPress(character);
-    if (character != 0)
-      pressed += QChar(static_cast<unsigned char>(character) < 0x20 ? QChar(character)
-                                                                    : ToScreen(static_cast<char>(character)));
+    if (character == 0) continue;
+    pressed += character < 0x20 ? QChar(character) : ToScreen(static_cast<char>(character));
   }
   return pressed;
 }

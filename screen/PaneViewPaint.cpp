@@ -36,13 +36,14 @@ void PaneView::PaintBlock(QPainter& painter, const QTextBlock& block, const QPoi
     layout.draw(&painter, offset);
   } else {
     const int start = block.position();
+    const int paneStart = start + block.blockNumber();
     const int length = block.length();  // with the line break
     const QTextCursor cursor = textCursor();
     const int from = std::clamp(cursor.selectionStart() - start, 0, length);
     const int to = std::clamp(cursor.selectionEnd() - start, 0, length);
     const Range selected{static_cast<std::size_t>(from), static_cast<std::size_t>(to - from)};
     for (int i = 0; i < layout.lineCount(); ++i) {
-      PaintLine(painter, layout.lineAt(i), offset, static_cast<std::size_t>(start + block.blockNumber()),
+      PaintLine(painter, layout.lineAt(i), offset, static_cast<std::size_t>(paneStart),
                 static_cast<std::size_t>(length - 1), selected);
     }
   }

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QUrl>
 
 #include "screen/Text.h"
 
@@ -90,6 +91,11 @@ Outcome<std::string> QtDialogs::AskForFile(const FileRequest& request) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  QList<QUrl> places{QUrl::fromLocalFile(QDir::homePath())};
+  if (const auto drive = drives_.ToHost("c:\\")) {
+    places += QUrl::fromLocalFile(QFile::decodeName(drive->c_str()));
+  }
+  dialog.setSidebarUrls(places);
   dialog.setNameFilters(NameFilters(request.filter));
   if (save) dialog.setDefaultSuffix(ToScreen(request.defaultExtension));
   if (!request.fileName.empty()) dialog.selectFile(ToScreen(request.fileName));

@@ -2,8 +2,8 @@
 
 #include <random>
 
-#include "language/Passes.h"
-#include "support/MemoryFiles.h"
+#include "language/Painting.h"
+#include "support/LiteralPasses.h"
 
 namespace tarvik {
 namespace {
@@ -76,120 +76,19 @@ constexpr Row kMacroRows[] = {
 
 constexpr std::string_view kLetters = ".BSRMC";  // in the order of ColourClass
 
-Colour ColourOf(char letter) { return static_cast<Colour>(kLetters.find(letter)); }
-
 std::string LettersOf(const ColourRuns& colours) {
   std::string letters;
   for (std::size_t i = 0; i < colours.size(); ++i) letters += kLetters[colours.At(i)];
   return letters;
 }
 
-/// The passes made one after another by searching and selecting in a pane.
-class BySelection {
- public:
-  std::string Paint(const std::string& text, std::span<const Row> rows) {
-    pane_.Text = text;
-    for (const Row& row : rows) Make(row);
-    return LettersOf(pane_.Content().colours);
-  }
-
- private:
-  void Make(const Row& row) {
-    caret_ = 0;
-    if (!Search(row.text, row.options)) return;
-    while (true) {
-      const auto hit = Search(row.text, row.options);
-      if (!hit) return;
-      if (!Handle(row, *hit)) return;
-    }
-  }
-
-  std::optional<std::size_t> Search(const char* text, int options) {
-    return pane_.Find(text, caret_, pane_.Characters().size(), options);
-  }
-
-  void Widen() { pane_.SelLength = pane_.SelLength + 1; }
-  void Paint(char colour) {
-    if (pane_.SelLength > 0) pane_.SelColor = ColourOf(colour);
-  }
-  void GoBehind(std::size_t hit) { caret_ = hit + pane_.SelLength; }
-  /// The character at `position`, nothing behind the end.
-  [[nodiscard]] std::string CharacterAt(std::size_t position) const {
-    return std::string(pane_.Characters().substr(std::min(position, pane_.Characters().size())).substr(0, 1));
-  }
-
-  /// False: the pass ends.
-  bool Handle(const Row& row, std::size_t hit) {
-    switch (row.kind) {
-      case Kind::WordAndOperand:
-        Widen();
-        Paint(row.colour);
-        GoBehind(hit);
-        pane_.SelStart = caret_;
-        pane_.Span(" ");
-        Paint(row.colour);
-        return true;
-      case Kind::Modifier: {
-        const std::string behind = CharacterAt(hit + 1);
-        if (hit == 0 || (CharacterAt(hit - 1) == " " && behind != " " && behind != "\r")) {
-          Widen();
-          Paint(row.colour);
-        }
-        GoBehind(hit);
-        return true;
-      }
-      case Kind::Bracket: {
-        Paint(row.colour);
-        GoBehind(hit);
-        pane_.SelStart = caret_;
-        const auto closing = Search(")", 0);
-        if (!closing) return false;
-        Paint(row.colour);
-        caret_ = *closing + 1;
-        return true;
-      }
-      case Kind::Followed:
-        if (CharacterAt(hit + pane_.SelLength) == std::string(1, row.follow)) Paint(row.colour);
-        GoBehind(hit);
-        return true;
-      case Kind::Plain:
-        Paint(row.colour);
-        GoBehind(hit);
-        return true;
-      case Kind::Port:
-        pane_.Span("S");
-        Widen();
-        Paint('M');
-        GoBehind(hit);
-        pane_.SelStart = caret_;
-        pane_.SelLength = 1;
-        pane_.Span("\r\n");
-        Paint('B');
-        return true;
-      case Kind::Comment:
-        Paint(row.colour);
-        GoBehind(hit);
-        pane_.SelStart = caret_;
-        pane_.Span("\r\n");
-        Paint(row.colour);
-        return true;
-    }
-    return false;
-  }
-
-  MemoryFiles files_;
-  Form form_{"Form"};
-  Pane pane_{form_, "Text", files_};
-  std::size_t caret_ = 0;
-};
-
 std::string Paint(const std::string& text, std::span<const Pass> passes) {
   MemoryFiles files;
   Form form("Form");
   Pane pane(form, "Text", files);
   pane.Text = text;
-  Painting painting(pane.Searchable());
-  for (const Pass& pass : passes) painting.Run(pass);
+  Painting painting(pane.Searchable(), passes);
+  painting.Run();
   constexpr std::array<Colour, kColourClasses> kColours = {0, 1, 2, 3, 4, 5};
   return LettersOf(painting.Colours(kColours));
 }
@@ -398,11 +297,11 @@ std::string AnyText(std::mt19937& random) {
 
 TEST(PassesTest, TheColoursAreThoseOfSearchingAndSelectingInAPane) {
   std::mt19937 random(7);
-  BySelection slow;
+  LiteralPasses literal;
   for (int i = 0; i < 4000; ++i) {
     const std::string text = AnyText(random);
-    ASSERT_EQ(Joystick(text), slow.Paint(text, kJoystickRows)) << text;
-    ASSERT_EQ(Macro(text), slow.Paint(text, kMacroRows)) << text;
+    ASSERT_EQ(Joystick(text), LettersOf(literal.Paint(text, JoystickPasses()))) << text;
+    ASSERT_EQ(Macro(text), LettersOf(literal.Paint(text, MacroPasses()))) << text;
   }
 }
 

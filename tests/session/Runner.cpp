@@ -39,6 +39,12 @@ std::string FileContent(const Line& line) {
   return line.block.empty() ? "" : Joined(line.block) + (open ? "" : "\r\n");
 }
 
+bool NeedsProgram(std::string_view command) {
+  constexpr std::string_view kCommands[] = {"close", "click", "dblclick", "rightclick", "focus", "pick",
+                                            "type",  "key",   "drag",     "mouse",      "set",   "call"};
+  return std::find(std::begin(kCommands), std::end(kCommands), command) != std::end(kCommands);
+}
+
 }  // namespace
 
 Runner::Runner(MakeDriver makeDriver, const std::string& dataFolder) : makeDriver_(std::move(makeDriver)) {
@@ -121,6 +127,7 @@ const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
 void Runner::Step(const Line& line) {
   const auto command = Commands().find(line.words[0]);
   if (command == Commands().end()) throw Stop{"no such command"};
+  if (!application_ && NeedsProgram(line.words[0])) throw Stop{"no program runs"};
   (this->*command->second)(line);
   if (driver_) driver_->Settle();
 }
@@ -129,9 +136,18 @@ void Runner::Fail(const std::string& what) {
   failures_.push_back(std::to_string(line_->number) + ": " + line_->source + "\n    " + ToUtf8(what));
 }
 
+/// Of long texts only the lines around the first difference are told.
 void Runner::Compare(const std::string& wanted, const std::string& found) {
   if (wanted == found) return;
-  Fail("expected: " + wanted + "\n    found:    " + found);
+  constexpr std::size_t kShort = 300;
+  const auto differs = std::mismatch(wanted.begin(), wanted.end(), found.begin(), found.end()).first;
+  const auto at = static_cast<std::size_t>(differs - wanted.begin());
+  const std::size_t from =
+      std::max(wanted.size(), found.size()) <= kShort || at < kShort / 3 ? 0 : at - kShort / 3;
+  const auto part = [from](const std::string& text) {
+    return text.substr(std::min(from, text.size()), kShort);
+  };
+  Fail("expected: " + part(wanted) + "\n    found:    " + part(found));
 }
 
 const std::string& Runner::Word(const Line& line, std::size_t index) {
@@ -206,8 +222,7 @@ void Runner::Start(const Line& line) {
 }
 
 void Runner::Close(const Line& line) {
-  auto* form = FindAs<Form>(Word(line, 1));
-  driver_->Close(*form);
+  driver_->Close(*FindAs<Form>(Word(line, 1)));
   if (application_->Ended()) Killed(line);
 }
 

@@ -1,0 +1,46 @@
+// Paints a whole text by a table of passes: the result of the passes made one after another, each with
+// searches of its own, from one walk over the text.
+#pragma once
+
+#include <functional>
+
+#include "language/KeywordHits.h"
+#include "panes/RichText.h"
+
+namespace tarvik {
+
+/// Who shows how far the work is. Any of the three may be empty.
+struct PaintingProgress {
+  std::function<void(const Pass&)> before;
+  std::function<void(std::size_t)> hit;  ///< its position
+  std::function<void(const Pass&)> after;
+};
+
+/// The classes of all characters of one text, as far as the passes made so far have set them.
+class Painting {
+ public:
+  Painting(SearchableText text, std::span<const Pass> passes);
+
+  /// Makes all passes, one after another, each over the whole text.
+  void Run(const PaintingProgress& progress = {});
+  /// The colours of the classes, `colours` being indexed by ColourClass.
+  [[nodiscard]] ColourRuns Colours(std::span<const Colour, kColourClasses> colours) const;
+
+ private:
+  std::size_t Handle(const Pass& pass, std::size_t hit);
+  std::size_t HandleWordAndOperand(const Pass& pass, std::size_t hit);
+  std::size_t HandleModifier(const Pass& pass, std::size_t hit);
+  std::size_t HandleBracket(const Pass& pass, std::size_t hit);
+  std::size_t HandlePort(const Pass& pass, std::size_t hit);
+  [[nodiscard]] std::size_t Until(std::string_view set, std::size_t from) const;
+  void Paint(std::size_t from, std::size_t to, ColourClass colour);
+
+  void Make(std::size_t pass, const PaintingProgress& progress);
+
+  SearchableText text_;
+  std::span<const Pass> passes_;
+  KeywordHits hits_;
+  std::vector<ColourClass> classes_;
+};
+
+}  // namespace tarvik
