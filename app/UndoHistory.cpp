@@ -107,10 +107,13 @@ void UndoHistory::KeyPress(int character, bool paneIsEmpty) {
 
 void UndoHistory::Open(int undoMax) {
   // The way from slot 1, which becomes slot 2, to the slot on show, and on to what the pane holds now.
-  Edits path;
-  for (int slot = 1; slot < Index; ++slot) Add(path, Inverse(At(slot).fromOlder));
-  Add(path, unrecorded_);
-  unrecorded_.clear();
+  Edits path = std::exchange(unrecorded_, {});
+  if (Index > 1) {
+    Edits back;
+    for (int slot = 1; slot < Index; ++slot) Add(back, Inverse(At(slot).fromOlder));
+    Add(back, path);
+    path = std::move(back);
+  }
   slots_.push_front({pane_.SelStart, Bounded(std::move(path), pane_.Content())});
   if (UpperBound() - 1 > undoMax) {
     slots_.pop_back();

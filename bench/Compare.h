@@ -3,8 +3,8 @@
 #pragma once
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <functional>
 #include <string>
 #include <vector>
@@ -13,10 +13,17 @@ namespace tarvik::bench {
 
 using Seconds = double;
 
+/// The time that this thread has had on a core: what else the machine does is left out.
+inline Seconds ThreadTime() {
+  timespec time{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+  return static_cast<Seconds>(time.tv_sec) + static_cast<Seconds>(time.tv_nsec) * 1e-9;
+}
+
 inline Seconds TimeOf(const std::function<void()>& work, int repeats) {
-  const auto start = std::chrono::steady_clock::now();
+  const Seconds start = ThreadTime();
   for (int i = 0; i < repeats; ++i) work();
-  return std::chrono::duration<Seconds>(std::chrono::steady_clock::now() - start).count() / repeats;
+  return (ThreadTime() - start) / repeats;
 }
 
 /// How often to repeat `work` so that a measurement takes some milliseconds.

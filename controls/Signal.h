@@ -16,6 +16,7 @@ class Signal {
   using Listener = std::function<void(Args...)>;
 
   [[nodiscard]] Connection Connect(Listener listener) {
+    std::erase_if(listeners_, [](const auto& weak) { return weak.expired(); });
     auto held = std::make_shared<Listener>(std::move(listener));
     listeners_.push_back(held);
     return held;
@@ -23,10 +24,8 @@ class Signal {
 
   /// Listeners may come and go while they are called.
   void operator()(Args... args) {
-    std::erase_if(listeners_, [](const auto& weak) { return weak.expired(); });
-    const auto now = listeners_;
-    for (const auto& weak : now) {
-      if (const auto listener = weak.lock()) (*listener)(args...);
+    for (std::size_t i = 0; i < listeners_.size(); ++i) {
+      if (const auto listener = listeners_[i].lock()) (*listener)(args...);
     }
   }
 

@@ -1,7 +1,8 @@
 #include "language/MacroAnalysis.h"
 
 #include <algorithm>
-#include <unordered_map>
+#include <bit>
+#include <utility>
 
 #include "platform/CodePage.h"
 
@@ -68,6 +69,73 @@ std::string TakeHeading(std::string& line) {
   return heading;
 }
 
+/// What a name is looked up by: the word that it begins with, or a first character that is part of no word.
+struct Leader {
+  std::size_t length = 0;
+  std::size_t hash = 0;
+
+  explicit Leader(std::string_view at) {
+    for (; length < at.size() && IsWordCharacter(at[length]); ++length)
+      hash = hash * 31 + codepage::Byte(at[length]);
+    if (length == 0) hash = codepage::Byte(at[length++]);
+    hash *= 0x9E3779B97F4A7C15U;  // spreads what differs in the last characters only
+    hash ^= hash >> 32;
+  }
+};
+
+/// Names in lower case by their leaders: a hash table in which names of one leader form a chain.
+class NameIndex {
+ public:
+  explicit NameIndex(const std::vector<std::string>& names)
+      : table_(std::bit_ceil(names.size() * 2 + 2), kNone) {
+    entries_.reserve(names.size());
+    for (const std::string& name : names) {
+      Entry& entry = entries_.emplace_back(Entry{LowerCase(name), 0, 0, kNone});
+      if (name.empty()) continue;
+      const Leader leader(entry.name);
+      entry.leaderLength = leader.length;
+      entry.leaderHash = leader.hash;
+      std::size_t& first = table_[Find(leader, entry.name)];
+      entry.next = std::exchange(first, entries_.size() - 1);
+    }
+  }
+
+  /// Tells of each name that stands at the front of `text` as a whole word.
+  template <class Tell>
+  void NamesAt(std::string_view text, const Leader& leader, const Tell& tell) const {
+    for (std::size_t i = table_[Find(leader, text)]; i != kNone; i = entries_[i].next) {
+      const std::size_t length = entries_[i].name.size();
+      if (text.substr(0, length) != entries_[i].name) continue;
+      if (length == text.size() || !IsWordCharacter(text[length])) tell(i);
+    }
+  }
+
+ private:
+  static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+  struct Entry {
+    std::string name;
+    std::size_t leaderLength;
+    std::size_t leaderHash;
+    std::size_t next;  // of the same leader
+  };
+
+  /// The table's place of the leader that `text` begins with, or the free one where it belongs. There always
+  /// is one.
+  [[nodiscard]] std::size_t Find(const Leader& leader, std::string_view text) const {
+    for (std::size_t place = leader.hash;; ++place) {
+      place &= table_.size() - 1;
+      if (table_[place] == kNone) return place;
+      const Entry& entry = entries_[table_[place]];
+      if (entry.leaderHash != leader.hash || entry.leaderLength != leader.length) continue;
+      if (text.substr(0, leader.length) == std::string_view(entry.name).substr(0, leader.length))
+        return place;
+    }
+  }
+
+  std::vector<std::size_t> table_;  // the newest entry of each leader
+  std::vector<Entry> entries_;
+};
+
 }  // namespace
 
 std::vector<std::string> ReadMacroRecords(std::string_view file) {
@@ -111,35 +179,16 @@ MacroAnalysis AnalyseMacros(std::vector<std::string>& records) {
 }
 
 std::vector<bool> NamesUsed(std::string_view text, const std::vector<std::string>& names) {
-  // Names are looked up by the word they begin with, or by their first character where that is part of no
-  // word.
-  const auto leader = [](std::string_view at) {
-    std::size_t length = 0;
-    while (length < at.size() && IsWordCharacter(at[length])) ++length;
-    return at.substr(0, std::max<std::size_t>(length, 1));
-  };
   const std::string folded = LowerCase(text);
-  std::vector<std::string> wanted(names.size());
-  std::transform(names.begin(), names.end(), wanted.begin(), LowerCase);
-  std::unordered_map<std::string_view, std::vector<std::size_t>> byLeader;
-  for (std::size_t i = 0; i < wanted.size(); ++i) {
-    if (!wanted[i].empty()) byLeader[leader(wanted[i])].push_back(i);
-  }
-
-  std::vector<bool> used(names.size(), false);
   const std::string_view all = folded;
+  const NameIndex index(names);
+  std::vector<bool> used(names.size());
+  bool inWord = false;
   for (std::size_t at = 0; at < all.size();) {
-    const std::string_view word = leader(all.substr(at));
-    const bool begins = at == 0 || !IsWordCharacter(all[at - 1]);
-    if (const auto found = byLeader.find(word); begins && found != byLeader.end()) {
-      for (const std::size_t i : found->second) {
-        const std::size_t end = at + wanted[i].size();
-        if (all.substr(at, wanted[i].size()) != wanted[i]) continue;
-        if (end < all.size() && IsWordCharacter(all[end])) continue;
-        used[i] = true;
-      }
-    }
-    at += word.size();
+    const Leader leader(all.substr(at));
+    if (!inWord) index.NamesAt(all.substr(at), leader, [&used](std::size_t name) { used[name] = true; });
+    inWord = IsWordCharacter(all[at]);
+    at += leader.length;
   }
   return used;
 }

@@ -1,14 +1,10 @@
 #include "language/Painting.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 namespace tarvik {
-namespace {
-
-constexpr std::string_view kLineEnd = "\r\n";
-
-}  // namespace
-
 Painting::Painting(SearchableText text, std::span<const Pass> passes)
     : text_(text), passes_(passes), hits_(text, passes), classes_(text.text.size(), ColourClass::Black) {}
 
@@ -49,7 +45,7 @@ std::size_t Painting::Handle(const Pass& pass, std::size_t hit) {
     case PassKind::Port:
       return HandlePort(pass, hit);
     case PassKind::Comment:
-      Paint(hit, Until(kLineEnd, behind), pass.colour);
+      Paint(hit, EndOfLine(behind), pass.colour);
       return behind;
   }
   return behind;
@@ -57,7 +53,7 @@ std::size_t Painting::Handle(const Pass& pass, std::size_t hit) {
 
 std::size_t Painting::HandleWordAndOperand(const Pass& pass, std::size_t hit) {
   const std::size_t operand = std::min(hit + pass.text.size() + 1, text_.text.size());
-  Paint(hit, Until(" ", operand), pass.colour);
+  Paint(hit, Until(' ', operand), pass.colour);
   return operand;  // the operand may hold the next hit
 }
 
@@ -82,14 +78,20 @@ std::size_t Painting::HandleBracket(const Pass& pass, std::size_t hit) {
 }
 
 std::size_t Painting::HandlePort(const Pass& pass, std::size_t hit) {
-  const std::size_t command = std::min(Until("S", hit) + 1, text_.text.size());
+  const std::size_t command = std::min(Until('S', hit) + 1, text_.text.size());
   Paint(hit, command, pass.colour);
-  Paint(command, Until(kLineEnd, command), ColourClass::Button);
+  Paint(command, EndOfLine(command), ColourClass::Button);
   return command;
 }
 
-std::size_t Painting::Until(std::string_view set, std::size_t from) const {
-  return std::min(text_.text.find_first_of(set, from), text_.text.size());
+std::size_t Painting::Until(char stop, std::size_t from) const {
+  return std::min(text_.text.find(stop, from), text_.text.size());
+}
+
+/// The first CR or LF from there on. A pane has them only in pairs.
+std::size_t Painting::EndOfLine(std::size_t from) const {
+  const std::size_t end = Until('\n', from);
+  return end > from && text_.text[end - 1] == '\r' ? end - 1 : end;
 }
 
 void Painting::Paint(std::size_t from, std::size_t to, ColourClass colour) {
@@ -97,13 +99,30 @@ void Painting::Paint(std::size_t from, std::size_t to, ColourClass colour) {
             classes_.begin() + static_cast<std::ptrdiff_t>(to), colour);
 }
 
+/// Where the characters of the class at `start` end, looked for eight at a time.
+std::size_t Painting::EndOfRun(std::size_t start) const {
+  const ColourClass wanted = classes_[start];
+  const std::uint64_t eight = 0x0101010101010101U * static_cast<std::uint64_t>(wanted);
+  std::size_t at = start;
+  std::uint64_t found = eight;
+  while (at + sizeof found <= classes_.size()) {
+    std::memcpy(&found, &classes_[at], sizeof found);
+    if (found != eight) break;
+    at += sizeof found;
+  }
+  while (at < classes_.size() && classes_[at] == wanted) ++at;
+  return at;
+}
+
 ColourRuns Painting::Colours(std::span<const Colour, kColourClasses> colours) const {
   ColourRuns runs;
-  std::size_t start = 0;
-  for (std::size_t at = 1; at <= classes_.size(); ++at) {
-    if (at < classes_.size() && classes_[at] == classes_[start]) continue;
-    runs.Append(at - start, colours[static_cast<std::size_t>(classes_[start])]);
-    start = at;
+  std::size_t changes = 1;
+  for (std::size_t at = 1; at < classes_.size(); ++at) changes += classes_[at] != classes_[at - 1];
+  runs.Reserve(changes);
+  for (std::size_t start = 0; start < classes_.size();) {
+    const std::size_t end = EndOfRun(start);
+    runs.Append(end - start, colours[static_cast<std::size_t>(classes_[start])]);
+    start = end;
   }
   return runs;
 }

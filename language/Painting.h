@@ -32,7 +32,9 @@ class Painting {
   std::size_t HandleModifier(const Pass& pass, std::size_t hit);
   std::size_t HandleBracket(const Pass& pass, std::size_t hit);
   std::size_t HandlePort(const Pass& pass, std::size_t hit);
-  [[nodiscard]] std::size_t Until(std::string_view set, std::size_t from) const;
+  [[nodiscard]] std::size_t Until(char stop, std::size_t from) const;
+  [[nodiscard]] std::size_t EndOfLine(std::size_t from) const;
+  [[nodiscard]] std::size_t EndOfRun(std::size_t start) const;
   void Paint(std::size_t from, std::size_t to, ColourClass colour);
 
   void Make(std::size_t pass, const PaintingProgress& progress);

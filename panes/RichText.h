@@ -47,6 +47,8 @@ class ColourRuns {
   [[nodiscard]] Colour At(std::size_t position) const;
 
   void Append(std::size_t length, Colour colour);
+  /// Makes room for as many runs as will be appended.
+  void Reserve(std::size_t runs) { runs_.reserve(runs); }
   [[nodiscard]] ColourRuns Slice(Range range) const;
   /// Puts `colours` in the place of `range`; the two may differ in length.
   void Replace(Range range, const ColourRuns& colours);

@@ -5,51 +5,13 @@
 namespace tarvik {
 namespace {
 
+using codepage::Byte;
+
 // 0x80 to 0x9F, where the code page differs from Latin-1 (the WHATWG Encoding Standard, index windows-1252).
 constexpr std::array<char16_t, 32> kUpperControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-constexpr unsigned char Byte(char c) { return static_cast<unsigned char>(c); }
-
-constexpr bool IsUpper(unsigned char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7);
-}
-
-constexpr unsigned char Lowered(unsigned char c) {
-  if (IsUpper(c)) return static_cast<unsigned char>(c + 0x20);
-  if (c == 0x8A || c == 0x8C || c == 0x8E) return static_cast<unsigned char>(c + 0x10);
-  return c == 0x9F ? 0xFF : c;
-}
-
-constexpr auto kLower = [] {
-  std::array<char, 256> table{};
-  for (unsigned c = 0; c < 256; ++c) table[c] = static_cast<char>(Lowered(static_cast<unsigned char>(c)));
-  return table;
-}();
-
-constexpr auto kUpper = [] {
-  std::array<char, 256> table{};
-  for (unsigned c = 0; c < 256; ++c) table[c] = static_cast<char>(c);
-  for (unsigned c = 0; c < 256; ++c) {
-    const unsigned char lower = Lowered(static_cast<unsigned char>(c));
-    if (lower != c) table[lower] = static_cast<char>(c);
-  }
-  return table;
-}();
-
-constexpr auto kWord = [] {
-  std::array<bool, 256> table{};
-  for (unsigned c = 0; c < 256; ++c) {
-    const bool ascii = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
-    const bool accented = c >= 0xC0 && c != 0xD7 && c != 0xF7;
-    const bool other = c == 0x83 || c == 0x8A || c == 0x8C || c == 0x8E || c == 0x9A || c == 0x9C ||
-                       c == 0x9E || c == 0x9F || c == 0xAA || c == 0xB5;
-    table[c] = ascii || accented || other;
-  }
-  return table;
-}();
 
 void AppendUtf8(std::string& out, char32_t c) {
   if (c < 0x80) {
@@ -112,16 +74,11 @@ std::string FromUtf8(std::string_view text) {
   return result;
 }
 
-char ToLower(char character) { return kLower[Byte(character)]; }
-char ToUpper(char character) { return kUpper[Byte(character)]; }
-
 std::string LowerCase(std::string_view text) {
   std::string result(text);
   std::transform(result.begin(), result.end(), result.begin(), ToLower);
   return result;
 }
-
-bool IsWordCharacter(char character) { return kWord[Byte(character)]; }
 
 bool SortsBefore(std::string_view left, std::string_view right) {
   return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),

@@ -8,6 +8,51 @@
 
 namespace tarvik {
 
+/// The tables behind the questions below, which are asked of every character of a file.
+namespace codepage {
+
+constexpr unsigned char Byte(char c) { return static_cast<unsigned char>(c); }
+
+constexpr bool IsUpper(unsigned char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7);
+}
+
+constexpr unsigned char Lowered(unsigned char c) {
+  if (IsUpper(c)) return static_cast<unsigned char>(c + 0x20);
+  if (c == 0x8A || c == 0x8C || c == 0x8E) return static_cast<unsigned char>(c + 0x10);
+  return c == 0x9F ? 0xFF : c;
+}
+
+inline constexpr auto kLower = [] {
+  std::array<char, 256> table{};
+  for (unsigned c = 0; c < 256; ++c) table[c] = static_cast<char>(Lowered(static_cast<unsigned char>(c)));
+  return table;
+}();
+
+inline constexpr auto kUpper = [] {
+  std::array<char, 256> table{};
+  for (unsigned c = 0; c < 256; ++c) table[c] = static_cast<char>(c);
+  for (unsigned c = 0; c < 256; ++c) {
+    const unsigned char lower = Lowered(static_cast<unsigned char>(c));
+    if (lower != c) table[lower] = static_cast<char>(c);
+  }
+  return table;
+}();
+
+inline constexpr auto kWord = [] {
+  std::array<bool, 256> table{};
+  for (unsigned c = 0; c < 256; ++c) {
+    const bool ascii = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_';
+    const bool accented = c >= 0xC0 && c != 0xD7 && c != 0xF7;
+    const bool other = c == 0x83 || c == 0x8A || c == 0x8C || c == 0x8E || c == 0x9A || c == 0x9C ||
+                       c == 0x9E || c == 0x9F || c == 0xAA || c == 0xB5;
+    table[c] = ascii || accented || other;
+  }
+  return table;
+}();
+
+}  // namespace codepage
+
 /// The Unicode character of each byte. The five bytes that the code page leaves open stand for the control
 /// characters of the same number, so that every byte survives the way there and back.
 [[nodiscard]] char32_t ToUnicode(char byte);
@@ -19,12 +64,14 @@ namespace tarvik {
 /// Characters that the code page lacks, and bytes that are no UTF-8, become "?".
 [[nodiscard]] std::string FromUtf8(std::string_view text);
 
-[[nodiscard]] char ToLower(char character);
-[[nodiscard]] char ToUpper(char character);
+[[nodiscard]] inline char ToLower(char character) { return codepage::kLower[codepage::Byte(character)]; }
+[[nodiscard]] inline char ToUpper(char character) { return codepage::kUpper[codepage::Byte(character)]; }
 [[nodiscard]] std::string LowerCase(std::string_view text);
 
 /// Letters, accented ones included, digits and the underscore: two of them side by side are inside one word.
-[[nodiscard]] bool IsWordCharacter(char character);
+[[nodiscard]] inline bool IsWordCharacter(char character) {
+  return codepage::kWord[codepage::Byte(character)];
+}
 
 /// How lists sort: by the lower-case characters.
 [[nodiscard]] bool SortsBefore(std::string_view left, std::string_view right);
