@@ -40,10 +40,17 @@ ColourSelectorView::ColourSelectorView(ColourSelector& selector, QWidget& swatch
           return;
         }
         adjustSize();
-        move(swatch_.mapToGlobal(QPoint(0, swatch_.height() + 2)));
+        move(PlaceToOpen());
         show();
       },
       [this] { return TextOf(isVisible()); });
+}
+
+/// Under the swatch, or at the end of the toolbar when the swatch has no room there.
+QPoint ColourSelectorView::PlaceToOpen() const {
+  if (swatch_.isVisible()) return swatch_.mapToGlobal(QPoint(0, swatch_.height() + 2));
+  const QWidget& toolbar = *swatch_.parentWidget();
+  return toolbar.mapToGlobal(QPoint(toolbar.width() - width(), toolbar.height()));
 }
 
 void ColourSelectorView::showEvent(QShowEvent* event) {

@@ -21,6 +21,8 @@ class ColourSelectorView : public QFrame, public FormView {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  [[nodiscard]] QPoint PlaceToOpen() const;
+
   ColourSelector& selector_;
   QWidget& swatch_;
 };

@@ -106,10 +106,13 @@ void EditorView::MakeTabs() {
     const int count = editor_.TabStrip1.Count();
     editor_.TabStrip1.Select((editor_.TabStrip1.SelectedIndex() - 1 + step + count) % count + 1);
   };
-  connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Tab), this), &QShortcut::activated, this,
-          [turn] { turn(1); });
-  connect(new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab), this), &QShortcut::activated,
-          this, [turn] { turn(-1); });
+  auto* const forward = new QShortcut(this);
+  forward->setKeys({QKeySequence(Qt::CTRL | Qt::Key_Tab)});
+  connect(forward, &QShortcut::activated, this, [turn] { turn(1); });
+  auto* const back = new QShortcut(this);
+  back->setKeys({QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
+                 QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab)});
+  connect(back, &QShortcut::activated, this, [turn] { turn(-1); });
 }
 
 void EditorView::MakePanes() {
@@ -129,6 +132,19 @@ void EditorView::OrderFocus() {
   setTabOrder(button(kLastLowerButton), tabs_);
   setTabOrder(tabs_, panes_[0]);
   setTabOrder(panes_[0], panes_[1]);
+}
+
+/// The toolkit keeps the focus inside a child window; before the first control the toolbar is next.
+bool EditorView::focusNextPrevChild(bool next) {
+  if (!next && focusWidget() == bindings_.Find(editor_.Combo1)) {
+    for (const char* const name : {"Picture1", "MoreButtons"}) {
+      auto* const stop = window()->findChild<QWidget*>(QLatin1String(name));
+      if (!stop || !stop->isVisible()) continue;
+      stop->setFocus(Qt::BacktabFocusReason);
+      return true;
+    }
+  }
+  return QWidget::focusNextPrevChild(next);
 }
 
 void EditorView::PlaceTabs() {

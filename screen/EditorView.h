@@ -18,6 +18,7 @@ class EditorView : public QWidget, public FormView {
   void CloseByUser() override;
 
  protected:
+  bool focusNextPrevChild(bool next) override;
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 

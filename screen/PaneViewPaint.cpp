@@ -12,11 +12,23 @@ namespace tarvik::screen {
 namespace {
 
 constexpr qreal kLineBreakWidth = 5;  // of a selected line break, in pixels
+constexpr int kOverhang = 2;          // characters beside the exposed ones whose ink may reach in
+
+/// The characters of a line from first to before last that `place`, of the line's own layout, shows: without
+/// wrapping a line is as long as it likes.
+std::pair<std::size_t, std::size_t> Exposed(const QTextLine& line, const QRectF& place) {
+  const int begin = line.textStart();
+  const int end = begin + line.textLength();
+  const int first = std::clamp(line.xToCursor(place.left()) - kOverhang, begin, end);
+  const int last = std::clamp(line.xToCursor(place.right()) + kOverhang, begin, end);
+  return {static_cast<std::size_t>(first), static_cast<std::size_t>(last)};
+}
 
 }  // namespace
 
 void PaneView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
+  painter.setClipRect(event->rect());
   QPointF offset = contentOffset();
   const int caret = getPaintContext().cursorPosition;
   for (QTextBlock block = firstVisibleBlock(); block.isValid(); block = block.next()) {
@@ -42,8 +54,12 @@ void PaneView::PaintBlock(QPainter& painter, const QTextBlock& block, const QPoi
     const int from = std::clamp(cursor.selectionStart() - start, 0, length);
     const int to = std::clamp(cursor.selectionEnd() - start, 0, length);
     const Range selected{static_cast<std::size_t>(from), static_cast<std::size_t>(to - from)};
+    const QRectF visible = painter.clipBoundingRect().translated(-offset);
     for (int i = 0; i < layout.lineCount(); ++i) {
-      PaintLine(painter, layout.lineAt(i), offset, static_cast<std::size_t>(paneStart),
+      const QTextLine line = layout.lineAt(i);
+      if (line.y() > visible.bottom()) break;
+      if (line.y() + line.height() < visible.top()) continue;
+      PaintLine(painter, line, offset, static_cast<std::size_t>(paneStart),
                 static_cast<std::size_t>(length - 1), selected);
     }
   }
@@ -69,12 +85,13 @@ void PaneView::PaintLine(QPainter& painter, const QTextLine& line, const QPointF
     painter.fillRect(QRectF(offset.x() + x(from), offset.y() + line.y(), width, line.height()),
                      palette().brush(group, QPalette::Highlight));
   }
+  const auto [first, last] = Exposed(line, painter.clipBoundingRect().translated(-offset));
   const ColourRuns& colours = pane_.Content().colours;
-  for (std::size_t at = begin; at < end;) {
+  for (std::size_t at = first; at < last;) {
     const std::size_t position = blockStart + at;
     if (position >= colours.size()) break;
     const bool inSelection = at >= from && at < to;
-    std::size_t next = std::min(end, colours.EndOf(colours.RunAt(position)) - blockStart);
+    std::size_t next = std::min(last, colours.EndOf(colours.RunAt(position)) - blockStart);
     if (at < from) next = std::min(next, from);
     if (inSelection) next = std::min(next, to);
     painter.setPen(inSelection ? palette().color(group, QPalette::HighlightedText)

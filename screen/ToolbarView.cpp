@@ -35,7 +35,7 @@ void SwatchView::paintEvent(QPaintEvent*) {
   style()->drawComplexControl(QStyle::CC_ToolButton, &option, &painter, this);
   QRect square(0, 0, kSwatch, kSwatch);
   square.moveCenter(rect().center());
-  painter.fillRect(square, palette().color(QPalette::Mid));
+  painter.fillRect(square, palette().color(hasFocus() ? QPalette::Highlight : QPalette::Mid));
   painter.fillRect(square.adjusted(1, 1, -1, -1), palette().color(QPalette::Base));
   painter.fillRect(square.adjusted(2, 2, -2, -2), ToScreenColour(swatch_.BackColor.Get()));
 }
@@ -58,6 +58,7 @@ ToolbarView::ToolbarView(Toolbar& toolbar, PictureBox& swatch, int swatchButton,
     bindings.Keep(button.Image.Changed.Connect(rearrange));
     bindings.Keep(button.Visible.Changed.Connect(rearrange));
   }
+  overflow_->setObjectName(QStringLiteral("MoreButtons"));
   overflow_->setText(QStringLiteral("\u00BB"));
   overflow_->setAccessibleName(tr("More buttons"));
   overflow_->setAutoRaise(true);
