@@ -78,22 +78,22 @@ void Editor::SetUpControls() {
   TabStrip1.Tabs(2).Image = kNormalTabImage;
   TabStrip1.Click = [this] { TabStrip1_Click(); };
   FrameMacros.Caption = "Macros";
-  FrameMacros.MouseMove = [this](const Mouse& mouse) { layout_.FrameMouseMove(mouse); };
-  FrameMacros.DblClick = [this] { mnuViewMacros_Click(); };
+  FrameMacros.MouseMove = [this](const Mouse& mouse) { FrameMacros_MouseMove(mouse); };
+  FrameMacros.DblClick = [this] { FrameMacros_DblClick(); };
   Combo1.ToolTipText = "Macro categories";
   Combo1.Click = [this] { Combo1_Click(); };
-  Combo1.GotFocus = [this] { layout_.ResetFramePointer(); };
+  Combo1.GotFocus = [this] { Combo1_GotFocus(); };
   for (int i = 0; i < kModifierButtons; ++i) {
     Command1(i).Caption = tables::kModifierCaptions[i];
     Command1(i).Click = [this, i] { Command1_Click(i); };
-    Command1(i).MouseMove = [this](const Mouse&) { layout_.ResetFramePointer(); };
+    Command1(i).MouseMove = [this](const Mouse&) { Command1_MouseMove(); };
   }
   List1.Prepare = [this](ListBox& list) { AttachList(list); };
   AttachList(List1(0));
   Timer1.Interval = kAutoSaveInterval;
-  Timer1.Elapsed = [this] { autoSave_.Minute(); };
+  Timer1.Elapsed = [this] { Timer1_Timer(); };
   TimerBlinkLine.Interval = kBlinkInterval;
-  TimerBlinkLine.Elapsed = [this] { blink_.Step(); };
+  TimerBlinkLine.Elapsed = [this] { TimerBlinkLine_Timer(); };
   input_.Attach(Joystick);
   input_.Attach(Macro);
   mnuViewMacros.Checked = true;

@@ -74,6 +74,7 @@ class Editor : public Form {
   void mnuJoyPopUpSingleFile_Click() { mnuJoyPopUpSingleFile.Checked = !mnuJoyPopUpSingleFile.Checked; }
   void mnuFileExit_Click() { application_.CloseMum(); }
   void mnuPreferencesProtectMacroFile_Click();
+  void Timer1_Timer() { autoSave_.Minute(); }
   void JoystickTextChanged() { TextChanged(Joystick); }
   void MacroTextChanged() { TextChanged(Macro); }
 
@@ -91,13 +92,18 @@ class Editor : public Form {
   void mnuViewReformat_Click();
   void mnuViewWordWrap_Click();
   void mnuViewHighlightLine_Click() { blink_.Start(); }
+  void FrameMacros_MouseMove(const Mouse& mouse) { layout_.FrameMouseMove(mouse); }
+  void FrameMacros_DblClick() { mnuViewMacros_Click(); }
+  void TimerBlinkLine_Timer() { blink_.Step(); }
   void TabStrip1_Click();
   void UpdateToolBarOpenSaveTooltips();
   void Toolbar1_ButtonClick(int button);
 
   // Colours.
-  void mnuViewColourJoystick_Click() { highlighter_.Apply(Joystick); }
-  void mnuViewColourMacro_Click() { highlighter_.Apply(Macro); }
+  void ApplyColourHighlighting() { highlighter_.Apply(Joystick); }
+  void ApplyMacroColourHighlighting() { highlighter_.Apply(Macro); }
+  void mnuViewColourJoystick_Click() { ApplyColourHighlighting(); }
+  void mnuViewColourMacro_Click() { ApplyMacroColourHighlighting(); }
   void mnuViewApplyColourBothFiles_Click();
   void mnuRemoveColourJoystick_Click() { highlighter_.Remove(Joystick); }
   void mnuRemoveColourMacro_Click() { highlighter_.Remove(Macro); }
@@ -117,11 +123,13 @@ class Editor : public Form {
   void mnuRHListEdit_Click();
   void ExtractButtonDefinition(const std::string& name) { lists_.ExtractButtonDefinition(name); }
   void Combo1_Click();
+  void Combo1_GotFocus() { layout_.ResetFramePointer(); }
   void List1_MouseDown(int index, const Mouse& mouse);
   void List1_MouseMove(int index, const Mouse& mouse);
   void List1_DblClick(int index) { lists_.Insert(index); }
   void List1_OLEStartDrag(int index);
   void Command1_Click(int index);
+  void Command1_MouseMove() { layout_.ResetFramePointer(); }
   void mnuSlashModifier_Click(int index) { Command1_Click(index); }
   void mnuSlashModifierQ_Click() { Command1_Click(12); }
   void mnuSlashModifierDLY_Click() { Command1_Click(11); }

@@ -5,7 +5,8 @@
 
 namespace tarvik::tables {
 
-// Entries without a handler are there and disabled until their tool is.
+// Entries without a handler are there and disabled until their tool is. A row without a caption is the hidden
+// first member of an array that is filled while the program runs.
 inline constexpr MenuRow<Editor> kMenus[] = {
     {0, "mnuFile", "&File"},
     {1, "mnuFileNewJoystick", "New &joystick file", "Ctrl+N", &Editor::mnuFileNewJoystick_Click},
@@ -25,7 +26,13 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuFilePrinterSetup", "Printer set&up ..."},
     {1, "mnuFileDivider4", "-"},
     {1, "mnuFilePrevious", "Previous joystick &files"},
+    {2, "mnuJFArray", "", "", nullptr, 0},
+    {2, "mnuPreviousDivider1", "-"},
+    {2, "mnuPreviousClearAllJ", "&Clear all"},
     {1, "mnuFilePrevMacro", "Previous ma&cro files"},
+    {2, "mnuMFArray", "", "", nullptr, 0},
+    {2, "mnuPreviousDivider2", "-"},
+    {2, "mnuPreviousClearAllM", "&Clear all"},
     {1, "mnuJoyPopUpSingleFile", "Open single files on&ly", "", &Editor::mnuJoyPopUpSingleFile_Click},
     {1, "mnuFileDivider5", "-"},
     {1, "mnuFileExit", "E&xit", "", &Editor::mnuFileExit_Click},
@@ -33,6 +40,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {0, "mnuFavourites", "Favouri&tes"},
     {1, "mnuFavouritesAddCurrent", "&Add current files ..."},
     {1, "mnuFavouritesDivider1", "-"},
+    {1, "mnuFavArray", "", "", nullptr, 0},
     {1, "mnuFavsEdit", "&Edit"},
 
     {0, "mnuEdit", "&Edit"},
@@ -66,19 +74,19 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuInsertDivider2", "-"},
     {1, "mnuInsertWithColour", "Insert &with colour", "", &Editor::mnuInsertWithColour_Click},
     {1, "mnuInsertDivider3", "-"},
-    {1, "mnuSlashModifier", "/&U  dogfight switch is up", "", nullptr, 0, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/&M  dogfight switch middle position", "", nullptr, 1,
+    {1, "mnuSlashModifier", "/U  dogfight switch is up", "", nullptr, 0, &Editor::mnuSlashModifier_Click},
+    {1, "mnuSlashModifier", "/M  dogfight switch middle position", "", nullptr, 1,
      &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/&D  dogfight switch is down", "", nullptr, 2, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/&I  S3 is held in", "", nullptr, 3, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/&O S3 is out", "", nullptr, 4, &Editor::mnuSlashModifier_Click},
+    {1, "mnuSlashModifier", "/D  dogfight switch is down", "", nullptr, 2, &Editor::mnuSlashModifier_Click},
+    {1, "mnuSlashModifier", "/I  S3 is held in", "", nullptr, 3, &Editor::mnuSlashModifier_Click},
+    {1, "mnuSlashModifier", "/O S3 is out", "", nullptr, 4, &Editor::mnuSlashModifier_Click},
     {1, "mnuSlashModifier", "/A  force analogue", "", nullptr, 5, &Editor::mnuSlashModifier_Click},
     {1, "mnuSlashModifier", "/P  press event", "", nullptr, 6, &Editor::mnuSlashModifier_Click},
     {1, "mnuSlashModifier", "/R  release event", "", nullptr, 7, &Editor::mnuSlashModifier_Click},
     {1, "mnuSlashModifier", "/H  hold down", "", nullptr, 8, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/&N  no repeat", "", nullptr, 9, &Editor::mnuSlashModifier_Click},
+    {1, "mnuSlashModifier", "/N  no repeat", "", nullptr, 9, &Editor::mnuSlashModifier_Click},
     {1, "mnuSlashModifier", "/T  toggle modifier", "", nullptr, 10, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifierQ", "/&Q  ignore initial repeat delay modifier", "",
+    {1, "mnuSlashModifierQ", "/Q  ignore initial repeat delay modifier", "",
      &Editor::mnuSlashModifierQ_Click},
     {1, "mnuSlashModifierDLY", "D&LY  delay", "", &Editor::mnuSlashModifierDLY_Click},
     {1, "mnuInsertDivider8", "-"},
@@ -124,6 +132,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuF22Reset", "F22 &Reset"},
     {1, "mnuF22Delay", "F22 &Delay"},
     {1, "mnuAppsDivider2", "-"},
+    {1, "mnuCustomApp", "", "", nullptr, 0},
     {1, "mnuAppsEdit", "&Edit custom apps ..."},
     {1, "mnuAppsDivider3", "-"},
     {1, "mnuSendToJoystick", "D&ownload joystick file to joystick", "F12"},
@@ -132,6 +141,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {0, "mnuGames", "&Games"},
     {1, "mnuGamesAdd", "&Add game ..."},
     {1, "mnuGamesDivider1", "-"},
+    {1, "mnuGameArray", "", "", nullptr, 0},
     {1, "mnuGamesEdit", "&Edit"},
 
     {0, "mnuhelpWizards", "Wi&zards"},

@@ -215,10 +215,14 @@ void FileCommands::TakeFile(Document& document, const File& file) {
   desk_.TabOf(document).Caption = document.Name;
 }
 
-/// The coloured copy when it is true to the file, else the file itself, coloured.
+/// The coloured copy when it is true to the file, else the file itself, coloured. A file that went bad since
+/// it was looked at gives an untitled document: the former text must not be saved in its place.
 void FileCommands::FillPane(Document& document, const Trap& trap) {
   if (!copies_.Load(document)) {
-    trap(document.text.LoadFile(document.Path.Get()));
+    if (!trap(document.text.LoadFile(document.Path.Get()))) {
+      document.text.SetContent({});
+      NameUntitled(document);
+    }
     if (desk_.settings.ApplyColoursOnFileOpen == 1) highlighter_.Apply(document);
   }
   document.Caret = 0;

@@ -6,6 +6,7 @@ namespace tarvik {
 namespace {
 
 constexpr int kNarrowestFrame = 185;
+constexpr float kNarrowestText = 100;  // pixels of the form that the frame leaves to the files
 constexpr int kGrip = 8;  // pixels at the frame's right edge
 
 // In the tab strip, in pixels.
@@ -48,8 +49,15 @@ void Layout::Place() {
   }
 }
 
+/// The stored width may be any number, and was chosen for a form of another size.
+float Layout::FrameWidth() const {
+  const auto narrowest = static_cast<float>(kNarrowestFrame);
+  const float widest = std::max(narrowest, controls_.form.ScaleWidth - kNarrowestText);
+  return std::clamp(static_cast<float>(desk_.settings.MacroFrameWidth.Get()), narrowest, widest);
+}
+
 void Layout::PlaceFrame() {
-  const float width = static_cast<float>(desk_.settings.MacroFrameWidth.Get());
+  const float width = FrameWidth();
   const float height = controls_.form.ScaleHeight;
   controls_.frame.Move(0, 0, width, height);
   controls_.categories.Width = width * kTwipsPerPixel - 240;
@@ -65,8 +73,7 @@ void Layout::PlaceFrame() {
 }
 
 void Layout::PlaceTabStrip() {
-  const float left =
-      controls_.viewMacros.Checked ? static_cast<float>(desk_.settings.MacroFrameWidth.Get()) : 0;
+  const float left = controls_.viewMacros.Checked ? FrameWidth() : 0;
   desk_.tabs.Move(left, 0, controls_.form.ScaleWidth - left, controls_.form.ScaleHeight);
 }
 

@@ -41,6 +41,7 @@ class Layout {
   void ShowBothFiles();
   void PlaceTabStrip();
   void PlaceFrame();
+  [[nodiscard]] float FrameWidth() const;
 
   Desk& desk_;
   LayoutControls controls_;

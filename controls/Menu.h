@@ -37,8 +37,8 @@ class Menus {
       MenuItem& item = items_.emplace_back(form, row.name, index);
       item.Caption = row.caption;
       item.Shortcut = row.shortcut;
-      const bool opensMenu = i + 1 < N && rows[i + 1].level > row.level;
-      item.Enabled = row.handler || row.indexedHandler || opensMenu;
+      item.Visible = row.caption[0] != '\0';
+      item.Enabled = row.level == 0 || CanDoSomething(rows, i);
       if (row.handler) item.Click = [&form, handler = row.handler] { (form.*handler)(); };
       if (row.indexedHandler) {
         item.Click = [&form, handler = row.indexedHandler, at = row.index] { (form.*handler)(at); };
@@ -65,6 +65,17 @@ class Menus {
   }
 
  private:
+  /// Whether the row has a handler, or one of the rows below it.
+  template <class F, std::size_t N>
+  static bool CanDoSomething(const MenuRow<F> (&rows)[N], std::size_t row) {
+    const auto handled = [&rows](std::size_t i) { return rows[i].handler || rows[i].indexedHandler; };
+    if (handled(row)) return true;
+    for (std::size_t i = row + 1; i < N && rows[i].level > rows[row].level; ++i) {
+      if (handled(i)) return true;
+    }
+    return false;
+  }
+
   std::deque<MenuItem> items_;
   std::vector<MenuEntry> entries_;
 };

@@ -129,11 +129,26 @@ void MacroLists::IdentifyMacrosUsed() {
   desk_.Say("Analysing the macros you've already assigned in the " + desk_.joystick.Name.Get() +
             ". Please wait ...");
   desk_.mousePointer = pointer::kHourglass;
-  for (int i = 0; i < lists_.Count(); ++i) lists_(i).Tick(NamesUsed(text, lists_(i).List()));
+  TickNamesUsed(text);
   ShowAll();
   desk_.values.MacroListChanged = 1;
   desk_.Say("Finished analysing the macros assigned in your joystick file...phew!...fancy a beer?");
   desk_.mousePointer = pointer::kDefault;
+}
+
+/// The names of all lists are looked up at once: the text is read through once for all of them.
+void MacroLists::TickNamesUsed(std::string_view text) {
+  std::vector<std::string> names;
+  for (int i = 0; i < lists_.Count(); ++i) {
+    names.insert(names.end(), lists_(i).List().begin(), lists_(i).List().end());
+  }
+  const std::vector<bool> used = NamesUsed(text, names);
+  auto first = used.begin();
+  for (int i = 0; i < lists_.Count(); ++i) {
+    const auto last = first + lists_(i).ListCount();
+    lists_(i).Tick(std::vector<bool>(first, last));
+    first = last;
+  }
 }
 
 void MacroLists::ClearMacroTicks() {

@@ -40,6 +40,7 @@ class MacroLists {
   void Insert(int list);
 
  private:
+  void TickNamesUsed(std::string_view text);
   void Fill(MacroAnalysis analysis);
   void ShowAll();
 

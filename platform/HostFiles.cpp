@@ -1,10 +1,13 @@
 #include "platform/HostFiles.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <charconv>
+#include <chrono>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -20,6 +23,9 @@ constexpr mode_t kAnyMayWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t kReadWriteAll = 0666;
 constexpr mode_t kOwnerOnly = 0600;
 constexpr mode_t kFolder = 0777;
+
+/// Temporary files are called so, with the process and a number behind it: .tarvik-1234-0
+constexpr std::string_view kTemporary = ".tarvik-";
 
 Failure SystemFailure(int code, int numberWhenMissing = error::kPathNotFound) {
   const bool full = code == ENOSPC || code == EDQUOT || code == EFBIG;
@@ -100,7 +106,7 @@ class Replacement {
   /// Opened for the owner alone where it stands in for `old`, which may be private.
   Replacement(const fs::path& folder, const std::optional<struct stat>& old) : old_(old) {
     constexpr int kMostTries = 100;
-    const std::string stem = ".tarvik-" + std::to_string(getpid()) + "-";
+    const std::string stem = std::string(kTemporary) + std::to_string(getpid()) + "-";
     for (int i = 0; i < kMostTries && !file_.IsOpen(); ++i) {
       path_ = folder / (stem + std::to_string(i));
       file_.Open(path_, O_WRONLY | O_CREAT | O_EXCL, old ? kOwnerOnly : kReadWriteAll);
@@ -129,9 +135,14 @@ class Replacement {
   }
 
  private:
-  /// Only the mode has to succeed. A new owner costs a file its set-id bits, so it comes first.
+  /// Only the mode has to succeed. A new owner costs a file its set-id bits, so it comes first. Whoever may
+  /// not give a file away may give it to a group of theirs.
   bool KeepOwnerAndMode() {
-    if (fchown(file_.number(), old_->st_uid, old_->st_gid) != 0) errno = 0;
+    constexpr auto kSameOwner = static_cast<uid_t>(-1);
+    if (fchown(file_.number(), old_->st_uid, old_->st_gid) != 0 &&
+        fchown(file_.number(), kSameOwner, old_->st_gid) != 0) {
+      errno = 0;
+    }
     return fchmod(file_.number(), old_->st_mode & kPermissions) == 0;
   }
 
@@ -149,6 +160,36 @@ void FlushFolder(const fs::path& folder) {
   if (descriptor.IsOpen()) fsync(descriptor.number());
 }
 
+/// The process that a temporary file is of, by its name; nothing for any other name.
+std::optional<pid_t> WriterOf(std::string_view name) {
+  if (!name.starts_with(kTemporary)) return std::nullopt;
+  name.remove_prefix(kTemporary.size());
+  const std::size_t dash = name.find('-');
+  if (dash == 0 || dash == name.npos || dash + 1 == name.size()) return std::nullopt;
+  if (name.find_first_not_of("0123456789", 0) != dash) return std::nullopt;
+  if (name.find_first_not_of("0123456789", dash + 1) != name.npos) return std::nullopt;
+  pid_t process = 0;
+  const auto [end, status] = std::from_chars(name.data(), name.data() + dash, process);
+  return status == std::errc{} && process > 0 ? std::optional(process) : std::nullopt;
+}
+
+/// Removes the temporary files of processes that died while they wrote. A process of another machine that
+/// shares the folder cannot be asked for, so that only what is an hour old counts.
+void RemoveLeftovers(const fs::path& folder) {
+  using Clock = std::chrono::system_clock;
+  constexpr auto kAge = std::chrono::hours(1);
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
+       entry.increment(error)) {
+    const fs::path& path = entry->path();
+    const auto writer = WriterOf(path.filename().native());
+    if (!writer || kill(*writer, 0) == 0 || errno != ESRCH) continue;
+    struct stat status {};
+    if (lstat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) continue;
+    if (Clock::from_time_t(status.st_mtime) + kAge < Clock::now()) unlink(path.c_str());
+  }
+}
+
 Outcome<> ReplaceFile(const fs::path& target, std::string_view content) {
   const auto old = StatusOf(target);
   if (const int code = Obstacle(target, old); code != 0) return SystemFailure(code);
@@ -156,6 +197,7 @@ Outcome<> ReplaceFile(const fs::path& target, std::string_view content) {
   if (auto filled = replacement.Fill(content); !filled) return filled;
   if (auto replaced = replacement.Replace(target); !replaced) return replaced;
   FlushFolder(target.parent_path());
+  RemoveLeftovers(target.parent_path());
   return Done{};
 }
 

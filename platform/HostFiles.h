@@ -20,8 +20,8 @@ class HostFiles : public Files {
   [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
 
   /// A link stays a link: the file it leads to is replaced. A file keeps its mode and, as far as the system
-  /// lets us, its owner. A file or folder whose mode forbids writing is a failure, also for those whom no
-  /// mode stops.
+  /// lets us, its owner and group. A file or folder whose mode forbids writing is a failure, also for those
+  /// whom no mode stops. Temporary files that a process left beside it when it died go away an hour later.
   Outcome<> Write(std::string_view path, std::string_view content) override;
 
   Outcome<> MakeFolder(std::string_view path) override;

@@ -131,7 +131,9 @@ void Profile::Set(std::string_view section, std::string_view key, std::string_vi
 
 Profile ProfileFile::Read() const {
   auto text = files_.Read(path_);
-  return text ? Profile(*std::move(text)) : Profile();
+  if (text) return Profile(*std::move(text));
+  if (text.failure().number != error::kFileNotFound) unread_ = text.failure();
+  return {};
 }
 
 std::string ProfileFile::GetString(std::string_view section, std::string_view key, std::string_view fallback,
@@ -149,6 +151,7 @@ Outcome<> ProfileFile::Write(std::string_view section, std::string_view key, std
 }
 
 Outcome<> ProfileFile::WriteAll(std::span<const ProfileEntry> entries) {
+  if (unread_) return *unread_;
   Profile profile;
   if (files_.FileExists(path_)) {
     auto text = files_.Read(path_);

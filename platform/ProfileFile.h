@@ -50,7 +50,8 @@ struct ProfileEntry {
   std::string value;
 };
 
-/// The settings file on the disk.
+/// The settings file on the disk. Once it was there and could not be read, it is left alone: whoever asked
+/// has got the fallbacks, and they are not to take the place of the user's settings.
 class ProfileFile {
  public:
   ProfileFile(Files& files, std::string path) : files_(files), path_(std::move(path)) {}
@@ -73,6 +74,7 @@ class ProfileFile {
  private:
   Files& files_;
   std::string path_;
+  mutable std::optional<Failure> unread_;
 };
 
 }  // namespace tarvik

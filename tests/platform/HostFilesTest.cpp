@@ -1,3 +1,4 @@
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/resource.h>
@@ -7,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -97,6 +99,31 @@ TEST_F(HostFilesTest, AWriteKeepsTheModeAndTheOwner) {
   EXPECT_EQ(after.st_uid, before.st_uid);
   EXPECT_EQ(after.st_gid, before.st_gid);
   EXPECT_EQ(Content("a.b50"), "new");
+}
+
+TEST_F(HostFilesTest, AFileOfSomebodyElseStaysInTheGroupThroughWhichItIsWritten) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can be two people";
+  constexpr uid_t kOwner = 1234;
+  constexpr uid_t kColleague = 1235;
+  constexpr gid_t kGroup = 2345;
+  temporary.Put("dos/a.b50", "old");
+  for (const fs::path& path : {temporary.path(), Host(""), Host("a.b50")}) {
+    ASSERT_EQ(chown(path.c_str(), kOwner, kGroup), 0);
+    ASSERT_EQ(chmod(path.c_str(), 0770), 0);
+  }
+  const pid_t child = fork();
+  if (child == 0) {
+    const bool other = setgroups(1, &kGroup) == 0 && setgid(kColleague) == 0 && setuid(kColleague) == 0;
+    _exit(other && files.Write("c:\\a.b50", "new") ? 0 : 1);
+  }
+  int status = 1;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  ASSERT_EQ(status, 0);
+  struct stat after {};
+  ASSERT_EQ(stat(Host("a.b50").c_str(), &after), 0);
+  EXPECT_EQ(after.st_uid, kColleague);
+  EXPECT_EQ(after.st_gid, kGroup);
+  EXPECT_EQ(after.st_mode & 07777U, 0770U);
 }
 
 TEST_F(HostFilesTest, ANewFileHasTheModeOfAnyNewFile) {
@@ -194,6 +221,44 @@ TEST_F(HostFilesTest, WhatACrashedProcessLeftIsNotTakenOver) {
   ASSERT_TRUE(files.Write("c:\\a.b50", "new"));
   EXPECT_EQ(Content(leftover), "left");
   EXPECT_EQ(Content("a.b50"), "new");
+}
+
+/// A process that has ended.
+pid_t DeadProcess() {
+  const pid_t child = fork();
+  if (child == 0) _exit(0);
+  waitpid(child, nullptr, 0);
+  return child;
+}
+
+TEST_F(HostFilesTest, AnHourLaterTheTemporaryFilesOfDeadProcessesGoAndNothingElseDoes) {
+  const std::string dead = ".tarvik-" + std::to_string(DeadProcess());
+  const std::string alive = ".tarvik-" + std::to_string(getpid());
+  const std::vector<std::string> kept = {
+      alive + "-7", dead,          dead + "-",     dead + "-0x",  "x" + dead + "-0",      ".tarvik-",
+      ".tarvik--0", ".tarvik-0-0", ".tarvik-+9-0", dead + "-0-0", ".tarvik-99999999999-0"};
+  std::vector<std::string> old = kept;
+  old.push_back(dead + "-0");
+  old.push_back(dead + "-12");
+  for (const std::string& name : old) {
+    temporary.Put("dos/" + name, "left");
+    fs::last_write_time(Host(name), fs::file_time_type::clock::now() - std::chrono::minutes(61));
+  }
+  temporary.Put("dos/" + dead + "-1", "fresh");
+  ASSERT_TRUE(files.Write("c:\\a.b50", "new"));
+  std::vector<std::string> expected = kept;
+  expected.push_back(dead + "-1");
+  expected.push_back("a.b50");
+  std::sort(expected.begin(), expected.end());
+  EXPECT_EQ(Names(), expected);
+}
+
+TEST_F(HostFilesTest, AFolderWithTheNameOfATemporaryFileStays) {
+  const std::string name = ".tarvik-" + std::to_string(DeadProcess()) + "-0";
+  temporary.Put("dos/" + name + "/a", "");
+  fs::last_write_time(Host(name), fs::file_time_type::clock::now() - std::chrono::hours(2));
+  ASSERT_TRUE(files.Write("c:\\a.b50", "new"));
+  EXPECT_TRUE(fs::exists(Host(name) / "a"));
 }
 
 TEST_F(HostFilesTest, OfTwoNamesThatDifferInCaseThePickedOneIsWritten) {

@@ -223,6 +223,23 @@ TEST(ProfileFile, AFileThatCannotBeReadIsNotOverwritten) {
   EXPECT_EQ(files.Content("c:\\tarvik.ini"), "[Apps]\r\nTextFilePath=1\r\n");
 }
 
+TEST_F(ProfileFileTest, FallbacksForAFileThatCouldNotBeReadDoNotTakeItsPlaceWhenItCanAgain) {
+  const std::string text = "[Apps]\r\nTextFilePath=1\r\n";
+  files.Put(kPath, text);
+  files.SetUnreadable(kPath);
+  EXPECT_EQ(file.GetString("Apps", "TextFilePath", "fallback", 100), "fallback");
+  files.Remove(kPath);
+  files.Put(kPath, text);
+  EXPECT_EQ(file.Write("Apps", "TextFilePath", "fallback").failure().number, error::kPathAccess);
+  EXPECT_EQ(Content(), text);
+}
+
+TEST_F(ProfileFileTest, AFileThatWasMissingWhenItWasReadIsCreated) {
+  EXPECT_EQ(file.GetInt("Miscellaneous", "UndoMax", 50), 50);
+  ASSERT_TRUE(file.Write("Miscellaneous", "UndoMax", "50"));
+  EXPECT_EQ(file.GetInt("Miscellaneous", "UndoMax", 0), 50);
+}
+
 class GarbageProfile : public testing::TestWithParam<std::string> {};
 
 TEST_P(GarbageProfile, IsKeptAndTakesANewKey) {

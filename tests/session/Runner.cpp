@@ -84,9 +84,11 @@ std::vector<std::string> Runner::Run(std::string_view script) {
 const std::map<std::string_view, Runner::Command>& Runner::Commands() {
   static const std::map<std::string_view, Command> commands = {
       {"file", &Runner::File},
+      {"repeat", &Runner::Repeat},
       {"bytes", &Runner::Bytes},
       {"folder", &Runner::Folder},
       {"readonly", &Runner::ReadOnly},
+      {"unreadable", &Runner::Unreadable},
       {"remove", &Runner::Remove},
       {"ini", &Runner::Ini},
       {"room", &Runner::DiskRoom},
@@ -120,6 +122,7 @@ const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
       {"folder", &Runner::ExpectFolder}, {"ini", &Runner::ExpectIni},
       {"colour", &Runner::ExpectColour}, {"colours", &Runner::ExpectColours},
       {"ended", &Runner::ExpectEnded},   {"running", &Runner::ExpectRunning},
+      {"same", &Runner::ExpectSame},
   };
   return expectations;
 }
@@ -188,9 +191,25 @@ PropertyBase* Runner::FindProperty(const std::string& path) {
 // Before the start.
 
 void Runner::File(const Line& line) { files_.Put(Word(line, 1), FileContent(line)); }
+
+/// repeat PATH COUNT [open]: the indented lines that many times over, each % in them the number of the time;
+/// where the file is open all in one line.
+void Runner::Repeat(const Line& line) {
+  const bool open = line.words.back() == "open";
+  std::string content;
+  for (int time = 1; time <= std::stoi(Word(line, 2)); ++time) {
+    for (const std::string& text : line.block) {
+      for (const char c : text) content += c == '%' ? TextOf(time) : std::string(1, c);
+      if (!open) content += "\r\n";
+    }
+  }
+  files_.Put(Word(line, 1), content);
+}
+
 void Runner::Bytes(const Line& line) { files_.Put(Word(line, 1), FromHex(line.words, 2)); }
 void Runner::Folder(const Line& line) { files_.PutFolder(Word(line, 1)); }
 void Runner::ReadOnly(const Line& line) { files_.SetReadOnly(Word(line, 1)); }
+void Runner::Unreadable(const Line& line) { files_.SetUnreadable(Word(line, 1)); }
 void Runner::Remove(const Line& line) { files_.Remove(Word(line, 1)); }
 
 void Runner::Ini(const Line& line) {
@@ -301,8 +320,12 @@ void Runner::Pick(const Line& line) {
 void Runner::Type(const Line& line) {
   if (!driver_->Type(*FindAs<Pane>(Word(line, 1)), Word(line, 2))) throw Stop{"it isn't on show"};
 }
+/// key CONTROL CHORD [COUNT]
 void Runner::PressKey(const Line& line) {
-  if (!driver_->PressKey(*Find(Word(line, 1)), Word(line, 2))) throw Stop{"nothing takes the key"};
+  const int count = line.words.size() > 3 ? std::stoi(line.words[3]) : 1;
+  for (int i = 0; i < count; ++i) {
+    if (!driver_->PressKey(*Find(Word(line, 1)), Word(line, 2))) throw Stop{"nothing takes the key"};
+  }
   if (application_->Ended()) Killed(line);
 }
 
@@ -408,6 +431,14 @@ void Runner::ExpectBytes(const Line& line) {
   const auto content = files_.Content(Word(line, 2));
   if (!content) throw Stop{"there is no such file"};
   Compare(ToHex(FromHex(line.words, 3)), ToHex(*content));
+}
+
+/// expect same PATH PATH: two files of the same bytes
+void Runner::ExpectSame(const Line& line) {
+  const auto wanted = files_.Content(Word(line, 3));
+  const auto found = files_.Content(Word(line, 2));
+  if (!wanted || !found) throw Stop{"there is no such file"};
+  Compare(*wanted, *found);
 }
 
 void Runner::ExpectNo(const Line& line) {

@@ -35,9 +35,11 @@ class Runner {
 
   // Before the start.
   void File(const Line& line);
+  void Repeat(const Line& line);
   void Bytes(const Line& line);
   void Folder(const Line& line);
   void ReadOnly(const Line& line);
+  void Unreadable(const Line& line);
   void Remove(const Line& line);
   void Ini(const Line& line);
   void DiskRoom(const Line& line);
@@ -68,6 +70,7 @@ class Runner {
   void ExpectDialog(const Line& line);
   void ExpectFile(const Line& line);
   void ExpectBytes(const Line& line);
+  void ExpectSame(const Line& line);
   void ExpectNo(const Line& line);
   void ExpectFolder(const Line& line);
   void ExpectIni(const Line& line);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cassert>
 #include <cerrno>
+#include <utility>
 
 namespace tarvik {
 namespace {
@@ -42,9 +43,11 @@ void MemoryFiles::Remove(std::string_view path) {
 }
 
 void MemoryFiles::SetReadOnly(std::string_view path, bool readOnly) {
-  const auto whole = current_.Complete(path);
-  const auto found = whole ? entries_.find(whole->Text()) : entries_.end();
-  if (found != entries_.end()) found->second.readOnly = readOnly;
+  if (Entry* entry = Find(path)) entry->readOnly = readOnly;
+}
+
+void MemoryFiles::SetUnreadable(std::string_view path) {
+  if (Entry* entry = Find(path)) entry->unreadable = true;
 }
 
 std::optional<std::string> MemoryFiles::Content(std::string_view path) const {
@@ -67,6 +70,10 @@ const MemoryFiles::Entry* MemoryFiles::Find(std::string_view path) const {
   return &found->second;
 }
 
+MemoryFiles::Entry* MemoryFiles::Find(std::string_view path) {
+  return const_cast<Entry*>(std::as_const(*this).Find(path));
+}
+
 bool MemoryFiles::FileExists(std::string_view path) const {
   const Entry* entry = Find(path);
   return entry && !entry->isFolder;
@@ -80,7 +87,7 @@ bool MemoryFiles::FolderExists(std::string_view path) const {
 Outcome<std::string> MemoryFiles::Read(std::string_view path) const {
   const Entry* entry = Find(path);
   if (!entry) return Failure{error::kFileNotFound, "File not found", ENOENT};
-  if (entry->isFolder) return PathAccess();
+  if (entry->isFolder || entry->unreadable) return PathAccess();
   return entry->content;
 }
 

@@ -26,6 +26,8 @@ class MemoryFiles : public Files {
   void Remove(std::string_view path);
   /// For a file, or a folder in which nothing new may then be written.
   void SetReadOnly(std::string_view path, bool readOnly = true);
+  /// The file is there, and every `Read` of it fails.
+  void SetUnreadable(std::string_view path);
   /// The disk takes that many more bytes. A `Write` of more fails and leaves the old content.
   void FailAfter(std::size_t bytes) { room_ = bytes; }
   void StopFailing() { room_.reset(); }
@@ -47,10 +49,12 @@ class MemoryFiles : public Files {
   struct Entry {
     bool isFolder = false;
     bool readOnly = false;
+    bool unreadable = false;
     std::string content{};
   };
 
   [[nodiscard]] const Entry* Find(std::string_view path) const;
+  [[nodiscard]] Entry* Find(std::string_view path);
   /// The place of a new file or folder, or why there can be none.
   [[nodiscard]] Outcome<LogicalPath> PlaceFor(std::string_view path) const;
 

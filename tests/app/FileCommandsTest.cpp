@@ -1,0 +1,61 @@
+#include <gtest/gtest.h>
+
+#include "app/Editor.h"
+#include "support/MemoryFiles.h"
+
+namespace tarvik {
+namespace {
+
+/// A disk of which a file can be read once more, and then no longer.
+class FailingFiles : public MemoryFiles {
+ public:
+  Outcome<std::string> Read(std::string_view path) const override {
+    if (path == failing && left-- <= 0) return Failure{error::kPathAccess, "Input/output error", 5};
+    return MemoryFiles::Read(path);
+  }
+  std::string failing;
+  mutable int left = 1;
+};
+
+/// Every box is answered with OK, every file dialog cancelled.
+class NoDialogs : public Dialogs {
+ public:
+  Answer Show(const MessageBox& /*box*/) override { return Answer::Ok; }
+  Outcome<std::string> AskForFile(const FileRequest& /*request*/) override {
+    return Failure{error::kDialogCancelled, "Cancel was selected.", 0};
+  }
+};
+
+class OnlyInstance : public SingleInstance {
+ public:
+  bool Acquire() override { return true; }
+};
+
+TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerText) {
+  FailingFiles files;
+  files.PutFolder("c:\\tarvik");
+  files.Put("c:\\my\\former.b50", "the former text\r\n");
+  files.Put("c:\\my\\failing.b50", "its own text\r\n");
+  NoDialogs dialogs;
+  OnlyInstance instance;
+  Platform platform{files, dialogs, instance, {28800, 21600}, "c:\\tarvik", ""};
+  Application application(platform);
+  application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+  application.Start();
+  Editor& editor = *application.editor();
+
+  editor.OpenPreviouslySavedFiles("c:\\my\\former.b50");
+  ASSERT_EQ(editor.JoystickText.Text.Get(), "the former text\r\n");
+  files.failing = "c:\\my\\failing.b50";
+  editor.OpenPreviouslySavedFiles(files.failing);
+  editor.JoystickText.UserReplaced({0, 0}, "more ");
+  editor.mnuFileSave_Click();
+
+  EXPECT_EQ(files.Content("c:\\my\\failing.b50"), "its own text\r\n");
+  EXPECT_EQ(files.Content("c:\\my\\former.b50"), "the former text\r\n");
+  EXPECT_EQ(application.errors.ErrorText.Get(), "Input/output error");
+  EXPECT_EQ(editor.JoystickText.Text.Get(), "more ");
+}
+
+}  // namespace
+}  // namespace tarvik
