@@ -7,7 +7,7 @@ namespace {
 
 constexpr int kNarrowestFrame = 185;
 constexpr float kNarrowestText = 100;  // pixels of the form that the frame leaves to the files
-constexpr int kGrip = 8;  // pixels at the frame's right edge
+constexpr int kGrip = 8;               // pixels at the frame's right edge
 
 // In the tab strip, in pixels.
 constexpr float kPaneLeft = 3;

@@ -66,8 +66,9 @@ class Pane : public Control {
   /// 0-based, of the text's own lines, wrapped or not.
   [[nodiscard]] std::size_t GetLineFromChar(std::size_t position) const;
 
-  Attribute<std::string> Text{*this, "Text", [this] { return content_.text; },
-                              [this](const std::string& text) { SetContent(RichText(WithPaneLineBreaks(text))); }};
+  Attribute<std::string> Text{
+      *this, "Text", [this] { return content_.text; },
+      [this](const std::string& text) { SetContent(RichText(WithPaneLineBreaks(text))); }};
   Attribute<std::string> TextRTF;
   Attribute<std::size_t> SelStart{*this, "SelStart", [this] { return selection_.start; },
                                   [this](std::size_t start) {
