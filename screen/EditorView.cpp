@@ -55,8 +55,7 @@ class FrameView : public QWidget {
 
 }  // namespace
 
-EditorView::EditorView(Application& application, Editor& editor, Clock clock)
-    : FormView(editor), application_(application), editor_(editor) {
+EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(editor) {
   setObjectName(QStringLiteral("Editor"));
   menus_ = MakeMenus(editor.menus, bindings_);
   popUps_ = MakeMenus(editor.popUps, bindings_);

@@ -12,7 +12,7 @@ namespace tarvik::screen {
 
 class EditorView : public QWidget, public FormView {
  public:
-  EditorView(Application& application, Editor& editor, Clock clock);
+  EditorView(Editor& editor, Clock clock);
 
   [[nodiscard]] const std::vector<std::unique_ptr<QMenu>>& menus() const { return menus_; }
   void CloseByUser() override;
@@ -30,7 +30,6 @@ class EditorView : public QWidget, public FormView {
   void PlaceTabs();
   void PopUp(std::string_view name);
 
-  Application& application_;
   Editor& editor_;
   std::vector<std::unique_ptr<QMenu>> menus_;
   std::vector<std::unique_ptr<QMenu>> popUps_;

@@ -44,9 +44,10 @@ bool PaneView::event(QEvent* event) {
   return QPlainTextEdit::event(event);
 }
 
-/// Tab is a character of the text; Shift+Tab is the way out.
+/// Tab is a character of the text; Shift+Tab is the way out, which the text edit itself would not go.
 bool PaneView::focusNextPrevChild(bool next) {
-  return next ? QPlainTextEdit::focusNextPrevChild(next) : QWidget::focusNextPrevChild(next);
+  if (next) return QPlainTextEdit::focusNextPrevChild(next);
+  return QWidget::focusNextPrevChild(next);  // NOLINT(bugprone-parent-virtual-call)
 }
 
 /// Each character is a key press that the form may change or cancel; what is left comes back.

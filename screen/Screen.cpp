@@ -25,7 +25,7 @@ void Screen::Show(Form& form) {
     frame_ = view.get();
     views_.push_back(std::move(view));
   } else if (auto* const editor = dynamic_cast<Editor*>(&form)) {
-    auto view = std::make_unique<EditorView>(application_, *editor, clock_);
+    auto view = std::make_unique<EditorView>(*editor, clock_);
     frame_->ShowChild(*view, view->menus());
     views_.push_back(std::move(view));
   } else if (auto* const selector = dynamic_cast<ColourSelector*>(&form)) {
