@@ -47,6 +47,7 @@ void MacroLists::ClearAllForNewMacroFile() {
   for (int i = lists_.Count() - 1; i > 0; --i) lists_.Unload(i);
   lists_(0).Visible = true;
   desk_.values.SelectedCategoryList = 0;
+  PopupListIndex = 0;  // the list it was opened on may be gone
   desk_.values.MacroListChanged = 1;
 }
 
@@ -194,6 +195,7 @@ void MacroLists::ExtractButtonDefinition(const std::string& name) {
 }
 
 void MacroLists::Insert(int list) {
+  if (lists_(list).ListIndex < 0) return;  // no macro is in hand
   Document& document = desk_.joystick;
   Pane& pane = document.text;
   if (!pane.Visible) desk_.Select(document);

@@ -354,13 +354,13 @@ void Runner::Set(const Line& line) {
 
 /// The named operations that no control reaches.
 void Runner::Call(const Line& line) {
-  Editor& editor = *application_->editor();
+  Editor* const editor = application_->editor();
   const std::map<std::string, std::function<void()>> operations = {
-      {"Editor.ExtractButtonDefinition", [&] { editor.ExtractButtonDefinition(Word(line, 2)); }},
-      {"Editor.HardwareHasChanged", [&] { editor.HardwareHasChanged(); }},
-      {"Editor.DamnFontWasChanged", [&] { editor.DamnFontWasChanged(); }},
-      {"Editor.DeleteUndosFromMemory", [&] { editor.DeleteUndosFromMemory(); }},
-      {"Editor.Form_Activate", [&] { editor.Form_Activate(); }},
+      {"Editor.ExtractButtonDefinition", [&] { editor->ExtractButtonDefinition(Word(line, 2)); }},
+      {"Editor.HardwareHasChanged", [&] { editor->HardwareHasChanged(); }},
+      {"Editor.DamnFontWasChanged", [&] { editor->DamnFontWasChanged(); }},
+      {"Editor.DeleteUndosFromMemory", [&] { editor->DeleteUndosFromMemory(); }},
+      {"Editor.Form_Activate", [&] { editor->Form_Activate(); }},
       {"Mum.MakeFlat", [&] { application_->mum().MakeFlat(); }},
       {"Mum.ColoursSortOut", [&] { application_->mum().ColoursSortOut(); }},
       {"Settings.SaveOptions", [&] { application_->settings.SaveOptions(); }},

@@ -1,0 +1,173 @@
+// A user who does anything: bytes become keys, clicks on menu entries and buttons, picks, drops and passing
+// time, over the whole program. After each of them both panes and their histories are sound.
+#include <algorithm>
+#include <cstdlib>
+
+#include "app/Editor.h"
+#include "platform/CodePage.h"
+#include "session/Driver.h"
+#include "session/ScriptedPlatform.h"
+
+namespace {
+
+using namespace tarvik;
+
+/// Hands out the fuzzer's bytes as numbers.
+class Bytes {
+ public:
+  Bytes(const unsigned char* data, std::size_t size) : data_(data), size_(size) {}
+  [[nodiscard]] bool Empty() const { return at_ >= size_; }
+  std::size_t Below(std::size_t limit) { return Empty() || limit == 0 ? 0 : data_[at_++] % limit; }
+  template <class T, std::size_t N>
+  const T& OneOf(const T (&items)[N]) {
+    return items[Below(N)];
+  }
+
+ private:
+  const unsigned char* data_;
+  std::size_t size_;
+  std::size_t at_ = 0;
+};
+
+void Require(bool holds) {
+  if (!holds) std::abort();
+}
+
+void Check(const Document& document) {
+  const Pane& pane = document.text;
+  const std::string text(pane.Characters());
+  Require(WithPaneLineBreaks(text) == text);
+  Require(pane.Selection().End() <= text.size());
+  Require(pane.Searchable().folded == LowerCase(text));
+  Require(pane.Content().colours.size() == text.size());
+  const auto runs = pane.Content().colours.runs();
+  for (std::size_t i = 0; i < runs.size(); ++i) {
+    Require(i == 0 ? runs[i].start == 0
+                   : runs[i].start > runs[i - 1].start && runs[i].colour != runs[i - 1].colour);
+    Require(runs[i].start < text.size());
+  }
+  Require(document.Undo.Index >= 1 && document.Undo.Index <= document.Undo.UpperBound());
+}
+
+class User {
+ public:
+  explicit User(Bytes& bytes) : bytes_(bytes) {
+    files_.Put("c:\\my\\a.b50", "USE MDEF a\r\nBTN S1 Fire /U Gear RAW (1C) Rem c\r\n~ d");
+    files_.Put("c:\\my\\a.m50",
+               "Gear = g\r\nrem ----\r\nrem guns\r\nrem ----\r\nFire = SPC\r\nBomb = b, x = 1");
+    files_.Put("c:\\my\\b.b50", std::string("\0\r\x80 RAW (\n\xFF", 10));
+    files_.Put("c:\\my\\b.m50", "");
+    files_.Put("c:\\tarvik\\rtf\\b.m50", "{\\rtf1 x}");
+    files_.Put(
+        "c:\\tarvik\\tarvik.ini",
+        "[FileLocations]\r\nFirstTimeUsed=0\r\nProgramFilesPath=c:\\my\r\n[Miscellaneous]\r\nUndoMax=" +
+            TextOf(bytes_.Below(6)) + "\r\nAutoSaveEnabled=1\r\nAutoSaveTime=1\r\n");
+    application_.Start();
+  }
+
+  void Act() {
+    constexpr const char* kChoices[] = {"c:\\my\\a.b50", "c:\\my\\a.m50",   "c:\\my\\b.b50", "c:\\my\\b.m50",
+                                        "c:\\my\\new",   "c:\\none\\a.b50", "c:\\my",        "cancel"};
+    constexpr Answer kAnswers[] = {Answer::Yes, Answer::No, Answer::Cancel};
+    dialogs_.choices = {bytes_.OneOf(kChoices), "cancel"};
+    dialogs_.answers = {bytes_.OneOf(kAnswers), bytes_.OneOf(kAnswers)};
+    if (!application_.editor()) application_.ShowEditor();
+    Editor& editor = *application_.editor();
+    Pane& pane = bytes_.Below(2) ? editor.MacroText : editor.JoystickText;
+    switch (bytes_.Below(9)) {
+      case 0:
+        driver_->Type(pane, bytes_.OneOf(kTexts));
+        break;
+      case 1:
+        driver_->PressKey(pane, bytes_.OneOf(kKeys));
+        break;
+      case 2:
+        Run(bytes_.Below(2) ? editor.popUps : editor.menus);
+        break;
+      case 3:
+        driver_->Click(editor.Command1(static_cast<int>(bytes_.Below(Editor::kModifierButtons))));
+        break;
+      case 4:
+        editor.TabStrip1.Select(static_cast<int>(bytes_.Below(2)) + 1);
+        break;
+      case 5:
+        UseList(pane);
+        break;
+      case 6:
+        Select(pane);
+        break;
+      case 7:
+        for (Timer* timer : {&editor.Timer1, &editor.TimerBlinkLine}) {
+          if (timer->Enabled) timer->Elapsed();
+        }
+        break;
+      default:
+        if (bytes_.Below(8) == 0) driver_->Close(editor);
+    }
+    dialogs_.boxes.clear();
+    dialogs_.requests.clear();
+    if (!application_.editor()) return;
+    Check(application_.editor()->Joystick);
+    Check(application_.editor()->Macro);
+  }
+
+ private:
+  static constexpr const char* kTexts[] = {"a", " ", "BTN S1 ", "RAW (", ")", "/U", "Rem ", "Fire", "\xC9"};
+  static constexpr const char* kKeys[] = {"Return", "Backspace", "Delete",   "Left",   "Right",     "Home",
+                                          "End",    "Ctrl+Home", "Ctrl+End", "Ctrl+Z", "Ctrl+Z",    "Ctrl+Y",
+                                          "Ctrl+Y", "Ctrl+H",    "Ctrl+L",   "Ctrl+B", "Shift+Left"};
+
+  void Run(const Menus& menus) {
+    const MenuEntry& entry = menus.Entries()[bytes_.Below(menus.Entries().size())];
+    if (entry.item->Name() != "mnuFileExit") driver_->Click(*entry.item);
+  }
+
+  /// Nobody can click between the two characters of a line break.
+  static std::size_t Place(const Pane& pane, std::size_t at) {
+    const std::string_view text = pane.Characters();
+    const bool inBreak = at > 0 && at < text.size() && text[at - 1] == '\r' && text[at] == '\n';
+    return inBreak ? at - 1 : at;
+  }
+
+  void Select(Pane& pane) {
+    const std::size_t start = Place(pane, bytes_.Below(256));
+    const std::size_t end = Place(pane, start + bytes_.Below(8));
+    pane.Select({start, end - start});
+  }
+
+  void UseList(Pane& pane) {
+    Editor& editor = *application_.editor();
+    const int category = static_cast<int>(bytes_.Below(4));
+    if (category < editor.Combo1.ListCount()) driver_->Pick(editor.Combo1, category);
+    ListBox& list = editor.List1(static_cast<int>(bytes_.Below(editor.List1.Count())));
+    const int item = static_cast<int>(bytes_.Below(4));
+    if (item < list.ListCount()) driver_->Pick(list, item);
+    switch (bytes_.Below(3)) {
+      case 0:
+        driver_->DoubleClick(list);
+        break;
+      case 1:
+        driver_->RightClick(list);
+        break;
+      default:
+        driver_->Drop(list, pane, Place(pane, bytes_.Below(256)));
+    }
+  }
+
+  Bytes& bytes_;
+  MemoryFiles files_;
+  session::ScriptedDialogs dialogs_;
+  session::ScriptedInstance instance_;
+  Platform platform_{files_, dialogs_, instance_, {28800, 21600}, "c:\\tarvik", ""};
+  Application application_{platform_};
+  std::unique_ptr<session::Driver> driver_ = session::MakeFormDriver(application_);
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+  Bytes bytes(data, size);
+  User user(bytes);
+  while (!bytes.Empty()) user.Act();
+  return 0;
+}
