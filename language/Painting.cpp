@@ -19,6 +19,7 @@ void Painting::Run(const PaintingProgress& progress) {
 /// A hit may reach over later ones: these are none.
 void Painting::Make(std::size_t pass, const PaintingProgress& progress) {
   std::size_t from = 0;
+  reached_ = 0;
   for (const std::size_t hit : hits_.Of(pass)) {
     if (hit < from) continue;
     if (progress.hit) progress.hit(hit);
@@ -45,7 +46,7 @@ std::size_t Painting::Handle(const Pass& pass, std::size_t hit) {
     case PassKind::Port:
       return HandlePort(pass, hit);
     case PassKind::Comment:
-      Paint(hit, EndOfLine(behind), pass.colour);
+      if (behind > reached_) Paint(hit, reached_ = EndOfLine(behind), pass.colour);
       return behind;
   }
   return behind;
@@ -53,7 +54,7 @@ std::size_t Painting::Handle(const Pass& pass, std::size_t hit) {
 
 std::size_t Painting::HandleWordAndOperand(const Pass& pass, std::size_t hit) {
   const std::size_t operand = std::min(hit + pass.text.size() + 1, text_.text.size());
-  Paint(hit, Until(' ', operand), pass.colour);
+  if (operand > reached_) Paint(hit, reached_ = Until(' ', operand), pass.colour);
   return operand;  // the operand may hold the next hit
 }
 
@@ -80,7 +81,7 @@ std::size_t Painting::HandleBracket(const Pass& pass, std::size_t hit) {
 std::size_t Painting::HandlePort(const Pass& pass, std::size_t hit) {
   const std::size_t command = std::min(Until('S', hit) + 1, text_.text.size());
   Paint(hit, command, pass.colour);
-  Paint(command, EndOfLine(command), ColourClass::Button);
+  if (command > reached_) Paint(command, reached_ = EndOfLine(command), ColourClass::Button);
   return command;
 }
 

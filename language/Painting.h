@@ -43,6 +43,7 @@ class Painting {
   std::span<const Pass> passes_;
   KeywordHits hits_;
   std::vector<ColourClass> classes_;
+  std::size_t reached_ = 0;  // up to here an earlier hit of the pass has painted what a later one would
 };
 
 }  // namespace tarvik
