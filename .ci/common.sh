@@ -31,3 +31,24 @@ build() {
   cmake --preset "$preset" >/dev/null
   cmake --build --preset "$preset" --target "$@"
 }
+
+# within SECONDS COMMAND...: tries the command until it succeeds; fails when it has not by then.
+within() {
+  local end=$((SECONDS + $1))
+  shift
+  until "$@" >/dev/null 2>&1; do
+    [ "$SECONDS" -lt "$end" ] || return 1
+    sleep 0.2
+  done
+}
+
+# start_display FOLDER: an X server and a window manager in the background, and DISPLAY set to them.
+start_display() {
+  # -noreset: the server does not start over when its last client so far leaves it.
+  Xvfb -noreset -displayfd 3 -screen 0 "${SCREEN:-1280x900x24}" 3>"$1/display" 2>/dev/null &
+  within 30 test -s "$1/display" || { echo "the virtual display did not start" >&2; return 1; }
+  export DISPLAY=":$(cat "$1/display")"
+  # A window that comes up while the window manager starts is lost to it: so it says when it is ready.
+  openbox --startup "touch '$1/ready'" 2>/dev/null &
+  within 30 test -e "$1/ready" || { echo "the window manager did not start" >&2; return 1; }
+}
