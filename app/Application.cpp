@@ -1,6 +1,7 @@
 #include "app/Application.h"
 
-#include "app/ColourSelector.h"
+#include <algorithm>
+
 #include "app/Editor.h"
 #include "app/Mum.h"
 
@@ -11,6 +12,9 @@ constexpr const char* kAlreadyRunning =
     "Sorry, you can only have one version of Tarvik running at a time otherwise the Tarvik.ini file will get "
     "corrupted "
     "with both programs writing to it.";
+
+// The tools that end with the editor, in this order.
+constexpr const char* kToolsOfEditor[] = {"FindAndReplace", "Title", "Heading", "SingleTextForm"};
 
 }  // namespace
 
@@ -46,6 +50,7 @@ bool Application::CloseEditor() {
   if (!editor_) return true;
   if (!editor_->Form_QueryUnload()) return false;
   editor_->Form_Unload();
+  UnloadTools(kToolsOfEditor);
   Unloading(*editor_);
   editor_.reset();
   return true;
@@ -55,24 +60,59 @@ bool Application::CloseMum() {
   if (editor_) {
     if (!editor_->Form_QueryUnload()) return false;
     editor_->Form_Unload();
+    UnloadTools(kToolsOfEditor);
   }
   mum_->MDIForm_Unload();
+  UnloadTools(kToolsOfMum);
   ended_ = true;
   HasEnded();
   return true;
 }
 
-ColourSelector& Application::colourSelector() {
-  if (!colourSelector_) {
-    colourSelector_ = std::make_unique<ColourSelector>(*this);
-    Loaded(*colourSelector_);
+void Application::LoadTool(std::unique_ptr<Form> form) {
+  unloaded_.clear();
+  Form& loaded = *tools_.emplace_back(std::move(form));
+  Loaded(loaded);
+  loaded.Load();
+}
+
+void Application::ShowModal(Form& form) {
+  bool open = true;
+  const Connection closed = form.Visible.Changed.Connect([&open, &form] { open = form.Visible; });
+  form.Modal = true;
+  form.Visible = true;
+  platform.dialogs.WaitWhile([&open, this] { return open && !ended_; });
+}
+
+void Application::Unload(Form& form) {
+  const auto at =
+      std::find_if(tools_.begin(), tools_.end(), [&form](const auto& tool) { return tool.get() == &form; });
+  if (at == tools_.end()) return;
+  std::unique_ptr<Form> last = std::move(*at);
+  tools_.erase(at);
+  last->Unload();
+  last->Visible = false;
+  Unloading(*last);
+  unloaded_.push_back(std::move(last));
+}
+
+void Application::UnloadTools(std::span<const char* const> names) {
+  for (const char* const name : names) {
+    if (Form* const form = FindForm(name)) Unload(*form);
   }
-  return *colourSelector_;
+}
+
+std::vector<Form*> Application::Forms() const {
+  std::vector<Form*> forms;
+  if (mum_) forms.push_back(mum_.get());
+  if (editor_) forms.push_back(editor_.get());
+  for (const auto& tool : tools_) forms.push_back(tool.get());
+  return forms;
 }
 
 Form* Application::FindForm(std::string_view name) const {
-  for (Form* form : std::initializer_list<Form*>{mum_.get(), editor_.get(), colourSelector_.get()}) {
-    if (form && form->Name() == name) return form;
+  for (Form* const form : Forms()) {
+    if (form->Name() == name) return form;
   }
   return nullptr;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 
 #include "app/Settings.h"
 #include "app/Values.h"
@@ -13,7 +14,9 @@ namespace tarvik {
 
 class Mum;
 class Editor;
-class ColourSelector;
+
+/// The tools that end with the frame.
+inline constexpr const char* kToolsOfMum[] = {"ColourSelector", "KeyTestForm"};
 
 class Application {
  public:
@@ -38,9 +41,35 @@ class Application {
   bool CloseEditor();
   /// Closes the frame and so the program. False: the user keeps it running.
   bool CloseMum();
-  [[nodiscard]] ColourSelector& colourSelector();
   [[nodiscard]] bool Ended() const { return ended_; }
 
+  /// The form of a tool, which is made and loaded when it is asked for first.
+  template <class F>
+  F& Tool() {
+    if (F* const tool = LoadedTool<F>()) return *tool;
+    auto made = std::make_unique<F>(*this);
+    F& form = *made;
+    LoadTool(std::move(made));
+    return form;
+  }
+  /// The form of a tool while it is loaded, or null.
+  template <class F>
+  [[nodiscard]] F* LoadedTool() const {
+    for (const auto& tool : tools_) {
+      if (auto* const found = dynamic_cast<F*>(tool.get())) return found;
+    }
+    return nullptr;
+  }
+  /// Shows a tool's form and returns when it is hidden or unloaded; other forms take no input till then.
+  void ShowModal(Form& form);
+  /// Ends a tool's form. A handler of that form touches it no more afterwards.
+  void Unload(Form& form);
+
+  /// Ends those that are loaded of the tools of these names.
+  void UnloadTools(std::span<const char* const> names);
+
+  /// Every form that is loaded, the frame first.
+  [[nodiscard]] std::vector<Form*> Forms() const;
   /// "Editor", "Mum", ...: the form that is loaded under this name, or null.
   [[nodiscard]] Form* FindForm(std::string_view name) const;
   /// A process-wide value or a setting by its name, or null.
@@ -52,9 +81,12 @@ class Application {
   Signal<> HasEnded;
 
  private:
+  void LoadTool(std::unique_ptr<Form> form);
+
   std::unique_ptr<Mum> mum_;
   std::unique_ptr<Editor> editor_;
-  std::unique_ptr<ColourSelector> colourSelector_;
+  std::vector<std::unique_ptr<Form>> tools_;
+  std::vector<std::unique_ptr<Form>> unloaded_;  // their handlers may still run
   bool ended_ = false;
 };
 

@@ -20,6 +20,10 @@ constexpr const char* kSavedStateTips[] = {
 
 void Desk::Say(const std::string& text) const { status.Panels(1).Text = text; }
 
+void Desk::SayIsProtected(const Document& document) const {
+  Say(TabOf(document).Caption.Get() + " is protected and can't be edited.");
+}
+
 void Desk::ShowLineNumber(const Document& document, std::size_t position) const {
   status.Panels(3).Text = "Line no: " + TextOf(1 + document.text.GetLineFromChar(position));
 }

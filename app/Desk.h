@@ -30,6 +30,8 @@ struct Desk {
   void Select(const Document& document) const { tabs.Select(document.traits.tab); }
   /// Status panel 1.
   void Say(const std::string& text) const;
+  /// Status panel 1, when the user would edit a protected file.
+  void SayIsProtected(const Document& document) const;
   /// Status panel 3.
   void ShowLineNumber(const Document& document, std::size_t position) const;
   /// Status panel 2: the saved state of the document of the selected tab.

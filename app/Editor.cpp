@@ -1,6 +1,8 @@
 #include "app/Editor.h"
 
 #include "app/EditorTables.h"
+#include "language/FindAndReplace.h"
+#include "output/TextBlocks.h"
 
 namespace tarvik {
 namespace {
@@ -27,6 +29,13 @@ constexpr const char* kWelcome =
     "the sections "
     "on the first tab, the File Locations tab. If you get lost, press the Help button there. Cheers, and "
     "enjoy Tarvik.";
+
+constexpr const char* kEmergency =
+    "The save routine was called successfully I think, so you should be alright. However, I recommend you "
+    "keep "
+    "pressing the Yes button to try and get stable control back to Tarvik. If you can get back into Tarvik "
+    "(it "
+    "may take several presses of the Yes button) then you should be OK to continue.";
 
 }  // namespace
 
@@ -62,7 +71,10 @@ Editor::Editor(Application& application)
       lists_(desk_, Combo1, List1),
       layout_(desk_, {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros, mnuViewTileVertically}),
       blink_(desk_, TimerBlinkLine),
-      input_(desk_, menus, [this](Document& document) { TextChanged(document); }),
+      edit_(desk_, insertion_, menus, mum_.Toolbar1),
+      input_(desk_, menus, popUps,
+             {[this](Document& document) { TextChanged(document); },
+              [this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); }}),
       files_(desk_, copies_, highlighter_, lists_, [this] { layout_.ShowMacroFrame(); }),
       autoSave_(desk_, files_, Timer1) {
   SetUpControls();
@@ -161,6 +173,8 @@ void Editor::Form_Load() {
   desk_.UpdateSavedIcon();
   F22MenusUpdate();
   autoSave_.Restart();
+  UpdateCCPButtons();
+  application_.platform.clipboard.changed = [this] { UpdateCCPButtons(); };
   mum_.MousePointer = pointer::kDefault;
   if (settings.FirstTimeUsed == 1) FirstTimeFlow();
 }
@@ -181,6 +195,7 @@ void Editor::Form_Activate() {
 
 void Editor::Form_Unload() {
   SaveOpenSingleOnly();
+  application_.platform.clipboard.changed = nullptr;
   mum_.Toolbar1.Visible = false;
   for (const tables::ToolbarRow& row : tables::kToolbar) mum_.Toolbar1.Buttons(row.button).Click = nullptr;
 }
@@ -264,6 +279,16 @@ void Editor::mnuPreferencesProtectMacroFile_Click() {
   TabStrip1.Tabs(2).Image = protect ? kProtectedTabImage : kNormalTabImage;
 }
 
+/// The tab that was selected is not selected again.
+void Editor::EmergencySaveFiles() {
+  for (const Document* document : {&Joystick, &Macro}) {
+    desk_.Select(*document);
+    mnuFileSave_Click();
+  }
+  application_.platform.dialogs.Show(
+      {"Tarvik - Emergency file save procedure executed", kEmergency, BoxIcon::Information, BoxButtons::Ok});
+}
+
 void Editor::TextChanged(Document& document) {
   document.Dirty = saved::kModified;
   desk_.UpdateSavedIcon();
@@ -312,19 +337,54 @@ void Editor::DeleteUndosFromMemory() {
   DeleteUndosOnSaveM();
 }
 
+// Editing.
+
+void Editor::mnuEditFind_Click() { application_.Tool<FindAndReplace>().ShowFind(); }
+void Editor::mnuEditReplace_Click() { application_.Tool<FindAndReplace>().ShowReplace(); }
+void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(); }
+
+// Blocks.
+
+void Editor::mnuInsertTitle_Click() { InsertTitle(application_); }
+void Editor::mnuInsertHeading_Click() { InsertHeading(application_); }
+void Editor::mnuInsertRemStatement_Click() { InsertRemStatement(application_); }
+
+void Editor::mnuHelpContents_Click() {
+  constexpr int kContents = 1000;
+  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kContents);
+}
+
 // View.
+
+/// The Insert menu comes without its last two lines.
+void Editor::ShowPopUp(std::string_view name) {
+  if (name == "mnuInsert") ShowQuickTip(false);
+  PopUp(name);
+}
+
+void Editor::PopUpClosed(std::string_view name) {
+  if (name == "mnuInsert") ShowQuickTip(true);
+}
+
+void Editor::ShowQuickTip(bool show) {
+  for (const char* const entry : {"mnuInsertDivider8", "mnuInsertQuickTip"}) menus(entry).Visible = show;
+}
 
 void Editor::TabStrip1_Click() {
   Document& document = desk_.Active();
   const std::string caption = desk_.TabOf(document).Caption;
-  const bool protectedFile = !document.IsJoystick() && mnuPreferencesProtectMacroFile.Checked;
   desk_.status.Panels(3).Enabled = true;
-  desk_.Say(protectedFile ? caption + " is protected and can't be edited." : "Editing " + caption);
+  if (document.text.Locked) {
+    desk_.SayIsProtected(document);
+  } else {
+    desk_.Say("Editing " + caption);
+  }
   desk_.UpdateSavedIcon();
   document.text.SelStart = document.Caret;
   layout_.ShowPanes();
   document.text.SetFocus();
   UpdateUndoRedoMenus();
+  UpdateCCPButtons();
 }
 
 void Editor::mnuViewReformat_Click() {
@@ -452,7 +512,7 @@ void Editor::List1_MouseDown(int index, const Mouse& mouse) {
   TakeMacroUnder(index, mouse);
   if (mouse.button != kRight || List1(index).ListCount() == 0) return;
   lists_.PopupListIndex = index;
-  PopUp("mnuRHList");
+  ShowPopUp("mnuRHList");
 }
 
 void Editor::List1_MouseMove(int index, const Mouse& mouse) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/AutoSave.h"
+#include "app/EditCommands.h"
 #include "app/FileCommands.h"
 #include "app/Layout.h"
 #include "app/LineBlink.h"
@@ -75,6 +76,9 @@ class Editor : public Form {
   void mnuFileExit_Click() { application_.CloseMum(); }
   void mnuPreferencesProtectMacroFile_Click();
   void Timer1_Timer() { autoSave_.Minute(); }
+  /// A last attempt to save both files when things have gone wrong. Ready for an active error report; nothing
+  /// calls it yet.
+  void EmergencySaveFiles();
   void JoystickTextChanged() { TextChanged(Joystick); }
   void MacroTextChanged() { TextChanged(Macro); }
 
@@ -85,6 +89,23 @@ class Editor : public Form {
   void DeleteUndosOnSaveJ() { files_.ResetHistory(Joystick); }
   void DeleteUndosOnSaveM() { files_.ResetHistory(Macro); }
   void DeleteUndosFromMemory();
+
+  // Editing.
+  void mnuEditCut_Click() { edit_.Cut(); }
+  void mnuEditCopy_Click() { edit_.Copy(); }
+  void mnuEditPaste_Click() { edit_.Paste(); }
+  void mnuEditDelete_Click() { edit_.Delete(); }
+  void mnuEditSelectAll_Click() { edit_.SelectAll(); }
+  void mnuEditFind_Click();
+  void mnuEditReplace_Click();
+  void mnuEditGoto_Click();
+  void UpdateCCPButtons() { edit_.UpdateCCPButtons(); }
+  void CheckAtLineBeginning() { edit_.CheckAtLineBeginning(); }
+
+  // Blocks.
+  void mnuInsertTitle_Click();
+  void mnuInsertHeading_Click();
+  void mnuInsertRemStatement_Click();
 
   // View.
   void mnuViewMacros_Click() { layout_.ToggleMacroFrame(); }
@@ -134,8 +155,21 @@ class Editor : public Form {
   void mnuSlashModifierQ_Click() { Command1_Click(12); }
   void mnuSlashModifierDLY_Click() { Command1_Click(11); }
 
-  /// For whatever shows a pop-up menu at the pointer.
+  // Help.
+  void mnuHelpContents_Click();
+
+  // For the tools.
+  [[nodiscard]] Document& ActiveDocument() const { return desk_.Active(); }
+  [[nodiscard]] ColouredInsertion& insertion() { return insertion_; }
+  /// Marks the document as modified and records the change for undo.
+  void TextChanged(Document& document);
+  /// Status panel 3, by the document's caret memory.
+  void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document, document.Caret); }
+  void SayIsProtected(const Document& document) const { desk_.SayIsProtected(document); }
+
+  /// For whatever shows a pop-up menu at the pointer or the caret; it tells when the menu has closed.
   Signal<std::string_view> PopUp;
+  void PopUpClosed(std::string_view name);
 
  private:
   void SetUpControls();
@@ -143,7 +177,8 @@ class Editor : public Form {
   void SetUpToolbar();
   void NewFile(Document& document);
   void FirstTimeFlow();
-  void TextChanged(Document& document);
+  void ShowPopUp(std::string_view name);
+  void ShowQuickTip(bool show);
   void StepThroughHistory(void (UndoHistory::*step)());
   void TakeMacroUnder(int index, const Mouse& mouse);
 
@@ -156,6 +191,7 @@ class Editor : public Form {
   MacroLists lists_;
   Layout layout_;
   LineBlink blink_;
+  EditCommands edit_;
   PaneInput input_;
   FileCommands files_;
   AutoSave autoSave_;

@@ -167,6 +167,6 @@ void Mum::AutoDetect() {
   }
 }
 
-void Mum::Picture1_Click() { application_.colourSelector().Visible = true; }
+void Mum::Picture1_Click() { application_.Tool<ColourSelector>().Visible = true; }
 
 }  // namespace tarvik

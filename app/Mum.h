@@ -35,6 +35,9 @@ class Mum : public Form {
   void Picture1_Click();
   /// Turns the toolbar's flat style over.
   void MakeFlat();
+  // Ready for an active error report; nothing calls them yet.
+  void LastAttemptToSaveToolbar() {}
+  void ReleaseGradientInEmergency() { application_.UnloadTools(kToolsOfMum); }
   void mnuMumAppsEditor_Click() { application_.ShowEditor(); }
   void mnuMumFileExit_Click() { application_.CloseMum(); }
 

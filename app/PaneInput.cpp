@@ -1,11 +1,20 @@
 #include "app/PaneInput.h"
 
 namespace tarvik {
+namespace {
+
+constexpr int kEscape = 27;
+constexpr int kF1 = 112;
+constexpr int kRightButton = 2;
+
+}  // namespace
 
 void PaneInput::Attach(Document& document) {
   Pane& pane = document.text;
   pane.KeyDown = [this, &document](Key& key) { KeyDown(document, key); };
   pane.KeyPress = [this, &document](int& character) { KeyPress(document, character); };
+  pane.MouseDown = [this, &document](const Mouse& mouse) { MouseDown(document, mouse); };
+  pane.SelChange = [this] { hooks_.updateCCPButtons(); };
   pane.KeyUp = [this, &document](Key&) { KeyUp(document); };
   pane.Click = [this, &document] { RememberCaret(document); };
   pane.MouseUp = [this, &document](const Mouse&) { RememberCaret(document); };
@@ -21,6 +30,40 @@ void PaneInput::KeyDown(Document& document, Key& key) {
     return;
   }
   desk_.ShowLineNumber(document, document.text.SelStart);
+  if (key.code == kEscape) hooks_.popUp("mnuInsert");
+  const std::string selected = document.text.SelText;
+  if (key.code == kF1 && !selected.empty()) ShowHelp(selected);
+}
+
+void PaneInput::ShowHelp(const std::string& keyword) const {
+  desk_.platform.help.ShowKeyword(desk_.platform.folder + "\\tarvik.hlp", keyword);
+}
+
+/// The right button's pop-up, with what can be done here and now.
+void PaneInput::MouseDown(const Document& document, const Mouse& mouse) {
+  if (mouse.button != kRightButton) return;
+  hooks_.updateCCPButtons();
+  struct Row {
+    const char* entry;
+    const char* like;  // the entry of the menu bar
+  };
+  constexpr Row kRows[] = {
+      {"mnuRHMCut", "mnuEditCut"},
+      {"mnuRHMCopy", "mnuEditCopy"},
+      {"mnuRHMDelete", "mnuEditDelete"},
+      {"mnuRHMPaste", "mnuEditPaste"},
+      {"mnuRHMUndo", "mnuEditUndo"},
+      {"mnuRHMRedo", "mnuEditRedo"},
+      {"mnuRHMColoursSelection", "mnuEditCut"},
+  };
+  for (const Row& row : kRows) popUps_(row.entry).Enabled = menus_(row.like).Enabled;
+  const bool joystick = document.IsJoystick();
+  popUps_("mnuRHMProtect").Enabled = !joystick;
+  for (const char* const entry : {"mnuRHMGoto", "mnuRHMIdentify", "mnuRHMDivider8"}) {
+    popUps_(entry).Visible = joystick;
+  }
+  popUps_("mnuRHMUpdateMacros").Visible = !joystick;
+  hooks_.popUp("mnuRHMouse");
 }
 
 /// True when the key is a menu entry's. The entry runs only when it is enabled.
@@ -28,7 +71,7 @@ bool PaneInput::RunShortcut(const Key& key) {
   if (key.code < 'A' || key.code > 'Z') return false;
   const MenuItem* item = menus_.WithShortcut(std::string("Ctrl+") + static_cast<char>(key.code));
   if (!item) return false;
-  if (item->Enabled) item->Click();
+  if (item->Enabled && item->Click) item->Click();
   return true;
 }
 
@@ -41,6 +84,7 @@ void PaneInput::RememberCaret(Document& document) {
   document.SelLength = document.text.SelLength;
   document.Caret = document.text.SelStart;
   desk_.ShowLineNumber(document, document.Caret);
+  hooks_.updateCCPButtons();
 }
 
 void PaneInput::KeyUp(Document& document) {
@@ -57,7 +101,7 @@ void PaneInput::GotFocus(Document& document) {
 void PaneInput::Change(Document& document) {
   document.SelLength = 0;
   if (desk_.values.LoadingFile == 1) return;
-  changed_(document);
+  hooks_.changed(document);
   document.Undo.Start = 1;
 }
 

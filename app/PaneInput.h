@@ -9,9 +9,17 @@ namespace tarvik {
 
 class PaneInput {
  public:
-  /// `changed` marks the document as modified and records the change.
-  PaneInput(Desk& desk, const Menus& menus, std::function<void(Document&)> changed)
-      : desk_(desk), menus_(menus), changed_(std::move(changed)) {}
+  struct Hooks {
+    /// Marks the document as modified and records the change.
+    std::function<void(Document&)> changed;
+    /// Shows a pop-up menu at the pointer or the caret.
+    std::function<void(std::string_view)> popUp;
+    /// Fits the menus to the selection.
+    std::function<void()> updateCCPButtons;
+  };
+
+  PaneInput(Desk& desk, const Menus& menus, const Menus& popUps, Hooks hooks)
+      : desk_(desk), menus_(menus), popUps_(popUps), hooks_(std::move(hooks)) {}
 
   /// Takes over the events of a document's pane.
   void Attach(Document& document);
@@ -20,14 +28,17 @@ class PaneInput {
   void KeyDown(Document& document, Key& key);
   void KeyPress(Document& document, int character);
   void KeyUp(Document& document);
+  void MouseDown(const Document& document, const Mouse& mouse);
   void GotFocus(Document& document);
   void Change(Document& document);
   void RememberCaret(Document& document);
   bool RunShortcut(const Key& key);
+  void ShowHelp(const std::string& keyword) const;
 
   Desk& desk_;
   const Menus& menus_;
-  std::function<void(Document&)> changed_;
+  const Menus& popUps_;
+  Hooks hooks_;
 };
 
 }  // namespace tarvik

@@ -25,6 +25,8 @@ class Values : public Component {
   /// Handed to the next insertion by a tool.
   Property<std::string> InsertionText{*this, "InsertionText"};
   Property<Colour> InsertionColour{*this, "InsertionColour", kBlack};
+  /// What the user typed in the window for a remark or a heading; empty after Cancel.
+  Property<std::string> REMText{*this, "REMText"};
 
   /// The macro name last taken from a list, and the list in front.
   Property<std::string> SelectedMacro{*this, "SelectedMacro"};

@@ -7,7 +7,7 @@
 #include "Samples.h"
 #include "app/Editor.h"
 #include "screen/Screen.h"
-#include "session/ScriptedPlatform.h"
+#include "support/ScriptedPlatform.h"
 
 namespace {
 
@@ -39,9 +39,8 @@ int main(int count, char** arguments) {
   MemoryFiles files;
   files.PutFolder("c:\\tarvik");
   files.Put("c:\\my\\large.b50", JoystickFile(1'000'000));
-  session::ScriptedDialogs dialogs;
-  session::ScriptedInstance instance;
-  Platform platform{files, dialogs, instance, {28800, 21600}, "c:\\tarvik", "c:\\my\\large.b50"};
+  session::ScriptedPlatform outside;
+  Platform platform = outside.Process(files, "c:\\my\\large.b50");
   Application application(platform);
   screen::Screen screen(application, screen::Clock::Scripted);
   application.Start();

@@ -26,6 +26,12 @@ void AddLine(std::string& lines, const std::string& line) {
 
 }  // namespace
 
+std::string Lines(const std::vector<std::string>& items) {
+  std::string lines;
+  for (const std::string& item : items) AddLine(lines, item);
+  return lines;
+}
+
 void Form::Focus(Control& control) {
   if (active_ == &control) {
     ActiveControlChanged();
@@ -96,10 +102,78 @@ void ComboBox::Select(int index) {
   Click();
 }
 
-std::string ComboBox::Lines() const {
-  std::string lines;
-  for (const std::string& item : items_) AddLine(lines, item);
-  return lines;
+void CommandButton::MakeDefault() {
+  for (Component* const sibling : OwnForm().Children()) {
+    if (auto* const button = dynamic_cast<CommandButton*>(sibling)) button->Default = button == this;
+  }
+}
+
+CheckBox::CheckBox(Component& parent, std::string_view name, std::string caption) : Control(parent, name) {
+  Caption = std::move(caption);
+}
+
+void CheckBox::Set(int value) {
+  if (value == value_) return;
+  value_ = value;
+  Value.Changed();
+  Click();
+}
+
+OptionButton::OptionButton(Component& parent, std::string_view name, std::string caption, int group)
+    : Control(parent, name), group_(group) {
+  Caption = std::move(caption);
+}
+
+void OptionButton::Set(bool value) {
+  if (value == value_) return;
+  value_ = value;
+  Value.Changed();
+  if (!value) return;
+  for (Component* const sibling : Parent()->Children()) {
+    auto* const other = dynamic_cast<OptionButton*>(sibling);
+    if (other && other != this && other->group_ == group_) other->Value = false;
+  }
+  Click();
+}
+
+void TextBox::SetText(const std::string& text, std::size_t caret) {
+  const bool same = text == text_;
+  text_ = text;
+  SelStart = caret;
+  SelLength = 0;
+  if (same) return;
+  Text.Changed();
+  Change();
+}
+
+void TextBox::SelectAll() {
+  SelStart = 0;
+  SelLength = text_.size();
+}
+
+void EntryBox::AddItem(const std::string& item) {
+  items_.push_back(item);
+  ItemsChanged();
+}
+
+void EntryBox::Remember(const std::string& text) {
+  if (std::find(items_.begin(), items_.end(), text) == items_.end()) AddItem(text);
+}
+
+void EntryBox::Pick(int index) {
+  SetText(items_.at(static_cast<std::size_t>(index)), 0);
+  SelectAll();
+  Click();
+}
+
+TabPages::TabPages(Component& parent, std::string_view name, std::vector<std::string> captions)
+    : Control(parent, name), captions_(std::move(captions)) {}
+
+void TabPages::Set(int tab) {
+  if (tab == tab_) return;
+  tab_ = tab;
+  Tab.Changed();
+  Click();
 }
 
 TabStrip::TabStrip(Component& parent, std::string_view name, int count)

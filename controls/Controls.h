@@ -38,6 +38,9 @@ inline constexpr int kHourglass = 11;
 inline constexpr int kWhatsThis = 14;
 }  // namespace pointer
 
+/// One item a line.
+std::string Lines(const std::vector<std::string>& items);
+
 class Control : public Component {
  public:
   Control(Component& parent, std::string_view name, std::optional<int> index = {})
@@ -89,8 +92,109 @@ class MenuItem : public Component {
 class CommandButton : public Control {
  public:
   using Control::Control;
+  CommandButton(Component& parent, std::string_view name, std::string caption) : Control(parent, name) {
+    Caption = std::move(caption);
+  }
   Property<std::string> Caption{*this, "Caption"};
+  /// The Enter key presses it, wherever the form's focus is; one button of a form at most.
+  Property<bool> Default{*this, "Default", false};
+  /// The Escape key presses it.
+  Property<bool> Cancel{*this, "Cancel", false};
   Event<> Click{*this, "Click"};
+
+  /// Makes it the form's one default button.
+  void MakeDefault();
+};
+
+/// A box with a tick: Value is 1 with it and 0 without.
+class CheckBox : public Control {
+ public:
+  CheckBox(Component& parent, std::string_view name, std::string caption);
+  Property<std::string> Caption{*this, "Caption"};
+  Attribute<int> Value{*this, "Value", [this] { return value_; }, [this](int value) { Set(value); }};
+  /// After every change of Value, by the user or by code.
+  Event<> Click{*this, "Click"};
+
+ private:
+  void Set(int value);
+
+  int value_ = 0;
+};
+
+/// One of several: setting one takes the mark from the others of its group.
+class OptionButton : public Control {
+ public:
+  OptionButton(Component& parent, std::string_view name, std::string caption, int group = 0);
+  Property<std::string> Caption{*this, "Caption"};
+  Attribute<bool> Value{*this, "Value", [this] { return value_; }, [this](bool value) { Set(value); }};
+  /// When it gets the mark, by the user or by code.
+  Event<> Click{*this, "Click"};
+
+ private:
+  void Set(bool value);
+
+  int group_;
+  bool value_ = false;
+};
+
+/// A line of text to type in.
+class TextBox : public Control {
+ public:
+  using Control::Control;
+
+  /// Setting it puts the caret in front.
+  Attribute<std::string> Text{*this, "Text", [this] { return text_; },
+                              [this](const std::string& text) { SetText(text, 0); }};
+  Property<std::size_t> SelStart{*this, "SelStart", 0};
+  Property<std::size_t> SelLength{*this, "SelLength", 0};
+  /// The text changed, by the user or by code.
+  Event<> Change{*this, "Change"};
+
+  /// What the user made of the text, with the caret where it is now.
+  void SetText(const std::string& text, std::size_t caret);
+  void SelectAll();
+  [[nodiscard]] bool Empty() const { return text_.empty(); }
+
+ private:
+  std::string text_;
+};
+
+/// A line of text to type in, with a list of texts to pick from, in the order in which they were added.
+class EntryBox : public TextBox {
+ public:
+  using TextBox::TextBox;
+
+  void AddItem(const std::string& item);
+  [[nodiscard]] const std::vector<std::string>& List() const { return items_; }
+  /// Adds the text unless an item equals it exactly.
+  void Remember(const std::string& text);
+  /// What picking an item does.
+  void Pick(int index);
+
+  Attribute<std::string> Items{*this, "Items", [this] { return Lines(items_); }};
+  Event<> Click{*this, "Click"};
+  Signal<> ItemsChanged;
+
+ private:
+  std::vector<std::string> items_;
+};
+
+/// Pages on top of one another, each behind its tab.
+class TabPages : public Control {
+ public:
+  TabPages(Component& parent, std::string_view name, std::vector<std::string> captions);
+
+  [[nodiscard]] const std::vector<std::string>& Captions() const { return captions_; }
+  /// The page on show, 0-based.
+  Attribute<int> Tab{*this, "Tab", [this] { return tab_; }, [this](int tab) { Set(tab); }};
+  /// After every change of Tab, by the user or by code.
+  Event<> Click{*this, "Click"};
+
+ private:
+  void Set(int tab);
+
+  std::vector<std::string> captions_;
+  int tab_ = 0;
 };
 
 class Label : public Control {
@@ -175,13 +279,11 @@ class ComboBox : public Control {
 
   Property<int> ListIndex{*this, "ListIndex", -1};
   Attribute<std::string> TextProperty{*this, "Text", [this] { return Text(); }};
-  Attribute<std::string> Items{*this, "Items", [this] { return Lines(); }};
+  Attribute<std::string> Items{*this, "Items", [this] { return Lines(items_); }};
   Event<> Click{*this, "Click"};
   Signal<> ItemsChanged;
 
  private:
-  [[nodiscard]] std::string Lines() const;
-
   std::vector<std::string> items_;
 };
 

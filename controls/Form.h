@@ -7,6 +7,7 @@
 namespace tarvik {
 
 class Control;
+struct Key;
 
 class Form : public Component {
  public:
@@ -24,12 +25,20 @@ class Form : public Component {
   Property<float> ScaleHeight{*this, "ScaleHeight"};
   /// 0 normal, 1 minimised, 2 maximised.
   Property<int> WindowState{*this, "WindowState", 0};
+  /// Above all other windows.
+  Property<bool> Topmost{*this, "Topmost", false};
+  /// While it is shown no other window takes input.
+  Property<bool> Modal{*this, "Modal", false};
   /// 0 the ordinary pointer, 9 west-east, 11 hourglass, 14 what's-this.
   Property<int> MousePointer{*this, "MousePointer", 0};
 
+  Event<> Load{*this, "Load"};
+  Event<> Unload{*this, "Unload"};
   Event<> Resize{*this, "Resize"};
   Event<> Activate{*this, "Activate"};
   Event<> Deactivate{*this, "Deactivate"};
+  /// A key in any of the form's controls, before the control hears of it.
+  Event<Key&> KeyDown{*this, "KeyDown"};
 
   /// The control with the focus, or null.
   [[nodiscard]] Control* ActiveControl() const { return active_; }

@@ -6,7 +6,7 @@
 #include "app/Editor.h"
 #include "platform/CodePage.h"
 #include "session/Driver.h"
-#include "session/ScriptedPlatform.h"
+#include "support/ScriptedPlatform.h"
 
 namespace {
 
@@ -69,8 +69,8 @@ class User {
     constexpr const char* kChoices[] = {"c:\\my\\a.b50", "c:\\my\\a.m50",   "c:\\my\\b.b50", "c:\\my\\b.m50",
                                         "c:\\my\\new",   "c:\\none\\a.b50", "c:\\my",        "cancel"};
     constexpr Answer kAnswers[] = {Answer::Yes, Answer::No, Answer::Cancel};
-    dialogs_.choices = {bytes_.OneOf(kChoices), "cancel"};
-    dialogs_.answers = {bytes_.OneOf(kAnswers), bytes_.OneOf(kAnswers)};
+    outside_.dialogs.choices = {bytes_.OneOf(kChoices), "cancel"};
+    outside_.dialogs.answers = {bytes_.OneOf(kAnswers), bytes_.OneOf(kAnswers)};
     if (!application_.editor()) application_.ShowEditor();
     Editor& editor = *application_.editor();
     Pane& pane = bytes_.Below(2) ? editor.MacroText : editor.JoystickText;
@@ -104,8 +104,8 @@ class User {
       default:
         if (bytes_.Below(8) == 0) driver_->Close(editor);
     }
-    dialogs_.boxes.clear();
-    dialogs_.requests.clear();
+    outside_.dialogs.boxes.clear();
+    outside_.dialogs.requests.clear();
     if (!application_.editor()) return;
     Check(application_.editor()->Joystick);
     Check(application_.editor()->Macro);
@@ -156,9 +156,8 @@ class User {
 
   Bytes& bytes_;
   MemoryFiles files_;
-  session::ScriptedDialogs dialogs_;
-  session::ScriptedInstance instance_;
-  Platform platform_{files_, dialogs_, instance_, {28800, 21600}, "c:\\tarvik", ""};
+  session::ScriptedPlatform outside_;
+  Platform platform_ = outside_.Process(files_);
   Application application_{platform_};
   std::unique_ptr<session::Driver> driver_ = session::MakeFormDriver(application_);
 };

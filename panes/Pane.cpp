@@ -158,6 +158,41 @@ std::optional<std::size_t> Pane::Find(std::string_view text, std::size_t start, 
   return hit;
 }
 
+Replaced Pane::ReplaceAll(std::string_view needle, std::string_view with, int options,
+                          const std::function<void(std::size_t)>& hitAt) {
+  const std::string replacement = WithPaneLineBreaks(with);
+  const std::size_t end = content_.size();
+  std::string text = content_.text;
+  std::string folded(Searchable().folded);
+  Replaced replaced;
+  RichText result;
+  std::size_t first = 0;  // of the first hit; `result` takes the place of what lies between it and `from`
+  std::size_t from = 0;
+  while (replaced.end <= end) {
+    const std::size_t limit = std::min(text.size(), from + end - replaced.end);
+    const auto hit = FindText({text, folded}, needle, from, limit, options);
+    if (!hit) break;
+    hitAt(*hit);
+    if (replaced.count++ == 0) first = from = *hit;
+    const Range between{from, *hit - from};
+    result.text.append(text, between.start, between.length);
+    result.colours.Append(content_.colours.Slice(between));
+    result.text += replacement;
+    result.colours.Append(replacement.size(), content_.colours.At(*hit));
+    from = *hit + needle.size();
+    replaced.end = first + result.size();
+    // What stands before the next character now tells whether a word begins there.
+    const char edge = first == 0 ? '\n' : text[first - 1];
+    text[from - 1] = folded[from - 1] = result.text.empty() ? edge : result.text.back();
+  }
+  if (replaced.count == 0) return replaced;
+  Replace({first, from - first}, result);
+  SelectionChanged();
+  Change();
+  SelChange();
+  return replaced;
+}
+
 void Pane::Span(std::string_view set) {
   const std::size_t stop = std::min(content_.text.find_first_of(set, selection_.start), content_.size());
   Select({selection_.start, stop - selection_.start});

@@ -25,6 +25,12 @@ struct PaneEdit {
 /// Does to `content` what the edit says.
 void Apply(const PaneEdit& edit, RichText& content);
 
+/// How many hits were replaced, and the position behind the last of them.
+struct Replaced {
+  std::size_t count = 0;
+  std::size_t end = 0;
+};
+
 enum class FileFormat { Rtf, Text };
 
 class Pane : public Control {
@@ -61,6 +67,10 @@ class Pane : public Control {
 
   /// The first hit within `start` and `end`. Without find::kKeepSelection a hit becomes the selection.
   std::optional<std::size_t> Find(std::string_view text, std::size_t start, std::size_t end, int options = 0);
+  /// Replaces every hit, as finding one behind the other and replacing it would, in one edit: the search ends
+  /// where the text ended at first. `hitAt` hears of each hit's place.
+  Replaced ReplaceAll(std::string_view text, std::string_view replacement, int options,
+                      const std::function<void(std::size_t)>& hitAt);
   /// Extends the selection forward from its start, up to the first character of `set` or the end of the text.
   void Span(std::string_view set);
   /// 0-based, of the text's own lines, wrapped or not.

@@ -20,6 +20,12 @@ void ColourRuns::Append(std::size_t length, Colour colour) {
   size_ += length;
 }
 
+void ColourRuns::Append(const ColourRuns& colours) {
+  for (std::size_t i = 0; i < colours.runs_.size(); ++i) {
+    Append(colours.EndOf(i) - colours.runs_[i].start, colours.runs_[i].colour);
+  }
+}
+
 ColourRuns ColourRuns::Slice(Range range) const {
   ColourRuns slice;
   if (range.length == 0) return slice;
@@ -36,9 +42,7 @@ void ColourRuns::Replace(Range range, const ColourRuns& colours) {
   const std::size_t first = range.start == 0 ? 0 : RunAt(range.start - 1);
   const std::size_t before = runs_.empty() ? 0 : runs_[std::min(first, runs_.size() - 1)].start;
   if (range.start > 0) middle.Append(range.start - before, runs_[first].colour);
-  for (std::size_t i = 0; i < colours.runs_.size(); ++i) {
-    middle.Append(colours.EndOf(i) - colours.runs_[i].start, colours.runs_[i].colour);
-  }
+  middle.Append(colours);
   std::size_t last = runs_.size();  // behind the last run that is replaced
   if (range.End() < size_) {
     const std::size_t tail = RunAt(range.End());

@@ -2,6 +2,7 @@
 // ones in tests/.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/Files.h"
@@ -41,6 +42,32 @@ class Dialogs {
   virtual Answer Show(const MessageBox& box) = 0;
   /// The chosen path in the program's form, or failure 32755 when the user cancels.
   virtual Outcome<std::string> AskForFile(const FileRequest& request) = 0;
+  /// Lets the user go on working, one event after another, while `open` says so: what a modal form waits in.
+  virtual void WaitWhile(const std::function<bool()>& open) = 0;
+};
+
+/// What the desktop's clipboard carries between programs: text in the code page with CR LF, and RTF.
+class Clipboard {
+ public:
+  virtual ~Clipboard() = default;
+  /// Replaces what is there; an empty part is left out, and with both empty nothing is there.
+  virtual void Put(const std::string& text, const std::string& rtf) = 0;
+  [[nodiscard]] virtual bool HasText() = 0;
+  /// Empty when there is none. A character that the code page lacks is a "?".
+  [[nodiscard]] virtual std::string Text() = 0;
+  [[nodiscard]] virtual std::string Rtf() = 0;
+  /// Called when another program changed what is there.
+  std::function<void()> changed;
+};
+
+/// The help window of the program.
+class Help {
+ public:
+  virtual ~Help() = default;
+  /// Opens the help file at the topic of a keyword, or of the keywords that begin with it.
+  virtual void ShowKeyword(const std::string& file, const std::string& keyword) = 0;
+  /// Opens the help file at the topic of a context number.
+  virtual void ShowContext(const std::string& file, int context) = 0;
 };
 
 /// Held by the running program, so that a second start can tell.
@@ -49,6 +76,14 @@ class SingleInstance {
   virtual ~SingleInstance() = default;
   /// True when this process is now the one that runs; it stays so until the process ends.
   virtual bool Acquire() = 0;
+};
+
+/// Today's date as the user's own settings write it, in the code page.
+class Calendar {
+ public:
+  virtual ~Calendar() = default;
+  [[nodiscard]] virtual std::string ShortDate() const = 0;
+  [[nodiscard]] virtual std::string LongDate() const = 0;
 };
 
 /// The screen's size in twips (15 to the pixel).
@@ -62,6 +97,9 @@ struct Platform {
   Files& files;
   Dialogs& dialogs;
   SingleInstance& instance;
+  Clipboard& clipboard;
+  Help& help;
+  Calendar& calendar;
   ScreenSize screen;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string

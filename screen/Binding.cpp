@@ -84,6 +84,12 @@ void Bindings::Forget(const Component& component) {
   for (const PropertyBase* property : component.Properties()) readers_.erase(property);
 }
 
+void Bindings::Release() {
+  readers_.clear();
+  shown_.clear();
+  connections_.clear();
+}
+
 QObject* Bindings::Find(const Component& component) const {
   const auto found = shown_.find(&component);
   return found == shown_.end() ? nullptr : found->second;
@@ -117,7 +123,9 @@ void Bindings::BindControl(Control& control, QWidget& widget) {
   });
   Form& form = control.OwnForm();
   Keep(form.ActiveControlChanged.Connect([&form, &control, &widget] {
-    if (form.ActiveControl() == &control && !widget.hasFocus()) widget.setFocus();
+    if (form.ActiveControl() != &control) return;
+    if (!widget.hasFocus()) widget.setFocus();
+    if (!widget.isActiveWindow() && widget.isVisible()) widget.activateWindow();
   }));
 }
 
@@ -175,11 +183,26 @@ void Bindings::Bind(MenuItem& item, QAction& action) {
   });
 }
 
+QString WithMnemonic(QString caption, const QWidget& widget) {
+  const QVariant letter = widget.property(kMnemonic);
+  const qsizetype at = letter.isValid() ? caption.indexOf(letter.toChar(), 0, Qt::CaseInsensitive) : -1;
+  return at < 0 ? caption : caption.insert(at, u'&');
+}
+
+template <class Captioned, class Widget>
+void Bindings::BindCaption(Captioned& control, Widget& widget) {
+  Bind(
+      control.Caption, [&] { widget.setText(WithMnemonic(ToScreen(control.Caption.Get()), widget)); },
+      [&] {
+        QString caption = widget.text();
+        if (widget.property(kMnemonic).isValid()) caption.remove(u'&');
+        return FromScreen(caption);
+      });
+}
+
 void Bindings::Bind(CommandButton& button, QAbstractButton& widget) {
   BindControl(button, widget);
-  Bind(
-      button.Caption, [&] { widget.setText(ToScreen(button.Caption.Get())); },
-      [&] { return FromScreen(widget.text()); });
+  BindCaption(button, widget);
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Click(); });
 }
 
@@ -200,9 +223,7 @@ void Bindings::Bind(ToolbarButton& button, QToolButton& widget) {
 
 void Bindings::Bind(Label& label, QLabel& widget) {
   BindControl(label, widget);
-  Bind(
-      label.Caption, [&] { widget.setText(ToScreen(label.Caption.Get())); },
-      [&] { return FromScreen(widget.text()); });
+  BindCaption(label, widget);
   widget.setAutoFillBackground(true);
   Bind(
       label.BackColor,
@@ -255,6 +276,90 @@ void Bindings::BindTab(Tab& tab, QTabBar& widget, int index) {
   });
   Bind(
       tab.Selected, [] {}, [&widget, index] { return TextOf(widget.currentIndex() == index); });
+}
+
+void Bindings::BindText(TextBox& box, QLineEdit& line) {
+  const auto place = [&line](int position) { return FromScreen(line.text().left(position)).size(); };
+  Bind(
+      box.Text,
+      [&] {
+        const QString text = ToScreen(box.Text.Get());
+        if (text == line.text()) return;
+        const int caret = line.cursorPosition();
+        line.setText(text);
+        if (line.hasFocus()) line.setCursorPosition(caret);
+      },
+      [&] { return FromScreen(line.text()); });
+  const auto showSelection = [&] {
+    const std::string text = box.Text;
+    const auto shown = [&text](std::size_t position) {
+      return static_cast<int>(ToScreen(std::string_view(text).substr(0, position)).size());
+    };
+    const int start = shown(box.SelStart);
+    const int end = shown(box.SelStart + box.SelLength);
+    line.setCursorPosition(start);
+    if (end > start) line.setSelection(start, end - start);
+  };
+  const auto start = [&line, place] {
+    return place(line.hasSelectedText() ? line.selectionStart() : line.cursorPosition());
+  };
+  Bind(box.SelStart, showSelection, [start] { return TextOf(start()); });
+  Bind(box.SelLength, showSelection, [&] { return TextOf(FromScreen(line.selectedText()).size()); });
+  QObject::connect(&line, &QLineEdit::textEdited, &line, [&box, &line, place] {
+    box.SetText(FromScreen(line.text()), place(line.cursorPosition()));
+  });
+}
+
+void Bindings::Bind(TextBox& box, QLineEdit& widget) {
+  BindControl(box, widget);
+  BindText(box, widget);
+}
+
+void Bindings::Bind(EntryBox& box, QComboBox& widget) {
+  BindControl(box, widget);
+  const auto showItems = [&] {
+    const QString text = widget.currentText();
+    widget.clear();
+    for (const std::string& item : box.List()) widget.addItem(ToScreen(item));
+    widget.setCurrentIndex(-1);
+    widget.setEditText(text);
+  };
+  showItems();
+  Keep(box.ItemsChanged.Connect(showItems));
+  Bind(
+      box.Items, [] {},
+      [&] {
+        std::vector<std::string> items;
+        for (int i = 0; i < widget.count(); ++i) items.push_back(FromScreen(widget.itemText(i)));
+        return Lines(items);
+      });
+  QObject::connect(&widget, &QComboBox::activated, &widget, [&](int index) { box.Pick(index); });
+  BindText(box, *widget.lineEdit());
+}
+
+void Bindings::Bind(CheckBox& box, QAbstractButton& widget) {
+  BindControl(box, widget);
+  BindCaption(box, widget);
+  Bind(
+      box.Value, [&] { widget.setChecked(box.Value == 1); },
+      [&] { return TextOf(widget.isChecked() ? 1 : 0); });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget,
+                   [&](bool checked) { box.Value = checked ? 1 : 0; });
+}
+
+void Bindings::Bind(OptionButton& button, QAbstractButton& widget) {
+  BindControl(button, widget);
+  BindCaption(button, widget);
+  Bind(
+      button.Value, [&] { widget.setChecked(button.Value); }, [&] { return TextOf(widget.isChecked()); });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Value = true; });
+}
+
+void Bindings::Bind(TabPages& pages, QTabWidget& widget) {
+  BindControl(pages, widget);
+  Bind(
+      pages.Tab, [&] { widget.setCurrentIndex(pages.Tab); }, [&] { return TextOf(widget.currentIndex()); });
+  QObject::connect(&widget, &QTabWidget::currentChanged, &widget, [&](int index) { pages.Tab = index; });
 }
 
 void Bindings::Bind(TabStrip& strip, QTabBar& widget) {

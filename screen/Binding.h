@@ -5,8 +5,10 @@
 #include <QAction>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
 #include <QWidget>
@@ -29,6 +31,11 @@ inline constexpr float kTwips = 15;
 /// The event as a control hears of it. While moving, the buttons that are down.
 [[nodiscard]] Mouse ToMouse(const QMouseEvent& event);
 
+/// The dynamic property of a widget whose mnemonic is not in its control's caption: the letter.
+inline constexpr const char* kMnemonic = "mnemonic";
+/// The caption with the widget's own mnemonic marked.
+[[nodiscard]] QString WithMnemonic(QString caption, const QWidget& widget);
+
 class Bindings {
  public:
   /// What the screen shows, as the property's text; nothing while it does not show it.
@@ -45,6 +52,8 @@ class Bindings {
   void Shows(const Component& component, QObject& shown);
   /// For a component that goes before its view.
   void Forget(const Component& component);
+  /// For a form that goes before its view.
+  void Release();
 
   [[nodiscard]] QObject* Find(const Component& component) const;
   [[nodiscard]] std::optional<std::string> Read(const PropertyBase& property) const;
@@ -61,11 +70,19 @@ class Bindings {
   void Bind(ToolbarButton& button, QToolButton& widget);
   void Bind(Label& label, QLabel& widget);
   void Bind(ComboBox& combo, QComboBox& widget);
+  void Bind(TextBox& box, QLineEdit& widget);
+  void Bind(EntryBox& box, QComboBox& widget);
+  void Bind(CheckBox& box, QAbstractButton& widget);
+  void Bind(OptionButton& button, QAbstractButton& widget);
+  void Bind(TabPages& pages, QTabWidget& widget);
   void Bind(TabStrip& strip, QTabBar& widget);
   void Bind(ProgressBar& bar, QProgressBar& widget);
   void Bind(Timer& timer, QTimer& clock);
 
  private:
+  void BindText(TextBox& box, QLineEdit& line);
+  template <class Captioned, class Widget>
+  void BindCaption(Captioned& control, Widget& widget);
   void BindTab(Tab& tab, QTabBar& widget, int index);
 
   std::map<const PropertyBase*, Reader> readers_;

@@ -69,6 +69,12 @@ EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(
       [this] { return FromScreen(windowTitle()); });
   bindings_.Bind(
       editor.Visible, [] {}, [this] { return TextOf(isVisible()); });
+  for (const auto* const menus : {&menus_, &popUps_}) {
+    for (const auto& menu : *menus) {
+      connect(menu.get(), &QMenu::aboutToHide, this,
+              [this, name = FromScreen(menu->objectName())] { editor_.PopUpClosed(name); });
+    }
+  }
   bindings_.Keep(editor.PopUp.Connect([this](std::string_view name) { PopUp(name); }));
   if (clock == Clock::Scripted) return;
   for (Timer* timer : {&editor.Timer1, &editor.TimerBlinkLine}) bindings_.Bind(*timer, *new QTimer(this));
@@ -119,6 +125,8 @@ void EditorView::MakePanes() {
   panes_[0]->setAccessibleName(tr("Joystick file"));
   panes_[1] = new PaneView(editor_.MacroText, bindings_, this);
   panes_[1]->setAccessibleName(tr("Macro file"));
+  bindings_.Place(editor_.JoystickText, *panes_[0], 1);
+  bindings_.Place(editor_.MacroText, *panes_[1], 1);
 }
 
 /// As the eye goes: the upper row of the modifier buttons ends with the one that came last.

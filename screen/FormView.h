@@ -18,6 +18,8 @@ class FormView {
   [[nodiscard]] const Bindings& bindings() const { return bindings_; }
   /// The window's close box.
   virtual void CloseByUser() = 0;
+  /// The form is about to go: ends the view, as soon as it is out of its own events.
+  virtual void Retire() { delete this; }
 
  protected:
   Bindings bindings_;

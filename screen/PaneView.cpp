@@ -52,7 +52,6 @@ PaneView::PaneView(Pane& pane, Bindings& bindings, QWidget* parent) : QPlainText
 
 void PaneView::BindLook(Bindings& bindings) {
   bindings.BindControl(pane_, *this);
-  bindings.Place(pane_, *this, 1);
   bindings.Bind(
       pane_.BackColor,
       [this] {

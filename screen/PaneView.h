@@ -71,6 +71,7 @@ class PaneView : public QPlainTextEdit {
   std::optional<PaneEdit> expected_;  // what the pane is about to announce of the document's own change
   std::optional<NativeChange> native_;
   bool scrollAsked_ = false;
+  bool keyIsDown_ = false;  // the key was pressed here, and not in a window that has gone
 };
 
 }  // namespace tarvik::screen

@@ -30,6 +30,7 @@ bool EditsNatively(int letter) {
 }  // namespace
 
 bool PaneView::event(QEvent* event) {
+  if (event->type() == QEvent::FocusOut) keyIsDown_ = false;
   if (event->type() == QEvent::ShortcutOverride && IsCtrlLetter(static_cast<QKeyEvent&>(*event))) {
     event->accept();  // the form has a table of its own for them
     return true;
@@ -64,6 +65,7 @@ QString PaneView::PressKeys(const QString& text) {
 
 void PaneView::keyPressEvent(QKeyEvent* event) {
   event->accept();
+  keyIsDown_ = true;
   Key key{VirtualKey(event->key()), ShiftState(event->modifiers())};
   pane_.KeyDown(key);
   if (key.code == 0) return;
@@ -81,7 +83,7 @@ void PaneView::keyPressEvent(QKeyEvent* event) {
 
 void PaneView::keyReleaseEvent(QKeyEvent* event) {
   QPlainTextEdit::keyReleaseEvent(event);
-  if (event->isAutoRepeat()) return;
+  if (event->isAutoRepeat() || !std::exchange(keyIsDown_, false)) return;
   Key key{VirtualKey(event->key()), ShiftState(event->modifiers())};
   pane_.KeyUp(key);
 }

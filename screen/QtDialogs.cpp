@@ -107,4 +107,9 @@ Outcome<std::string> QtDialogs::AskForFile(const FileRequest& request) {
   return drives_.FromHost(QFile::encodeName(chosen).toStdString());
 }
 
+void QtDialogs::WaitWhile(const std::function<bool()>& open) {
+  const OrdinaryPointer pointer;
+  while (open()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
 }  // namespace tarvik::screen

@@ -15,6 +15,7 @@ class QtDialogs : public Dialogs {
 
   Answer Show(const MessageBox& box) override;
   Outcome<std::string> AskForFile(const FileRequest& request) override;
+  void WaitWhile(const std::function<bool()>& open) override;
 
  private:
   /// The folder asked for, else the one of the last choice, else the user's own.

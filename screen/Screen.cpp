@@ -1,10 +1,12 @@
 #include "screen/Screen.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 
 #include "screen/ColourSelectorView.h"
 #include "screen/EditorView.h"
 #include "screen/MumWindow.h"
+#include "screen/ToolWindow.h"
 
 namespace tarvik::screen {
 
@@ -17,48 +19,51 @@ Screen::Screen(Application& application, Clock clock) : application_(application
 
 Screen::~Screen() {
   while (!views_.empty()) Unload(views_.back()->form());
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void Screen::Show(Form& form) {
   if (auto* const mum = dynamic_cast<Mum*>(&form)) {
-    auto view = std::make_unique<MumWindow>(application_, *mum, clock_);
-    frame_ = view.get();
-    views_.push_back(std::move(view));
+    frame_ = new MumWindow(application_, *mum, clock_);
+    views_.push_back(frame_);
   } else if (auto* const editor = dynamic_cast<Editor*>(&form)) {
-    auto view = std::make_unique<EditorView>(*editor, clock_);
+    auto* const view = new EditorView(*editor, clock_);
     frame_->ShowChild(*view, view->menus());
-    views_.push_back(std::move(view));
+    views_.push_back(view);
   } else if (auto* const selector = dynamic_cast<ColourSelector*>(&form)) {
     auto& swatch = *qobject_cast<QWidget*>(Find(application_.mum().Picture1));
-    views_.push_back(std::make_unique<ColourSelectorView>(*selector, swatch));
+    views_.push_back(new ColourSelectorView(*selector, swatch));
+  } else if (const auto page = PageOf(form)) {
+    views_.push_back(new ToolWindow(application_, form, page, *frame_));
   }
 }
 
 void Screen::Unload(const Form& form) {
   const auto at = std::find_if(views_.begin(), views_.end(),
-                               [&form](const auto& view) { return &view->form() == &form; });
+                               [&form](const FormView* view) { return &view->form() == &form; });
   if (at == views_.end()) return;
-  if (dynamic_cast<EditorView*>(at->get())) frame_->RemoveChild();
-  const std::unique_ptr<FormView> last = std::move(*at);
+  FormView* const last = *at;
   views_.erase(at);
+  if (dynamic_cast<EditorView*>(last)) frame_->RemoveChild();
+  last->Retire();
 }
 
 FormView* Screen::ViewOf(const Form& form) const {
-  for (const auto& view : views_) {
-    if (&view->form() == &form) return view.get();
+  for (FormView* const view : views_) {
+    if (&view->form() == &form) return view;
   }
   return nullptr;
 }
 
 QObject* Screen::Find(const Component& component) const {
-  for (const auto& view : views_) {
+  for (const FormView* const view : views_) {
     if (QObject* const shown = view->bindings().Find(component)) return shown;
   }
   return nullptr;
 }
 
 std::optional<std::string> Screen::Read(const PropertyBase& property) const {
-  for (const auto& view : views_) {
+  for (const FormView* const view : views_) {
     if (auto text = view->bindings().Read(property)) return text;
   }
   return {};

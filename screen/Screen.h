@@ -33,7 +33,7 @@ class Screen {
   Application& application_;
   Clock clock_;
   MumWindow* frame_ = nullptr;
-  std::vector<std::unique_ptr<FormView>> views_;
+  std::vector<FormView*> views_;  // each ends itself when it retires
   std::vector<Connection> connections_;
 };
 

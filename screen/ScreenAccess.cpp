@@ -14,7 +14,7 @@
 namespace tarvik::screen {
 namespace {
 
-void Settle() { QApplication::processEvents(); }
+constexpr int kTickWidth = 16;  // of a box or button that bears a mark
 
 /// Where mouse events of a widget arrive.
 QWidget& Surface(QWidget& widget) {
@@ -30,7 +30,9 @@ QPointF PlaceToClick(QWidget& widget) {
   }
   const auto* const list = qobject_cast<QListView*>(&widget);
   if (list && list->currentIndex().isValid()) return list->visualRect(list->currentIndex()).center();
-  return Surface(widget).rect().center();
+  const QPoint centre = Surface(widget).rect().center();
+  const auto* const button = qobject_cast<QAbstractButton*>(&widget);
+  return button && button->isCheckable() ? QPoint(kTickWidth / 2, centre.y()) : centre;
 }
 
 void SendMouse(QWidget& surface, QEvent::Type type, const QPointF& place, Qt::MouseButton button) {
@@ -62,6 +64,16 @@ QString TextOfKey(QKeyCombination key) {
 }
 
 }  // namespace
+
+void ScreenAccess::Settle() {
+  QApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+bool ScreenAccess::HasFocus(const Control& control) const {
+  const auto* const widget = qobject_cast<const QWidget*>(screen_.Find(control));
+  return widget && widget->hasFocus();
+}
 
 QWidget* ScreenAccess::WidgetOf(const Component& component) const {
   auto* const widget = qobject_cast<QWidget*>(screen_.Find(component));
@@ -114,6 +126,9 @@ bool ScreenAccess::Pick(Component& component, int index) {
     if (index >= combo->count()) return false;
     combo->setCurrentIndex(index);
     Q_EMIT combo->activated(index);
+  } else if (auto* const pages = qobject_cast<QTabWidget*>(widget)) {
+    if (index >= pages->count()) return false;
+    pages->setCurrentIndex(index);
   } else if (auto* const tabs = qobject_cast<QTabBar*>(widget)) {
     if (index >= tabs->count()) return false;
     SendMouse(*tabs, QEvent::MouseButtonPress, tabs->tabRect(index).center(), Qt::LeftButton);
@@ -140,8 +155,8 @@ void ScreenAccess::Press(QWidget& widget, QKeyCombination key, const QString& te
   QApplication::sendEvent(&widget, &up);
 }
 
-void ScreenAccess::Type(Pane& pane, std::string_view text) {
-  QWidget* const widget = WidgetOf(pane);
+void ScreenAccess::Type(Control& control, std::string_view text) {
+  QWidget* const widget = WidgetOf(control);
   if (!widget) return;
   widget->setFocus();
   for (const QChar character : ToScreen(text)) {

@@ -27,11 +27,14 @@ class ScreenAccess {
   /// An item of a list, drop-down list or tab strip, from 0. False when it is not there.
   bool Pick(Component& component, int index);
   /// Key by key.
-  void Type(Pane& pane, std::string_view text);
+  void Type(Control& control, std::string_view text);
   /// "Ctrl+Z", "F8", "Return".
   void PressKey(Component& component, std::string_view chord);
   /// Drags the list's current item as text to a position in a pane.
   void Drop(ListBox& from, Pane& to, std::size_t position);
+  [[nodiscard]] bool HasFocus(const Control& control) const;
+  /// Lets what is pending happen.
+  void Settle();
   /// The window's close box.
   void Close(const Form& form);
 

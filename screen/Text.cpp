@@ -73,11 +73,23 @@ std::string FromScreen(QStringView text) {
   return written;
 }
 
-QString AsWritten(QStringView text) {
-  QString lines = text.toString();
-  lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
-  return ToScreen(FromScreen(lines));
+QString AsText(std::string_view text) {
+  QString shown = ToScreen(text);
+  for (QChar& character : shown) {
+    const char16_t code = character.unicode();
+    if (code == kDeletePicture || (code >= kControlPictures && code < kControlPictures + 0x20)) {
+      character = QLatin1Char(FromScreen(character));
+    }
+  }
+  return shown;
 }
+
+std::string FromText(QString text) {
+  text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+  return FromScreen(text);
+}
+
+QString AsWritten(QStringView text) { return ToScreen(FromText(text.toString())); }
 
 QColor ToScreenColour(Colour colour) {
   return QColor(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),

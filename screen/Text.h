@@ -20,6 +20,10 @@ namespace tarvik::screen {
 [[nodiscard]] QString ToScreen(std::string_view text);
 /// Line and paragraph ends become CR LF; each character that the code page lacks becomes one "?".
 [[nodiscard]] std::string FromScreen(QStringView text);
+/// Text for other programs and from them: with the characters themselves, control characters too, and line
+/// feeds.
+[[nodiscard]] QString AsText(std::string_view text);
+[[nodiscard]] std::string FromText(QString text);
 /// The text as it would come back: without what the code page lacks.
 [[nodiscard]] QString AsWritten(QStringView text);
 

@@ -12,6 +12,7 @@
 #include "platform/InstanceLock.h"
 #include "platform/ProfileFile.h"
 #include "screen/Icons.h"
+#include "screen/QtDesktop.h"
 #include "screen/QtDialogs.h"
 #include "screen/Screen.h"
 
@@ -76,9 +77,15 @@ int main(int argc, char* argv[]) {
   HostFiles files(drives);
   screen::QtDialogs dialogs(drives);
   InstanceLock lock(home / "tarvik.lock");
+  screen::QtClipboard clipboard;
+  screen::QtHelp help(files);
+  screen::QtCalendar calendar;
   Platform platform{files,
                     dialogs,
                     lock,
+                    clipboard,
+                    help,
+                    calendar,
                     SizeOfScreen(),
                     drives.FromHost(home),
                     CommandLine(QApplication::arguments().mid(1), drives)};

@@ -118,6 +118,8 @@ TEST_F(EditorTablesInUse, EachEntryWithAHandlerCanBeReachedAndTheOthersCannot) {
   editor.JoystickText.UserReplaced({0, 0}, "b");
   editor.JoystickText.UserReplaced({1, 0}, "c");
   editor.mnuEditUndo_Click();  // now both undo and redo have something to do
+  editor.mnuEditSelectAll_Click();
+  program.outside.clipboard.PutFromOutside("text", "");
   const auto check = [](const Menus& menus, const auto& table) {
     for (std::size_t i = 0; i < std::size(table); ++i) {
       const Row& row = table[i];

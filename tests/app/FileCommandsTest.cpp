@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Editor.h"
-#include "support/MemoryFiles.h"
+#include "support/ScriptedPlatform.h"
 
 namespace tarvik {
 namespace {
@@ -17,28 +17,13 @@ class FailingFiles : public MemoryFiles {
   mutable int left = 1;
 };
 
-/// Every box is answered with OK, every file dialog cancelled.
-class NoDialogs : public Dialogs {
- public:
-  Answer Show(const MessageBox& /*box*/) override { return Answer::Ok; }
-  Outcome<std::string> AskForFile(const FileRequest& /*request*/) override {
-    return Failure{error::kDialogCancelled, "Cancel was selected.", 0};
-  }
-};
-
-class OnlyInstance : public SingleInstance {
- public:
-  bool Acquire() override { return true; }
-};
-
 TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerText) {
   FailingFiles files;
   files.PutFolder("c:\\tarvik");
   files.Put("c:\\my\\former.b50", "the former text\r\n");
   files.Put("c:\\my\\failing.b50", "its own text\r\n");
-  NoDialogs dialogs;
-  OnlyInstance instance;
-  Platform platform{files, dialogs, instance, {28800, 21600}, "c:\\tarvik", ""};
+  session::ScriptedPlatform outside;
+  Platform platform = outside.Process(files);
   Application application(platform);
   application.settings.Write("FileLocations", "FirstTimeUsed", "0");
   application.Start();

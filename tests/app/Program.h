@@ -3,40 +3,25 @@
 #pragma once
 
 #include "app/Editor.h"
-#include "support/MemoryFiles.h"
+#include "support/ScriptedPlatform.h"
 
 namespace tarvik {
 
 class Program {
  public:
-  Program() {
+  Program() : platform_(outside.Process(files_)), application(platform_) {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
   }
 
  private:
-  class NoDialogs : public Dialogs {
-   public:
-    Answer Show(const MessageBox& box) override {
-      return box.buttons == BoxButtons::Ok ? Answer::Ok : Answer::No;
-    }
-    Outcome<std::string> AskForFile(const FileRequest& /*request*/) override {
-      return Failure{error::kDialogCancelled, "Cancel was selected.", 0};
-    }
-  };
-  class OnlyInstance : public SingleInstance {
-   public:
-    bool Acquire() override { return true; }
-  };
-
   MemoryFiles files_;
-  NoDialogs dialogs_;
-  OnlyInstance instance_;
-  Platform platform_{files_, dialogs_, instance_, {28800, 21600}, "c:\\tarvik", ""};
+  Platform platform_;
 
  public:
-  Application application{platform_};
+  session::ScriptedPlatform outside;
+  Application application;
   [[nodiscard]] Editor& editor() const { return *application.editor(); }
 };
 

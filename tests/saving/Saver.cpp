@@ -13,7 +13,7 @@
 #include "app/Editor.h"
 #include "platform/HostFiles.h"
 #include "platform/InstanceLock.h"
-#include "session/ScriptedPlatform.h"
+#include "support/ScriptedPlatform.h"
 
 namespace {
 
@@ -68,15 +68,15 @@ int main(int count, char** arguments) {
 
   Drives drives({{'c', given[0]}});
   HostFiles files(drives);
-  session::ScriptedDialogs dialogs;
+  session::ScriptedPlatform outside;
   InstanceLock lock(fs::path(given[0]) / "tarvik" / "tarvik.lock");
-  Platform platform{files, dialogs, lock, {28800, 21600}, "c:\\tarvik", ""};
+  Platform platform = outside.Process(files, lock);
   Application application(platform);
   if (!application.Start()) return kStuck;
 
   User user(application);
   const std::string path = drives.FromHost(given[1]);
-  dialogs.choices.push_back(path);
+  outside.dialogs.choices.push_back(path);
   if (!user.Opens(path)) return user.Leaves() ? kNotOpened : kStuck;
   if (loop) std::cout << "saving" << std::endl;
   for (std::size_t turn = 0; loop || turn == 0; ++turn) {

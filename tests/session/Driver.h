@@ -17,12 +17,15 @@ class Driver {
   virtual bool DoubleClick(Component& control) = 0;
   virtual bool RightClick(Component& control) = 0;
   virtual bool Pick(Component& control, int index) = 0;
-  virtual bool Type(Pane& pane, std::string_view text) = 0;
+  /// Into a pane or a text box.
+  virtual bool Type(Control& control, std::string_view text) = 0;
   /// A key such as "Ctrl+Z", "Return", "Shift+Right", "F8".
   virtual bool PressKey(Component& control, std::string_view chord) = 0;
   /// The close box of a window.
   virtual void Close(Form& form) = 0;
   virtual void Drop(ListBox& from, Pane& pane, std::size_t position) = 0;
+  /// Whether the control has its window's focus.
+  virtual bool HasFocus(const Control& control) = 0;
   /// What is on show of the property, as its text.
   virtual std::string Read(const PropertyBase& property) = 0;
   /// Lets what is pending happen, before something is expected.

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <map>
 
+#include "app/ColourSelector.h"
 #include "app/Editor.h"
 #include "platform/CodePage.h"
 #include "session/Driver.h"
@@ -108,6 +109,10 @@ class FormDriver : public Driver {
   /// A form that comes up is the active one.
   explicit FormDriver(Application& application) : application_(application) {
     loaded_ = application.Loaded.Connect([this](Form& form) {
+      if (auto* const editor = dynamic_cast<Editor*>(&form)) {
+        shown_.push_back(
+            editor->PopUp.Connect([this](std::string_view name) { popUps_.emplace_back(name); }));
+      }
       shown_.push_back(form.Visible.Changed.Connect([&form] {
         if (form.Visible) form.Activate();
       }));
@@ -115,6 +120,7 @@ class FormDriver : public Driver {
   }
 
   bool Click(Component& control) override {
+    ClosePopUps();
     if (auto* item = dynamic_cast<MenuItem*>(&control)) return Run(*item);
     if (auto* button = dynamic_cast<ToolbarButton*>(&control)) return Run(*button);
     if (auto* tab = dynamic_cast<Tab*>(&control)) {
@@ -128,7 +134,20 @@ class FormDriver : public Driver {
       pane->Click();
       return true;
     }
-    if (auto* button = dynamic_cast<CommandButton*>(shown)) return button->Click(), true;
+    if (auto* button = dynamic_cast<CommandButton*>(shown)) {
+      button->SetFocus();
+      return button->Click(), true;
+    }
+    if (auto* box = dynamic_cast<CheckBox*>(shown)) {
+      box->SetFocus();
+      box->Value = 1 - box->Value;
+      return true;
+    }
+    if (auto* option = dynamic_cast<OptionButton*>(shown)) {
+      option->SetFocus();
+      option->Value = true;
+      return true;
+    }
     if (auto* picture = dynamic_cast<PictureBox*>(shown)) {
       picture->Click();
       return true;
@@ -164,12 +183,24 @@ class FormDriver : public Driver {
       strip->Select(index + 1);
       return true;
     }
+    if (auto* pages = dynamic_cast<TabPages*>(&control)) {
+      pages->Tab = index;
+      return true;
+    }
+    if (auto* entry = dynamic_cast<EntryBox*>(&control)) {
+      entry->SetFocus();
+      entry->Pick(index);
+      return true;
+    }
     return false;
   }
 
-  bool Type(Pane& pane, std::string_view text) override {
-    if (!pane.Visible) return false;
-    pane.SetFocus();
+  bool Type(Control& control, std::string_view text) override {
+    ClosePopUps();
+    if (!control.Visible || !control.Enabled) return false;
+    control.SetFocus();
+    if (auto* box = dynamic_cast<TextBox*>(&control)) return TypeIn(*box, text), true;
+    auto& pane = dynamic_cast<Pane&>(control);
     for (const char c : text) {
       Key key{static_cast<unsigned char>(ToUpper(c)), 0};
       pane.KeyDown(key);
@@ -182,7 +213,13 @@ class FormDriver : public Driver {
   }
 
   bool PressKey(Component& control, std::string_view chord) override {
+    ClosePopUps();
     Key key = ParseChord(chord);
+    Form& form = FormOf(control);
+    Key previewed = key;
+    form.KeyDown(previewed);
+    if (!previewed.code) return true;
+    if (PressesButton(form, key)) return true;
     auto* pane = dynamic_cast<Pane*>(&control);
     if (!pane) return RunShortcut(control, chord);
     if (!pane->Visible) return false;
@@ -202,8 +239,10 @@ class FormDriver : public Driver {
       application_.CloseEditor();
     } else if (&form == &application_.mum()) {
       application_.CloseMum();
-    } else {
+    } else if (dynamic_cast<ColourSelector*>(&form)) {
       form.Visible = false;
+    } else {
+      application_.Unload(form);
     }
   }
 
@@ -214,6 +253,7 @@ class FormDriver : public Driver {
     pane.SetFocus();
   }
 
+  bool HasFocus(const Control& control) override { return control.OwnForm().ActiveControl() == &control; }
   std::string Read(const PropertyBase& property) override { return property.ToText(); }
 
  private:
@@ -224,10 +264,45 @@ class FormDriver : public Driver {
     return true;
   }
 
-  static bool RunShortcut(Component& control, std::string_view chord) {
+  static Form& FormOf(Component& control) {
     Component* form = &control;
     while (form->Parent()) form = form->Parent();
-    const Menus* menus = MenusOf(static_cast<Form&>(*form));
+    return static_cast<Form&>(*form);
+  }
+
+  /// The Enter key presses the button with the focus, else the default one; Escape the Cancel button.
+  static bool PressesButton(Form& form, const Key& key) {
+    constexpr int kEnter = 13;
+    constexpr int kEscape = 27;
+    if ((key.code != kEnter && key.code != kEscape) || dynamic_cast<Pane*>(form.ActiveControl()))
+      return false;
+    auto* const focused = dynamic_cast<CommandButton*>(form.ActiveControl());
+    if (key.code == kEnter && focused) return focused->Click(), true;
+    for (Component* child : form.Children()) {
+      auto* const button = dynamic_cast<CommandButton*>(child);
+      if (!button || !(key.code == kEnter ? button->Default : button->Cancel)) continue;
+      if (button->Enabled) button->Click();
+      return true;
+    }
+    return false;
+  }
+
+  static void TypeIn(TextBox& box, std::string_view text) {
+    for (const char c : text) {
+      std::string typed = box.Text;
+      const std::size_t at = std::min<std::size_t>(box.SelStart, typed.size());
+      typed.replace(at, box.SelLength, 1, c);
+      box.SetText(typed, at + 1);
+    }
+  }
+
+  /// Whatever the user does next, a menu that is open closes.
+  void ClosePopUps() {
+    for (const std::string& name : std::exchange(popUps_, {})) application_.editor()->PopUpClosed(name);
+  }
+
+  static bool RunShortcut(Component& control, std::string_view chord) {
+    const Menus* menus = MenusOf(FormOf(control));
     MenuItem* item = menus ? menus->WithShortcut(chord) : nullptr;
     return item && Run(*item);
   }
@@ -235,6 +310,7 @@ class FormDriver : public Driver {
   Application& application_;
   Connection loaded_;
   std::vector<Connection> shown_;
+  std::vector<std::string> popUps_;
 };
 
 }  // namespace

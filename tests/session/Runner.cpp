@@ -66,19 +66,33 @@ Runner::~Runner() {
 }
 
 std::vector<std::string> Runner::Run(std::string_view script) {
-  const std::vector<Line> lines = ParseScript(script);
-  for (const Line& line : lines) {
-    line_ = &line;
-    try {
-      Step(line);
-    } catch (const Stop& stop) {
-      Fail(stop.text);
+  lines_ = ParseScript(script);
+  outside_.dialogs.next = [this] { return Next(); };
+  while (Next()) {
+    if (application_ && application_->Ended()) Killed(*line_);
+  }
+  if (application_) {
+    for (const Form* form : application_->Forms()) {
+      if (form->Modal && form->Visible) Fail("the session ends in a modal form");
     }
   }
-  for (const MessageBox& box : dialogs_.boxes)
+  for (const MessageBox& box : outside_.dialogs.boxes)
     Fail("an unexpected box: \"" + box.title + "\" \"" + box.text + "\"");
-  if (!dialogs_.answers.empty()) Fail("an answer that no box took");
+  if (!outside_.dialogs.answers.empty()) Fail("an answer that no box took");
   return failures_;
+}
+
+/// Walks one line, and the lines that follow while a modal form or a box is open.
+bool Runner::Next() {
+  if (nextLine_ == lines_.size()) return false;
+  const Line& line = lines_[nextLine_++];
+  line_ = &line;
+  try {
+    Step(line);
+  } catch (const Stop& stop) {
+    Fail(stop.text);
+  }
+  return true;
 }
 
 const std::map<std::string_view, Runner::Command>& Runner::Commands() {
@@ -109,6 +123,7 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
       {"call", &Runner::Call},
       {"choose", &Runner::Choose},
       {"answer", &Runner::AnswerBox},
+      {"clipboard", &Runner::FillClipboard},
       {"expect", &Runner::Expect},
   };
   return commands;
@@ -122,7 +137,9 @@ const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
       {"folder", &Runner::ExpectFolder}, {"ini", &Runner::ExpectIni},
       {"colour", &Runner::ExpectColour}, {"colours", &Runner::ExpectColours},
       {"ended", &Runner::ExpectEnded},   {"running", &Runner::ExpectRunning},
-      {"same", &Runner::ExpectSame},
+      {"same", &Runner::ExpectSame},     {"clipboard", &Runner::ExpectClipboard},
+      {"help", &Runner::ExpectHelp},     {"popup", &Runner::ExpectPopUp},
+      {"focus", &Runner::ExpectFocus},   {"form", &Runner::ExpectForm},
   };
   return expectations;
 }
@@ -131,8 +148,20 @@ void Runner::Step(const Line& line) {
   const auto command = Commands().find(line.words[0]);
   if (command == Commands().end()) throw Stop{"no such command"};
   if (!application_ && NeedsProgram(line.words[0])) throw Stop{"no program runs"};
+  if (IsBlocked(line)) throw Stop{"a modal form is in front"};
   (this->*command->second)(line);
   if (driver_) driver_->Settle();
+}
+
+/// Whether the line works on a form while another one is modal.
+bool Runner::IsBlocked(const Line& line) const {
+  if (!NeedsProgram(line.words[0]) || line.words[0] == "call" || line.words.size() < 2) return false;
+  const std::vector<Form*> forms = application_->Forms();
+  const auto modal = std::find_if(forms.rbegin(), forms.rend(),
+                                  [](const Form* form) { return form->Modal && form->Visible; });
+  if (modal == forms.rend()) return false;
+  const std::string& control = line.words[line.words[0] == "mouse" ? 2 : 1];
+  return control != "value" && control.substr(0, control.find('.')) != (*modal)->Name();
 }
 
 void Runner::Fail(const std::string& what) {
@@ -229,27 +258,27 @@ void Runner::Start(const Line& line) {
   const std::string commandLine = line.words.size() > 1 ? line.words[1] : "";
   if (application_) {
     // A second process beside the first.
-    Platform second{files_, dialogs_, instance_, {28800, 21600}, kFolder, commandLine};
+    Platform second = outside_.Process(files_, commandLine);
     Application(second).Start();
     return;
   }
-  platform_ =
-      std::make_unique<Platform>(Platform{files_, dialogs_, instance_, {28800, 21600}, kFolder, commandLine});
+  platform_ = std::make_unique<Platform>(outside_.Process(files_, commandLine));
   application_ = std::make_unique<Application>(*platform_);
   driver_ = makeDriver_(*application_);
+  editorLoaded_ = application_->Loaded.Connect([this](Form& form) {
+    auto* const editor = dynamic_cast<Editor*>(&form);
+    if (editor) poppedUp_ = editor->PopUp.Connect([this](std::string_view name) { popUp_ = name; });
+  });
   application_->Start();
 }
 
-void Runner::Close(const Line& line) {
-  driver_->Close(*FindAs<Form>(Word(line, 1)));
-  if (application_->Ended()) Killed(line);
-}
+void Runner::Close(const Line& line) { driver_->Close(*FindAs<Form>(Word(line, 1))); }
 
 void Runner::Killed(const Line&) {
   elapsed_.clear();
   driver_.reset();
   application_.reset();
-  instance_.held = false;
+  outside_.instance.held = false;
 }
 
 void Runner::Wait(const Line& line) {
@@ -257,9 +286,7 @@ void Runner::Wait(const Line& line) {
   while (application_) {
     std::vector<Timer*> running;
     int next = left;
-    for (const char* name : {"Mum", "Editor"}) {
-      const Form* form = application_->FindForm(name);
-      if (!form) continue;
+    for (const Form* form : application_->Forms()) {
       for (Component* child : form->Children()) {
         auto* timer = dynamic_cast<Timer*>(child);
         if (!timer || !timer->Enabled || timer->Interval <= 0) continue;
@@ -285,7 +312,6 @@ void Runner::Wait(const Line& line) {
 
 void Runner::Click(const Line& line) {
   if (!driver_->Click(*Find(Word(line, 1)))) throw Stop{"it is disabled or hidden"};
-  if (application_->Ended()) Killed(line);
 }
 void Runner::DoubleClick(const Line& line) {
   Component* control = Find(Word(line, 1));
@@ -304,6 +330,8 @@ int Runner::ItemIndex(Component& control, const std::string& item) {
   std::vector<std::string> items;
   if (auto* list = dynamic_cast<ListBox*>(&control)) items = list->List();
   if (auto* combo = dynamic_cast<ComboBox*>(&control)) items = combo->List();
+  if (auto* entry = dynamic_cast<EntryBox*>(&control)) items = entry->List();
+  if (auto* pages = dynamic_cast<TabPages*>(&control)) items = pages->Captions();
   if (auto* strip = dynamic_cast<TabStrip*>(&control)) {
     for (int i = 1; i <= strip->Count(); ++i) items.push_back(strip->Tabs(i).Caption);
   }
@@ -318,7 +346,7 @@ void Runner::Pick(const Line& line) {
 }
 
 void Runner::Type(const Line& line) {
-  if (!driver_->Type(*FindAs<Pane>(Word(line, 1)), Word(line, 2))) throw Stop{"it isn't on show"};
+  if (!driver_->Type(*FindAs<Control>(Word(line, 1)), Word(line, 2))) throw Stop{"it isn't on show"};
 }
 /// key CONTROL CHORD [COUNT]
 void Runner::PressKey(const Line& line) {
@@ -326,7 +354,6 @@ void Runner::PressKey(const Line& line) {
   for (int i = 0; i < count; ++i) {
     if (!driver_->PressKey(*Find(Word(line, 1)), Word(line, 2))) throw Stop{"nothing takes the key"};
   }
-  if (application_->Ended()) Killed(line);
 }
 
 void Runner::Drag(const Line& line) {
@@ -361,6 +388,9 @@ void Runner::Call(const Line& line) {
       {"Editor.DamnFontWasChanged", [&] { editor->DamnFontWasChanged(); }},
       {"Editor.DeleteUndosFromMemory", [&] { editor->DeleteUndosFromMemory(); }},
       {"Editor.Form_Activate", [&] { editor->Form_Activate(); }},
+      {"Editor.EmergencySaveFiles", [&] { editor->EmergencySaveFiles(); }},
+      {"Editor.CheckAtLineBeginning", [&] { editor->CheckAtLineBeginning(); }},
+      {"Mum.ReleaseGradientInEmergency", [&] { application_->mum().ReleaseGradientInEmergency(); }},
       {"Mum.MakeFlat", [&] { application_->mum().MakeFlat(); }},
       {"Mum.ColoursSortOut", [&] { application_->mum().ColoursSortOut(); }},
       {"Settings.SaveOptions", [&] { application_->settings.SaveOptions(); }},
@@ -370,17 +400,58 @@ void Runner::Call(const Line& line) {
   operation->second();
 }
 
-void Runner::Choose(const Line& line) { dialogs_.choices.push_back(Word(line, 1)); }
+/// choose PATH | cancel | later: the next file dialog stays open until a choice comes.
+void Runner::Choose(const Line& line) {
+  if (Word(line, 1) == "later") {
+    outside_.dialogs.holdDialog = true;
+  } else {
+    outside_.dialogs.choices.push_back(line.words[1]);
+  }
+}
 
+/// answer OK | Yes | No | Cancel | later: the next box stays open until an answer comes.
 void Runner::AnswerBox(const Line& line) {
+  if (Word(line, 1) == "later") {
+    outside_.dialogs.holdBox = true;
+    return;
+  }
   const std::map<std::string, Answer> answers = {
       {"OK", Answer::Ok}, {"Yes", Answer::Yes}, {"No", Answer::No}, {"Cancel", Answer::Cancel}};
   const auto answer = answers.find(Word(line, 1));
   if (answer == answers.end()) throw Stop{"no such answer"};
-  dialogs_.answers.push_back(answer->second);
+  outside_.dialogs.answers.push_back(answer->second);
+}
+
+/// clipboard text|rtf "TEXT": what another program puts there; clipboard empty.
+void Runner::FillClipboard(const Line& line) {
+  const std::string& kind = Word(line, 1);
+  const std::string content = kind == "empty" ? "" : Wanted(line, 2);
+  outside_.clipboard.PutFromOutside(kind == "text" ? content : "", kind == "rtf" ? content : "");
 }
 
 // What is seen.
+
+void Runner::ExpectClipboard(const Line& line) { Compare(Wanted(line, 2), outside_.clipboard.Text()); }
+
+/// expect help "FILE TOPIC", in the order they were asked for
+void Runner::ExpectHelp(const Line& line) {
+  if (outside_.help.shown.empty()) throw Stop{"no help was asked for"};
+  Compare(Word(line, 2), outside_.help.shown.front());
+  outside_.help.shown.pop_front();
+}
+
+/// expect popup NAME: the pop-up menu that came last
+void Runner::ExpectPopUp(const Line& line) { Compare(Word(line, 2), popUp_); }
+
+void Runner::ExpectFocus(const Line& line) {
+  if (!driver_->HasFocus(*FindAs<Control>(Word(line, 2)))) Fail("it hasn't the focus");
+}
+
+/// expect form NAME: it is loaded and on show
+void Runner::ExpectForm(const Line& line) {
+  const Form* const form = application_->FindForm(Word(line, 2));
+  if (!form || !form->Visible) Fail("it isn't on show");
+}
 
 void Runner::Expect(const Line& line) {
   const auto expectation = Expectations().find(Word(line, 1));
@@ -402,9 +473,9 @@ void Runner::ExpectValue(const Line& line) {
 /// expect box TITLE [TEXT [none|information|question|exclamation]]
 void Runner::ExpectBox(const Line& line) {
   constexpr const char* kIcons[] = {"none", "information", "question", "exclamation"};
-  if (dialogs_.boxes.empty()) throw Stop{"there was no box"};
-  const MessageBox box = dialogs_.boxes.front();
-  dialogs_.boxes.pop_front();
+  if (outside_.dialogs.boxes.empty()) throw Stop{"there was no box"};
+  const MessageBox box = outside_.dialogs.boxes.front();
+  outside_.dialogs.boxes.pop_front();
   Compare(Word(line, 2), box.title);
   if (line.words.size() > 3) Compare(line.words[3], box.text);
   if (line.words.size() > 4) Compare(line.words[4], kIcons[static_cast<int>(box.icon)]);
@@ -412,8 +483,8 @@ void Runner::ExpectBox(const Line& line) {
 
 /// expect dialog title|filter|folder|fileName TEXT, of the last file dialog
 void Runner::ExpectDialog(const Line& line) {
-  if (dialogs_.requests.empty()) throw Stop{"there was no dialog"};
-  const FileRequest& request = dialogs_.requests.back();
+  if (outside_.dialogs.requests.empty()) throw Stop{"there was no dialog"};
+  const FileRequest& request = outside_.dialogs.requests.back();
   const std::map<std::string, std::string> parts = {{"title", request.title},
                                                     {"filter", request.filter},
                                                     {"folder", request.folder},
@@ -443,7 +514,8 @@ void Runner::ExpectSame(const Line& line) {
 
 void Runner::ExpectNo(const Line& line) {
   if (Word(line, 2) == "file" && files_.FileExists(Word(line, 3))) Fail("it is there");
-  if (line.words[2] == "dialog" && !dialogs_.requests.empty()) Fail("there was one");
+  if (line.words[2] == "dialog" && !outside_.dialogs.requests.empty()) Fail("there was one");
+  if (line.words[2] == "form" && application_->FindForm(Word(line, 3))) Fail("it is loaded");
   if (line.words[2] == "list" && application_->editor()->Resolve(Word(line, 3))) Fail("it is there");
 }
 

@@ -9,7 +9,7 @@
 #include "app/Application.h"
 #include "session/Driver.h"
 #include "session/Script.h"
-#include "session/ScriptedPlatform.h"
+#include "support/ScriptedPlatform.h"
 
 namespace tarvik::session {
 
@@ -29,7 +29,9 @@ class Runner {
   static const std::map<std::string_view, Command>& Commands();
   static const std::map<std::string_view, Command>& Expectations();
 
+  bool Next();
   void Step(const Line& line);
+  [[nodiscard]] bool IsBlocked(const Line& line) const;
   void Fail(const std::string& what);
   void Compare(const std::string& wanted, const std::string& found);
 
@@ -62,6 +64,7 @@ class Runner {
   void Call(const Line& line);
   void Choose(const Line& line);
   void AnswerBox(const Line& line);
+  void FillClipboard(const Line& line);
   // What is seen.
   void Expect(const Line& line);
   void ExpectProperty(const Line& line);
@@ -71,6 +74,11 @@ class Runner {
   void ExpectFile(const Line& line);
   void ExpectBytes(const Line& line);
   void ExpectSame(const Line& line);
+  void ExpectClipboard(const Line& line);
+  void ExpectHelp(const Line& line);
+  void ExpectPopUp(const Line& line);
+  void ExpectFocus(const Line& line);
+  void ExpectForm(const Line& line);
   void ExpectNo(const Line& line);
   void ExpectFolder(const Line& line);
   void ExpectIni(const Line& line);
@@ -90,13 +98,17 @@ class Runner {
 
   MakeDriver makeDriver_;
   MemoryFiles files_;
-  ScriptedDialogs dialogs_;
-  ScriptedInstance instance_;
+  ScriptedPlatform outside_;
   std::unique_ptr<Platform> platform_;
   std::unique_ptr<Application> application_;
   std::unique_ptr<Driver> driver_;
   std::map<Timer*, int> elapsed_;  // milliseconds since a running timer last fired
+  Connection editorLoaded_;
+  Connection poppedUp_;
+  std::string popUp_;
   std::vector<std::string> failures_;
+  std::vector<Line> lines_;
+  std::size_t nextLine_ = 0;
   const Line* line_ = nullptr;
 };
 

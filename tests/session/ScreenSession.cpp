@@ -22,18 +22,19 @@ class ScreenDriver : public Driver {
     return Usable(control) && (access_.RightClick(control), true);
   }
   bool Pick(Component& control, int index) override { return access_.Pick(control, index); }
-  bool Type(Pane& pane, std::string_view text) override {
-    return Usable(pane) && (access_.Type(pane, text), true);
+  bool Type(Control& control, std::string_view text) override {
+    return Usable(control) && (access_.Type(control, text), true);
   }
   void Close(Form& form) override { access_.Close(form); }
   bool PressKey(Component& control, std::string_view chord) override {
     return Usable(control) && (access_.PressKey(control, chord), true);
   }
   void Drop(ListBox& from, Pane& pane, std::size_t position) override { access_.Drop(from, pane, position); }
+  bool HasFocus(const Control& control) override { return access_.HasFocus(control); }
   std::string Read(const PropertyBase& property) override {
     return access_.Read(property).value_or(property.ToText());
   }
-  void Settle() override { QApplication::processEvents(); }
+  void Settle() override { access_.Settle(); }
 
  private:
   /// Whether a user can get at the control: it is shown, and not greyed out.

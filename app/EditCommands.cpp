@@ -1,0 +1,95 @@
+#include "app/EditCommands.h"
+
+#include <algorithm>
+
+#include "panes/Rtf.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int kCutButton = 7;
+constexpr int kCopyButton = 8;
+constexpr int kPasteButton = 9;
+
+}  // namespace
+
+void EditCommands::Copy() {
+  const Pane& pane = desk_.Active().text;
+  desk_.platform.clipboard.Put(pane.SelText, pane.SelRTF);
+  UpdateCCPButtons();
+}
+
+/// A protected file takes none of the user's edits, and says so.
+bool EditCommands::Refuses() const {
+  if (!desk_.Active().text.Locked) return false;
+  desk_.SayIsProtected(desk_.Active());
+  return true;
+}
+
+void EditCommands::DeleteSelection(Document& document) {
+  if (document.text.SelLength == 0) return;
+  document.Undo.Start = 1;
+  document.text.SelText = std::string();
+}
+
+void EditCommands::Cut() {
+  Copy();
+  if (!Refuses()) DeleteSelection(desk_.Active());
+}
+
+void EditCommands::Delete() {
+  if (!Refuses()) DeleteSelection(desk_.Active());
+}
+
+void EditCommands::Paste() {
+  if (Refuses()) return;
+  Clipboard& clipboard = desk_.platform.clipboard;
+  const std::string rtf = clipboard.Rtf();
+  const bool rich = LooksLikeRtf(rtf);
+  const std::string text = rich ? std::string() : clipboard.Text();
+  if (!rich && text.empty()) return;
+  insertion_.BeginColInsert();
+  Document& document = desk_.Active();
+  desk_.ApplyFont(document.text);
+  if (rich) {
+    document.text.SelRTF = rtf;
+  } else {
+    document.text.SelText = text;
+  }
+  document.Caret = document.text.SelStart;
+  document.text.SetFocus();
+  insertion_.EndColInsert();
+  desk_.ShowLineNumber(document, document.Caret);
+}
+
+void EditCommands::SelectAll() {
+  Document& document = desk_.Active();
+  document.Caret = 0;
+  document.text.Select({0, document.text.Characters().size()});
+}
+
+void EditCommands::UpdateCCPButtons() {
+  const bool selected = desk_.Active().text.SelLength > 0;
+  for (const char* const entry : {"mnuEditCut", "mnuEditCopy", "mnuEditDelete"}) {
+    menus_(entry).Enabled = selected;
+  }
+  for (const int button : {kCutButton, kCopyButton}) toolbar_.Buttons(button).Enabled = selected;
+  const bool text = desk_.platform.clipboard.HasText();
+  menus_("mnuEditPaste").Enabled = text;
+  toolbar_.Buttons(kPasteButton).Enabled = text;
+}
+
+void EditCommands::CheckAtLineBeginning() {
+  Document& document = desk_.Active();
+  Pane& pane = document.text;
+  const std::string_view text = pane.Characters();
+  const std::size_t caret = pane.SelStart;
+  if (!text.empty() && pane.SelLength == 0 && caret > 0 && text[caret - 1] != '\n') {
+    pane.SelStart = std::min(text.find('\r', caret), text.size());
+    insertion_.InsertCarriageReturn();
+  }
+  pane.SetFocus();
+  desk_.ShowLineNumber(document, pane.SelStart);
+}
+
+}  // namespace tarvik

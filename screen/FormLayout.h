@@ -1,0 +1,50 @@
+// The words in which a window's page is laid out: controls shown by their kind, in columns, rows and fields.
+#pragma once
+
+#include <QBoxLayout>
+#include <QFormLayout>
+#include <variant>
+
+#include "panes/Pane.h"
+#include "screen/Binding.h"
+
+namespace tarvik::screen {
+
+/// One thing in a column or row: a widget, a layout, or room that stretches.
+struct Stretch {};
+using Piece = std::variant<QWidget*, QLayout*, Stretch>;
+
+/// Makes the widgets of a form's controls, each bound to its control.
+class FormLayout {
+ public:
+  explicit FormLayout(Bindings& bindings) : bindings_(bindings) {}
+
+  QWidget* Show(TextBox& box) const;
+  QWidget* Show(EntryBox& box) const;
+  QWidget* Show(CheckBox& box) const;
+  QWidget* Show(OptionButton& button) const;
+  QWidget* Show(CommandButton& button) const;
+  QWidget* Show(Pane& pane) const;
+  /// The pages in the order of the tabs.
+  QWidget* Show(TabPages& pages, std::initializer_list<QLayout*> layouts) const;
+
+ private:
+  Bindings& bindings_;
+};
+
+[[nodiscard]] QLayout* Column(std::initializer_list<Piece> pieces);
+[[nodiscard]] QLayout* Row(std::initializer_list<Piece> pieces);
+
+/// A label with the control that it names; its mnemonic leads there.
+struct Field {
+  const char* label;
+  QWidget* control;
+};
+[[nodiscard]] QLayout* Fields(std::initializer_list<Field> fields);
+/// A frame with a caption around its content.
+[[nodiscard]] QWidget* Group(const char* caption, QLayout* content);
+
+/// Gives each button, label and tab of a window that has no mnemonic one that no other on show has.
+void GiveMnemonics(QWidget& window);
+
+}  // namespace tarvik::screen

@@ -1,0 +1,97 @@
+#include "screen/ToolWindow.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QWindow>
+
+#include "screen/Keys.h"
+#include "screen/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr int kFromTheRight = 40;
+constexpr int kFromTheTop = 120;
+
+}  // namespace
+
+ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame)
+    : QDialog(&frame), FormView(form), application_(application), frame_(frame) {
+  setLayout(makePage(FormLayout(bindings_)));
+  GiveMnemonics(*this);
+  for (QWidget* const child : findChildren<QWidget*>()) child->installEventFilter(this);
+  bindings_.Shows(form, *this);
+  bindings_.Bind(
+      form.Caption, [this] { setWindowTitle(ToScreen(this->form().Caption.Get()).trimmed()); },
+      [this] { return this->form().Caption.ToText(); });
+  bindings_.Bind(form.Topmost, [this] { ShowTopmost(); });
+  bindings_.Bind(
+      form.Visible, [this] { ShowWindow(); }, [this] { return TextOf(isVisible()); });
+}
+
+void ToolWindow::ShowWindow() {
+  if (!form().Visible) {
+    hide();
+    return;
+  }
+  setModal(form().Modal);
+  if (!isVisible() && !form().Modal) move(PlaceBeside());
+  show();
+  raise();
+  activateWindow();
+}
+
+/// At the frame's right, where it covers little of the text.
+QPoint ToolWindow::PlaceBeside() {
+  adjustSize();
+  const QRect frame = frame_.geometry();
+  return {std::max(frame.left(), frame.right() - width() - kFromTheRight), frame.top() + kFromTheTop};
+}
+
+/// A window that is not topmost may be covered by the frame.
+void ToolWindow::ShowTopmost() {
+  if (!windowHandle()) {
+    setWindowFlag(Qt::WindowStaysOnTopHint, form().Topmost);
+    return;
+  }
+  windowHandle()->setFlag(Qt::WindowStaysOnTopHint, form().Topmost);
+  windowHandle()->setTransientParent(form().Topmost ? frame_.windowHandle() : nullptr);
+}
+
+void ToolWindow::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (!event->spontaneous()) form().Activate();
+}
+
+void ToolWindow::closeEvent(QCloseEvent* event) {
+  event->accept();
+  if (form().Visible) application_.Unload(form());
+}
+
+/// The form goes before its window, which may be in the middle of an event.
+void ToolWindow::Retire() {
+  hide();
+  bindings_.Release();
+  deleteLater();
+}
+
+bool ToolWindow::FormTakes(const QKeyEvent& event) {
+  Key key{VirtualKey(event.key()), ShiftState(event.modifiers())};
+  form().KeyDown(key);
+  return key.code == 0;
+}
+
+bool ToolWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool key = event->type() == QEvent::KeyPress && watched == focusWidget();
+  return (key && FormTakes(static_cast<QKeyEvent&>(*event))) || QDialog::eventFilter(watched, event);
+}
+
+void ToolWindow::reject() {
+  for (Component* const child : form().Children()) {
+    auto* const button = dynamic_cast<CommandButton*>(child);
+    if (button && button->Cancel && button->Enabled) return button->Click();
+  }
+  close();
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,43 @@
+// The window of a tool: a page of layout around the controls of its form. Every form but the frame, the
+// editor and the colour choice is shown by one.
+#pragma once
+
+#include <QDialog>
+
+#include "app/Application.h"
+#include "screen/FormLayout.h"
+#include "screen/FormView.h"
+
+namespace tarvik::screen {
+
+class ToolWindow : public QDialog, public FormView {
+ public:
+  using MakePage = std::function<QLayout*(const FormLayout&)>;
+
+  /// `frame` is the window that it belongs to.
+  ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame);
+
+  void CloseByUser() override { close(); }
+  void Retire() override;
+  /// Escape: the form's own handling, else its Cancel button, else the close box.
+  void reject() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void ShowWindow();
+  void ShowTopmost();
+  [[nodiscard]] QPoint PlaceBeside();
+  [[nodiscard]] bool FormTakes(const QKeyEvent& event);
+
+  Application& application_;
+  QWidget& frame_;
+};
+
+/// The page of the form's window, or nothing for a form that is shown in another way.
+[[nodiscard]] ToolWindow::MakePage PageOf(Form& form);
+
+}  // namespace tarvik::screen

@@ -1,0 +1,94 @@
+// Everything from outside, answered by a script: queues of answers for boxes and dialogs, a clipboard, and a
+// record of what was asked.
+#pragma once
+
+#include <deque>
+#include <utility>
+#include <vector>
+
+#include "platform/Platform.h"
+#include "support/MemoryFiles.h"
+
+namespace tarvik::session {
+
+class ScriptedDialogs : public Dialogs {
+ public:
+  Answer Show(const MessageBox& box) override;
+  Outcome<std::string> AskForFile(const FileRequest& request) override;
+  void WaitWhile(const std::function<bool()>& open) override;
+
+  std::deque<Answer> answers;       ///< for the next boxes; OK where there is none, or No, or Cancel
+  std::deque<std::string> choices;  ///< for the next dialogs; "cancel" cancels, and so does none at all
+  std::deque<MessageBox> boxes;     ///< shown and not yet expected
+  std::deque<FileRequest> requests;
+  /// The next box, or file dialog, stays open until there is an answer, or a choice, for it.
+  bool holdBox = false;
+  bool holdDialog = false;
+  /// Lets the user do one thing; false when there is nothing more to do.
+  std::function<bool()> next;
+};
+
+class ScriptedInstance : public SingleInstance {
+ public:
+  bool Acquire() override { return !std::exchange(held, true); }
+  bool held = false;
+};
+
+class ScriptedClipboard : public Clipboard {
+ public:
+  void Put(const std::string& text, const std::string& rtf) override {
+    text_ = text;
+    rtf_ = rtf;
+  }
+  bool HasText() override { return !text_.empty() || !rtf_.empty(); }
+  std::string Text() override { return text_; }
+  std::string Rtf() override { return rtf_; }
+
+  /// What another program does.
+  void PutFromOutside(const std::string& text, const std::string& rtf) {
+    Put(text, rtf);
+    if (changed) changed();
+  }
+
+ private:
+  std::string text_;
+  std::string rtf_;
+};
+
+class ScriptedHelp : public Help {
+ public:
+  void ShowKeyword(const std::string& file, const std::string& keyword) override {
+    shown.push_back(file + " " + keyword);
+  }
+  void ShowContext(const std::string& file, int context) override {
+    shown.push_back(file + " " + std::to_string(context));
+  }
+  std::deque<std::string> shown;  ///< and not yet expected
+};
+
+class ScriptedCalendar : public Calendar {
+ public:
+  [[nodiscard]] std::string ShortDate() const override { return "14/12/1997"; }
+  [[nodiscard]] std::string LongDate() const override { return "14 December 1997"; }
+};
+
+struct ScriptedPlatform {
+  ScriptedDialogs dialogs;
+  ScriptedInstance instance;
+  ScriptedClipboard clipboard;
+  ScriptedHelp help;
+  ScriptedCalendar calendar;
+
+  /// A process on this disk, beside any other.
+  [[nodiscard]] Platform Process(Files& files, std::string commandLine = "") {
+    return Process(files, instance, std::move(commandLine));
+  }
+  /// The same, with a lock that is real.
+  [[nodiscard]] Platform Process(Files& files, SingleInstance& lock, std::string commandLine = "") {
+    return {files,          dialogs,      lock,
+            clipboard,      help,         calendar,
+            {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
+  }
+};
+
+}  // namespace tarvik::session
