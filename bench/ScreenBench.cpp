@@ -41,7 +41,10 @@ int main(int count, char** arguments) {
   files.Put("c:\\my\\large.b50", JoystickFile(1'000'000));
   session::ScriptedDialogs dialogs;
   session::ScriptedInstance instance;
-  Platform platform{files, dialogs, instance, {28800, 21600}, "c:\\tarvik", "c:\\my\\large.b50"};
+  ScriptedPrinter printer;
+  FixedCalendar calendar;
+  Platform platform{files,   dialogs,  instance,     {28800, 21600},
+                    printer, calendar, "c:\\tarvik", "c:\\my\\large.b50"};
   Application application(platform);
   screen::Screen screen(application, screen::Clock::Scripted);
   application.Start();

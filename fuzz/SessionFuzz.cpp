@@ -158,7 +158,9 @@ class User {
   MemoryFiles files_;
   session::ScriptedDialogs dialogs_;
   session::ScriptedInstance instance_;
-  Platform platform_{files_, dialogs_, instance_, {28800, 21600}, "c:\\tarvik", ""};
+  ScriptedPrinter printer_;
+  FixedCalendar calendar_;
+  Platform platform_{files_, dialogs_, instance_, {28800, 21600}, printer_, calendar_, "c:\\tarvik", ""};
   Application application_{platform_};
   std::unique_ptr<session::Driver> driver_ = session::MakeFormDriver(application_);
 };

@@ -6,6 +6,7 @@
 
 #include "platform/Files.h"
 #include "platform/Outcome.h"
+#include "platform/Printer.h"
 
 namespace tarvik {
 
@@ -51,6 +52,14 @@ class SingleInstance {
   virtual bool Acquire() = 0;
 };
 
+/// Today's date as the user's own settings write it, in the code page.
+class Calendar {
+ public:
+  virtual ~Calendar() = default;
+  [[nodiscard]] virtual std::string ShortDate() const = 0;
+  [[nodiscard]] virtual std::string LongDate() const = 0;
+};
+
 /// The screen's size in twips (15 to the pixel).
 struct ScreenSize {
   float width = 0;
@@ -63,6 +72,8 @@ struct Platform {
   Dialogs& dialogs;
   SingleInstance& instance;
   ScreenSize screen;
+  Printer& printer;
+  Calendar& calendar;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string
 };

@@ -12,7 +12,9 @@
 #include "platform/InstanceLock.h"
 #include "platform/ProfileFile.h"
 #include "screen/Icons.h"
+#include "screen/QtCalendar.h"
 #include "screen/QtDialogs.h"
+#include "screen/QtPrinter.h"
 #include "screen/Screen.h"
 
 namespace {
@@ -76,10 +78,14 @@ int main(int argc, char* argv[]) {
   HostFiles files(drives);
   screen::QtDialogs dialogs(drives);
   InstanceLock lock(home / "tarvik.lock");
+  screen::QtPrinter printer;
+  screen::QtCalendar calendar;
   Platform platform{files,
                     dialogs,
                     lock,
                     SizeOfScreen(),
+                    printer,
+                    calendar,
                     drives.FromHost(home),
                     CommandLine(QApplication::arguments().mid(1), drives)};
 

@@ -2,6 +2,7 @@
 
 #include "app/Editor.h"
 #include "support/MemoryFiles.h"
+#include "support/ScriptedPrinter.h"
 
 namespace tarvik {
 namespace {
@@ -38,7 +39,9 @@ TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerTex
   files.Put("c:\\my\\failing.b50", "its own text\r\n");
   NoDialogs dialogs;
   OnlyInstance instance;
-  Platform platform{files, dialogs, instance, {28800, 21600}, "c:\\tarvik", ""};
+  ScriptedPrinter printer;
+  FixedCalendar calendar;
+  Platform platform{files, dialogs, instance, {28800, 21600}, printer, calendar, "c:\\tarvik", ""};
   Application application(platform);
   application.settings.Write("FileLocations", "FirstTimeUsed", "0");
   application.Start();

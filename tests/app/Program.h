@@ -4,12 +4,15 @@
 
 #include "app/Editor.h"
 #include "support/MemoryFiles.h"
+#include "support/ScriptedPrinter.h"
 
 namespace tarvik {
 
 class Program {
  public:
-  Program() {
+  explicit Program(Printer* printer = nullptr)
+      : platform_{files_,    dialogs_,     instance_, {28800, 21600}, printer ? *printer : scripted_,
+                  calendar_, "c:\\tarvik", ""} {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
@@ -33,7 +36,9 @@ class Program {
   MemoryFiles files_;
   NoDialogs dialogs_;
   OnlyInstance instance_;
-  Platform platform_{files_, dialogs_, instance_, {28800, 21600}, "c:\\tarvik", ""};
+  ScriptedPrinter scripted_;
+  FixedCalendar calendar_;
+  Platform platform_;
 
  public:
   Application application{platform_};

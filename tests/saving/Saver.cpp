@@ -70,7 +70,9 @@ int main(int count, char** arguments) {
   HostFiles files(drives);
   session::ScriptedDialogs dialogs;
   InstanceLock lock(fs::path(given[0]) / "tarvik" / "tarvik.lock");
-  Platform platform{files, dialogs, lock, {28800, 21600}, "c:\\tarvik", ""};
+  ScriptedPrinter printer;
+  FixedCalendar calendar;
+  Platform platform{files, dialogs, lock, {28800, 21600}, printer, calendar, "c:\\tarvik", ""};
   Application application(platform);
   if (!application.Start()) return kStuck;
 

@@ -92,6 +92,7 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
       {"remove", &Runner::Remove},
       {"ini", &Runner::Ini},
       {"room", &Runner::DiskRoom},
+      {"printer", &Runner::SetPrinter},
       {"start", &Runner::Start},
       {"close", &Runner::Close},
       {"killed", &Runner::Killed},
@@ -122,7 +123,7 @@ const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
       {"folder", &Runner::ExpectFolder}, {"ini", &Runner::ExpectIni},
       {"colour", &Runner::ExpectColour}, {"colours", &Runner::ExpectColours},
       {"ended", &Runner::ExpectEnded},   {"running", &Runner::ExpectRunning},
-      {"same", &Runner::ExpectSame},
+      {"same", &Runner::ExpectSame},     {"printed", &Runner::ExpectPrinted},
   };
   return expectations;
 }
@@ -223,18 +224,35 @@ void Runner::DiskRoom(const Line& line) {
   files_.FailAfter(static_cast<std::size_t>(std::stoul(Word(line, 1))));
 }
 
+/// printer none | gone CALLS | lines COUNT | chosen NAME|cancel|fails
+void Runner::SetPrinter(const Line& line) {
+  const std::string& what = Word(line, 1);
+  const auto number = [&] { return std::stoul(Word(line, 2)); };
+  if (what == "none") {
+    printer_.callsLeft = 0;
+  } else if (what == "gone") {
+    printer_.callsLeft = number();
+  } else if (what == "lines") {
+    printer_.linesPerPage = number();
+  } else if (what == "chosen") {
+    printer_.choice = Word(line, 2);
+  } else {
+    throw Stop{"no such printer"};
+  }
+}
+
 // The process.
 
 void Runner::Start(const Line& line) {
   const std::string commandLine = line.words.size() > 1 ? line.words[1] : "";
   if (application_) {
     // A second process beside the first.
-    Platform second{files_, dialogs_, instance_, {28800, 21600}, kFolder, commandLine};
+    Platform second{files_, dialogs_, instance_, {28800, 21600}, printer_, calendar_, kFolder, commandLine};
     Application(second).Start();
     return;
   }
-  platform_ =
-      std::make_unique<Platform>(Platform{files_, dialogs_, instance_, {28800, 21600}, kFolder, commandLine});
+  platform_ = std::make_unique<Platform>(
+      Platform{files_, dialogs_, instance_, {28800, 21600}, printer_, calendar_, kFolder, commandLine});
   application_ = std::make_unique<Application>(*platform_);
   driver_ = makeDriver_(*application_);
   application_->Start();
@@ -444,7 +462,13 @@ void Runner::ExpectSame(const Line& line) {
 void Runner::ExpectNo(const Line& line) {
   if (Word(line, 2) == "file" && files_.FileExists(Word(line, 3))) Fail("it is there");
   if (line.words[2] == "dialog" && !dialogs_.requests.empty()) Fail("there was one");
+  if (line.words[2] == "printing" && !printer_.record.empty()) Fail(Joined(printer_.record));
   if (line.words[2] == "list" && application_->editor()->Resolve(Word(line, 3))) Fail("it is there");
+}
+
+/// What was printed since the last time that this was asked.
+void Runner::ExpectPrinted(const Line& line) {
+  Compare(Joined(line.block), Joined(std::exchange(printer_.record, {})));
 }
 
 void Runner::ExpectFolder(const Line& line) {

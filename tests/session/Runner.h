@@ -43,6 +43,7 @@ class Runner {
   void Remove(const Line& line);
   void Ini(const Line& line);
   void DiskRoom(const Line& line);
+  void SetPrinter(const Line& line);
   // The process.
   void Start(const Line& line);
   void Close(const Line& line);
@@ -71,6 +72,7 @@ class Runner {
   void ExpectFile(const Line& line);
   void ExpectBytes(const Line& line);
   void ExpectSame(const Line& line);
+  void ExpectPrinted(const Line& line);
   void ExpectNo(const Line& line);
   void ExpectFolder(const Line& line);
   void ExpectIni(const Line& line);
@@ -92,6 +94,8 @@ class Runner {
   MemoryFiles files_;
   ScriptedDialogs dialogs_;
   ScriptedInstance instance_;
+  ScriptedPrinter printer_;
+  FixedCalendar calendar_;
   std::unique_ptr<Platform> platform_;
   std::unique_ptr<Application> application_;
   std::unique_ptr<Driver> driver_;

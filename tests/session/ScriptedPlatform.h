@@ -6,6 +6,7 @@
 
 #include "platform/Platform.h"
 #include "support/MemoryFiles.h"
+#include "support/ScriptedPrinter.h"
 
 namespace tarvik::session {
 
