@@ -10,6 +10,7 @@
 #include "app/Mum.h"
 #include "app/PaneInput.h"
 #include "language/ColouredInsertion.h"
+#include "output/PrintRTFWordWrap.h"
 
 namespace tarvik {
 
@@ -72,6 +73,10 @@ class Editor : public Form {
   void mnuFileSave_Click() { files_.Save(desk_.Active()); }
   void mnuFileSaveAs_Click() { files_.SaveAs(desk_.Active()); }
   void mnuFileSaveBoth_Click() { files_.SaveBoth(); }
+  void mnuFilePrintJoystick_Click() { PrintDocument(desk_, Joystick); }
+  void mnuFilePrintMacro_Click() { PrintDocument(desk_, Macro); }
+  void mnuFilePrinterSetup_Click() { SetUpPrinter(desk_); }
+  void mnuRHMPrint_Click() { PrintDocument(desk_, desk_.Active()); }
   void mnuJoyPopUpSingleFile_Click() { mnuJoyPopUpSingleFile.Checked = !mnuJoyPopUpSingleFile.Checked; }
   void mnuFileExit_Click() { application_.CloseMum(); }
   void mnuPreferencesProtectMacroFile_Click();

@@ -24,6 +24,7 @@ inline constexpr int kFileNotFound = 53;
 inline constexpr int kPathAccess = 75;
 inline constexpr int kDiskFull = 61;
 inline constexpr int kFileTooStrange = 321;
+inline constexpr int kPrinter = 482;
 inline constexpr int kUnexpected = 51;
 inline constexpr int kDialogCancelled = 32755;
 }  // namespace error

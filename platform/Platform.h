@@ -7,6 +7,7 @@
 
 #include "platform/Files.h"
 #include "platform/Outcome.h"
+#include "platform/Printer.h"
 
 namespace tarvik {
 
@@ -100,6 +101,7 @@ struct Platform {
   Clipboard& clipboard;
   Help& help;
   Calendar& calendar;
+  Printer& printer;
   ScreenSize screen;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string

@@ -14,6 +14,7 @@
 #include "screen/Icons.h"
 #include "screen/QtDesktop.h"
 #include "screen/QtDialogs.h"
+#include "screen/QtPrinter.h"
 #include "screen/Screen.h"
 
 namespace {
@@ -79,6 +80,7 @@ int main(int argc, char* argv[]) {
   InstanceLock lock(home / "tarvik.lock");
   screen::QtClipboard clipboard;
   screen::QtHelp help(files);
+  screen::QtPrinter printer;
   screen::QtCalendar calendar;
   Platform platform{files,
                     dialogs,
@@ -86,6 +88,7 @@ int main(int argc, char* argv[]) {
                     clipboard,
                     help,
                     calendar,
+                    printer,
                     SizeOfScreen(),
                     drives.FromHost(home),
                     CommandLine(QApplication::arguments().mid(1), drives)};

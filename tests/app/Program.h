@@ -9,18 +9,21 @@ namespace tarvik {
 
 class Program {
  public:
-  Program() : platform_(outside.Process(files_)), application(platform_) {
+  explicit Program(Printer* printer = nullptr)
+      : platform_(outside.Process(files_, outside.instance, printer ? *printer : outside.printer)),
+        application(platform_) {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
   }
+
+  session::ScriptedPlatform outside;
 
  private:
   MemoryFiles files_;
   Platform platform_;
 
  public:
-  session::ScriptedPlatform outside;
   Application application;
   [[nodiscard]] Editor& editor() const { return *application.editor(); }
 };

@@ -106,6 +106,7 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
       {"remove", &Runner::Remove},
       {"ini", &Runner::Ini},
       {"room", &Runner::DiskRoom},
+      {"printer", &Runner::SetPrinter},
       {"start", &Runner::Start},
       {"close", &Runner::Close},
       {"killed", &Runner::Killed},
@@ -131,15 +132,16 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
 
 const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
   static const std::map<std::string_view, Command> expectations = {
-      {"value", &Runner::ExpectValue},   {"box", &Runner::ExpectBox},
-      {"dialog", &Runner::ExpectDialog}, {"file", &Runner::ExpectFile},
-      {"bytes", &Runner::ExpectBytes},   {"no", &Runner::ExpectNo},
-      {"folder", &Runner::ExpectFolder}, {"ini", &Runner::ExpectIni},
-      {"colour", &Runner::ExpectColour}, {"colours", &Runner::ExpectColours},
-      {"ended", &Runner::ExpectEnded},   {"running", &Runner::ExpectRunning},
-      {"same", &Runner::ExpectSame},     {"clipboard", &Runner::ExpectClipboard},
-      {"help", &Runner::ExpectHelp},     {"popup", &Runner::ExpectPopUp},
-      {"focus", &Runner::ExpectFocus},   {"form", &Runner::ExpectForm},
+      {"value", &Runner::ExpectValue},         {"box", &Runner::ExpectBox},
+      {"dialog", &Runner::ExpectDialog},       {"file", &Runner::ExpectFile},
+      {"bytes", &Runner::ExpectBytes},         {"no", &Runner::ExpectNo},
+      {"folder", &Runner::ExpectFolder},       {"ini", &Runner::ExpectIni},
+      {"colour", &Runner::ExpectColour},       {"colours", &Runner::ExpectColours},
+      {"ended", &Runner::ExpectEnded},         {"running", &Runner::ExpectRunning},
+      {"same", &Runner::ExpectSame},           {"printed", &Runner::ExpectPrinted},
+      {"clipboard", &Runner::ExpectClipboard}, {"help", &Runner::ExpectHelp},
+      {"popup", &Runner::ExpectPopUp},         {"focus", &Runner::ExpectFocus},
+      {"form", &Runner::ExpectForm},
   };
   return expectations;
 }
@@ -250,6 +252,23 @@ void Runner::Ini(const Line& line) {
 void Runner::DiskRoom(const Line& line) {
   if (Word(line, 1) == "enough") return files_.StopFailing();
   files_.FailAfter(static_cast<std::size_t>(std::stoul(Word(line, 1))));
+}
+
+/// printer none | gone CALLS | lines COUNT | chosen NAME|cancel|fails
+void Runner::SetPrinter(const Line& line) {
+  const std::string& what = Word(line, 1);
+  const auto number = [&] { return std::stoul(Word(line, 2)); };
+  if (what == "none") {
+    outside_.printer.callsLeft = 0;
+  } else if (what == "gone") {
+    outside_.printer.callsLeft = number();
+  } else if (what == "lines") {
+    outside_.printer.linesPerPage = number();
+  } else if (what == "chosen") {
+    outside_.printer.choice = Word(line, 2);
+  } else {
+    throw Stop{"no such printer"};
+  }
 }
 
 // The process.
@@ -516,7 +535,13 @@ void Runner::ExpectNo(const Line& line) {
   if (Word(line, 2) == "file" && files_.FileExists(Word(line, 3))) Fail("it is there");
   if (line.words[2] == "dialog" && !outside_.dialogs.requests.empty()) Fail("there was one");
   if (line.words[2] == "form" && application_->FindForm(Word(line, 3))) Fail("it is loaded");
+  if (line.words[2] == "printing" && !outside_.printer.record.empty()) Fail(Joined(outside_.printer.record));
   if (line.words[2] == "list" && application_->editor()->Resolve(Word(line, 3))) Fail("it is there");
+}
+
+/// What was printed since the last time that this was asked.
+void Runner::ExpectPrinted(const Line& line) {
+  Compare(Joined(line.block), Joined(std::exchange(outside_.printer.record, {})));
 }
 
 void Runner::ExpectFolder(const Line& line) {

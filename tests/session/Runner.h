@@ -45,6 +45,7 @@ class Runner {
   void Remove(const Line& line);
   void Ini(const Line& line);
   void DiskRoom(const Line& line);
+  void SetPrinter(const Line& line);
   // The process.
   void Start(const Line& line);
   void Close(const Line& line);
@@ -79,6 +80,7 @@ class Runner {
   void ExpectPopUp(const Line& line);
   void ExpectFocus(const Line& line);
   void ExpectForm(const Line& line);
+  void ExpectPrinted(const Line& line);
   void ExpectNo(const Line& line);
   void ExpectFolder(const Line& line);
   void ExpectIni(const Line& line);

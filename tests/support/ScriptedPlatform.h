@@ -8,6 +8,7 @@
 
 #include "platform/Platform.h"
 #include "support/MemoryFiles.h"
+#include "support/ScriptedPrinter.h"
 
 namespace tarvik::session {
 
@@ -66,28 +67,23 @@ class ScriptedHelp : public Help {
   std::deque<std::string> shown;  ///< and not yet expected
 };
 
-class ScriptedCalendar : public Calendar {
- public:
-  [[nodiscard]] std::string ShortDate() const override { return "14/12/1997"; }
-  [[nodiscard]] std::string LongDate() const override { return "14 December 1997"; }
-};
-
+/// All of it. The forms of `Process` leave out what the scripted one is good for.
 struct ScriptedPlatform {
   ScriptedDialogs dialogs;
   ScriptedInstance instance;
   ScriptedClipboard clipboard;
   ScriptedHelp help;
-  ScriptedCalendar calendar;
+  FixedCalendar calendar;
+  ScriptedPrinter printer;
 
   /// A process on this disk, beside any other.
   [[nodiscard]] Platform Process(Files& files, std::string commandLine = "") {
-    return Process(files, instance, std::move(commandLine));
+    return Process(files, instance, printer, std::move(commandLine));
   }
-  /// The same, with a lock that is real.
-  [[nodiscard]] Platform Process(Files& files, SingleInstance& lock, std::string commandLine = "") {
-    return {files,          dialogs,      lock,
-            clipboard,      help,         calendar,
-            {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
+  [[nodiscard]] Platform Process(Files& files, SingleInstance& lock, Printer& paper,
+                                 std::string commandLine = "") {
+    return {files,    dialogs, lock,           clipboard,    help,
+            calendar, paper,   {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
   }
 };
 

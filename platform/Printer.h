@@ -1,0 +1,64 @@
+// The printer as whatever prints sees it: lines of a header, and formatted text that is rendered page by
+// page.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/Outcome.h"
+
+namespace tarvik {
+
+/// The sheet, and how far its printable area lies from its left and upper edge; all in twips (1440 an inch).
+struct Paper {
+  int width = 0;
+  int height = 0;
+  int offsetX = 0;
+  int offsetY = 0;
+};
+
+/// A rectangle on the sheet in twips, from the corner of the printable area.
+struct PrintArea {
+  int left = 0;
+  int top = 0;
+  int right = 0;
+  int bottom = 0;
+};
+
+/// Text in the code page with its look, one font for all of it. Refers to the characters.
+struct FormattedText {
+  /// Up to the start of the next run; blue in the third byte, green in the second, red lowest.
+  struct Run {
+    std::size_t start;
+    std::uint32_t colour;
+  };
+
+  std::string_view text;
+  std::vector<Run> colours;
+  std::string font;
+  float size = 0;  ///< in points
+  bool bold = false;
+  int indent = 0;  ///< from the left of the area, in twips
+};
+
+class Printer {
+ public:
+  virtual ~Printer() = default;
+  /// Lets the user choose the printer and its paper, for all that is printed from now on. Failure 32755 when
+  /// the user cancels.
+  virtual Outcome<> SetUp() = 0;
+  /// A line below the last one, from the corner of the printable area down. The first one starts a document.
+  virtual Outcome<> Print(const std::string& line, bool bold) = 0;
+  virtual Outcome<Paper> Sheet() = 0;
+  /// Renders the characters from `from` on, as many as the area takes, in lines that are wrapped at its
+  /// right. The first character that is not printed yet; the length of the text when all of it is.
+  virtual Outcome<std::size_t> FormatRange(const FormattedText& text, std::size_t from,
+                                           const PrintArea& area) = 0;
+  virtual Outcome<> NewPage() = 0;
+  virtual Outcome<> EndDocument() = 0;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,36 @@
+// The printer that the user has, or a PDF file in its place: pages painted as the panes are. The program and
+// the tests on real pages use it.
+#pragma once
+
+#include <QPainter>
+#include <QPrinter>
+#include <optional>
+
+#include "platform/Printer.h"
+
+namespace tarvik::screen {
+
+class QtPrinter : public Printer {
+ public:
+  Outcome<> SetUp() override;
+  Outcome<> Print(const std::string& line, bool bold) override;
+  Outcome<Paper> Sheet() override;
+  Outcome<std::size_t> FormatRange(const FormattedText& text, std::size_t from,
+                                   const PrintArea& area) override;
+  Outcome<> NewPage() override;
+  Outcome<> EndDocument() override;
+
+ private:
+  /// The default printer until another one is set up. It is asked for as late as possible, which takes time.
+  QPrinter& Device();
+  Outcome<> Begin();
+  /// Whether a document is under way and the printer still takes it.
+  [[nodiscard]] bool Works() const;
+
+  std::optional<QPrinter> device_;
+  QPainter painter_;  // in twips, from the corner of the printable area
+  qreal lineTop_ = 0;
+  QString file_;  // the first one written since the last set-up
+};
+
+}  // namespace tarvik::screen

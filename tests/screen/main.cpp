@@ -1,0 +1,11 @@
+// The tests of what the toolkit shows, with no display.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+int main(int count, char** arguments) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  testing::InitGoogleTest(&count, arguments);
+  const QApplication toolkit(count, arguments);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,43 @@
+// A printer on which a page takes a number of lines, and a calendar that stands still. Sessions and tests
+// read what was printed.
+#pragma once
+
+#include <limits>
+
+#include "platform/Platform.h"
+
+namespace tarvik {
+
+/// A sheet of 8.5 by 11 inches, of which a strip of 360 twips on the left and 240 above can't be printed on.
+class ScriptedPrinter : public Printer {
+ public:
+  Outcome<> SetUp() override;
+  Outcome<> Print(const std::string& line, bool bold) override;
+  Outcome<Paper> Sheet() override;
+  /// Lines are those of the text, whatever their length.
+  Outcome<std::size_t> FormatRange(const FormattedText& text, std::size_t from,
+                                   const PrintArea& area) override;
+  Outcome<> NewPage() override;
+  Outcome<> EndDocument() override;
+
+  std::size_t linesPerPage = 60;
+  std::size_t callsLeft = std::numeric_limits<std::size_t>::max();  ///< before the printer goes away
+  std::string choice = "cancel";    ///< in the set-up dialog: a printer, "cancel", or "fails"
+  std::vector<std::string> record;  ///< a line for each call, and the rendered lines
+
+ private:
+  Outcome<> Call();
+  void StartPage(int number);
+
+  std::string chosen_;
+  int page_ = 0;  // 0 while no document is under way
+};
+
+/// Sunday the 14th of December 1997.
+class FixedCalendar : public Calendar {
+ public:
+  [[nodiscard]] std::string ShortDate() const override { return "14/12/97"; }
+  [[nodiscard]] std::string LongDate() const override { return "14 December 1997"; }
+};
+
+}  // namespace tarvik
