@@ -126,6 +126,7 @@ QWidget* FormLayout::Show(Pane& pane) const {
 
 QWidget* FormLayout::Show(TabPages& pages, std::initializer_list<QLayout*> layouts) const {
   auto* const tabs = new QTabWidget;
+  tabs->setAccessibleName(QStringLiteral("Pages"));
   auto caption = pages.Captions().begin();
   for (QLayout* const layout : layouts) {
     auto* const page = new QWidget;
@@ -139,6 +140,13 @@ QWidget* FormLayout::Show(TabPages& pages, std::initializer_list<QLayout*> layou
 QLayout* Column(std::initializer_list<Piece> pieces) { return Fill(new QVBoxLayout, pieces); }
 QLayout* Row(std::initializer_list<Piece> pieces) { return Fill(new QHBoxLayout, pieces); }
 
+QWidget* Named(QWidget* control, const QString& name) {
+  control->setAccessibleName(name);
+  const auto* const combo = qobject_cast<QComboBox*>(control);
+  if (combo && combo->lineEdit()) combo->lineEdit()->setAccessibleName(name);
+  return control;
+}
+
 QLayout* Fields(std::initializer_list<Field> fields) {
   auto* const layout = new QFormLayout;
   layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -146,7 +154,7 @@ QLayout* Fields(std::initializer_list<Field> fields) {
     layout->addRow(QString::fromUtf8(field.label), field.control);
     QString name = QString::fromUtf8(field.label);
     if (name.endsWith(u':')) name.chop(1);
-    field.control->setAccessibleName(name);
+    Named(field.control, name);
   }
   return layout;
 }

@@ -35,6 +35,9 @@ class FormLayout {
 [[nodiscard]] QLayout* Column(std::initializer_list<Piece> pieces);
 [[nodiscard]] QLayout* Row(std::initializer_list<Piece> pieces);
 
+/// The control, which is to be read out under the name.
+QWidget* Named(QWidget* control, const QString& name);
+
 /// A label with the control that it names; its mnemonic leads there.
 struct Field {
   const char* label;

@@ -114,6 +114,7 @@ void MumWindow::ShowChild(QWidget& view, const std::vector<std::unique_ptr<QMenu
   menuBar()->setCornerWidget(closeChild_);
   closeChild_->show();
   child_ = area_->addSubWindow(&view, Qt::FramelessWindowHint);
+  child_->setWindowTitle(view.objectName());  // for those who have the screen read out
   child_->showMaximized();
 }
 

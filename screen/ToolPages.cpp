@@ -35,8 +35,7 @@ QLayout* Page(FindAndReplace& form, const FormLayout& in) {
 }
 
 QLayout* Page(Title& form, const FormLayout& in) {
-  QWidget* const comments = in.Show(form.RichTextBox1);
-  comments->setAccessibleName(QStringLiteral("Comments"));
+  QWidget* const comments = Named(in.Show(form.RichTextBox1), QStringLiteral("Comments"));
   comments->setMinimumSize(440, 120);
   return Column({Fields({{"File name", in.Show(form.Text1)},
                          {"The game it's for", in.Show(form.Text2)},
@@ -49,16 +48,14 @@ QLayout* Page(Title& form, const FormLayout& in) {
 
 QLayout* Page(Heading& form, const FormLayout& in) {
   auto* const label = new QLabel(QStringLiteral("Select a heading or type a new one"));
-  QWidget* const combo = in.Show(form.Combo1);
-  combo->setAccessibleName(label->text());
+  QWidget* const combo = Named(in.Show(form.Combo1), label->text());
   label->setBuddy(combo);
   return Column(
       {label, combo, Stretch(), Row({Stretch(), in.Show(form.Command1(0)), in.Show(form.Command1(1))})});
 }
 
 QLayout* Page(SingleTextForm& form, const FormLayout& in) {
-  QWidget* const text = in.Show(form.RichTextBox1);
-  text->setAccessibleName(QStringLiteral("Text"));
+  QWidget* const text = Named(in.Show(form.RichTextBox1), QStringLiteral("Text"));
   text->setMinimumWidth(360);
   return Column({text, in.Show(form.CheckAddCR),
                  new QLabel(QStringLiteral("Note: This is ignored by Pimlet")), Stretch(),

@@ -1,10 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 #include "app/EditorTables.h"
 #include "app/Program.h"
+#include "platform/CodePage.h"
 
 namespace tarvik {
 namespace {
@@ -50,6 +52,23 @@ TEST(EditorTables, NoShortcutIsGivenTwice) {
     EXPECT_TRUE(seen.insert(shortcut).second) << shortcut << " of " << FullName(row);
     EXPECT_THAT(shortcut, testing::MatchesRegex("Ctrl\\+[A-Z]|F[0-9]+"));
   }
+}
+
+TEST(EditorTables, NoMnemonicIsGivenTwiceInAMenu) {
+  std::map<std::string, std::string> taken;  // by the menu and the letter
+  const auto check = [&taken](const auto& table, bool bar) {
+    for (const Row& row : table) {
+      const std::string caption = row.caption;
+      const std::size_t mark = caption.find('&');
+      if (mark == std::string::npos || (row.level == 0 && !bar)) continue;
+      const std::vector<const Row*> way = WayTo(table, row);
+      const std::string menu = way.size() < 2 ? "the menu bar" : way[way.size() - 2]->name;
+      const auto [at, isNew] = taken.emplace(menu + ToUpper(caption[mark + 1]), caption);
+      EXPECT_TRUE(isNew) << menu << ": " << at->second << " and " << caption;
+    }
+  };
+  check(tables::kMenus, true);
+  check(tables::kPopUps, false);
 }
 
 TEST(EditorTables, EveryEntryHasANameOfItsOwn) {

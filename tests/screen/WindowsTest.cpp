@@ -1,0 +1,137 @@
+// Every window of the program, as somebody meets it who works by keyboard or has the screen read out.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <map>
+
+#include "app/ColourSelector.h"
+#include "app/Editor.h"
+#include "language/FindAndReplace.h"
+#include "output/TextBlocks.h"
+#include "screen/HelpWindow.h"
+#include "screen/Screen.h"
+#include "support/ScriptedPlatform.h"
+
+namespace tarvik::screen {
+namespace {
+
+class Windows : public testing::Test {
+ protected:
+  Windows() {
+    files_.PutFolder("c:\\tarvik");
+    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.Start();
+    ShowTools<FindAndReplace, Title, Heading, SingleTextForm>();
+    help.Open(HelpFile("# One\n"));
+    help.ShowContext(0);
+    QApplication::processEvents();
+    application.mum().Picture1.Click();  // last: it closes when another window opens
+  }
+
+  static std::vector<QWidget*> Shown() {
+    std::vector<QWidget*> windows;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+      if (window->isVisible()) windows.push_back(window);
+    }
+    return windows;
+  }
+
+  template <class... Tools>
+  void ShowTools() {
+    (void(application.Tool<Tools>().Visible = true), ...);
+  }
+
+ private:
+  session::ScriptedPlatform outside_;
+  MemoryFiles files_;
+  Platform platform_ = outside_.Process(files_);
+
+ public:
+  Application application{platform_};
+  Screen screen{application, Clock::Scripted};
+  HelpWindow help;
+};
+
+std::string Described(const QAccessibleInterface& shown) {
+  const QObject* const object = shown.object();
+  return object ? std::string(object->metaObject()->className()) + " " + object->objectName().toStdString()
+                : "a part";
+}
+
+/// What takes the focus or can be pressed has to say what it is.
+void ExpectNames(QAccessibleInterface& shown) {
+  const QAccessible::State state = shown.state();
+  const bool window = shown.role() == QAccessible::Window || shown.role() == QAccessible::Dialog;
+  const bool pressed = shown.role() == QAccessible::Button || shown.role() == QAccessible::MenuItem ||
+                       shown.role() == QAccessible::PageTab;
+  if (!state.invisible && (state.focusable || pressed || window) && shown.role() != QAccessible::Separator) {
+    EXPECT_NE(shown.role(), QAccessible::NoRole) << Described(shown);
+    EXPECT_FALSE(shown.text(QAccessible::Name).isEmpty()) << Described(shown) << " role " << shown.role();
+  }
+  for (int i = 0; i < shown.childCount(); ++i) {
+    if (QAccessibleInterface* const child = shown.child(i)) ExpectNames(*child);
+  }
+}
+
+TEST_F(Windows, SayWhatEveryControlIs) {
+  ASSERT_GE(Shown().size(), 7U);
+  for (QWidget* const window : Shown()) {
+    ASSERT_TRUE(QAccessible::queryAccessibleInterface(window));
+    ExpectNames(*QAccessible::queryAccessibleInterface(window));
+  }
+}
+
+TEST_F(Windows, HaveMnemonicsThatLeadToOneControl) {
+  for (QWidget* const window : Shown()) {
+    std::map<QString, QString> taken;
+    const auto take = [&](const QString& caption) {
+      const QString key = QKeySequence::mnemonic(caption).toString();
+      if (key.isEmpty()) return;
+      EXPECT_FALSE(taken.contains(key)) << caption.toStdString() << " and " << taken[key].toStdString();
+      taken[key] = caption;
+    };
+    for (const auto* const button : window->findChildren<QAbstractButton*>()) {
+      if (button->isVisible() && button->window() == window) take(button->text());
+    }
+    for (const auto* const label : window->findChildren<QLabel*>()) {
+      if (label->isVisible() && label->window() == window && label->buddy()) take(label->text());
+    }
+    for (const auto* const tabs : window->findChildren<QTabBar*>()) {
+      if (!tabs->isVisible() || tabs->window() != window || window->inherits("QMainWindow")) continue;
+      for (int i = 0; i < tabs->count(); ++i) take(tabs->tabText(i));
+    }
+  }
+}
+
+/// Where the focus goes by the Tab key, from the first control of a window around to it again.
+std::vector<QWidget*> FocusChain(QWidget& window) {
+  std::vector<QWidget*> chain;
+  for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+    const bool stop = next->isVisible() && next->isEnabled() && next->window() == &window &&
+                      (next->focusPolicy() & Qt::TabFocus) && !next->focusProxy();
+    if (stop) chain.push_back(next);
+  }
+  return chain;
+}
+
+TEST_F(Windows, TakeTheFocusFromTopToBottom) {
+  for (QWidget* const window : Shown()) {
+    if (!qobject_cast<QDialog*>(window)) continue;
+    int above = 0;
+    for (const QWidget* const stop : FocusChain(*window)) {
+      const int bottom = stop->mapTo(window, QPoint(0, stop->height())).y();
+      EXPECT_GT(bottom, above) << window->windowTitle().toStdString() << ": "
+                               << stop->objectName().toStdString();
+      above = stop->mapTo(window, QPoint(0, 0)).y();
+    }
+    EXPECT_GE(FocusChain(*window).size(), 3U);
+  }
+}
+
+}  // namespace
+}  // namespace tarvik::screen
