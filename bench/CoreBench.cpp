@@ -138,7 +138,7 @@ void BenchColouring() {
     const std::string folded = LowerCase(text);
     const SearchableText searchable{text, folded};
     const auto own = [&] {
-      Painting painting(searchable, JoystickPasses());
+      Painting painting(text, JoystickPasses());
       painting.Run();
       sink = sink + painting.Colours(kClassColours).runs().size();
     };
@@ -228,8 +228,7 @@ void BenchUndo() {
   Bench bench;
   bench.pane.SetContent(RichText(text));
   bench.pane.Recolour(0, [&] {
-    const std::string folded = LowerCase(text);
-    Painting painting({text, folded}, JoystickPasses());
+    Painting painting(text, JoystickPasses());
     painting.Run();
     return painting.Colours(kClassColours);
   }());
@@ -261,8 +260,7 @@ void BenchRtf() {
   Growth reading;
   for (const Size& size : kSizes) {
     const std::string text = JoystickFile(size.bytes);
-    const std::string folded = LowerCase(text);
-    Painting painting({text, folded}, JoystickPasses());
+    Painting painting(text, JoystickPasses());
     painting.Run();
     const RichText content(text, painting.Colours(kClassColours));
     const std::string rtf = WriteRtf(content);
