@@ -74,7 +74,7 @@ KeywordHits::KeywordHits(std::string_view text, std::span<const Pass> passes)
 void KeywordHits::Add(std::uint64_t passes, std::size_t hit) {
   for (; passes != 0; passes &= passes - 1) {
     const auto pass = static_cast<std::size_t>(std::countr_zero(passes));
-    if (RestIsThere(passes_[pass], text_, hit)) hits_[pass].push_back(hit);
+    if (RestIsThere(passes_[pass], text_, hit)) hits_[pass].push_back(static_cast<std::uint32_t>(hit));
   }
 }
 

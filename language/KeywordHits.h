@@ -11,19 +11,19 @@ namespace tarvik {
 
 class KeywordHits {
  public:
-  /// For at most 64 passes.
+  /// For at most 64 passes, and a text below 4 GB.
   KeywordHits(std::string_view text, std::span<const Pass> passes);
 
   /// The positions of all hits of a pass's text under its options, in order; of a FollowedWord, those before
   /// its follow character. Hits may overlap.
-  [[nodiscard]] std::span<const std::size_t> Of(std::size_t pass) const { return hits_[pass]; }
+  [[nodiscard]] std::span<const std::uint32_t> Of(std::size_t pass) const { return hits_[pass]; }
 
  private:
   void Add(std::uint64_t passes, std::size_t hit);
 
   std::string_view text_;
   std::span<const Pass> passes_;
-  std::vector<std::vector<std::size_t>> hits_;
+  std::vector<std::vector<std::uint32_t>> hits_;
 };
 
 }  // namespace tarvik
