@@ -32,36 +32,37 @@ constexpr Colour kClassColours[kColourClasses] = {0, 16711680, 255, 32768, 12615
 
 volatile std::size_t sink = 0;  // keeps results from being optimised away
 
-/// The growth of an operation from 1 MB to 10 MB, which is to stay in a straight line.
-class Growth {
- public:
-  void Add(const Size& size, Seconds own) {
-    if (size.bytes == 1'000'000) atOne_ = own;
-    if (size.bytes == 10'000'000) atTen_ = own;
-  }
-  void Tell(const char* what) const {
-    Report(std::string(what) + ", 10 MB to 1 MB", {atTen_, atOne_}, Goal::AtMost, 13);
-  }
+/// The growth of an operation from 1 MB to 10 MB, which is to stay in a straight line. `operation` makes it
+/// for a size.
+template <class Operation>
+void ReportGrowth(const char* what, const Operation& operation) {
+  Report(std::string(what) + ", 10 MB to 1 MB", Measure(operation(10'000'000), operation(1'000'000)),
+         Goal::AtMost, 13);
+}
 
- private:
-  Seconds atOne_ = 1;
-  Seconds atTen_ = 1;
-};
+ColourRuns ColoursOf(const std::string& text) {
+  Painting painting(text, JoystickPasses());
+  painting.Run();
+  return painting.Colours(kClassColours);
+}
+
+RichText ColouredFile(std::size_t bytes) {
+  const std::string text = JoystickFile(bytes);
+  return {text, ColoursOf(text)};
+}
 
 // Find.
 
 void BenchFind() {
-  Growth growth;
+  const std::string needle = "No_Such_Macro";
   for (const Size& size : kSizes) {
     const std::string text = JoystickFile(size.bytes);
     const std::string folded = LowerCase(text);
     const SearchableText searchable{text, folded};
-    const std::string needle = "No_Such_Macro";
     const auto own = [&] { sink = sink + FindText(searchable, needle, 0, text.size(), 0).value_or(0); };
     const auto libc = [&] { sink = sink + (strcasestr(text.c_str(), needle.c_str()) != nullptr); };
-    const Medians beside = Measure(own, libc);
-    Report(std::string("find, no hit, beside strcasestr, ") + size.name, beside, Goal::AtLeast, 8);
-    growth.Add(size, beside.own);
+    Report(std::string("find, no hit, beside strcasestr, ") + size.name, Measure(own, libc), Goal::AtLeast,
+           8);
 
     if (size.bytes <= kPeerLimit) {
       QTextDocument document;
@@ -76,19 +77,17 @@ void BenchFind() {
     Report(std::string("find whole word, beside plain, ") + size.name, Measure(word, own), Goal::AtMost,
            1.15);
   }
-  growth.Tell("find");
-
-  const auto worst = [](std::size_t bytes) {
-    const std::string text(bytes, 'a');
-    const std::string needle = std::string(200, 'a') + "b";
-    return Measure(
-               [&] {
-                 sink = sink + FindText({text, text}, needle, 0, text.size(), 0).value_or(0);
-               },
-               [] {}, 5)
-        .own;
+  const auto searching = [](std::string text, const std::string& wanted) {
+    return [text = std::move(text), wanted] {
+      sink = sink + FindText({text, text}, wanted, 0, text.size(), 0).value_or(0);
+    };
   };
-  Report("find \"aaaa...b\", 10 MB to 1 MB", {worst(10'000'000), worst(1'000'000)}, Goal::AtMost, 13);
+  ReportGrowth("find", [&](std::size_t bytes) {
+    return searching(LowerCase(JoystickFile(bytes)), LowerCase(needle));
+  });
+  ReportGrowth("find \"aaaa...b\"", [&](std::size_t bytes) {
+    return searching(std::string(bytes, 'a'), std::string(200, 'a') + "b");
+  });
 }
 
 // Colouring.
@@ -132,16 +131,11 @@ class PeerHighlighter : public QSyntaxHighlighter {
 };
 
 void BenchColouring() {
-  Growth growth;
   for (const Size& size : kSizes) {
     const std::string text = JoystickFile(size.bytes);
     const std::string folded = LowerCase(text);
     const SearchableText searchable{text, folded};
-    const auto own = [&] {
-      Painting painting(searchable, JoystickPasses());
-      painting.Run();
-      sink = sink + painting.Colours(kClassColours).runs().size();
-    };
+    const auto own = [&] { sink = sink + ColoursOf(text).size(); };
     // Searches of each pass's own over the whole text, with no more done at a hit than to paint its word.
     const auto passes = [&] {
       std::vector<ColourClass> classes(text.size(), ColourClass::Black);
@@ -154,9 +148,8 @@ void BenchColouring() {
       }
       sink = sink + classes.size();
     };
-    const Medians beside = Measure(own, passes);
-    Report(std::string("colouring, beside passes with the own find, ") + size.name, beside, Goal::AtLeast, 2);
-    growth.Add(size, beside.own);
+    Report(std::string("colouring, beside passes with the own find, ") + size.name, Measure(own, passes),
+           Goal::AtLeast, 2);
     if (size.bytes > kPeerLimit) continue;
     QTextDocument document;
     document.setPlainText(QString::fromLatin1(text));
@@ -166,7 +159,9 @@ void BenchColouring() {
                own, [&] { highlighter.rehighlight(); }, 3),
            Goal::AtLeast, 50);
   }
-  growth.Tell("colouring");
+  ReportGrowth("colouring", [](std::size_t bytes) {
+    return [text = JoystickFile(bytes)] { sink = sink + ColoursOf(text).size(); };
+  });
 }
 
 // Macros.
@@ -227,12 +222,7 @@ void BenchUndo() {
   const std::string text = JoystickFile(1'000'000);
   Bench bench;
   bench.pane.SetContent(RichText(text));
-  bench.pane.Recolour(0, [&] {
-    const std::string folded = LowerCase(text);
-    Painting painting({text, folded}, JoystickPasses());
-    painting.Run();
-    return painting.Colours(kClassColours);
-  }());
+  bench.pane.Recolour(0, ColoursOf(text));
   bench.history.Clear();
   bench.pane.SelStart = text.size() / 2;
   // The edit itself, without a history and with one: what is left is the cost of recording.
@@ -257,49 +247,37 @@ void BenchUndo() {
 // RTF.
 
 void BenchRtf() {
-  Growth writing;
-  Growth reading;
   for (const Size& size : kSizes) {
-    const std::string text = JoystickFile(size.bytes);
-    const std::string folded = LowerCase(text);
-    Painting painting({text, folded}, JoystickPasses());
-    painting.Run();
-    const RichText content(text, painting.Colours(kClassColours));
+    if (size.bytes > kPeerLimit) continue;
+    const RichText content = ColouredFile(size.bytes);
     const std::string rtf = WriteRtf(content);
     const auto write = [&] { sink = sink + WriteRtf(content).size(); };
     const auto read = [&] { sink = sink + ReadRtf(rtf).size(); };
-    if (size.bytes > kPeerLimit) {
-      writing.Add(size, Measure(
-                            write, [] {}, 3)
-                            .own);
-      reading.Add(size, Measure(
-                            read, [] {}, 3)
-                            .own);
-      continue;
-    }
     QTextDocument document;
     QTextCursor cursor(&document);
     for (std::size_t i = 0; i < content.colours.runs().size(); ++i) {
       const ColourRuns::Run& run = content.colours.runs()[i];
       QTextCharFormat format;
       format.setForeground(QColor::fromRgb(run.colour));
-      std::string part = text.substr(run.start, content.colours.EndOf(i) - run.start);
+      std::string part = content.text.substr(run.start, content.colours.EndOf(i) - run.start);
       std::erase(part, '\r');
       cursor.insertText(QString::fromLatin1(part), format);
     }
     const QString html = document.toHtml();
-    const Medians written = Measure(
-        write, [&] { sink = sink + static_cast<std::size_t>(document.toHtml().size()); }, 5);
-    Report(std::string("writing RTF, beside toHtml, ") + size.name, written, Goal::AtLeast, 40);
-    writing.Add(size, written.own);
+    const auto toHtml = [&] { sink = sink + static_cast<std::size_t>(document.toHtml().size()); };
+    Report(std::string("writing RTF, beside toHtml, ") + size.name, Measure(write, toHtml, 5), Goal::AtLeast,
+           40);
     QTextDocument target;
-    const Medians readings = Measure(
-        read, [&] { target.setHtml(html); }, 5);
-    Report(std::string("reading RTF, beside setHtml, ") + size.name, readings, Goal::AtLeast, 100);
-    reading.Add(size, readings.own);
+    const auto setHtml = [&] { target.setHtml(html); };
+    Report(std::string("reading RTF, beside setHtml, ") + size.name, Measure(read, setHtml, 5), Goal::AtLeast,
+           100);
   }
-  writing.Tell("writing RTF");
-  reading.Tell("reading RTF");
+  ReportGrowth("writing RTF", [](std::size_t bytes) {
+    return [content = ColouredFile(bytes)] { sink = sink + WriteRtf(content).size(); };
+  });
+  ReportGrowth("reading RTF", [](std::size_t bytes) {
+    return [rtf = WriteRtf(ColouredFile(bytes))] { sink = sink + ReadRtf(rtf).size(); };
+  });
 }
 
 }  // namespace

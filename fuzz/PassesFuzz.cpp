@@ -3,16 +3,14 @@
 #include <cstdlib>
 
 #include "language/Painting.h"
-#include "platform/CodePage.h"
 #include "support/LiteralPasses.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   using namespace tarvik;
   constexpr std::array<Colour, kColourClasses> kNumbers = {0, 1, 2, 3, 4, 5};
   const std::string text = WithPaneLineBreaks({reinterpret_cast<const char*>(data), size});
-  const std::string folded = LowerCase(text);
   for (const auto passes : {JoystickPasses(), MacroPasses()}) {
-    Painting painting({text, folded}, passes);
+    Painting painting(text, passes);
     painting.Run();
     if (painting.Colours(kNumbers) != LiteralPasses().Paint(text, passes)) std::abort();
   }

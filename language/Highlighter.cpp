@@ -71,7 +71,7 @@ void Highlighter::MakePasses(Document& document) {
         }
       },
   };
-  Painting painting(document.text.Searchable(), document.IsJoystick() ? JoystickPasses() : MacroPasses());
+  Painting painting(document.text.Characters(), document.IsJoystick() ? JoystickPasses() : MacroPasses());
   painting.Run(progress);
   document.text.Recolour(0, painting.Colours(ColoursOf(desk_.settings)));
 }

@@ -1,83 +1,80 @@
 #include "language/KeywordHits.h"
 
-#include <algorithm>
 #include <array>
+#include <bit>
 
 #include "platform/CodePage.h"
 
 namespace tarvik {
 namespace {
 
-/// The first two characters of a text as a number below kPairs, the same for few pairs of letters only.
-/// Behind the end of the text stands a NUL.
-constexpr std::size_t kPairs = 0x1000;
-std::size_t Pair(std::size_t first, std::size_t second) { return (first << 5 ^ second) % kPairs; }
-std::size_t PairAt(std::string_view text, std::size_t at) {
-  const std::size_t second = at + 1 < text.size() ? static_cast<unsigned char>(text[at + 1]) : 0;
-  return Pair(static_cast<unsigned char>(text[at]), second);
-}
+using PassSet = std::uint64_t;  // a bit for each pass of a table
 
-/// Which keywords can begin with which pair of characters.
-class PairTable {
- public:
-  struct Group {
-    std::vector<std::size_t> keywords;
-    bool insideWords = false;  ///< one of them may begin inside a word
-  };
+/// For one character, the passes whose keywords may have it as their first, second and third one.
+constexpr std::size_t kPlaces = 3;
+using Wanted = std::array<PassSet, kPlaces>;
 
-  PairTable(const std::vector<std::string>& keywords, std::span<const Pass> passes) : groups_(1) {
-    for (std::size_t i = 0; i < keywords.size(); ++i) {
-      if (keywords[i].size() > 1) {
-        AddTo(PairAt(keywords[i], 0), i);
+/// The character at a position; behind the text stands a NUL, which is part of no word and no keyword.
+char At(std::string_view text, std::size_t at) { return at < text.size() ? text[at] : '\0'; }
+
+bool MatchesCase(const Pass& pass) { return (pass.options & find::kMatchCase) != 0; }
+
+std::array<Wanted, 256> WantedBy(std::span<const Pass> passes) {
+  std::array<Wanted, 256> wanted{};
+  for (std::size_t place = 0; place < kPlaces; ++place) {
+    PassSet any = 0;  // those whose keywords have ended before
+    for (std::size_t i = 0; i < passes.size(); ++i) {
+      const PassSet bit = PassSet{1} << i;
+      if (place >= passes[i].text.size()) {
+        any |= bit;
         continue;
       }
-      const std::size_t first = static_cast<unsigned char>(keywords[i][0]);
-      for (std::size_t second = 0; second < 0x100; ++second) AddTo(Pair(first, second), i);
+      const char own = passes[i].text[place];
+      const bool matchCase = MatchesCase(passes[i]);
+      wanted[codepage::Byte(matchCase ? own : ToLower(own))][place] |= bit;
+      wanted[codepage::Byte(matchCase ? own : ToUpper(own))][place] |= bit;
     }
-    for (Group& group : groups_) {
-      group.insideWords = std::any_of(
-          group.keywords.begin(), group.keywords.end(),
-          [passes](std::size_t keyword) { return !(passes[keyword].options & find::kWholeWord); });
-    }
+    for (Wanted& character : wanted) character[place] |= any;
   }
+  return wanted;
+}
 
-  /// What to look at, null for nearly every pair.
-  [[nodiscard]] const Group* At(std::size_t pair) const {
-    return group_[pair] ? &groups_[group_[pair]] : nullptr;
+/// Whether a keyword whose first places are there is a hit.
+bool RestIsThere(const Pass& pass, std::string_view text, std::size_t hit) {
+  for (std::size_t i = kPlaces; i < pass.text.size(); ++i) {
+    const char found = At(text, hit + i);
+    if (found != pass.text[i] && (MatchesCase(pass) || ToLower(found) != ToLower(pass.text[i]))) return false;
   }
-
- private:
-  void AddTo(std::size_t pair, std::size_t keyword) {
-    if (group_[pair] == 0) {
-      group_[pair] = static_cast<unsigned short>(groups_.size());
-      groups_.emplace_back();
-    }
-    groups_[group_[pair]].keywords.push_back(keyword);
-  }
-
-  std::array<unsigned short, kPairs> group_{};
-  std::vector<Group> groups_;  // the first stands for no keyword
-};
-
-bool IsHit(const SearchableText& in, const Pass& pass, std::string_view folded, std::size_t at) {
-  if (in.folded.substr(at, folded.size()) != folded) return false;
-  if ((pass.options & find::kMatchCase) && in.text.substr(at, folded.size()) != pass.text) return false;
-  return !(pass.options & find::kWholeWord) || IsWholeWord(in.text, at, folded.size());
+  if (pass.kind == PassKind::FollowedWord && At(text, hit + pass.text.size()) != pass.follow) return false;
+  return !(pass.options & find::kWholeWord) || IsWholeWord(text, hit, pass.text.size());
 }
 
 }  // namespace
 
-KeywordHits::KeywordHits(const SearchableText& in, std::span<const Pass> passes) : hits_(passes.size()) {
-  std::vector<std::string> folded;
-  for (const Pass& pass : passes) folded.push_back(LowerCase(pass.text));
-  const PairTable table(folded, passes);
-  for (std::size_t at = 0; at < in.folded.size(); ++at) {
-    const PairTable::Group* candidates = table.At(PairAt(in.folded, at));
-    if (!candidates) continue;
-    if (!candidates->insideWords && at > 0 && IsWordCharacter(in.folded[at - 1])) continue;
-    for (const std::size_t pass : candidates->keywords) {
-      if (IsHit(in, passes[pass], folded[pass], at)) hits_[pass].push_back(at);
+KeywordHits::KeywordHits(std::string_view text, std::span<const Pass> passes)
+    : text_(text), passes_(passes), hits_(passes.size()) {
+  const std::array<Wanted, 256> wanted = WantedBy(passes);
+  // The passes that want the last character as their first one, and the last two as their first two.
+  PassSet one = 0;
+  PassSet two = 0;
+  std::size_t behind = 0;
+  // Two characters that are part of no word and no keyword show what the text ends with.
+  for (const std::string_view part : {text, std::string_view("\0\0", kPlaces - 1)}) {
+    for (const char c : part) {
+      const Wanted& here = wanted[codepage::Byte(c)];
+      const PassSet three = two & here[2];
+      two = one & here[1];
+      one = here[0];
+      ++behind;
+      if (three != 0) Add(three, behind - kPlaces);
     }
+  }
+}
+
+void KeywordHits::Add(std::uint64_t passes, std::size_t hit) {
+  for (; passes != 0; passes &= passes - 1) {
+    const auto pass = static_cast<std::size_t>(std::countr_zero(passes));
+    if (RestIsThere(passes_[pass], text_, hit)) hits_[pass].push_back(static_cast<std::uint32_t>(hit));
   }
 }
 

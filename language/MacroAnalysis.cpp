@@ -1,7 +1,9 @@
 #include "language/MacroAnalysis.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
+#include <cstdint>
 #include <utility>
 
 #include "platform/CodePage.h"
@@ -69,71 +71,66 @@ std::string TakeHeading(std::string& line) {
   return heading;
 }
 
-/// What a name is looked up by: the word that it begins with, or a first character that is part of no word.
-struct Leader {
+/// The length of what a name is looked up by: the word that it begins with, or a first character that is part
+/// of no word.
+std::size_t LeaderOf(std::string_view at) {
   std::size_t length = 0;
-  std::size_t hash = 0;
+  while (length < at.size() && IsWordCharacter(at[length])) ++length;
+  return std::max<std::size_t>(length, 1);
+}
 
-  explicit Leader(std::string_view at) {
-    for (; length < at.size() && IsWordCharacter(at[length]); ++length)
-      hash = hash * 31 + codepage::Byte(at[length]);
-    if (length == 0) hash = codepage::Byte(at[length++]);
-    hash *= 0x9E3779B97F4A7C15U;  // spreads what differs in the last characters only
-    hash ^= hash >> 32;
-  }
-};
+bool StartsWithName(std::string_view text, std::string_view name) {
+  if (text.size() < name.size()) return false;
+  if (text.size() > name.size() && IsWordCharacter(text[name.size()])) return false;
+  return std::equal(name.begin(), name.end(), text.begin(),
+                    [](char a, char b) { return a == b || ToLower(a) == ToLower(b); });
+}
 
-/// Names in lower case by their leaders: a hash table in which names of one leader form a chain.
+/// Names by their leaders: a hash table, and before it a sieve that keeps most words of a text away from it.
 class NameIndex {
  public:
   explicit NameIndex(const std::vector<std::string>& names)
-      : table_(std::bit_ceil(names.size() * 2 + 2), kNone) {
-    entries_.reserve(names.size());
-    for (const std::string& name : names) {
-      Entry& entry = entries_.emplace_back(Entry{LowerCase(name), 0, 0, kNone});
-      if (name.empty()) continue;
-      const Leader leader(entry.name);
-      entry.leaderLength = leader.length;
-      entry.leaderHash = leader.hash;
-      std::size_t& first = table_[Find(leader, entry.name)];
-      entry.next = std::exchange(first, entries_.size() - 1);
+      : names_(names), heads_(std::bit_ceil(names.size() * 2 + 1), kNone), next_(names.size(), kNone) {
+    for (std::size_t i = 0; i < names.size(); ++i) {
+      if (names[i].empty()) continue;
+      const std::size_t length = LeaderOf(names[i]);
+      Lengths(names[i]) |= Bit(length);
+      next_[i] = std::exchange(heads_[Place(names[i], length)], i);
     }
   }
 
-  /// Tells of each name that stands at the front of `text` as a whole word.
+  /// Takes out each name that stands at the front of `text` as a whole word, and tells of it.
   template <class Tell>
-  void NamesAt(std::string_view text, const Leader& leader, const Tell& tell) const {
-    for (std::size_t i = table_[Find(leader, text)]; i != kNone; i = entries_[i].next) {
-      const std::size_t length = entries_[i].name.size();
-      if (text.substr(0, length) != entries_[i].name) continue;
-      if (length == text.size() || !IsWordCharacter(text[length])) tell(i);
+  void TakeNamesAt(std::string_view text, std::size_t leader, const Tell& tell) {
+    if (!(Lengths(text) & Bit(leader))) return;
+    for (std::size_t* name = &heads_[Place(text, leader)]; *name != kNone;) {
+      if (StartsWithName(text, names_[*name])) {
+        tell(*name);
+        *name = next_[*name];
+      } else {
+        name = &next_[*name];
+      }
     }
   }
 
  private:
   static constexpr std::size_t kNone = static_cast<std::size_t>(-1);
-  struct Entry {
-    std::string name;
-    std::size_t leaderLength;
-    std::size_t leaderHash;
-    std::size_t next;  // of the same leader
-  };
 
-  /// The table's place of the leader that `text` begins with, or the free one where it belongs. There always
-  /// is one.
-  [[nodiscard]] std::size_t Find(const Leader& leader, std::string_view text) const {
-    for (std::size_t place = leader.hash;; ++place) {
-      place &= table_.size() - 1;
-      if (table_[place] == kNone) return place;
-      const Entry& entry = entries_[table_[place]];
-      if (entry.leaderHash != leader.hash || entry.leaderLength != leader.length) continue;
-      if (text.substr(0, leader.length) == std::string_view(entry.name).substr(0, leader.length))
-        return place;
-    }
+  static std::uint64_t Bit(std::size_t length) {
+    return std::uint64_t{1} << std::min<std::size_t>(length, 63);
+  }
+  std::uint64_t& Lengths(std::string_view at) { return lengths_[codepage::Byte(ToLower(at[0]))]; }
+  [[nodiscard]] std::size_t Place(std::string_view at, std::size_t leader) const {
+    std::uint64_t hash = 0;
+    for (std::size_t i = 0; i < leader; ++i) hash = std::rotl(hash, 5) ^ codepage::Byte(ToLower(at[i]));
+    hash *= 0x9E3779B97F4A7C15U;  // spreads what differs in few bits
+    return hash >> 32 & (heads_.size() - 1);
   }
 
-  std::vector<std::size_t> table_;  // the newest entry of each leader
-  std::vector<Entry> entries_;
+  const std::vector<std::string>& names_;
+  std::array<std::uint64_t, 256> lengths_{};  // of the leaders that begin with a character
+  std::vector<std::size_t> heads_;            // the last name of each place in the table
+  std::vector<std::size_t> next_;             // the one before it
 };
 
 }  // namespace
@@ -179,16 +176,14 @@ MacroAnalysis AnalyseMacros(std::vector<std::string>& records) {
 }
 
 std::vector<bool> NamesUsed(std::string_view text, const std::vector<std::string>& names) {
-  const std::string folded = LowerCase(text);
-  const std::string_view all = folded;
-  const NameIndex index(names);
+  NameIndex index(names);
   std::vector<bool> used(names.size());
   bool inWord = false;
-  for (std::size_t at = 0; at < all.size();) {
-    const Leader leader(all.substr(at));
-    if (!inWord) index.NamesAt(all.substr(at), leader, [&used](std::size_t name) { used[name] = true; });
-    inWord = IsWordCharacter(all[at]);
-    at += leader.length;
+  while (!text.empty()) {
+    const std::size_t leader = LeaderOf(text);
+    if (!inWord) index.TakeNamesAt(text, leader, [&used](std::size_t name) { used[name] = true; });
+    inWord = IsWordCharacter(text[0]);
+    text.remove_prefix(leader);
   }
   return used;
 }

@@ -31,7 +31,7 @@ struct MacroAnalysis {
 [[nodiscard]] std::string MacroNameOf(std::string_view record);
 
 /// For each name, whether it stands in `text` as a whole word, in either case. The cost grows with the text
-/// and with the names, not with their product.
+/// and with the names, not with their product, unless most names begin with the same word.
 [[nodiscard]] std::vector<bool> NamesUsed(std::string_view text, const std::vector<std::string>& names);
 
 }  // namespace tarvik

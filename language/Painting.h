@@ -19,7 +19,7 @@ struct PaintingProgress {
 /// The classes of all characters of one text, as far as the passes made so far have set them.
 class Painting {
  public:
-  Painting(SearchableText text, std::span<const Pass> passes);
+  Painting(std::string_view text, std::span<const Pass> passes);
 
   /// Makes all passes, one after another, each over the whole text.
   void Run(const PaintingProgress& progress = {});
@@ -34,15 +34,15 @@ class Painting {
   std::size_t HandlePort(const Pass& pass, std::size_t hit);
   [[nodiscard]] std::size_t Until(char stop, std::size_t from) const;
   [[nodiscard]] std::size_t EndOfLine(std::size_t from) const;
-  [[nodiscard]] std::size_t EndOfRun(std::size_t start) const;
   void Paint(std::size_t from, std::size_t to, ColourClass colour);
 
   void Make(std::size_t pass, const PaintingProgress& progress);
 
-  SearchableText text_;
+  std::string_view text_;
   std::span<const Pass> passes_;
   KeywordHits hits_;
   std::vector<ColourClass> classes_;
+  std::size_t painted_ = 0;  // how many stretches
   std::size_t reached_ = 0;  // up to here an earlier hit of the pass has painted what a later one would
 };
 

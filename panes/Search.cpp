@@ -15,7 +15,7 @@ std::size_t FindAnywhere(std::string_view text, std::string_view needle, std::si
   return hit ? static_cast<std::size_t>(static_cast<const char*>(hit) - text.data()) : std::string_view::npos;
 }
 
-constexpr std::size_t kBlock = 64;
+constexpr std::size_t kBlock = 128;
 
 /// Two characters of a needle that stand for it while a text is gone through: the rarest in files of this
 /// kind.

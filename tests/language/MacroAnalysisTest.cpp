@@ -210,6 +210,11 @@ TEST(NamesUsedTest, NamesThatBeginWithNoLetterAreFoundToo) {
   EXPECT_THAT(NamesUsed("a-x", {"-x"}), ElementsAre(false));
 }
 
+TEST(NamesUsedTest, ANameThatIsThereSeveralTimesCountsEachTime) {
+  EXPECT_THAT(NamesUsed("Gear Flaps Gear", {"Gear", "GEAR", "Gear Flaps", "gear", "Gear Up"}),
+              ElementsAre(true, true, true, true, false));
+}
+
 // The fast search for all names at once finds what a search for each of them finds.
 TEST(NamesUsedTest, ItTellsWhatASearchForEachNameTells) {
   std::mt19937 random(5);

@@ -87,7 +87,7 @@ std::string Paint(const std::string& text, std::span<const Pass> passes) {
   Form form("Form");
   Pane pane(form, "Text", files);
   pane.Text = text;
-  Painting painting(pane.Searchable(), passes);
+  Painting painting(pane.Characters(), passes);
   painting.Run();
   constexpr std::array<Colour, kColourClasses> kColours = {0, 1, 2, 3, 4, 5};
   return LettersOf(painting.Colours(kColours));
@@ -261,6 +261,7 @@ TEST(PassesTest, CommentsRunToTheEndOfTheLineAndOverrideWhatTheyHold) {
       {"Rem DEF x y\r\n", "CCCCCCCCCCC..", nullptr},
       {"~ x\r\ny", "CCC...", nullptr},
       {"a~b", ".CC", nullptr},
+      {"a~", ".C", nullptr},
       {"~\xC9\xCD\xCD\r\n~\xBA x\xBA\r\n", "CCCC..CCCCC..", nullptr},
   };
   ExpectColours(kExamples);
