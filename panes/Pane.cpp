@@ -63,6 +63,7 @@ void Pane::SetContent(RichText content) {
   PaneEdit edit{0, std::move(content_), std::move(content)};
   content_ = edit.inserted;
   isFolded_ = false;
+  known_ = {};
   selection_ = {0, 0};
   Edited(edit);
   SelectionChanged();
@@ -90,6 +91,7 @@ void Pane::ApplyEdit(const PaneEdit& edit) {
 }
 
 void Pane::Replace(Range range, const RichText& content) {
+  if (range.start < known_.position) (void)GetLineFromChar(range.start);
   PaneEdit edit{
       range.start, {content_.text.substr(range.start, range.length), content_.colours.Slice(range)}, content};
   content_.text.replace(range.start, range.length, content.text);
@@ -163,27 +165,28 @@ Replaced Pane::ReplaceAll(std::string_view needle, std::string_view with, int op
   const std::string replacement = WithPaneLineBreaks(with);
   const std::size_t end = content_.size();
   std::string text = content_.text;
-  std::string folded(Searchable().folded);
+  std::string folded(options & find::kMatchCase ? std::string_view() : Searchable().folded);
+  const SearchPattern pattern(needle, options);
   Replaced replaced;
   RichText result;
   std::size_t first = 0;  // of the first hit; `result` takes the place of what lies between it and `from`
   std::size_t from = 0;
   while (replaced.end <= end) {
     const std::size_t limit = std::min(text.size(), from + end - replaced.end);
-    const auto hit = FindText({text, folded}, needle, from, limit, options);
+    const auto hit = pattern.FindIn({text, folded}, from, limit);
     if (!hit) break;
     hitAt(*hit);
     if (replaced.count++ == 0) first = from = *hit;
     const Range between{from, *hit - from};
     result.text.append(text, between.start, between.length);
-    result.colours.Append(content_.colours.Slice(between));
+    result.colours.Append(content_.colours, between);
     result.text += replacement;
     result.colours.Append(replacement.size(), content_.colours.At(*hit));
     from = *hit + needle.size();
     replaced.end = first + result.size();
     // What stands before the next character now tells whether a word begins there.
     const char edge = first == 0 ? '\n' : text[first - 1];
-    text[from - 1] = folded[from - 1] = result.text.empty() ? edge : result.text.back();
+    text[from - 1] = result.text.empty() ? edge : result.text.back();
   }
   if (replaced.count == 0) return replaced;
   Replace({first, from - first}, result);
@@ -199,8 +202,19 @@ void Pane::Span(std::string_view set) {
 }
 
 std::size_t Pane::GetLineFromChar(std::size_t position) const {
-  const auto end = content_.text.begin() + static_cast<std::ptrdiff_t>(std::min(position, content_.size()));
-  return static_cast<std::size_t>(std::count(content_.text.begin(), end, '\n'));
+  const std::size_t at = std::min(position, content_.size());
+  const auto lineEnds = [this](std::size_t from, std::size_t to) {
+    const auto text = content_.text.begin();
+    return static_cast<std::size_t>(
+        std::count(text + static_cast<std::ptrdiff_t>(from), text + static_cast<std::ptrdiff_t>(to), '\n'));
+  };
+  if (at >= known_.position) {
+    known_.line += lineEnds(known_.position, at);
+  } else {
+    known_.line -= lineEnds(at, known_.position);
+  }
+  known_.position = at;
+  return known_.line;
 }
 
 }  // namespace tarvik

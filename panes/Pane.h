@@ -123,6 +123,10 @@ class Pane : public Control {
   std::optional<Colour> nextColour_;  // given to the empty selection, for what is inserted next
   mutable std::string folded_;        // made on the first search, and kept up from then on
   mutable bool isFolded_ = false;
+  struct {
+    std::size_t position = 0;
+    std::size_t line = 0;
+  } mutable known_;  // the last line that was asked for; the next one is mostly near it
 };
 
 }  // namespace tarvik

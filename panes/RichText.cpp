@@ -20,19 +20,19 @@ void ColourRuns::Append(std::size_t length, Colour colour) {
   size_ += length;
 }
 
-void ColourRuns::Append(const ColourRuns& colours) {
-  for (std::size_t i = 0; i < colours.runs_.size(); ++i) {
-    Append(colours.EndOf(i) - colours.runs_[i].start, colours.runs_[i].colour);
+void ColourRuns::Append(const ColourRuns& source, Range range) {
+  if (range.length == 0) return;
+  for (std::size_t i = source.RunAt(range.start); i < source.runs_.size(); ++i) {
+    const Run& run = source.runs_[i];
+    if (run.start >= range.End()) break;
+    const std::size_t from = std::max(run.start, range.start);
+    Append(std::min(source.EndOf(i), range.End()) - from, run.colour);
   }
 }
 
 ColourRuns ColourRuns::Slice(Range range) const {
   ColourRuns slice;
-  if (range.length == 0) return slice;
-  for (std::size_t i = RunAt(range.start); i < runs_.size() && runs_[i].start < range.End(); ++i) {
-    const std::size_t from = std::max(runs_[i].start, range.start);
-    slice.Append(std::min(EndOf(i), range.End()) - from, runs_[i].colour);
-  }
+  slice.Append(*this, range);
   return slice;
 }
 
@@ -42,7 +42,7 @@ void ColourRuns::Replace(Range range, const ColourRuns& colours) {
   const std::size_t first = range.start == 0 ? 0 : RunAt(range.start - 1);
   const std::size_t before = runs_.empty() ? 0 : runs_[std::min(first, runs_.size() - 1)].start;
   if (range.start > 0) middle.Append(range.start - before, runs_[first].colour);
-  middle.Append(colours);
+  middle.Append(colours, {0, colours.size()});
   std::size_t last = runs_.size();  // behind the last run that is replaced
   if (range.End() < size_) {
     const std::size_t tail = RunAt(range.End());

@@ -47,7 +47,8 @@ class ColourRuns {
   [[nodiscard]] Colour At(std::size_t position) const;
 
   void Append(std::size_t length, Colour colour);
-  void Append(const ColourRuns& colours);
+  /// Colours of another text, those of the range.
+  void Append(const ColourRuns& source, Range range);
   /// Makes room for as many runs as will be appended.
   void Reserve(std::size_t runs) { runs_.reserve(runs); }
   [[nodiscard]] ColourRuns Slice(Range range) const;

@@ -17,57 +17,18 @@ std::size_t FindAnywhere(std::string_view text, std::string_view needle, std::si
 
 constexpr std::size_t kBlock = 128;
 
-/// Two characters of a needle that stand for it while a text is gone through: the rarest in files of this
-/// kind.
-struct Marks {
-  std::size_t first = 0;
-  std::size_t second = 0;
-
-  explicit Marks(std::string_view needle) {
-    for (std::size_t i = 1; i < needle.size(); ++i) {
-      if (Rarity(needle[i]) > Rarity(needle[first])) {
-        second = std::exchange(first, i);
-      } else if (second == first || Rarity(needle[i]) > Rarity(needle[second])) {
-        second = i;
-      }
-    }
-  }
-
- private:
-  /// The higher the rarer; what is not in the list is rarest.
-  static std::size_t Rarity(char c) {
-    return std::string_view(" -ert\r\naonls_di#hmcpfubg/=wk0y1()2xv3.45~67:q9j").find(ToLower(c));
-  }
-};
-
-/// Whether a needle could begin within the block. The compiler makes a few vector instructions of it.
-bool MayBegin(const char* block, const Marks& marks, char first, char second) {
-  unsigned char any = 0;
-  for (std::size_t i = 0; i < kBlock; ++i) {
-    any |=
-        static_cast<unsigned char>((block[i + marks.first] == first) & (block[i + marks.second] == second));
-  }
-  return any != 0;
+/// The higher the rarer; what is not in the list is rarest.
+std::size_t Rarity(char c) {
+  return std::string_view(" -ert\r\naonls_di#hmcpfubg/=wk0y1()2xv3.45~67:q9j").find(ToLower(c));
 }
 
-/// A block at a time by the needle's marks; a text in which these often deceive is left to the search that no
-/// text can slow down.
-std::size_t FindPlain(std::string_view text, std::string_view needle, std::size_t start) {
-  const Marks marks(needle);
-  const char first = needle[marks.first];
-  const char second = needle[marks.second];
-  std::size_t deceived = 0;
-  std::size_t at = start;
-  for (; at + needle.size() + kBlock <= text.size(); at += kBlock) {
-    if (!MayBegin(text.data() + at, marks, first, second)) continue;
-    for (std::size_t i = at; i < at + kBlock; ++i) {
-      if (text[i + marks.first] != first || text[i + marks.second] != second) continue;
-      if (text.substr(i, needle.size()) == needle) return i;
-      ++deceived;
-    }
-    if (deceived > kBlock + (at - start) / 4) break;
+/// Whether a needle could begin within the block. The compiler makes a few vector instructions of it.
+bool MayBegin(const char* firsts, const char* seconds, char first, char second) {
+  unsigned char any = 0;
+  for (std::size_t i = 0; i < kBlock; ++i) {
+    any |= static_cast<unsigned char>((firsts[i] == first) & (seconds[i] == second));
   }
-  return FindAnywhere(text, needle, at);
+  return any != 0;
 }
 
 }  // namespace
@@ -78,21 +39,60 @@ bool IsWholeWord(std::string_view text, std::size_t hit, std::size_t length) {
   return !joinedBefore && !joinedBehind;
 }
 
-std::optional<std::size_t> FindText(const SearchableText& in, std::string_view needle, std::size_t start,
-                                    std::size_t end, int options) {
+SearchPattern::Marks SearchPattern::MarksOf(std::string_view needle) {
+  Marks marks;
+  for (std::size_t i = 1; i < needle.size(); ++i) {
+    if (Rarity(needle[i]) > Rarity(needle[marks.first])) {
+      marks.second = std::exchange(marks.first, i);
+    } else if (marks.second == marks.first || Rarity(needle[i]) > Rarity(needle[marks.second])) {
+      marks.second = i;
+    }
+  }
+  return marks;
+}
+
+SearchPattern::SearchPattern(std::string_view needle, int options)
+    : options_(options),
+      needle_(options & find::kMatchCase ? std::string(needle) : LowerCase(needle)),
+      marks_(MarksOf(needle_)) {}
+
+/// A block at a time by the needle's marks; a text in which these often deceive is left to the search that no
+/// text can slow down.
+std::size_t SearchPattern::FindPlain(std::string_view text, std::size_t start) const {
+  const char first = needle_[marks_.first];
+  const char second = needle_[marks_.second];
+  std::size_t deceived = 0;
+  std::size_t at = start;
+  for (; at + needle_.size() + kBlock <= text.size(); at += kBlock) {
+    if (!MayBegin(text.data() + at + marks_.first, text.data() + at + marks_.second, first, second)) continue;
+    for (std::size_t i = at; i < at + kBlock; ++i) {
+      if (text[i + marks_.first] != first || text[i + marks_.second] != second) continue;
+      if (text.substr(i, needle_.size()) == needle_) return i;
+      ++deceived;
+    }
+    if (deceived > kBlock + (at - start) / 4) break;
+  }
+  return FindAnywhere(text, needle_, at);
+}
+
+std::optional<std::size_t> SearchPattern::FindIn(const SearchableText& in, std::size_t start,
+                                                 std::size_t end) const {
   end = std::min(end, in.text.size());
-  if (needle.empty() || start >= end) return {};
-  const bool matchCase = (options & find::kMatchCase) != 0;
-  const std::string folded = matchCase ? std::string() : LowerCase(needle);
-  const std::string_view wanted = matchCase ? needle : std::string_view(folded);
-  const std::string_view text = (matchCase ? in.text : in.folded).substr(0, end);
+  if (needle_.empty()) return {};
+  const std::string_view text = (options_ & find::kMatchCase ? in.text : in.folded).substr(0, end);
   while (start < end) {
-    const std::size_t hit = FindPlain(text, wanted, start);
+    const std::size_t hit = FindPlain(text, start);
     if (hit == std::string_view::npos) return {};
-    if (!(options & find::kWholeWord) || IsWholeWord(in.text, hit, wanted.size())) return hit;
+    if (!(options_ & find::kWholeWord) || IsWholeWord(in.text, hit, needle_.size())) return hit;
     start = hit + 1;
   }
   return {};
+}
+
+std::optional<std::size_t> FindText(const SearchableText& in, std::string_view needle, std::size_t start,
+                                    std::size_t end, int options) {
+  if (start >= std::min(end, in.text.size())) return {};
+  return SearchPattern(needle, options).FindIn(in, start, end);
 }
 
 }  // namespace tarvik

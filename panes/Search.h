@@ -25,8 +25,33 @@ struct SearchableText {
 /// Whether no letter, digit or underscore stands on either side of the `length` characters from `hit` on.
 [[nodiscard]] bool IsWholeWord(std::string_view text, std::size_t hit, std::size_t length);
 
-/// The first hit that lies within `start` and `end`. A whole word is one with no letter, digit or underscore
-/// on either side. An empty `needle` is never found.
+/// A text to look for, made ready once for any number of searches.
+class SearchPattern {
+ public:
+  SearchPattern(std::string_view needle, int options);
+
+  /// The first hit that lies within `start` and `end`. A whole word is one with no letter, digit or
+  /// underscore on either side. An empty needle is never found.
+  [[nodiscard]] std::optional<std::size_t> FindIn(const SearchableText& in, std::size_t start,
+                                                  std::size_t end) const;
+
+ private:
+  /// Two characters of the needle that stand for it while a text is gone through: the rarest in files of this
+  /// kind.
+  struct Marks {
+    std::size_t first = 0;
+    std::size_t second = 0;
+  };
+
+  [[nodiscard]] static Marks MarksOf(std::string_view needle);
+  [[nodiscard]] std::size_t FindPlain(std::string_view text, std::size_t start) const;
+
+  int options_;
+  std::string needle_;  // in lower case unless case matters
+  Marks marks_;
+};
+
+/// One search for `needle`.
 [[nodiscard]] std::optional<std::size_t> FindText(const SearchableText& in, std::string_view needle,
                                                   std::size_t start, std::size_t end, int options);
 
