@@ -5,6 +5,7 @@
 
 #include "app/UndoHistory.h"
 #include "platform/CodePage.h"
+#include "support/LiteralReplaceAll.h"
 #include "support/MemoryFiles.h"
 
 namespace {
@@ -53,6 +54,11 @@ void Check(const Pane& pane, const Model& model) {
   }
   const Range selection = pane.Selection();
   if (selection.End() > model.text.size()) std::abort();
+  for (const std::size_t place : {selection.start, selection.End() / 2}) {
+    const auto end = model.text.begin() + static_cast<std::ptrdiff_t>(place);
+    const auto line = static_cast<std::size_t>(std::count(model.text.begin(), end, '\n'));
+    if (pane.GetLineFromChar(place) != line) std::abort();
+  }
   const SearchableText searchable = pane.Searchable();
   if (searchable.folded != LowerCase(model.text)) std::abort();
 }
@@ -75,7 +81,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   while (!bytes.Empty()) {
     const std::size_t start = bytes.Below(model.text.size() + 1);
     const std::size_t length = bytes.Below(model.text.size() - start + 1);
-    switch (bytes.Below(6)) {
+    switch (bytes.Below(7)) {
       case 0: {
         pane.Select({start, length});
         const Colour colour = kColours[bytes.Below(4)];
@@ -108,6 +114,23 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         history.Undo();
         model = slots[++index];
         break;
+      case 5: {
+        const std::string text = kTexts[1 + bytes.Below(5)];
+        const std::string with = kTexts[bytes.Below(6)];
+        const int options = static_cast<int>(bytes.Below(4)) * find::kWholeWord;
+        Fixture literal;
+        literal.pane.SetContent(pane.Content());
+        const Replaced wanted = LiteralReplaceAll(literal.pane, text, with, options);
+        const Replaced found = pane.ReplaceAll(text, with, options, [](std::size_t) {});
+        if (wanted.count != found.count || wanted.end != found.end) std::abort();
+        if (pane.Content() != literal.pane.Content()) std::abort();
+        model.text = literal.pane.Characters();
+        model.colours.clear();
+        for (std::size_t i = 0; i < model.text.size(); ++i) {
+          model.colours.push_back(literal.pane.Content().colours.At(i));
+        }
+        break;
+      }
       default:
         if (index == 0) break;
         history.Redo();

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 #include "panes/Pane.h"
 #include "panes/Rtf.h"
+#include "support/LiteralReplaceAll.h"
 #include "support/MemoryFiles.h"
 
 namespace tarvik {
@@ -322,6 +324,52 @@ TEST_F(PaneTest, TheEditsToldOfAreTheWholeStory) {
   }
   for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit) Apply(edit->Inverse(), follower);
   EXPECT_EQ(follower, RichText());
+}
+
+TEST_F(PaneTest, ReplacingAllIsOneEditThatDoesWhatReplacingOneByOneWould) {
+  constexpr const char* kPieces[] = {"a", "A", "ab", " ", "\r\n", "Rem ", "_", "b"};
+  std::minstd_rand random(7);
+  const auto piece = [&random, &kPieces] { return std::string(kPieces[random() % std::size(kPieces)]); };
+  std::size_t hits = 0;
+  for (int round = 0; round < 3000; ++round) {
+    RichText content;
+    for (std::size_t i = random() % 20; i > 0; --i) {
+      const std::string text = piece();
+      content.text += text;
+      content.colours.Append(text.size(), static_cast<tarvik::Colour>(random() % 3));
+    }
+    pane.SetContent(content);
+    other.SetContent(content);
+    const std::string text = piece();
+    const std::string with = random() % 4 ? piece() + piece() : "";
+    const int options = static_cast<int>(random() % 4) * find::kWholeWord;
+    changes = 0;
+    const Replaced wanted = LiteralReplaceAll(other, text, with, options);
+    std::vector<std::size_t> told;
+    const Replaced found =
+        pane.ReplaceAll(text, with, options, [&told](std::size_t hit) { told.push_back(hit); });
+    ASSERT_EQ(found.count, wanted.count) << round;
+    ASSERT_EQ(found.end, wanted.end) << round;
+    ASSERT_EQ(pane.Content(), other.Content()) << round;
+    ASSERT_EQ(changes, found.count > 0 ? 1 : 0);
+    ASSERT_EQ(told.size(), found.count);
+    hits += found.count;
+  }
+  EXPECT_GT(hits, 2000U);
+}
+
+TEST_F(PaneTest, TheLineOfAPositionIsRightAfterEditsBeforeAndBehindTheLastOneAskedFor) {
+  std::minstd_rand random(3);
+  for (int round = 0; round < 2000; ++round) {
+    const std::size_t start = random() % (pane.Characters().size() + 1);
+    const std::size_t length = random() % 3;
+    pane.ReplaceSelection(RichText(random() % 2 ? "x\r\n" : ""));
+    pane.Select({start, length});
+    const std::size_t asked = random() % (pane.Characters().size() + 1);
+    const auto lines = std::count(pane.Characters().begin(),
+                                  pane.Characters().begin() + static_cast<std::ptrdiff_t>(asked), '\n');
+    ASSERT_EQ(pane.GetLineFromChar(asked), static_cast<std::size_t>(lines)) << round;
+  }
 }
 
 }  // namespace
