@@ -4,7 +4,9 @@ namespace tarvik {
 namespace {
 
 constexpr int kEscape = 27;
+constexpr int kInsert = 45;
 constexpr int kF1 = 112;
+constexpr int kInsertPanel = 5;
 constexpr int kRightButton = 2;
 
 }  // namespace
@@ -30,9 +32,16 @@ void PaneInput::KeyDown(Document& document, Key& key) {
     return;
   }
   desk_.ShowLineNumber(document, document.text.SelStart);
+  if (key.code == kInsert && key.shift == 0) TurnOvertypeOver();
   if (key.code == kEscape) hooks_.popUp("mnuInsert");
   const std::string selected = document.text.SelText;
   if (key.code == kF1 && !selected.empty()) ShowHelp(selected);
+}
+
+void PaneInput::TurnOvertypeOver() {
+  const bool overtype = !desk_.joystick.text.Overtype;
+  for (const Document* document : {&desk_.joystick, &desk_.macro}) document->text.Overtype = overtype;
+  desk_.status.Panels(kInsertPanel).Enabled = !overtype;
 }
 
 void PaneInput::ShowHelp(const std::string& keyword) const {

@@ -98,6 +98,8 @@ class Pane : public Control {
   Property<Colour> BackColor{*this, "BackColor", 0xFFFFFFU};
   Property<bool> Locked{*this, "Locked", false};
   Property<int> RightMargin{*this, "RightMargin", 0};
+  /// What the user types takes the place of what is behind the caret.
+  Property<bool> Overtype{*this, "Overtype", false};
 
   Event<> Change{*this, "Change"};
   Event<> SelChange{*this, "SelChange"};

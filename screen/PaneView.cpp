@@ -71,6 +71,9 @@ void PaneView::BindLook(Bindings& bindings) {
       pane_.RightMargin, [this] { setLineWrapMode(pane_.RightMargin == 0 ? WidgetWidth : NoWrap); },
       [this] { return lineWrapMode() == NoWrap ? pane_.RightMargin.ToText() : "0"; });
   bindings.Bind(
+      pane_.Overtype, [this] { setOverwriteMode(pane_.Overtype); },
+      [this] { return TextOf(overwriteMode()); });
+  bindings.Bind(
       pane_.Locked,
       [this] {
         setTextInteractionFlags(pane_.Locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard

@@ -6,12 +6,16 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
+#include <QSplitter>
 #include <QUrl>
 
 #include "screen/Text.h"
 
 namespace tarvik::screen {
 namespace {
+
+constexpr int kSidebarWidth = 130;
+constexpr int kListWidth = 500;
 
 struct ButtonsRow {
   QMessageBox::StandardButtons buttons;
@@ -96,6 +100,7 @@ Outcome<std::string> QtDialogs::AskForFile(const FileRequest& request) {
     places += QUrl::fromLocalFile(QFile::decodeName(drive->c_str()));
   }
   dialog.setSidebarUrls(places);
+  if (auto* const parts = dialog.findChild<QSplitter*>()) parts->setSizes({kSidebarWidth, kListWidth});
   dialog.setNameFilters(NameFilters(request.filter));
   if (save) dialog.setDefaultSuffix(ToScreen(request.defaultExtension));
   if (!request.fileName.empty()) dialog.selectFile(ToScreen(request.fileName));

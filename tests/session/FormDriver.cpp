@@ -13,7 +13,7 @@ namespace {
 const std::map<std::string_view, int> kKeyCodes = {
     {"Backspace", 8}, {"Tab", 9},       {"Return", 13}, {"Escape", 27}, {"Space", 32},
     {"PageUp", 33},   {"PageDown", 34}, {"End", 35},    {"Home", 36},   {"Left", 37},
-    {"Up", 38},       {"Right", 39},    {"Down", 40},   {"Delete", 46},
+    {"Up", 38},       {"Right", 39},    {"Down", 40},   {"Insert", 45}, {"Delete", 46},
 };
 
 Key ParseChord(std::string_view chord) {
@@ -50,7 +50,12 @@ class Typing {
  public:
   explicit Typing(Pane& pane) : pane_(pane) {}
 
-  void Character(char c) { Replace(pane_.Selection(), std::string(1, c)); }
+  void Character(char c) {
+    Range range = pane_.Selection();
+    const std::size_t behind = Behind(range.start);
+    if (pane_.Overtype && range.length == 0 && behind == range.start + 1) range.length = 1;
+    Replace(range, std::string(1, c));
+  }
 
   void Special(const Key& key) {
     const Range selection = pane_.Selection();
