@@ -1,7 +1,6 @@
 #include "screen/FormLayout.h"
 
 #include <QCheckBox>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -159,10 +158,10 @@ QLayout* Fields(std::initializer_list<Field> fields) {
   return layout;
 }
 
-QWidget* Group(const char* caption, QLayout* content) {
-  auto* const group = new QGroupBox(QString::fromUtf8(caption));
-  group->setLayout(content);
-  return group;
+QLayout* Above(const char* label, QWidget* control) {
+  auto* const text = new QLabel(QString::fromUtf8(label));
+  text->setBuddy(control);
+  return Column({text, Named(control, text->text())});
 }
 
 void GiveMnemonics(QWidget& window) {

@@ -44,8 +44,8 @@ struct Field {
   QWidget* control;
 };
 [[nodiscard]] QLayout* Fields(std::initializer_list<Field> fields);
-/// A frame with a caption around its content.
-[[nodiscard]] QWidget* Group(const char* caption, QLayout* content);
+/// The same with the label above the control.
+[[nodiscard]] QLayout* Above(const char* label, QWidget* control);
 
 /// Gives each button, label and tab of a window that has no mnemonic one that no other on show has.
 void GiveMnemonics(QWidget& window);

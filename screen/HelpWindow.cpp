@@ -42,7 +42,7 @@ HelpWindow::HelpWindow() : keyword_(new QLineEdit), topics_(new QListWidget), te
   columns->addWidget(text_, 1);
   connect(keyword_, &QLineEdit::textChanged, this, [this] { ListTopics(); });
   connect(topics_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
-    if (item) text_->setMarkdown(ToScreen(file_.Topics()[item->data(Qt::UserRole).toUInt()].text));
+    if (item) text_->setMarkdown(AsText(file_.Topics()[item->data(Qt::UserRole).toUInt()].text));
   });
   connect(text_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { FollowLink(link); });
 }

@@ -35,23 +35,20 @@ QLayout* Page(FindAndReplace& form, const FormLayout& in) {
 }
 
 QLayout* Page(Title& form, const FormLayout& in) {
-  QWidget* const comments = Named(in.Show(form.RichTextBox1), QStringLiteral("Comments"));
+  QWidget* const comments = in.Show(form.RichTextBox1);
   comments->setMinimumSize(440, 120);
   return Column({Fields({{"File name", in.Show(form.Text1)},
                          {"The game it's for", in.Show(form.Text2)},
                          {"Your name", in.Show(form.Text3)},
                          {"Last modified", in.Show(form.Text4)},
                          {"Hardware supported", in.Show(form.Text5)}}),
-                 Group("Comments (eg. your e-mail address, layout rationale etc.)", Column({comments})),
+                 Above("Comments (eg. your e-mail address, layout rationale etc.)", comments),
                  Row({Stretch(), in.Show(form.Command1), in.Show(form.Command2)})});
 }
 
 QLayout* Page(Heading& form, const FormLayout& in) {
-  auto* const label = new QLabel(QStringLiteral("Select a heading or type a new one"));
-  QWidget* const combo = Named(in.Show(form.Combo1), label->text());
-  label->setBuddy(combo);
-  return Column(
-      {label, combo, Stretch(), Row({Stretch(), in.Show(form.Command1(0)), in.Show(form.Command1(1))})});
+  return Column({Above("Select a heading or type a new one", in.Show(form.Combo1)), Stretch(),
+                 Row({Stretch(), in.Show(form.Command1(0)), in.Show(form.Command1(1))})});
 }
 
 QLayout* Page(SingleTextForm& form, const FormLayout& in) {

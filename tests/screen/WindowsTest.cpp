@@ -108,6 +108,19 @@ TEST_F(Windows, HaveMnemonicsThatLeadToOneControl) {
   }
 }
 
+TEST_F(Windows, ShowAHelpTopicAsItIsMeant) {
+  help.Open(HelpFile(
+      "# First\r\n\r\nSome *words*\r\nof text.\r\n\r\n# Second\r\n<!-- 7: go on -->\r\n[Back](#1)\r\n"));
+  help.ShowKeyword("go");
+  const auto* const text = help.findChild<QTextBrowser*>();
+  EXPECT_EQ(text->toPlainText(), QStringLiteral("Second\nBack"));
+  help.findChild<QLineEdit*>()->setText(QStringLiteral("fir"));
+  EXPECT_EQ(help.findChild<QListWidget*>()->count(), 1);
+  EXPECT_EQ(text->toPlainText(), QStringLiteral("First\nSome words of text."));
+  help.ShowContext(12);
+  EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("12")));
+}
+
 /// Where the focus goes by the Tab key, from the first control of a window around to it again.
 std::vector<QWidget*> FocusChain(QWidget& window) {
   std::vector<QWidget*> chain;
