@@ -330,6 +330,7 @@ void Bindings::Bind(EntryBox& box, QComboBox& widget) {
       box.Items, [] {},
       [&] {
         std::vector<std::string> items;
+        items.reserve(static_cast<std::size_t>(widget.count()));
         for (int i = 0; i < widget.count(); ++i) items.push_back(FromScreen(widget.itemText(i)));
         return Lines(items);
       });

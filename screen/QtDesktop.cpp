@@ -23,7 +23,7 @@ const QMimeData& Content() {
 
 QByteArray RtfIn(const QMimeData& data) {
   for (const char* const type : kRtfTypes) {
-    if (const QByteArray rtf = data.data(QLatin1String(type)); !rtf.isEmpty()) return rtf;
+    if (QByteArray rtf = data.data(QLatin1String(type)); !rtf.isEmpty()) return rtf;
   }
   return {};
 }
