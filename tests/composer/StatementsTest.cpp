@@ -351,8 +351,8 @@ TEST_P(TabPage, JoinsItsFieldsBehindAColouredKeyword) {
   BoxTexts boxes = {{"Text1(2)", "steps of type 1"}};
   std::string values;
   for (const auto& [box, label] : expected.fields) {
-    boxes[std::string(box)] = "<" + std::string(box) + ">";
-    values += " <" + std::string(box) + ">";
+    values.append(" <").append(box).append(">");
+    boxes[std::string(box)] = std::string("<").append(box).append(">");
   }
   for (int axis = 0; axis < 3; ++axis) {
     std::string keyword = expected.start.substr(0, expected.start.find(' '));
@@ -364,7 +364,7 @@ TEST_P(TabPage, JoinsItsFieldsBehindAColouredKeyword) {
     statement.endsLine = true;
     EXPECT_EQ(TabStatement(row, boxes, axis, kColourLine), statement);
     if (row.button == "Command8(2)") continue;
-    statement.pieces = {{keyword + " " + rest}};
+    statement.pieces = {{statement.Text()}};
     EXPECT_EQ(TabStatement(row, boxes, axis, kBlackLine), statement);
     statement.endsLine = false;
     EXPECT_EQ(TabStatement(row, boxes, axis, kBlackStyle), statement);
