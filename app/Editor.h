@@ -166,6 +166,8 @@ class Editor : public Form {
   // For the tools.
   [[nodiscard]] Document& ActiveDocument() const { return desk_.Active(); }
   [[nodiscard]] ColouredInsertion& insertion() { return insertion_; }
+  /// Gives the focus to the file on top.
+  void FocusActiveText() const { desk_.Active().text.SetFocus(); }
   /// Marks the document as modified and records the change for undo.
   void TextChanged(Document& document);
   /// Status panel 3, by the document's caret memory.

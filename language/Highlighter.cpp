@@ -1,12 +1,8 @@
 #include "language/Highlighter.h"
 
-#include <array>
 #include <limits>
 
 namespace tarvik {
-namespace {
-
-constexpr int kCommandGroup = 15;  // the progress bar's length during the passes over commands
 
 std::array<Colour, kColourClasses> ColoursOf(const Settings& settings) {
   return {kBlack,
@@ -16,6 +12,10 @@ std::array<Colour, kColourClasses> ColoursOf(const Settings& settings) {
           settings.MiscellaneousColour,
           settings.RemStatements};
 }
+
+namespace {
+
+constexpr int kCommandGroup = 15;  // the progress bar's length during the passes over commands
 
 int Clamped(std::size_t position) {
   return static_cast<int>(std::min<std::size_t>(position, std::numeric_limits<int>::max()));

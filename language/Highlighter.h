@@ -1,10 +1,15 @@
 // Colours a whole document by statement type, and takes its colours away again.
 #pragma once
 
+#include <array>
+
 #include "language/ColouredCopies.h"
 #include "language/Painting.h"
 
 namespace tarvik {
+
+/// The colours of the classes, as they are set.
+[[nodiscard]] std::array<Colour, kColourClasses> ColoursOf(const Settings& settings);
 
 class Highlighter {
  public:
