@@ -226,11 +226,6 @@ void BenchUndo() {
   bench.pane.Recolour(0, ColoursOf(text));
   bench.history.Clear();
   bench.pane.SelStart = text.size() / 2;
-  // The edit itself, without a history and with one: what is left is the cost of recording.
-  Bench plain;
-  plain.pane.SetContent(bench.pane.Content());
-  plain.pane.SelStart = text.size() / 2;
-  const auto type = [](Pane& pane) { pane.UserReplaced({pane.Selection().start, 0}, "x"); };
   const Medians copy = Measure([&] { sink = sink + RichText(bench.pane.Content()).size(); }, [] {});
   const PaneEdit edit{text.size() / 2, {}, RichText("x")};
   const Medians record = Measure(
@@ -242,7 +237,6 @@ void BenchUndo() {
       [] {});
   Report("one typed key recorded in 1 MB, beside a copy of the pane", {record.own, copy.own}, Goal::AtLeast,
          1000);
-  (void)type;
 }
 
 // RTF.
