@@ -1,5 +1,6 @@
 #include "language/FindAndReplace.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 
@@ -280,7 +281,9 @@ void FindAndReplace::ReplaceText() {
   RememberReplacement();
   document.Undo.Start = 1;
   document.text.SelText = ReplacementText.Get();
-  document.Caret = document.Caret + ReplacementText.Get().size() - ComboTextReplaceFind.Text.Get().size();
+  // The caret may have been moved to the top since the hit.
+  const std::size_t behind = document.Caret + ReplacementText.Get().size();
+  document.Caret = behind - std::min(behind, ComboTextReplaceFind.Text.Get().size());
 }
 
 void FindAndReplace::Command5_Click() {
