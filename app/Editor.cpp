@@ -354,6 +354,24 @@ void Editor::mnuHelpContents_Click() {
   application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kContents);
 }
 
+// Keys that the tools pass on.
+
+void Editor::ForwardKey(Key& key) const {
+  constexpr int kF1 = 112;
+  constexpr int kF7 = 118;  // bears no shortcut in the menu
+  constexpr int kF12 = 123;
+  std::string shortcut;
+  if (key.shift == shift::kCtrl && key.code >= 'A' && key.code <= 'Z') {
+    shortcut = std::string("Ctrl+") + static_cast<char>(key.code);
+  } else if (key.shift != shift::kCtrl && key.code > kF1 && key.code <= kF12) {
+    shortcut = "F" + TextOf(key.code - kF1 + 1);
+  }
+  MenuItem* const item = key.code == kF7 ? &menus("mnuViewIdentify") : menus.WithShortcut(shortcut);
+  if (shortcut.empty() || !item || !item->Enabled) return;
+  item->Click();
+  if (key.shift == shift::kCtrl) key = {};
+}
+
 // View.
 
 /// The Insert menu comes without its last two lines.

@@ -170,13 +170,15 @@ class Editor : public Form {
   void FocusActiveText() const { desk_.Active().text.SetFocus(); }
   /// Marks the document as modified and records the change for undo.
   void TextChanged(Document& document);
+  /// Runs the menu entry of a key that a tool's window got: a function key, or a letter with Ctrl alone, which
+  /// is then swallowed. The entry must be enabled.
+  void ForwardKey(Key& key) const;
   /// Status panel 3, by the document's caret memory.
   void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document, document.Caret); }
   void SayIsProtected(const Document& document) const { desk_.SayIsProtected(document); }
 
-  /// For whatever shows a pop-up menu at the pointer or the caret; it tells when the menu has closed.
-  Signal<std::string_view> PopUp;
-  void PopUpClosed(std::string_view name);
+  [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
+  void PopUpClosed(std::string_view name) override;
 
  private:
   void SetUpControls();

@@ -22,6 +22,8 @@ class Mum : public Form {
   PictureBox Picture1{*this, "Picture1"};
   Menus menus;
 
+  [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
+
   /// 0 normal, other values maximised, as stored.
   Property<int> MumWindowstate{*this, "MumWindowstate", 0};
 

@@ -204,6 +204,24 @@ class Label : public Control {
   Property<unsigned> BackColor{*this, "BackColor", 0xFFFFFFU};
 };
 
+/// Tells by its back colour whether it is on: a lamp, or a switch that its handler turns.
+class ToggleLabel : public Label {
+ public:
+  static constexpr unsigned kOn = 0x0080C0FF;
+  static constexpr unsigned kOff = 0x8000000F;  ///< the face of a button, whatever the desktop makes it
+
+  ToggleLabel(Component& parent, std::string_view name, std::optional<int> index = {})
+      : Label(parent, name, index) {
+    BackColor = kOff;
+  }
+  ToggleLabel(Component& parent, std::string_view name, std::string caption) : ToggleLabel(parent, name) {
+    Caption = std::move(caption);
+  }
+  [[nodiscard]] bool On() const { return BackColor == kOn; }
+  void Turn(bool on) { BackColor = on ? kOn : kOff; }
+  Event<> Click{*this, "Click"};
+};
+
 class Frame : public Control {
  public:
   using Control::Control;

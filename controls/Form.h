@@ -7,6 +7,7 @@
 namespace tarvik {
 
 class Control;
+class Menus;
 struct Key;
 
 class Form : public Component {
@@ -39,6 +40,12 @@ class Form : public Component {
   Event<> Deactivate{*this, "Deactivate"};
   /// A key in any of the form's controls, before the control hears of it.
   Event<Key&> KeyDown{*this, "KeyDown"};
+
+  /// The menus of the form's window, or null. Those whose entry is hidden only pop up.
+  [[nodiscard]] virtual const Menus* MenuBar() const { return nullptr; }
+  /// For whatever shows a pop-up menu at the pointer or the caret; it tells when the menu has closed.
+  Signal<std::string_view> PopUp;
+  virtual void PopUpClosed(std::string_view /*name*/) {}
 
   /// The control with the focus, or null.
   [[nodiscard]] Control* ActiveControl() const { return active_; }

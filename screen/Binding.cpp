@@ -1,5 +1,6 @@
 #include "screen/Binding.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <cmath>
 
@@ -225,14 +226,42 @@ void Bindings::Bind(Label& label, QLabel& widget) {
   BindControl(label, widget);
   BindCaption(label, widget);
   widget.setAutoFillBackground(true);
+  BindBackColour(label, widget);
+}
+
+void Bindings::Bind(ToggleLabel& label, QAbstractButton& widget) {
+  BindControl(label, widget);
+  BindCaption(label, widget);
+  BindBackColour(label, widget);
+  widget.setCheckable(true);
+  const auto show = [&] { widget.setChecked(label.On()); };
+  Bind(label.BackColor, show);
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&label, show] {
+    label.Click();
+    show();  // the toolkit has turned it over by itself
+  });
+}
+
+/// A colour of the system is that of the desktop.
+void Bindings::BindBackColour(Label& label, QWidget& widget) {
+  const auto meant = [&label, &widget] {
+    constexpr Colour kSystem = 0x80000000;
+    const bool system = (label.BackColor & kSystem) != 0;
+    return system ? QApplication::palette(&widget).color(widget.backgroundRole())
+                  : ToScreenColour(label.BackColor);
+  };
   Bind(
       label.BackColor,
-      [&] {
-        QPalette palette = widget.palette();
-        palette.setColor(widget.backgroundRole(), ToScreenColour(label.BackColor.Get()));
+      [&label, &widget, meant] {
+        QPalette palette = QApplication::palette(&widget);
+        if (label.BackColor == ToggleLabel::kOn) palette.setColor(widget.foregroundRole(), Qt::black);
+        palette.setColor(widget.backgroundRole(), meant());
         widget.setPalette(palette);
       },
-      [&] { return TextOf(FromScreenColour(widget.palette().color(widget.backgroundRole()))); });
+      [&label, &widget, meant] {
+        const QColor shown = widget.palette().color(widget.backgroundRole());
+        return shown == meant() ? label.BackColor.ToText() : TextOf(FromScreenColour(shown));
+      });
 }
 
 void Bindings::Bind(ComboBox& combo, QComboBox& widget) {

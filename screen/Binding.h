@@ -69,6 +69,7 @@ class Bindings {
   void Bind(CommandButton& button, QAbstractButton& widget);
   void Bind(ToolbarButton& button, QToolButton& widget);
   void Bind(Label& label, QLabel& widget);
+  void Bind(ToggleLabel& label, QAbstractButton& widget);
   void Bind(ComboBox& combo, QComboBox& widget);
   void Bind(TextBox& box, QLineEdit& widget);
   void Bind(EntryBox& box, QComboBox& widget);
@@ -81,6 +82,7 @@ class Bindings {
 
  private:
   void BindText(TextBox& box, QLineEdit& line);
+  void BindBackColour(Label& label, QWidget& widget);
   template <class Captioned, class Widget>
   void BindCaption(Captioned& control, Widget& widget);
   void BindTab(Tab& tab, QTabBar& widget, int index);

@@ -1,6 +1,5 @@
 #include "screen/EditorView.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
@@ -69,13 +68,7 @@ EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(
       [this] { return FromScreen(windowTitle()); });
   bindings_.Bind(
       editor.Visible, [] {}, [this] { return TextOf(isVisible()); });
-  for (const auto* const menus : {&menus_, &popUps_}) {
-    for (const auto& menu : *menus) {
-      connect(menu.get(), &QMenu::aboutToHide, this,
-              [this, name = FromScreen(menu->objectName())] { editor_.PopUpClosed(name); });
-    }
-  }
-  bindings_.Keep(editor.PopUp.Connect([this](std::string_view name) { PopUp(name); }));
+  for (const auto* const menus : {&menus_, &popUps_}) PopUpOnDemand(*menus, editor, *this, bindings_);
   if (clock == Clock::Scripted) return;
   for (Timer* timer : {&editor.Timer1, &editor.TimerBlinkLine}) bindings_.Bind(*timer, *new QTimer(this));
 }
@@ -174,23 +167,6 @@ void EditorView::paintEvent(QPaintEvent*) {
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(ToPixels(strip.Left, 1) + 2, ToPixels(strip.Top, 1) + kTabHeight - 1,
                    ToPixels(strip.Width, 1) - 5, ToPixels(strip.Height, 1) - kTabHeight);
-}
-
-/// At the pointer, or at what the keyboard is at.
-void EditorView::PopUp(std::string_view name) {
-  QPoint place = QCursor::pos();
-  if (!(QGuiApplication::mouseButtons() & Qt::RightButton)) {
-    const auto* const pane = dynamic_cast<PaneView*>(focusWidget());
-    if (pane) place = pane->viewport()->mapToGlobal(pane->cursorRect().bottomLeft());
-    if (focusWidget() == list_) {
-      place = list_->viewport()->mapToGlobal(list_->visualRect(list_->currentIndex()).bottomLeft());
-    }
-  }
-  for (const auto* const menus : {&popUps_, &menus_}) {
-    for (const auto& menu : *menus) {
-      if (menu->objectName() == ToScreen(name)) menu->popup(place);
-    }
-  }
 }
 
 void EditorView::CloseByUser() { static_cast<MumWindow*>(window())->CloseChildByUser(); }

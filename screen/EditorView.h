@@ -28,7 +28,6 @@ class EditorView : public QWidget, public FormView {
   void MakePanes();
   void OrderFocus();
   void PlaceTabs();
-  void PopUp(std::string_view name);
 
   Editor& editor_;
   std::vector<std::unique_ptr<QMenu>> menus_;

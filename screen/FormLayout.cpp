@@ -97,6 +97,9 @@ QWidget* FormLayout::Show(TextBox& box) const { return Shown<QLineEdit>(bindings
 QWidget* FormLayout::Show(CheckBox& box) const { return Shown<QCheckBox>(bindings_, box); }
 QWidget* FormLayout::Show(OptionButton& button) const { return Shown<QRadioButton>(bindings_, button); }
 
+QWidget* FormLayout::Show(ToggleLabel& label) const { return Shown<QPushButton>(bindings_, label); }
+QWidget* FormLayout::Show(Label& label) const { return Shown<QLabel>(bindings_, label); }
+
 QWidget* FormLayout::Show(CommandButton& button) const {
   auto* const widget = new QPushButton;
   widget->setAutoDefault(true);

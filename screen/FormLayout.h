@@ -24,6 +24,8 @@ class FormLayout {
   QWidget* Show(CheckBox& box) const;
   QWidget* Show(OptionButton& button) const;
   QWidget* Show(CommandButton& button) const;
+  QWidget* Show(ToggleLabel& label) const;
+  QWidget* Show(Label& label) const;
   QWidget* Show(Pane& pane) const;
   /// The pages in the order of the tabs.
   QWidget* Show(TabPages& pages, std::initializer_list<QLayout*> layouts) const;

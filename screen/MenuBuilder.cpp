@@ -1,6 +1,21 @@
 #include "screen/MenuBuilder.h"
 
+#include <QGuiApplication>
+
+#include "screen/Text.h"
+
 namespace tarvik::screen {
+namespace {
+
+QPoint PlaceOfPopUp(const QWidget& window) {
+  const QWidget* const at = window.focusWidget();
+  if (!at || QGuiApplication::mouseButtons() & Qt::RightButton) return QCursor::pos();
+  const bool button = at->inherits("QAbstractButton");
+  return at->mapToGlobal(
+      (button ? at->rect() : at->inputMethodQuery(Qt::ImCursorRectangle).toRect()).bottomLeft());
+}
+
+}  // namespace
 
 std::vector<std::unique_ptr<QMenu>> MakeMenus(const Menus& menus, Bindings& bindings) {
   std::vector<std::unique_ptr<QMenu>> top;
@@ -28,6 +43,18 @@ std::vector<std::unique_ptr<QMenu>> MakeMenus(const Menus& menus, Bindings& bind
     path.push_back(menu);
   }
   return top;
+}
+
+void PopUpOnDemand(const std::vector<std::unique_ptr<QMenu>>& menus, Form& form, const QWidget& window,
+                   Bindings& bindings) {
+  for (const auto& owned : menus) {
+    QMenu* const menu = owned.get();
+    QObject::connect(menu, &QMenu::aboutToHide, menu,
+                     [menu, &form] { form.PopUpClosed(FromScreen(menu->objectName())); });
+    bindings.Keep(form.PopUp.Connect([menu, &window](std::string_view name) {
+      if (menu->objectName() == ToScreen(name)) menu->popup(PlaceOfPopUp(window));
+    }));
+  }
 }
 
 }  // namespace tarvik::screen

@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QWindow>
 
 #include "screen/Keys.h"
@@ -18,6 +19,7 @@ constexpr int kFromTheTop = 120;
 ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame)
     : QDialog(&frame), FormView(form), application_(application), frame_(frame) {
   setLayout(makePage(FormLayout(bindings_)));
+  if (const Menus* const menus = form.MenuBar()) MakeMenuBar(*menus);
   GiveMnemonics(*this);
   for (QWidget* const child : findChildren<QWidget*>()) child->installEventFilter(this);
   bindings_.Shows(form, *this);
@@ -27,6 +29,14 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   bindings_.Bind(form.Topmost, [this] { ShowTopmost(); });
   bindings_.Bind(
       form.Visible, [this] { ShowWindow(); }, [this] { return TextOf(isVisible()); });
+}
+
+void ToolWindow::MakeMenuBar(const Menus& menus) {
+  menus_ = MakeMenus(menus, bindings_);
+  PopUpOnDemand(menus_, form(), *this, bindings_);
+  auto* const bar = new QMenuBar(this);
+  for (const auto& menu : menus_) bar->addMenu(menu.get());
+  layout()->setMenuBar(bar);
 }
 
 void ToolWindow::ShowWindow() {

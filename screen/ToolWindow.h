@@ -7,6 +7,7 @@
 #include "app/Application.h"
 #include "screen/FormLayout.h"
 #include "screen/FormView.h"
+#include "screen/MenuBuilder.h"
 
 namespace tarvik::screen {
 
@@ -28,6 +29,7 @@ class ToolWindow : public QDialog, public FormView {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void MakeMenuBar(const Menus& menus);
   void ShowWindow();
   void ShowTopmost();
   [[nodiscard]] QPoint PlaceBeside();
@@ -35,6 +37,7 @@ class ToolWindow : public QDialog, public FormView {
 
   Application& application_;
   QWidget& frame_;
+  std::vector<std::unique_ptr<QMenu>> menus_;
 };
 
 /// The page of the form's window, or nothing for a form that is shown in another way.

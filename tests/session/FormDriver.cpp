@@ -38,13 +38,6 @@ Key ParseChord(std::string_view chord) {
   return key;
 }
 
-/// The form's menus, where it has any.
-const Menus* MenusOf(Form& form) {
-  if (auto* editor = dynamic_cast<Editor*>(&form)) return &editor->menus;
-  if (auto* mum = dynamic_cast<Mum*>(&form)) return &mum->menus;
-  return nullptr;
-}
-
 /// What the text control does with a key that nobody swallowed.
 class Typing {
  public:
@@ -114,10 +107,8 @@ class FormDriver : public Driver {
   /// A form that comes up is the active one.
   explicit FormDriver(Application& application) : application_(application) {
     loaded_ = application.Loaded.Connect([this](Form& form) {
-      if (auto* const editor = dynamic_cast<Editor*>(&form)) {
-        shown_.push_back(
-            editor->PopUp.Connect([this](std::string_view name) { popUps_.emplace_back(name); }));
-      }
+      shown_.push_back(
+          form.PopUp.Connect([this, &form](std::string_view name) { popUps_.emplace_back(&form, name); }));
       shown_.push_back(form.Visible.Changed.Connect([&form] {
         if (form.Visible) form.Activate();
       }));
@@ -151,6 +142,11 @@ class FormDriver : public Driver {
     if (auto* option = dynamic_cast<OptionButton*>(shown)) {
       option->SetFocus();
       option->Value = true;
+      return true;
+    }
+    if (auto* label = dynamic_cast<ToggleLabel*>(shown)) {
+      label->SetFocus();
+      label->Click();
       return true;
     }
     if (auto* picture = dynamic_cast<PictureBox*>(shown)) {
@@ -303,11 +299,11 @@ class FormDriver : public Driver {
 
   /// Whatever the user does next, a menu that is open closes.
   void ClosePopUps() {
-    for (const std::string& name : std::exchange(popUps_, {})) application_.editor()->PopUpClosed(name);
+    for (const auto& [form, name] : std::exchange(popUps_, {})) form->PopUpClosed(name);
   }
 
   static bool RunShortcut(Component& control, std::string_view chord) {
-    const Menus* menus = MenusOf(FormOf(control));
+    const Menus* menus = FormOf(control).MenuBar();
     MenuItem* item = menus ? menus->WithShortcut(chord) : nullptr;
     return item && Run(*item);
   }
@@ -315,7 +311,7 @@ class FormDriver : public Driver {
   Application& application_;
   Connection loaded_;
   std::vector<Connection> shown_;
-  std::vector<std::string> popUps_;
+  std::vector<std::pair<Form*, std::string>> popUps_;
 };
 
 }  // namespace

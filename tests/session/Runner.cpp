@@ -284,9 +284,8 @@ void Runner::Start(const Line& line) {
   platform_ = std::make_unique<Platform>(outside_.Process(files_, commandLine));
   application_ = std::make_unique<Application>(*platform_);
   driver_ = makeDriver_(*application_);
-  editorLoaded_ = application_->Loaded.Connect([this](Form& form) {
-    auto* const editor = dynamic_cast<Editor*>(&form);
-    if (editor) poppedUp_ = editor->PopUp.Connect([this](std::string_view name) { popUp_ = name; });
+  formLoaded_ = application_->Loaded.Connect([this](Form& form) {
+    poppedUp_.push_back(form.PopUp.Connect([this](std::string_view name) { popUp_ = name; }));
   });
   application_->Start();
 }

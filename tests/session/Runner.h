@@ -105,8 +105,8 @@ class Runner {
   std::unique_ptr<Application> application_;
   std::unique_ptr<Driver> driver_;
   std::map<Timer*, int> elapsed_;  // milliseconds since a running timer last fired
-  Connection editorLoaded_;
-  Connection poppedUp_;
+  Connection formLoaded_;
+  std::vector<Connection> poppedUp_;
   std::string popUp_;
   std::vector<std::string> failures_;
   std::vector<Line> lines_;
