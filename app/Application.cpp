@@ -52,6 +52,7 @@ bool Application::CloseEditor() {
   editor_->Form_Unload();
   UnloadTools(kToolsOfEditor);
   Unloading(*editor_);
+  if (active_ == editor_.get()) active_ = nullptr;
   editor_.reset();
   return true;
 }
@@ -72,8 +73,20 @@ bool Application::CloseMum() {
 void Application::LoadTool(std::unique_ptr<Form> form) {
   unloaded_.clear();
   Form& loaded = *tools_.emplace_back(std::move(form));
+  shown_.push_back(loaded.Visible.Changed.Connect([this, &loaded] {
+    if (!loaded.Visible && active_ == &loaded) active_ = nullptr;
+  }));
   Loaded(loaded);
   loaded.Load();
+}
+
+void Application::Activated(Form& form) {
+  const bool toMain = &form == editor_.get() || &form == mum_.get();
+  Form& now = toMain && editor_ ? *editor_ : form;
+  Form* const left = std::exchange(active_, &now);
+  if (left == active_) return;
+  if (left && toMain) left->Deactivate();
+  now.Activate();
 }
 
 void Application::ShowModal(Form& form) {
@@ -92,6 +105,7 @@ void Application::Unload(Form& form) {
   tools_.erase(at);
   last->Unload();
   last->Visible = false;
+  if (active_ == last.get()) active_ = nullptr;
   Unloading(*last);
   unloaded_.push_back(std::move(last));
 }

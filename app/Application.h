@@ -60,6 +60,10 @@ class Application {
     }
     return nullptr;
   }
+  /// For whatever shows the forms: the user is at this form now. It hears of it, and so does the tool that was
+  /// left for the editor or the frame.
+  void Activated(Form& form);
+
   /// Shows a tool's form and returns when it is hidden or unloaded; other forms take no input till then.
   void ShowModal(Form& form);
   /// Ends a tool's form. A handler of that form touches it no more afterwards.
@@ -87,6 +91,8 @@ class Application {
   std::unique_ptr<Editor> editor_;
   std::vector<std::unique_ptr<Form>> tools_;
   std::vector<std::unique_ptr<Form>> unloaded_;  // their handlers may still run
+  std::vector<Connection> shown_;
+  Form* active_ = nullptr;
   bool ended_ = false;
 };
 

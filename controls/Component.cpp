@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 namespace tarvik {
 namespace {
@@ -39,6 +40,18 @@ bool ParseText(std::string_view text, float& value) { return ParseNumber(text, v
 bool ParseText(std::string_view text, std::string& value) {
   value = text;
   return true;
+}
+
+double NumberIn(std::string_view text) {
+  std::string number;
+  for (const char c : text) {
+    if (c != ' ' && (c != '+' || !number.empty())) number += c;
+  }
+  const bool word = number.find_first_of("0123456789.") > 1;  // "inf" is no number here
+  double value = 0;
+  const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
+  if (word) return 0;
+  return read.ec == std::errc::result_out_of_range ? HUGE_VAL : value;
 }
 
 PropertyBase::PropertyBase(Component& owner, std::string_view name) : name_(name) {

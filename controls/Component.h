@@ -28,6 +28,9 @@ bool ParseText(std::string_view text, std::size_t& value);
 bool ParseText(std::string_view text, float& value);
 bool ParseText(std::string_view text, std::string& value);
 
+/// The number that a text begins with, blanks aside; 0 where it begins with none.
+double NumberIn(std::string_view text);
+
 class PropertyBase {
  public:
   PropertyBase(Component& owner, std::string_view name);

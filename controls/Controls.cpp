@@ -64,9 +64,11 @@ std::string ListBox::Current() const {
   return ListIndex >= 0 && ListIndex < ListCount() ? List(ListIndex) : std::string();
 }
 
-void ListBox::Fill(std::vector<std::string> items) {
+void ListBox::Fill(std::vector<std::string> items) { FillInOrder(Sorted(std::move(items))); }
+
+void ListBox::FillInOrder(std::vector<std::string> items) {
   ListIndex = -1;
-  items_ = Sorted(std::move(items));
+  items_ = std::move(items);
   ticks_.assign(items_.size(), false);
   ItemsChanged();
 }
@@ -91,9 +93,11 @@ std::string ComboBox::Text() const {
                                                    : std::string();
 }
 
-void ComboBox::Fill(std::vector<std::string> items) {
+void ComboBox::Fill(std::vector<std::string> items) { FillInOrder(Sorted(std::move(items))); }
+
+void ComboBox::FillInOrder(std::vector<std::string> items) {
   ListIndex = -1;
-  items_ = Sorted(std::move(items));
+  items_ = std::move(items);
   ItemsChanged();
 }
 
@@ -151,6 +155,13 @@ void TextBox::SelectAll() {
   SelLength = text_.size();
 }
 
+void TextBox::ReplaceSelection(const std::string& text) {
+  std::string whole = text_;
+  const std::size_t start = std::min<std::size_t>(SelStart, whole.size());
+  whole.replace(start, SelLength, text);
+  SetText(whole, start + text.size());
+}
+
 void EntryBox::AddItem(const std::string& item) {
   items_.push_back(item);
   ItemsChanged();
@@ -166,8 +177,13 @@ void EntryBox::Pick(int index) {
   Click();
 }
 
-TabPages::TabPages(Component& parent, std::string_view name, std::vector<std::string> captions)
-    : Control(parent, name), captions_(std::move(captions)) {}
+TabPages::TabPages(Component& parent, std::string_view name, const std::vector<std::string>& captions)
+    : Control(parent, name) {
+  for (const std::string& caption : captions) {
+    pages_.push_back(std::make_unique<Page>(*this, "Pages", Count()));
+    pages_.back()->Caption = caption;
+  }
+}
 
 void TabPages::Set(int tab) {
   if (tab == tab_) return;

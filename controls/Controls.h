@@ -147,6 +147,10 @@ class TextBox : public Control {
                               [this](const std::string& text) { SetText(text, 0); }};
   Property<std::size_t> SelStart{*this, "SelStart", 0};
   Property<std::size_t> SelLength{*this, "SelLength", 0};
+  /// Setting it replaces what is selected; the caret goes behind the new text.
+  Attribute<std::string> SelText{*this, "SelText", [this] { return text_.substr(SelStart, SelLength); },
+                                 [this](const std::string& text) { ReplaceSelection(text); }};
+  Property<unsigned> BackColor{*this, "BackColor", 0xFFFFFFU};  ///< white is whatever the desktop makes of it
   /// The text changed, by the user or by code.
   Event<> Change{*this, "Change"};
 
@@ -156,6 +160,8 @@ class TextBox : public Control {
   [[nodiscard]] bool Empty() const { return text_.empty(); }
 
  private:
+  void ReplaceSelection(const std::string& text);
+
   std::string text_;
 };
 
@@ -182,9 +188,18 @@ class EntryBox : public TextBox {
 /// Pages on top of one another, each behind its tab.
 class TabPages : public Control {
  public:
-  TabPages(Component& parent, std::string_view name, std::vector<std::string> captions);
+  class Page : public Component {
+   public:
+    using Component::Component;
+    Property<std::string> Caption{*this, "Caption"};
+    Property<bool> Visible{*this, "Visible", true};
+  };
 
-  [[nodiscard]] const std::vector<std::string>& Captions() const { return captions_; }
+  TabPages(Component& parent, std::string_view name, const std::vector<std::string>& captions);
+
+  /// 0-based.
+  [[nodiscard]] Page& Pages(int index) const { return *pages_[static_cast<std::size_t>(index)]; }
+  [[nodiscard]] int Count() const { return static_cast<int>(pages_.size()); }
   /// The page on show, 0-based.
   Attribute<int> Tab{*this, "Tab", [this] { return tab_; }, [this](int tab) { Set(tab); }};
   /// After every change of Tab, by the user or by code.
@@ -193,7 +208,7 @@ class TabPages : public Control {
  private:
   void Set(int tab);
 
-  std::vector<std::string> captions_;
+  std::vector<std::unique_ptr<Page>> pages_;
   int tab_ = 0;
 };
 
@@ -202,6 +217,8 @@ class Label : public Control {
   using Control::Control;
   Property<std::string> Caption{*this, "Caption"};
   Property<unsigned> BackColor{*this, "BackColor", 0xFFFFFFU};
+  Property<int> BorderStyle{*this, "BorderStyle", 0};  ///< 1 with a line around it
+  Event<> Click{*this, "Click"};
 };
 
 /// Tells by its back colour whether it is on: a lamp, or a switch that its handler turns.
@@ -219,7 +236,6 @@ class ToggleLabel : public Label {
   }
   [[nodiscard]] bool On() const { return BackColor == kOn; }
   void Turn(bool on) { BackColor = on ? kOn : kOff; }
-  Event<> Click{*this, "Click"};
 };
 
 class Frame : public Control {
@@ -244,7 +260,7 @@ class ProgressBar : public Control {
   Property<int> Value{*this, "Value", 0};
 };
 
-/// A sorted list of texts, each of which can bear a tick.
+/// A list of texts, sorted or in an order of their own, each of which can bear a tick.
 class ListBox : public Control {
  public:
   using Control::Control;
@@ -258,6 +274,7 @@ class ListBox : public Control {
 
   /// Takes the items and sorts them, with nothing selected and nothing ticked.
   void Fill(std::vector<std::string> items);
+  void FillInOrder(std::vector<std::string> items);
   void Clear() { Fill({}); }
   /// One tick for each item, in the order of the list.
   void Tick(std::vector<bool> ticks);
@@ -281,7 +298,7 @@ class ListBox : public Control {
   std::vector<bool> ticks_;
 };
 
-/// A drop-down list of sorted texts, with no free typing.
+/// A drop-down list of texts, with no free typing.
 class ComboBox : public Control {
  public:
   using Control::Control;
@@ -291,6 +308,7 @@ class ComboBox : public Control {
   [[nodiscard]] std::string Text() const;
 
   void Fill(std::vector<std::string> items);
+  void FillInOrder(std::vector<std::string> items);
   void Clear() { Fill({}); }
   /// Selects the item and fires Click, also when it is selected already.
   void Select(int index);

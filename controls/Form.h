@@ -36,7 +36,9 @@ class Form : public Component {
   Event<> Load{*this, "Load"};
   Event<> Unload{*this, "Unload"};
   Event<> Resize{*this, "Resize"};
+  /// It became the one form of the program that the user is at, or was shown anew.
   Event<> Activate{*this, "Activate"};
+  /// The user has gone on from it to the main window.
   Event<> Deactivate{*this, "Deactivate"};
   /// A key in any of the form's controls, before the control hears of it.
   Event<Key&> KeyDown{*this, "KeyDown"};
@@ -46,6 +48,22 @@ class Form : public Component {
   /// For whatever shows a pop-up menu at the pointer or the caret; it tells when the menu has closed.
   Signal<std::string_view> PopUp;
   virtual void PopUpClosed(std::string_view /*name*/) {}
+
+  /// Puts its window there, in twips.
+  void MoveTo(float left, float top) {
+    Left = left;
+    Top = top;
+    Moved();
+  }
+  Signal<> Moved;
+
+  /// Shows it, whole and in front of the others.
+  void Show() {
+    Visible = true;
+    WindowState = 0;
+    Raised();
+  }
+  Signal<> Raised;
 
   /// The control with the focus, or null.
   [[nodiscard]] Control* ActiveControl() const { return active_; }

@@ -1,7 +1,6 @@
 #include "language/FindAndReplace.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 #include "app/Editor.h"
@@ -18,19 +17,6 @@ enum Tab { kFindTab, kReplaceTab, kGotoTab };
 constexpr int kTopics[] = {3110, 3120, 3130};
 
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
-
-/// The number that a text begins with, blanks aside; 0 where it begins with none.
-double NumberIn(const std::string& text) {
-  std::string number;
-  for (const char c : text) {
-    if (c != ' ' && (c != '+' || !number.empty())) number += c;
-  }
-  const bool word = number.find_first_of("0123456789.") > 1;  // "inf" is no number here
-  double value = 0;
-  const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
-  if (word) return 0;
-  return read.ec == std::errc::result_out_of_range ? HUGE_VAL : value;
-}
 
 /// Where a line begins, counted from 1; nothing where the text has fewer.
 std::optional<std::size_t> StartOfLine(std::string_view text, std::size_t line) {
@@ -330,7 +316,7 @@ void FindAndReplace::Command6_Click() {
 void FindAndReplace::Command7_Click() {
   Document& document = editor_.Joystick;
   const std::string_view text = document.text.Characters();
-  const double line = std::floor(NumberIn(LineToFind.Text));
+  const double line = std::floor(NumberIn(LineToFind.Text.Get()));
   if (line < 1 || line > static_cast<double>(document.text.GetLineFromChar(text.size()) + 1)) {
     Show("Check the value you entered!", "The line number is invalid");
     LineToFind.SetFocus();

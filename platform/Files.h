@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Outcome.h"
 
@@ -17,6 +18,11 @@ class Files {
   /// wildcards, empty) is simply a file that does not exist.
   [[nodiscard]] virtual bool FileExists(std::string_view path) const = 0;
   [[nodiscard]] virtual bool FolderExists(std::string_view path) const = 0;
+
+  /// The names of the folder's files that end so, as ".rtf", in whatever case; sorted. None where there is no
+  /// such folder.
+  [[nodiscard]] virtual std::vector<std::string> FilesIn(std::string_view folder,
+                                                         std::string_view ending) const = 0;
 
   /// The whole content, byte for byte.
   [[nodiscard]] virtual Outcome<std::string> Read(std::string_view path) const = 0;

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <chrono>
@@ -12,6 +13,8 @@
 #include <optional>
 #include <system_error>
 #include <utility>
+
+#include "platform/CodePage.h"
 
 namespace tarvik {
 namespace {
@@ -229,6 +232,19 @@ bool HostFiles::FolderExists(std::string_view path) const {
   const auto host = drives_.ToHost(path);
   const auto status = host ? StatusOf(*host) : std::nullopt;
   return status && S_ISDIR(status->st_mode);
+}
+
+std::vector<std::string> HostFiles::FilesIn(std::string_view folder, std::string_view ending) const {
+  std::vector<std::string> names;
+  const auto host = drives_.ToHost(folder);
+  std::error_code error;
+  for (fs::directory_iterator at(host.value_or(fs::path()), error), end; !error && at != end; at.increment(error)) {
+    const std::string path = drives_.FromHost(at->path());
+    std::string name = path.substr(path.rfind('\\') + 1);
+    if (LowerCase(name).ends_with(LowerCase(ending)) && FileExists(path)) names.push_back(std::move(name));
+  }
+  std::sort(names.begin(), names.end(), SortsBefore);
+  return names;
 }
 
 Outcome<std::string> HostFiles::Read(std::string_view path) const {

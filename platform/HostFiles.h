@@ -17,6 +17,8 @@ class HostFiles : public Files {
 
   [[nodiscard]] bool FileExists(std::string_view path) const override;
   [[nodiscard]] bool FolderExists(std::string_view path) const override;
+  [[nodiscard]] std::vector<std::string> FilesIn(std::string_view folder,
+                                                 std::string_view ending) const override;
   [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
 
   /// A link stays a link: the file it leads to is replaced. A file keeps its mode and, as far as the system

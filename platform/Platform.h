@@ -61,6 +61,14 @@ class Clipboard {
   std::function<void()> changed;
 };
 
+/// Other programs of the desktop.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+  /// Opens the file in the program that the desktop has for it, and does not wait.
+  virtual Outcome<> Open(const std::string& path) = 0;
+};
+
 /// The help window of the program.
 class Help {
  public:
@@ -102,6 +110,7 @@ struct Platform {
   Help& help;
   Calendar& calendar;
   Printer& printer;
+  Desktop& desktop;
   ScreenSize screen;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 #include <cmath>
 
 #include "screen/Icons.h"
@@ -308,32 +309,55 @@ void Bindings::BindTab(Tab& tab, QTabBar& widget, int index) {
 }
 
 void Bindings::BindText(TextBox& box, QLineEdit& line) {
-  const auto place = [&line](int position) { return FromScreen(line.text().left(position)).size(); };
-  Bind(
-      box.Text,
-      [&] {
-        const QString text = ToScreen(box.Text.Get());
-        if (text == line.text()) return;
-        const int caret = line.cursorPosition();
-        line.setText(text);
-        if (line.hasFocus()) line.setCursorPosition(caret);
-      },
-      [&] { return FromScreen(line.text()); });
-  const auto showSelection = [&] {
+  const auto place = [&line](qsizetype position) { return FromScreen(line.text().left(position)).size(); };
+  const auto start = [&line, place] {
+    return place(line.hasSelectedText() ? line.selectionStart() : line.cursorPosition());
+  };
+  const auto length = [&line] { return FromScreen(line.selectedText()).size(); };
+  const auto busy = std::make_shared<bool>(false);  // one of the two is taking over from the other
+  const auto showSelection = [&box, &line, busy] {
+    if (*busy) return;
+    const QScopedValueRollback rollback(*busy, true);
     const std::string text = box.Text;
     const auto shown = [&text](std::size_t position) {
       return static_cast<int>(ToScreen(std::string_view(text).substr(0, position)).size());
     };
-    const int start = shown(box.SelStart);
-    const int end = shown(box.SelStart + box.SelLength);
-    line.setCursorPosition(start);
-    if (end > start) line.setSelection(start, end - start);
+    const int from = shown(box.SelStart);
+    const int to = shown(box.SelStart + box.SelLength);
+    line.setCursorPosition(from);
+    if (to > from) line.setSelection(from, to - from);
   };
-  const auto start = [&line, place] {
-    return place(line.hasSelectedText() ? line.selectionStart() : line.cursorPosition());
+  const auto takeSelection = [&box, busy, start, length] {
+    if (*busy) return;
+    const QScopedValueRollback rollback(*busy, true);
+    box.SelStart = start();
+    box.SelLength = length();
   };
+  Bind(
+      box.Text,
+      [&box, &line, busy, showSelection] {
+        const QString text = ToScreen(box.Text.Get());
+        if (text == line.text()) return;
+        {
+          const QScopedValueRollback rollback(*busy, true);
+          line.setText(text);
+        }
+        showSelection();
+      },
+      [&] { return FromScreen(line.text()); });
   Bind(box.SelStart, showSelection, [start] { return TextOf(start()); });
-  Bind(box.SelLength, showSelection, [&] { return TextOf(FromScreen(line.selectedText()).size()); });
+  Bind(box.SelLength, showSelection, [length] { return TextOf(length()); });
+  Bind(box.BackColor, [&] {
+    constexpr Colour kWhite = 0xFFFFFF;
+    QPalette palette = QApplication::palette(&line);
+    if (box.BackColor != kWhite) {
+      palette.setColor(QPalette::Base, ToScreenColour(box.BackColor.Get()));
+      palette.setColor(QPalette::Text, Qt::black);
+    }
+    line.setPalette(palette);
+  });
+  QObject::connect(&line, &QLineEdit::cursorPositionChanged, &line, takeSelection);
+  QObject::connect(&line, &QLineEdit::selectionChanged, &line, takeSelection);
   QObject::connect(&line, &QLineEdit::textEdited, &line, [&box, &line, place] {
     box.SetText(FromScreen(line.text()), place(line.cursorPosition()));
   });
@@ -387,6 +411,15 @@ void Bindings::Bind(OptionButton& button, QAbstractButton& widget) {
 
 void Bindings::Bind(TabPages& pages, QTabWidget& widget) {
   BindControl(pages, widget);
+  for (int i = 0; i < pages.Count(); ++i) {
+    TabPages::Page& page = pages.Pages(i);
+    Bind(
+        page.Caption, [&page, &widget, i] { widget.setTabText(i, ToScreen(page.Caption.Get())); },
+        [&widget, i] { return FromScreen(widget.tabText(i)); });
+    Bind(
+        page.Visible, [&page, &widget, i] { widget.setTabVisible(i, page.Visible); },
+        [&widget, i] { return TextOf(widget.isTabVisible(i)); });
+  }
   Bind(
       pages.Tab, [&] { widget.setCurrentIndex(pages.Tab); }, [&] { return TextOf(widget.currentIndex()); });
   QObject::connect(&widget, &QTabWidget::currentChanged, &widget, [&](int index) { pages.Tab = index; });

@@ -78,7 +78,10 @@ void EditorView::MakeMacroFrame() {
   auto* const categories = new QComboBox(frame);
   bindings_.Bind(editor_.Combo1, *categories);
   bindings_.Place(editor_.Combo1, *categories, kTwips);
-  list_ = new MacroListView(editor_, bindings_, frame);
+  list_ = new ListStack(bindings_, tr("Macros"), true);
+  list_->setParent(frame);
+  list_->Add(editor_.List1);
+  bindings_.Place(editor_.List1(0), *list_, kTwips);
   for (int i = 0; i < Editor::kModifierButtons; ++i) {
     auto* const button = new QToolButton(frame);
     button->setFocusPolicy(Qt::TabFocus);

@@ -3,8 +3,9 @@
 
 #include <QFrame>
 
+#include "app/Editor.h"
 #include "screen/FormView.h"
-#include "screen/MacroListView.h"
+#include "screen/ListStack.h"
 #include "screen/MenuBuilder.h"
 #include "screen/PaneView.h"
 
@@ -32,7 +33,7 @@ class EditorView : public QWidget, public FormView {
   Editor& editor_;
   std::vector<std::unique_ptr<QMenu>> menus_;
   std::vector<std::unique_ptr<QMenu>> popUps_;
-  MacroListView* list_ = nullptr;
+  ListStack* list_ = nullptr;
   QTabBar* tabs_ = nullptr;
   PaneView* panes_[2] = {};
 };

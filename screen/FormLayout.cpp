@@ -1,12 +1,14 @@
 #include "screen/FormLayout.h"
 
 #include <QCheckBox>
+#include <QGroupBox>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTabWidget>
 
+#include "screen/ListStack.h"
 #include "screen/PaneView.h"
 #include "screen/Text.h"
 
@@ -126,14 +128,27 @@ QWidget* FormLayout::Show(Pane& pane) const {
   return view;
 }
 
-QWidget* FormLayout::Show(TabPages& pages, std::initializer_list<QLayout*> layouts) const {
+QWidget* FormLayout::Show(ComboBox& box) const { return Shown<QComboBox>(bindings_, box); }
+
+QWidget* FormLayout::Show(ListBox& list) const {
+  auto* const view = new ListStack(bindings_, ToScreen(list.FullName()), false);
+  view->Add(list);
+  return view;
+}
+
+QWidget* FormLayout::Show(ControlArray<ListBox>& lists, const char* name, bool ticks) const {
+  auto* const view = new ListStack(bindings_, QString::fromUtf8(name), ticks);
+  view->Add(lists);
+  return view;
+}
+
+QWidget* FormLayout::Show(TabPages& pages, const std::vector<QLayout*>& layouts) const {
   auto* const tabs = new QTabWidget;
   tabs->setAccessibleName(QStringLiteral("Pages"));
-  auto caption = pages.Captions().begin();
   for (QLayout* const layout : layouts) {
     auto* const page = new QWidget;
     page->setLayout(layout);
-    tabs->addTab(page, ToScreen(*caption++));
+    tabs->addTab(page, QString());
   }
   bindings_.Bind(pages, *tabs);
   return tabs;
@@ -141,6 +156,12 @@ QWidget* FormLayout::Show(TabPages& pages, std::initializer_list<QLayout*> layou
 
 QLayout* Column(std::initializer_list<Piece> pieces) { return Fill(new QVBoxLayout, pieces); }
 QLayout* Row(std::initializer_list<Piece> pieces) { return Fill(new QHBoxLayout, pieces); }
+
+QWidget* Group(const char* title, QLayout* layout) {
+  auto* const box = new QGroupBox(QString::fromUtf8(title));
+  box->setLayout(layout);
+  return box;
+}
 
 QWidget* Named(QWidget* control, const QString& name) {
   control->setAccessibleName(name);

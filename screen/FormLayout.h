@@ -27,8 +27,12 @@ class FormLayout {
   QWidget* Show(ToggleLabel& label) const;
   QWidget* Show(Label& label) const;
   QWidget* Show(Pane& pane) const;
+  QWidget* Show(ComboBox& box) const;
+  QWidget* Show(ListBox& list) const;
+  /// Lists that stand on one another.
+  QWidget* Show(ControlArray<ListBox>& lists, const char* name, bool ticks = false) const;
   /// The pages in the order of the tabs.
-  QWidget* Show(TabPages& pages, std::initializer_list<QLayout*> layouts) const;
+  QWidget* Show(TabPages& pages, const std::vector<QLayout*>& layouts) const;
 
  private:
   Bindings& bindings_;
@@ -36,6 +40,9 @@ class FormLayout {
 
 [[nodiscard]] QLayout* Column(std::initializer_list<Piece> pieces);
 [[nodiscard]] QLayout* Row(std::initializer_list<Piece> pieces);
+
+/// A box with a title around it.
+[[nodiscard]] QWidget* Group(const char* title, QLayout* layout);
 
 /// The control, which is to be read out under the name.
 QWidget* Named(QWidget* control, const QString& name);

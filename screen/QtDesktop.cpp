@@ -2,9 +2,12 @@
 
 #include <QClipboard>
 #include <QDate>
+#include <QDesktopServices>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QMimeData>
+#include <QUrl>
 
 #include "screen/HelpWindow.h"
 #include "screen/Text.h"
@@ -65,6 +68,13 @@ std::string QtClipboard::Text() {
 std::string QtClipboard::Rtf() { return RtfIn(Content()).toStdString(); }
 
 // The calendar.
+
+Outcome<> QtDesktop::Open(const std::string& path) {
+  const auto host = drives_.ToHost(path);
+  const bool opened = host && QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(host->c_str())));
+  if (!opened) return Failure{error::kFileNotFound, "File not found", 0};
+  return Done{};
+}
 
 std::string QtCalendar::ShortDate() const {
   return FromScreen(QLocale::system().toString(QDate::currentDate(), QLocale::ShortFormat));

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include "platform/Drives.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"
 
@@ -25,6 +26,15 @@ class QtClipboard : public QObject, public Clipboard {
   void Look();
 
   bool hasText_ = false;
+};
+
+class QtDesktop : public Desktop {
+ public:
+  explicit QtDesktop(const Drives& drives) : drives_(drives) {}
+  Outcome<> Open(const std::string& path) override;
+
+ private:
+  const Drives& drives_;
 };
 
 class QtCalendar : public Calendar {

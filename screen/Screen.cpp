@@ -1,6 +1,7 @@
 #include "screen/Screen.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QWindow>
 #include <algorithm>
 
 #include "screen/ColourSelectorView.h"
@@ -15,6 +16,18 @@ Screen::Screen(Application& application, Clock clock) : application_(application
       application.Loaded.Connect([this](Form& form) { Show(form); }),
       application.Unloading.Connect([this](Form& form) { Unload(form); }),
   };
+  QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &context_,
+                   [this](const QWindow* window) { TellActive(window); });
+}
+
+/// The frame is the editor's window, as long as there is an editor.
+void Screen::TellActive(const QWindow* window) {
+  for (FormView* const view : views_) {
+    const auto* const widget = dynamic_cast<QWidget*>(view);
+    if (!window || !widget || widget->window()->windowHandle() != window) continue;
+    application_.Activated(view->form());
+    return;
+  }
 }
 
 Screen::~Screen() {

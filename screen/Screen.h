@@ -29,12 +29,14 @@ class Screen {
  private:
   void Show(Form& form);
   void Unload(const Form& form);
+  void TellActive(const QWindow* window);
 
   Application& application_;
   Clock clock_;
   MumWindow* frame_ = nullptr;
   std::vector<FormView*> views_;  // each ends itself when it retires
   std::vector<Connection> connections_;
+  QObject context_;
 };
 
 }  // namespace tarvik::screen

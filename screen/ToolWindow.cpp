@@ -27,6 +27,15 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
       form.Caption, [this] { setWindowTitle(ToScreen(this->form().Caption.Get()).trimmed()); },
       [this] { return this->form().Caption.ToText(); });
   bindings_.Bind(form.Topmost, [this] { ShowTopmost(); });
+  bindings_.Keep(form.Moved.Connect([this] {
+    placed_ = true;
+    if (isVisible()) move(PlaceOfForm());
+  }));
+  bindings_.Keep(form.Raised.Connect([this] {
+    if (isMinimized()) showNormal();
+    raise();
+    activateWindow();
+  }));
   bindings_.Bind(
       form.Visible, [this] { ShowWindow(); }, [this] { return TextOf(isVisible()); });
 }
@@ -45,7 +54,8 @@ void ToolWindow::ShowWindow() {
     return;
   }
   setModal(form().Modal);
-  if (!isVisible() && !form().Modal) move(PlaceBeside());
+  setWindowFlag(Qt::WindowMinimizeButtonHint, !form().Modal);
+  if (!isVisible() && !form().Modal) move(placed_ ? PlaceOfForm() : PlaceBeside());
   show();
   raise();
   activateWindow();
@@ -56,6 +66,28 @@ QPoint ToolWindow::PlaceBeside() {
   adjustSize();
   const QRect frame = frame_.geometry();
   return {std::max(frame.left(), frame.right() - width() - kFromTheRight), frame.top() + kFromTheTop};
+}
+
+/// Where it is within reach, whatever screen it stood on before.
+QPoint ToolWindow::PlaceOfForm() const {
+  constexpr int kWithinReach = 80;
+  const QRect screen = frame_.screen()->availableGeometry();
+  const auto within = [](float twips, int low, int high) {
+    return std::clamp(ToPixels(twips, kTwips), low, std::max(low, high - kWithinReach));
+  };
+  return {within(form().Left, screen.left(), screen.right()), within(form().Top, screen.top(), screen.bottom())};
+}
+
+void ToolWindow::moveEvent(QMoveEvent* event) {
+  QDialog::moveEvent(event);
+  if (!isVisible() || isMinimized() || isMaximized()) return;
+  form().Left = static_cast<float>(pos().x()) * kTwips;
+  form().Top = static_cast<float>(pos().y()) * kTwips;
+}
+
+void ToolWindow::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) form().WindowState = isMinimized() ? 1 : isMaximized() ? 2 : 0;
 }
 
 /// A window that is not topmost may be covered by the frame.
@@ -70,7 +102,7 @@ void ToolWindow::ShowTopmost() {
 
 void ToolWindow::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
-  if (!event->spontaneous()) form().Activate();
+  if (!event->spontaneous()) application_.Activated(form());
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

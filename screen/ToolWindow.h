@@ -26,6 +26,8 @@ class ToolWindow : public QDialog, public FormView {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void changeEvent(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -33,11 +35,13 @@ class ToolWindow : public QDialog, public FormView {
   void ShowWindow();
   void ShowTopmost();
   [[nodiscard]] QPoint PlaceBeside();
+  [[nodiscard]] QPoint PlaceOfForm() const;
   [[nodiscard]] bool FormTakes(const QKeyEvent& event);
 
   Application& application_;
   QWidget& frame_;
   std::vector<std::unique_ptr<QMenu>> menus_;
+  bool placed_ = false;  // by its form
 };
 
 /// The page of the form's window, or nothing for a form that is shown in another way.

@@ -82,6 +82,7 @@ int main(int argc, char* argv[]) {
   screen::QtHelp help(files);
   screen::QtPrinter printer;
   screen::QtCalendar calendar;
+  screen::QtDesktop desktop(drives);
   Platform platform{files,
                     dialogs,
                     lock,
@@ -89,6 +90,7 @@ int main(int argc, char* argv[]) {
                     help,
                     calendar,
                     printer,
+                    desktop,
                     SizeOfScreen(),
                     drives.FromHost(home),
                     CommandLine(QApplication::arguments().mid(1), drives)};

@@ -104,19 +104,23 @@ class Typing {
 
 class FormDriver : public Driver {
  public:
-  /// A form that comes up is the active one.
+  /// A form that comes up, or a control of which gets the focus, is the active one.
   explicit FormDriver(Application& application) : application_(application) {
     loaded_ = application.Loaded.Connect([this](Form& form) {
       shown_.push_back(
           form.PopUp.Connect([this, &form](std::string_view name) { popUps_.emplace_back(&form, name); }));
-      shown_.push_back(form.Visible.Changed.Connect([&form] {
-        if (form.Visible) form.Activate();
-      }));
+      const auto activated = [this, &form] {
+        if (form.Visible) application_.Activated(form);
+      };
+      shown_.push_back(form.Visible.Changed.Connect(activated));
+      shown_.push_back(form.Raised.Connect(activated));
+      shown_.push_back(form.ActiveControlChanged.Connect(activated));
     });
   }
 
   bool Click(Component& control) override {
     ClosePopUps();
+    application_.Activated(FormOf(control));
     if (auto* item = dynamic_cast<MenuItem*>(&control)) return Run(*item);
     if (auto* button = dynamic_cast<ToolbarButton*>(&control)) return Run(*button);
     if (auto* tab = dynamic_cast<Tab*>(&control)) {
@@ -144,7 +148,7 @@ class FormDriver : public Driver {
       option->Value = true;
       return true;
     }
-    if (auto* label = dynamic_cast<ToggleLabel*>(shown)) {
+    if (auto* label = dynamic_cast<Label*>(shown)) {
       label->SetFocus();
       label->Click();
       return true;
@@ -157,12 +161,14 @@ class FormDriver : public Driver {
   }
 
   bool DoubleClick(Component& control) override {
+    application_.Activated(FormOf(control));
     if (auto* list = dynamic_cast<ListBox*>(&control)) return list->Visible && (list->DblClick(), true);
     if (auto* frame = dynamic_cast<Frame*>(&control)) return frame->Visible && (frame->DblClick(), true);
     return false;
   }
 
   bool RightClick(Component& control) override {
+    application_.Activated(FormOf(control));
     auto* shown = dynamic_cast<Control*>(&control);
     if (!shown || !shown->Visible) return false;
     shown->MouseDown({2, 0, 0, 0});
@@ -170,6 +176,7 @@ class FormDriver : public Driver {
   }
 
   bool Pick(Component& control, int index) override {
+    application_.Activated(FormOf(control));
     if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
       combo->Select(index);
       return true;
@@ -185,6 +192,7 @@ class FormDriver : public Driver {
       return true;
     }
     if (auto* pages = dynamic_cast<TabPages*>(&control)) {
+      if (index >= pages->Count() || !pages->Pages(index).Visible) return false;
       pages->Tab = index;
       return true;
     }
@@ -198,6 +206,7 @@ class FormDriver : public Driver {
 
   bool Type(Control& control, std::string_view text) override {
     ClosePopUps();
+    application_.Activated(FormOf(control));
     if (!control.Visible || !control.Enabled) return false;
     control.SetFocus();
     if (auto* box = dynamic_cast<TextBox*>(&control)) return TypeIn(*box, text), true;
@@ -215,6 +224,7 @@ class FormDriver : public Driver {
 
   bool PressKey(Component& control, std::string_view chord) override {
     ClosePopUps();
+    application_.Activated(FormOf(control));
     Key key = ParseChord(chord);
     Form& form = FormOf(control);
     Key previewed = key;
@@ -289,12 +299,7 @@ class FormDriver : public Driver {
   }
 
   static void TypeIn(TextBox& box, std::string_view text) {
-    for (const char c : text) {
-      std::string typed = box.Text;
-      const std::size_t at = std::min<std::size_t>(box.SelStart, typed.size());
-      typed.replace(at, box.SelLength, 1, c);
-      box.SetText(typed, at + 1);
-    }
+    for (const char c : text) box.SelText = std::string(1, c);
   }
 
   /// Whatever the user does next, a menu that is open closes.

@@ -349,7 +349,9 @@ int Runner::ItemIndex(Component& control, const std::string& item) {
   if (auto* list = dynamic_cast<ListBox*>(&control)) items = list->List();
   if (auto* combo = dynamic_cast<ComboBox*>(&control)) items = combo->List();
   if (auto* entry = dynamic_cast<EntryBox*>(&control)) items = entry->List();
-  if (auto* pages = dynamic_cast<TabPages*>(&control)) items = pages->Captions();
+  if (auto* pages = dynamic_cast<TabPages*>(&control)) {
+    for (int i = 0; i < pages->Count(); ++i) items.push_back(pages->Pages(i).Caption);
+  }
   if (auto* strip = dynamic_cast<TabStrip*>(&control)) {
     for (int i = 1; i <= strip->Count(); ++i) items.push_back(strip->Tabs(i).Caption);
   }

@@ -84,6 +84,17 @@ bool MemoryFiles::FolderExists(std::string_view path) const {
   return entry && entry->isFolder;
 }
 
+std::vector<std::string> MemoryFiles::FilesIn(std::string_view folder, std::string_view ending) const {
+  std::vector<std::string> names;
+  const auto whole = current_.Complete(folder);
+  const std::string inside = whole ? whole->Text() + "\\" : "";
+  for (const auto& [path, entry] : entries_) {
+    const std::string name = path.starts_with(inside) ? path.substr(inside.size()) : "";
+    if (!entry.isFolder && name.find('\\') == std::string::npos && name.ends_with(ending)) names.push_back(name);
+  }
+  return names;
+}
+
 Outcome<std::string> MemoryFiles::Read(std::string_view path) const {
   const Entry* entry = Find(path);
   if (!entry) return Failure{error::kFileNotFound, "File not found", ENOENT};

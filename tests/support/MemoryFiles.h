@@ -40,6 +40,8 @@ class MemoryFiles : public Files {
 
   [[nodiscard]] bool FileExists(std::string_view path) const override;
   [[nodiscard]] bool FolderExists(std::string_view path) const override;
+  [[nodiscard]] std::vector<std::string> FilesIn(std::string_view folder,
+                                                 std::string_view ending) const override;
   [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
   Outcome<> Write(std::string_view path, std::string_view content) override;
   Outcome<> MakeFolder(std::string_view path) override;

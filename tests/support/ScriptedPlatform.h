@@ -67,6 +67,15 @@ class ScriptedHelp : public Help {
   std::deque<std::string> shown;  ///< and not yet expected
 };
 
+class ScriptedDesktop : public Desktop {
+ public:
+  Outcome<> Open(const std::string& path) override {
+    opened.push_back(path);
+    return Done{};
+  }
+  std::deque<std::string> opened;  ///< and not yet expected
+};
+
 /// All of it. The forms of `Process` leave out what the scripted one is good for.
 struct ScriptedPlatform {
   ScriptedDialogs dialogs;
@@ -75,6 +84,7 @@ struct ScriptedPlatform {
   ScriptedHelp help;
   FixedCalendar calendar;
   ScriptedPrinter printer;
+  ScriptedDesktop desktop;
 
   /// A process on this disk, beside any other.
   [[nodiscard]] Platform Process(Files& files, std::string commandLine = "") {
@@ -83,7 +93,7 @@ struct ScriptedPlatform {
   [[nodiscard]] Platform Process(Files& files, SingleInstance& lock, Printer& paper,
                                  std::string commandLine = "") {
     return {files,    dialogs, lock,           clipboard,    help,
-            calendar, paper,   {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
+            calendar, paper,   desktop, {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
   }
 };
 

@@ -1,17 +1,16 @@
-// The macro lists, which stand on one another: one list view that shows the one in front, with its ticks, and
-// lets macros be dragged out as text.
+// Lists that stand on one another, as the macro lists do: one view that shows the one in front, with its ticks,
+// and lets its items be dragged out as text.
 #pragma once
 
 #include <QAbstractListModel>
 #include <QListView>
 
-#include "app/Editor.h"
 #include "screen/Binding.h"
 
 namespace tarvik::screen {
 
 /// The items of whichever list is in front.
-class MacroListModel : public QAbstractListModel {
+class ListModel : public QAbstractListModel {
  public:
   using QAbstractListModel::QAbstractListModel;
   void SetList(const ListBox* list);
@@ -25,9 +24,15 @@ class MacroListModel : public QAbstractListModel {
   const ListBox* list_ = nullptr;
 };
 
-class MacroListView : public QListView {
+class ListStack : public QListView {
  public:
-  MacroListView(Editor& form, Bindings& bindings, QWidget* parent);
+  /// `ticks`: there is room for ticks before the items.
+  ListStack(Bindings& bindings, const QString& name, bool ticks);
+
+  /// Puts a list on the stack.
+  void Add(ListBox& list);
+  /// The lists of the array, also those that come later.
+  void Add(ControlArray<ListBox>& lists);
 
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -46,16 +51,15 @@ class MacroListView : public QListView {
     std::vector<Connection> connections;
   };
 
-  void Add(ListBox& list);
+  void TakeFocus();
   void Remove(ListBox& list);
   void Raise(ListBox& list);
   void BringUpToDate();
   void ShowItems();
   void ShowIndex();
 
-  Editor& form_;
   Bindings& bindings_;
-  MacroListModel model_;
+  ListModel model_;
   std::vector<Shown> stack_;  // the last one is on top
   ListBox* front_ = nullptr;
   bool showing_ = false;

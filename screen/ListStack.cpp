@@ -1,4 +1,4 @@
-#include "screen/MacroListView.h"
+#include "screen/ListStack.h"
 
 #include <QDrag>
 #include <QKeyEvent>
@@ -43,59 +43,61 @@ class TickDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-void MacroListModel::SetList(const ListBox* list) {
+void ListModel::SetList(const ListBox* list) {
   beginResetModel();
   list_ = list;
   endResetModel();
 }
 
-void MacroListModel::ShowTicks() {
+void ListModel::ShowTicks() {
   if (rowCount() > 0) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
 }
 
-int MacroListModel::rowCount(const QModelIndex& parent) const {
+int ListModel::rowCount(const QModelIndex& parent) const {
   return list_ && !parent.isValid() ? list_->ListCount() : 0;
 }
 
-QVariant MacroListModel::data(const QModelIndex& index, int role) const {
+QVariant ListModel::data(const QModelIndex& index, int role) const {
   if (!list_ || index.row() >= list_->ListCount()) return {};
   if (role == Qt::DisplayRole) return ToScreen(list_->List(index.row()));
   if (role == Qt::CheckStateRole) return list_->Selected(index.row()) ? Qt::Checked : Qt::Unchecked;
   return {};
 }
 
-Qt::ItemFlags MacroListModel::flags(const QModelIndex& index) const {
+Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
   return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
 }
 
-MacroListView::MacroListView(Editor& form, Bindings& bindings, QWidget* parent)
-    : QListView(parent), form_(form), bindings_(bindings) {
+ListStack::ListStack(Bindings& bindings, const QString& name, bool ticks) : bindings_(bindings) {
   setModel(&model_);
-  setItemDelegate(new TickDelegate(*this));
+  if (ticks) setItemDelegate(new TickDelegate(*this));
   setUniformItemSizes(true);
   setDragEnabled(true);
   setMouseTracking(true);
   setEditTriggers(NoEditTriggers);
-  setAccessibleName(tr("Macros"));
-  bindings.Place(form.List1(0), *this, kTwips);
-  for (int i = 0; i < form.List1.Count(); ++i) Add(form.List1(i));
-  bindings.Keep(form.List1.Loaded.Connect([this](ListBox& list) { Add(list); }));
-  bindings.Keep(form.List1.Unloading.Connect([this](ListBox& list) { Remove(list); }));
-  bindings.Keep(form.ActiveControlChanged.Connect([this] {
-    if (form_.ActiveControl() == front_ && front_ && !hasFocus()) setFocus();
-  }));
+  setAccessibleName(name);
 }
 
 // Which list is in front.
 
-void MacroListView::Add(ListBox& list) {
+void ListStack::Add(ControlArray<ListBox>& lists) {
+  for (int i = 0; i < lists.Count(); ++i) Add(lists(i));
+  bindings_.Keep(lists.Loaded.Connect([this](ListBox& list) { Add(list); }));
+  bindings_.Keep(lists.Unloading.Connect([this](ListBox& list) { Remove(list); }));
+}
+
+void ListStack::Add(ListBox& list) {
   Shown shown{&list, {}};
   const auto inFront = [this, &list](auto act) {
     return [this, &list, act] {
       if (front_ == &list) act();
     };
   };
+  Form& form = list.OwnForm();
   shown.connections = {
+      form.ActiveControlChanged.Connect([this, &form, &list] {
+        if (front_ == &list && form.ActiveControl() == front_) TakeFocus();
+      }),
       list.Raised.Connect([this, &list] { Raise(list); }),
       list.Visible.Changed.Connect([this] { BringUpToDate(); }),
       list.ItemsChanged.Connect(inFront([this] { ShowItems(); })),
@@ -136,21 +138,26 @@ void MacroListView::Add(ListBox& list) {
   BringUpToDate();
 }
 
-void MacroListView::Remove(ListBox& list) {
+void ListStack::TakeFocus() {
+  if (!hasFocus()) setFocus();
+  if (!isActiveWindow() && isVisible()) activateWindow();
+}
+
+void ListStack::Remove(ListBox& list) {
   std::erase_if(stack_, [&list](const Shown& shown) { return shown.list == &list; });
   bindings_.Forget(list);
-  if (form_.ActiveControl() == &list) form_.Focus(form_.List1(0));
+  if (list.OwnForm().ActiveControl() == &list) stack_.front().list->SetFocus();
   BringUpToDate();
 }
 
-void MacroListView::Raise(ListBox& list) {
+void ListStack::Raise(ListBox& list) {
   const auto at =
       std::find_if(stack_.begin(), stack_.end(), [&list](const Shown& shown) { return shown.list == &list; });
   if (at != stack_.end()) std::rotate(at, at + 1, stack_.end());
   BringUpToDate();
 }
 
-void MacroListView::BringUpToDate() {
+void ListStack::BringUpToDate() {
   const auto top = std::find_if(stack_.rbegin(), stack_.rend(),
                                 [](const Shown& shown) { return shown.list->Visible.Get(); });
   ListBox* const front = top == stack_.rend() ? nullptr : top->list;
@@ -163,7 +170,7 @@ void MacroListView::BringUpToDate() {
   ShowItems();
 }
 
-void MacroListView::ShowItems() {
+void ListStack::ShowItems() {
   const QScopedValueRollback showing(showing_, true);
   model_.SetList(front_);
   ShowIndex();
@@ -171,38 +178,38 @@ void MacroListView::ShowItems() {
 
 // The item in hand.
 
-void MacroListView::ShowIndex() {
+void ListStack::ShowIndex() {
   const QScopedValueRollback showing(showing_, true);
   setCurrentIndex(front_ ? model_.index(front_->ListIndex) : QModelIndex());
 }
 
-void MacroListView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+void ListStack::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QListView::currentChanged(current, previous);
   if (!showing_ && front_ && current.isValid()) front_->ListIndex = current.row();
 }
 
-void MacroListView::mousePressEvent(QMouseEvent* event) {
+void ListStack::mousePressEvent(QMouseEvent* event) {
   QListView::mousePressEvent(event);
   if (const QModelIndex under = indexAt(event->pos()); under.isValid()) setCurrentIndex(under);
   if (front_) front_->MouseDown(ToMouse(*event));
 }
 
-void MacroListView::mouseMoveEvent(QMouseEvent* event) {
+void ListStack::mouseMoveEvent(QMouseEvent* event) {
   QListView::mouseMoveEvent(event);
   if (front_) front_->MouseMove(ToMouse(*event));
 }
 
-void MacroListView::mouseReleaseEvent(QMouseEvent* event) {
+void ListStack::mouseReleaseEvent(QMouseEvent* event) {
   QListView::mouseReleaseEvent(event);
   if (front_) front_->MouseUp(ToMouse(*event));
 }
 
-void MacroListView::mouseDoubleClickEvent(QMouseEvent* event) {
+void ListStack::mouseDoubleClickEvent(QMouseEvent* event) {
   if (front_ && event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) front_->DblClick();
 }
 
 /// A move by keys shows the macro as a click does.
-void MacroListView::keyPressEvent(QKeyEvent* event) {
+void ListStack::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     if (front_ && currentIndex().isValid()) front_->DblClick();
     return;
@@ -212,17 +219,17 @@ void MacroListView::keyPressEvent(QKeyEvent* event) {
   if (front_ && currentIndex().row() != before) front_->MouseDown({kLeftButton, 0, 0, 0});
 }
 
-void MacroListView::contextMenuEvent(QContextMenuEvent* event) {
+void ListStack::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
   if (event->reason() == QContextMenuEvent::Keyboard && front_) front_->MouseDown({kRightButton, 0, 0, 0});
 }
 
-void MacroListView::focusInEvent(QFocusEvent* event) {
+void ListStack::focusInEvent(QFocusEvent* event) {
   QListView::focusInEvent(event);
   if (front_) front_->SetFocus();
 }
 
-void MacroListView::startDrag(Qt::DropActions) {
+void ListStack::startDrag(Qt::DropActions) {
   if (!front_) return;
   front_->OLEStartDrag();
   auto* const data = new QMimeData;
