@@ -60,8 +60,8 @@ class Application {
     }
     return nullptr;
   }
-  /// For whatever shows the forms: the user is at this form now. It hears of it, and so does the tool that was
-  /// left for the editor or the frame.
+  /// For whatever shows the forms: the user is at this form now. It hears of it, and so does the tool that
+  /// was left for the editor or the frame.
   void Activated(Form& form);
 
   /// Shows a tool's form and returns when it is hidden or unloaded; other forms take no input till then.

@@ -1,6 +1,7 @@
 #include "app/Editor.h"
 
 #include "app/EditorTables.h"
+#include "composer/InsertOptions.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
 
@@ -343,6 +344,11 @@ void Editor::mnuEditFind_Click() { application_.Tool<FindAndReplace>().ShowFind(
 void Editor::mnuEditReplace_Click() { application_.Tool<FindAndReplace>().ShowReplace(); }
 void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(); }
 
+// The Composer.
+
+void Editor::mnuShowInsertWindow_Click() { application_.Tool<InsertOptions>().ShowComposer(); }
+void Editor::mnuComposerPlugin_Click() { application_.Tool<InsertOptions>().ShowTemplates(); }
+
 // Blocks.
 
 void Editor::mnuInsertTitle_Click() { InsertTitle(application_); }
@@ -501,13 +507,13 @@ void Editor::mnuEditUpdateMacros_Click() {
 }
 
 void Editor::mnuFindInJF_Click() {
-  lists_.TakeFrom(lists_.PopupListIndex);
+  lists_.TakeFrom(List1(lists_.PopupListIndex));
   lists_.FindMacroInJF();
 }
 
 void Editor::mnuRHListEdit_Click() {
   desk_.Select(Macro);
-  lists_.TakeFrom(lists_.PopupListIndex);
+  lists_.TakeFrom(List1(lists_.PopupListIndex));
   MacroText.SetFocus();
   lists_.ShowMacroKeys();
 }
@@ -517,17 +523,9 @@ void Editor::Combo1_Click() {
   lists_.ShowCategory();
 }
 
-void Editor::TakeMacroUnder(int index, const Mouse& mouse) {
-  constexpr int kLeft = 1;
-  if (List1(index).ListCount() == 0 || mouse.button == 0) return;
-  lists_.TakeFrom(index);
-  lists_.ShowMacroKeys();
-  if (mouse.button == kLeft && mouse.shift == shift::kShift) lists_.FindMacroInJF();
-}
-
 void Editor::List1_MouseDown(int index, const Mouse& mouse) {
   constexpr int kRight = 2;
-  TakeMacroUnder(index, mouse);
+  lists_.TakeUnder(List1(index), mouse);
   if (mouse.button != kRight || List1(index).ListCount() == 0) return;
   lists_.PopupListIndex = index;
   ShowPopUp("mnuRHList");
@@ -535,11 +533,11 @@ void Editor::List1_MouseDown(int index, const Mouse& mouse) {
 
 void Editor::List1_MouseMove(int index, const Mouse& mouse) {
   layout_.ResetFramePointer();
-  TakeMacroUnder(index, mouse);
+  lists_.TakeUnder(List1(index), mouse);
 }
 
 void Editor::List1_OLEStartDrag(int index) {
-  lists_.TakeFrom(index);
+  lists_.TakeFrom(List1(index));
   List1(index).DragText = " " + application_.values.SelectedMacro.Get() + " ";
 }
 

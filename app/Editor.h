@@ -107,6 +107,10 @@ class Editor : public Form {
   void UpdateCCPButtons() { edit_.UpdateCCPButtons(); }
   void CheckAtLineBeginning() { edit_.CheckAtLineBeginning(); }
 
+  // The Composer.
+  void mnuShowInsertWindow_Click();
+  void mnuComposerPlugin_Click();
+
   // Blocks.
   void mnuInsertTitle_Click();
   void mnuInsertHeading_Click();
@@ -143,7 +147,7 @@ class Editor : public Form {
   // Macros.
   void mnuEditUpdateMacros_Click();
   void mnuViewIdentify_Click() { lists_.IdentifyMacrosUsed(); }
-  void mnuRHListInsert_Click() { lists_.Insert(lists_.PopupListIndex); }
+  void mnuRHListInsert_Click() { lists_.Insert(List1(lists_.PopupListIndex)); }
   void mnuFindInJF_Click();
   void mnuRHListIdentify_Click() { lists_.IdentifyMacrosUsed(); }
   void mnuRHListEdit_Click();
@@ -152,7 +156,7 @@ class Editor : public Form {
   void Combo1_GotFocus() { layout_.ResetFramePointer(); }
   void List1_MouseDown(int index, const Mouse& mouse);
   void List1_MouseMove(int index, const Mouse& mouse);
-  void List1_DblClick(int index) { lists_.Insert(index); }
+  void List1_DblClick(int index) { lists_.Insert(List1(index)); }
   void List1_OLEStartDrag(int index);
   void Command1_Click(int index);
   void Command1_MouseMove() { layout_.ResetFramePointer(); }
@@ -166,6 +170,7 @@ class Editor : public Form {
   // For the tools.
   [[nodiscard]] Document& ActiveDocument() const { return desk_.Active(); }
   [[nodiscard]] ColouredInsertion& insertion() { return insertion_; }
+  [[nodiscard]] MacroLists& macroLists() { return lists_; }
   /// Gives the focus to the file on top.
   void FocusActiveText() const { desk_.Active().text.SetFocus(); }
   /// Marks the document as modified and records the change for undo.
@@ -189,7 +194,6 @@ class Editor : public Form {
   void ShowPopUp(std::string_view name);
   void ShowQuickTip(bool show);
   void StepThroughHistory(void (UndoHistory::*step)());
-  void TakeMacroUnder(int index, const Mouse& mouse);
 
   Application& application_;
   Mum& mum_;

@@ -64,8 +64,8 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuPreferencesEdit", "Prefere&nces ...", "F9"},
 
     {0, "mnuInsert", "&Insert"},
-    {1, "mnuShowInsertWindow", "&Composer", "F2"},
-    {1, "mnuComposerPlugin", "&Template ...", "F3"},
+    {1, "mnuShowInsertWindow", "&Composer", "F2", &Editor::mnuShowInsertWindow_Click},
+    {1, "mnuComposerPlugin", "&Template ...", "F3", &Editor::mnuComposerPlugin_Click},
     {1, "mnuInsertRAW", "&Pimlet", "F4"},
     {1, "mnuInsertDivider1", "-"},
     {1, "mnuInsertTitle", "T&itle ...", "", &Editor::mnuInsertTitle_Click},

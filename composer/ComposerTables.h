@@ -23,6 +23,19 @@ inline constexpr std::string_view kHatTip = "Insert or find this hat statement";
 inline constexpr std::string_view kThrottleTip =
     "Set up for digital throttle use as opposed to normal analogue";
 
+/// What a joystick of JoyName is to the Composer.
+struct JoystickRow {
+  std::string_view model;
+  std::string_view ending;  ///< of its files, where a file tells the model
+};
+
+inline constexpr JoystickRow kJoysticks[] = {
+    {"F-22 Pro", "f22"}, {"F-16 FLCS", "b50"}, {"PFCS", "adv"}, {"Top Gun", ""}, {"FCS", ""}};
+inline constexpr int kF22Pro = 0;
+inline constexpr int kFlcs = 1;  ///< the last one that is programmed in the language of the F-22 Pro
+inline constexpr int kTqs = 1;   ///< ThrottleName
+inline constexpr int kLastWcs = 3;
+
 // The buttons of the WCS are named by kWcsButtons.
 inline constexpr HardwareRow kHardware[] = {
     {"HAT", 0, Picture::Stick, " H1", kHatTip},
@@ -104,6 +117,11 @@ struct RotaryRow {
   int axis;                 ///< of kAxes, lit on that tab; -1 for none
 };
 
+inline constexpr int kSwapTriggers = 4;
+inline constexpr int kPortLatch = 7;
+/// The rotaries that go without rudders.
+inline constexpr int kRudders[] = {2, 8};
+
 inline constexpr RotaryRow kRotaries[] = {
     {"RNG", 1, -1}, {"ANT", 2, -1}, {"RDDR", 4, 2}, {"JSX", 4, 0},  {"SWAPTG ", 0, -1},
     {"THR", 3, -1}, {"JSY", 4, 1},  {"", 0, -1},    {"RDDR", 4, 2}, {"THR", 3, -1},
@@ -138,6 +156,9 @@ inline constexpr SlashRow kSlashes[] = {
 };
 inline constexpr int kForceSlash = 10;  ///< what kFormatSlash replaces on an F-22 Pro
 inline constexpr SlashRow kFormatSlash = {"/F", "Insert the format repeating slash modifier"};
+inline constexpr int kIgnoreSlash = 11;
+/// What "/Q" says of itself until it is shown for the first time.
+inline constexpr std::string_view kIgnoreSlashFirstTip = "Insert the release slash modifier";
 
 /// A bracket statement, by the index of its button.
 struct BracketRow {
@@ -233,6 +254,21 @@ inline constexpr TabRow kTabStatements[] = {
       {"Text2(12)", "Afterburner steps"},
       {"RichTextBox1(12)", "Throttle characters"},
       {"RichTextBox1(13)", "Afterburner characters"}}},
+};
+
+/// A tab that builds statements: the rows of kTabStatements that its pages show, one a page.
+struct StatementTabRow {
+  int tab;  ///< of SSTab1
+  std::string_view strip;
+  int firstRow;
+  int rows;
+};
+
+inline constexpr StatementTabRow kStatementTabs[] = {
+    {1, "SSTab2", 0, 2},
+    {2, "SSTab3", 2, 2},
+    {3, "SSTab5", 7, 2},
+    {4, "SSTab4", 4, 3},
 };
 
 struct UseRow {

@@ -124,7 +124,7 @@ void CheckBox::Set(int value) {
 }
 
 OptionButton::OptionButton(Component& parent, std::string_view name, std::string caption, int group)
-    : Control(parent, name), group_(group) {
+    : Control(parent, name), group_(std::to_string(group)) {
   Caption = std::move(caption);
 }
 

@@ -109,6 +109,7 @@ class CommandButton : public Control {
 /// A box with a tick: Value is 1 with it and 0 without.
 class CheckBox : public Control {
  public:
+  using Control::Control;
   CheckBox(Component& parent, std::string_view name, std::string caption);
   Property<std::string> Caption{*this, "Caption"};
   Attribute<int> Value{*this, "Value", [this] { return value_; }, [this](int value) { Set(value); }};
@@ -121,10 +122,12 @@ class CheckBox : public Control {
   int value_ = 0;
 };
 
-/// One of several: setting one takes the mark from the others of its group.
+/// One of several: setting one takes the mark from the others of its group, or of its array.
 class OptionButton : public Control {
  public:
   OptionButton(Component& parent, std::string_view name, std::string caption, int group = 0);
+  OptionButton(Component& parent, std::string_view name, std::optional<int> index)
+      : Control(parent, name, index), group_(name) {}
   Property<std::string> Caption{*this, "Caption"};
   Attribute<bool> Value{*this, "Value", [this] { return value_; }, [this](bool value) { Set(value); }};
   /// When it gets the mark, by the user or by code.
@@ -133,7 +136,7 @@ class OptionButton : public Control {
  private:
   void Set(bool value);
 
-  int group_;
+  std::string group_;
   bool value_ = false;
 };
 
@@ -269,6 +272,7 @@ class ListBox : public Control {
   [[nodiscard]] const std::string& List(int index) const { return items_[static_cast<std::size_t>(index)]; }
   [[nodiscard]] const std::vector<std::string>& List() const { return items_; }
   [[nodiscard]] bool Selected(int index) const { return ticks_[static_cast<std::size_t>(index)]; }
+  [[nodiscard]] const std::vector<bool>& Ticks() const { return ticks_; }
   /// The item at ListIndex, empty when there is none.
   [[nodiscard]] std::string Current() const;
 
@@ -405,6 +409,32 @@ class Timer : public Component {
   Property<int> Interval{*this, "Interval", 0};  ///< milliseconds
   Property<bool> Enabled{*this, "Enabled", false};
   Event<> Elapsed{*this, "Timer"};
+};
+
+/// Controls made from a table, by their full names such as "Text1(0)".
+template <class T>
+class NamedControls {
+ public:
+  explicit NamedControls(Form& form) : form_(form) {}
+
+  T& operator()(std::string_view fullName) const { return *members_.find(fullName)->second; }
+  template <class... Args>
+  T& Load(std::string_view fullName, Args&&... args) {
+    const std::size_t bracket = fullName.find('(');
+    const auto index = bracket == std::string_view::npos
+                           ? std::optional<int>()
+                           : static_cast<int>(NumberIn(fullName.substr(bracket + 1)));
+    auto& member = members_[std::string(fullName)];
+    member = std::make_unique<T>(form_, fullName.substr(0, bracket), index, std::forward<Args>(args)...);
+    return *member;
+  }
+  [[nodiscard]] const std::map<std::string, std::unique_ptr<T>, std::less<>>& Members() const {
+    return members_;
+  }
+
+ private:
+  Form& form_;
+  std::map<std::string, std::unique_ptr<T>, std::less<>> members_;
 };
 
 /// Controls of one name, told apart by their index; members may come and go while the program runs.

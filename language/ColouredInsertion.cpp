@@ -45,7 +45,7 @@ void ColouredInsertion::InsertBlack(const std::string& text) {
   desk_.swatch.BackColor = kBlack;
 }
 
-void ColouredInsertion::InsertBlackBlanks() { InsertBlack("     "); }
+void ColouredInsertion::InsertBlackBlanks(std::size_t count) { InsertBlack(std::string(count, ' ')); }
 void ColouredInsertion::InsertCarriageReturn() { InsertBlack("\r\n"); }
 
 void ColouredInsertion::AddSpaceToColouredText() {

@@ -25,7 +25,7 @@ class ColouredInsertion {
   }
   /// Writes InsertionText in black, with a blank before it where the caret needs one.
   void InsertBlackText();
-  void InsertBlackBlanks();
+  void InsertBlackBlanks(std::size_t count = 5);
   void InsertCarriageReturn();
   /// Puts a blank before InsertionText unless the caret stands at the start, behind a blank or at a line's
   /// start.

@@ -103,21 +103,31 @@ void MacroLists::ShowMacroKeys() {
   desk_.macro.SelLength = desk_.macro.text.SelLength;
 }
 
-void MacroLists::ShowCategory() {
-  const std::string wanted = LowerCase(categories_.Text());
-  for (std::size_t i = 0; i < headings_.size(); ++i) {
-    ListBox& list = lists_(static_cast<int>(i));
-    const bool chosen = LowerCase(headings_[i]) == wanted;
+void MacroLists::ShowCategory(const ComboBox& categories, const ControlArray<ListBox>& lists) {
+  const std::string wanted = LowerCase(categories.Text());
+  const int count = std::min(lists.Count(), static_cast<int>(headings_.size()));
+  for (int i = 0; i < count; ++i) {
+    ListBox& list = lists(i);
+    const bool chosen = LowerCase(headings_[static_cast<std::size_t>(i)]) == wanted;
     list.Visible = chosen;
     if (!chosen) continue;
-    desk_.values.SelectedCategoryList = static_cast<int>(i);
+    desk_.values.SelectedCategoryList = i;
     list.ToFront();
   }
-  ListBox& front = lists_(desk_.values.SelectedCategoryList);
+  if (desk_.values.SelectedCategoryList >= lists.Count()) return;
+  ListBox& front = lists(desk_.values.SelectedCategoryList);
   if (front.ListCount() == 0) return;
   front.ListIndex = 0;
-  TakeFrom(desk_.values.SelectedCategoryList);
+  TakeFrom(front);
   ShowMacroKeys();
+}
+
+void MacroLists::TakeUnder(const ListBox& list, const Mouse& mouse) {
+  constexpr int kLeft = 1;
+  if (list.ListCount() == 0 || mouse.button == 0) return;
+  TakeFrom(list);
+  ShowMacroKeys();
+  if (mouse.button == kLeft && mouse.shift == shift::kShift) FindMacroInJF();
 }
 
 void MacroLists::IdentifyMacrosUsed() {
@@ -194,8 +204,8 @@ void MacroLists::ExtractButtonDefinition(const std::string& name) {
   desk_.Active().text.SetFocus();
 }
 
-void MacroLists::Insert(int list) {
-  if (lists_(list).ListIndex < 0) return;  // no macro is in hand
+void MacroLists::Insert(const ListBox& list) {
+  if (list.ListIndex < 0) return;  // no macro is in hand
   Document& document = desk_.joystick;
   Pane& pane = document.text;
   if (!pane.Visible) desk_.Select(document);

@@ -24,10 +24,16 @@ class MacroLists {
   /// Shows the definition of SelectedMacro in status panel 1, and selects it in the macro file when that is
   /// on show.
   void ShowMacroKeys();
-  /// Brings the list of the selected category to the front and takes its first macro.
-  void ShowCategory();
+  /// "All", then the headings of the macro file in its order; each has the list of its index.
+  [[nodiscard]] const std::vector<std::string>& MacroHeadings() const { return headings_; }
+  /// Brings the list of the selected category to the front and takes its first macro; `lists` are the editor's
+  /// or a tool's copies of them.
+  void ShowCategory() { ShowCategory(categories_, lists_); }
+  void ShowCategory(const ComboBox& categories, const ControlArray<ListBox>& lists);
   /// Takes SelectedMacro from a list.
-  void TakeFrom(int list) { desk_.values.SelectedMacro = lists_(list).Current(); }
+  void TakeFrom(const ListBox& list) { desk_.values.SelectedMacro = list.Current(); }
+  /// Takes the macro that the mouse went down on or is dragged over, and with Shift goes to its first use.
+  void TakeUnder(const ListBox& list, const Mouse& mouse);
 
   void IdentifyMacrosUsed();
   void ClearMacroTicks();
@@ -37,7 +43,7 @@ class MacroLists {
   /// one.
   void ExtractButtonDefinition(const std::string& name);
   /// Inserts the current macro of a list at the joystick file's remembered caret.
-  void Insert(int list);
+  void Insert(const ListBox& list);
 
  private:
   void TickNamesUsed(std::string_view text);
@@ -48,7 +54,7 @@ class MacroLists {
   ComboBox& categories_;
   ControlArray<ListBox>& lists_;
   std::vector<std::string> records_;   // the macro file's, in order
-  std::vector<std::string> headings_;  // "All", then those of the file; each has the list of its index
+  std::vector<std::string> headings_;
 };
 
 }  // namespace tarvik

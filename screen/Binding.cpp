@@ -109,7 +109,8 @@ void Bindings::BindControl(Control& control, QWidget& widget) {
       [&] {
         // Otherwise the toolkit hands the focus to whatever comes next.
         if (!control.Visible && widget.hasFocus()) widget.clearFocus();
-        widget.setVisible(control.Visible);
+        // Without a place yet it would come up as a window of its own; it shows with its parent.
+        if (widget.parentWidget() || !control.Visible) widget.setVisible(control.Visible);
       },
       [&] { return TextOf(!widget.isHidden()); });
   Bind(
@@ -237,6 +238,20 @@ void Bindings::Bind(ToggleLabel& label, QAbstractButton& widget) {
   widget.setCheckable(true);
   const auto show = [&] { widget.setChecked(label.On()); };
   Bind(label.BackColor, show);
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&label, show] {
+    label.Click();
+    show();  // the toolkit has turned it over by itself
+  });
+}
+
+void Bindings::Bind(Label& label, QAbstractButton& widget) {
+  BindControl(label, widget);
+  BindCaption(label, widget);
+  const auto show = [&] {
+    widget.setCheckable(label.BorderStyle == 1);
+    widget.setChecked(label.BorderStyle == 1);
+  };
+  Bind(label.BorderStyle, show, [&] { return TextOf(widget.isChecked() ? 1 : 0); });
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&label, show] {
     label.Click();
     show();  // the toolkit has turned it over by itself
@@ -405,7 +420,15 @@ void Bindings::Bind(OptionButton& button, QAbstractButton& widget) {
   BindControl(button, widget);
   BindCaption(button, widget);
   Bind(
-      button.Value, [&] { widget.setChecked(button.Value); }, [&] { return TextOf(widget.isChecked()); });
+      button.Value,
+      [&] {
+        // The toolkit keeps a mark that is the last one among the buttons beside it; the others may be
+        // elsewhere.
+        widget.setAutoExclusive(false);
+        widget.setChecked(button.Value);
+        widget.setAutoExclusive(true);
+      },
+      [&] { return TextOf(widget.isChecked()); });
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Value = true; });
 }
 

@@ -70,6 +70,8 @@ class Bindings {
   void Bind(ToolbarButton& button, QToolButton& widget);
   void Bind(Label& label, QLabel& widget);
   void Bind(ToggleLabel& label, QAbstractButton& widget);
+  /// A label that is pressed; with a border it stays pressed.
+  void Bind(Label& label, QAbstractButton& widget);
   void Bind(ComboBox& combo, QComboBox& widget);
   void Bind(TextBox& box, QLineEdit& widget);
   void Bind(EntryBox& box, QComboBox& widget);

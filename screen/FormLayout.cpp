@@ -7,7 +7,9 @@
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <map>
 
+#include "screen/DeviceView.h"
 #include "screen/ListStack.h"
 #include "screen/PaneView.h"
 #include "screen/Text.h"
@@ -66,9 +68,9 @@ QWidget* PageOf(QWidget* widget) {
   return widget;
 }
 
-/// Enter and Escape press these.
+/// Enter and Escape press these two, and a code such as "/U" is no word with a letter to spare.
 bool NeedsNone(const QString& caption) {
-  return caption.isEmpty() || caption == QLatin1String("OK") || caption == QLatin1String("Cancel");
+  return caption == caption.toUpper() || caption.size() == 1 || caption == QLatin1String("Cancel");
 }
 
 template <class Widget>
@@ -142,6 +144,12 @@ QWidget* FormLayout::Show(ControlArray<ListBox>& lists, const char* name, bool t
   return view;
 }
 
+QWidget* FormLayout::Show(const char* drawing, const std::vector<Label*>& labels) const {
+  auto* const view = new DeviceView(QString::fromLatin1(drawing), bindings_);
+  for (Label* const label : labels) view->Add(*label);
+  return view;
+}
+
 QWidget* FormLayout::Show(TabPages& pages, const std::vector<QLayout*>& layouts) const {
   auto* const tabs = new QTabWidget;
   tabs->setAccessibleName(QStringLiteral("Pages"));
@@ -170,7 +178,7 @@ QWidget* Named(QWidget* control, const QString& name) {
   return control;
 }
 
-QLayout* Fields(std::initializer_list<Field> fields) {
+QLayout* Fields(const std::vector<Field>& fields) {
   auto* const layout = new QFormLayout;
   layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
   for (const Field& field : fields) {
@@ -193,11 +201,12 @@ void GiveMnemonics(QWidget& window) {
   for (const QTabBar* const tabs : window.findChildren<QTabBar*>()) {
     for (int i = 0; i < tabs->count(); ++i) shared.Take(tabs->tabText(i));
   }
-  GiveOn(window, nullptr, shared);
-  for (const QStackedWidget* const stack : window.findChildren<QStackedWidget*>()) {
+  std::map<const QWidget*, Mnemonics> given;  // by page, those of the pages around it included
+  GiveOn(window, nullptr, given[nullptr] = shared);
+  for (QStackedWidget* const stack : window.findChildren<QStackedWidget*>()) {
     for (int i = 0; i < stack->count(); ++i) {
-      Mnemonics page = shared;
-      GiveOn(window, stack->widget(i), page);
+      const QWidget* const page = stack->widget(i);
+      GiveOn(window, page, given[page] = given[PageOf(stack)]);
     }
   }
 }

@@ -31,6 +31,8 @@ class FormLayout {
   QWidget* Show(ListBox& list) const;
   /// Lists that stand on one another.
   QWidget* Show(ControlArray<ListBox>& lists, const char* name, bool ticks = false) const;
+  /// A drawing of a device, with its labels.
+  QWidget* Show(const char* drawing, const std::vector<Label*>& labels) const;
   /// The pages in the order of the tabs.
   QWidget* Show(TabPages& pages, const std::vector<QLayout*>& layouts) const;
 
@@ -52,7 +54,7 @@ struct Field {
   const char* label;
   QWidget* control;
 };
-[[nodiscard]] QLayout* Fields(std::initializer_list<Field> fields);
+[[nodiscard]] QLayout* Fields(const std::vector<Field>& fields);
 /// The same with the label above the control.
 [[nodiscard]] QLayout* Above(const char* label, QWidget* control);
 

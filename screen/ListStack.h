@@ -1,5 +1,5 @@
-// Lists that stand on one another, as the macro lists do: one view that shows the one in front, with its ticks,
-// and lets its items be dragged out as text.
+// Lists that stand on one another, as the macro lists do: one view that shows the one in front, with its
+// ticks, and lets its items be dragged out as text.
 #pragma once
 
 #include <QAbstractListModel>

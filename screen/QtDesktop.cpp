@@ -71,7 +71,8 @@ std::string QtClipboard::Rtf() { return RtfIn(Content()).toStdString(); }
 
 Outcome<> QtDesktop::Open(const std::string& path) {
   const auto host = drives_.ToHost(path);
-  const bool opened = host && QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(host->c_str())));
+  const bool opened =
+      host && QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(host->c_str())));
   if (!opened) return Failure{error::kFileNotFound, "File not found", 0};
   return Done{};
 }

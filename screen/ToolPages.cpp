@@ -69,8 +69,8 @@ ToolWindow::MakePage PageFor(Form& form) {
 }  // namespace
 
 ToolWindow::MakePage PageOf(Form& form) {
-  for (const auto& find :
-       {PageFor<FindAndReplace>, PageFor<Title>, PageFor<Heading>, PageFor<SingleTextForm>}) {
+  for (const auto& find : {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Title>, PageFor<Heading>,
+                           PageFor<SingleTextForm>}) {
     if (auto page = find(form)) return page;
   }
   return {};

@@ -75,7 +75,8 @@ QPoint ToolWindow::PlaceOfForm() const {
   const auto within = [](float twips, int low, int high) {
     return std::clamp(ToPixels(twips, kTwips), low, std::max(low, high - kWithinReach));
   };
-  return {within(form().Left, screen.left(), screen.right()), within(form().Top, screen.top(), screen.bottom())};
+  return {within(form().Left, screen.left(), screen.right()),
+          within(form().Top, screen.top(), screen.bottom())};
 }
 
 void ToolWindow::moveEvent(QMoveEvent* event) {
@@ -87,7 +88,8 @@ void ToolWindow::moveEvent(QMoveEvent* event) {
 
 void ToolWindow::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange) form().WindowState = isMinimized() ? 1 : isMaximized() ? 2 : 0;
+  if (event->type() == QEvent::WindowStateChange)
+    form().WindowState = isMinimized() ? 1 : isMaximized() ? 2 : 0;
 }
 
 /// A window that is not topmost may be covered by the frame.

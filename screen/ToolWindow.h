@@ -4,7 +4,7 @@
 
 #include <QDialog>
 
-#include "app/Application.h"
+#include "composer/InsertOptions.h"
 #include "screen/FormLayout.h"
 #include "screen/FormView.h"
 #include "screen/MenuBuilder.h"
@@ -43,6 +43,9 @@ class ToolWindow : public QDialog, public FormView {
   std::vector<std::unique_ptr<QMenu>> menus_;
   bool placed_ = false;  // by its form
 };
+
+/// The Composer's page.
+[[nodiscard]] QLayout* Page(InsertOptions& form, const FormLayout& in);
 
 /// The page of the form's window, or nothing for a form that is shown in another way.
 [[nodiscard]] ToolWindow::MakePage PageOf(Form& form);
