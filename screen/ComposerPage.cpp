@@ -8,6 +8,8 @@ namespace {
 
 constexpr int kSideWidth = 330;
 constexpr int kNumberWidth = 64;
+constexpr int kKeysWidth = 300;
+constexpr int kInsertWidth = 100;
 
 QWidget* Narrow(QWidget* box) {
   box->setFixedWidth(kNumberWidth);
@@ -82,9 +84,11 @@ QLayout* StatementPage(InsertOptions& form, const FormLayout& in, const tables::
   for (const tables::FieldRow& field : row.fields) {
     if (field.box.empty()) break;
     fields.push_back({field.label.data(), in.Show(form.boxes(field.box))});
-    fields.back().control->setMaximumWidth(field.box.starts_with("Text") ? kNumberWidth : 2 * kSideWidth);
+    fields.back().control->setFixedWidth(field.box.starts_with("Text") ? kNumberWidth : kKeysWidth);
   }
-  return Column({Fields(fields), Row({Stretch(), in.Show(form.buttons(row.button))}), Stretch()});
+  fields.push_back({"", in.Show(form.buttons(row.button))});
+  fields.back().control->setFixedWidth(kInsertWidth);
+  return Column({Fields(fields), Stretch()});
 }
 
 QLayout* DigitalThrottle(InsertOptions& form, const FormLayout& in) {
@@ -125,10 +129,11 @@ QLayout* UsePage(InsertOptions& form, const FormLayout& in) {
   }
   QWidget* const types = in.Show(form.MouseList, "Mouse types");
   types->setMaximumSize(90, 150);
-  auto* const mouse = new QFormLayout;
+  auto* const mouse = new QGridLayout;
   constexpr const char* kMouseButtons[] = {"Left", "Middle", "Right"};
   for (int i = 0; i < form.Label5.Count(); ++i) {
-    mouse->addRow(QString::fromUtf8(kMouseButtons[i]), in.Show(form.Label5(i)));
+    mouse->addWidget(new QLabel(QString::fromUtf8(kMouseButtons[i])), i, 0);
+    mouse->addWidget(in.Show(form.Label5(i)), i, 1);
   }
   QLayout* const options =
       Column({in.Show(form.Option1(0)), in.Show(form.Option1(1)), in.Show(form.Option1(2)), Stretch()});
@@ -143,7 +148,8 @@ QLayout* UsePage(InsertOptions& form, const FormLayout& in) {
     values->addWidget(Named(in.Show(form.Command2(i)), QLatin1String("Insert ") + label->text()), i, 2);
   }
   return Column({Group("Use", use),
-                 Group("Mice type", Row({options, types, mouse, Stretch(), in.Show(form.Command9)})),
+                 Group("Mice type", Row({options, types, Column({mouse, Stretch()}), Stretch(),
+                                         Column({in.Show(form.Command9), Stretch()})})),
                  Group("Miscellaneous", values), Stretch(), in.Show(form.CheckMultiAddCR(4))});
 }
 

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -29,6 +30,19 @@ QLayout* Fill(QBoxLayout* layout, std::initializer_list<Piece> pieces) {
   }
   return layout;
 }
+
+/// The Enter key presses it while it has the focus; the window's default button is chosen by the form alone.
+class Button : public QPushButton {
+ public:
+  Button() { setAutoDefault(false); }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter) return click();
+    QPushButton::keyPressEvent(event);
+  }
+};
 
 template <class Widget, class Component>
 QWidget* Shown(Bindings& bindings, Component& component) {
@@ -101,12 +115,11 @@ QWidget* FormLayout::Show(TextBox& box) const { return Shown<QLineEdit>(bindings
 QWidget* FormLayout::Show(CheckBox& box) const { return Shown<QCheckBox>(bindings_, box); }
 QWidget* FormLayout::Show(OptionButton& button) const { return Shown<QRadioButton>(bindings_, button); }
 
-QWidget* FormLayout::Show(ToggleLabel& label) const { return Shown<QPushButton>(bindings_, label); }
+QWidget* FormLayout::Show(ToggleLabel& label) const { return Shown<Button>(bindings_, label); }
 QWidget* FormLayout::Show(Label& label) const { return Shown<QLabel>(bindings_, label); }
 
 QWidget* FormLayout::Show(CommandButton& button) const {
-  auto* const widget = new QPushButton;
-  widget->setAutoDefault(true);
+  auto* const widget = new Button;
   bindings_.Bind(button, *widget);
   bindings_.Bind(button.Default, [widget, &button] { widget->setDefault(button.Default); });
   return widget;

@@ -60,7 +60,7 @@ int ListModel::rowCount(const QModelIndex& parent) const {
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   if (!list_ || index.row() >= list_->ListCount()) return {};
   if (role == Qt::DisplayRole) return ToScreen(list_->List(index.row()));
-  if (role == Qt::CheckStateRole) return list_->Selected(index.row()) ? Qt::Checked : Qt::Unchecked;
+  if (role == Qt::CheckStateRole && ticks_) return list_->Selected(index.row()) ? Qt::Checked : Qt::Unchecked;
   return {};
 }
 
@@ -68,7 +68,7 @@ Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
   return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
 }
 
-ListStack::ListStack(Bindings& bindings, const QString& name, bool ticks) : bindings_(bindings) {
+ListStack::ListStack(Bindings& bindings, const QString& name, bool ticks) : bindings_(bindings), model_(ticks) {
   setModel(&model_);
   if (ticks) setItemDelegate(new TickDelegate(*this));
   setUniformItemSizes(true);

@@ -12,7 +12,7 @@ namespace tarvik::screen {
 /// The items of whichever list is in front.
 class ListModel : public QAbstractListModel {
  public:
-  using QAbstractListModel::QAbstractListModel;
+  explicit ListModel(bool ticks) : ticks_(ticks) {}
   void SetList(const ListBox* list);
   void ShowTicks();
 
@@ -22,6 +22,7 @@ class ListModel : public QAbstractListModel {
 
  private:
   const ListBox* list_ = nullptr;
+  bool ticks_;
 };
 
 class ListStack : public QListView {
