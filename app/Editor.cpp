@@ -1,6 +1,7 @@
 #include "app/Editor.h"
 
 #include "app/EditorTables.h"
+#include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
 
@@ -342,6 +343,15 @@ void Editor::DeleteUndosFromMemory() {
 void Editor::mnuEditFind_Click() { application_.Tool<FindAndReplace>().ShowFind(); }
 void Editor::mnuEditReplace_Click() { application_.Tool<FindAndReplace>().ShowReplace(); }
 void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(); }
+
+// Pimlet.
+
+void Editor::mnuInsertRAW_Click() {
+  auto& form = application_.Tool<RAWform>();
+  form.Visible = true;
+  form.WindowState = 0;
+  form.ToFront();
+}
 
 // Blocks.
 

@@ -107,6 +107,9 @@ class Editor : public Form {
   void UpdateCCPButtons() { edit_.UpdateCCPButtons(); }
   void CheckAtLineBeginning() { edit_.CheckAtLineBeginning(); }
 
+  // Pimlet.
+  void mnuInsertRAW_Click();
+
   // Blocks.
   void mnuInsertTitle_Click();
   void mnuInsertHeading_Click();
@@ -170,11 +173,13 @@ class Editor : public Form {
   void FocusActiveText() const { desk_.Active().text.SetFocus(); }
   /// Marks the document as modified and records the change for undo.
   void TextChanged(Document& document);
-  /// Runs the menu entry of a key that a tool's window got: a function key, or a letter with Ctrl alone, which
-  /// is then swallowed. The entry must be enabled.
+  /// Runs the menu entry of a key that a tool's window got: a function key, or a letter with Ctrl alone,
+  /// which is then swallowed. The entry must be enabled.
   void ForwardKey(Key& key) const;
   /// Status panel 3, by the document's caret memory.
   void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document, document.Caret); }
+  /// Gives a tool's pane the font of the files.
+  void ApplyFont(Pane& pane) const { desk_.ApplyFont(pane); }
   void SayIsProtected(const Document& document) const { desk_.SayIsProtected(document); }
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }

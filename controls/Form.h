@@ -47,6 +47,10 @@ class Form : public Component {
   Signal<std::string_view> PopUp;
   virtual void PopUpClosed(std::string_view /*name*/) {}
 
+  /// Brings the form's window in front of the others.
+  void ToFront() { Raised(); }
+  Signal<> Raised;
+
   /// The control with the focus, or null.
   [[nodiscard]] Control* ActiveControl() const { return active_; }
   /// Moves the focus: the old control hears of the loss before the new one of the gain.

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -72,7 +73,7 @@ bool NeedsNone(const QString& caption) {
 template <class Widget>
 void GiveEach(QWidget& window, const QWidget* page, Mnemonics& mnemonics) {
   for (auto* const widget : window.findChildren<Widget*>()) {
-    if (PageOf(widget) != page) continue;
+    if (PageOf(widget) != page || widget->property(kNoMnemonic).toBool()) continue;
     mnemonics.Take(widget->text());
     const QString caption = widget->text();
     if (caption.contains(u'&') || NeedsNone(caption)) continue;
@@ -171,6 +172,9 @@ void GiveMnemonics(QWidget& window) {
   Mnemonics shared;
   for (const QTabBar* const tabs : window.findChildren<QTabBar*>()) {
     for (int i = 0; i < tabs->count(); ++i) shared.Take(tabs->tabText(i));
+  }
+  for (const QMenuBar* const bar : window.findChildren<QMenuBar*>()) {
+    for (const QAction* const menu : bar->actions()) shared.Take(menu->text());
   }
   GiveOn(window, nullptr, shared);
   for (const QStackedWidget* const stack : window.findChildren<QStackedWidget*>()) {

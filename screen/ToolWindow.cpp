@@ -13,6 +13,8 @@ namespace {
 
 constexpr int kFromTheRight = 40;
 constexpr int kFromTheTop = 120;
+constexpr int kNormal = 0;
+constexpr int kMinimised = 1;
 
 }  // namespace
 
@@ -26,6 +28,13 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   bindings_.Bind(
       form.Caption, [this] { setWindowTitle(ToScreen(this->form().Caption.Get()).trimmed()); },
       [this] { return this->form().Caption.ToText(); });
+  bindings_.Bind(form.WindowState, [this] {
+    if (this->form().WindowState == kNormal && isMinimized()) showNormal();
+  });
+  bindings_.Keep(form.Raised.Connect([this] {
+    raise();
+    activateWindow();
+  }));
   bindings_.Bind(form.Topmost, [this] { ShowTopmost(); });
   bindings_.Bind(
       form.Visible, [this] { ShowWindow(); }, [this] { return TextOf(isVisible()); });
@@ -71,6 +80,11 @@ void ToolWindow::ShowTopmost() {
 void ToolWindow::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (!event->spontaneous()) form().Activate();
+}
+
+void ToolWindow::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) form().WindowState = isMinimized() ? kMinimised : kNormal;
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

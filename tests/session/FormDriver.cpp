@@ -222,7 +222,7 @@ class FormDriver : public Driver {
     if (!previewed.code) return true;
     if (PressesButton(form, key)) return true;
     auto* pane = dynamic_cast<Pane*>(&control);
-    if (!pane) return RunShortcut(control, chord);
+    if (!pane) return RunShortcut(control, chord) || static_cast<bool>(form.KeyDown);
     if (!pane->Visible) return false;
     pane->SetFocus();
     pane->KeyDown(key);
