@@ -17,6 +17,7 @@ constexpr int kFallbackPlace = 200;
 
 constexpr int kMinus = 47;
 constexpr int kEnter = 13;
+constexpr int kEscape = 27;
 constexpr int kColourButton = 7;
 constexpr int kMinimised = 1;
 enum AddKind { kNothing, kText, kRaw };
@@ -165,9 +166,7 @@ void RAWform::AttachHandlers() {
   Attach(Command14, *this, &RAWform::Command14_Click);
   Attach(CommandINS, *this, &RAWform::CommandINS_Click);
   TotalCombinedText.Change = [this] { TotalCombinedText_Change(); };
-  TotalCombinedText.KeyDown = [](Key& key) {
-    if (key.code == kEnter) key = {};  // it is one line
-  };
+  TotalCombinedText.KeyDown = [this](Key& key) { TotalCombinedText_KeyDown(key); };
   Form::Load = [this] { Form_Load(); };
   Form::Unload = [this] { Form_Unload(); };
   Form::Activate = [this] { ToFront(); };
@@ -326,6 +325,12 @@ void RAWform::Command4_Click() {
 
 void RAWform::TotalCombinedText_Change() {
   for (const int i : {0, 1}) CommandINS(i).Enabled = !TotalCombinedText.Characters().empty();
+}
+
+/// It is one line, in a box that would take these keys for itself.
+void RAWform::TotalCombinedText_KeyDown(Key& key) {
+  if (key.code == kEscape) Command2_Click();
+  if (key.code == kEnter || key.code == kEscape) key = {};
 }
 
 void RAWform::Command9_Click(int index) {

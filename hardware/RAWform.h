@@ -74,6 +74,7 @@ class RAWform : public Form {
   void CheckAddCRPimlet_Click() { AddCR = CheckAddCRPimlet.Value; }
   void CommandINS_Click(int index);
   void TotalCombinedText_Change();
+  void TotalCombinedText_KeyDown(Key& key);
   void mnuFileClose_Click();
   void mnuDelayValue_Click(int index);
   void mnuPasteJ_Click();

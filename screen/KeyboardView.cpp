@@ -261,9 +261,9 @@ void KeyboardView::Go(const KeyCap& from, QPoint direction) {
   for (KeyCap* const cap : caps_) {
     const QPoint way = cap->geometry().center() - from.geometry().center();
     const int ahead = QPoint::dotProduct(way, direction);
-    if (!cap->isEnabled() || ahead <= from.height() / 4) continue;
+    if (!cap->isEnabled() || ahead <= 0) continue;
     const int aside = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
-    if (ahead + aside * kAside >= least) continue;
+    if (aside > ahead || ahead + aside * kAside >= least) continue;
     least = ahead + aside * kAside;
     nearest = cap;
   }

@@ -1,5 +1,6 @@
 #include "screen/ToolWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -54,10 +55,18 @@ void ToolWindow::ShowWindow() {
     return;
   }
   setModal(form().Modal);
+  if (form().Modal) StayAbove(QApplication::activeWindow());
   if (!isVisible() && !form().Modal) move(PlaceBeside());
   show();
   raise();
   activateWindow();
+}
+
+/// A click on the window that asked does not bring it in front.
+void ToolWindow::StayAbove(const QWidget* asking) {
+  if (!asking || asking == this) return;
+  create();
+  windowHandle()->setTransientParent(asking->windowHandle());
 }
 
 /// At the frame's right, where it covers little of the text.
