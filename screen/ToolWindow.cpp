@@ -55,18 +55,20 @@ void ToolWindow::ShowWindow() {
     return;
   }
   setModal(form().Modal);
-  if (form().Modal) StayAbove(QApplication::activeWindow());
+  ChooseOwner();
   if (!isVisible() && !form().Modal) move(PlaceBeside());
   show();
   raise();
   activateWindow();
 }
 
-/// A click on the window that asked does not bring it in front.
-void ToolWindow::StayAbove(const QWidget* asking) {
-  if (!asking || asking == this) return;
+/// A modal window stays in front of the one that asked, whatever is clicked. Any other is minimised by
+/// itself, and the frame may cover it unless it is topmost.
+void ToolWindow::ChooseOwner() {
   create();
-  windowHandle()->setTransientParent(asking->windowHandle());
+  const QWidget* const asking = QApplication::activeWindow();
+  const QWidget* const owner = asking && asking != this ? asking : &frame_;
+  windowHandle()->setTransientParent(form().Modal ? owner->windowHandle() : nullptr);
 }
 
 /// At the frame's right, where it covers little of the text.
@@ -76,14 +78,12 @@ QPoint ToolWindow::PlaceBeside() {
   return {std::max(frame.left(), frame.right() - width() - kFromTheRight), frame.top() + kFromTheTop};
 }
 
-/// A window that is not topmost may be covered by the frame.
 void ToolWindow::ShowTopmost() {
-  if (!windowHandle()) {
+  if (windowHandle()) {
+    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, form().Topmost);
+  } else {
     setWindowFlag(Qt::WindowStaysOnTopHint, form().Topmost);
-    return;
   }
-  windowHandle()->setFlag(Qt::WindowStaysOnTopHint, form().Topmost);
-  windowHandle()->setTransientParent(form().Topmost ? frame_.windowHandle() : nullptr);
 }
 
 void ToolWindow::showEvent(QShowEvent* event) {

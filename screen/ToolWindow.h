@@ -33,7 +33,7 @@ class ToolWindow : public QDialog, public FormView {
   void MakeMenuBar(const Menus& menus);
   void ShowWindow();
   void ShowTopmost();
-  void StayAbove(const QWidget* asking);
+  void ChooseOwner();
   [[nodiscard]] QPoint PlaceBeside();
   [[nodiscard]] bool FormTakes(const QKeyEvent& event);
 

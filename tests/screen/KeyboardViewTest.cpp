@@ -138,8 +138,8 @@ TEST_F(Keyboard, KeepsItsProportionsAtAnySize) {
   }
 }
 
-/// Otherwise a click on Pimlet would bring him in front of the window that he waits for.
-TEST_F(Keyboard, HasTheWindowForARemarkAboveIt) {
+/// A click on Pimlet does not bring him in front of the window that he waits for, and he is minimised alone.
+TEST_F(Keyboard, HasTheWindowForARemarkAboveItAndIsAboveNone) {
   auto& remark = application_.Tool<SingleTextForm>();
   remark.Modal = true;
   remark.Visible = true;
@@ -147,6 +147,7 @@ TEST_F(Keyboard, HasTheWindowForARemarkAboveIt) {
     return qobject_cast<QWidget*>(screen_.Find(form))->windowHandle();
   };
   EXPECT_EQ(windowOf(remark)->transientParent(), windowOf(Form()));
+  EXPECT_FALSE(windowOf(Form())->transientParent());
 }
 
 }  // namespace
