@@ -2,6 +2,7 @@
 
 #include "app/EditorTables.h"
 #include "composer/InsertOptions.h"
+#include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
 
@@ -348,6 +349,10 @@ void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(
 
 void Editor::mnuShowInsertWindow_Click() { application_.Tool<InsertOptions>().ShowComposer(); }
 void Editor::mnuComposerPlugin_Click() { application_.Tool<InsertOptions>().ShowTemplates(); }
+
+// Pimlet.
+
+void Editor::mnuInsertRAW_Click() { application_.Tool<RAWform>().Show(); }
 
 // Blocks.
 

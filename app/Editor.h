@@ -107,9 +107,10 @@ class Editor : public Form {
   void UpdateCCPButtons() { edit_.UpdateCCPButtons(); }
   void CheckAtLineBeginning() { edit_.CheckAtLineBeginning(); }
 
-  // The Composer.
+  // The tools that write statements.
   void mnuShowInsertWindow_Click();
   void mnuComposerPlugin_Click();
+  void mnuInsertRAW_Click();
 
   // Blocks.
   void mnuInsertTitle_Click();
@@ -180,6 +181,8 @@ class Editor : public Form {
   void ForwardKey(Key& key) const;
   /// Status panel 3, by the document's caret memory.
   void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document, document.Caret); }
+  /// Gives a tool's pane the font of the files.
+  void ApplyFont(Pane& pane) const { desk_.ApplyFont(pane); }
   void SayIsProtected(const Document& document) const { desk_.SayIsProtected(document); }
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }

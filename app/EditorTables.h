@@ -66,7 +66,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {0, "mnuInsert", "&Insert"},
     {1, "mnuShowInsertWindow", "&Composer", "F2", &Editor::mnuShowInsertWindow_Click},
     {1, "mnuComposerPlugin", "&Template ...", "F3", &Editor::mnuComposerPlugin_Click},
-    {1, "mnuInsertRAW", "&Pimlet", "F4"},
+    {1, "mnuInsertRAW", "&Pimlet", "F4", &Editor::mnuInsertRAW_Click},
     {1, "mnuInsertDivider1", "-"},
     {1, "mnuInsertTitle", "T&itle ...", "", &Editor::mnuInsertTitle_Click},
     {1, "mnuInsertHeading", "&Heading ...", "F5", &Editor::mnuInsertHeading_Click},

@@ -226,14 +226,19 @@ void SingleTextForm::SaveCRthang() {
   application_.settings.Write("Miscellaneous", "AddCRtoREM", TextOf(CheckAddCR.Value.Get()));
 }
 
-void InsertRemStatement(Application& application) {
-  Values& values = application.values;
-  values.REMText = std::string();
+std::string AskForRemark(Application& application) {
+  application.values.REMText = std::string();
   auto& form = application.Tool<SingleTextForm>();
   form.RichTextBox1.SetFocus();
   application.ShowModal(form);
-  if (values.REMText.Get().empty()) return;
-  values.InsertionText = "Rem " + values.REMText.Get();
+  return application.values.REMText;
+}
+
+void InsertRemStatement(Application& application) {
+  Values& values = application.values;
+  const std::string remark = AskForRemark(application);
+  if (remark.empty()) return;
+  values.InsertionText = "Rem " + remark;
   values.InsertionColour = application.settings.RemStatements;
   ColouredInsertion& insertion = application.editor()->insertion();
   insertion.BeginColInsert();

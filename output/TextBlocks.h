@@ -69,6 +69,9 @@ class SingleTextForm : public Form {
 /// The user's hardware in words, as "F-16 FLCS, TQS, RCS."
 [[nodiscard]] std::string GetHardwareNames(const Settings& settings);
 
+/// Asks for a remark in a window: its text with a blank behind it, empty after Cancel.
+std::string AskForRemark(Application& application);
+
 /// Ask for the text in a window, and write the block at the caret of the file on top.
 void InsertTitle(Application& application);
 void InsertHeading(Application& application);

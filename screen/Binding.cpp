@@ -7,6 +7,7 @@
 
 #include "screen/Icons.h"
 #include "screen/Text.h"
+#include "screen/WindowFocus.h"
 
 namespace tarvik::screen {
 namespace {
@@ -121,14 +122,16 @@ void Bindings::BindControl(Control& control, QWidget& widget) {
       [&] { return FromScreen(widget.toolTip()); });
   Bind(control.MousePointer, [&] { widget.setCursor(CursorOf(control.MousePointer)); });
   if (widget.focusPolicy() == Qt::NoFocus) return;
-  new Watcher(widget, [&control](QEvent& event) {
-    if (event.type() == QEvent::FocusIn) control.SetFocus();
+  new Watcher(widget, [this, &control](QEvent& event) {
+    if (event.type() != QEvent::FocusIn) return;
+    const QScopedValueRollback rollback(takingFocus_, true);
+    control.SetFocus();
   });
   Form& form = control.OwnForm();
-  Keep(form.ActiveControlChanged.Connect([&form, &control, &widget] {
-    if (form.ActiveControl() != &control) return;
+  Keep(form.ActiveControlChanged.Connect([this, &form, &control, &widget] {
+    if (form.ActiveControl() != &control || (takingFocus_ && widget.hasFocus())) return;
     if (!widget.hasFocus()) widget.setFocus();
-    if (!widget.isActiveWindow() && widget.isVisible()) widget.activateWindow();
+    AskForWindow(widget);
   }));
 }
 
@@ -342,8 +345,9 @@ void Bindings::BindText(TextBox& box, QLineEdit& line) {
     line.setCursorPosition(from);
     if (to > from) line.setSelection(from, to - from);
   };
-  const auto takeSelection = [&box, busy, start, length] {
-    if (*busy) return;
+  // The toolkit drops the selection of a line that the focus leaves; the box keeps it for what is inserted next.
+  const auto takeSelection = [&box, &line, busy, start, length] {
+    if (*busy || !line.hasFocus()) return;
     const QScopedValueRollback rollback(*busy, true);
     box.SelStart = start();
     box.SelLength = length();

@@ -33,6 +33,8 @@ inline constexpr float kTwips = 15;
 
 /// The dynamic property of a widget whose mnemonic is not in its control's caption: the letter.
 inline constexpr const char* kMnemonic = "mnemonic";
+/// The dynamic property of a widget that is to have no mnemonic.
+inline constexpr const char* kNoMnemonic = "noMnemonic";
 /// The caption with the widget's own mnemonic marked.
 [[nodiscard]] QString WithMnemonic(QString caption, const QWidget& widget);
 
@@ -92,6 +94,7 @@ class Bindings {
   std::map<const PropertyBase*, Reader> readers_;
   std::map<const Component*, QObject*> shown_;
   std::vector<Connection> connections_;
+  bool takingFocus_ = false;  // from the user
 };
 
 }  // namespace tarvik::screen

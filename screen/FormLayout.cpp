@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -90,7 +91,7 @@ bool NeedsNone(const QString& caption) {
 template <class Widget>
 void GiveEach(QWidget& window, const QWidget* page, Mnemonics& mnemonics) {
   for (auto* const widget : window.findChildren<Widget*>()) {
-    if (PageOf(widget) != page) continue;
+    if (PageOf(widget) != page || widget->property(kNoMnemonic).toBool()) continue;
     mnemonics.Take(widget->text());
     const QString caption = widget->text();
     if (caption.contains(u'&') || NeedsNone(caption)) continue;
@@ -213,6 +214,9 @@ void GiveMnemonics(QWidget& window) {
   Mnemonics shared;
   for (const QTabBar* const tabs : window.findChildren<QTabBar*>()) {
     for (int i = 0; i < tabs->count(); ++i) shared.Take(tabs->tabText(i));
+  }
+  for (const QMenuBar* const bar : window.findChildren<QMenuBar*>()) {
+    for (const QAction* const menu : bar->actions()) shared.Take(menu->text());
   }
   std::map<const QWidget*, Mnemonics> given;  // by page, those of the pages around it included
   GiveOn(window, nullptr, given[nullptr] = shared);

@@ -36,6 +36,9 @@ class FormLayout {
   /// The pages in the order of the tabs.
   QWidget* Show(TabPages& pages, const std::vector<QLayout*>& layouts) const;
 
+  /// For widgets that bind their controls themselves.
+  [[nodiscard]] Bindings& bindings() const { return bindings_; }
+
  private:
   Bindings& bindings_;
 };

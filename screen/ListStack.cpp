@@ -9,6 +9,7 @@
 
 #include "screen/Icons.h"
 #include "screen/Text.h"
+#include "screen/WindowFocus.h"
 
 namespace tarvik::screen {
 namespace {
@@ -139,8 +140,9 @@ void ListStack::Add(ListBox& list) {
 }
 
 void ListStack::TakeFocus() {
-  if (!hasFocus()) setFocus();
-  if (!isActiveWindow() && isVisible()) activateWindow();
+  if (hasFocus()) return;
+  setFocus();
+  AskForWindow(*this);
 }
 
 void ListStack::Remove(ListBox& list) {

@@ -8,6 +8,7 @@
 #include "screen/EditorView.h"
 #include "screen/MumWindow.h"
 #include "screen/ToolWindow.h"
+#include "screen/WindowFocus.h"
 
 namespace tarvik::screen {
 
@@ -22,6 +23,7 @@ Screen::Screen(Application& application, Clock clock) : application_(application
 
 /// The frame is the editor's window, as long as there is an editor.
 void Screen::TellActive(const QWindow* window) {
+  if (AwaitsOtherThan(window)) return;
   for (FormView* const view : views_) {
     const auto* const widget = dynamic_cast<QWidget*>(view);
     if (!window || !widget || widget->window()->windowHandle() != window) continue;

@@ -80,9 +80,19 @@ QWidget* ScreenAccess::WidgetOf(const Component& component) const {
   return widget && widget->isVisible() && widget->isEnabled() ? widget : nullptr;
 }
 
+void ScreenAccess::GoTo(const Component& component) {
+  const Component* form = &component;
+  while (form->Parent()) form = form->Parent();
+  auto* const view = dynamic_cast<QWidget*>(screen_.ViewOf(static_cast<const Form&>(*form)));
+  if (!view || view->isActiveWindow() || !view->isVisible()) return;
+  view->window()->activateWindow();
+  QApplication::processEvents();
+}
+
 void ScreenAccess::ClickAt(Component& component, Qt::MouseButton button, bool twice) {
   QWidget* const widget = WidgetOf(component);
   if (!widget) return;
+  GoTo(component);
   if (widget->focusPolicy() & Qt::ClickFocus) widget->setFocus(Qt::MouseFocusReason);
   QWidget& surface = Surface(*widget);
   const QPointF place = PlaceToClick(*widget);
@@ -101,6 +111,7 @@ void ScreenAccess::Click(Component& component) {
     ClickAt(component, Qt::LeftButton, false);
     return;
   }
+  GoTo(component);
   if (action->isVisible()) action->trigger();
   while (QWidget* const popUp = QApplication::activePopupWidget()) popUp->close();
   Settle();
@@ -117,6 +128,7 @@ void ScreenAccess::Focus(Component& component) {
 bool ScreenAccess::Pick(Component& component, int index) {
   QWidget* const widget = WidgetOf(component);
   if (!widget || index < 0) return false;
+  GoTo(component);
   if (auto* const list = qobject_cast<QListView*>(widget)) {
     const QModelIndex item = list->model()->index(index, 0);
     if (!item.isValid()) return false;
@@ -158,6 +170,7 @@ void ScreenAccess::Press(QWidget& widget, QKeyCombination key, const QString& te
 void ScreenAccess::Type(Control& control, std::string_view text) {
   QWidget* const widget = WidgetOf(control);
   if (!widget) return;
+  GoTo(control);
   widget->setFocus();
   for (const QChar character : ToScreen(text)) {
     const bool enter = character == u'\n';
@@ -172,6 +185,7 @@ void ScreenAccess::Type(Control& control, std::string_view text) {
 void ScreenAccess::PressKey(Component& component, std::string_view chord) {
   QWidget* widget = WidgetOf(component);
   if (!widget) return;
+  GoTo(component);
   if (widget->focusPolicy() != Qt::NoFocus) widget->setFocus();
   const QKeySequence sequence(ToScreen(chord));
   if (sequence.isEmpty()) return;

@@ -44,6 +44,8 @@ class ScreenAccess {
 
  private:
   [[nodiscard]] QWidget* WidgetOf(const Component& component) const;
+  /// The user goes to the window that the component is in.
+  void GoTo(const Component& component);
   void ClickAt(Component& component, Qt::MouseButton button, bool twice);
   void Press(QWidget& widget, QKeyCombination key, const QString& text);
 

@@ -1,8 +1,13 @@
 // The pages of the tools' windows, as layouts that name the controls of their forms.
+#include <QGridLayout>
 #include <QPlainTextEdit>
+#include <QPushButton>
 
+#include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
+#include "screen/Icons.h"
+#include "screen/KeyboardView.h"
 #include "screen/ToolWindow.h"
 
 namespace tarvik::screen {
@@ -59,6 +64,76 @@ QLayout* Page(SingleTextForm& form, const FormLayout& in) {
                  Row({Stretch(), in.Show(form.Command1), in.Show(form.Command2)})});
 }
 
+/// A button with a picture, which is read out by a name of its own: several share their tool tip.
+QWidget* WithIcon(QWidget* button, const char* icon, const QString& name) {
+  static_cast<QPushButton*>(button)->setIcon(Icon(icon));
+  button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  return Named(button, name);
+}
+
+/// A box with what a key is or sends, and the buttons that add it to the line and copy it.
+struct ReadOut {
+  const char* label;
+  TextBox& box;
+  CommandButton& add;
+  CommandButton& copy;
+  bool codes;
+};
+
+QLayout* ReadOuts(std::initializer_list<ReadOut> readOuts, const FormLayout& in) {
+  auto* const grid = new QGridLayout;
+  for (const ReadOut& readOut : readOuts) {
+    const int row = grid->rowCount();
+    const QString name = QString::fromUtf8(readOut.label);
+    auto* const label = new QLabel(name);
+    QWidget* const box = Named(in.Show(readOut.box), name);
+    label->setBuddy(box);
+    grid->addWidget(label, row, 0);
+    if (readOut.codes) grid->addWidget(new QLabel(QStringLiteral("RAW(")), row, 1, Qt::AlignRight);
+    grid->addWidget(box, row, 2);
+    if (readOut.codes) grid->addWidget(new QLabel(QStringLiteral(")")), row, 3);
+    grid->addWidget(WithIcon(in.Show(readOut.add), "list-add", QStringLiteral("Add: ") + name), row, 4);
+    grid->addWidget(WithIcon(in.Show(readOut.copy), "edit-copy", QStringLiteral("Copy: ") + name), row, 5);
+  }
+  grid->setColumnStretch(2, 1);
+  return grid;
+}
+
+QLayout* Page(RAWform& form, const FormLayout& in) {
+  constexpr int kLinesOfText = 3;
+  const QString line = QStringLiteral("Combined selection");
+  auto* const toggles =
+      Row({in.Show(form.ToggleButton1), in.Show(form.ToggleButton2), in.Show(form.ToggleButton3),
+           in.Show(form.ToggleButton4), Stretch(), in.Show(form.CheckUseSHFUK), in.Show(form.Command11)});
+  QWidget* const keyboard = new KeyboardView(form, in.bindings());
+  auto* const readOuts =
+      ReadOuts({{"Thrustmaster syntax", form.SyntaxText, form.Command5, form.Command9(4), false},
+                {"Raw Make code", form.RMakeText, form.Command10(0), form.Command9(0), true},
+                {"Raw Break code", form.RBreakText, form.Command10(1), form.Command9(1), true},
+                {"Combined Raw Codes", form.RCombinedText, form.Command10(2), form.Command9(2), true}},
+               in);
+  auto* const pieces = new QHBoxLayout;
+  for (const int i : {0, 1, 2, 3, 4, 5, 6, 8}) {
+    QWidget* const button = in.Show(form.Command3(i));
+    button->setMinimumWidth(1);
+    pieces->addWidget(button);
+  }
+  pieces->addWidget(in.Show(form.Command6));
+  pieces->addWidget(in.Show(form.Command7));
+  QWidget* const text = in.Show(form.TotalCombinedText);
+  text->setFixedHeight(kLinesOfText * text->fontMetrics().lineSpacing());
+  return Column(
+      {toggles, keyboard, readOuts, pieces,
+       Row({Above("Combined selection", text),
+            Column({Stretch(),
+                    WithIcon(in.Show(form.Command9(3)), "edit-copy", QStringLiteral("Copy: ") + line),
+                    WithIcon(in.Show(form.Command4), "edit-clear", QStringLiteral("Clear: ") + line)})}),
+       Row({in.Show(form.CommandINS(0)), in.Show(form.CommandINS(1)), in.Show(form.CheckAddCRPimlet),
+            Stretch(), in.Show(form.Command3(7))}),
+       Row({in.Show(form.Check1), in.Show(form.Command14(0)), in.Show(form.Command14(1)), Stretch(),
+            in.Show(form.Command2)})});
+}
+
 template <class F>
 ToolWindow::MakePage PageFor(Form& form) {
   auto* const own = dynamic_cast<F*>(&form);
@@ -70,7 +145,7 @@ ToolWindow::MakePage PageFor(Form& form) {
 
 ToolWindow::MakePage PageOf(Form& form) {
   for (const auto& find : {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Title>, PageFor<Heading>,
-                           PageFor<SingleTextForm>}) {
+                           PageFor<SingleTextForm>, PageFor<RAWform>}) {
     if (auto page = find(form)) return page;
   }
   return {};

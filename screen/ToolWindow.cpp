@@ -1,5 +1,6 @@
 #include "screen/ToolWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -13,6 +14,8 @@ namespace {
 
 constexpr int kFromTheRight = 40;
 constexpr int kFromTheTop = 120;
+constexpr int kNormal = 0;
+constexpr int kMinimised = 1;
 
 }  // namespace
 
@@ -26,13 +29,15 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   bindings_.Bind(
       form.Caption, [this] { setWindowTitle(ToScreen(this->form().Caption.Get()).trimmed()); },
       [this] { return this->form().Caption.ToText(); });
+  bindings_.Bind(form.WindowState, [this] {
+    if (this->form().WindowState == kNormal && isMinimized()) showNormal();
+  });
   bindings_.Bind(form.Topmost, [this] { ShowTopmost(); });
   bindings_.Keep(form.Moved.Connect([this] {
     placed_ = true;
     if (isVisible()) move(PlaceOfForm());
   }));
   bindings_.Keep(form.Raised.Connect([this] {
-    if (isMinimized()) showNormal();
     raise();
     activateWindow();
   }));
@@ -55,10 +60,20 @@ void ToolWindow::ShowWindow() {
   }
   setModal(form().Modal);
   setWindowFlag(Qt::WindowMinimizeButtonHint, !form().Modal);
+  ChooseOwner();
   if (!isVisible() && !form().Modal) move(placed_ ? PlaceOfForm() : PlaceBeside());
   show();
   raise();
   activateWindow();
+}
+
+/// A modal window stays in front of the one that asked, whatever is clicked. Any other is minimised by
+/// itself, and the frame may cover it unless it is topmost.
+void ToolWindow::ChooseOwner() {
+  create();
+  const QWidget* const asking = QApplication::activeWindow();
+  const QWidget* const owner = asking && asking != this ? asking : &frame_;
+  windowHandle()->setTransientParent(form().Modal ? owner->windowHandle() : nullptr);
 }
 
 /// At the frame's right, where it covers little of the text.
@@ -86,25 +101,22 @@ void ToolWindow::moveEvent(QMoveEvent* event) {
   form().Top = static_cast<float>(pos().y()) * kTwips;
 }
 
-void ToolWindow::changeEvent(QEvent* event) {
-  QDialog::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange)
-    form().WindowState = isMinimized() ? 1 : isMaximized() ? 2 : 0;
-}
-
-/// A window that is not topmost may be covered by the frame.
 void ToolWindow::ShowTopmost() {
-  if (!windowHandle()) {
+  if (windowHandle()) {
+    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, form().Topmost);
+  } else {
     setWindowFlag(Qt::WindowStaysOnTopHint, form().Topmost);
-    return;
   }
-  windowHandle()->setFlag(Qt::WindowStaysOnTopHint, form().Topmost);
-  windowHandle()->setTransientParent(form().Topmost ? frame_.windowHandle() : nullptr);
 }
 
 void ToolWindow::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (!event->spontaneous()) application_.Activated(form());
+}
+
+void ToolWindow::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::WindowStateChange) form().WindowState = isMinimized() ? kMinimised : kNormal;
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

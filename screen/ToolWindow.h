@@ -34,6 +34,7 @@ class ToolWindow : public QDialog, public FormView {
   void MakeMenuBar(const Menus& menus);
   void ShowWindow();
   void ShowTopmost();
+  void ChooseOwner();
   [[nodiscard]] QPoint PlaceBeside();
   [[nodiscard]] QPoint PlaceOfForm() const;
   [[nodiscard]] bool FormTakes(const QKeyEvent& event);

@@ -11,6 +11,7 @@
 
 #include "app/ColourSelector.h"
 #include "app/Editor.h"
+#include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
 #include "screen/HelpWindow.h"
@@ -26,7 +27,7 @@ class Windows : public testing::Test {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
-    ShowTools<FindAndReplace, Title, Heading, SingleTextForm>();
+    ShowTools<FindAndReplace, Title, Heading, SingleTextForm, RAWform>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();

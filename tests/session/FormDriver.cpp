@@ -153,6 +153,11 @@ class FormDriver : public Driver {
       label->Click();
       return true;
     }
+    if (auto* box = dynamic_cast<TextBox*>(shown)) {
+      box->SetFocus();
+      box->MouseDown({1, 0, 0, 0});
+      return true;
+    }
     if (auto* picture = dynamic_cast<PictureBox*>(shown)) {
       picture->Click();
       return true;
@@ -232,7 +237,8 @@ class FormDriver : public Driver {
     if (!previewed.code) return true;
     if (PressesButton(form, key)) return true;
     auto* pane = dynamic_cast<Pane*>(&control);
-    if (!pane) return RunShortcut(control, chord);
+    if (auto* const box = dynamic_cast<TextBox*>(&control); box && EditIn(*box, key)) return true;
+    if (!pane) return RunShortcut(control, chord) || static_cast<bool>(form.KeyDown);
     if (!pane->Visible) return false;
     pane->SetFocus();
     pane->KeyDown(key);
@@ -300,6 +306,29 @@ class FormDriver : public Driver {
 
   static void TypeIn(TextBox& box, std::string_view text) {
     for (const char c : text) box.SelText = std::string(1, c);
+  }
+
+  static bool EditIn(TextBox& box, const Key& key) {
+    constexpr int kBackspace = 8;
+    constexpr int kEnd = 35;
+    constexpr int kHome = 36;
+    constexpr int kDelete = 46;
+    const std::size_t length = box.Text.Get().size();
+    const bool deletes = key.code == kBackspace || key.code == kDelete;
+    if (!deletes && key.code != kHome && key.code != kEnd) return false;
+    box.SetFocus();
+    if (!deletes) {
+      box.SelStart = key.code == kHome ? 0 : length;
+      box.SelLength = 0;
+      return true;
+    }
+    if (key.code == kBackspace && box.SelLength == 0U && box.SelStart > 0U) {
+      box.SelStart = box.SelStart - 1;
+      box.SelLength = 1;
+    }
+    if (key.code == kDelete && box.SelLength == 0U) box.SelLength = box.SelStart < length ? 1 : 0;
+    box.SelText = std::string();
+    return true;
   }
 
   /// Whatever the user does next, a menu that is open closes.

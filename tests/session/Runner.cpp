@@ -140,8 +140,8 @@ const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
       {"ended", &Runner::ExpectEnded},         {"running", &Runner::ExpectRunning},
       {"same", &Runner::ExpectSame},           {"printed", &Runner::ExpectPrinted},
       {"clipboard", &Runner::ExpectClipboard}, {"help", &Runner::ExpectHelp},
-      {"popup", &Runner::ExpectPopUp},         {"focus", &Runner::ExpectFocus},
-      {"form", &Runner::ExpectForm},
+      {"opened", &Runner::ExpectOpened},       {"popup", &Runner::ExpectPopUp},
+      {"focus", &Runner::ExpectFocus},         {"form", &Runner::ExpectForm},
   };
   return expectations;
 }
@@ -458,6 +458,13 @@ void Runner::ExpectHelp(const Line& line) {
   if (outside_.help.shown.empty()) throw Stop{"no help was asked for"};
   Compare(Word(line, 2), outside_.help.shown.front());
   outside_.help.shown.pop_front();
+}
+
+/// expect opened PATH, in the order in which the desktop was asked to open them
+void Runner::ExpectOpened(const Line& line) {
+  if (outside_.desktop.opened.empty()) throw Stop{"nothing was opened"};
+  Compare(Word(line, 2), outside_.desktop.opened.front());
+  outside_.desktop.opened.pop_front();
 }
 
 /// expect popup NAME: the pop-up menu that came last

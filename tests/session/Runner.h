@@ -77,6 +77,7 @@ class Runner {
   void ExpectSame(const Line& line);
   void ExpectClipboard(const Line& line);
   void ExpectHelp(const Line& line);
+  void ExpectOpened(const Line& line);
   void ExpectPopUp(const Line& line);
   void ExpectFocus(const Line& line);
   void ExpectForm(const Line& line);
