@@ -168,6 +168,7 @@ class FormDriver : public Driver {
   bool DoubleClick(Component& control) override {
     application_.Activated(FormOf(control));
     if (auto* list = dynamic_cast<ListBox*>(&control)) return list->Visible && (list->DblClick(), true);
+    if (auto* pane = dynamic_cast<Pane*>(&control)) return pane->Visible && (pane->DblClick(), true);
     if (auto* frame = dynamic_cast<Frame*>(&control)) return frame->Visible && (frame->DblClick(), true);
     return false;
   }
