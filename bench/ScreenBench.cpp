@@ -1,4 +1,5 @@
-// tarvik_screen_bench: a key from its press to the painted text, in a 1 MB file, beside a bare text edit.
+// tarvik_screen_bench: a key from its press to the painted text, in a 1 MB file, beside a bare text edit; a
+// click in the Composer beside the search it needs, and its second showing beside the first.
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
@@ -6,6 +7,7 @@
 #include "Compare.h"
 #include "Samples.h"
 #include "app/Editor.h"
+#include "composer/InsertOptions.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
 
@@ -28,6 +30,43 @@ void PutCaretInTheMiddle(QPlainTextEdit& edit) {
   edit.setTextCursor(cursor);
   edit.setFocus();
   QApplication::processEvents();
+}
+
+Seconds TimeToShow(Editor& editor) {
+  return TimeOf(
+      [&editor] {
+        editor.mnuShowInsertWindow_Click();
+        QApplication::processEvents();
+      },
+      1);
+}
+
+/// The statement is the file's last.
+void CompareTheComposer(Application& application, QPlainTextEdit& edit) {
+  constexpr int kLastButton = 31;
+  constexpr const char* kLastStatement = "BTN T14 ";
+  Editor& editor = *application.editor();
+  editor.JoystickText.SelStart = editor.JoystickText.Characters().size();
+  editor.JoystickText.SelText = std::string(kLastStatement);
+  const Seconds first = TimeToShow(editor);
+  auto& composer = application.Tool<InsertOptions>();
+  std::vector<Seconds> later;
+  for (int i = 0; i < 9; ++i) {
+    composer.Command6.Click();
+    QApplication::processEvents();
+    later.push_back(TimeToShow(editor));
+  }
+  Report("second showing of the Composer, beside the first", {Median(later), first}, Goal::AtMost, 0.1);
+  const Medians click = Measure(
+      [&] {
+        composer.BTN_Click(kLastButton);
+        edit.viewport()->repaint();
+      },
+      [&] {
+        editor.JoystickText.Find(kLastStatement, 0, editor.JoystickText.Characters().size());
+        edit.viewport()->repaint();
+      });
+  Report("click in the Composer in 1 MB, beside its search", click, Goal::AtMost, 2);
 }
 
 }  // namespace
@@ -56,4 +95,5 @@ int main(int count, char** arguments) {
 
   const Medians times = Measure([&] { Press(*own); }, [&] { Press(bare); }, 15);
   Report("key to paint in 1 MB, beside a bare text edit", times, Goal::AtMost, 2);
+  CompareTheComposer(application, *own);
 }

@@ -237,11 +237,13 @@ bool HostFiles::FolderExists(std::string_view path) const {
 std::vector<std::string> HostFiles::FilesIn(std::string_view folder, std::string_view ending) const {
   std::vector<std::string> names;
   const auto host = drives_.ToHost(folder);
+  const std::string inside = std::string(folder) + (folder.ends_with('\\') ? "" : "\\");
   std::error_code error;
-  for (fs::directory_iterator at(host.value_or(fs::path()), error), end; !error && at != end; at.increment(error)) {
-    const std::string path = drives_.FromHost(at->path());
-    std::string name = path.substr(path.rfind('\\') + 1);
-    if (LowerCase(name).ends_with(LowerCase(ending)) && FileExists(path)) names.push_back(std::move(name));
+  for (fs::directory_iterator at(host.value_or(fs::path()), error), end; !error && at != end;
+       at.increment(error)) {
+    std::string name = FromUtf8(at->path().filename().string());
+    if (LowerCase(name).ends_with(LowerCase(ending)) && FileExists(inside + name))
+      names.push_back(std::move(name));
   }
   std::sort(names.begin(), names.end(), SortsBefore);
   return names;

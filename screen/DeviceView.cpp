@@ -251,7 +251,7 @@ void DeviceView::MoveFocus(const DeviceLabel& from, QPoint direction) {
     const QPoint way = spot.label->geometry().center() - from.geometry().center();
     const int ahead = QPoint::dotProduct(way, direction);
     const int aside = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
-    if (spot.label->isHidden() || ahead <= 0) continue;
+    if (spot.label->isHidden() || ahead <= 0 || aside > 2 * ahead) continue;
     const int distance = ahead + 2 * aside;
     if (!nearest || distance < least) {
       nearest = spot.label;

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QStackedWidget>
 #include <QTabBar>
@@ -11,6 +12,7 @@
 
 #include "app/ColourSelector.h"
 #include "app/Editor.h"
+#include "composer/InsertOptions.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
@@ -27,7 +29,7 @@ class Windows : public testing::Test {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
-    ShowTools<FindAndReplace, Title, Heading, SingleTextForm, RAWform>();
+    ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();
@@ -133,18 +135,57 @@ std::vector<QWidget*> FocusChain(QWidget& window) {
   return chain;
 }
 
+/// As the eye goes: down, or on to the right. Around the corner it begins anew, which it may do once.
 TEST_F(Windows, TakeTheFocusFromTopToBottom) {
   for (QWidget* const window : Shown()) {
     if (!qobject_cast<QDialog*>(window)) continue;
-    int above = 0;
+    QRect before;
     for (const QWidget* const stop : FocusChain(*window)) {
-      const int bottom = stop->mapTo(window, QPoint(0, stop->height())).y();
-      EXPECT_GT(bottom, above) << window->windowTitle().toStdString() << ": "
-                               << stop->objectName().toStdString();
-      above = stop->mapTo(window, QPoint(0, 0)).y();
+      const QRect here(stop->mapTo(window, QPoint(0, 0)), stop->size());
+      EXPECT_TRUE(here.bottom() > before.top() || here.left() >= before.right())
+          << window->windowTitle().toStdString() << ": " << stop->objectName().toStdString();
+      before = here;
     }
     EXPECT_GE(FocusChain(*window).size(), 3U);
   }
+}
+
+TEST_F(Windows, ShowEveryPageOfTheComposerWithNames) {
+  auto& composer = application.Tool<InsertOptions>();
+  auto* const window = dynamic_cast<QWidget*>(screen.ViewOf(composer));
+  for (int page = 0; page < composer.SSTab1.Count(); ++page) {
+    composer.SSTab1.Tab = page;
+    QApplication::processEvents();
+    ExpectNames(*QAccessible::queryAccessibleInterface(window));
+    for (const auto* const button : window->findChildren<QAbstractButton*>()) {
+      if (!button->isVisible()) continue;
+      const QString shown = QString(button->text()).remove(u'&');
+      EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(shown)) << shown.toStdString();
+    }
+  }
+}
+
+TEST_F(Windows, MoveAmongTheLabelsOfADeviceByTheArrowKeys) {
+  auto& composer = application.Tool<InsertOptions>();
+  const auto widget = [&](const char* name) {
+    return qobject_cast<QWidget*>(screen.Find(composer.hardware(name)));
+  };
+  const auto press = [](QWidget* at, Qt::Key key) {
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(at, &down);
+  };
+  application.FindForm("ColourSelector")->Visible = false;
+  composer.Show();
+  QApplication::processEvents();
+  widget("HAT(0)")->setFocus();
+  press(widget("HAT(0)"), Qt::Key_Down);
+  EXPECT_TRUE(widget("HAT(1)")->hasFocus());
+  press(widget("HAT(1)"), Qt::Key_Left);
+  EXPECT_TRUE(widget("BTN(0)")->hasFocus());
+  EXPECT_EQ(widget("BTN(0)")->focusPolicy(), Qt::StrongFocus) << "the Tab key comes back to it";
+  EXPECT_EQ(widget("HAT(0)")->focusPolicy(), Qt::ClickFocus);
+  press(widget("BTN(0)"), Qt::Key_Return);
+  EXPECT_EQ(application.editor()->JoystickText.Text.Get(), "BTN S1 ");
 }
 
 }  // namespace
