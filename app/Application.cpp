@@ -14,7 +14,7 @@ constexpr const char* kAlreadyRunning =
     "with both programs writing to it.";
 
 // The tools that end with the editor, in this order.
-constexpr const char* kToolsOfEditor[] = {"FindAndReplace", "Title", "Heading", "SingleTextForm"};
+constexpr const char* kToolsOfEditor[] = {"FindAndReplace", "Title", "Heading", "SingleTextForm", "JoyPlot"};
 
 }  // namespace
 

@@ -1,6 +1,8 @@
 #include "app/Editor.h"
 
 #include "app/EditorTables.h"
+#include "hardware/JoyPlot.h"
+#include "hardware/KeyTestForm.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
 
@@ -111,6 +113,7 @@ void Editor::SetUpControls() {
   mnuViewMacros.Checked = true;
   mnuViewWordWrap.Checked = true;
   Form::Resize = [this] { Form_Resize(); };
+  MDIChild = true;
   Form::Activate = [this] { Form_Activate(); };
   ScaleWidth = mum_.Width / kTwipsPerPixel;
   ScaleHeight = mum_.Height / kTwipsPerPixel;
@@ -348,6 +351,16 @@ void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(
 void Editor::mnuInsertTitle_Click() { InsertTitle(application_); }
 void Editor::mnuInsertHeading_Click() { InsertHeading(application_); }
 void Editor::mnuInsertRemStatement_Click() { InsertRemStatement(application_); }
+
+// Apps.
+
+void Editor::mnuSendToKeyTest_Click() {
+  auto& form = application_.Tool<KeyTestForm>();
+  form.Visible = true;
+  form.RTFKeysText.SetFocus();
+}
+
+void Editor::mnuAppsJoyAnalyser_Click() { application_.Tool<JoyPlot>().PicJoy.SetFocus(); }
 
 void Editor::mnuHelpContents_Click() {
   constexpr int kContents = 1000;

@@ -160,6 +160,10 @@ class Editor : public Form {
   void mnuSlashModifierQ_Click() { Command1_Click(12); }
   void mnuSlashModifierDLY_Click() { Command1_Click(11); }
 
+  // Apps.
+  void mnuSendToKeyTest_Click();
+  void mnuAppsJoyAnalyser_Click();
+
   // Help.
   void mnuHelpContents_Click();
 
@@ -170,8 +174,8 @@ class Editor : public Form {
   void FocusActiveText() const { desk_.Active().text.SetFocus(); }
   /// Marks the document as modified and records the change for undo.
   void TextChanged(Document& document);
-  /// Runs the menu entry of a key that a tool's window got: a function key, or a letter with Ctrl alone, which
-  /// is then swallowed. The entry must be enabled.
+  /// Runs the menu entry of a key that a tool's window got: a function key, or a letter with Ctrl alone,
+  /// which is then swallowed. The entry must be enabled.
   void ForwardKey(Key& key) const;
   /// Status panel 3, by the document's caret memory.
   void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document, document.Caret); }

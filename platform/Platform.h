@@ -6,6 +6,8 @@
 #include <string>
 
 #include "platform/Files.h"
+#include "platform/Joystick.h"
+#include "platform/Keyboard.h"
 #include "platform/Outcome.h"
 #include "platform/Printer.h"
 
@@ -102,6 +104,8 @@ struct Platform {
   Help& help;
   Calendar& calendar;
   Printer& printer;
+  Joystick& joystick;
+  Keyboard& keyboard;
   ScreenSize screen;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string

@@ -14,6 +14,9 @@ namespace {
 constexpr int kFileImage = 9;
 constexpr int kProtectedImage = 6;
 
+/// No timer shows anything more often than the screen does, 60 times a second.
+constexpr int kScreenPace = 17;  // milliseconds
+
 Qt::CursorShape CursorOf(int mousePointer) {
   switch (mousePointer) {
     case pointer::kWestEast:
@@ -108,6 +111,7 @@ void Bindings::BindControl(Control& control, QWidget& widget) {
       [&] {
         // Otherwise the toolkit hands the focus to whatever comes next.
         if (!control.Visible && widget.hasFocus()) widget.clearFocus();
+        if (control.Visible && !widget.parent()) return;  // it would be a window until it has a parent
         widget.setVisible(control.Visible);
       },
       [&] { return TextOf(!widget.isHidden()); });
@@ -415,7 +419,7 @@ void Bindings::Bind(Timer& timer, QTimer& clock) {
   Shows(timer, clock);
   const auto show = [&] {
     if (timer.Enabled && timer.Interval > 0) {
-      clock.start(timer.Interval);
+      clock.start(std::max(timer.Interval.Get(), kScreenPace));
     } else {
       clock.stop();
     }

@@ -2,12 +2,14 @@
 
 #include <QCheckBox>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
 #include <QTabWidget>
 
 #include "screen/PaneView.h"
+#include "screen/PlotView.h"
 #include "screen/Text.h"
 
 namespace tarvik::screen {
@@ -64,6 +66,17 @@ QWidget* PageOf(QWidget* widget) {
   return widget;
 }
 
+/// A frame without a caption, whose border begins where the caption's middle would be.
+class BorderView : public QWidget {
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    constexpr int kAbove = 6;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, kAbove, -1, -1));
+  }
+};
+
 /// Enter and Escape press these.
 bool NeedsNone(const QString& caption) {
   return caption.isEmpty() || caption == QLatin1String("OK") || caption == QLatin1String("Cancel");
@@ -99,6 +112,29 @@ QWidget* FormLayout::Show(OptionButton& button) const { return Shown<QRadioButto
 
 QWidget* FormLayout::Show(ToggleLabel& label) const { return Shown<QPushButton>(bindings_, label); }
 QWidget* FormLayout::Show(Label& label) const { return Shown<QLabel>(bindings_, label); }
+
+QWidget* FormLayout::Show(PlotBox& box) const { return new PlotView(box, bindings_); }
+
+QWidget* FormLayout::Show(Frame& frame) const {
+  auto* const view = new BorderView;
+  bindings_.BindControl(frame, *view);
+  return view;
+}
+
+QWidget* FormLayout::ShowLamp(ToggleLabel& lamp) const {
+  auto* const label = new QLabel;
+  bindings_.Bind(static_cast<Label&>(lamp), *label);
+  label->setFrameShape(QFrame::StyledPanel);
+  label->setAlignment(Qt::AlignCenter);
+  label->setMargin(2);
+  return label;
+}
+
+QWidget* FormLayout::Place(Control& control, QWidget* shown, QWidget* area) const {
+  shown->setParent(area);
+  bindings_.Place(control, *shown, kTwips);
+  return shown;
+}
 
 QWidget* FormLayout::Show(CommandButton& button) const {
   auto* const widget = new QPushButton;

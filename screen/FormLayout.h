@@ -3,8 +3,10 @@
 
 #include <QBoxLayout>
 #include <QFormLayout>
+#include <QLabel>
 #include <variant>
 
+#include "controls/PlotBox.h"
 #include "panes/Pane.h"
 #include "screen/Binding.h"
 
@@ -27,6 +29,12 @@ class FormLayout {
   QWidget* Show(ToggleLabel& label) const;
   QWidget* Show(Label& label) const;
   QWidget* Show(Pane& pane) const;
+  QWidget* Show(PlotBox& box) const;
+  QWidget* Show(Frame& frame) const;
+  /// A label that only lights up.
+  QWidget* ShowLamp(ToggleLabel& lamp) const;
+  /// Lets a control that is shown stand in `area` where its own properties say, in twips.
+  QWidget* Place(Control& control, QWidget* shown, QWidget* area) const;
   /// The pages in the order of the tabs.
   QWidget* Show(TabPages& pages, std::initializer_list<QLayout*> layouts) const;
 

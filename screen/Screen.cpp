@@ -1,6 +1,7 @@
 #include "screen/Screen.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QWindow>
 #include <algorithm>
 
 #include "screen/ColourSelectorView.h"
@@ -15,6 +16,8 @@ Screen::Screen(Application& application, Clock clock) : application_(application
       application.Loaded.Connect([this](Form& form) { Show(form); }),
       application.Unloading.Connect([this](Form& form) { Unload(form); }),
   };
+  QObject::connect(qApp, &QGuiApplication::focusWindowChanged, &watch_,
+                   [this](const QWindow* window) { Activate(window); });
 }
 
 Screen::~Screen() {
@@ -29,12 +32,13 @@ void Screen::Show(Form& form) {
   } else if (auto* const editor = dynamic_cast<Editor*>(&form)) {
     auto* const view = new EditorView(*editor, clock_);
     frame_->ShowChild(*view, view->menus());
+    activeChild_ = editor;
     views_.push_back(view);
   } else if (auto* const selector = dynamic_cast<ColourSelector*>(&form)) {
     auto& swatch = *qobject_cast<QWidget*>(Find(application_.mum().Picture1));
     views_.push_back(new ColourSelectorView(*selector, swatch));
   } else if (const auto page = PageOf(form)) {
-    views_.push_back(new ToolWindow(application_, form, page, *frame_));
+    views_.push_back(new ToolWindow(application_, form, page, *frame_, clock_));
   }
 }
 
@@ -44,8 +48,21 @@ void Screen::Unload(const Form& form) {
   if (at == views_.end()) return;
   FormView* const last = *at;
   views_.erase(at);
+  if (activeChild_ == &form) activeChild_ = nullptr;
   if (dynamic_cast<EditorView*>(last)) frame_->RemoveChild();
   last->Retire();
+}
+
+/// The frame's child windows are told when they become the active one among themselves; other windows and
+/// programs in between do not count.
+void Screen::Activate(const QWindow* window) {
+  for (const FormView* const view : views_) {
+    const auto* const widget = dynamic_cast<const QWidget*>(view);
+    if (!widget || !window || widget->window()->windowHandle() != window) continue;
+    if (view->form().MDIChild && std::exchange(activeChild_, &view->form()) != &view->form()) {
+      view->form().Activate();
+    }
+  }
 }
 
 FormView* Screen::ViewOf(const Form& form) const {

@@ -2,10 +2,13 @@
 // The program and the tests on real widgets each have one.
 #pragma once
 
+#include <QObject>
 #include <memory>
 
 #include "app/Application.h"
 #include "screen/FormView.h"
+
+class QWindow;
 
 namespace tarvik::screen {
 
@@ -29,12 +32,15 @@ class Screen {
  private:
   void Show(Form& form);
   void Unload(const Form& form);
+  void Activate(const QWindow* window);
 
   Application& application_;
   Clock clock_;
   MumWindow* frame_ = nullptr;
   std::vector<FormView*> views_;  // each ends itself when it retires
   std::vector<Connection> connections_;
+  const Form* activeChild_ = nullptr;
+  QObject watch_;
 };
 
 }  // namespace tarvik::screen

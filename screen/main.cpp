@@ -12,10 +12,12 @@
 #include "platform/InstanceLock.h"
 #include "platform/ProfileFile.h"
 #include "screen/Icons.h"
+#include "screen/LockKeys.h"
 #include "screen/QtDesktop.h"
 #include "screen/QtDialogs.h"
 #include "screen/QtPrinter.h"
 #include "screen/Screen.h"
+#include "screen/SdlJoystick.h"
 
 namespace {
 
@@ -82,6 +84,8 @@ int main(int argc, char* argv[]) {
   screen::QtHelp help(files);
   screen::QtPrinter printer;
   screen::QtCalendar calendar;
+  screen::SdlJoystick joystick;
+  screen::QtKeyboard keyboard;
   Platform platform{files,
                     dialogs,
                     lock,
@@ -89,6 +93,8 @@ int main(int argc, char* argv[]) {
                     help,
                     calendar,
                     printer,
+                    joystick,
+                    keyboard,
                     SizeOfScreen(),
                     drives.FromHost(home),
                     CommandLine(QApplication::arguments().mid(1), drives)};
