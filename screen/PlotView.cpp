@@ -47,7 +47,7 @@ QImage& PlotView::Image() {
   QImage image(wanted, QImage::Format_RGB32);
   image.setDevicePixelRatio(devicePixelRatio());
   image.fill(ToScreenColour(box_.BackColor));
-  if (!image_.isNull()) QPainter(&image).drawImage(rect(), image_);
+  if (!image_.isNull() && !image.isNull()) QPainter(&image).drawImage(rect(), image_);
   image_ = image;
   return image_;
 }
