@@ -98,7 +98,7 @@ int KeyByPlace(const QKeyEvent& event) {
   const quint32 place = event.nativeScanCode();
   for (const PlaceRow& row : kPlaces) {
     if (place < row.first || place >= row.first + row.keys.size()) continue;
-    const int there = row.keys[place - row.first];
+    const int there = static_cast<unsigned char>(row.keys[place - row.first]);
     return IsLetter(there) && key < 0x80 ? key : there;
   }
   return key;

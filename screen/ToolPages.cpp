@@ -72,7 +72,7 @@ QWidget* Grouped(const QString& title, QLayout* layout) {
 
 QLayout* LogColumn(Pane& log, const char* title, const FormLayout& in) {
   QWidget* const view = in.Show(log);
-  view->setMinimumSize(190, 250);
+  view->setMinimumSize(130, 150);
   // What came last is in sight.
   auto* const bar = qobject_cast<QPlainTextEdit*>(view)->verticalScrollBar();
   QObject::connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int last) { bar->setValue(last); });
