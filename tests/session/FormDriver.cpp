@@ -5,7 +5,6 @@
 
 #include "app/ColourSelector.h"
 #include "app/Editor.h"
-#include "hardware/JoyPlot.h"
 #include "platform/CodePage.h"
 #include "session/Driver.h"
 
@@ -161,7 +160,7 @@ class Typing {
 
 class FormDriver : public Driver {
  public:
-  /// A form that comes up is the active one.
+  /// A form that comes up is the active one, and hears of its size.
   explicit FormDriver(Application& application) : application_(application) {
     loaded_ = application.Loaded.Connect([this](Form& form) {
       shown_.push_back(
@@ -169,7 +168,7 @@ class FormDriver : public Driver {
       shown_.push_back(form.Visible.Changed.Connect([&form] {
         if (!form.Visible) return;
         form.Activate();
-        if (dynamic_cast<JoyPlot*>(&form)) form.Resize();
+        form.Resize();
       }));
       for (Component* const child : form.Children()) {
         if (auto* const picture = dynamic_cast<PlotBox*>(child)) drawings_.Watch(*picture);
