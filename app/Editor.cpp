@@ -2,6 +2,8 @@
 
 #include "app/EditorTables.h"
 #include "composer/InsertOptions.h"
+#include "hardware/JoyPlot.h"
+#include "hardware/KeyTestForm.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
@@ -359,6 +361,16 @@ void Editor::mnuInsertRAW_Click() { application_.Tool<RAWform>().Show(); }
 void Editor::mnuInsertTitle_Click() { InsertTitle(application_); }
 void Editor::mnuInsertHeading_Click() { InsertHeading(application_); }
 void Editor::mnuInsertRemStatement_Click() { InsertRemStatement(application_); }
+
+// Apps.
+
+void Editor::mnuSendToKeyTest_Click() {
+  auto& form = application_.Tool<KeyTestForm>();
+  form.Visible = true;
+  form.RTFKeysText.SetFocus();
+}
+
+void Editor::mnuAppsJoyAnalyser_Click() { application_.Tool<JoyPlot>().PicJoy.SetFocus(); }
 
 void Editor::mnuHelpContents_Click() {
   constexpr int kContents = 1000;

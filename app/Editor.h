@@ -165,6 +165,10 @@ class Editor : public Form {
   void mnuSlashModifierQ_Click() { Command1_Click(12); }
   void mnuSlashModifierDLY_Click() { Command1_Click(11); }
 
+  // Apps.
+  void mnuSendToKeyTest_Click();
+  void mnuAppsJoyAnalyser_Click();
+
   // Help.
   void mnuHelpContents_Click();
 

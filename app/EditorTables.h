@@ -120,9 +120,9 @@ inline constexpr MenuRow<Editor> kMenus[] = {
 
     {0, "mnuSend", "&Apps"},
     {1, "mnuAppsImageViewer", "&Image viewer"},
-    {1, "mnuSendToKeyTest", "&Key Test", "Ctrl+K"},
+    {1, "mnuSendToKeyTest", "&Key Test", "Ctrl+K", &Editor::mnuSendToKeyTest_Click},
     {1, "mnuAppsTemplate", "&Template Editor", "F11"},
-    {1, "mnuAppsJoyAnalyser", "&Joystick analyser"},
+    {1, "mnuAppsJoyAnalyser", "&Joystick analyser", "", &Editor::mnuAppsJoyAnalyser_Click},
     {1, "mnuAppsDivider1", "-"},
     {1, "mnuAppsTMScope", "T&MScope"},
     {1, "mnuAppsCandCC", "Thrustmaster &Control Centre"},

@@ -30,6 +30,8 @@ class Form : public Component {
   Property<bool> Topmost{*this, "Topmost", false};
   /// While it is shown no other window takes input.
   Property<bool> Modal{*this, "Modal", false};
+  /// Every key is the form's own: none is a shortcut, a mnemonic or the way to another control.
+  Property<bool> OwnsKeys{*this, "OwnsKeys", false};
   /// 0 the ordinary pointer, 9 west-east, 11 hourglass, 14 what's-this.
   Property<int> MousePointer{*this, "MousePointer", 0};
 
@@ -42,6 +44,9 @@ class Form : public Component {
   Event<> Deactivate{*this, "Deactivate"};
   /// A key in any of the form's controls, before the control hears of it.
   Event<Key&> KeyDown{*this, "KeyDown"};
+  /// A character that the key types, also of a key that was swallowed. A handler that sets it to 0 drops it.
+  Event<int&> KeyPress{*this, "KeyPress"};
+  Event<Key&> KeyUp{*this, "KeyUp"};
 
   /// The menus of the form's window, or null. Those whose entry is hidden only pop up.
   [[nodiscard]] virtual const Menus* MenuBar() const { return nullptr; }

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "platform/Files.h"
+#include "platform/Joystick.h"
+#include "platform/Keyboard.h"
 #include "platform/Outcome.h"
 #include "platform/Printer.h"
 
@@ -111,6 +113,8 @@ struct Platform {
   Calendar& calendar;
   Printer& printer;
   Desktop& desktop;
+  Joystick& joystick;
+  Keyboard& keyboard;
   ScreenSize screen;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string

@@ -16,6 +16,9 @@ namespace {
 constexpr int kFileImage = 9;
 constexpr int kProtectedImage = 6;
 
+/// No timer shows anything more often than the screen does, 60 times a second.
+constexpr int kScreenPace = 17;  // milliseconds
+
 Qt::CursorShape CursorOf(int mousePointer) {
   switch (mousePointer) {
     case pointer::kWestEast:
@@ -345,7 +348,8 @@ void Bindings::BindText(TextBox& box, QLineEdit& line) {
     line.setCursorPosition(from);
     if (to > from) line.setSelection(from, to - from);
   };
-  // The toolkit drops the selection of a line that the focus leaves; the box keeps it for what is inserted next.
+  // The toolkit drops the selection of a line that the focus leaves; the box keeps it for what is inserted
+  // next.
   const auto takeSelection = [&box, &line, busy, start, length] {
     if (*busy || !line.hasFocus()) return;
     const QScopedValueRollback rollback(*busy, true);
@@ -475,7 +479,7 @@ void Bindings::Bind(Timer& timer, QTimer& clock) {
   Shows(timer, clock);
   const auto show = [&] {
     if (timer.Enabled && timer.Interval > 0) {
-      clock.start(timer.Interval);
+      clock.start(std::max(timer.Interval.Get(), kScreenPace));
     } else {
       clock.stop();
     }

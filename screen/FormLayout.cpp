@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
@@ -14,6 +15,7 @@
 #include "screen/DeviceView.h"
 #include "screen/ListStack.h"
 #include "screen/PaneView.h"
+#include "screen/PlotView.h"
 #include "screen/Text.h"
 
 namespace tarvik::screen {
@@ -83,6 +85,17 @@ QWidget* PageOf(QWidget* widget) {
   return widget;
 }
 
+/// A frame without a caption, whose border begins where the caption's middle would be.
+class BorderView : public QWidget {
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    constexpr int kAbove = 6;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, kAbove, -1, -1));
+  }
+};
+
 /// Enter and Escape press these two, and a code such as "/U" is no word with a letter to spare.
 bool NeedsNone(const QString& caption) {
   return caption == caption.toUpper() || caption.size() == 1 || caption == QLatin1String("Cancel");
@@ -118,6 +131,29 @@ QWidget* FormLayout::Show(OptionButton& button) const { return Shown<QRadioButto
 
 QWidget* FormLayout::Show(ToggleLabel& label) const { return Shown<Button>(bindings_, label); }
 QWidget* FormLayout::Show(Label& label) const { return Shown<QLabel>(bindings_, label); }
+
+QWidget* FormLayout::Show(PlotBox& box) const { return new PlotView(box, bindings_); }
+
+QWidget* FormLayout::Show(Frame& frame) const {
+  auto* const view = new BorderView;
+  bindings_.BindControl(frame, *view);
+  return view;
+}
+
+QWidget* FormLayout::ShowLamp(ToggleLabel& lamp) const {
+  auto* const label = new QLabel;
+  bindings_.Bind(static_cast<Label&>(lamp), *label);
+  label->setFrameShape(QFrame::StyledPanel);
+  label->setAlignment(Qt::AlignCenter);
+  label->setMargin(2);
+  return label;
+}
+
+QWidget* FormLayout::Place(Control& control, QWidget* shown, QWidget* area) const {
+  shown->setParent(area);
+  bindings_.Place(control, *shown, kTwips);
+  return shown;
+}
 
 QWidget* FormLayout::Show(CommandButton& button) const {
   auto* const widget = new Button;

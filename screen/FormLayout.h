@@ -3,8 +3,10 @@
 
 #include <QBoxLayout>
 #include <QFormLayout>
+#include <QLabel>
 #include <variant>
 
+#include "controls/PlotBox.h"
 #include "panes/Pane.h"
 #include "screen/Binding.h"
 
@@ -33,6 +35,12 @@ class FormLayout {
   QWidget* Show(ControlArray<ListBox>& lists, const char* name, bool ticks = false) const;
   /// A drawing of a device, with its labels.
   QWidget* Show(const char* drawing, const std::vector<Label*>& labels) const;
+  QWidget* Show(PlotBox& box) const;
+  QWidget* Show(Frame& frame) const;
+  /// A label that only lights up.
+  QWidget* ShowLamp(ToggleLabel& lamp) const;
+  /// Lets a control that is shown stand in `area` where its own properties say, in twips.
+  QWidget* Place(Control& control, QWidget* shown, QWidget* area) const;
   /// The pages in the order of the tabs.
   QWidget* Show(TabPages& pages, const std::vector<QLayout*>& layouts) const;
 

@@ -1,9 +1,28 @@
-// Keys as the program knows them: Windows virtual-key codes.
+// Keys as the program knows them: Windows virtual-key codes, and the modifiers that are down once the event
+// has happened.
 #pragma once
+
+#include <QKeyEvent>
+#include <set>
+
+#include "controls/Controls.h"
 
 namespace tarvik::screen {
 
-/// The code of a Qt::Key. Keys without one get that of a character which comes from no key, 231.
-[[nodiscard]] int VirtualKey(int key);
+/// The code of the event's key: of a letter the letter that it types; of other characters that of the place
+/// where the key is on a United States keyboard, whatever it types. The Enter key of the keypad has its own,
+/// 108, and Print Screen has 42. Keys without a code get that of a character which comes from no key, 231.
+[[nodiscard]] int VirtualKey(const QKeyEvent& event);
+
+/// The keys of one window. It remembers which modifiers are down, of which there are two.
+class KeyReader {
+ public:
+  [[nodiscard]] Key Read(const QKeyEvent& event);
+  /// What goes up elsewhere is not heard of here.
+  void Forget() { held_.clear(); }
+
+ private:
+  std::set<std::pair<int, quint32>> held_;  // codes, and the keys themselves
+};
 
 }  // namespace tarvik::screen

@@ -7,18 +7,44 @@
 #endif
 
 namespace tarvik::screen {
+namespace {
+
+#ifdef TARVIK_X11
+/// Null under another window system.
+Display* X11() {
+  const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
+  return x11 ? x11->display() : nullptr;
+}
+#endif
+
+}  // namespace
 
 std::optional<LockKeys> ReadLockKeys() {
 #ifdef TARVIK_X11
   constexpr unsigned kCaps = 1;
   constexpr unsigned kNum = 2;
-  const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
+  Display* const display = X11();
   unsigned lights = 0;
-  if (x11 && XkbGetIndicatorState(x11->display(), XkbUseCoreKbd, &lights) == Success) {
+  if (display && XkbGetIndicatorState(display, XkbUseCoreKbd, &lights) == Success) {
     return LockKeys{(lights & kCaps) != 0, (lights & kNum) != 0};
   }
 #endif
   return {};
+}
+
+std::optional<int> QtKeyboard::GetKeyState(int code) {
+  const std::optional<LockKeys> locks = ReadLockKeys();
+  if (!locks) return {};
+  return code == kCapsLock ? locks->caps : locks->num;
+}
+
+void QtKeyboard::TurnOff([[maybe_unused]] int code) {
+#ifdef TARVIK_X11
+  Display* const display = X11();
+  if (!display || code != kCapsLock) return;
+  XkbLockModifiers(display, XkbUseCoreKbd, LockMask, 0);
+  XFlush(display);
+#endif
 }
 
 }  // namespace tarvik::screen

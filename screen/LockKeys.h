@@ -1,7 +1,9 @@
-// The state of the keyboard's lock keys, for the status bar.
+// The state of the keyboard's lock keys, for the status bar and the key test.
 #pragma once
 
 #include <optional>
+
+#include "platform/Keyboard.h"
 
 namespace tarvik::screen {
 
@@ -12,5 +14,12 @@ struct LockKeys {
 
 /// Nothing where the window system does not tell.
 [[nodiscard]] std::optional<LockKeys> ReadLockKeys();
+
+class QtKeyboard : public Keyboard {
+ public:
+  [[nodiscard]] std::optional<int> GetKeyState(int code) override;
+  /// Of the lock keys only Caps Lock.
+  void TurnOff(int code) override;
+};
 
 }  // namespace tarvik::screen

@@ -40,6 +40,7 @@ std::vector<std::unique_ptr<QMenu>> MakeMenus(const Menus& menus, Bindings& bind
     }
     bindings.Bind(*entries[i].item, *menu->menuAction());
     menu->setObjectName(menu->menuAction()->objectName());
+    if (entries[i].item->Click) menu->menuAction()->setMenu(nullptr);  // an entry of the bar itself
     path.push_back(menu);
   }
   return top;

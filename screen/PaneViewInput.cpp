@@ -66,7 +66,7 @@ QString PaneView::PressKeys(const QString& text) {
 void PaneView::keyPressEvent(QKeyEvent* event) {
   event->accept();
   keyIsDown_ = true;
-  Key key{VirtualKey(event->key()), ShiftState(event->modifiers())};
+  Key key{VirtualKey(*event), ShiftState(event->modifiers())};
   pane_.KeyDown(key);
   if (key.code == 0) return;
   QString text = event->text();
@@ -84,7 +84,7 @@ void PaneView::keyPressEvent(QKeyEvent* event) {
 void PaneView::keyReleaseEvent(QKeyEvent* event) {
   QPlainTextEdit::keyReleaseEvent(event);
   if (event->isAutoRepeat() || !std::exchange(keyIsDown_, false)) return;
-  Key key{VirtualKey(event->key()), ShiftState(event->modifiers())};
+  Key key{VirtualKey(*event), ShiftState(event->modifiers())};
   pane_.KeyUp(key);
 }
 

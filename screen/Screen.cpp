@@ -49,7 +49,7 @@ void Screen::Show(Form& form) {
     auto& swatch = *qobject_cast<QWidget*>(Find(application_.mum().Picture1));
     views_.push_back(new ColourSelectorView(*selector, swatch));
   } else if (const auto page = PageOf(form)) {
-    views_.push_back(new ToolWindow(application_, form, page, *frame_));
+    views_.push_back(new ToolWindow(application_, form, page, *frame_, clock_));
   }
 }
 

@@ -2,10 +2,13 @@
 // The program and the tests on real widgets each have one.
 #pragma once
 
+#include <QObject>
 #include <memory>
 
 #include "app/Application.h"
 #include "screen/FormView.h"
+
+class QWindow;
 
 namespace tarvik::screen {
 

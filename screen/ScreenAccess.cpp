@@ -7,8 +7,10 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QTabBar>
+#include <cstring>
 
 #include "screen/PaneView.h"
+#include "screen/PlotView.h"
 #include "screen/Text.h"
 
 namespace tarvik::screen {
@@ -61,6 +63,27 @@ QString TextOfKey(QKeyCombination key) {
   if (code > 0xFF || key.keyboardModifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) return {};
   const QString text(QChar(static_cast<char16_t>(code)));
   return key.keyboardModifiers() & Qt::ShiftModifier ? text : text.toLower();
+}
+
+/// "Ctrl+Z", "Num+7", and a modifier by itself.
+QKeyCombination KeyOf(std::string_view chord) {
+  constexpr std::pair<const char*, Qt::Key> kModifiers[] = {
+      {"Shift", Qt::Key_Shift}, {"Ctrl", Qt::Key_Control}, {"Alt", Qt::Key_Alt}};
+  const QString text = ToScreen(chord);
+  for (const auto& [name, key] : kModifiers) {
+    if (!text.endsWith(QLatin1String(name))) continue;
+    // A key in the modifier's place, so that those in front of it can be read.
+    const QKeySequence held(text.chopped(static_cast<qsizetype>(std::strlen(name))) + u'A');
+    return QKeyCombination(held[0].keyboardModifiers(), key);
+  }
+  const QKeySequence sequence(text);
+  return sequence.isEmpty() ? QKeyCombination(Qt::Key_unknown) : sequence[0];
+}
+
+void SendKey(QWidget& widget, QEvent::Type type, QKeyCombination key, const QString& text) {
+  QKeyEvent event(type, key.key(), key.keyboardModifiers(), text);
+  event.setAccepted(type != QEvent::ShortcutOverride);
+  QApplication::sendEvent(&widget, &event);
 }
 
 }  // namespace
@@ -161,10 +184,8 @@ void ScreenAccess::Press(QWidget& widget, QKeyCombination key, const QString& te
     action->trigger();
     return;
   }
-  QKeyEvent down(QEvent::KeyPress, key.key(), key.keyboardModifiers(), text);
-  QApplication::sendEvent(&widget, &down);
-  QKeyEvent up(QEvent::KeyRelease, key.key(), key.keyboardModifiers(), text);
-  QApplication::sendEvent(&widget, &up);
+  SendKey(widget, QEvent::KeyPress, key, text);
+  SendKey(widget, QEvent::KeyRelease, key, text);
 }
 
 void ScreenAccess::Type(Control& control, std::string_view text) {
@@ -187,10 +208,38 @@ void ScreenAccess::PressKey(Component& component, std::string_view chord) {
   if (!widget) return;
   GoTo(component);
   if (widget->focusPolicy() != Qt::NoFocus) widget->setFocus();
-  const QKeySequence sequence(ToScreen(chord));
-  if (sequence.isEmpty()) return;
-  Press(*widget, sequence[0], TextOfKey(sequence[0]));
+  const QKeyCombination key = KeyOf(chord);
+  if (key.key() == Qt::Key_unknown) return;
+  Press(*widget, key, TextOfKey(key));
   Settle();
+}
+
+void ScreenAccess::KeyDown(Component& component, std::string_view chord) {
+  QWidget* const widget = WidgetOf(component);
+  if (!widget) return;
+  const QKeyCombination key = KeyOf(chord);
+  SendKey(*widget, QEvent::ShortcutOverride, key, TextOfKey(key));
+  SendKey(*widget, QEvent::KeyPress, key, TextOfKey(key));
+  Settle();
+}
+
+void ScreenAccess::KeyUp(Component& component, std::string_view chord) {
+  QWidget* const widget = WidgetOf(component);
+  if (widget) SendKey(*widget, QEvent::KeyRelease, KeyOf(chord), {});
+  Settle();
+}
+
+void ScreenAccess::Resize(const Form& form, float width, float height) {
+  auto* const window = dynamic_cast<QWidget*>(screen_.ViewOf(form));
+  if (!window) return;
+  window->resize(window->width() + ToPixels(width - form.ScaleWidth, kTwips),
+                 window->height() + ToPixels(height - form.ScaleHeight, kTwips));
+  Settle();
+}
+
+unsigned ScreenAccess::ColourAt(const PlotBox& picture, float x, float y) const {
+  auto* const view = dynamic_cast<PlotView*>(WidgetOf(picture));
+  return view ? view->ColourAt(x, y) : picture.BackColor.Get();
 }
 
 void ScreenAccess::Drop(ListBox& from, Pane& to, std::size_t position) {

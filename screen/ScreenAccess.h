@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "controls/PlotBox.h"
 #include "panes/Pane.h"
 #include "screen/Screen.h"
 
@@ -30,14 +31,21 @@ class ScreenAccess {
   void Type(Control& control, std::string_view text);
   /// "Ctrl+Z", "F8", "Return".
   void PressKey(Component& component, std::string_view chord);
+  /// Its way down alone, or up alone; also of a modifier: "Shift", "Ctrl+Alt".
+  void KeyDown(Component& component, std::string_view chord);
+  void KeyUp(Component& component, std::string_view chord);
   /// Drags the list's current item as text to a position in a pane.
   void Drop(ListBox& from, Pane& to, std::size_t position);
   [[nodiscard]] bool HasFocus(const Control& control) const;
   /// Lets what is pending happen.
   void Settle();
+  /// Gives a window another size inside, in twips.
+  void Resize(const Form& form, float width, float height);
   /// The window's close box.
   void Close(const Form& form);
 
+  /// What is drawn at a place of a picture, in its units.
+  [[nodiscard]] unsigned ColourAt(const PlotBox& picture, float x, float y) const;
   [[nodiscard]] std::optional<std::string> Read(const PropertyBase& property) const {
     return screen_.Read(property);
   }

@@ -1,13 +1,18 @@
 // The pages of the tools' windows, as layouts that name the controls of their forms.
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
+#include "hardware/JoyPlot.h"
+#include "hardware/KeyTestForm.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
 #include "screen/Icons.h"
 #include "screen/KeyboardView.h"
+#include "screen/Text.h"
 #include "screen/ToolWindow.h"
 
 namespace tarvik::screen {
@@ -134,6 +139,84 @@ QLayout* Page(RAWform& form, const FormLayout& in) {
             in.Show(form.Command2)})});
 }
 
+QWidget* Grouped(const QString& title, QLayout* layout) {
+  auto* const group = new QGroupBox(title);
+  group->setLayout(layout);
+  return group;
+}
+
+QLayout* LogColumn(Pane& log, const char* title, const FormLayout& in) {
+  QWidget* const view = in.Show(log);
+  view->setMinimumSize(130, 150);
+  // What came last is in sight.
+  auto* const bar = qobject_cast<QPlainTextEdit*>(view)->verticalScrollBar();
+  QObject::connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int last) { bar->setValue(last); });
+  return Above(title, view);
+}
+
+QWidget* JoystickPicture(KeyTestForm& form, const FormLayout& in) {
+  auto* const area = new QWidget;
+  const auto bar = [&](Frame& frame, Label& label) {
+    QWidget* const border = in.Place(frame, in.Show(frame), area);
+    Named(in.Place(label, in.Show(label), border), ToScreen(label.ToolTipText.Get()));
+  };
+  QWidget* const picture = in.Place(form.PictureJoystick, in.Show(form.PictureJoystick), area);
+  Named(picture, QStringLiteral("Stick"))->setFocusPolicy(Qt::NoFocus);
+  bar(form.FrameTHR, form.LabelTHR);
+  bar(form.FrameRDDR, form.LabelRDDR);
+  area->setFixedSize(area->childrenRect().size());
+  return area;
+}
+
+/// The keyboard's part grows with the window. Nothing but the log of the keys' names can have the focus.
+QLayout* Page(KeyTestForm& form, const FormLayout& in) {
+  QLayout* const logs =
+      Row({LogColumn(form.RTFKeysText, "Keys", in), LogColumn(form.RTFKeysDownText, "Down", in),
+           LogColumn(form.RTFKeysUpText, "Up", in)});
+  QLayout* const modifiers = Row({in.ShowLamp(form.LabelSHIFT), in.ShowLamp(form.LabelCTRL),
+                                  in.ShowLamp(form.LabelALT), in.ShowLamp(form.LabelNUMLOCK)});
+  QLayout* const buttons =
+      Row({in.ShowLamp(form.JoyButtonAnalogue(0)), in.ShowLamp(form.JoyButtonAnalogue(1)),
+           in.ShowLamp(form.JoyButtonAnalogue(2)), in.ShowLamp(form.JoyButtonAnalogue(3))});
+  QWidget* const exit = in.Show(form.Command1);
+  exit->setFocusPolicy(Qt::NoFocus);
+  QWidget* const status = in.Show(form.status);
+  status->setAutoFillBackground(false);
+  QWidget* const keyboard = Grouped(QStringLiteral("Keyboard events"), Column({logs, modifiers}));
+  keyboard->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  QWidget* const stick =
+      Grouped(QStringLiteral("Joystick"), Column({JoystickPicture(form, in), buttons, status, Stretch()}));
+  return Column({Row({keyboard, stick}), Row({Stretch(), exit})});
+}
+
+/// The inside of a form that places its controls itself.
+class Inside : public QWidget {
+ public:
+  explicit Inside(Form& form) : form_(form) { setMinimumSize(160, 160); }
+  [[nodiscard]] QSize sizeHint() const override {
+    return {ToPixels(form_.ScaleWidth, kTwips), ToPixels(form_.ScaleHeight, kTwips)};
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent*) override {
+    form_.ScaleWidth = static_cast<float>(width()) * kTwips;
+    form_.ScaleHeight = static_cast<float>(height()) * kTwips;
+    form_.Resize();
+  }
+
+ private:
+  Form& form_;
+};
+
+QLayout* Page(JoyPlot& form, const FormLayout& in) {
+  auto* const inside = new Inside(form);
+  Named(in.Place(form.PicJoy, in.Show(form.PicJoy), inside), QStringLiteral("Plot"));
+  inside->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  QLayout* const page = Column({inside});
+  page->setContentsMargins(0, 0, 0, 0);
+  return page;
+}
+
 template <class F>
 ToolWindow::MakePage PageFor(Form& form) {
   auto* const own = dynamic_cast<F*>(&form);
@@ -144,8 +227,9 @@ ToolWindow::MakePage PageFor(Form& form) {
 }  // namespace
 
 ToolWindow::MakePage PageOf(Form& form) {
-  for (const auto& find : {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Title>, PageFor<Heading>,
-                           PageFor<SingleTextForm>, PageFor<RAWform>}) {
+  for (const auto& find :
+       {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Title>, PageFor<Heading>,
+        PageFor<SingleTextForm>, PageFor<RAWform>, PageFor<KeyTestForm>, PageFor<JoyPlot>}) {
     if (auto page = find(form)) return page;
   }
   return {};

@@ -2,11 +2,10 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
 #include <QMenuBar>
+#include <QTimer>
 #include <QWindow>
 
-#include "screen/Keys.h"
 #include "screen/Text.h"
 
 namespace tarvik::screen {
@@ -19,12 +18,14 @@ constexpr int kMinimised = 1;
 
 }  // namespace
 
-ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame)
+ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame,
+                       Clock clock)
     : QDialog(&frame), FormView(form), application_(application), frame_(frame) {
   setLayout(makePage(FormLayout(bindings_)));
   if (const Menus* const menus = form.MenuBar()) MakeMenuBar(*menus);
-  GiveMnemonics(*this);
+  if (!form.OwnsKeys) GiveMnemonics(*this);
   for (QWidget* const child : findChildren<QWidget*>()) child->installEventFilter(this);
+  if (clock == Clock::Real) RunTimers();
   bindings_.Shows(form, *this);
   bindings_.Bind(
       form.Caption, [this] { setWindowTitle(ToScreen(this->form().Caption.Get()).trimmed()); },
@@ -51,6 +52,12 @@ void ToolWindow::MakeMenuBar(const Menus& menus) {
   auto* const bar = new QMenuBar(this);
   for (const auto& menu : menus_) bar->addMenu(menu.get());
   layout()->setMenuBar(bar);
+}
+
+void ToolWindow::RunTimers() {
+  for (Component* const child : form().Children()) {
+    if (auto* const timer = dynamic_cast<Timer*>(child)) bindings_.Bind(*timer, *new QTimer(this));
+  }
 }
 
 void ToolWindow::ShowWindow() {
@@ -131,15 +138,47 @@ void ToolWindow::Retire() {
   deleteLater();
 }
 
-bool ToolWindow::FormTakes(const QKeyEvent& event) {
-  Key key{VirtualKey(event.key()), ShiftState(event.modifiers())};
+bool ToolWindow::FormTakesPress(const QKeyEvent& event) {
+  Key key = keys_.Read(event);
   form().KeyDown(key);
-  return key.code == 0;
+  bool taken = key.code == 0;
+  for (const QChar typed : event.text()) {
+    int character = typed < u' ' ? typed.unicode() : static_cast<unsigned char>(FromScreen(typed));
+    form().KeyPress(character);
+    taken = taken || character == 0;
+  }
+  return taken;
+}
+
+/// A key that is held repeats its press alone.
+bool ToolWindow::FormTakesRelease(const QKeyEvent& event) {
+  if (event.isAutoRepeat()) return form().OwnsKeys;
+  Key key = keys_.Read(event);
+  form().KeyUp(key);
+  return form().OwnsKeys;
+}
+
+/// Keys that are the form's own are no shortcuts, and no input method keeps them to itself.
+bool ToolWindow::KeepsForForm(QEvent& event) const {
+  if (!form().OwnsKeys) return false;
+  if (event.type() == QEvent::InputMethodQuery) {
+    static_cast<QInputMethodQueryEvent&>(event).setValue(Qt::ImEnabled, false);
+  } else if (event.type() != QEvent::ShortcutOverride) {
+    return false;
+  }
+  event.accept();
+  return true;
 }
 
 bool ToolWindow::eventFilter(QObject* watched, QEvent* event) {
-  const bool key = event->type() == QEvent::KeyPress && watched == focusWidget();
-  return (key && FormTakes(static_cast<QKeyEvent&>(*event))) || QDialog::eventFilter(watched, event);
+  if (watched != focusWidget()) return QDialog::eventFilter(watched, event);
+  if (KeepsForForm(*event)) return true;
+  if (event->type() == QEvent::FocusOut) keys_.Forget();
+  const bool taken =
+      (event->type() == QEvent::KeyPress && FormTakesPress(static_cast<QKeyEvent&>(*event))) ||
+      (event->type() == QEvent::KeyRelease && FormTakesRelease(static_cast<QKeyEvent&>(*event)));
+  if (taken) event->accept();
+  return taken || QDialog::eventFilter(watched, event);
 }
 
 void ToolWindow::reject() {

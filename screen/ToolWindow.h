@@ -7,6 +7,7 @@
 #include "composer/InsertOptions.h"
 #include "screen/FormLayout.h"
 #include "screen/FormView.h"
+#include "screen/Keys.h"
 #include "screen/MenuBuilder.h"
 
 namespace tarvik::screen {
@@ -16,7 +17,7 @@ class ToolWindow : public QDialog, public FormView {
   using MakePage = std::function<QLayout*(const FormLayout&)>;
 
   /// `frame` is the window that it belongs to.
-  ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame);
+  ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame, Clock clock);
 
   void CloseByUser() override { close(); }
   void Retire() override;
@@ -37,12 +38,17 @@ class ToolWindow : public QDialog, public FormView {
   void ChooseOwner();
   [[nodiscard]] QPoint PlaceBeside();
   [[nodiscard]] QPoint PlaceOfForm() const;
-  [[nodiscard]] bool FormTakes(const QKeyEvent& event);
+  void RunTimers();
+  [[nodiscard]] bool KeepsForForm(QEvent& event) const;
+  /// Each tells the form of a key; true when the key goes no further.
+  [[nodiscard]] bool FormTakesPress(const QKeyEvent& event);
+  [[nodiscard]] bool FormTakesRelease(const QKeyEvent& event);
 
   Application& application_;
   QWidget& frame_;
   std::vector<std::unique_ptr<QMenu>> menus_;
   bool placed_ = false;  // by its form
+  KeyReader keys_;
 };
 
 /// The Composer's page.

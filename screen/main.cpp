@@ -12,10 +12,12 @@
 #include "platform/InstanceLock.h"
 #include "platform/ProfileFile.h"
 #include "screen/Icons.h"
+#include "screen/LockKeys.h"
 #include "screen/QtDesktop.h"
 #include "screen/QtDialogs.h"
 #include "screen/QtPrinter.h"
 #include "screen/Screen.h"
+#include "screen/SdlJoystick.h"
 
 namespace {
 
@@ -83,6 +85,8 @@ int main(int argc, char* argv[]) {
   screen::QtPrinter printer;
   screen::QtCalendar calendar;
   screen::QtDesktop desktop(drives);
+  screen::SdlJoystick joystick;
+  screen::QtKeyboard keyboard;
   Platform platform{files,
                     dialogs,
                     lock,
@@ -91,6 +95,8 @@ int main(int argc, char* argv[]) {
                     calendar,
                     printer,
                     desktop,
+                    joystick,
+                    keyboard,
                     SizeOfScreen(),
                     drives.FromHost(home),
                     CommandLine(QApplication::arguments().mid(1), drives)};

@@ -52,7 +52,8 @@ TEST(HelpFile, EveryLinkOfTheProgramsOwnLeadsToATopic) {
   std::ifstream in(TARVIK_DATA "/tarvik.hlp", std::ios::binary);
   const HelpFile file(std::string(std::istreambuf_iterator<char>(in), {}));
   ASSERT_GT(file.Topics().size(), 10U);
-  for (const int context : {1000, 3110, 3120, 3130}) EXPECT_TRUE(file.WithContext(context)) << context;
+  for (const int context : {1000, 3110, 3120, 3130, 7021, 9410})
+    EXPECT_TRUE(file.WithContext(context)) << context;
   EXPECT_TRUE(file.WithKeyword("BTN"));
   const std::regex link(R"(\]\(#(\d+)\))");
   for (const HelpTopic& topic : file.Topics()) {

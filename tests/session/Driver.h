@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "app/Application.h"
+#include "controls/PlotBox.h"
 #include "panes/Pane.h"
 
 namespace tarvik::session {
@@ -21,6 +22,13 @@ class Driver {
   virtual bool Type(Control& control, std::string_view text) = 0;
   /// A key such as "Ctrl+Z", "Return", "Shift+Right", "F8".
   virtual bool PressKey(Component& control, std::string_view chord) = 0;
+  /// The same key on its way down alone, or up alone; also a modifier, "Shift".
+  virtual bool KeyDown(Component& control, std::string_view chord) = 0;
+  virtual bool KeyUp(Component& control, std::string_view chord) = 0;
+  /// Gives a window another size inside, in twips.
+  virtual void Resize(Form& form, float width, float height) = 0;
+  /// What is drawn at a place of a picture, in its units.
+  virtual unsigned ColourAt(PlotBox& picture, float x, float y) = 0;
   /// The close box of a window.
   virtual void Close(Form& form) = 0;
   virtual void Drop(ListBox& from, Pane& pane, std::size_t position) = 0;

@@ -1,5 +1,6 @@
 // The driver without a screen: it fires the events that a view would fire.
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 #include "app/ColourSelector.h"
@@ -11,10 +12,15 @@ namespace tarvik::session {
 namespace {
 
 const std::map<std::string_view, int> kKeyCodes = {
-    {"Backspace", 8}, {"Tab", 9},       {"Return", 13}, {"Escape", 27}, {"Space", 32},
-    {"PageUp", 33},   {"PageDown", 34}, {"End", 35},    {"Home", 36},   {"Left", 37},
-    {"Up", 38},       {"Right", 39},    {"Down", 40},   {"Insert", 45}, {"Delete", 46},
+    {"Backspace", 8},   {"Tab", 9},     {"Return", 13},   {"Escape", 27}, {"Space", 32},    {"PgUp", 33},
+    {"PgDown", 34},     {"End", 35},    {"Home", 36},     {"Left", 37},   {"Up", 38},       {"Right", 39},
+    {"Down", 40},       {"Insert", 45}, {"Delete", 46},   {"Clear", 12},  {"Shift", 16},    {"Ctrl", 17},
+    {"Alt", 18},        {"Pause", 19},  {"CapsLock", 20}, {"Print", 42},  {"Num+*", 106},   {"Num++", 107},
+    {"Num+Enter", 108}, {"Num+-", 109}, {"Num+.", 110},   {"Num+/", 111}, {"NumLock", 144},
 };
+
+/// The modifiers' own bits.
+const std::map<int, int> kModifierBits = {{16, shift::kShift}, {17, shift::kCtrl}, {18, shift::kAlt}};
 
 Key ParseChord(std::string_view chord) {
   Key key;
@@ -29,6 +35,8 @@ Key ParseChord(std::string_view chord) {
   const auto named = kKeyCodes.find(chord);
   if (named != kKeyCodes.end()) {
     key.code = named->second;
+  } else if (chord.starts_with("Num+")) {
+    key.code = 96 + chord.back() - '0';
   } else if (chord.size() > 1 && chord[0] == 'F') {
     int number = 0;
     if (ParseText(chord.substr(1), number)) key.code = 111 + number;
@@ -37,6 +45,54 @@ Key ParseChord(std::string_view chord) {
   }
   return key;
 }
+
+/// The character that a key types, or 0.
+int CharacterOf(const Key& key, std::string_view chord) {
+  constexpr std::string_view kTyping = "\b\t\r\x1b ";
+  const bool letter = key.code >= 'A' && key.code <= 'Z';
+  if (key.shift == shift::kCtrl) return letter ? key.code - '@' : 0;
+  if (key.shift & ~shift::kShift) return 0;
+  if (letter) return key.shift ? key.code : key.code + ('a' - 'A');
+  if (kTyping.find(static_cast<char>(key.code)) != std::string_view::npos) return key.code;
+  const bool sign = key.code < 96 && chord.substr(chord.rfind('+') + 1).size() == 1;
+  return sign ? key.code : 0;
+}
+
+/// What is drawn on pictures, for as long as their forms are there.
+class Drawings {
+ public:
+  void Watch(PlotBox& picture) {
+    connections_.push_back(picture.Drawn.Connect(
+        [this, &picture](const Stroke& stroke) { strokes_[&picture].push_back(stroke); }));
+    connections_.push_back(picture.Cleared.Connect([this, &picture] { strokes_[&picture].clear(); }));
+  }
+
+  /// That of the last stroke that comes within half a pixel of the place.
+  [[nodiscard]] unsigned ColourAt(const PlotBox& picture, float x, float y) {
+    const std::vector<Stroke>& strokes = strokes_[&picture];
+    const float pixel = (picture.ScaleHigh - picture.ScaleLow) / (picture.Width / kTwips);
+    const auto hit = std::find_if(strokes.rbegin(), strokes.rend(), [&](const Stroke& stroke) {
+      return Distance(stroke, x, y) <= pixel * static_cast<float>(stroke.width) / 2;
+    });
+    const bool shown = std::min(x, y) >= picture.ScaleLow && std::max(x, y) <= picture.ScaleHigh;
+    return hit == strokes.rend() || !shown ? picture.BackColor.Get() : hit->colour;
+  }
+
+ private:
+  static constexpr float kTwips = 15;
+
+  static float Distance(const Stroke& line, float x, float y) {
+    const float dx = line.x2 - line.x1;
+    const float dy = line.y2 - line.y1;
+    const float length = dx * dx + dy * dy;
+    const float along = length == 0 ? 0 : ((x - line.x1) * dx + (y - line.y1) * dy) / length;
+    const float at = std::clamp(along, 0.0F, 1.0F);
+    return std::hypot(x - line.x1 - at * dx, y - line.y1 - at * dy);
+  }
+
+  std::map<const PlotBox*, std::vector<Stroke>> strokes_;
+  std::vector<Connection> connections_;
+};
 
 /// What the text control does with a key that nobody swallowed.
 class Typing {
@@ -104,7 +160,7 @@ class Typing {
 
 class FormDriver : public Driver {
  public:
-  /// A form that comes up, or a control of which gets the focus, is the active one.
+  /// A form that comes up, or a control of which gets the focus, is the active one; it hears of its size.
   explicit FormDriver(Application& application) : application_(application) {
     loaded_ = application.Loaded.Connect([this](Form& form) {
       shown_.push_back(
@@ -112,9 +168,15 @@ class FormDriver : public Driver {
       const auto activated = [this, &form] {
         if (form.Visible) application_.Activated(form);
       };
-      shown_.push_back(form.Visible.Changed.Connect(activated));
+      shown_.push_back(form.Visible.Changed.Connect([&form, activated] {
+        activated();
+        if (form.Visible) form.Resize();
+      }));
       shown_.push_back(form.Raised.Connect(activated));
       shown_.push_back(form.ActiveControlChanged.Connect(activated));
+      for (Component* const child : form.Children()) {
+        if (auto* const picture = dynamic_cast<PlotBox*>(child)) drawings_.Watch(*picture);
+      }
     });
   }
 
@@ -229,12 +291,36 @@ class FormDriver : public Driver {
   }
 
   bool PressKey(Component& control, std::string_view chord) override {
+    Form* const form = &FormOf(control);
+    if (!KeyDown(control, chord)) return false;
+    const std::vector<Form*> forms = application_.Forms();
+    return std::find(forms.begin(), forms.end(), form) == forms.end() || KeyUp(control, chord);
+  }
+
+  bool KeyUp(Component& control, std::string_view chord) override {
+    Key key = ParseChord(chord);
+    if (const auto bit = kModifierBits.find(key.code); bit != kModifierBits.end()) key.shift &= ~bit->second;
+    FormOf(control).KeyUp(key);
+    return true;
+  }
+
+  void Resize(Form& form, float width, float height) override {
+    form.ScaleWidth = width;
+    form.ScaleHeight = height;
+    form.Resize();
+  }
+
+  unsigned ColourAt(PlotBox& picture, float x, float y) override { return drawings_.ColourAt(picture, x, y); }
+
+  bool KeyDown(Component& control, std::string_view chord) override {
     ClosePopUps();
     application_.Activated(FormOf(control));
     Key key = ParseChord(chord);
+    if (const auto bit = kModifierBits.find(key.code); bit != kModifierBits.end()) key.shift |= bit->second;
     Form& form = FormOf(control);
     Key previewed = key;
     form.KeyDown(previewed);
+    if (int character = CharacterOf(key, chord)) form.KeyPress(character);
     if (!previewed.code) return true;
     if (PressesButton(form, key)) return true;
     auto* pane = dynamic_cast<Pane*>(&control);
@@ -345,6 +431,7 @@ class FormDriver : public Driver {
 
   Application& application_;
   Connection loaded_;
+  Drawings drawings_;
   std::vector<Connection> shown_;
   std::vector<std::pair<Form*, std::string>> popUps_;
 };

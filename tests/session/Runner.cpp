@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "app/Editor.h"
+#include "hardware/KeyTestForm.h"
 #include "platform/CodePage.h"
 
 namespace tarvik::session {
@@ -40,8 +41,9 @@ std::string FileContent(const Line& line) {
 }
 
 bool NeedsProgram(std::string_view command) {
-  constexpr std::string_view kCommands[] = {"close", "click", "dblclick", "rightclick", "focus", "pick",
-                                            "type",  "key",   "drag",     "mouse",      "set",   "call"};
+  constexpr std::string_view kCommands[] = {"close", "click", "dblclick", "rightclick", "focus",
+                                            "pick",  "type",  "key",      "drag",       "mouse",
+                                            "set",   "call",  "keydown",  "keyup",      "resize"};
   return std::find(std::begin(kCommands), std::end(kCommands), command) != std::end(kCommands);
 }
 
@@ -107,6 +109,8 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
       {"ini", &Runner::Ini},
       {"room", &Runner::DiskRoom},
       {"printer", &Runner::SetPrinter},
+      {"joystick", &Runner::SetJoystick},
+      {"lock", &Runner::SetLock},
       {"start", &Runner::Start},
       {"close", &Runner::Close},
       {"killed", &Runner::Killed},
@@ -118,6 +122,9 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
       {"pick", &Runner::Pick},
       {"type", &Runner::Type},
       {"key", &Runner::PressKey},
+      {"keydown", &Runner::KeyDown},
+      {"keyup", &Runner::KeyUp},
+      {"resize", &Runner::Resize},
       {"drag", &Runner::Drag},
       {"mouse", &Runner::Mouse},
       {"set", &Runner::Set},
@@ -142,6 +149,7 @@ const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
       {"clipboard", &Runner::ExpectClipboard}, {"help", &Runner::ExpectHelp},
       {"opened", &Runner::ExpectOpened},       {"popup", &Runner::ExpectPopUp},
       {"focus", &Runner::ExpectFocus},         {"form", &Runner::ExpectForm},
+      {"point", &Runner::ExpectPoint},         {"lock", &Runner::ExpectLock},
   };
   return expectations;
 }
@@ -271,6 +279,42 @@ void Runner::SetPrinter(const Line& line) {
   }
 }
 
+/// joystick WHAT...: none, unplugged, plugged, error NUMBER, axes none|z|r|zr, and the axes x, y, z, r and
+/// the mask "buttons", each with a number. All but "none" mean that there is one.
+void Runner::SetJoystick(const Line& line) {
+  ScriptedJoystick& stick = outside_.joystick;
+  const std::map<std::string, std::function<void(const std::string&)>> parts = {
+      {"axes",
+       [&](const std::string& axes) {
+         stick.caps = {axes.find('z') != std::string::npos, axes.find('r') != std::string::npos};
+       }},
+      {"error", [&](const std::string& number) { stick.error = std::stoi(number); }},
+      {"x", [&](const std::string& number) { stick.info.x = std::stoi(number); }},
+      {"y", [&](const std::string& number) { stick.info.y = std::stoi(number); }},
+      {"z", [&](const std::string& number) { stick.info.z = std::stoi(number); }},
+      {"r", [&](const std::string& number) { stick.info.r = std::stoi(number); }},
+      {"buttons",
+       [&](const std::string& mask) { stick.info.buttons = static_cast<unsigned>(std::stoul(mask)); }},
+  };
+  const std::string& what = Word(line, 1);
+  stick.isThere = what != "none";
+  if (what == "unplugged") stick.error = joystick::kUnplugged;
+  if (what == "plugged") stick.error = joystick::kNoError;
+  if (what == "none" || what == "unplugged" || what == "plugged") return;
+  for (std::size_t i = 1; i < line.words.size(); i += 2) {
+    const auto part = parts.find(line.words[i]);
+    if (part == parts.end()) throw Stop{"no such joystick"};
+    part->second(Word(line, i + 1));
+  }
+}
+
+/// lock caps|num NUMBER|unknown
+void Runner::SetLock(const Line& line) {
+  const int code = Word(line, 1) == "caps" ? kCapsLock : kNumLock;
+  outside_.keyboard.locks.erase(code);
+  if (Word(line, 2) != "unknown") outside_.keyboard.locks[code] = std::stoi(line.words[2]);
+}
+
 // The process.
 
 void Runner::Start(const Line& line) {
@@ -376,6 +420,18 @@ void Runner::PressKey(const Line& line) {
   }
 }
 
+void Runner::KeyDown(const Line& line) {
+  if (!driver_->KeyDown(*Find(Word(line, 1)), Word(line, 2))) throw Stop{"nothing takes the key"};
+}
+void Runner::KeyUp(const Line& line) {
+  if (!driver_->KeyUp(*Find(Word(line, 1)), Word(line, 2))) throw Stop{"nothing takes the key"};
+}
+
+/// resize FORM WIDTH HEIGHT: inside, in twips
+void Runner::Resize(const Line& line) {
+  driver_->Resize(*FindAs<Form>(Word(line, 1)), std::stof(Word(line, 2)), std::stof(Word(line, 3)));
+}
+
 void Runner::Drag(const Line& line) {
   auto* list = FindAs<ListBox>(Word(line, 1));
   driver_->Pick(*list, ItemIndex(*list, Word(line, 2)));
@@ -404,6 +460,7 @@ void Runner::Call(const Line& line) {
   Editor* const editor = application_->editor();
   const std::map<std::string, std::function<void()>> operations = {
       {"Editor.ExtractButtonDefinition", [&] { editor->ExtractButtonDefinition(Word(line, 2)); }},
+      {"KeyTestForm.TurnOffCapsLOCK", [&] { application_->LoadedTool<KeyTestForm>()->TurnOffCapsLOCK(); }},
       {"Editor.HardwareHasChanged", [&] { editor->HardwareHasChanged(); }},
       {"Editor.DamnFontWasChanged", [&] { editor->DamnFontWasChanged(); }},
       {"Editor.DeleteUndosFromMemory", [&] { editor->DeleteUndosFromMemory(); }},
@@ -469,6 +526,19 @@ void Runner::ExpectOpened(const Line& line) {
 
 /// expect popup NAME: the pop-up menu that came last
 void Runner::ExpectPopUp(const Line& line) { Compare(Word(line, 2), popUp_); }
+
+/// expect point PICTURE X Y COLOUR: what is drawn there, in the picture's units
+void Runner::ExpectPoint(const Line& line) {
+  auto* const picture = FindAs<PlotBox>(Word(line, 2));
+  Compare(Word(line, 5),
+          TextOf(driver_->ColourAt(*picture, std::stof(Word(line, 3)), std::stof(Word(line, 4)))));
+}
+
+/// expect lock caps|num NUMBER
+void Runner::ExpectLock(const Line& line) {
+  const int code = Word(line, 2) == "caps" ? kCapsLock : kNumLock;
+  Compare(Word(line, 3), TextOf(outside_.keyboard.GetKeyState(code).value_or(-1)));
+}
 
 void Runner::ExpectFocus(const Line& line) {
   if (!driver_->HasFocus(*FindAs<Control>(Word(line, 2)))) Fail("it hasn't the focus");

@@ -46,6 +46,8 @@ class Runner {
   void Ini(const Line& line);
   void DiskRoom(const Line& line);
   void SetPrinter(const Line& line);
+  void SetJoystick(const Line& line);
+  void SetLock(const Line& line);
   // The process.
   void Start(const Line& line);
   void Close(const Line& line);
@@ -59,6 +61,9 @@ class Runner {
   void Pick(const Line& line);
   void Type(const Line& line);
   void PressKey(const Line& line);
+  void KeyDown(const Line& line);
+  void KeyUp(const Line& line);
+  void Resize(const Line& line);
   void Drag(const Line& line);
   void Mouse(const Line& line);
   void Set(const Line& line);
@@ -79,6 +84,8 @@ class Runner {
   void ExpectHelp(const Line& line);
   void ExpectOpened(const Line& line);
   void ExpectPopUp(const Line& line);
+  void ExpectPoint(const Line& line);
+  void ExpectLock(const Line& line);
   void ExpectFocus(const Line& line);
   void ExpectForm(const Line& line);
   void ExpectPrinted(const Line& line);

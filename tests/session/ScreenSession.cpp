@@ -29,6 +29,14 @@ class ScreenDriver : public Driver {
   bool PressKey(Component& control, std::string_view chord) override {
     return Usable(control) && (access_.PressKey(control, chord), true);
   }
+  bool KeyDown(Component& control, std::string_view chord) override {
+    return Usable(control) && (access_.KeyDown(control, chord), true);
+  }
+  bool KeyUp(Component& control, std::string_view chord) override {
+    return Usable(control) && (access_.KeyUp(control, chord), true);
+  }
+  void Resize(Form& form, float width, float height) override { access_.Resize(form, width, height); }
+  unsigned ColourAt(PlotBox& picture, float x, float y) override { return access_.ColourAt(picture, x, y); }
   void Drop(ListBox& from, Pane& pane, std::size_t position) override { access_.Drop(from, pane, position); }
   bool HasFocus(const Control& control) override { return access_.HasFocus(control); }
   std::string Read(const PropertyBase& property) override {

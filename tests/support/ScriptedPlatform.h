@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <map>
 #include <utility>
 #include <vector>
 
@@ -76,6 +77,35 @@ class ScriptedDesktop : public Desktop {
   std::deque<std::string> opened;  ///< and not yet expected
 };
 
+class ScriptedJoystick : public Joystick {
+ public:
+  int GetDevCaps(JoyCaps& found) override {
+    if (!isThere) return joystick::kNoDevice;
+    found = caps;
+    return joystick::kNoError;
+  }
+  int GetPosEx(JoyInfo& read) override {
+    if (error == joystick::kNoError) read = info;
+    return error;
+  }
+
+  bool isThere = false;
+  JoyCaps caps{true, true};
+  JoyInfo info{32768, 32768, 32768, 32768, 0};
+  int error = joystick::kNoError;  ///< of reading
+};
+
+class ScriptedKeyboard : public Keyboard {
+ public:
+  std::optional<int> GetKeyState(int code) override {
+    const auto found = locks.find(code);
+    return found == locks.end() ? std::nullopt : std::optional(found->second);
+  }
+  void TurnOff(int code) override { locks[code] = 0; }
+
+  std::map<int, int> locks{{kCapsLock, 0}, {kNumLock, 0}};  ///< what is not there the keyboard does not tell
+};
+
 /// All of it. The forms of `Process` leave out what the scripted one is good for.
 struct ScriptedPlatform {
   ScriptedDialogs dialogs;
@@ -85,6 +115,8 @@ struct ScriptedPlatform {
   FixedCalendar calendar;
   ScriptedPrinter printer;
   ScriptedDesktop desktop;
+  ScriptedJoystick joystick;
+  ScriptedKeyboard keyboard;
 
   /// A process on this disk, beside any other.
   [[nodiscard]] Platform Process(Files& files, std::string commandLine = "") {
@@ -92,8 +124,19 @@ struct ScriptedPlatform {
   }
   [[nodiscard]] Platform Process(Files& files, SingleInstance& lock, Printer& paper,
                                  std::string commandLine = "") {
-    return {files,    dialogs, lock,           clipboard,    help,
-            calendar, paper,   desktop, {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
+    return {files,
+            dialogs,
+            lock,
+            clipboard,
+            help,
+            calendar,
+            paper,
+            desktop,
+            joystick,
+            keyboard,
+            {28800, 21600},
+            "c:\\tarvik",
+            std::move(commandLine)};
   }
 };
 

@@ -1,0 +1,63 @@
+// The joystick analyser: plots where the stick goes, to show dead zones, drift of the centre and spikes.
+#pragma once
+
+#include "app/Application.h"
+#include "controls/Menu.h"
+#include "controls/PlotBox.h"
+
+namespace tarvik {
+
+class JoyPlot : public Form {
+ public:
+  explicit JoyPlot(Application& application);
+
+  Menus menus;
+  PlotBox PicJoy{*this, "PicJoy"};
+  Timer JoyTimer{*this, "JoyTimer"};
+
+  // Where the marker is.
+  Property<int> PlotX{*this, "PlotX", 0};
+  Property<int> PlotY{*this, "PlotY", 0};
+  // The part of the joystick's range that is on show.
+  Property<float> ScaleHigh{*this, "ScaleHigh"};
+  Property<float> ScaleLow{*this, "ScaleLow"};
+  // -1 for yes.
+  Property<int> GridOn{*this, "GridOn", 0};
+  Property<int> MaintainOn{*this, "MaintainOn", 0};
+  Property<int> PlotOn{*this, "PlotOn", 0};
+  /// Of the joystick.
+  Property<int> LastError{*this, "LastError", 0};
+
+  void Form_Load();
+  void Form_Activate();
+  /// Fits the picture to the form and begins it anew.
+  void Form_Resize();
+  void JoyTimer_Timer();
+  void mnuexit_Click() { application_.Unload(*this); }
+  void mnuClear_Click() { PicJoy.Cls(); }
+  void mnuPlot_Click();
+  void mnuMaintain_Click();
+  void mnuGrid_Click();
+  void mnuZoom_Click();
+  void mnuHelpOverview_Click();
+  void mnuhelpSpiking_Click();
+  void mnuReadMe_Click();
+  /// Looks for the joystick, prepares the picture and starts reading.
+  void JoyPlotSetup();
+
+  [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
+
+ private:
+  /// Turns an entry's check mark over. -1 when it now has one.
+  int Flip(std::string_view entry);
+  void StopWith(const char* text);
+  void DrawCentreLines(float low, unsigned vertical, unsigned horizontal);
+  void DrawMarker(unsigned outline, unsigned diagonals);
+  void DrawDiagonals(unsigned colour);
+  void DrawGrid();
+  void ShowHelp(int context);
+
+  Application& application_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,36 @@
+// The joystick of the machine: device 0, as the hardware tools read it.
+#pragma once
+
+namespace tarvik {
+
+/// What the calls below return.
+namespace joystick {
+inline constexpr int kNoError = 0;
+inline constexpr int kNoDevice = 165;
+inline constexpr int kUnplugged = 167;
+}  // namespace joystick
+
+/// Of the axes beside X and Y, those that the stick has.
+struct JoyCaps {
+  bool hasZ = false;  ///< throttle
+  bool hasR = false;  ///< rudder
+};
+
+/// A position: axes from 0 to 65535, and a bit for each of the first 32 buttons that is down.
+struct JoyInfo {
+  int x = 0;
+  int y = 0;
+  int z = 0;
+  int r = 0;
+  unsigned buttons = 0;
+};
+
+class Joystick {
+ public:
+  virtual ~Joystick() = default;
+  /// Each fills its record and returns 0, or leaves the record and returns the number of what is wrong.
+  virtual int GetDevCaps(JoyCaps& caps) = 0;
+  virtual int GetPosEx(JoyInfo& info) = 0;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,34 @@
+// The real joystick. Nothing is set up before a tool asks for it first.
+#pragma once
+
+#include "platform/Joystick.h"
+
+struct _SDL_Joystick;  // NOLINT(bugprone-reserved-identifier): the library's own name for it
+
+namespace tarvik::screen {
+
+/// Device 0 is the first stick that is found. One that is unplugged keeps its place, for itself or another
+/// that is plugged in for it; a stick that was there all along does not take it over unasked.
+class SdlJoystick : public Joystick {
+ public:
+  SdlJoystick() = default;
+  ~SdlJoystick() override;
+  SdlJoystick(const SdlJoystick&) = delete;
+  SdlJoystick& operator=(const SdlJoystick&) = delete;
+
+  int GetDevCaps(JoyCaps& caps) override;
+  int GetPosEx(JoyInfo& info) override;
+
+ private:
+  bool Update();
+  [[nodiscard]] bool IsAttached() const;
+  void Open(int newerThan);
+  void Close();
+
+  _SDL_Joystick* stick_ = nullptr;
+  bool started_ = false;
+  bool had_ = false;  // a stick, since one was asked for last
+  int newest_ = -1;   // of the sticks that were there when it was lost, by the order of their coming
+};
+
+}  // namespace tarvik::screen

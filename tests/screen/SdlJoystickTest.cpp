@@ -1,0 +1,161 @@
+// The real joystick on sticks that exist within the library alone.
+#define SDL_MAIN_HANDLED
+#include <SDL.h>
+#include <gtest/gtest.h>
+
+#include "screen/SdlJoystick.h"
+
+namespace tarvik::screen {
+namespace {
+
+/// A stick that is plugged in for as long as it lives.
+class Stick {
+ public:
+  Stick(Uint16 axes, Uint16 buttons, const char* name = "Stick") {
+    SDL_VirtualJoystickDesc description;
+    SDL_zero(description);
+    description.version = SDL_VIRTUAL_JOYSTICK_DESC_VERSION;
+    description.type = SDL_JOYSTICK_TYPE_FLIGHT_STICK;
+    description.naxes = axes;
+    description.nbuttons = buttons;
+    description.name = name;
+    const int index = SDL_JoystickAttachVirtualEx(&description);
+    EXPECT_GE(index, 0);
+    id_ = SDL_JoystickGetDeviceInstanceID(index);
+    handle_ = SDL_JoystickOpen(index);
+  }
+  ~Stick() {
+    for (int i = 0; i < SDL_NumJoysticks(); ++i) {
+      if (SDL_JoystickGetDeviceInstanceID(i) == id_) SDL_JoystickDetachVirtual(i);
+    }
+    SDL_JoystickClose(handle_);
+    SDL_JoystickUpdate();
+  }
+  Stick(const Stick&) = delete;
+  Stick& operator=(const Stick&) = delete;
+
+  void Move(std::initializer_list<Sint16> axes) {
+    int axis = 0;
+    for (const Sint16 value : axes) SDL_JoystickSetVirtualAxis(handle_, axis++, value);
+  }
+  void Press(int button) { SDL_JoystickSetVirtualButton(handle_, button, 1); }
+
+ private:
+  SDL_JoystickID id_ = -1;
+  SDL_Joystick* handle_ = nullptr;
+};
+
+class SdlJoystickTest : public testing::Test {
+ protected:
+  static void SetUpTestSuite() { ASSERT_EQ(SDL_InitSubSystem(SDL_INIT_JOYSTICK), 0); }
+  static void TearDownTestSuite() { SDL_QuitSubSystem(SDL_INIT_JOYSTICK); }
+  void SetUp() override {
+    if (SDL_NumJoysticks() > 0) GTEST_SKIP() << "there is a real stick";
+  }
+
+  int Read() { return joystick.GetPosEx(info); }
+
+  SdlJoystick joystick;
+  JoyCaps caps;
+  JoyInfo info;
+};
+
+TEST_F(SdlJoystickTest, WithoutAStickThereIsNoDevice) {
+  EXPECT_EQ(joystick.GetDevCaps(caps), joystick::kNoDevice);
+  EXPECT_EQ(Read(), joystick::kNoDevice);
+}
+
+TEST_F(SdlJoystickTest, AxesGoFromZeroTo65535) {
+  Stick stick(4, 19);
+  ASSERT_EQ(joystick.GetDevCaps(caps), joystick::kNoError);
+  EXPECT_TRUE(caps.hasZ);
+  EXPECT_TRUE(caps.hasR);
+  stick.Move({-32768, 32767, 0, 1});
+  stick.Press(0);
+  stick.Press(18);
+  ASSERT_EQ(Read(), joystick::kNoError);
+  EXPECT_EQ(info.x, 0);
+  EXPECT_EQ(info.y, 65535);
+  EXPECT_EQ(info.z, 32768);
+  EXPECT_EQ(info.r, 32769);
+  EXPECT_EQ(info.buttons, 1U | 1U << 18);
+}
+
+TEST_F(SdlJoystickTest, TheThirdAxisIsTheThrottleAndTheFourthTheRudder) {
+  {
+    const Stick two(2, 1);
+    ASSERT_EQ(joystick.GetDevCaps(caps), joystick::kNoError);
+    EXPECT_FALSE(caps.hasZ);
+    EXPECT_FALSE(caps.hasR);
+  }
+  const Stick three(3, 1);
+  ASSERT_EQ(joystick.GetDevCaps(caps), joystick::kNoError);
+  EXPECT_TRUE(caps.hasZ);
+  EXPECT_FALSE(caps.hasR);
+}
+
+TEST_F(SdlJoystickTest, AStickWithoutAxesStaysInTheMiddle) {
+  Stick stick(0, 2);
+  ASSERT_EQ(joystick.GetDevCaps(caps), joystick::kNoError);
+  EXPECT_FALSE(caps.hasZ);
+  stick.Press(1);
+  ASSERT_EQ(Read(), joystick::kNoError);
+  EXPECT_EQ(info.x, 32768);
+  EXPECT_EQ(info.y, 32768);
+  EXPECT_EQ(info.buttons, 2U);
+}
+
+TEST_F(SdlJoystickTest, OfManyButtonsTheFirst32Count) {
+  Stick stick(2, 128);
+  ASSERT_EQ(joystick.GetDevCaps(caps), joystick::kNoError);
+  for (const int button : {0, 31, 32, 63, 127}) stick.Press(button);
+  ASSERT_EQ(Read(), joystick::kNoError);
+  EXPECT_EQ(info.buttons, 0x80000001U);
+}
+
+TEST_F(SdlJoystickTest, ANameOfControlCharactersDoesNoHarm) {
+  Stick stick(2, 1, "\x01\n\r\x1b[2J\x7f%s%n");
+  ASSERT_EQ(joystick.GetDevCaps(caps), joystick::kNoError);
+  stick.Move({100, 200});
+  EXPECT_EQ(Read(), joystick::kNoError);
+  EXPECT_EQ(info.x, 32868);
+}
+
+TEST_F(SdlJoystickTest, UnpluggedItKeepsItsPlaceUntilItIsPluggedInAgain) {
+  {
+    Stick stick(2, 1);
+    ASSERT_EQ(joystick.GetDevCaps(caps), joystick::kNoError);
+    stick.Move({1000, 0});
+    ASSERT_EQ(Read(), joystick::kNoError);
+  }
+  EXPECT_EQ(Read(), joystick::kUnplugged);
+  EXPECT_EQ(Read(), joystick::kUnplugged);
+  EXPECT_EQ(info.x, 33768);
+  Stick again(2, 1);
+  again.Move({2000, 0});
+  ASSERT_EQ(Read(), joystick::kNoError);
+  ASSERT_EQ(Read(), joystick::kNoError);
+  EXPECT_EQ(info.x, 34768);
+}
+
+TEST_F(SdlJoystickTest, OfTwoSticksTheFirstIsReadAndTheOtherDoesNotTakeItsPlace) {
+  auto first = std::make_unique<Stick>(2, 1);
+  Stick second(4, 1);
+  second.Move({-5000, 0});
+  ASSERT_EQ(joystick.GetDevCaps(caps), joystick::kNoError);
+  EXPECT_FALSE(caps.hasZ);
+  first->Move({1000, 0});
+  ASSERT_EQ(Read(), joystick::kNoError);
+  EXPECT_EQ(info.x, 33768);
+  first.reset();
+  EXPECT_EQ(Read(), joystick::kUnplugged);
+  EXPECT_EQ(Read(), joystick::kUnplugged);
+  // Who asks anew what there is finds the other one.
+  ASSERT_EQ(joystick.GetDevCaps(caps), joystick::kNoError);
+  EXPECT_TRUE(caps.hasZ);
+  ASSERT_EQ(Read(), joystick::kNoError);
+  EXPECT_EQ(info.x, 27768);
+}
+
+}  // namespace
+}  // namespace tarvik::screen
