@@ -195,15 +195,22 @@ void InsertOptions::GetSpaces() {
 
 void InsertOptions::SaveSpaces() {
   Settings& settings = application_.settings;
+  std::vector<ProfileEntry> entries;
   for (const Property<int>* member :
        {&NumberOfBlanks, &DefaultRPTvalue, &settings.DefaultDLYvalue, &AlwaysInsert, &COMPaddCR,
         &settings.CompTabsAddCr, &COMPreturnFocus, &COMPMacrosTickedCopy}) {
-    settings.Write(kSection, member->Name(), member->ToText());
+    entries.push_back({kSection, std::string(member->Name()), member->ToText()});
   }
-  if (WindowState == kMinimised) return;
-  const ScreenSize& screen = application_.platform.screen;
-  settings.Write(kSection, "ComposerTop", TextOf(static_cast<int>(WithinScreen(Top, screen.height))));
-  settings.Write(kSection, "ComposerLeft", TextOf(static_cast<int>(WithinScreen(Left, screen.width))));
+  if (WindowState != kMinimised) {
+    const ScreenSize& screen = application_.platform.screen;
+    const auto place = [](float at, float extent) {
+      return TextOf(static_cast<int>(WithinScreen(at, extent)));
+    };
+    entries.push_back({kSection, "ComposerTop", place(Top, screen.height)});
+    entries.push_back({kSection, "ComposerLeft", place(Left, screen.width)});
+  }
+  const Trap trap{application_.errors, "COMPOSER SaveSpaces"};
+  trap(application_.profile.WriteAll(entries));
 }
 
 /// Each page that builds statements starts on its first page, ready for typing.
