@@ -14,8 +14,8 @@ constexpr const char* kAlreadyRunning =
     "with both programs writing to it.";
 
 // The tools that end with the editor, in this order.
-constexpr const char* kToolsOfEditor[] = {"FindAndReplace", "InsertOptions", "Title",  "Heading",
-                                          "SingleTextForm", "RAWform",       "JoyPlot"};
+constexpr const char* kToolsOfEditor[] = {"FindAndReplace", "InsertOptions", "Title",   "Heading",
+                                          "SingleTextForm", "RAWform",       "JoyPlot", "Preferences"};
 
 }  // namespace
 

@@ -6,6 +6,7 @@
 #include "hardware/KeyTestForm.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
+#include "lists/Preferences.h"
 #include "output/TextBlocks.h"
 
 namespace tarvik {
@@ -79,7 +80,9 @@ Editor::Editor(Application& application)
       input_(desk_, menus, popUps,
              {[this](Document& document) { TextChanged(document); },
               [this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); }}),
-      files_(desk_, copies_, highlighter_, lists_, [this] { layout_.ShowMacroFrame(); }),
+      files_(desk_, copies_, highlighter_, lists_,
+             {[this] { layout_.ShowMacroFrame(); },
+              [this] { ShowPreferences(application_, Preferences::kFileLocations); }}),
       autoSave_(desk_, files_, Timer1) {
   SetUpControls();
   SetUpToolbar();
@@ -186,8 +189,8 @@ void Editor::Form_Load() {
 void Editor::FirstTimeFlow() {
   application_.platform.dialogs.Show(
       {"Tarvik initialising ...", kWelcome, BoxIcon::Information, BoxButtons::Ok});
-  application_.settings.FirstTimeUsed = 0;
   application_.settings.SaveOptions();
+  ShowPreferences(application_, Preferences::kFileLocations);
 }
 
 void Editor::Form_Activate() {
@@ -262,6 +265,12 @@ void Editor::SaveOpenSingleOnly() {
   application_.settings.Write("Miscellaneous", "OpenSingleFileOnly",
                               mnuJoyPopUpSingleFile.Checked ? "1" : "0");
 }
+
+// Preferences.
+
+void Editor::mnuPreferencesEdit_Click() { ShowPreferences(application_, Preferences::kFileLocations); }
+void Editor::mnuViewEditColours_Click() { ShowPreferences(application_, Preferences::kColours); }
+void Editor::mnuAppsEdit_Click() { ShowPreferences(application_, Preferences::kApps); }
 
 // Documents.
 

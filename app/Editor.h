@@ -63,6 +63,11 @@ class Editor : public Form {
   void GetOpenSingleOnly();
   void SaveOpenSingleOnly();
 
+  // Preferences.
+  void mnuPreferencesEdit_Click();
+  void mnuViewEditColours_Click();
+  void mnuAppsEdit_Click();
+
   // Documents.
   void mnuFileNewJoystick_Click() { NewFile(Joystick); }
   void mnuFileNewMacro_Click() { NewFile(Macro); }

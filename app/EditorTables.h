@@ -61,7 +61,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuPreferencesProtectMacroFile", "Pr&otect macro file", "",
      &Editor::mnuPreferencesProtectMacroFile_Click},
     {1, "mnuEditDivider4", "-"},
-    {1, "mnuPreferencesEdit", "Prefere&nces ...", "F9"},
+    {1, "mnuPreferencesEdit", "Prefere&nces ...", "F9", &Editor::mnuPreferencesEdit_Click},
 
     {0, "mnuInsert", "&Insert"},
     {1, "mnuShowInsertWindow", "&Composer", "F2", &Editor::mnuShowInsertWindow_Click},
@@ -108,7 +108,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {2, "mnuRemoveColourJoystick", "&Joystick file", "", &Editor::mnuRemoveColourJoystick_Click},
     {2, "mnuRemoveColourMacro", "&Macro file", "", &Editor::mnuRemoveColourMacro_Click},
     {2, "mnuRemoveColourSelectedText", "&Selected text", "", &Editor::mnuRemoveColourSelectedText_Click},
-    {1, "mnuViewEditColours", "Edit &colours ..."},
+    {1, "mnuViewEditColours", "Edit &colours ...", "", &Editor::mnuViewEditColours_Click},
     {1, "mnuViewDivider3", "-"},
     {1, "mnuViewWordWrap", "&Word wrap", "", &Editor::mnuViewWordWrap_Click},
 
@@ -133,7 +133,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuF22Delay", "F22 &Delay"},
     {1, "mnuAppsDivider2", "-"},
     {1, "mnuCustomApp", "", "", nullptr, 0},
-    {1, "mnuAppsEdit", "&Edit custom apps ..."},
+    {1, "mnuAppsEdit", "&Edit custom apps ...", "", &Editor::mnuAppsEdit_Click},
     {1, "mnuAppsDivider3", "-"},
     {1, "mnuSendToJoystick", "D&ownload joystick file to joystick", "F12"},
     {1, "mnuAppsQuiet", "&Quiet mode"},

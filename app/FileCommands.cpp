@@ -138,7 +138,7 @@ bool FileCommands::New(Document& document) {
   desk_.ApplyLook(document);
   NameUntitled(document);
   if (!document.IsJoystick()) {
-    showMacroFrame_();
+    hooks_.showMacroFrame();
     lists_.ClearAllForNewMacroFile();
     desk_.status.Panels(8).Text = kNoMacroFile;
   }
@@ -265,7 +265,7 @@ void FileCommands::Load(Document& document) {
 
 void FileCommands::AnalyseMacroFile() {
   const Loading loading(desk_.values);
-  showMacroFrame_();
+  hooks_.showMacroFrame();
   lists_.ClearAllForNewMacroFile();
   desk_.status.Panels(8).Text = desk_.macro.Name;
   lists_.GetEachLineFromMacroFile();
@@ -399,6 +399,7 @@ void FileCommands::TellUnrecognised() {
                                    "start on me ... I'm just the computer "
                                    "... not the programmer.",
                                BoxIcon::None, BoxButtons::Ok});
+  hooks_.showPreferences();
   desk_.Say("Files not opened");
 }
 

@@ -7,15 +7,17 @@
 
 namespace tarvik {
 
+/// What the editor does for them.
+struct FileHooks {
+  std::function<void()> showMacroFrame;
+  std::function<void()> showPreferences;
+};
+
 class FileCommands {
  public:
   FileCommands(Desk& desk, ColouredCopies& copies, Highlighter& highlighter, MacroLists& lists,
-               std::function<void()> showMacroFrame)
-      : desk_(desk),
-        copies_(copies),
-        highlighter_(highlighter),
-        lists_(lists),
-        showMacroFrame_(std::move(showMacroFrame)) {}
+               FileHooks hooks)
+      : desk_(desk), copies_(copies), highlighter_(highlighter), lists_(lists), hooks_(std::move(hooks)) {}
 
   /// Name, path and tab of a file that has none yet.
   void NameUntitled(Document& document);
@@ -72,7 +74,7 @@ class FileCommands {
   ColouredCopies& copies_;
   Highlighter& highlighter_;
   MacroLists& lists_;
-  std::function<void()> showMacroFrame_;
+  FileHooks hooks_;
   File toOpen_;               // without a dialog, when it has a path
   std::string lastFileName_;  // what the file dialog shows next
 };

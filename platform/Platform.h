@@ -37,6 +37,13 @@ struct FileRequest {
   std::string defaultExtension;
 };
 
+/// A font as the settings have it; the size in points.
+struct FontChoice {
+  std::string name;
+  int size = 0;
+  bool bold = false;
+};
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -45,6 +52,10 @@ class Dialogs {
   virtual Answer Show(const MessageBox& box) = 0;
   /// The chosen path in the program's form, or failure 32755 when the user cancels.
   virtual Outcome<std::string> AskForFile(const FileRequest& request) = 0;
+  /// A colour as 0x00BBGGRR, or failure 32755.
+  virtual Outcome<unsigned> AskForColour(unsigned before) = 0;
+  /// A font, of those of fixed pitch alone where that is asked for, or failure 32755.
+  virtual Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) = 0;
   /// Lets the user go on working, one event after another, while `open` says so: what a modal form waits in.
   virtual void WaitWhile(const std::function<bool()>& open) = 0;
 };

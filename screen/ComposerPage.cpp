@@ -103,6 +103,7 @@ QWidget* Strip(InsertOptions& form, const FormLayout& in, int tab) {
   std::vector<QLayout*> pages;
   const auto* const row = std::find_if(std::begin(tables::kStatementTabs), std::end(tables::kStatementTabs),
                                        [tab](const auto& candidate) { return candidate.tab == tab; });
+  pages.reserve(static_cast<std::size_t>(row->rows) + 1);
   for (int i = 0; i < row->rows; ++i) {
     pages.push_back(StatementPage(form, in, tables::kTabStatements[row->firstRow + i]));
   }
@@ -224,6 +225,7 @@ QLayout* LogicPage(InsertOptions& form, const FormLayout& in) {
        Row({Stretch(), in.Show(form.CMDFlagInsert(8))}), Stretch()});
   std::vector<QLayout*> pages;
   const int count = form.RichTexFlag.Count() / form.SSTabFlags.Count();
+  pages.reserve(static_cast<std::size_t>(form.SSTabFlags.Count()));
   for (int i = 0; i < form.SSTabFlags.Count(); ++i) pages.push_back(LogicLines(form, in, i * count, count));
   return Column(
       {in.Show(form.SSTabFlags, pages),

@@ -1,10 +1,12 @@
 #include "screen/QtDialogs.h"
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFontDialog>
 #include <QMessageBox>
 #include <QSplitter>
 #include <QUrl>
@@ -46,6 +48,8 @@ Answer ToAnswer(int button) {
       return Answer::Ok;
   }
 }
+
+Failure Cancelled() { return {error::kDialogCancelled, "Cancel was selected.", 0}; }
 
 /// The ordinary pointer, while the program that waits behind the dialog shows the hourglass.
 class OrdinaryPointer {
@@ -105,11 +109,32 @@ Outcome<std::string> QtDialogs::AskForFile(const FileRequest& request) {
   if (save) dialog.setDefaultSuffix(ToScreen(request.defaultExtension));
   if (!request.fileName.empty()) dialog.selectFile(ToScreen(request.fileName));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-    return Failure{error::kDialogCancelled, "Cancel was selected.", 0};
+    return Cancelled();
   }
   const QString chosen = dialog.selectedFiles().constFirst();
   lastFolder_ = QFileInfo(chosen).absolutePath();
   return drives_.FromHost(QFile::encodeName(chosen).toStdString());
+}
+
+Outcome<unsigned> QtDialogs::AskForColour(unsigned before) {
+  const OrdinaryPointer pointer;
+  const QColor colour = QColorDialog::getColor(ToScreenColour(before), QApplication::activeWindow(), {},
+                                               QColorDialog::DontUseNativeDialog);
+  if (!colour.isValid()) return Cancelled();
+  return FromScreenColour(colour);
+}
+
+Outcome<FontChoice> QtDialogs::AskForFont(const FontChoice& before, bool fixedPitch) {
+  const OrdinaryPointer pointer;
+  constexpr int kLeastSize = 4;
+  QFont font(ToScreen(before.name), std::max(before.size, kLeastSize));
+  font.setBold(before.bold);
+  QFontDialog::FontDialogOptions options = QFontDialog::DontUseNativeDialog;
+  if (fixedPitch) options |= QFontDialog::MonospacedFonts;
+  bool chosen = false;
+  font = QFontDialog::getFont(&chosen, font, QApplication::activeWindow(), {}, options);
+  if (!chosen) return Cancelled();
+  return FontChoice{FromScreen(font.family()), font.pointSize(), font.bold()};
 }
 
 void QtDialogs::WaitWhile(const std::function<bool()>& open) {

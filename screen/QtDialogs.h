@@ -15,6 +15,8 @@ class QtDialogs : public Dialogs {
 
   Answer Show(const MessageBox& box) override;
   Outcome<std::string> AskForFile(const FileRequest& request) override;
+  Outcome<unsigned> AskForColour(unsigned before) override;
+  Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) override;
   void WaitWhile(const std::function<bool()>& open) override;
 
  private:

@@ -228,7 +228,7 @@ ToolWindow::MakePage PageFor(Form& form) {
 
 ToolWindow::MakePage PageOf(Form& form) {
   for (const auto& find :
-       {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Title>, PageFor<Heading>,
+       {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Preferences>, PageFor<Title>, PageFor<Heading>,
         PageFor<SingleTextForm>, PageFor<RAWform>, PageFor<KeyTestForm>, PageFor<JoyPlot>}) {
     if (auto page = find(form)) return page;
   }

@@ -7,6 +7,7 @@
 #include <QWindow>
 
 #include "screen/Text.h"
+#include "screen/WindowFocus.h"
 
 namespace tarvik::screen {
 namespace {
@@ -40,7 +41,7 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   }));
   bindings_.Keep(form.Raised.Connect([this] {
     raise();
-    activateWindow();
+    AskForWindow(*this);
   }));
   bindings_.Bind(
       form.Visible, [this] { ShowWindow(); }, [this] { return TextOf(isVisible()); });
@@ -71,7 +72,7 @@ void ToolWindow::ShowWindow() {
   if (!isVisible() && !form().Modal) move(placed_ ? PlaceOfForm() : PlaceBeside());
   show();
   raise();
-  activateWindow();
+  AskForWindow(*this);
 }
 
 /// A modal window stays in front of the one that asked, whatever is clicked. Any other is minimised by

@@ -5,6 +5,7 @@
 #include <QDialog>
 
 #include "composer/InsertOptions.h"
+#include "lists/Preferences.h"
 #include "screen/FormLayout.h"
 #include "screen/FormView.h"
 #include "screen/Keys.h"
@@ -51,8 +52,9 @@ class ToolWindow : public QDialog, public FormView {
   KeyReader keys_;
 };
 
-/// The Composer's page.
+/// The pages that are large enough for a file of their own.
 [[nodiscard]] QLayout* Page(InsertOptions& form, const FormLayout& in);
+[[nodiscard]] QLayout* Page(Preferences& form, const FormLayout& in);
 
 /// The page of the form's window, or nothing for a form that is shown in another way.
 [[nodiscard]] ToolWindow::MakePage PageOf(Form& form);

@@ -253,6 +253,7 @@ class FormDriver : public Driver {
       if (!list->Visible) return false;
       list->ListIndex = index;
       list->MouseDown({1, 0, 0, 0});
+      list->MouseUp({1, 0, 0, 0});
       return true;
     }
     if (auto* strip = dynamic_cast<TabStrip*>(&control)) {

@@ -38,7 +38,10 @@ class ScreenDriver : public Driver {
   void Resize(Form& form, float width, float height) override { access_.Resize(form, width, height); }
   unsigned ColourAt(PlotBox& picture, float x, float y) override { return access_.ColourAt(picture, x, y); }
   void Drop(ListBox& from, Pane& pane, std::size_t position) override { access_.Drop(from, pane, position); }
-  bool HasFocus(const Control& control) override { return access_.HasFocus(control); }
+  bool HasFocus(const Control& control) override {
+    access_.Settle();
+    return access_.HasFocus(control);
+  }
   std::string Read(const PropertyBase& property) override {
     return access_.Read(property).value_or(property.ToText());
   }

@@ -16,12 +16,35 @@ Answer ScriptedDialogs::Show(const MessageBox& box) {
 
 Outcome<std::string> ScriptedDialogs::AskForFile(const FileRequest& request) {
   requests.push_back(request);
-  if (std::exchange(holdDialog, false)) WaitWhile([this] { return choices.empty(); });
-  const std::string choice = choices.empty() ? "cancel" : choices.front();
-  if (!choices.empty()) choices.pop_front();
-  if (choice == "cancel") return Failure{error::kDialogCancelled, "Cancel was selected.", 0};
+  Outcome<std::string> chosen = NextChoice();
+  if (!chosen) return chosen;
+  const std::string& choice = *chosen;
   const bool hasExtension = choice.find('.', choice.rfind('\\') + 1) != std::string::npos;
   return hasExtension || request.defaultExtension.empty() ? choice : choice + "." + request.defaultExtension;
+}
+
+Outcome<std::string> ScriptedDialogs::NextChoice() {
+  if (std::exchange(holdDialog, false)) WaitWhile([this] { return choices.empty(); });
+  std::string choice = choices.empty() ? "cancel" : choices.front();
+  if (!choices.empty()) choices.pop_front();
+  if (choice == "cancel") return Failure{error::kDialogCancelled, "Cancel was selected.", 0};
+  return choice;
+}
+
+Outcome<unsigned> ScriptedDialogs::AskForColour(unsigned /*before*/) {
+  const Outcome<std::string> choice = NextChoice();
+  if (!choice) return choice.failure();
+  return static_cast<unsigned>(std::stoul(*choice));
+}
+
+Outcome<FontChoice> ScriptedDialogs::AskForFont(const FontChoice& /*before*/, bool fixedPitch) {
+  fixedPitchOnly = fixedPitch;
+  const Outcome<std::string> choice = NextChoice();
+  if (!choice) return choice.failure();
+  const std::size_t size = choice->find('|');
+  const std::size_t bold = choice->find('|', size + 1);
+  return FontChoice{choice->substr(0, size), std::stoi(choice->substr(size + 1)),
+                    choice->substr(bold + 1) == "1"};
 }
 
 void ScriptedDialogs::WaitWhile(const std::function<bool()>& open) {

@@ -17,6 +17,10 @@ class ScriptedDialogs : public Dialogs {
  public:
   Answer Show(const MessageBox& box) override;
   Outcome<std::string> AskForFile(const FileRequest& request) override;
+  /// The next choice as a number.
+  Outcome<unsigned> AskForColour(unsigned before) override;
+  /// The next choice as "name|size|bold", with 1 for a bold one.
+  Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) override;
   void WaitWhile(const std::function<bool()>& open) override;
 
   std::deque<Answer> answers;       ///< for the next boxes; OK where there is none, or No, or Cancel
@@ -26,8 +30,12 @@ class ScriptedDialogs : public Dialogs {
   /// The next box, or file dialog, stays open until there is an answer, or a choice, for it.
   bool holdBox = false;
   bool holdDialog = false;
+  bool fixedPitchOnly = false;  ///< the last font dialog offered no others
   /// Lets the user do one thing; false when there is nothing more to do.
   std::function<bool()> next;
+
+ private:
+  Outcome<std::string> NextChoice();
 };
 
 class ScriptedInstance : public SingleInstance {

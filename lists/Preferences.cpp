@@ -1,0 +1,400 @@
+#include "lists/Preferences.h"
+
+#include <algorithm>
+
+#include "app/Editor.h"
+#include "platform/CodePage.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* kJoysticks[] = {"F22 Pro", "F16 FLCS", "P FCS", "Top Gun", "FCS"};
+constexpr const char* kThrottles[] = {"None", "TQS", "WCS MkII", "WCS"};
+constexpr const char* kRudders[] = {"None", "Elite", "RCS"};
+
+/// The endings of the files for a joystick, by its number.
+struct Endings {
+  const char* joystick;
+  const char* macro;
+};
+constexpr Endings kEndings[] = {
+    {"f22", "m22"}, {"b50", "m50"}, {"adv", "mdf"}, {"adv", "mdf"}, {"adv", "mdf"}};
+
+/// What bears a colour in the example: each word, up to and with an end where there is one.
+struct ColouredWord {
+  std::string_view word;
+  std::string_view end = {};
+};
+
+struct ColourRow {
+  const char* item;
+  Property<Colour> Settings::*colour;
+  ColouredWord words[8] = {};
+};
+
+constexpr std::string_view kLineEnd = "\r";
+
+constexpr ColourRow kColourRows[] = {
+    {"Background", &Settings::BackgroundColour},
+    {"Rem statements", &Settings::RemStatements, {{"Rem", kLineEnd}, {"~", kLineEnd}}},
+    {"Buttons", &Settings::BTNColour, {{"BTN"}}},
+    {"Slash modifiers", &Settings::SlashColour, {{"/"}}},
+    {"Raw statements", &Settings::RAWColour, {{"RAW (", ")"}}},
+    {"Miscellaneous",
+     &Settings::MiscellaneousColour,
+     {{"ANT"}, {"RNG"}, {"USE"}, {"MT"}, {"MDEF"}, {"MTYPE"}, {"DLY"}, {"RATE"}}},
+    {"Macro Background", &Settings::MacroBackgroundColour},
+};
+constexpr int kBackground = 0;
+
+constexpr const char* kExample =
+    "Rem -----------------------------------------\r\n"
+    "Rem         My joystick file\r\n"
+    "Rem -----------------------------------------\r\n"
+    "USE TQS\r\n"
+    "MDEF Longbow2\r\n"
+    "ANT 1 5 SensorZoom- SensorZoom+ N\r\n"
+    "Rem -----------------------------------------\r\n"
+    "BTN T2 /I Chaff /O Flare\r\n"
+    "BTN T4 /P RAW (#5B) /R RAW (#F0 #5B)    rem tail right\r\n"
+    "BTN H1U  /T /N FrontNoCockpit  /T /N Front\r\n"
+    "Rate 20";
+
+constexpr const char* kFixedPitchTitle = "Lining up slash modifiers";
+constexpr const char* kFixedPitch =
+    "If you want all your slash modifiers to line up as they do in Notepad, choose a fixed pitch font, like "
+    "Courier New.";
+constexpr const char* kAutoSaveInvalid =
+    "The value you entered isn't valid. I'm changing it to 10 minutes to prevent an error ocurring.";
+
+constexpr int kFirstHelpTopic = 5305;
+constexpr int kTopicsBetweenPages = 5;
+constexpr int kLeastUndo = 10;
+constexpr int kMostUndo = 30000;
+constexpr int kAutoSaveMinutes = 10;
+constexpr int kDelay = 60;
+
+/// The whole number a box begins with, as far as 16 bits hold it.
+int NumberOf(const TextBox& box) {
+  return static_cast<int>(std::clamp(NumberIn(box.Text.Get()), -32768.0, 32767.0));
+}
+
+std::string WithBackslash(const std::string& path) {
+  return path.empty() || path.back() == '\\' ? path : path + "\\";
+}
+
+template <std::size_t N>
+void Fill(ComboBox& combo, const char* const (&items)[N], int index) {
+  combo.FillInOrder({std::begin(items), std::end(items)});
+  combo.ListIndex = index >= 0 && index < static_cast<int>(N) ? index : -1;
+}
+
+template <class Controls, std::size_t N>
+void NameEach(const Controls& controls, const char* const (&captions)[N]) {
+  for (std::size_t i = 0; i < N; ++i) controls(static_cast<int>(i)).Caption = captions[i];
+}
+
+}  // namespace
+
+Preferences::Preferences(Application& application)
+    : Form("Preferences"),
+      ExampleJoystickText(*this, "ExampleJoystickText", application.platform.files),
+      application_(application),
+      settings_(application.settings) {
+  Caption = "Preferences";
+  NameControls();
+  AttachHandlers();
+  AttachMiscellaneous();
+}
+
+void Preferences::NameControls() {
+  NameEach(Check3, {"Autosave files every", "Create backup when saving files"});
+  NameEach(CheckFlattenToolbar, {"Flatten toolbar on startup", "Apply colour gradient on startup",
+                                 "Toolbar is wrappable on startup"});
+  NameEach(OptionImagesToShow, {"Your selected controllers", "All Thrustmaster controllers",
+                                "Controllers relevant to the files that are open "});
+  Text1.ToolTipText = "Program used to transfer joystick files to joystick";
+  Text2.ToolTipText = "Default location for joystick and macro files";
+  Text10.ToolTipText = "Batch file that runs Thrustmaster DOS C&&CC";
+  ComboJoystick.ToolTipText = "Select the Joystick you have";
+  ComboThrottle.ToolTipText = "Select the Throttle you have";
+  ComboRudders.ToolTipText = "Select the Rudders you have";
+  List1.ToolTipText = "Click here to change the colour already assigned";
+  ExampleJoystickText.ToolTipText =
+      "This is how it should look when you apply colour highlighting to your joystick file";
+  ExampleJoystickText.Locked = true;
+  Text5.ToolTipText = "Default image for Image Viewer";
+  Text6.ToolTipText = "Default file for Template Editor";
+  TxtUndoLevels.ToolTipText = "10 to 30,000 - high values slow down Tarvik";
+  CheckShowTooltips.ToolTipText = "To be implemented at a later date";
+  DLYText.ToolTipText = "Default delay value for Editor's DLY button";
+  Command3.ToolTipText = "Saves the Preferences";
+}
+
+void Preferences::AttachHandlers() {
+  Command3.MakeDefault();
+  Command3.Cancel = true;  // Escape stores as well
+  Command3.Click = [this] { application_.Unload(*this); };
+  Command6.Click = [this] { Command6_Click(); };
+  SSTab1.Click = [this] { SSTab1_Click(); };
+  Text1.Change = [this] { settings_.B50LoadPath = Text1.Text.Get(); };
+  Text2.Change = [this] { Text2_Change(); };
+  Browse(Command1, Text1, "Locate Thrustmaster file", "Executables (*.exe)|*.exe|All files (*.*)|*.*");
+  Browse(Command8, Text10, "Locate Thrustmaster file",
+         "Batch files (*.bat)|*.bat|Executables (*.exe)|*.exe|All files (*.*)|*.*");
+  Browse(Command5, Text5, "Locate image file", "Picture files|*.bmp;*.jpg;*.gif;*.wmf|All files (*.*)|*.*");
+  Browse(Command7, Text6, "Locate text file", "Text files|*.txt;*.rtf;*.ini;*.bat|All files (*.*)|*.*");
+  ComboJoystick.Click = [this] { ComboJoystick_Click(); };
+  ComboThrottle.Click = [this] { settings_.ThrottleName = ComboThrottle.ListIndex; };
+  ComboRudders.Click = [this] { settings_.RudderName = ComboRudders.ListIndex; };
+  List1.MouseUp = [this](const Mouse&) { List1_Click(); };
+  List1.DblClick = [this] { List1_Click(); };  // the Enter key
+  CheckBox1.Click = [this] { settings_.ApplyColoursOnFileOpen = CheckBox1.Value; };
+  Command17.Click = [this] { Command17_Click(); };
+  Command18.Click = [this] { DoTheFonts(); };
+  Load = [this] { Form_Load(); };
+  Activate = [this] { Form_Activate(); };
+  Unload = [this] { Form_Unload(); };
+}
+
+void Preferences::AttachMiscellaneous() {
+  const auto atOnce = [this](CheckBox& box, Property<int>& setting) {
+    box.Click = [this, &box, &setting] {
+      setting = box.Value;
+      application_.editor()->UpdateToolBarOpenSaveTooltips();
+    };
+  };
+  atOnce(OpenBothChk, settings_.OpenBothOnToolbar);
+  atOnce(SaveBothChk, settings_.SaveBothOnToolbar);
+  Text3.Change = [this] { Text3_Change(); };
+  Text3.LostFocus = [this] { Text3_LostFocus(); };
+  TxtUndoLevels.Change = [this] { TxtUndoLevels_Change(); };
+  TxtUndoLevels.LostFocus = [this] { TxtUndoLevels_LostFocus(); };
+  DLYText.Change = [this] { DLYtext_Change(); };
+  Command11.Click = [this] { application_.editor()->DeleteUndosFromMemory(); };
+  for (int i = 0; i < OptionImagesToShow.Count(); ++i) {
+    OptionImagesToShow(i).Click = [this, i] { settings_.ComposerImages = i; };
+  }
+}
+
+std::vector<Preferences::Tick> Preferences::Ticks() {
+  return {{Check3(0), settings_.AutoSaveEnabled},
+          {Check3(1), settings_.CreateBackup},
+          {CheckFlattenToolbar(0), settings_.FlatToolbar},
+          {CheckFlattenToolbar(1), settings_.GradientEffect},
+          {CheckFlattenToolbar(2), settings_.CanWrapToolbar},
+          {OpenBothChk, settings_.OpenBothOnToolbar},
+          {SaveBothChk, settings_.SaveBothOnToolbar},
+          {CheckUndoSave, settings_.UndoClearOnSave},
+          {CheckIdentify, settings_.CheckIdentifyOK},
+          {CheckAggressive, settings_.AllowAggressiveFocus},
+          {CheckHighlightOnUndo, settings_.HighlightLineOnUndo}};
+}
+
+// Life of the form.
+
+void Preferences::Form_Load() {
+  Fill(ComboJoystick, kJoysticks, settings_.JoyName);
+  Fill(ComboThrottle, kThrottles, settings_.ThrottleName);
+  Fill(ComboRudders, kRudders, settings_.RudderName);
+  Text1.Text = settings_.B50LoadPath.Get();
+  Text2.Text = settings_.ProgramFilesPath.Get();
+  Text10.Text = settings_.CandCCPath.Get();
+  Text5.Text = settings_.ImageFilePath.Get();
+  Text6.Text = settings_.TextFilePath.Get();
+  for (const Tick& tick : Ticks()) tick.box.Value = tick.setting == 0 ? 0 : 1;
+  Text3.Text = TextOf(settings_.AutoSaveTime.Get());
+  TxtUndoLevels.Text = TextOf(settings_.UndoMax.Get());
+  DLYText.Text = TextOf(settings_.DefaultDLYvalue.Get());
+  const int images = settings_.ComposerImages;
+  if (images >= 0 && images < OptionImagesToShow.Count()) OptionImagesToShow(images).Value = true;
+  application_.values.FontChanged = 0;
+  settings_.GetColours();
+  SSTab1.Tab = kFileLocations;
+  Topmost = true;
+}
+
+void Preferences::Form_Activate() {
+  SSTab1.Tab = application_.values.PreferencesTab;
+  if (SSTab1.Tab == kFileLocations) Text1.SetFocus();
+}
+
+/// The one place where the dialog's state becomes the program's.
+void Preferences::Form_Unload() {
+  settings_.B50LoadPath = Text1.Text.Get();
+  settings_.ProgramFilesPath = WithBackslash(Text2.Text);
+  settings_.CandCCPath = Text10.Text.Get();
+  settings_.ImageFilePath = Text5.Text.Get();
+  settings_.TextFilePath = Text6.Text.Get();
+  for (const Tick& tick : Ticks()) tick.setting = tick.box.Value;
+  TxtUndoLevels_Change();
+  settings_.FirstTimeUsed = 0;
+  settings_.SaveOptions();
+  SaveColourScheme();
+  Editor* const editor = application_.editor();
+  if (!editor) return;
+  editor->Timer1.Enabled = settings_.AutoSaveEnabled == 1;
+  if (application_.values.HardwareChanged == 1) editor->HardwareHasChanged();
+}
+
+void Preferences::SaveColourScheme() {
+  constexpr const char* kSection = "Colours";
+  std::vector<ProfileEntry> entries;
+  for (const PropertyBase* const property : std::initializer_list<const PropertyBase*>{
+           &settings_.BackgroundColour, &settings_.BTNColour, &settings_.SlashColour, &settings_.RAWColour,
+           &settings_.MiscellaneousColour, &settings_.MacroBackgroundColour, &settings_.RemStatements,
+           &settings_.TextFontName, &settings_.TextFontSize, &settings_.TextFontBold,
+           &settings_.ApplyColoursOnFileOpen}) {
+    entries.push_back({kSection, std::string(property->Name()), property->ToText()});
+  }
+  const Trap trap{application_.errors, "PREF SaveColourScheme"};
+  trap(application_.profile.WriteAll(entries));
+}
+
+void Preferences::SSTab1_Click() {
+  application_.values.PreferencesTab = SSTab1.Tab.Get();
+  if (SSTab1.Tab == kFileLocations) Text1.SetFocus();
+  if (SSTab1.Tab == kColours) {
+    CheckBox1.Value = settings_.ApplyColoursOnFileOpen == 0 ? 0 : 1;
+    FillColours();
+    ShowExample();
+  }
+}
+
+void Preferences::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
+
+void Preferences::Command6_Click() {
+  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp",
+                                         kFirstHelpTopic + kTopicsBetweenPages * SSTab1.Tab);
+}
+
+// File locations.
+
+void Preferences::Browse(CommandButton& button, TextBox& box, const char* say, const char* filter) {
+  button.Click = [this, &box, say, filter] {
+    Say(say);
+    FileRequest request;
+    request.title = say;
+    request.filter = filter;
+    request.folder = box.Text.Get().substr(0, box.Text.Get().rfind('\\') + 1);
+    if (const auto path = Ignore(application_.platform.dialogs.AskForFile(request)))
+      box.Text = LowerCase(*path);
+  };
+}
+
+void Preferences::Text2_Change() { settings_.ProgramFilesPath = WithBackslash(Text2.Text); }
+
+void Preferences::ComboJoystick_Click() {
+  const int joystick = ComboJoystick.ListIndex;
+  if (joystick < 0) return;
+  if (joystick != settings_.JoyName) application_.values.HardwareChanged = 1;
+  settings_.JoyName = joystick;
+  settings_.JoystickExtension = std::string(kEndings[joystick].joystick);
+  settings_.MacroExtension = std::string(kEndings[joystick].macro);
+}
+
+// Colours and fonts.
+
+void Preferences::FillColours() {
+  std::vector<std::string> items;
+  for (const ColourRow& row : kColourRows) items.emplace_back(row.item);
+  List1.FillInOrder(std::move(items));
+}
+
+void Preferences::ShowExample() {
+  ExampleJoystickText.Text = std::string(kExample);
+  application_.editor()->ApplyFont(ExampleJoystickText);
+  for (int i = 0; i < List1.ListCount(); ++i) {
+    List1.ListIndex = i;
+    ApplyColour(settings_.*kColourRows[i].colour);
+  }
+  List1.ListIndex = -1;
+}
+
+void Preferences::List1_Click() {
+  const int item = List1.ListIndex;
+  if (item < 0) return;
+  const Colour before = settings_.*kColourRows[item].colour;
+  if (const auto colour = Ignore(application_.platform.dialogs.AskForColour(before))) ApplyColour(*colour);
+}
+
+void Preferences::ApplyColour(Colour colour) {
+  const int item = List1.ListIndex;
+  if (item < 0) return;
+  const ColourRow& row = kColourRows[item];
+  settings_.*row.colour = colour;
+  if (item == kBackground) ExampleJoystickText.BackColor = colour;
+  for (const ColouredWord& word : row.words) {
+    if (!word.word.empty()) PaintExample(word.word, word.end, colour);
+  }
+}
+
+void Preferences::PaintExample(std::string_view word, std::string_view end, Colour colour) {
+  Pane& pane = ExampleJoystickText;
+  const std::string_view text = pane.Characters();
+  std::size_t from = 0;
+  while (const auto hit = pane.Find(std::string(word), from, text.size(), find::kKeepSelection)) {
+    from = *hit + word.size();
+    if (!end.empty()) from = std::min(text.find(end, from), text.size() - 1) + 1;
+    pane.Select({*hit, from - *hit});
+    pane.SelColor = colour;
+  }
+  pane.Select({0, 0});
+}
+
+void Preferences::DoTheFonts() {
+  const FontChoice before = {settings_.TextFontName, settings_.TextFontSize, settings_.TextFontBold == 1};
+  const auto font = Ignore(application_.platform.dialogs.AskForFont(before, CheckFixedPitch.Value == 1));
+  if (!font) return;
+  settings_.TextFontName = font->name;
+  settings_.TextFontSize = font->size;
+  settings_.TextFontBold = font->bold ? 1 : 0;
+  application_.editor()->ApplyFont(ExampleJoystickText);
+  application_.values.FontChanged = 1;
+  application_.values.TemplateFontChanged = 1;
+}
+
+void Preferences::Command17_Click() {
+  application_.platform.dialogs.Show({kFixedPitchTitle, kFixedPitch, BoxIcon::Information, BoxButtons::Ok});
+}
+
+// Values with limits.
+
+/// The words say ten minutes, the value is one.
+void Preferences::Text3_Change() {
+  if (Text3.Empty()) {
+    settings_.AutoSaveTime = kAutoSaveMinutes;
+    return;
+  }
+  const int minutes = NumberOf(Text3);
+  settings_.AutoSaveTime = std::max(minutes, 1);
+  if (minutes >= 1) return;
+  Text3.Text = std::string("1");
+  application_.platform.dialogs.Show({"Tarvik", kAutoSaveInvalid, BoxIcon::None, BoxButtons::Ok});
+}
+
+void Preferences::Text3_LostFocus() {
+  if (NumberOf(Text3) < 1) Text3.Text = TextOf(kAutoSaveMinutes);
+}
+
+void Preferences::DLYtext_Change() {
+  const int delay = NumberOf(DLYText);
+  settings_.DefaultDLYvalue = delay < 1 ? kDelay : delay;
+}
+
+void Preferences::TxtUndoLevels_Change() {
+  settings_.UndoMax = std::clamp(NumberOf(TxtUndoLevels), kLeastUndo, kMostUndo);
+}
+
+void Preferences::TxtUndoLevels_LostFocus() {
+  TxtUndoLevels_Change();
+  TxtUndoLevels.Text = TextOf(settings_.UndoMax.Get());
+}
+
+void ShowPreferences(Application& application, int page) {
+  application.values.PreferencesTab = page;
+  application.ShowModal(application.Tool<Preferences>());
+  if (application.values.FontChanged == 1 && application.editor()) application.editor()->DamnFontWasChanged();
+}
+
+}  // namespace tarvik

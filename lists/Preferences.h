@@ -1,0 +1,109 @@
+// The one dialog in which every setting, colour and list is edited. Much takes effect at once, and closing it
+// in any way stores everything: there is no way of leaving with the old values.
+#pragma once
+
+#include "app/Application.h"
+#include "panes/Pane.h"
+
+namespace tarvik {
+
+class Preferences : public Form {
+ public:
+  explicit Preferences(Application& application);
+
+  /// The pages of SSTab1.
+  enum Page { kFileLocations, kColours, kApps, kFavourites, kMiscellaneous, kGames };
+
+  TabPages SSTab1{*this,
+                  "SSTab1",
+                  {"&File locations", "&Colour highlighting / Fonts", "&Apps", "Fa&vourites",
+                   "&Miscellaneous", "&Games"}};
+
+  // File locations.
+  TextBox Text1{*this, "Text1"};    ///< the loader
+  TextBox Text2{*this, "Text2"};    ///< the folder of the files
+  TextBox Text10{*this, "Text10"};  ///< the Control Centre
+  CommandButton Command1{*this, "Command1", "Browse"};
+  CommandButton Command2{*this, "Command2", "Select"};
+  CommandButton Command8{*this, "Command8", "Browse"};
+  ComboBox ComboJoystick{*this, "ComboJoystick"};
+  ComboBox ComboThrottle{*this, "ComboThrottle"};
+  ComboBox ComboRudders{*this, "ComboRudders"};
+
+  // Colours and fonts.
+  ListBox List1{*this, "List1"};
+  Pane ExampleJoystickText;
+  CheckBox CheckBox1{*this, "CheckBox1", "Apply when opening files"};
+  CheckBox CheckFixedPitch{*this, "CheckFixedPitch", "Show fixed pitch fonts only"};
+  CommandButton Command17{*this, "Command17", "Tip: fixed pitch fonts"};
+  CommandButton Command18{*this, "Command18", "Change font"};
+
+  // Apps.
+  TextBox Text5{*this, "Text5"};  ///< the first picture of the image viewer
+  TextBox Text6{*this, "Text6"};  ///< the first file of the Template Editor
+  CommandButton Command5{*this, "Command5", "Browse"};
+  CommandButton Command7{*this, "Command7", "Browse"};
+
+  // Miscellaneous.
+  ControlArray<CheckBox> Check3{*this, "Check3", 2};
+  TextBox Text3{*this, "Text3"};  ///< minutes of autosave
+  CheckBox OpenBothChk{*this, "OpenBothChk", "Open button on toolbar opens joystick file and its macro file"};
+  CheckBox SaveBothChk{*this, "SaveBothChk", "Save button saves both files"};
+  TextBox TxtUndoLevels{*this, "TxtUndoLevels"};
+  CheckBox CheckUndoSave{*this, "CheckUndoSave", "Clear when file is saved"};
+  CheckBox CheckHighlightOnUndo{*this, "CheckHighlightOnUndo", "Highlight line on Undo/Redo"};
+  CommandButton Command11{*this, "Command11", "Clear now"};
+  ControlArray<OptionButton> OptionImagesToShow{*this, "OptionImagesToShow", 3};
+  CheckBox CheckShowTooltips{*this, "CheckShowTooltips", "Show tooltips"};  ///< without effect
+  CheckBox CheckAggressive{*this, "CheckAggressive", "Allow aggressive focus"};
+  CheckBox CheckIdentify{*this, "CheckIdentify", "Identify macros used in joystick file "};
+  ControlArray<CheckBox> CheckFlattenToolbar{*this, "CheckFlattenToolbar", 3};
+  TextBox DLYText{*this, "DLYText"};
+
+  CommandButton Command3{*this, "Command3", "OK"};
+  CommandButton Command6{*this, "Command6", "Help"};
+
+  void Form_Load();
+  void Form_Activate();
+  void Form_Unload();
+  void SSTab1_Click();
+  void ComboJoystick_Click();
+  void List1_Click();
+  /// Stores the colour of the item in hand, and paints the example with it.
+  void ApplyColour(Colour colour);
+  void SaveColourScheme();
+  void DoTheFonts();
+  void Command6_Click();
+  void Command17_Click();
+  void Text2_Change();
+  void Text3_Change();
+  void Text3_LostFocus();
+  void DLYtext_Change();
+  void TxtUndoLevels_Change();
+  void TxtUndoLevels_LostFocus();
+
+ private:
+  /// A box whose tick is a setting.
+  struct Tick {
+    CheckBox& box;
+    Property<int>& setting;
+  };
+
+  void NameControls();
+  void AttachHandlers();
+  void AttachMiscellaneous();
+  void Browse(CommandButton& button, TextBox& box, const char* say, const char* filter);
+  void FillColours();
+  void ShowExample();
+  void PaintExample(std::string_view word, std::string_view end, Colour colour);
+  void Say(const std::string& text);
+  [[nodiscard]] std::vector<Tick> Ticks();
+
+  Application& application_;
+  Settings& settings_;
+};
+
+/// Shows the preferences on one of their pages and waits; a new font is in force afterwards.
+void ShowPreferences(Application& application, int page);
+
+}  // namespace tarvik
