@@ -7,13 +7,20 @@
 namespace tarvik {
 namespace {
 
-constexpr MessageBox Information(const char* title, const std::string& text) {
-  return {title, text, BoxIcon::Information, BoxButtons::Ok};
-}
+// Window states of the frame.
+constexpr int kNormal = 0;
+constexpr int kMinimised = 1;
 
-constexpr const char* kWhereIsIt = "Where is it?";
+// What the loader is waited for with.
+constexpr int kMinimisedWithoutFocus = 6;  // without effect
+constexpr int kNoLimit = -1;
+
 constexpr const char* kNoControlCentre =
     "You need to enter the path in preferences for the Thrustmaster Control Centre";
+constexpr const char* kWhyPath =
+    " program is in this path and I really do need to know where to find it. I could be really intelligent "
+    "here and go and find the file myself, but let's face facts, I'm just a humble lazy computer, and I'd "
+    "rather be on a beach somewhere than running this Tarvik rubbish.";
 constexpr const char* kNothingToSend =
     "The Joystick file is empty, so there's not much point in me sending that off to your joystick. Load up "
     "a joystick file, or create one, or just put your feet up and watch TV.";
@@ -29,16 +36,16 @@ struct F22Row {
 
 /// In the order of F22Utility.
 constexpr F22Row kF22Utilities[] = {
-    {"f22setup.exe", "Setup", "EDITOR mnuF22Setup_Click"},
-    {"f22clear.exe", "f22clear", "EDITOR mnuF22Clear_Click"},
-    {"f22reset.exe", "F22Reset", "EDITOR mnuF22Reset_Click"},
-    {"f22dly2.exe", "F22dly2", "EDITOR mnuF22Delay_Click"},
+    {"f22setup.exe", "Setup", "ED_mnuF22Setup_Click"},
+    {"f22clear.exe", "f22clear", "ED_mnuF22Clear_Click"},
+    {"f22reset.exe", "F22Reset", "ED_mnuF22Reset_Click"},
+    {"f22dly2.exe", "F22dly2", "ED_mnuF22Delay_Click"},
 };
 
 /// Whether the Control Centre is known; the user is told where it is not.
 bool IsControlCentreKnown(Application& application, const std::string& text) {
   if (!application.settings.CandCCPath.Get().empty()) return true;
-  application.platform.dialogs.Show(Information(kWhereIsIt, text));
+  application.platform.dialogs.Show({"Where is it?", text, BoxIcon::Information, BoxButtons::Ok});
   return false;
 }
 
@@ -67,35 +74,35 @@ void ChangeToRootOf(Application& application, const std::string& path, const Tra
   trap(files.ChangeFolder(drive + "\\"));
 }
 
-std::string LoaderCommandLine(Application& application, const std::string& file) {
-  const Editor& editor = *application.editor();
-  const bool quiet = editor.menus("mnuAppsQuiet").Checked;
-  return application.settings.B50LoadPath.Get() + " " + file + (quiet ? " Q" : "");
+std::string PrepareLoader(Application& application, const std::string& file, const Trap& trap) {
+  const std::string& loader = application.settings.B50LoadPath.Get();
+  ChangeToRootOf(application, loader, trap);
+  trap(application.platform.files.ChangeFolder(FolderOfControlCentre(application.settings)));
+  const bool quiet = application.editor()->menus("mnuAppsQuiet").Checked;
+  return loader + " " + file + (quiet ? " Q" : "");
 }
 
 void SendToJoystick(Application& application) {
-  const Trap trap{application.errors, "EDITOR mnuSendToJoystick_Click"};
+  const Trap trap{application.errors, "ED_mnuSendToJoystick_Click"};
   Editor& editor = *application.editor();
   const Document& joystick = editor.Joystick;
   if (joystick.text.Characters().empty()) {
-    application.platform.dialogs.Show(Information("Nothing to transfer ...", kNothingToSend));
+    application.platform.dialogs.Show(
+        {"Nothing to transfer ...", kNothingToSend, BoxIcon::Information, BoxButtons::Ok});
     return;
   }
   if (joystick.Dirty == saved::kModified) editor.mnuFileSave_Click();
   if (joystick.Dirty == saved::kModified && !MaySendAsSaved(application)) return;
-  const std::string loader = application.settings.B50LoadPath;
-  ChangeToRootOf(application, loader, trap);
-  trap(application.platform.files.ChangeFolder(FolderOfControlCentre(application.settings)));
-  application.mum().WindowState = 1;
-  constexpr int kNoLimit = -1;
-  ShellAndWait(application, LoaderCommandLine(application, joystick.Path), 6, kNoLimit);
-  application.mum().WindowState = 0;
-  editor.SetFocus();
+  const std::string commandLine = PrepareLoader(application, joystick.Path, trap);
+  application.mum().WindowState = kMinimised;
+  ShellAndWait(application, commandLine, kMinimisedWithoutFocus, kNoLimit);
+  application.mum().WindowState = kNormal;
+  editor.ActiveDocument().text.SetFocus();
 }
 
 void StartControlCentre(Application& application) {
   if (!IsControlCentreKnown(application, kNoControlCentre)) return;
-  const Trap trap{application.errors, "EDITOR mnuAppsCandCC_Click"};
+  const Trap trap{application.errors, "ED_mnuAppsCandCC_Click"};
   const std::string path = application.settings.CandCCPath;
   ChangeToControlCentre(application, path, trap);
   trap(Shell(application, path, WindowStyle::Normal));
@@ -103,7 +110,7 @@ void StartControlCentre(Application& application) {
 
 void StartTMScope(Application& application) {
   if (!IsControlCentreKnown(application, kNoControlCentre)) return;
-  const Trap trap{application.errors, "EDITOR mnuAppsTMScope_Click"};
+  const Trap trap{application.errors, "ED_mnuAppsTMScope_Click"};
   const std::string path = application.settings.CandCCPath;
   const std::string folder = FolderOfControlCentre(application.settings);
   ChangeToControlCentre(application, path, trap);
@@ -123,13 +130,8 @@ void StartTMScope(Application& application) {
 
 void StartF22Utility(Application& application, F22Utility utility) {
   const F22Row& row = kF22Utilities[static_cast<int>(utility)];
-  if (!IsControlCentreKnown(application, kNoControlCentre + std::string(", as the ") + row.nameInText +
-                                             " program is in this path and I really do need to know where "
-                                             "to find it. I could be really intelligent here and go and find "
-                                             "the file myself, but let's face facts, I'm just a humble lazy "
-                                             "computer, and I'd rather be on a beach somewhere than running "
-                                             "this Tarvik rubbish."))
-    return;
+  const std::string text = std::string(kNoControlCentre) + ", as the " + row.nameInText + kWhyPath;
+  if (!IsControlCentreKnown(application, text)) return;
   const Trap trap{application.errors, row.tag};
   ChangeToControlCentre(application, application.settings.CandCCPath, trap);
   trap(Shell(application, FolderOfControlCentre(application.settings) + row.program, WindowStyle::Normal));
