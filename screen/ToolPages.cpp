@@ -7,6 +7,7 @@
 
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
+#include "hardware/ProgramWait.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
@@ -217,6 +218,15 @@ QLayout* Page(JoyPlot& form, const FormLayout& in) {
   return page;
 }
 
+QLayout* Page(ProgramWait& form, const FormLayout& in) {
+  constexpr int kWidth = 380;
+  auto* const text = static_cast<QLabel*>(in.Show(form.Label1));
+  text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  text->setMinimumWidth(kWidth);
+  return Column({text, Stretch(), Row({Stretch(), in.Show(form.Command1)})});
+}
+
 template <class F>
 ToolWindow::MakePage PageFor(Form& form) {
   auto* const own = dynamic_cast<F*>(&form);
@@ -227,9 +237,9 @@ ToolWindow::MakePage PageFor(Form& form) {
 }  // namespace
 
 ToolWindow::MakePage PageOf(Form& form) {
-  for (const auto& find :
-       {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Preferences>, PageFor<Title>, PageFor<Heading>,
-        PageFor<SingleTextForm>, PageFor<RAWform>, PageFor<KeyTestForm>, PageFor<JoyPlot>}) {
+  for (const auto& find : {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Preferences>,
+                           PageFor<Title>, PageFor<Heading>, PageFor<SingleTextForm>, PageFor<RAWform>,
+                           PageFor<KeyTestForm>, PageFor<JoyPlot>, PageFor<ProgramWait>}) {
     if (auto page = find(form)) return page;
   }
   return {};

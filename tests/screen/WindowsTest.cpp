@@ -15,6 +15,7 @@
 #include "composer/InsertOptions.h"
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
+#include "hardware/ProgramWait.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "output/TextBlocks.h"
@@ -32,7 +33,8 @@ class Windows : public testing::Test {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
-    ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot>();
+    ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
+              ProgramWait>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();

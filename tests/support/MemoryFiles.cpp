@@ -139,4 +139,10 @@ Outcome<> MemoryFiles::ChangeDrive(std::string_view path) {
   return Done{};
 }
 
+Outcome<> MemoryFiles::ChangeFolder(std::string_view path) {
+  if (!FolderExists(path)) return PathNotFound();
+  current_.SetFolder(*current_.Complete(path));
+  return Done{};
+}
+
 }  // namespace tarvik
