@@ -10,12 +10,13 @@ namespace tarvik {
 class FileCommands {
  public:
   FileCommands(Desk& desk, ColouredCopies& copies, Highlighter& highlighter, MacroLists& lists,
-               std::function<void()> showMacroFrame)
+               std::function<void()> showMacroFrame, std::function<void(const Document&)> remember)
       : desk_(desk),
         copies_(copies),
         highlighter_(highlighter),
         lists_(lists),
-        showMacroFrame_(std::move(showMacroFrame)) {}
+        showMacroFrame_(std::move(showMacroFrame)),
+        remember_(std::move(remember)) {}
 
   /// Name, path and tab of a file that has none yet.
   void NameUntitled(Document& document);
@@ -73,8 +74,9 @@ class FileCommands {
   Highlighter& highlighter_;
   MacroLists& lists_;
   std::function<void()> showMacroFrame_;
-  File toOpen_;               // without a dialog, when it has a path
-  std::string lastFileName_;  // what the file dialog shows next
+  std::function<void(const Document&)> remember_;  // after a file was opened or saved
+  File toOpen_;                                    // without a dialog, when it has a path
+  std::string lastFileName_;                       // what the file dialog shows next
 };
 
 }  // namespace tarvik

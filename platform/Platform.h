@@ -45,6 +45,8 @@ class Dialogs {
   virtual Answer Show(const MessageBox& box) = 0;
   /// The chosen path in the program's form, or failure 32755 when the user cancels.
   virtual Outcome<std::string> AskForFile(const FileRequest& request) = 0;
+  /// The same for a folder; `folder` is where the dialog begins.
+  virtual Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) = 0;
   /// Lets the user go on working, one event after another, while `open` says so: what a modal form waits in.
   virtual void WaitWhile(const std::function<bool()>& open) = 0;
 };

@@ -1,6 +1,7 @@
 // The message boxes and file dialogs that the user sees.
 #pragma once
 
+#include <QFileDialog>
 #include <QString>
 #include <QStringList>
 
@@ -15,11 +16,15 @@ class QtDialogs : public Dialogs {
 
   Answer Show(const MessageBox& box) override;
   Outcome<std::string> AskForFile(const FileRequest& request) override;
+  Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) override;
   void WaitWhile(const std::function<bool()>& open) override;
 
  private:
   /// The folder asked for, else the one of the last choice, else the user's own.
   [[nodiscard]] QString StartFolder(const std::string& folder) const;
+
+  /// With the user's own folder and drive c at its side, and what was chosen in it.
+  Outcome<std::string> Run(QFileDialog& dialog);
 
   Drives& drives_;
   QString lastFolder_;

@@ -17,6 +17,9 @@ class ScriptedDialogs : public Dialogs {
  public:
   Answer Show(const MessageBox& box) override;
   Outcome<std::string> AskForFile(const FileRequest& request) override;
+  Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) override {
+    return AskForFile({FileDialogKind::Open, title, {}, folder, {}, {}});
+  }
   void WaitWhile(const std::function<bool()>& open) override;
 
   std::deque<Answer> answers;       ///< for the next boxes; OK where there is none, or No, or Cancel
