@@ -17,7 +17,7 @@ class Mum;
 class Editor;
 
 /// The tools that end with the frame.
-inline constexpr const char* kToolsOfMum[] = {"ColourSelector", "KeyTestForm"};
+inline constexpr const char* kToolsOfMum[] = {"ColourSelector", "KeyTestForm", "ProgramWait"};
 
 class Application {
  public:

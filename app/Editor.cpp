@@ -4,6 +4,7 @@
 
 #include "app/EditorTables.h"
 #include "composer/InsertOptions.h"
+#include "hardware/Download.h"
 #include "hardware/Games.h"
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
@@ -435,6 +436,19 @@ void Editor::mnuSendToKeyTest_Click() {
 }
 
 void Editor::mnuAppsJoyAnalyser_Click() { application_.Tool<JoyPlot>().PicJoy.SetFocus(); }
+
+void Editor::mnuAppsTMScope_Click() { StartTMScope(application_); }
+void Editor::mnuAppsCandCC_Click() { StartControlCentre(application_); }
+void Editor::mnuF22Setup_Click() { StartF22Utility(application_, F22Utility::Setup); }
+void Editor::mnuF22Clear_Click() { StartF22Utility(application_, F22Utility::Clear); }
+void Editor::mnuF22Reset_Click() { StartF22Utility(application_, F22Utility::Reset); }
+void Editor::mnuF22Delay_Click() { StartF22Utility(application_, F22Utility::Delay); }
+void Editor::mnuSendToJoystick_Click() { SendToJoystick(application_); }
+
+void Editor::mnuAppsQuiet_Click() {
+  MenuItem& quiet = menus("mnuAppsQuiet");
+  quiet.Checked = !quiet.Checked;
+}
 
 void Editor::mnuHelpContents_Click() {
   constexpr int kContents = 1000;

@@ -182,6 +182,14 @@ class Editor : public Form {
   // Apps.
   void mnuSendToKeyTest_Click();
   void mnuAppsJoyAnalyser_Click();
+  void mnuAppsTMScope_Click();
+  void mnuAppsCandCC_Click();
+  void mnuF22Setup_Click();
+  void mnuF22Clear_Click();
+  void mnuF22Reset_Click();
+  void mnuF22Delay_Click();
+  void mnuSendToJoystick_Click();
+  void mnuAppsQuiet_Click();
 
   // Help.
   void mnuHelpContents_Click();

@@ -1,6 +1,10 @@
 #include "hardware/Games.h"
 
+#include <functional>
+
 #include "app/Editor.h"
+#include "hardware/Download.h"
+#include "hardware/Shell32.h"
 
 namespace tarvik {
 namespace {
@@ -16,6 +20,83 @@ constexpr const char* kAboutFolder =
     "The working directory is usually the directory the game's exe file is in. You can get this information "
     "by right clicking on the shortcut to the game and selecting properties. Copy the string from Start in "
     "to this text box.";
+
+constexpr const char* kNotFound =
+    "I don't think you've setup everything for this game properly. I couldn't find one of your files - this "
+    "usually occurs becuase the path to the game isn't correct. Please go back and check it. No, don't look "
+    "at me like that. I'm just a computer ... I'm stupid ...I only do what I'm told to do ... and then "
+    "that's "
+    "not always !! :) ";
+constexpr const char* kNotRun =
+    "Sorry, but I couldn't run your game .... please check how you've setup Tarvik to run this game ... "
+    "there "
+    "may be an error there";
+
+constexpr int kMinimisedWithoutFocus = 6;  // without effect
+constexpr int kNoLimit = -1;
+
+using Step = std::function<Outcome<>()>;
+
+/// One after another, until one fails.
+Outcome<> InOrder(std::initializer_list<Step> steps) {
+  for (const Step& step : steps) {
+    if (auto done = step(); !done) return done;
+  }
+  return Done{};
+}
+
+/// Sends the game's joystick file to the stick, and waits until it is there. What the loader says of itself
+/// is not asked.
+Outcome<> Transfer(Application& application) {
+  Files& files = application.platform.files;
+  const std::string drive = application.settings.B50LoadPath.Get().substr(0, 1) + ":";
+  return InOrder({
+      [&] { return files.ChangeDrive(drive); },
+      [&] { return files.ChangeFolder(drive + "\\"); },
+      [&] { return files.ChangeFolder(FolderOfControlCentre(application.settings)); },
+      [&]() -> Outcome<> {
+        const std::string commandLine = LoaderCommandLine(application, application.lists.GameJF);
+        application.mum().Visible = false;
+        ShellAndWait(application, commandLine, kMinimisedWithoutFocus, kNoLimit);
+        return Done{};
+      },
+  });
+}
+
+/// Starts the game of the record in hand.
+Outcome<> Run(Application& application) {
+  Files& files = application.platform.files;
+  const PreviousFiles& lists = application.lists;
+  return InOrder({
+      [&] { return lists.GameUseJF.Get() == "1" ? Transfer(application) : Done{}; },
+      [&] { return files.ChangeDrive(lists.GameDIRPath.Get()); },
+      [&] { return files.ChangeFolder(lists.GameDIRPath.Get()); },
+      [&] { return Shell(application, lists.GamePath, WindowStyle::Normal); },
+  });
+}
+
+/// Saves each document that is modified, and takes it for saved whatever came of that, so that nothing is
+/// asked at the end of the program. When it does not end, what is not saved is not to be lost.
+class FilesForTheEnd {
+ public:
+  explicit FilesForTheEnd(Editor& editor) {
+    for (Document* const document : {&editor.Joystick, &editor.Macro}) {
+      if (document->Dirty != saved::kModified) continue;
+      editor.TabStrip1.Select(document->traits.tab);
+      editor.mnuFileSave_Click();
+    }
+    for (Document* const document : {&editor.Joystick, &editor.Macro}) {
+      before_.emplace_back(document, document->Dirty);
+      document->Dirty = saved::kSaved;
+    }
+  }
+  void GoOn() const {
+    for (const auto& [document, dirty] : before_) document->Dirty = dirty;
+  }
+
+ private:
+  std::vector<std::pair<Document*, int>> before_;
+};
 
 }  // namespace
 
@@ -112,6 +193,22 @@ void AddGame(Application& application) {
   if (lists.GameDialogOK == 1) lists.UpdateGamesMenu();
 }
 
-void StartGame(Application&, int) {}
+void StartGame(Application& application, int index) {
+  PreviousFiles& lists = application.lists;
+  const FilesForTheEnd files(*application.editor());
+  lists.Games.Take(index);
+  lists.UpdateGamesMenu();
+  const Outcome<> run = Run(application);
+  if (application.Ended()) return;
+  if (run) {
+    application.CloseMum();
+    return;
+  }
+  files.GoOn();
+  Trap{application.errors, "ED_mnuGameArray_Click"}(run);
+  const bool notFound = run.failure().text.find("found") != std::string::npos;
+  application.platform.dialogs.Show(
+      {"Ooopps ! I'm confused buddy!", notFound ? kNotFound : kNotRun, BoxIcon::Exclamation, BoxButtons::Ok});
+}
 
 }  // namespace tarvik

@@ -1,5 +1,7 @@
 #include "lists/CustomApps.h"
 
+#include "hardware/Download.h"
+#include "hardware/Shell32.h"
 #include "platform/CodePage.h"
 
 namespace tarvik {
@@ -28,7 +30,12 @@ constexpr Guard kGuards[] = {
 
 }  // namespace
 
-void RunCustomApp(Application&, int) {}
+void RunCustomApp(Application& application, int index) {
+  const Trap trap{application.errors, "ED_mnuCustomApp_Click"};
+  const std::string& path = application.lists.CustomApps[static_cast<std::size_t>(index - 1)].path;
+  ChangeToRootOf(application, path, trap);
+  trap(Shell(application, path, WindowStyle::Normal));
+}
 
 std::string CustomAppPathUse(Dialogs& dialogs, const std::string& path) {
   for (const Guard& guard : kGuards) {

@@ -36,6 +36,8 @@ class Files {
 
   /// Makes the drive of `path` the current one. Fails for a drive that is not there.
   virtual Outcome<> ChangeDrive(std::string_view path) = 0;
+  /// Makes `path` the current folder of its drive; the current drive stays. Fails for what is no folder.
+  virtual Outcome<> ChangeFolder(std::string_view path) = 0;
 };
 
 }  // namespace tarvik

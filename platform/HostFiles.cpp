@@ -281,4 +281,6 @@ Outcome<> HostFiles::MakeFolder(std::string_view path) {
 
 Outcome<> HostFiles::ChangeDrive(std::string_view path) { return drives_.ChangeDrive(path); }
 
+Outcome<> HostFiles::ChangeFolder(std::string_view path) { return drives_.ChangeFolder(path); }
+
 }  // namespace tarvik

@@ -28,6 +28,7 @@ class HostFiles : public Files {
 
   Outcome<> MakeFolder(std::string_view path) override;
   Outcome<> ChangeDrive(std::string_view path) override;
+  Outcome<> ChangeFolder(std::string_view path) override;
 
  private:
   Drives& drives_;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/Files.h"
@@ -10,6 +11,7 @@
 #include "platform/Keyboard.h"
 #include "platform/Outcome.h"
 #include "platform/Printer.h"
+#include "platform/Programs.h"
 
 namespace tarvik {
 
@@ -23,6 +25,7 @@ struct MessageBox {
   std::string text;
   BoxIcon icon = BoxIcon::None;
   BoxButtons buttons = BoxButtons::Ok;
+  std::optional<Answer> preset{};  ///< what the Enter key gives; the first button where nothing is said
 };
 
 enum class FileDialogKind { Open, Save };
@@ -117,6 +120,7 @@ struct Platform {
   Desktop& desktop;
   Joystick& joystick;
   Keyboard& keyboard;
+  Programs& programs;
   ScreenSize screen;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string

@@ -64,7 +64,7 @@ Answer QtDialogs::Show(const MessageBox& box) {
   QMessageBox window(kIcons[static_cast<int>(box.icon)], ToScreen(box.title), ToScreen(box.text), row.buttons,
                      QApplication::activeWindow());
   window.setTextFormat(Qt::PlainText);
-  window.setDefaultButton(row.entered);
+  window.setDefaultButton(box.preset == Answer::No ? QMessageBox::No : row.entered);
   window.setEscapeButton(row.closed);
   return ToAnswer(window.exec());
 }

@@ -8,6 +8,7 @@
 #include "hardware/Games.h"
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
+#include "hardware/ProgramWait.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "lists/Favourites.h"
@@ -219,6 +220,10 @@ QLayout* Page(JoyPlot& form, const FormLayout& in) {
   return page;
 }
 
+QLayout* Page(ProgramWait& form, const FormLayout& in) {
+  return Column({in.Show(form.Label1), Row({Stretch(), in.Show(form.Command1)})});
+}
+
 /// A path, cut in its middle where it is long; the tool tip has all of it.
 QWidget* PathOf(Label& label, const FormLayout& in) {
   constexpr int kWidth = 360;
@@ -281,7 +286,7 @@ ToolWindow::MakePage PageFor(Form& form) {
 ToolWindow::MakePage PageOf(Form& form) {
   for (const auto& find : {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Title>, PageFor<Heading>,
                            PageFor<SingleTextForm>, PageFor<RAWform>, PageFor<KeyTestForm>, PageFor<JoyPlot>,
-                           PageFor<EnterFavouritename>, PageFor<EnterGameName>}) {
+                           PageFor<ProgramWait>, PageFor<EnterFavouritename>, PageFor<EnterGameName>}) {
     if (auto page = find(form)) return page;
   }
   return {};

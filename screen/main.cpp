@@ -9,6 +9,7 @@
 #include "app/Application.h"
 #include "platform/CodePage.h"
 #include "platform/HostFiles.h"
+#include "platform/HostPrograms.h"
 #include "platform/InstanceLock.h"
 #include "platform/ProfileFile.h"
 #include "screen/Icons.h"
@@ -87,6 +88,7 @@ int main(int argc, char* argv[]) {
   screen::QtDesktop desktop(drives);
   screen::SdlJoystick joystick;
   screen::QtKeyboard keyboard;
+  HostPrograms programs(drives);
   Platform platform{files,
                     dialogs,
                     lock,
@@ -97,6 +99,7 @@ int main(int argc, char* argv[]) {
                     desktop,
                     joystick,
                     keyboard,
+                    programs,
                     SizeOfScreen(),
                     drives.FromHost(home),
                     CommandLine(QApplication::arguments().mid(1), drives)};

@@ -80,6 +80,8 @@ std::vector<std::string> Runner::Run(std::string_view script) {
   }
   for (const MessageBox& box : outside_.dialogs.boxes)
     Fail("an unexpected box: \"" + box.title + "\" \"" + box.text + "\"");
+  for (const ProgramStart& run : outside_.programs.started) Fail("an unexpected program: " + run.commandLine);
+  if (outside_.programs.alive) Fail("a program that is waited for outlives the session");
   if (!outside_.dialogs.answers.empty()) Fail("an answer that no box took");
   return failures_;
 }
@@ -111,6 +113,7 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
       {"printer", &Runner::SetPrinter},
       {"joystick", &Runner::SetJoystick},
       {"lock", &Runner::SetLock},
+      {"program", &Runner::SetProgram},
       {"start", &Runner::Start},
       {"close", &Runner::Close},
       {"killed", &Runner::Killed},
@@ -139,17 +142,29 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
 
 const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
   static const std::map<std::string_view, Command> expectations = {
-      {"value", &Runner::ExpectValue},         {"box", &Runner::ExpectBox},
-      {"dialog", &Runner::ExpectDialog},       {"file", &Runner::ExpectFile},
-      {"bytes", &Runner::ExpectBytes},         {"no", &Runner::ExpectNo},
-      {"folder", &Runner::ExpectFolder},       {"ini", &Runner::ExpectIni},
-      {"colour", &Runner::ExpectColour},       {"colours", &Runner::ExpectColours},
-      {"ended", &Runner::ExpectEnded},         {"running", &Runner::ExpectRunning},
-      {"same", &Runner::ExpectSame},           {"printed", &Runner::ExpectPrinted},
-      {"clipboard", &Runner::ExpectClipboard}, {"help", &Runner::ExpectHelp},
-      {"opened", &Runner::ExpectOpened},       {"popup", &Runner::ExpectPopUp},
-      {"focus", &Runner::ExpectFocus},         {"form", &Runner::ExpectForm},
-      {"point", &Runner::ExpectPoint},         {"lock", &Runner::ExpectLock},
+      {"value", &Runner::ExpectValue},
+      {"box", &Runner::ExpectBox},
+      {"dialog", &Runner::ExpectDialog},
+      {"file", &Runner::ExpectFile},
+      {"bytes", &Runner::ExpectBytes},
+      {"no", &Runner::ExpectNo},
+      {"folder", &Runner::ExpectFolder},
+      {"ini", &Runner::ExpectIni},
+      {"colour", &Runner::ExpectColour},
+      {"colours", &Runner::ExpectColours},
+      {"ended", &Runner::ExpectEnded},
+      {"running", &Runner::ExpectRunning},
+      {"same", &Runner::ExpectSame},
+      {"printed", &Runner::ExpectPrinted},
+      {"clipboard", &Runner::ExpectClipboard},
+      {"help", &Runner::ExpectHelp},
+      {"opened", &Runner::ExpectOpened},
+      {"popup", &Runner::ExpectPopUp},
+      {"focus", &Runner::ExpectFocus},
+      {"form", &Runner::ExpectForm},
+      {"point", &Runner::ExpectPoint},
+      {"lock", &Runner::ExpectLock},
+      {"run", &Runner::ExpectRun},
   };
   return expectations;
 }
@@ -313,6 +328,20 @@ void Runner::SetLock(const Line& line) {
   const int code = Word(line, 1) == "caps" ? kCapsLock : kNumLock;
   outside_.keyboard.locks.erase(code);
   if (Word(line, 2) != "unknown") outside_.keyboard.locks[code] = std::stoi(line.words[2]);
+}
+
+/// program runs: the next one that is waited for does not end by itself; ends|abandoned: what becomes of it;
+/// fails NUMBER: the next one does not start.
+void Runner::SetProgram(const Line& line) {
+  const std::map<std::string, ProgramState> states = {
+      {"runs", ProgramState::Running}, {"ends", ProgramState::Ended}, {"abandoned", ProgramState::Abandoned}};
+  ScriptedPrograms& programs = outside_.programs;
+  const auto state = states.find(Word(line, 1));
+  if (state != states.end()) {
+    programs.state = state->second;
+  } else {
+    programs.fails = std::stoi(Word(line, 2));
+  }
 }
 
 // The process.
@@ -524,6 +553,19 @@ void Runner::ExpectOpened(const Line& line) {
   outside_.desktop.opened.pop_front();
 }
 
+/// expect run "COMMAND LINE" [FOLDER [waited|normal|maximised]], in the order in which they were started
+void Runner::ExpectRun(const Line& line) {
+  if (outside_.programs.started.empty()) throw Stop{"nothing was started"};
+  const ProgramStart run = outside_.programs.started.front();
+  outside_.programs.started.pop_front();
+  const std::string how = run.style == WindowStyle::Maximised ? "maximised"
+                          : run.waited                        ? "waited"
+                                                              : "normal";
+  Compare(Word(line, 2), run.commandLine);
+  if (line.words.size() > 3) Compare(line.words[3], run.folder);
+  if (line.words.size() > 4) Compare(line.words[4], how);
+}
+
 /// expect popup NAME: the pop-up menu that came last
 void Runner::ExpectPopUp(const Line& line) { Compare(Word(line, 2), popUp_); }
 
@@ -567,7 +609,7 @@ void Runner::ExpectValue(const Line& line) {
   Compare(Wanted(line, 3), property->ToText());
 }
 
-/// expect box TITLE [TEXT [none|information|question|exclamation]]
+/// expect box TITLE [TEXT [none|information|question|exclamation [No]]]: No is the button that Enter presses
 void Runner::ExpectBox(const Line& line) {
   constexpr const char* kIcons[] = {"none", "information", "question", "exclamation"};
   if (outside_.dialogs.boxes.empty()) throw Stop{"there was no box"};
@@ -576,6 +618,7 @@ void Runner::ExpectBox(const Line& line) {
   Compare(Word(line, 2), box.title);
   if (line.words.size() > 3) Compare(line.words[3], box.text);
   if (line.words.size() > 4) Compare(line.words[4], kIcons[static_cast<int>(box.icon)]);
+  if (line.words.size() > 5) Compare(line.words[5], box.preset == Answer::No ? "No" : "");
 }
 
 /// expect dialog title|filter|folder|fileName TEXT, of the last file dialog

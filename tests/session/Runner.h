@@ -48,6 +48,7 @@ class Runner {
   void SetPrinter(const Line& line);
   void SetJoystick(const Line& line);
   void SetLock(const Line& line);
+  void SetProgram(const Line& line);
   // The process.
   void Start(const Line& line);
   void Close(const Line& line);
@@ -86,6 +87,7 @@ class Runner {
   void ExpectPopUp(const Line& line);
   void ExpectPoint(const Line& line);
   void ExpectLock(const Line& line);
+  void ExpectRun(const Line& line);
   void ExpectFocus(const Line& line);
   void ExpectForm(const Line& line);
   void ExpectPrinted(const Line& line);

@@ -90,7 +90,8 @@ std::vector<std::string> MemoryFiles::FilesIn(std::string_view folder, std::stri
   const std::string inside = whole ? whole->Text() + "\\" : "";
   for (const auto& [path, entry] : entries_) {
     const std::string name = path.starts_with(inside) ? path.substr(inside.size()) : "";
-    if (!entry.isFolder && name.find('\\') == std::string::npos && name.ends_with(ending)) names.push_back(name);
+    if (!entry.isFolder && name.find('\\') == std::string::npos && name.ends_with(ending))
+      names.push_back(name);
   }
   return names;
 }
@@ -135,6 +136,12 @@ Outcome<> MemoryFiles::ChangeDrive(std::string_view path) {
   const auto whole = current_.Complete(path);
   if (!whole || !FolderExists(LogicalPath{.drive = whole->drive}.Text())) return PathNotFound();
   current_.SetDrive(whole->drive);
+  return Done{};
+}
+
+Outcome<> MemoryFiles::ChangeFolder(std::string_view path) {
+  if (!FolderExists(path)) return PathNotFound();
+  current_.SetFolder(*current_.Complete(path));
   return Done{};
 }
 

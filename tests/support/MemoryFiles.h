@@ -37,6 +37,8 @@ class MemoryFiles : public Files {
   /// All files, sorted.
   [[nodiscard]] std::vector<std::string> List() const;
   [[nodiscard]] char currentDrive() const { return current_.drive(); }
+  /// Of the current drive, as "c:\tm"; "c:\" for the root.
+  [[nodiscard]] std::string CurrentFolder() const { return current_.Complete(".")->Text(); }
 
   [[nodiscard]] bool FileExists(std::string_view path) const override;
   [[nodiscard]] bool FolderExists(std::string_view path) const override;
@@ -46,6 +48,7 @@ class MemoryFiles : public Files {
   Outcome<> Write(std::string_view path, std::string_view content) override;
   Outcome<> MakeFolder(std::string_view path) override;
   Outcome<> ChangeDrive(std::string_view path) override;
+  Outcome<> ChangeFolder(std::string_view path) override;
 
  private:
   struct Entry {

@@ -29,4 +29,39 @@ void ScriptedDialogs::WaitWhile(const std::function<bool()>& open) {
   }
 }
 
+namespace {
+
+class ScriptedProgram : public RunningProgram {
+ public:
+  explicit ScriptedProgram(ScriptedPrograms& programs) : programs_(programs) { ++programs_.alive; }
+  ~ScriptedProgram() override {
+    --programs_.alive;
+    programs_.state = ProgramState::Ended;  // and so does the next one
+  }
+  ProgramState State() override { return programs_.state; }
+  void Stop() override { programs_.state = ProgramState::Abandoned; }
+
+ private:
+  ScriptedPrograms& programs_;
+};
+
+}  // namespace
+
+Outcome<> ScriptedPrograms::Record(const ProgramStart& start) {
+  started.push_back(start);
+  if (const int number = std::exchange(fails, 0)) return Failure{number, "The program did not start", 0};
+  return Done{};
+}
+
+Outcome<> ScriptedPrograms::Start(const std::string& commandLine, WindowStyle style) {
+  return Record({commandLine, files ? files->CurrentFolder() : "", style, false});
+}
+
+Outcome<std::unique_ptr<RunningProgram>> ScriptedPrograms::StartToWait(const std::string& commandLine,
+                                                                       WindowStyle style) {
+  const auto recorded = Record({commandLine, files ? files->CurrentFolder() : "", style, true});
+  if (!recorded) return recorded.failure();
+  return std::unique_ptr<RunningProgram>(std::make_unique<ScriptedProgram>(*this));
+}
+
 }  // namespace tarvik::session

@@ -109,6 +109,32 @@ class ScriptedKeyboard : public Keyboard {
   std::map<int, int> locks{{kCapsLock, 0}, {kNumLock, 0}};  ///< what is not there the keyboard does not tell
 };
 
+/// A program that was started, and where.
+struct ProgramStart {
+  std::string commandLine;
+  std::string folder;  ///< the current one, as "c:\tm"
+  WindowStyle style = WindowStyle::Normal;
+  bool waited = false;
+};
+
+/// Programs that end at once, unless the script says otherwise.
+class ScriptedPrograms : public Programs {
+ public:
+  Outcome<> Start(const std::string& commandLine, WindowStyle style) override;
+  Outcome<std::unique_ptr<RunningProgram>> StartToWait(const std::string& commandLine,
+                                                       WindowStyle style) override;
+
+  const MemoryFiles* files = nullptr;  ///< whose current folder they start in
+  std::deque<ProgramStart> started;    ///< and not yet expected
+  /// Of the program that is waited for, or of the next one.
+  ProgramState state = ProgramState::Ended;
+  int fails = 0;  ///< the error number of the next start, or 0
+  int alive = 0;  ///< programs that are waited for
+
+ private:
+  Outcome<> Record(const ProgramStart& start);
+};
+
 /// All of it. The forms of `Process` leave out what the scripted one is good for.
 struct ScriptedPlatform {
   ScriptedDialogs dialogs;
@@ -120,6 +146,7 @@ struct ScriptedPlatform {
   ScriptedDesktop desktop;
   ScriptedJoystick joystick;
   ScriptedKeyboard keyboard;
+  ScriptedPrograms programs;
 
   /// A process on this disk, beside any other.
   [[nodiscard]] Platform Process(Files& files, std::string commandLine = "") {
@@ -127,19 +154,9 @@ struct ScriptedPlatform {
   }
   [[nodiscard]] Platform Process(Files& files, SingleInstance& lock, Printer& paper,
                                  std::string commandLine = "") {
-    return {files,
-            dialogs,
-            lock,
-            clipboard,
-            help,
-            calendar,
-            paper,
-            desktop,
-            joystick,
-            keyboard,
-            {28800, 21600},
-            "c:\\tarvik",
-            std::move(commandLine)};
+    programs.files = dynamic_cast<MemoryFiles*>(&files);
+    return {files,   dialogs,  lock,     clipboard, help,           calendar,     paper,
+            desktop, joystick, keyboard, programs,  {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
   }
 };
 

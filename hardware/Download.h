@@ -1,0 +1,35 @@
+// The joystick's own programs: the loader that sends the joystick file to the hardware, the Control Centre,
+// and the utilities that lie beside it.
+#pragma once
+
+#include <string>
+
+#include "app/Application.h"
+
+namespace tarvik {
+
+/// `CandCCPath` without what follows its last "\"; empty where it has none.
+[[nodiscard]] std::string FolderOfControlCentre(const Settings& settings);
+
+/// Makes the drive of `path` the current one, and then the Control Centre's folder the current folder of its
+/// drive. Nothing puts them back. A change that fails is recorded by the trap.
+void ChangeToControlCentre(Application& application, const std::string& path, const Trap& trap);
+
+/// Makes the drive that `path` begins with the current one, and its root the current folder there.
+void ChangeToRootOf(Application& application, const std::string& path, const Trap& trap);
+
+/// What sends the file: the loader's path, a blank, the file's path as it stands, and " Q" for quiet mode.
+[[nodiscard]] std::string LoaderCommandLine(const Application& application, const std::string& file);
+
+/// Goes to the loader's drive and the Control Centre's folder, and gives what to start.
+[[nodiscard]] std::string PrepareLoader(Application& application, const std::string& file, const Trap& trap);
+
+// The editor's entries.
+void SendToJoystick(Application& application);
+void StartControlCentre(Application& application);
+void StartTMScope(Application& application);
+/// The F22 Pro's own utilities.
+enum class F22Utility { Setup, Clear, Reset, Delay };
+void StartF22Utility(Application& application, F22Utility utility);
+
+}  // namespace tarvik
