@@ -64,9 +64,12 @@ void OpenFavourite(Application& application, int index) {
   Editor& editor = *application.editor();
   PreviousFiles& lists = application.lists;
   lists.Favourites.Take(index);
+  const Files& files = application.platform.files;
+  const bool bothThere = files.FileExists(lists.FavMFPath.Get()) && files.FileExists(lists.FavJFPath.Get());
   editor.OpenFavouriteFile(lists.FavMFPath);
   editor.OpenFavouriteFile(lists.FavJFPath);
-  if (application.settings.CheckIdentifyOK == 1) editor.mnuViewIdentify_Click();
+  // What could not be opened stays told in the status bar.
+  if (bothThere && application.settings.CheckIdentifyOK == 1) editor.mnuViewIdentify_Click();
 }
 
 }  // namespace tarvik

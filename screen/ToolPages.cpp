@@ -264,11 +264,16 @@ QLayout* Page(EnterGameName& form, const FormLayout& in) {
     label->setBuddy(box);
     grid->addWidget(label, row, 0);
     grid->addWidget(box, row, 1);
-    if (field.choose) grid->addWidget(in.Show(*field.choose), row, 2);
-    if (field.help)
-      grid->addWidget(WithIcon(in.Show(*field.help), "help-contents", QStringLiteral("Help: ") + name), row,
-                      3);
+    if (field.choose) {
+      // Two of them have the same caption.
+      const QString said = ToScreen(field.choose->Caption.Get()) + QLatin1String(": ") + name;
+      grid->addWidget(Named(in.Show(*field.choose), said), row, 2);
+    }
+    if (!field.help) continue;
+    QWidget* const help = WithIcon(in.Show(*field.help), "help-contents", QLatin1String("Help: ") + name);
+    grid->addWidget(help, row, 3);
   }
+  grid->setColumnStretch(1, 1);
   return Column({grid, in.Show(form.Check1),
                  new QLabel(QStringLiteral("Note: you can edit these later in Preferences")), Stretch(),
                  Row({Stretch(), in.Show(form.Command3), in.Show(form.Command4)})});

@@ -13,10 +13,12 @@
 #include "app/ColourSelector.h"
 #include "app/Editor.h"
 #include "composer/InsertOptions.h"
+#include "hardware/Games.h"
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
+#include "lists/Favourites.h"
 #include "output/TextBlocks.h"
 #include "screen/HelpWindow.h"
 #include "screen/PlotView.h"
@@ -32,7 +34,8 @@ class Windows : public testing::Test {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
-    ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot>();
+    ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
+              EnterFavouritename, EnterGameName>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();
