@@ -14,15 +14,17 @@ constexpr const char* kAlreadyRunning =
     "with both programs writing to it.";
 
 // The tools that end with the editor, in this order.
-constexpr const char* kToolsOfEditor[] = {"FindAndReplace", "InsertOptions", "Title",   "Heading",
-                                          "SingleTextForm", "RAWform",       "JoyPlot", "Preferences"};
+constexpr const char* kToolsOfEditor[] = {
+    "FindAndReplace", "InsertOptions",      "Heading",       "RAWform",     "Title",
+    "SingleTextForm", "EnterFavouritename", "EnterGameName", "Preferences", "JoyPlot"};
 
 }  // namespace
 
 Application::Application(Platform& services)
     : platform(services),
       profile(services.files, services.folder + "\\Tarvik.ini"),
-      settings(profile, errors) {}
+      settings(profile, errors),
+      lists(settings, errors) {}
 
 Application::~Application() = default;
 
@@ -133,7 +135,7 @@ Form* Application::FindForm(std::string_view name) const {
 }
 
 PropertyBase* Application::FindValue(std::string_view name) const {
-  std::vector<const Component*> places = {&settings, &values, &errors};
+  std::vector<const Component*> places = {&settings, &values, &errors, &lists};
   if (editor_) places.insert(places.end(), {&editor_->Joystick, &editor_->Macro});
   if (mum_) places.push_back(mum_.get());
   for (const Component* place : places) {

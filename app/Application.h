@@ -8,6 +8,7 @@
 #include "app/Settings.h"
 #include "app/Values.h"
 #include "controls/Form.h"
+#include "lists/PreviousFiles.h"
 #include "platform/Platform.h"
 
 namespace tarvik {
@@ -30,6 +31,7 @@ class Application {
   Values values;
   ProfileFile profile;
   Settings settings;
+  PreviousFiles lists;
 
   /// From process start to the work area. False: another instance runs, and this process is to end.
   bool Start();

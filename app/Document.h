@@ -72,6 +72,7 @@ class Document : public Component {
   UndoHistory Undo{*this, traits.undoIndex, traits.undoStart, text};
 
   [[nodiscard]] bool IsJoystick() const { return traits.tab == 1; }
+  [[nodiscard]] bool IsUntitled() const { return Name.Get().starts_with("untitled"); }
 };
 
 }  // namespace tarvik

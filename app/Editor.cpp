@@ -1,12 +1,17 @@
 #include "app/Editor.h"
 
+#include <algorithm>
+
 #include "app/EditorTables.h"
 #include "composer/InsertOptions.h"
 #include "hardware/Download.h"
+#include "hardware/Games.h"
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
+#include "lists/CustomApps.h"
+#include "lists/Favourites.h"
 #include "lists/Preferences.h"
 #include "output/TextBlocks.h"
 
@@ -83,8 +88,10 @@ Editor::Editor(Application& application)
               [this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); }}),
       files_(desk_, copies_, highlighter_, lists_,
              {[this] { layout_.ShowMacroFrame(); },
-              [this] { ShowPreferences(application_, Preferences::kFileLocations); }}),
-      autoSave_(desk_, files_, Timer1) {
+              [this] { ShowPreferences(application_, Preferences::kFileLocations); },
+              [this](const Document& document) { Remember(document); }}),
+      autoSave_(desk_, files_, Timer1),
+      listMenus_(application.lists, menus) {
   SetUpControls();
   SetUpToolbar();
 }
@@ -165,6 +172,11 @@ void Editor::Form_Load() {
     document->Dirty = saved::kNoText;
     files_.ResetHistory(*document);
   }
+  PreviousFiles& lists = application_.lists;
+  lists.GetPreviousFiles();
+  lists.GetFavourites();
+  lists.GetGames();
+  lists.GetCustomApps();
   layout_.Place();
   Visible = true;
   Form_Activate();
@@ -172,7 +184,12 @@ void Editor::Form_Load() {
   JoystickText.SetFocus();
 
   TestCommandLine();
-  if (!values.CommandLine.Get().empty()) OpenPreviouslySavedFiles(values.CommandLine);
+  const int favourite = lists.TakeFavouriteToLoad();
+  if (!values.CommandLine.Get().empty()) {
+    OpenPreviouslySavedFiles(values.CommandLine);
+  } else if (favourite > 0) {
+    mnuFavArray_Click(favourite);
+  }
   values.CommandLine = std::string();  // an editor that is shown again begins with untitled files
   values.LoadingFile = 0;
   Joystick.Caret = 0;
@@ -229,6 +246,16 @@ void Editor::OpenPreviouslySavedFiles(const std::string& path) {
       mnuFileJoystickLoad_Click();
     }
   }
+  files_.OpenWithDialogs();
+}
+
+void Editor::OpenFavouriteFile(const std::string& path) {
+  constexpr std::string_view kMacroEndings[] = {"m22", "mdf", "m50"};
+  if (path.empty()) return;
+  files_.OpenWithoutDialog(path);
+  const bool macro = std::any_of(std::begin(kMacroEndings), std::end(kMacroEndings),
+                                 [&path](std::string_view ending) { return path.ends_with(ending); });
+  files_.Load(macro ? Macro : Joystick);
   files_.OpenWithDialogs();
 }
 
@@ -292,6 +319,42 @@ void Editor::mnuPreferencesProtectMacroFile_Click() {
   popUps("mnuRHMProtect").Checked = protect;
   TabStrip1.Tabs(2).Image = protect ? kProtectedTabImage : kNormalTabImage;
 }
+
+void Editor::Remember(const Document& document) {
+  PreviousFiles& lists = application_.lists;
+  if (document.IsJoystick()) {
+    lists.RecentJFToAdd = document.Path;
+    lists.UpdateRecentJFMenuList();
+  } else {
+    lists.RecentMFToAdd = document.Path;
+    lists.UpdateRecentMFMenuList();
+  }
+}
+
+void Editor::OpenPrevious(std::string_view array, int index) {
+  const std::string path = menus(array, index).Caption;
+  if (application_.platform.files.FileExists(path)) return OpenPreviouslySavedFiles(path);
+  application_.platform.dialogs.Show({"Can't find file",
+                                      "There's a problem here ... I couldn't find " + path +
+                                          " which probably means you've deleted it or moved it. Sorry!",
+                                      BoxIcon::Information, BoxButtons::Ok});
+}
+
+void Editor::mnuPreviousClearAllJ_Click() { application_.lists.ClearAll(application_.lists.JoystickFiles); }
+
+/// Closes the joystick files' menu as well, until the next of them is opened.
+void Editor::mnuPreviousClearAllM_Click() {
+  application_.lists.ClearAll(application_.lists.MacroFiles);
+  menus("mnuFilePrevious").Enabled = false;
+}
+
+// Favourites, games, and the user's own programs.
+
+void Editor::mnuFavouritesAddCurrent_Click() { AddToFavourites(application_); }
+void Editor::mnuFavArray_Click(int index) { OpenFavourite(application_, index); }
+void Editor::mnuGamesAdd_Click() { AddGame(application_); }
+void Editor::mnuGameArray_Click(int index) { StartGame(application_, index); }
+void Editor::mnuCustomApp_Click(int index) { RunCustomApp(application_, index); }
 
 /// The tab that was selected is not selected again.
 void Editor::EmergencySaveFiles() {

@@ -10,6 +10,7 @@
 #include "app/Mum.h"
 #include "app/PaneInput.h"
 #include "language/ColouredInsertion.h"
+#include "lists/ListMenus.h"
 #include "output/PrintRTFWordWrap.h"
 
 namespace tarvik {
@@ -57,6 +58,8 @@ class Editor : public Form {
   void Form_Resize() { layout_.Place(); }
   void TestCommandLine();
   void OpenPreviouslySavedFiles(const std::string& path);
+  /// Opens the one file, as a macro file or a joystick file by its ending; no path, no file.
+  void OpenFavouriteFile(const std::string& path);
   void F22MenusUpdate();
   void HardwareHasChanged();
   void DamnFontWasChanged();
@@ -83,6 +86,10 @@ class Editor : public Form {
   void mnuFilePrinterSetup_Click() { SetUpPrinter(desk_); }
   void mnuRHMPrint_Click() { PrintDocument(desk_, desk_.Active()); }
   void mnuJoyPopUpSingleFile_Click() { mnuJoyPopUpSingleFile.Checked = !mnuJoyPopUpSingleFile.Checked; }
+  void mnuJFArray_Click(int index) { OpenPrevious("mnuJFArray", index); }
+  void mnuMFArray_Click(int index) { OpenPrevious("mnuMFArray", index); }
+  void mnuPreviousClearAllJ_Click();
+  void mnuPreviousClearAllM_Click();
   void mnuFileExit_Click() { application_.CloseMum(); }
   void mnuPreferencesProtectMacroFile_Click();
   void Timer1_Timer() { autoSave_.Minute(); }
@@ -91,6 +98,13 @@ class Editor : public Form {
   void EmergencySaveFiles();
   void JoystickTextChanged() { TextChanged(Joystick); }
   void MacroTextChanged() { TextChanged(Macro); }
+
+  // Favourites, games, and the user's own programs.
+  void mnuFavouritesAddCurrent_Click();
+  void mnuFavArray_Click(int index);
+  void mnuGamesAdd_Click();
+  void mnuGameArray_Click(int index);
+  void mnuCustomApp_Click(int index);
 
   // Undo.
   void mnuEditUndo_Click();
@@ -210,6 +224,8 @@ class Editor : public Form {
   void AttachList(ListBox& list);
   void SetUpToolbar();
   void NewFile(Document& document);
+  void OpenPrevious(std::string_view array, int index);
+  void Remember(const Document& document);
   void FirstTimeFlow();
   void ShowPopUp(std::string_view name);
   void ShowQuickTip(bool show);
@@ -228,6 +244,7 @@ class Editor : public Form {
   PaneInput input_;
   FileCommands files_;
   AutoSave autoSave_;
+  ListMenus listMenus_;
 };
 
 }  // namespace tarvik

@@ -88,8 +88,6 @@ std::string WithEnding(std::string name, std::string_view ending) {
 
 std::size_t NameStart(std::string_view path) { return path.rfind('\\') + 1; }
 
-bool IsUntitled(const Document& document) { return document.Name.Get().starts_with("untitled"); }
-
 std::string Filter(const FileWords& words, const std::string& extension, const char* rest) {
   return std::string(words.kind) + " file (*." + extension + ")|*." + extension + rest;
 }
@@ -213,6 +211,7 @@ void FileCommands::TakeFile(Document& document, const File& file) {
   document.Path = file.path;
   document.Name = file.name;
   desk_.TabOf(document).Caption = document.Name;
+  hooks_.remember(document);
 }
 
 /// The coloured copy when it is true to the file, else the file itself, coloured. A file that went bad since
@@ -406,7 +405,7 @@ void FileCommands::TellUnrecognised() {
 // Save.
 
 void FileCommands::Save(Document& document) {
-  if (IsUntitled(document)) {
+  if (document.IsUntitled()) {
     SaveAs(document);
   } else {
     SaveText(document);
@@ -445,7 +444,7 @@ void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   const Trap trap{desk_.errors, tag};
   const Scratch scratch(desk_.scratch);
   scratch->SetContent(RichText(std::string(document.text.Characters())));
-  trap(scratch->SaveFile(document.Path.Get(), FileFormat::Text));
+  if (trap(scratch->SaveFile(document.Path.Get(), FileFormat::Text))) hooks_.remember(document);
   if (desk_.settings.CreateBackup == 1) {
     trap(scratch->SaveFile(desk_.values.BackupDir.Get() + desk_.TabOf(document).Caption.Get(),
                            FileFormat::Text));

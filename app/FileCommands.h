@@ -11,6 +11,7 @@ namespace tarvik {
 struct FileHooks {
   std::function<void()> showMacroFrame;
   std::function<void()> showPreferences;
+  std::function<void(const Document&)> remember;  ///< after a file was opened or saved
 };
 
 class FileCommands {

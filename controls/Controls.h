@@ -85,6 +85,8 @@ class MenuItem : public Component {
   Property<bool> Enabled{*this, "Enabled", true};
   Property<bool> Visible{*this, "Visible", true};
   Event<> Click{*this, "Click"};
+  /// The caption is a user's own text: an "&" in it marks no letter, and a lone "-" is no divider.
+  bool isUsersText = false;
 
   static constexpr std::string_view kDivider = "-";
 };

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <cassert>
-#include <deque>
+#include <list>
 #include <span>
 
 #include "controls/Controls.h"
@@ -25,6 +25,7 @@ struct MenuRow {
 struct MenuEntry {
   int level;
   MenuItem* item;
+  std::function<void(int)> choose;  ///< of a member of a menu array
 };
 
 class Menus {
@@ -40,12 +41,16 @@ class Menus {
       item.Visible = row.caption[0] != '\0';
       item.Enabled = row.level == 0 || CanDoSomething(rows, i);
       if (row.handler) item.Click = [&form, handler = row.handler] { (form.*handler)(); };
-      if (row.indexedHandler) {
-        item.Click = [&form, handler = row.indexedHandler, at = row.index] { (form.*handler)(at); };
-      }
-      entries_.push_back({row.level, &item});
+      MenuEntry& entry = entries_.emplace_back(MenuEntry{row.level, &item, {}});
+      if (!row.indexedHandler) continue;
+      entry.choose = [&form, handler = row.indexedHandler](int at) { (form.*handler)(at); };
+      item.Click = [choose = entry.choose, at = row.index] { choose(at); };
     }
   }
+
+  /// Loads or unloads members of an array whose member 0 is hidden, so that it has one for each caption,
+  /// counted from 1, and shows them. The captions are users' texts.
+  void Fill(std::string_view array, const std::vector<std::string>& captions);
 
   /// In the order of the table.
   [[nodiscard]] std::span<const MenuEntry> Entries() const { return entries_; }
@@ -64,7 +69,17 @@ class Menus {
     return nullptr;
   }
 
+  /// For whatever shows the menus: the entry that the new one stands behind, and the new one.
+  Signal<MenuItem&, MenuItem&> Loaded;
+  Signal<MenuItem&> Unloading;
+
  private:
+  [[nodiscard]] bool IsMember(std::size_t at, std::string_view array) const {
+    return at < entries_.size() && entries_[at].item->Name() == array;
+  }
+  void LoadBehind(std::size_t at);
+  void Unload(std::size_t at);
+
   /// Whether the row has a handler, or one of the rows below it.
   template <class F, std::size_t N>
   static bool CanDoSomething(const MenuRow<F> (&rows)[N], std::size_t row) {
@@ -76,7 +91,7 @@ class Menus {
     return false;
   }
 
-  std::deque<MenuItem> items_;
+  std::list<MenuItem> items_;
   std::vector<MenuEntry> entries_;
 };
 

@@ -74,12 +74,15 @@ void ChangeToRootOf(Application& application, const std::string& path, const Tra
   trap(files.ChangeFolder(drive + "\\"));
 }
 
-std::string PrepareLoader(Application& application, const std::string& file, const Trap& trap) {
-  const std::string& loader = application.settings.B50LoadPath.Get();
-  ChangeToRootOf(application, loader, trap);
-  trap(application.platform.files.ChangeFolder(FolderOfControlCentre(application.settings)));
+std::string LoaderCommandLine(const Application& application, const std::string& file) {
   const bool quiet = application.editor()->menus("mnuAppsQuiet").Checked;
-  return loader + " " + file + (quiet ? " Q" : "");
+  return application.settings.B50LoadPath.Get() + " " + file + (quiet ? " Q" : "");
+}
+
+std::string PrepareLoader(Application& application, const std::string& file, const Trap& trap) {
+  ChangeToRootOf(application, application.settings.B50LoadPath, trap);
+  trap(application.platform.files.ChangeFolder(FolderOfControlCentre(application.settings)));
+  return LoaderCommandLine(application, file);
 }
 
 void SendToJoystick(Application& application) {

@@ -18,8 +18,10 @@ void ChangeToControlCentre(Application& application, const std::string& path, co
 /// Makes the drive that `path` begins with the current one, and its root the current folder there.
 void ChangeToRootOf(Application& application, const std::string& path, const Trap& trap);
 
-/// Goes to the loader's drive and the Control Centre's folder, and gives what to start: the loader's path, a
-/// blank, the file's path as it stands, and " Q" for quiet mode.
+/// What sends the file: the loader's path, a blank, the file's path as it stands, and " Q" for quiet mode.
+[[nodiscard]] std::string LoaderCommandLine(const Application& application, const std::string& file);
+
+/// Goes to the loader's drive and the Control Centre's folder, and gives what to start.
 [[nodiscard]] std::string PrepareLoader(Application& application, const std::string& file, const Trap& trap);
 
 // The editor's entries.

@@ -59,6 +59,8 @@ class Dialogs {
   virtual Outcome<unsigned> AskForColour(unsigned before) = 0;
   /// A font, of those of fixed pitch alone where that is asked for, or failure 32755.
   virtual Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) = 0;
+  /// The same for a folder; `folder` is where the dialog begins.
+  virtual Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) = 0;
   /// Lets the user go on working, one event after another, while `open` says so: what a modal form waits in.
   virtual void WaitWhile(const std::function<bool()>& open) = 0;
 };

@@ -129,6 +129,11 @@ void Profile::Set(std::string_view section, std::string_view key, std::string_vi
   text_.insert(place.insertAt, lines);
 }
 
+std::string Protected(const std::string& value) {
+  const std::string_view whole = value;
+  return WithoutQuotes(Trim(whole)) == whole ? value : '"' + value + '"';
+}
+
 Profile ProfileFile::Read() const {
   auto text = files_.Read(path_);
   if (text) return Profile(*std::move(text));

@@ -43,6 +43,9 @@ class Profile {
   std::string text_;
 };
 
+/// The value in a pair of quotation marks where reading would drop what it begins and ends with.
+[[nodiscard]] std::string Protected(const std::string& value);
+
 /// A key and the value it is to get.
 struct ProfileEntry {
   std::string section;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <cmath>
 
 #include "screen/Icons.h"
@@ -18,6 +19,21 @@ constexpr int kProtectedImage = 6;
 
 /// No timer shows anything more often than the screen does, 60 times a second.
 constexpr int kScreenPace = 17;  // milliseconds
+
+/// A user's text as a menu shows it: letter by letter, and short enough for the screen. What is cut stands
+/// whole in the tool tip.
+void ShowUsersText(const std::string& text, QAction& action) {
+  const int widest = QGuiApplication::primaryScreen()->availableGeometry().width() / 2;
+  const QString whole = ToScreen(text).replace(u'\t', u' ');
+  QString shown = QFontMetrics(QApplication::font("QMenu")).elidedText(whole, Qt::ElideMiddle, widest);
+  action.setToolTip(shown == whole ? QString() : whole);
+  action.setText(shown.replace(u'&', QLatin1String("&&")));
+}
+
+std::string UsersTextOn(const QAction& action) {
+  const QString shown = action.text().replace(QLatin1String("&&"), QLatin1String("&"));
+  return FromScreen(action.toolTip().size() > shown.size() ? action.toolTip() : shown);
+}
 
 Qt::CursorShape CursorOf(int mousePointer) {
   switch (mousePointer) {
@@ -173,10 +189,14 @@ void Bindings::Bind(MenuItem& item, QAction& action) {
   Bind(
       item.Caption,
       [&] {
+        if (item.isUsersText) return ShowUsersText(item.Caption, action);
         action.setSeparator(item.Caption.Get() == MenuItem::kDivider);
         action.setText(action.isSeparator() ? QString() : ToScreen(item.Caption.Get()));
       },
-      [&] { return action.isSeparator() ? std::string(MenuItem::kDivider) : FromScreen(action.text()); });
+      [&] {
+        if (item.isUsersText) return UsersTextOn(action);
+        return action.isSeparator() ? std::string(MenuItem::kDivider) : FromScreen(action.text());
+      });
   Bind(
       item.Enabled, [&] { action.setEnabled(item.Enabled); }, [&] { return TextOf(action.isEnabled()); });
   Bind(

@@ -58,6 +58,7 @@ EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(
   setObjectName(QStringLiteral("Editor"));
   menus_ = MakeMenus(editor.menus, bindings_);
   popUps_ = MakeMenus(editor.popUps, bindings_);
+  FollowArrays(editor.menus, bindings_);
   MakeMacroFrame();
   MakeTabs();
   MakePanes();

@@ -46,6 +46,24 @@ std::vector<std::unique_ptr<QMenu>> MakeMenus(const Menus& menus, Bindings& bind
   return top;
 }
 
+void FollowArrays(Menus& menus, Bindings& bindings) {
+  bindings.Keep(menus.Loaded.Connect([&bindings](const MenuItem& before, MenuItem& loaded) {
+    auto* const above = qobject_cast<QAction*>(bindings.Find(before));
+    auto* const menu = qobject_cast<QMenu*>(above->parent());
+    const auto actions = menu->actions();
+    auto* const action = new QAction(menu);
+    menu->insertAction(actions.value(actions.indexOf(above) + 1), action);
+    menu->setToolTipsVisible(true);
+    bindings.Bind(loaded, *action);
+  }));
+  bindings.Keep(menus.Unloading.Connect([&bindings](const MenuItem& item) {
+    auto* const action = qobject_cast<QAction*>(bindings.Find(item));
+    bindings.Forget(item);
+    qobject_cast<QMenu*>(action->parent())->removeAction(action);
+    action->deleteLater();
+  }));
+}
+
 void PopUpOnDemand(const std::vector<std::unique_ptr<QMenu>>& menus, Form& form, const QWidget& window,
                    Bindings& bindings) {
   for (const auto& owned : menus) {

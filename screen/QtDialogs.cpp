@@ -96,18 +96,30 @@ Outcome<std::string> QtDialogs::AskForFile(const FileRequest& request) {
   const OrdinaryPointer pointer;
   const bool save = request.kind == FileDialogKind::Save;
   QFileDialog dialog(QApplication::activeWindow(), ToScreen(request.title), StartFolder(request.folder));
-  dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setNameFilters(NameFilters(request.filter));
+  if (save) dialog.setDefaultSuffix(ToScreen(request.defaultExtension));
+  if (!request.fileName.empty()) dialog.selectFile(ToScreen(request.fileName));
+  return Run(dialog);
+}
+
+Outcome<std::string> QtDialogs::AskForFolder(const std::string& title, const std::string& folder) {
+  const OrdinaryPointer pointer;
+  QFileDialog dialog(QApplication::activeWindow(), ToScreen(title), StartFolder(folder));
+  dialog.setFileMode(QFileDialog::Directory);
+  dialog.setOption(QFileDialog::ShowDirsOnly);
+  return Run(dialog);
+}
+
+Outcome<std::string> QtDialogs::Run(QFileDialog& dialog) {
+  dialog.setOption(QFileDialog::DontUseNativeDialog);
   QList<QUrl> places{QUrl::fromLocalFile(QDir::homePath())};
   if (const auto drive = drives_.ToHost("c:\\")) {
     places += QUrl::fromLocalFile(QFile::decodeName(drive->c_str()));
   }
   dialog.setSidebarUrls(places);
   if (auto* const parts = dialog.findChild<QSplitter*>()) parts->setSizes({kSidebarWidth, kListWidth});
-  dialog.setNameFilters(NameFilters(request.filter));
-  if (save) dialog.setDefaultSuffix(ToScreen(request.defaultExtension));
-  if (!request.fileName.empty()) dialog.selectFile(ToScreen(request.fileName));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
     return Cancelled();
   }

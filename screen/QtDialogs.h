@@ -1,6 +1,7 @@
 // The message boxes and file dialogs that the user sees.
 #pragma once
 
+#include <QFileDialog>
 #include <QString>
 #include <QStringList>
 
@@ -17,11 +18,15 @@ class QtDialogs : public Dialogs {
   Outcome<std::string> AskForFile(const FileRequest& request) override;
   Outcome<unsigned> AskForColour(unsigned before) override;
   Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) override;
+  Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) override;
   void WaitWhile(const std::function<bool()>& open) override;
 
  private:
   /// The folder asked for, else the one of the last choice, else the user's own.
   [[nodiscard]] QString StartFolder(const std::string& folder) const;
+
+  /// With the user's own folder and drive c at its side, and what was chosen in it.
+  Outcome<std::string> Run(QFileDialog& dialog);
 
   Drives& drives_;
   QString lastFolder_;

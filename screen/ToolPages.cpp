@@ -5,11 +5,13 @@
 #include <QPushButton>
 #include <QScrollBar>
 
+#include "hardware/Games.h"
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
 #include "hardware/ProgramWait.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
+#include "lists/Favourites.h"
 #include "output/TextBlocks.h"
 #include "screen/Icons.h"
 #include "screen/KeyboardView.h"
@@ -227,6 +229,61 @@ QLayout* Page(ProgramWait& form, const FormLayout& in) {
   return Column({text, Stretch(), Row({Stretch(), in.Show(form.Command1)})});
 }
 
+/// A path, cut in its middle where it is long; the tool tip has all of it.
+QWidget* PathOf(Label& label, const FormLayout& in) {
+  constexpr int kWidth = 360;
+  auto* const path = qobject_cast<QLabel*>(in.Show(label));
+  path->setToolTip(path->text());
+  path->setTextFormat(Qt::PlainText);
+  path->setText(path->fontMetrics().elidedText(path->text(), Qt::ElideMiddle, kWidth));
+  path->setMinimumWidth(kWidth);
+  path->setAutoFillBackground(false);
+  return path;
+}
+
+QLayout* Page(EnterFavouritename& form, const FormLayout& in) {
+  auto* const fields = new QFormLayout;
+  fields->addRow(QStringLiteral("Name:"), in.Show(form.Text1));
+  fields->addRow(new QLabel(QStringLiteral("Joystick file:")), PathOf(form.Label1, in));
+  fields->addRow(new QLabel(QStringLiteral("Macro file:")), PathOf(form.Label2, in));
+  return Column({fields, Stretch(), Row({Stretch(), in.Show(form.Command1), in.Show(form.Command2)})});
+}
+
+QLayout* Page(EnterGameName& form, const FormLayout& in) {
+  struct FieldRow {
+    const char* label;
+    TextBox& box;
+    CommandButton* choose;
+    CommandButton* help;
+  };
+  auto* const grid = new QGridLayout;
+  for (const FieldRow& field : {FieldRow{"Name of Game", form.Text1, nullptr, nullptr},
+                                {"Game path and name", form.Text2, &form.Command1(0), &form.Command5},
+                                {"Working directory", form.Text3, &form.Command2, &form.Command6},
+                                {"Associated joystick file", form.Text4, &form.Command1(1), nullptr}}) {
+    const int row = grid->rowCount();
+    const QString name = QString::fromUtf8(field.label);
+    auto* const label = new QLabel(name);
+    QWidget* const box = Named(in.Show(field.box), name);
+    box->setMinimumWidth(300);
+    label->setBuddy(box);
+    grid->addWidget(label, row, 0);
+    grid->addWidget(box, row, 1);
+    if (field.choose) {
+      // Two of them have the same caption.
+      const QString said = ToScreen(field.choose->Caption.Get()) + QLatin1String(": ") + name;
+      grid->addWidget(Named(in.Show(*field.choose), said), row, 2);
+    }
+    if (!field.help) continue;
+    QWidget* const help = WithIcon(in.Show(*field.help), "help-contents", QLatin1String("Help: ") + name);
+    grid->addWidget(help, row, 3);
+  }
+  grid->setColumnStretch(1, 1);
+  return Column({grid, in.Show(form.Check1),
+                 new QLabel(QStringLiteral("Note: you can edit these later in Preferences")), Stretch(),
+                 Row({Stretch(), in.Show(form.Command3), in.Show(form.Command4)})});
+}
+
 template <class F>
 ToolWindow::MakePage PageFor(Form& form) {
   auto* const own = dynamic_cast<F*>(&form);
@@ -237,9 +294,10 @@ ToolWindow::MakePage PageFor(Form& form) {
 }  // namespace
 
 ToolWindow::MakePage PageOf(Form& form) {
-  for (const auto& find : {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Preferences>,
-                           PageFor<Title>, PageFor<Heading>, PageFor<SingleTextForm>, PageFor<RAWform>,
-                           PageFor<KeyTestForm>, PageFor<JoyPlot>, PageFor<ProgramWait>}) {
+  for (const auto& find :
+       {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Preferences>, PageFor<Title>,
+        PageFor<Heading>, PageFor<SingleTextForm>, PageFor<RAWform>, PageFor<KeyTestForm>, PageFor<JoyPlot>,
+        PageFor<ProgramWait>, PageFor<EnterFavouritename>, PageFor<EnterGameName>}) {
     if (auto page = find(form)) return page;
   }
   return {};

@@ -13,11 +13,14 @@
 #include "app/ColourSelector.h"
 #include "app/Editor.h"
 #include "composer/InsertOptions.h"
+#include "hardware/Games.h"
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
 #include "hardware/ProgramWait.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
+#include "lists/Favourites.h"
+#include "lists/Preferences.h"
 #include "output/TextBlocks.h"
 #include "screen/HelpWindow.h"
 #include "screen/PlotView.h"
@@ -34,7 +37,7 @@ class Windows : public testing::Test {
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
     ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
-              ProgramWait>();
+              ProgramWait, EnterFavouritename, EnterGameName, Preferences>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();

@@ -21,6 +21,9 @@ class ScriptedDialogs : public Dialogs {
   Outcome<unsigned> AskForColour(unsigned before) override;
   /// The next choice as "name|size|bold", with 1 for a bold one.
   Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) override;
+  Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) override {
+    return AskForFile({FileDialogKind::Open, title, {}, folder, {}, {}});
+  }
   void WaitWhile(const std::function<bool()>& open) override;
 
   std::deque<Answer> answers;       ///< for the next boxes; OK where there is none, or No, or Cancel

@@ -1,0 +1,67 @@
+// A list of what was used last, newest first, which outlives the program in a section of the settings file:
+// joystick files, macro files, favourites, games. They differ in their traits alone.
+#pragma once
+
+#include <deque>
+#include <span>
+
+#include "controls/Component.h"
+#include "platform/ProfileFile.h"
+
+namespace tarvik {
+
+/// A part of each record.
+struct RecordKey {
+  std::string_view key;     ///< in the settings file, where the record's number stands behind it
+  std::string_view inHand;  ///< the value that holds it of the record in hand
+  std::size_t buffer;       ///< a stored text comes back cut to one character less; 0 for a number
+};
+
+struct ListTraits {
+  std::string_view section;
+  std::string_view countKey;
+  std::span<const RecordKey> keys;  ///< the first one tells the records apart
+};
+
+class RecentList {
+ public:
+  static constexpr int kLimit = 30;
+
+  /// The count and the record in hand become values of `owner`, under their names.
+  RecentList(Component& owner, const ListTraits& traits, ProfileFile& file);
+
+  [[nodiscard]] int Count() const { return static_cast<int>(records_.size()); }
+  /// The part of the record in hand with this name, one of those in the traits.
+  [[nodiscard]] Property<std::string>& InHand(std::string_view name);
+  /// By exact comparison.
+  [[nodiscard]] bool Contains(std::string_view name) const;
+  /// What tells the records apart, in the order of the list.
+  [[nodiscard]] std::vector<std::string> Names() const;
+
+  /// Takes what the settings file holds: no more than the limit, and no record without a name.
+  void Read();
+  /// Puts the record in hand first, in the place of the last one of its name. At the limit the oldest goes.
+  void Use();
+  /// Takes a record in hand; 1-based.
+  void Take(int index);
+  /// Writes the count, then `more`, then the records. What stood behind them in a longer list stays.
+  Outcome<> Save(std::vector<ProfileEntry> more = {}) const;
+  /// Forgets all records, and writes that there is nothing in their places.
+  Outcome<> Clear();
+
+  Signal<> Changed;
+
+ private:
+  using Record = std::vector<std::string>;  // in the order of the keys
+
+  [[nodiscard]] ProfileEntry CountEntry() const;
+  [[nodiscard]] std::string KeyOf(std::size_t part, std::size_t record) const;
+
+  const ListTraits& traits_;
+  ProfileFile& file_;
+  std::vector<Record> records_;
+  std::deque<Property<std::string>> inHand_;
+  Attribute<int> count_;
+};
+
+}  // namespace tarvik
