@@ -52,7 +52,7 @@ class Editor : public Form {
   // Life of the form.
   void Form_Load();
   void Form_Activate();
-  bool Form_QueryUnload() { return files_.MayExit(); }
+  bool Form_QueryUnload() override { return files_.MayExit(); }
   void Form_Unload();
   void Form_Resize() { layout_.Place(); }
   void TestCommandLine();
@@ -167,10 +167,14 @@ class Editor : public Form {
 
   // Apps.
   void mnuSendToKeyTest_Click();
+  void mnuAppsImageViewer_Click();
+  void mnuAppsTemplate_Click();
   void mnuAppsJoyAnalyser_Click();
 
   // Help.
   void mnuHelpContents_Click();
+  void mnuHelpTips_Click();
+  void mnuHelpAbout_Click();
 
   // For the tools.
   [[nodiscard]] Document& ActiveDocument() const { return desk_.Active(); }
@@ -186,7 +190,7 @@ class Editor : public Form {
   /// Status panel 3, by the document's caret memory.
   void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document, document.Caret); }
   /// Gives a tool's pane the font of the files.
-  void ApplyFont(Pane& pane) const { desk_.ApplyFont(pane); }
+  void ApplyFont(Pane& pane) const { tarvik::ApplyFont(pane, desk_.settings); }
   void SayIsProtected(const Document& document) const { desk_.SayIsProtected(document); }
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
@@ -215,6 +219,7 @@ class Editor : public Form {
   PaneInput input_;
   FileCommands files_;
   AutoSave autoSave_;
+  Connection clipboardChanged_;
 };
 
 }  // namespace tarvik

@@ -19,6 +19,7 @@ class Values : public Component {
   /// 1 while program code rewrites a pane, so that its change handler does not count it as an edit.
   Property<int> LoadingFile{*this, "LoadingFile", 0};
   Property<int> FontChanged{*this, "FontChanged", 0};
+  Property<int> TemplateFontChanged{*this, "TemplateFontChanged", 0};
   Property<int> HardwareChanged{*this, "HardwareChanged", 0};
   Property<int> PreferencesTab{*this, "PreferencesTab", 0};
 

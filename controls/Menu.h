@@ -64,6 +64,14 @@ class Menus {
     return nullptr;
   }
 
+  /// True when the key is a letter with Ctrl alone that is an entry's; the entry runs when it is enabled.
+  bool RunCtrlLetter(const Key& key) const {
+    if (key.shift != shift::kCtrl || key.code < 'A' || key.code > 'Z') return false;
+    const MenuItem* const item = WithShortcut(std::string("Ctrl+") + static_cast<char>(key.code));
+    if (item && item->Enabled) item->Click();
+    return item != nullptr;
+  }
+
  private:
   /// Whether the row has a handler, or one of the rows below it.
   template <class F, std::size_t N>

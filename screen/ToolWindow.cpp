@@ -127,8 +127,7 @@ void ToolWindow::changeEvent(QEvent* event) {
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {
-  event->accept();
-  if (form().Visible) application_.Unload(form());
+  event->setAccepted(!form().Visible || application_.CloseTool(form()));
 }
 
 /// The form goes before its window, which may be in the middle of an event.

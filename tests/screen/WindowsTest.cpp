@@ -17,7 +17,10 @@
 #include "hardware/KeyTestForm.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
+#include "language/TemplateForm.h"
 #include "output/TextBlocks.h"
+#include "output/Tips.h"
+#include "output/ViewImage.h"
 #include "screen/HelpWindow.h"
 #include "screen/PlotView.h"
 #include "screen/Screen.h"
@@ -31,8 +34,10 @@ class Windows : public testing::Test {
   Windows() {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
-    ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot>();
+    ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
+              TemplateForm, frmTip, frmAbout, ViewImage, SelectPictureForm>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();

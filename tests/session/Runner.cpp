@@ -111,6 +111,8 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
       {"printer", &Runner::SetPrinter},
       {"joystick", &Runner::SetJoystick},
       {"lock", &Runner::SetLock},
+      {"sysinfo", &Runner::SetSystemInformation},
+      {"tips", &Runner::WantTips},
       {"start", &Runner::Start},
       {"close", &Runner::Close},
       {"killed", &Runner::Killed},
@@ -315,6 +317,11 @@ void Runner::SetLock(const Line& line) {
   if (Word(line, 2) != "unknown") outside_.keyboard.locks[code] = std::stoi(line.words[2]);
 }
 
+/// sysinfo none
+void Runner::SetSystemInformation(const Line& line) {
+  outside_.desktop.tellsAboutTheMachine = Word(line, 1) != "none";
+}
+
 // The process.
 
 void Runner::Start(const Line& line) {
@@ -325,6 +332,9 @@ void Runner::Start(const Line& line) {
     Application(second).Start();
     return;
   }
+  ProfileFile profile(files_, std::string(kFolder) + "\\tarvik.ini");
+  const bool saysNothing = profile.GetString("FileLocations", "ShowTips", "", 2).empty();
+  if (saysNothing && !tips_) Ignore(profile.Write("FileLocations", "ShowTips", "0"));
   platform_ = std::make_unique<Platform>(outside_.Process(files_, commandLine));
   application_ = std::make_unique<Application>(*platform_);
   driver_ = makeDriver_(*application_);
