@@ -95,6 +95,7 @@ TemplateForm::TemplateForm(Application& application)
   menus("mnuPopShow").Visible = false;
   Text1.ToolTipText = "The file's name; a name typed here is a template's";
   Label1.Caption = "Colour of the selection";
+  Label1.BackColor = ToggleLabel::kOff;
   for (int i = 0; i < kCommands; ++i) {
     Command1(i).Caption = kCommandRows[i].caption;
     Command1(i).ToolTipText = kCommandRows[i].tip;

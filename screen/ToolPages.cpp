@@ -229,6 +229,7 @@ QLayout* Page(JoyPlot& form, const FormLayout& in) {
 
 QLayout* Page(TemplateForm& form, const FormLayout& in) {
   QWidget* const text = Named(in.Show(form.TemplateText), QStringLiteral("Template"));
+  qobject_cast<QPlainTextEdit*>(text)->setTabChangesFocus(false);  // as in the files
   text->setMinimumSize(480, 320);
   text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   QWidget* const name = Named(in.Show(form.Text1), QStringLiteral("File name"));
