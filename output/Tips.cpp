@@ -10,7 +10,8 @@ namespace {
 
 constexpr const char* kVersion = "Version: 1.2a";
 constexpr const char* kDescription =
-    "A workbench for Thrustmaster joysticks, throttles and rudders: it edits and colours the joystick file and "
+    "A workbench for Thrustmaster joysticks, throttles and rudders: it edits and colours the joystick file "
+    "and "
     "the macro file, writes their statements for you, and tests what the hardware sends.";
 
 /// The text in the code page, whichever of the two ways it was written in.
