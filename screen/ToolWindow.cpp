@@ -69,6 +69,7 @@ void ToolWindow::ShowWindow() {
   setWindowFlag(Qt::WindowMinimizeButtonHint, !form().Modal);
   ChooseOwner();
   if (!isVisible() && !form().Modal) move(placed_ ? PlaceOfForm() : PlaceBeside());
+  if (!isVisible() && form().Modal && frame_.isMaximized()) move(PlaceInTheMiddle());
   show();
   raise();
   activateWindow();
@@ -88,6 +89,12 @@ QPoint ToolWindow::PlaceBeside() {
   adjustSize();
   const QRect frame = frame_.geometry();
   return {std::max(frame.left(), frame.right() - width() - kFromTheRight), frame.top() + kFromTheTop};
+}
+
+/// Of a frame that fills the screen, or is about to: at the start it has not grown yet.
+QPoint ToolWindow::PlaceInTheMiddle() {
+  adjustSize();
+  return frame_.screen()->availableGeometry().center() - rect().center();
 }
 
 /// Where it is within reach, whatever screen it stood on before.
