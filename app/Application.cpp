@@ -26,7 +26,9 @@ Application::Application(Platform& services)
       settings(profile, errors),
       lists(settings, errors) {}
 
-Application::~Application() = default;
+Application::~Application() {
+  if (mum_) platform.clipboard.changed = nullptr;
+}
 
 bool Application::Start() {
   if (!platform.instance.Acquire()) {
@@ -34,6 +36,7 @@ bool Application::Start() {
     ended_ = true;
     return false;
   }
+  platform.clipboard.changed = [this] { ClipboardChanged(); };
   mum_ = std::make_unique<Mum>(*this);
   mum_->MDIForm_Load();
   return true;
@@ -60,14 +63,24 @@ bool Application::CloseEditor() {
   return true;
 }
 
+bool Application::CloseTool(Form& form) {
+  if (!form.Form_QueryUnload()) return false;
+  Unload(form);
+  return true;
+}
+
 bool Application::CloseMum() {
+  // All are asked before the first one goes; the editor is the first of them.
+  for (Form* const form : Forms()) {
+    if (!form->Form_QueryUnload()) return false;
+  }
   if (editor_) {
-    if (!editor_->Form_QueryUnload()) return false;
     editor_->Form_Unload();
     UnloadTools(kToolsOfEditor);
   }
   mum_->MDIForm_Unload();
   UnloadTools(kToolsOfMum);
+  while (!tools_.empty()) Unload(*tools_.back());
   ended_ = true;
   HasEnded();
   return true;

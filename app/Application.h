@@ -16,7 +16,7 @@ namespace tarvik {
 class Mum;
 class Editor;
 
-/// The tools that end with the frame.
+/// The tools that end with the frame before all others.
 inline constexpr const char* kToolsOfMum[] = {"ColourSelector", "KeyTestForm", "ProgramWait"};
 
 class Application {
@@ -39,9 +39,12 @@ class Application {
   /// The editor, or null after it was closed.
   [[nodiscard]] Editor* editor() const { return editor_.get(); }
   void ShowEditor();
+  /// What a tool's close box does. False: the user keeps the tool.
+  bool CloseTool(Form& form);
   /// Closes the editor alone; the frame stays. False: the user keeps the program running.
   bool CloseEditor();
-  /// Closes the frame and so the program. False: the user keeps it running.
+  /// Closes the frame and so the program, once the editor and every tool have asked about unsaved work.
+  /// False: the user keeps it running.
   bool CloseMum();
   [[nodiscard]] bool Ended() const { return ended_; }
 
@@ -85,6 +88,9 @@ class Application {
   Signal<Form&> Loaded;
   Signal<Form&> Unloading;
   Signal<> HasEnded;
+
+  /// Another program changed what is on the clipboard.
+  Signal<> ClipboardChanged;
 
  private:
   void LoadTool(std::unique_ptr<Form> form);

@@ -4,24 +4,10 @@
 #include "app/Mum.h"
 
 namespace tarvik {
-namespace {
-
-struct Choice {
-  const char* caption;
-  Property<Colour> Settings::*colour;  ///< null: black
-};
-
-constexpr Choice kChoices[ColourSelector::kColours] = {
-    {"Buttons", &Settings::BTNColour},  {"Slash", &Settings::SlashColour},
-    {"Raw, Dly", &Settings::RAWColour}, {"Misc", &Settings::MiscellaneousColour},
-    {"Rem", &Settings::RemStatements},  {"Black", nullptr},
-};
-
-}  // namespace
 
 ColourSelector::ColourSelector(Application& application) : Form("ColourSelector"), application_(application) {
   for (int i = 0; i < kColours; ++i) {
-    Command1(i).Caption = kChoices[i].caption;
+    Command1(i).Caption = kColourChoices[i].caption;
     Command1(i).Click = [this, i] { Command1_Click(i); };
   }
   Activate = [this] { Form_Activate(); };
@@ -29,10 +15,7 @@ ColourSelector::ColourSelector(Application& application) : Form("ColourSelector"
 }
 
 void ColourSelector::Form_Activate() {
-  for (int i = 0; i < kColours; ++i) {
-    const auto member = kChoices[i].colour;
-    Label1(i).BackColor = member ? (application_.settings.*member).Get() : kBlack;
-  }
+  for (int i = 0; i < kColours; ++i) Label1(i).BackColor = kColourChoices[i].In(application_.settings);
 }
 
 void ColourSelector::Command1_Click(int index) {

@@ -6,9 +6,25 @@
 
 namespace tarvik {
 
+/// A kind of text, and the setting with its colour.
+struct ColourChoice {
+  const char* caption;
+  Property<Colour> Settings::*setting;  ///< null: black
+
+  [[nodiscard]] Colour In(const Settings& settings) const {
+    return setting ? (settings.*setting).Get() : kBlack;
+  }
+};
+
+inline constexpr ColourChoice kColourChoices[] = {
+    {"Buttons", &Settings::BTNColour},  {"Slash", &Settings::SlashColour},
+    {"Raw, Dly", &Settings::RAWColour}, {"Misc", &Settings::MiscellaneousColour},
+    {"Rem", &Settings::RemStatements},  {"Black", nullptr},
+};
+
 class ColourSelector : public Form {
  public:
-  static constexpr int kColours = 6;
+  static constexpr int kColours = std::size(kColourChoices);
 
   explicit ColourSelector(Application& application);
 

@@ -35,7 +35,7 @@ void Desk::UpdateSavedIcon() const {
   status.Panels(2).ToolTipText = document.Name.Get() + kSavedStateTips[image - 1];
 }
 
-void Desk::ApplyFont(Pane& pane) const {
+void ApplyFont(Pane& pane, const Settings& settings) {
   pane.SelIndent = kPaneIndent;
   pane.SelFontName = settings.TextFontName;
   pane.SelBold = settings.TextFontBold != 0;
@@ -45,7 +45,7 @@ void Desk::ApplyFont(Pane& pane) const {
 
 void Desk::ApplyLook(const Document& document) const {
   document.text.BackColor = (settings.*document.traits.background).Get();
-  ApplyFont(document.text);
+  ApplyFont(document.text, settings);
 }
 
 }  // namespace tarvik

@@ -40,8 +40,10 @@ struct Desk {
   std::function<void()> updateUndoRedoMenus;
   /// Gives the pane the user's font, indent and the document's background.
   void ApplyLook(const Document& document) const;
-  void ApplyFont(Pane& pane) const;
 };
+
+/// Gives a pane the user's font, and the indent of all panes.
+void ApplyFont(Pane& pane, const Settings& settings);
 
 /// Keeps the change handlers from counting what program code does to a pane as an edit.
 class Loading {

@@ -13,9 +13,24 @@ constexpr int kPasteButton = 9;
 
 }  // namespace
 
+void CopySelection(const Pane& pane, Clipboard& clipboard) { clipboard.Put(pane.SelText, pane.SelRTF); }
+
+Clipping::Clipping(Clipboard& clipboard) : rtf_(clipboard.Rtf()) {
+  if (LooksLikeRtf(rtf_)) return;
+  rtf_.clear();
+  text_ = clipboard.Text();
+}
+
+void Clipping::ReplaceSelectionOf(Pane& pane) const {
+  if (rtf_.empty()) {
+    pane.SelText = text_;
+  } else {
+    pane.SelRTF = rtf_;
+  }
+}
+
 void EditCommands::Copy() {
-  const Pane& pane = desk_.Active().text;
-  desk_.platform.clipboard.Put(pane.SelText, pane.SelRTF);
+  CopySelection(desk_.Active().text, desk_.platform.clipboard);
   UpdateCCPButtons();
 }
 
@@ -43,19 +58,12 @@ void EditCommands::Delete() {
 
 void EditCommands::Paste() {
   if (Refuses()) return;
-  Clipboard& clipboard = desk_.platform.clipboard;
-  const std::string rtf = clipboard.Rtf();
-  const bool rich = LooksLikeRtf(rtf);
-  const std::string text = rich ? std::string() : clipboard.Text();
-  if (!rich && text.empty()) return;
+  const Clipping clipping(desk_.platform.clipboard);
+  if (clipping.Empty()) return;
   insertion_.BeginColInsert();
   Document& document = desk_.Active();
-  desk_.ApplyFont(document.text);
-  if (rich) {
-    document.text.SelRTF = rtf;
-  } else {
-    document.text.SelText = text;
-  }
+  ApplyFont(document.text, desk_.settings);
+  clipping.ReplaceSelectionOf(document.text);
   document.Caret = document.text.SelStart;
   document.text.SetFocus();
   insertion_.EndColInsert();

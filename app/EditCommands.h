@@ -8,6 +8,21 @@
 
 namespace tarvik {
 
+/// Puts the pane's selection on the clipboard, as text and with its colours.
+void CopySelection(const Pane& pane, Clipboard& clipboard);
+
+/// What the clipboard holds for a pane: coloured text from a program that gives it, else plain text.
+class Clipping {
+ public:
+  explicit Clipping(Clipboard& clipboard);
+  [[nodiscard]] bool Empty() const { return rtf_.empty() && text_.empty(); }
+  void ReplaceSelectionOf(Pane& pane) const;
+
+ private:
+  std::string rtf_;
+  std::string text_;
+};
+
 class EditCommands {
  public:
   EditCommands(Desk& desk, ColouredInsertion& insertion, const Menus& menus, Toolbar& toolbar)

@@ -10,10 +10,13 @@
 #include "hardware/KeyTestForm.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
+#include "language/TemplateForm.h"
 #include "lists/CustomApps.h"
 #include "lists/Favourites.h"
 #include "lists/Preferences.h"
 #include "output/TextBlocks.h"
+#include "output/Tips.h"
+#include "output/ViewImage.h"
 
 namespace tarvik {
 namespace {
@@ -162,6 +165,7 @@ void Editor::Form_Load() {
   values.PreferencesTab = 0;
   application_.settings.GetColours();
   values.FontChanged = 0;
+  values.TemplateFontChanged = 0;
   values.HardwareChanged = 0;
   mnuInsertWithColour.Checked = settings.InsertWithColour != 0;
   desk_.status.Panels(8).Text = "No macro file analysed";
@@ -199,7 +203,7 @@ void Editor::Form_Load() {
   F22MenusUpdate();
   autoSave_.Restart();
   UpdateCCPButtons();
-  application_.platform.clipboard.changed = [this] { UpdateCCPButtons(); };
+  clipboardChanged_ = application_.ClipboardChanged.Connect([this] { UpdateCCPButtons(); });
   mum_.MousePointer = pointer::kDefault;
   if (settings.FirstTimeUsed == 1) FirstTimeFlow();
 }
@@ -220,7 +224,6 @@ void Editor::Form_Activate() {
 
 void Editor::Form_Unload() {
   SaveOpenSingleOnly();
-  application_.platform.clipboard.changed = nullptr;
   mum_.Toolbar1.Visible = false;
   for (const tables::ToolbarRow& row : tables::kToolbar) mum_.Toolbar1.Buttons(row.button).Click = nullptr;
 }
@@ -443,6 +446,14 @@ void Editor::mnuSendToKeyTest_Click() {
   form.RTFKeysText.SetFocus();
 }
 
+void Editor::mnuAppsImageViewer_Click() {
+  auto& form = application_.Tool<ViewImage>();
+  form.Show();
+  form.Image1.SetFocus();
+}
+
+void Editor::mnuAppsTemplate_Click() { application_.Tool<TemplateForm>().ShowText(); }
+
 void Editor::mnuAppsJoyAnalyser_Click() { application_.Tool<JoyPlot>().PicJoy.SetFocus(); }
 
 void Editor::mnuAppsTMScope_Click() { StartTMScope(application_); }
@@ -462,6 +473,9 @@ void Editor::mnuHelpContents_Click() {
   constexpr int kContents = 1000;
   application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kContents);
 }
+
+void Editor::mnuHelpTips_Click() { application_.ShowModal(application_.Tool<frmTip>()); }
+void Editor::mnuHelpAbout_Click() { application_.ShowModal(application_.Tool<frmAbout>()); }
 
 // Keys that the tools pass on.
 
@@ -518,7 +532,7 @@ void Editor::mnuViewReformat_Click() {
   const Loading loading(application_.values);
   desk_.Say("Reformatting layout. Please wait ...");
   Document& document = desk_.Active();
-  desk_.ApplyFont(document.text);
+  tarvik::ApplyFont(document.text, desk_.settings);
   document.text.SelStart = document.Caret;
 }
 

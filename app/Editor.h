@@ -53,7 +53,7 @@ class Editor : public Form {
   // Life of the form.
   void Form_Load();
   void Form_Activate();
-  bool Form_QueryUnload() { return files_.MayExit(); }
+  bool Form_QueryUnload() override { return files_.MayExit(); }
   void Form_Unload();
   void Form_Resize() { layout_.Place(); }
   void TestCommandLine();
@@ -186,6 +186,8 @@ class Editor : public Form {
 
   // Apps.
   void mnuSendToKeyTest_Click();
+  void mnuAppsImageViewer_Click();
+  void mnuAppsTemplate_Click();
   void mnuAppsJoyAnalyser_Click();
   void mnuAppsTMScope_Click();
   void mnuAppsCandCC_Click();
@@ -198,6 +200,8 @@ class Editor : public Form {
 
   // Help.
   void mnuHelpContents_Click();
+  void mnuHelpTips_Click();
+  void mnuHelpAbout_Click();
 
   // For the tools.
   [[nodiscard]] Document& ActiveDocument() const { return desk_.Active(); }
@@ -213,7 +217,7 @@ class Editor : public Form {
   /// Status panel 3, by the document's caret memory.
   void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document, document.Caret); }
   /// Gives a tool's pane the font of the files.
-  void ApplyFont(Pane& pane) const { desk_.ApplyFont(pane); }
+  void ApplyFont(Pane& pane) const { tarvik::ApplyFont(pane, desk_.settings); }
   void SayIsProtected(const Document& document) const { desk_.SayIsProtected(document); }
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
@@ -245,6 +249,7 @@ class Editor : public Form {
   FileCommands files_;
   AutoSave autoSave_;
   ListMenus listMenus_;
+  Connection clipboardChanged_;
 };
 
 }  // namespace tarvik

@@ -120,9 +120,9 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuWindowCascade", "&Arrange icons", "", nullptr, 3},
 
     {0, "mnuSend", "&Apps"},
-    {1, "mnuAppsImageViewer", "&Image viewer"},
+    {1, "mnuAppsImageViewer", "&Image viewer", "", &Editor::mnuAppsImageViewer_Click},
     {1, "mnuSendToKeyTest", "&Key Test", "Ctrl+K", &Editor::mnuSendToKeyTest_Click},
-    {1, "mnuAppsTemplate", "&Template Editor", "F11"},
+    {1, "mnuAppsTemplate", "&Template Editor", "F11", &Editor::mnuAppsTemplate_Click},
     {1, "mnuAppsJoyAnalyser", "Joystick &analyser", "", &Editor::mnuAppsJoyAnalyser_Click},
     {1, "mnuAppsDivider1", "-"},
     {1, "mnuAppsTMScope", "TMSco&pe", "", &Editor::mnuAppsTMScope_Click},
@@ -159,10 +159,10 @@ inline constexpr MenuRow<Editor> kMenus[] = {
 
     {0, "mnuHelp", "&Help"},
     {1, "mnuHelpContents", "&Help topics", "", &Editor::mnuHelpContents_Click},
-    {1, "mnuHelpTips", "&Tip of the day"},
+    {1, "mnuHelpTips", "&Tip of the day", "", &Editor::mnuHelpTips_Click},
     {1, "mnuHelpOnWeb", "Help on the &web"},
     {1, "mnuHelpDivider1", "-"},
-    {1, "mnuHelpAbout", "&About Tarvik"},
+    {1, "mnuHelpAbout", "&About Tarvik", "", &Editor::mnuHelpAbout_Click},
 };
 
 inline constexpr MenuRow<Editor> kPopUps[] = {

@@ -153,18 +153,13 @@ bool FileCommands::New(Document& document) {
 
 // Questions.
 
-bool FileCommands::AskToSave(Document& document, const std::string& text, const std::string& title,
-                             const std::string& refusal) {
+bool FileCommands::AskToSave(Document& document, const SaveQuestion& question) {
   if (document.Dirty != saved::kModified) return true;
-  const std::string name = document.Name;
-  const Answer answer = desk_.platform.dialogs.Show(
-      {" Save " + name + " now?", name + text, BoxIcon::Question, BoxButtons::YesNoCancel});
-  if (answer != Answer::Yes) return answer == Answer::No;
-  desk_.Select(document);
-  Save(document);
-  if (document.Dirty != saved::kModified) return true;
-  desk_.platform.dialogs.Show({title, name + refusal, BoxIcon::Exclamation, BoxButtons::Ok});
-  return false;
+  return MayGo(desk_.platform.dialogs, document.Name, question, [&] {
+    desk_.Select(document);
+    Save(document);
+    return document.Dirty != saved::kModified;
+  });
 }
 
 bool FileCommands::MayReplace(Document& document, Question question) {
@@ -172,12 +167,12 @@ bool FileCommands::MayReplace(Document& document, Question question) {
   const char* const text = question == Question::New ? words.newQuestion : words.loadQuestion;
   // Opening a pair refuses in the macro file's words for both files.
   const char* const refused = question == Question::OpenPair ? kMacroRefused : words.refused;
-  return AskToSave(document, text, kRefusedTitle, refused);
+  return AskToSave(document, {text, kRefusedTitle, refused});
 }
 
 bool FileCommands::MayExit() {
-  return AskToSave(desk_.macro, kExitQuestion, kExitRefusedTitle, kExitRefused) &&
-         AskToSave(desk_.joystick, kExitQuestion, kExitRefusedTitle, kExitRefused);
+  const SaveQuestion question{kExitQuestion, kExitRefusedTitle, kExitRefused};
+  return AskToSave(desk_.macro, question) && AskToSave(desk_.joystick, question);
 }
 
 // Open.

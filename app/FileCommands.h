@@ -2,6 +2,7 @@
 // goes.
 #pragma once
 
+#include "app/SaveQuestion.h"
 #include "language/Highlighter.h"
 #include "language/MacroLists.h"
 
@@ -55,8 +56,7 @@ class FileCommands {
   };
 
   bool MayReplace(Document& document, Question question);
-  bool AskToSave(Document& document, const std::string& text, const std::string& title,
-                 const std::string& refusal);
+  bool AskToSave(Document& document, const SaveQuestion& question);
   Outcome<File> ChooseFile(const FileRequest& request);
   /// What is to be opened without a dialog, in lower case; its path is empty when there is to be one.
   [[nodiscard]] File GivenFile() const;

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "app/ColourSelector.h"
+#include "output/Tips.h"
 
 namespace tarvik {
 namespace {
@@ -101,6 +102,7 @@ void Mum::MDIForm_Load() {
   MDIForm_Resize();
   if (settings.FlatToolbar == 1) MakeFlat();
   application_.ShowEditor();
+  if (settings.ShowTips == 1) application_.ShowModal(application_.Tool<frmTip>());
 }
 
 void Mum::SetPaths() {

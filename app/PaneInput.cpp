@@ -27,7 +27,7 @@ void PaneInput::Attach(Document& document) {
 
 void PaneInput::KeyDown(Document& document, Key& key) {
   document.Caret = document.text.SelStart;
-  if (key.shift == shift::kCtrl && RunShortcut(key)) {
+  if (menus_.RunCtrlLetter(key)) {
     key = {};
     return;
   }
@@ -73,15 +73,6 @@ void PaneInput::MouseDown(const Document& document, const Mouse& mouse) {
   }
   popUps_("mnuRHMUpdateMacros").Visible = !joystick;
   hooks_.popUp("mnuRHMouse");
-}
-
-/// True when the key is a menu entry's. The entry runs only when it is enabled.
-bool PaneInput::RunShortcut(const Key& key) {
-  if (key.code < 'A' || key.code > 'Z') return false;
-  const MenuItem* item = menus_.WithShortcut(std::string("Ctrl+") + static_cast<char>(key.code));
-  if (!item) return false;
-  if (item->Enabled && item->Click) item->Click();
-  return true;
 }
 
 void PaneInput::KeyPress(Document& document, int character) {

@@ -32,7 +32,6 @@ class PaneInput {
   void GotFocus(Document& document);
   void Change(Document& document);
   void RememberCaret(Document& document);
-  bool RunShortcut(const Key& key);
   /// For both files, as the status bar's panel tells.
   void TurnOvertypeOver();
   void ShowHelp(const std::string& keyword) const;

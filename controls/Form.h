@@ -48,6 +48,9 @@ class Form : public Component {
   Event<int&> KeyPress{*this, "KeyPress"};
   Event<Key&> KeyUp{*this, "KeyUp"};
 
+  /// Asks about unsaved work before the form goes. False: the user keeps it.
+  virtual bool Form_QueryUnload() { return true; }
+
   /// The menus of the form's window, or null. Those whose entry is hidden only pop up.
   [[nodiscard]] virtual const Menus* MenuBar() const { return nullptr; }
   /// For whatever shows a pop-up menu at the pointer or the caret; it tells when the menu has closed.

@@ -58,10 +58,10 @@ class User {
     files_.Put("c:\\my\\b.b50", std::string("\0\r\x80 RAW (\n\xFF", 10));
     files_.Put("c:\\my\\b.m50", "");
     files_.Put("c:\\tarvik\\rtf\\b.m50", "{\\rtf1 x}");
-    files_.Put(
-        "c:\\tarvik\\tarvik.ini",
-        "[FileLocations]\r\nFirstTimeUsed=0\r\nProgramFilesPath=c:\\my\r\n[Miscellaneous]\r\nUndoMax=" +
-            TextOf(bytes_.Below(6)) + "\r\nAutoSaveEnabled=1\r\nAutoSaveTime=1\r\n");
+    files_.Put("c:\\tarvik\\tarvik.ini",
+               "[FileLocations]\r\nFirstTimeUsed=0\r\nShowTips=0\r\nProgramFilesPath=c:\\my\r\n["
+               "Miscellaneous]\r\nUndoMax=" +
+                   TextOf(bytes_.Below(6)) + "\r\nAutoSaveEnabled=1\r\nAutoSaveTime=1\r\n");
     application_.Start();
   }
 

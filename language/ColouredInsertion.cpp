@@ -20,7 +20,7 @@ void ColouredInsertion::InsertColouredString(const std::string& text, Colour col
   Pane& pane = document.text;
   const std::size_t place = pane.SelStart;
   pane.SelStart = place;
-  desk_.ApplyFont(pane);
+  ApplyFont(pane, desk_.settings);
   pane.SelColor = colour;
   pane.SelText = text;
   document.Caret = place + text.size();

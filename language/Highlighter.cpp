@@ -36,9 +36,8 @@ void Highlighter::Apply(Document& document) {
   desk_.ApplyLook(desk_.macro);
   desk_.ApplyLook(desk_.joystick);
 
-  desk_.progress.Visible = true;
-  MakePasses(document);
-  desk_.progress.Visible = false;
+  MakePasses(document.text, document.IsJoystick() ? JoystickPasses() : MacroPasses(), desk_.settings,
+             {desk_.status.Panels(1), desk_.progress, true});
 
   desk_.macro.text.SelStart = desk_.macro.Caret;
   desk_.joystick.text.SelStart = desk_.joystick.Caret;
@@ -47,16 +46,18 @@ void Highlighter::Apply(Document& document) {
   desk_.Say("Done");
 }
 
-void Highlighter::MakePasses(Document& document) {
-  const int textLength = Clamped(document.text.Characters().size());
-  ProgressBar& bar = desk_.progress;
+void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settings,
+                const PassesShown& shown) {
+  const int textLength = Clamped(pane.Characters().size());
+  ProgressBar& bar = shown.bar;
+  bar.Visible = true;
   // The bar follows the hits, or counts the passes over commands.
   bool followsHits = true;
   const PaintingProgress progress = {
       [&](const Pass& pass) {
         if (pass.status) {
-          desk_.Say(pass.status);
-          followsHits = pass.progress == 0;
+          shown.panel.Text = std::string(pass.status);
+          followsHits = pass.progress == 0 || !shown.countsCommands;
         }
         bar.Max = followsHits ? textLength : kCommandGroup;
       },
@@ -71,9 +72,10 @@ void Highlighter::MakePasses(Document& document) {
         }
       },
   };
-  Painting painting(document.text.Characters(), document.IsJoystick() ? JoystickPasses() : MacroPasses());
+  Painting painting(pane.Characters(), passes);
   painting.Run(progress);
-  document.text.Recolour(0, painting.Colours(ColoursOf(desk_.settings)));
+  pane.Recolour(0, painting.Colours(ColoursOf(settings)));
+  bar.Visible = false;
 }
 
 void Highlighter::Remove(Document& document) {

@@ -11,6 +11,16 @@ namespace tarvik {
 /// The colours of the classes, as they are set.
 [[nodiscard]] std::array<Colour, kColourClasses> ColoursOf(const Settings& settings);
 
+/// Where passes tell how far they are.
+struct PassesShown {
+  Panel& panel;
+  ProgressBar& bar;
+  bool countsCommands;  ///< over commands the bar counts the passes; else it follows the hits there too
+};
+
+/// Makes the passes over a pane's text, one after another, and gives it their colours.
+void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settings, const PassesShown& shown);
+
 class Highlighter {
  public:
   Highlighter(Desk& desk, ColouredCopies& copies) : desk_(desk), copies_(copies) {}
@@ -24,8 +34,6 @@ class Highlighter {
   void ColourSelection(Colour colour);
 
  private:
-  void MakePasses(Document& document);
-
   Desk& desk_;
   ColouredCopies& copies_;
 };

@@ -45,15 +45,19 @@ void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int 
   trap(printer.EndDocument());
 }
 
+void PrintPane(const Pane& pane, const std::string& title, std::string_view tag, const Platform& platform,
+               Errors& errors, Panel& panel) {
+  if (pane.Characters().empty()) return;
+  panel.Text = "Printing " + title;
+  PrintHeader(platform, Trap{errors, tag}, title);
+  PrintRTF(platform.printer, errors, pane, kMargin, kMargin, kMargin, kMargin);
+  panel.Text = "Finished printing " + title;
+}
+
 void PrintDocument(const Desk& desk, const Document& document) {
-  if (document.text.Characters().empty()) return;
-  const Trap trap{desk.errors,
-                  document.IsJoystick() ? "ED_mnuFilePrintJoystick_Click" : "ED_mnuFilePrintMacro_Click"};
-  const std::string caption = desk.TabOf(document).Caption;
-  desk.Say("Printing " + caption);
-  PrintHeader(desk.platform, trap, caption);
-  PrintRTF(desk.platform.printer, desk.errors, document.text, kMargin, kMargin, kMargin, kMargin);
-  desk.Say("Finished printing " + caption);
+  PrintPane(document.text, desk.TabOf(document).Caption,
+            document.IsJoystick() ? "ED_mnuFilePrintJoystick_Click" : "ED_mnuFilePrintMacro_Click",
+            desk.platform, desk.errors, desk.status.Panels(1));
 }
 
 void SetUpPrinter(const Desk& desk) {

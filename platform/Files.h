@@ -24,6 +24,12 @@ class Files {
   [[nodiscard]] virtual std::vector<std::string> FilesIn(std::string_view folder,
                                                          std::string_view ending) const = 0;
 
+  /// The names of the folder's folders, sorted.
+  [[nodiscard]] virtual std::vector<std::string> FoldersIn(std::string_view folder) const = 0;
+
+  /// The letters of the drives that are there.
+  [[nodiscard]] virtual std::string DriveLetters() const = 0;
+
   /// The whole content, byte for byte.
   [[nodiscard]] virtual Outcome<std::string> Read(std::string_view path) const = 0;
 

@@ -234,7 +234,8 @@ bool HostFiles::FolderExists(std::string_view path) const {
   return status && S_ISDIR(status->st_mode);
 }
 
-std::vector<std::string> HostFiles::FilesIn(std::string_view folder, std::string_view ending) const {
+std::vector<std::string> HostFiles::NamesIn(std::string_view folder,
+                                            bool (HostFiles::*is)(std::string_view) const) const {
   std::vector<std::string> names;
   const auto host = drives_.ToHost(folder);
   const std::string inside = std::string(folder) + (folder.ends_with('\\') ? "" : "\\");
@@ -242,11 +243,33 @@ std::vector<std::string> HostFiles::FilesIn(std::string_view folder, std::string
   for (fs::directory_iterator at(host.value_or(fs::path()), error), end; !error && at != end;
        at.increment(error)) {
     std::string name = FromUtf8(at->path().filename().string());
-    if (LowerCase(name).ends_with(LowerCase(ending)) && FileExists(inside + name))
-      names.push_back(std::move(name));
+    if ((this->*is)(inside + name)) names.push_back(std::move(name));
   }
   std::sort(names.begin(), names.end(), SortsBefore);
   return names;
+}
+
+std::vector<std::string> HostFiles::FilesIn(std::string_view folder, std::string_view ending) const {
+  std::vector<std::string> names = NamesIn(folder, &HostFiles::FileExists);
+  std::erase_if(names, [wanted = LowerCase(ending)](const std::string& name) {
+    return !LowerCase(name).ends_with(wanted);
+  });
+  return names;
+}
+
+/// Without those that the host hides.
+std::vector<std::string> HostFiles::FoldersIn(std::string_view folder) const {
+  std::vector<std::string> names = NamesIn(folder, &HostFiles::FolderExists);
+  std::erase_if(names, [](const std::string& name) { return name.starts_with('.'); });
+  return names;
+}
+
+std::string HostFiles::DriveLetters() const {
+  std::string letters;
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    if (FolderExists(std::string{letter, ':', '\\'})) letters += letter;
+  }
+  return letters;
 }
 
 Outcome<std::string> HostFiles::Read(std::string_view path) const {

@@ -19,6 +19,8 @@ class HostFiles : public Files {
   [[nodiscard]] bool FolderExists(std::string_view path) const override;
   [[nodiscard]] std::vector<std::string> FilesIn(std::string_view folder,
                                                  std::string_view ending) const override;
+  [[nodiscard]] std::vector<std::string> FoldersIn(std::string_view folder) const override;
+  [[nodiscard]] std::string DriveLetters() const override;
   [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
 
   /// A link stays a link: the file it leads to is replaced. A file keeps its mode and, as far as the system
@@ -31,6 +33,9 @@ class HostFiles : public Files {
   Outcome<> ChangeFolder(std::string_view path) override;
 
  private:
+  [[nodiscard]] std::vector<std::string> NamesIn(std::string_view folder,
+                                                 bool (HostFiles::*is)(std::string_view) const) const;
+
   Drives& drives_;
 };
 

@@ -85,6 +85,8 @@ class Desktop {
   virtual ~Desktop() = default;
   /// Opens the file in the program that the desktop has for it, and does not wait.
   virtual Outcome<> Open(const std::string& path) = 0;
+  /// Starts the program with which the desktop tells about the machine; a failure where it has none.
+  virtual Outcome<> ShowSystemInformation() = 0;
 };
 
 /// The help window of the program.

@@ -13,6 +13,7 @@
 #include <map>
 
 #include "screen/DeviceView.h"
+#include "screen/ImageView.h"
 #include "screen/ListStack.h"
 #include "screen/PaneView.h"
 #include "screen/PlotView.h"
@@ -133,6 +134,7 @@ QWidget* FormLayout::Show(ToggleLabel& label) const { return Shown<Button>(bindi
 QWidget* FormLayout::Show(Label& label) const { return Shown<QLabel>(bindings_, label); }
 
 QWidget* FormLayout::Show(PlotBox& box) const { return new PlotView(box, bindings_); }
+QWidget* FormLayout::Show(ImageBox& box) const { return new ImageView(box, bindings_); }
 
 QWidget* FormLayout::Show(Frame& frame) const {
   auto* const view = new BorderView;
@@ -147,6 +149,24 @@ QWidget* FormLayout::ShowLamp(ToggleLabel& lamp) const {
   label->setAlignment(Qt::AlignCenter);
   label->setMargin(2);
   return label;
+}
+
+QWidget* FormLayout::ShowSwatch(Label& swatch) const {
+  constexpr int kSide = 16;
+  auto* const button = new Button;
+  button->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  button->setProperty(kNoMnemonic, true);
+  bindings_.Bind(swatch, static_cast<QAbstractButton&>(*button));
+  button->setAccessibleName(button->toolTip());
+  bindings_.Bind(
+      swatch.BackColor,
+      [button, &swatch] {
+        QPixmap colour(kSide, kSide);
+        colour.fill(ToScreenColour(swatch.BackColor.Get()));
+        button->setIcon(colour);
+      },
+      [button] { return TextOf(FromScreenColour(button->icon().pixmap(kSide).toImage().pixelColor(0, 0))); });
+  return button;
 }
 
 QWidget* FormLayout::Place(Control& control, QWidget* shown, QWidget* area) const {

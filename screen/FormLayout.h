@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <variant>
 
+#include "controls/ImageBox.h"
 #include "controls/PlotBox.h"
 #include "panes/Pane.h"
 #include "screen/Binding.h"
@@ -36,7 +37,10 @@ class FormLayout {
   /// A drawing of a device, with its labels.
   QWidget* Show(const char* drawing, const std::vector<Label*>& labels) const;
   QWidget* Show(PlotBox& box) const;
+  QWidget* Show(ImageBox& box) const;
   QWidget* Show(Frame& frame) const;
+  /// A label that is pressed to take its colour.
+  QWidget* ShowSwatch(Label& swatch) const;
   /// A label that only lights up.
   QWidget* ShowLamp(ToggleLabel& lamp) const;
   /// Lets a control that is shown stand in `area` where its own properties say, in twips.

@@ -7,6 +7,8 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QMimeData>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include "screen/HelpWindow.h"
@@ -75,6 +77,29 @@ Outcome<> QtDesktop::Open(const std::string& path) {
       host && QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(host->c_str())));
   if (!opened) return Failure{error::kFileNotFound, "File not found", 0};
   return Done{};
+}
+
+Outcome<> QtDesktop::ShowSystemInformation() {
+  struct Program {
+    const char* name;
+    QStringList arguments;
+  };
+  // A desktop's own page on the machine before the tools that any may have.
+  const Program programs[] = {
+      {"kinfocenter", {}},
+      {"gnome-control-center", {QStringLiteral("info-overview")}},
+      {"cinnamon-settings", {QStringLiteral("info")}},
+      {"hardinfo2", {}},
+      {"hardinfo", {}},
+      {"mate-system-monitor", {QStringLiteral("--show-system-tab")}},
+      {"lxqt-about", {}},
+      {"xfce4-about", {}},
+  };
+  for (const Program& program : programs) {
+    const QString path = QStandardPaths::findExecutable(QString::fromLatin1(program.name));
+    if (!path.isEmpty() && QProcess::startDetached(path, program.arguments)) return Done{};
+  }
+  return Failure{error::kFileNotFound, "File not found", 0};
 }
 
 std::string QtCalendar::ShortDate() const {

@@ -32,6 +32,8 @@ class QtDesktop : public Desktop {
  public:
   explicit QtDesktop(const Drives& drives) : drives_(drives) {}
   Outcome<> Open(const std::string& path) override;
+  /// The first that is installed of the programs that desktops have for it.
+  Outcome<> ShowSystemInformation() override;
 
  private:
   const Drives& drives_;

@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 
 #include "hardware/Games.h"
@@ -11,8 +12,11 @@
 #include "hardware/ProgramWait.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
+#include "language/TemplateForm.h"
 #include "lists/Favourites.h"
 #include "output/TextBlocks.h"
+#include "output/Tips.h"
+#include "output/ViewImage.h"
 #include "screen/Icons.h"
 #include "screen/KeyboardView.h"
 #include "screen/Text.h"
@@ -211,9 +215,11 @@ class Inside : public QWidget {
   Form& form_;
 };
 
-QLayout* Page(JoyPlot& form, const FormLayout& in) {
+/// A window with nothing in it but a picture, which its form places.
+QLayout* PicturePage(Form& form, Control& picture, QWidget* shown, const QString& name,
+                     const FormLayout& in) {
   auto* const inside = new Inside(form);
-  Named(in.Place(form.PicJoy, in.Show(form.PicJoy), inside), QStringLiteral("Plot"));
+  Named(in.Place(picture, shown, inside), name);
   inside->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   QLayout* const page = Column({inside});
   page->setContentsMargins(0, 0, 0, 0);
@@ -285,6 +291,89 @@ QLayout* Page(EnterGameName& form, const FormLayout& in) {
                  Row({Stretch(), in.Show(form.Command3), in.Show(form.Command4)})});
 }
 
+QLayout* Page(JoyPlot& form, const FormLayout& in) {
+  return PicturePage(form, form.PicJoy, in.Show(form.PicJoy), QStringLiteral("Plot"), in);
+}
+
+QLayout* Page(TemplateForm& form, const FormLayout& in) {
+  QWidget* const text = Named(in.Show(form.TemplateText), QStringLiteral("Template"));
+  qobject_cast<QPlainTextEdit*>(text)->setTabChangesFocus(false);  // as in the files
+  text->setMinimumSize(480, 320);
+  text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  QWidget* const name = Named(in.Show(form.Text1), QStringLiteral("File name"));
+  auto* const label = new QLabel(QStringLiteral("File name"));
+  label->setBuddy(name);
+  auto* const swatches = new QHBoxLayout;
+  swatches->setSpacing(2);
+  for (int i = 0; i < ColourSelector::kColours; ++i) {
+    swatches->addWidget(in.ShowSwatch(form.swatches("ColourLabel" + TextOf(i + 1))));
+  }
+  return Column({Row({label, name}), text,
+                 Row({in.Show(form.Label1), swatches, Stretch(), in.Show(form.ToggleButton1)}),
+                 Row({in.Show(form.Command1(0)), in.Show(form.Command1(1)), in.Show(form.Command1(2)),
+                      in.Show(form.Command2), Stretch(), in.Show(form.CmndPrint)})});
+}
+
+/// A label with a title's letters.
+QWidget* AsTitle(QWidget* label) {
+  QFont font = label->font();
+  font.setBold(true);
+  font.setPointSizeF(font.pointSizeF() * 1.25);
+  label->setFont(font);
+  return label;
+}
+
+QLabel* Wrapped(QWidget* shown) {
+  auto* const label = qobject_cast<QLabel*>(shown);
+  label->setWordWrap(true);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+/// However long the tip is, the window keeps its size.
+QLayout* Page(frmTip& form, const FormLayout& in) {
+  QLabel* const tip = Wrapped(in.Show(form.lblTipText));
+  tip->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  tip->setMargin(8);
+  auto* const area = new QScrollArea;
+  area->setWidget(tip);
+  area->setWidgetResizable(true);
+  area->setMinimumSize(420, 120);
+  area->setFocusPolicy(Qt::NoFocus);
+  return Column({AsTitle(in.Show(form.Label1)), area, in.Show(form.chkLoadTipsAtStartup),
+                 Row({in.Show(form.cmdNextTip), Stretch(), in.Show(form.cmdOK)})});
+}
+
+QLayout* Page(frmAbout& form, const FormLayout& in) {
+  auto* const picture = new QLabel;
+  constexpr int kPicture = 64;
+  picture->setPixmap(Icon("tarvik").pixmap(kPicture));
+  auto* const name = AsTitle(new QLabel(QStringLiteral("Tarvik")));
+  QLabel* const description = Wrapped(in.Show(form.lblDescription));
+  description->setMinimumWidth(380);
+  QLayout* const words = Column({name, in.Show(form.lblVersion), description, Stretch()});
+  return Column({Row({Column({picture, Stretch()}), words}),
+                 Row({in.Show(form.cmdSysInfo), Stretch(), in.Show(form.cmdOK)})});
+}
+
+QLayout* Page(ViewImage& form, const FormLayout& in) {
+  return PicturePage(form, form.Image1, in.Show(form.Image1), QStringLiteral("Picture"), in);
+}
+
+QLayout* Page(SelectPictureForm& form, const FormLayout& in) {
+  constexpr int kListWidth = 200;
+  constexpr int kPreview = 220;
+  QWidget* const folders = in.Show(form.Dir1);
+  QWidget* const pictures = in.Show(form.File1);
+  for (QWidget* const list : {folders, pictures}) list->setMinimumSize(kListWidth, kPreview);
+  QWidget* const preview = Named(in.Show(form.ImagePreview), QStringLiteral("Preview"));
+  preview->setMinimumSize(kPreview, kPreview);
+  preview->setFocusPolicy(Qt::NoFocus);
+  return Column({Row({Column({Above("Drive", in.Show(form.Drive1)), Above("Folders", folders)}),
+                      Above("Pictures", pictures), preview}),
+                 in.Show(form.Label1), Row({Stretch(), in.Show(form.Command2), in.Show(form.Command1)})});
+}
+
 template <class F>
 ToolWindow::MakePage PageFor(Form& form) {
   auto* const own = dynamic_cast<F*>(&form);
@@ -298,7 +387,8 @@ ToolWindow::MakePage PageOf(Form& form) {
   for (const auto& find :
        {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Preferences>, PageFor<Title>,
         PageFor<Heading>, PageFor<SingleTextForm>, PageFor<RAWform>, PageFor<KeyTestForm>, PageFor<JoyPlot>,
-        PageFor<ProgramWait>, PageFor<EnterFavouritename>, PageFor<EnterGameName>}) {
+        PageFor<ProgramWait>, PageFor<EnterFavouritename>, PageFor<EnterGameName>, PageFor<TemplateForm>,
+        PageFor<frmTip>, PageFor<frmAbout>, PageFor<ViewImage>, PageFor<SelectPictureForm>}) {
     if (auto page = find(form)) return page;
   }
   return {};

@@ -70,6 +70,7 @@ void ToolWindow::ShowWindow() {
   setWindowFlag(Qt::WindowMinimizeButtonHint, !form().Modal);
   ChooseOwner();
   if (!isVisible() && !form().Modal) move(placed_ ? PlaceOfForm() : PlaceBeside());
+  if (!isVisible() && form().Modal && frame_.isMaximized()) move(PlaceInTheMiddle());
   show();
   raise();
   AskForWindow(*this);
@@ -91,6 +92,12 @@ QPoint ToolWindow::PlaceBeside() {
   adjustSize();
   const QRect frame = frame_.geometry();
   return {std::max(frame.left(), frame.right() - width() - kFromTheRight), frame.top() + kFromTheTop};
+}
+
+/// Of a frame that fills the screen, or is about to: at the start it has not grown yet.
+QPoint ToolWindow::PlaceInTheMiddle() {
+  adjustSize();
+  return frame_.screen()->availableGeometry().center() - rect().center();
 }
 
 /// Where it is within reach, whatever screen it stood on before.
@@ -130,8 +137,7 @@ void ToolWindow::changeEvent(QEvent* event) {
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {
-  event->accept();
-  if (form().Visible) application_.Unload(form());
+  event->setAccepted(!form().Visible || application_.CloseTool(form()));
 }
 
 /// The form goes before its window, which may be in the middle of an event.

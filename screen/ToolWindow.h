@@ -38,6 +38,7 @@ class ToolWindow : public QDialog, public FormView {
   void ShowTopmost();
   void ChooseOwner();
   [[nodiscard]] QPoint PlaceBeside();
+  [[nodiscard]] QPoint PlaceInTheMiddle();
   [[nodiscard]] QPoint PlaceOfForm() const;
   void RunTimers();
   [[nodiscard]] bool KeepsForForm(QEvent& event) const;

@@ -26,6 +26,7 @@ TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerTex
   Platform platform = outside.Process(files);
   Application application(platform);
   application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+  application.settings.Write("FileLocations", "ShowTips", "0");
   application.Start();
   Editor& editor = *application.editor();
 

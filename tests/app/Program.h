@@ -14,6 +14,7 @@ class Program {
         application(platform_) {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
   }
 

@@ -42,6 +42,17 @@ class HostFilesTest : public testing::Test {
   HostFiles files{drives};
 };
 
+TEST_F(HostFilesTest, WhatLiesInAFolderIsToldByItsKind) {
+  for (const char* const folder : {"Maps", "keys", ".hidden"}) fs::create_directory(Host(folder));
+  for (const char* const file : {"b.PNG", "A.png", "c.txt"}) temporary.Put(std::string("dos/") + file, "x");
+  const std::vector<std::string> folders = {"keys", "Maps"};
+  const std::vector<std::string> pictures = {"A.png", "b.PNG"};
+  EXPECT_EQ(files.FoldersIn("c:\\"), folders);
+  EXPECT_EQ(files.FilesIn("c:\\", ".png"), pictures);
+  EXPECT_TRUE(files.FoldersIn("c:\\missing").empty());
+  EXPECT_EQ(files.DriveLetters(), "cz");
+}
+
 TEST_F(HostFilesTest, WhatWasWrittenIsReadByteForByte) {
   const std::string content("BTN S1\r\n\0\x1A\xFF", 11);
   ASSERT_TRUE(files.Write("c:\\A.B50", content));

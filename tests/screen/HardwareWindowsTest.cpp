@@ -24,6 +24,7 @@ class HardwareWindows : public testing::Test {
     files_.PutFolder("c:\\tarvik");
     outside.joystick.isThere = true;
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
   }
 

@@ -20,6 +20,7 @@ class Keyboard : public testing::Test {
   Keyboard() {
     files_.PutFolder("c:\\tarvik");
     application_.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application_.settings.Write("FileLocations", "ShowTips", "0");
     application_.Start();
     application_.editor()->mnuInsertRAW_Click();
     QApplication::processEvents();

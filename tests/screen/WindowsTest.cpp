@@ -19,9 +19,12 @@
 #include "hardware/ProgramWait.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
+#include "language/TemplateForm.h"
 #include "lists/Favourites.h"
 #include "lists/Preferences.h"
 #include "output/TextBlocks.h"
+#include "output/Tips.h"
+#include "output/ViewImage.h"
 #include "screen/HelpWindow.h"
 #include "screen/PlotView.h"
 #include "screen/Screen.h"
@@ -35,9 +38,11 @@ class Windows : public testing::Test {
   Windows() {
     files_.PutFolder("c:\\tarvik");
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
     ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
-              ProgramWait, EnterFavouritename, EnterGameName, Preferences>();
+              ProgramWait, EnterFavouritename, EnterGameName, Preferences, TemplateForm, frmTip, frmAbout,
+              ViewImage, SelectPictureForm>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();

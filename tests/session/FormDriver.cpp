@@ -5,6 +5,7 @@
 
 #include "app/ColourSelector.h"
 #include "app/Editor.h"
+#include "controls/ImageBox.h"
 #include "platform/CodePage.h"
 #include "session/Driver.h"
 
@@ -232,6 +233,7 @@ class FormDriver : public Driver {
     if (auto* list = dynamic_cast<ListBox*>(&control)) return list->Visible && (list->DblClick(), true);
     if (auto* pane = dynamic_cast<Pane*>(&control)) return pane->Visible && (pane->DblClick(), true);
     if (auto* frame = dynamic_cast<Frame*>(&control)) return frame->Visible && (frame->DblClick(), true);
+    if (auto* image = dynamic_cast<ImageBox*>(&control)) return image->Visible && (image->DblClick(), true);
     return false;
   }
 
@@ -347,7 +349,7 @@ class FormDriver : public Driver {
     } else if (dynamic_cast<ColourSelector*>(&form)) {
       form.Visible = false;
     } else {
-      application_.Unload(form);
+      application_.CloseTool(form);
     }
   }
 

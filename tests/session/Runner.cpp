@@ -114,6 +114,8 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
       {"joystick", &Runner::SetJoystick},
       {"lock", &Runner::SetLock},
       {"program", &Runner::SetProgram},
+      {"sysinfo", &Runner::SetSystemInformation},
+      {"tips", &Runner::WantTips},
       {"start", &Runner::Start},
       {"close", &Runner::Close},
       {"killed", &Runner::Killed},
@@ -344,6 +346,11 @@ void Runner::SetProgram(const Line& line) {
   }
 }
 
+/// sysinfo none
+void Runner::SetSystemInformation(const Line& line) {
+  outside_.desktop.tellsAboutTheMachine = Word(line, 1) != "none";
+}
+
 // The process.
 
 void Runner::Start(const Line& line) {
@@ -354,6 +361,9 @@ void Runner::Start(const Line& line) {
     Application(second).Start();
     return;
   }
+  ProfileFile profile(files_, std::string(kFolder) + "\\tarvik.ini");
+  const bool saysNothing = profile.GetString("FileLocations", "ShowTips", "", 2).empty();
+  if (saysNothing && !tips_) Ignore(profile.Write("FileLocations", "ShowTips", "0"));
   platform_ = std::make_unique<Platform>(outside_.Process(files_, commandLine));
   application_ = std::make_unique<Application>(*platform_);
   driver_ = makeDriver_(*application_);

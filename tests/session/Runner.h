@@ -49,6 +49,8 @@ class Runner {
   void SetJoystick(const Line& line);
   void SetLock(const Line& line);
   void SetProgram(const Line& line);
+  void SetSystemInformation(const Line& line);
+  void WantTips(const Line& /*line*/) { tips_ = true; }
   // The process.
   void Start(const Line& line);
   void Close(const Line& line);
@@ -118,6 +120,7 @@ class Runner {
   Connection formLoaded_;
   std::vector<Connection> poppedUp_;
   std::string popUp_;
+  bool tips_ = false;  // where the settings file says nothing of them
   std::vector<std::string> failures_;
   std::vector<Line> lines_;
   std::size_t nextLine_ = 0;

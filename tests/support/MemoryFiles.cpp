@@ -84,16 +84,35 @@ bool MemoryFiles::FolderExists(std::string_view path) const {
   return entry && entry->isFolder;
 }
 
-std::vector<std::string> MemoryFiles::FilesIn(std::string_view folder, std::string_view ending) const {
+std::vector<std::string> MemoryFiles::NamesIn(std::string_view folder, bool folders) const {
   std::vector<std::string> names;
   const auto whole = current_.Complete(folder);
-  const std::string inside = whole ? whole->Text() + "\\" : "";
-  for (const auto& [path, entry] : entries_) {
-    const std::string name = path.starts_with(inside) ? path.substr(inside.size()) : "";
-    if (!entry.isFolder && name.find('\\') == std::string::npos && name.ends_with(ending))
-      names.push_back(name);
+  const std::string path = whole ? whole->Text() : "";
+  const std::string inside = path.ends_with('\\') ? path : path + "\\";
+  for (const auto& [entryPath, entry] : entries_) {
+    if (entry.isFolder != folders || !entryPath.starts_with(inside)) continue;
+    const std::string name = entryPath.substr(inside.size());
+    if (!name.empty() && name.find('\\') == std::string::npos) names.push_back(name);
   }
   return names;
+}
+
+std::vector<std::string> MemoryFiles::FilesIn(std::string_view folder, std::string_view ending) const {
+  std::vector<std::string> names = NamesIn(folder, false);
+  std::erase_if(names, [ending](const std::string& name) { return !name.ends_with(ending); });
+  return names;
+}
+
+std::vector<std::string> MemoryFiles::FoldersIn(std::string_view folder) const {
+  return NamesIn(folder, true);
+}
+
+std::string MemoryFiles::DriveLetters() const {
+  std::string letters;
+  for (const auto& [path, entry] : entries_) {
+    if (path.size() == 3) letters += path[0];
+  }
+  return letters;
 }
 
 Outcome<std::string> MemoryFiles::Read(std::string_view path) const {

@@ -44,6 +44,8 @@ class MemoryFiles : public Files {
   [[nodiscard]] bool FolderExists(std::string_view path) const override;
   [[nodiscard]] std::vector<std::string> FilesIn(std::string_view folder,
                                                  std::string_view ending) const override;
+  [[nodiscard]] std::vector<std::string> FoldersIn(std::string_view folder) const override;
+  [[nodiscard]] std::string DriveLetters() const override;
   [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
   Outcome<> Write(std::string_view path, std::string_view content) override;
   Outcome<> MakeFolder(std::string_view path) override;
@@ -58,6 +60,7 @@ class MemoryFiles : public Files {
     std::string content{};
   };
 
+  [[nodiscard]] std::vector<std::string> NamesIn(std::string_view folder, bool folders) const;
   [[nodiscard]] const Entry* Find(std::string_view path) const;
   [[nodiscard]] Entry* Find(std::string_view path);
   /// The place of a new file or folder, or why there can be none.

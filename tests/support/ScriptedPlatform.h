@@ -85,7 +85,13 @@ class ScriptedDesktop : public Desktop {
     opened.push_back(path);
     return Done{};
   }
+  Outcome<> ShowSystemInformation() override {
+    if (!tellsAboutTheMachine) return Failure{error::kFileNotFound, "File not found", 0};
+    opened.emplace_back("system information");
+    return Done{};
+  }
   std::deque<std::string> opened;  ///< and not yet expected
+  bool tellsAboutTheMachine = true;
 };
 
 class ScriptedJoystick : public Joystick {

@@ -1,0 +1,55 @@
+// The tip of the day and the box about the program.
+#pragma once
+
+#include <random>
+
+#include "app/Application.h"
+#include "controls/Controls.h"
+
+namespace tarvik {
+
+/// Shows a line of the tips file, drawn at random, and says whether tips come at the start.
+class frmTip : public Form {
+ public:
+  explicit frmTip(Application& application);
+
+  Label Label1{*this, "Label1"};
+  Label lblTipText{*this, "lblTipText"};
+  CheckBox chkLoadTipsAtStartup{*this, "chkLoadTipsAtStartup", "&Show Tips at Startup"};
+  CommandButton cmdNextTip{*this, "cmdNextTip", "&Next Tip"};
+  CommandButton cmdOK{*this, "cmdOK", "&OK"};
+
+  /// 1-based; 0 where there are no tips.
+  Property<int> CurrentTip{*this, "CurrentTip", 0};
+
+  void Form_Load();
+  void cmdNextTip_Click() { DoNextTip(); }
+  void cmdOK_Click();
+
+  void LoadTips(const std::string& path);
+  void DoNextTip();
+  void DisplayCurrentTip();
+
+ private:
+  Application& application_;
+  std::vector<std::string> tips_;
+  std::minstd_rand random_;
+};
+
+class frmAbout : public Form {
+ public:
+  explicit frmAbout(Application& application);
+
+  Label lblVersion{*this, "lblVersion"};
+  Label lblDescription{*this, "lblDescription"};
+  CommandButton cmdOK{*this, "cmdOK", "&OK"};
+  CommandButton cmdSysInfo{*this, "cmdSysInfo", "&System Info..."};
+
+  void Form_Load() { Topmost = true; }
+  void cmdSysInfo_Click();
+
+ private:
+  Application& application_;
+};
+
+}  // namespace tarvik

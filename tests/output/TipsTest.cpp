@@ -1,0 +1,50 @@
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <iterator>
+#include <set>
+
+#include "app/Program.h"
+#include "output/Tips.h"
+
+namespace tarvik {
+namespace {
+
+TEST(Tips, AreDrawnFromAllLines) {
+  Program program;
+  program.files().Put("c:\\tarvik\\Tips.txt", "One\r\nTwo\r\nThree");
+  auto& form = program.application.Tool<frmTip>();
+  std::set<std::string> shown;
+  for (int i = 0; i < 300; ++i) {
+    shown.insert(form.lblTipText.Caption);
+    form.cmdNextTip.Click();
+  }
+  EXPECT_THAT(shown, testing::ElementsAre("One", "Three", "Two"));
+}
+
+TEST(Tips, ComeAtTheVeryFirstStart) {
+  session::ScriptedPlatform outside;
+  MemoryFiles files;
+  files.PutFolder("c:\\tarvik");
+  Platform platform = outside.Process(files);
+  Application application(platform);
+  application.Start();
+  ASSERT_NE(application.LoadedTool<frmTip>(), nullptr);
+  EXPECT_TRUE(application.LoadedTool<frmTip>()->Modal);
+}
+
+TEST(Tips, OfTheProgramAreShortAndMany) {
+  std::ifstream in(TARVIK_DATA "/Tips.txt", std::ios::binary);
+  std::set<std::string> tips;
+  int lines = 0;
+  for (std::string line; std::getline(in, line); ++lines) {
+    ASSERT_TRUE(line.ends_with('\r')) << line;
+    EXPECT_LT(line.size(), 160U) << line;
+    tips.insert(line);
+  }
+  EXPECT_GE(lines, 40);
+  EXPECT_EQ(tips.size(), static_cast<std::size_t>(lines)) << "a tip stands there twice";
+}
+
+}  // namespace
+}  // namespace tarvik

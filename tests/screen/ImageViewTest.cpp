@@ -1,0 +1,86 @@
+// Pictures of all kinds, whole and broken, as they come from files.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QBuffer>
+#include <QImage>
+
+#include "controls/Form.h"
+#include "screen/ImageView.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr QSize kSize(40, 20);
+const QColor kColour(200, 30, 40);
+
+std::string Encoded(const char* format, QSize size = kSize) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(kColour);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  EXPECT_TRUE(image.save(&buffer, format)) << format;
+  return bytes.toStdString();
+}
+
+TEST(Pictures, OfEveryKindAreRead) {
+  for (const char* const format : {"bmp", "jpg", "png"}) {
+    const QImage picture = PictureIn(Encoded(format));
+    ASSERT_EQ(picture.size(), kSize) << format;
+    EXPECT_NEAR(picture.pixelColor(5, 5).red(), kColour.red(), 4) << format;
+  }
+  // Two points of a GIF, the left one red.
+  constexpr unsigned char kGif[] = {0x47, 0x49, 0x46, 0x38, 0x39, 0x61, 0x02, 0x00, 0x01, 0x00, 0x80, 0x00,
+                                    0x00, 0xFF, 0x00, 0x00, 0xFF, 0xFF, 0xFF, 0x2C, 0x00, 0x00, 0x00, 0x00,
+                                    0x02, 0x00, 0x01, 0x00, 0x00, 0x02, 0x02, 0x44, 0x0A, 0x00, 0x3B};
+  const QImage gif = PictureIn({reinterpret_cast<const char*>(kGif), sizeof kGif});
+  ASSERT_EQ(gif.size(), QSize(2, 1));
+  EXPECT_EQ(gif.pixelColor(0, 0), QColor(Qt::red));
+}
+
+TEST(Pictures, ThatAreBrokenAreNone) {
+  for (const char* const bytes : {"", "BM", "GIF89a", "no picture at all", "\xD7\xCD\xC6\x9A metafile"}) {
+    EXPECT_TRUE(PictureIn(bytes).isNull()) << bytes;
+  }
+  const std::string whole = Encoded("png");
+  for (std::size_t length = 0; length < whole.size(); length += 7) {
+    (void)PictureIn(std::string_view(whole).substr(0, length));
+  }
+  // A head that promises more than any memory holds.
+  std::string head = Encoded("bmp");
+  for (const std::size_t at : {18U, 22U}) head.replace(at, 4, "\xFF\xFF\xFF\x7F");
+  EXPECT_TRUE(PictureIn(head).isNull());
+}
+
+TEST(Pictures, OfAHundredMegapixelsAreMadeSmaller) {
+  QImage large(10000, 10000, QImage::Format_Mono);
+  large.fill(1);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  ASSERT_TRUE(large.save(&buffer, "png"));
+  const QImage picture = PictureIn(bytes.toStdString());
+  EXPECT_EQ(picture.size(), QSize(4096, 4096));
+  EXPECT_EQ(PictureIn(Encoded("png", {20000, 1})).height(), 1);
+}
+
+TEST(Pictures, KeepTheirProportionsOnScreen) {
+  Form form("Form");
+  ImageBox box(form, "Image1");
+  Bindings bindings;
+  ImageView view(box, bindings);
+  view.resize(100, 100);
+  const QColor empty = view.grab().toImage().pixelColor(50, 30);
+  box.Load("c:\\a.png", Encoded("png"));
+  const QImage shown = view.grab().toImage();
+  EXPECT_EQ(shown.pixelColor(50, 30), kColour);
+  EXPECT_EQ(shown.pixelColor(2, 50), kColour);
+  EXPECT_EQ(shown.pixelColor(50, 20), empty);
+  EXPECT_EQ(shown.pixelColor(50, 80), empty);
+  // What is no picture takes the place of the one before, and says so.
+  box.Load("c:\\b.png", "broken");
+  EXPECT_NE(view.grab().toImage(), shown);
+  EXPECT_EQ(view.grab().toImage().pixelColor(50, 30), empty);
+}
+
+}  // namespace
+}  // namespace tarvik::screen
