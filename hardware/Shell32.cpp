@@ -52,24 +52,23 @@ class Announced {
   std::string before_;
 };
 
-int WaitFor(Application& application, RunningProgram& program, const std::string& commandLine, int timeout) {
+/// Stands in front until the program has ended, or the user or the time has had enough; true for the time.
+bool ShowWait(Application& application, RunningProgram& program, const std::string& commandLine,
+              int timeout) {
   const TimersHeld held(application);
   const std::string waiting = "Waiting for " + commandLine + " to end ...";
   const Announced announced(application.mum().StatusBar.Panels(1), waiting);
-  ProgramState state = ProgramState::Running;
   auto& window = application.Tool<ProgramWait>();
   window.Label1.Caption = waiting;
   window.Modal = true;
   window.Visible = true;
   const auto timedOut = [&] { return timeout != kNoLimit && window.Waited >= timeout; };
   application.platform.dialogs.WaitWhile([&] {
-    state = program.State();
-    return state == ProgramState::Running && !application.Ended() && window.Visible && !timedOut();
+    return program.State() == ProgramState::Running && window.Visible && !timedOut() && !application.Ended();
   });
-  const bool late = window.Visible && timedOut();
-  if (window.Visible) application.Unload(window);
-  if (state == ProgramState::Ended) return wait::kEnded;
-  return state == ProgramState::Running && late ? wait::kTimedOut : wait::kAbandoned;
+  if (!window.Visible) return false;
+  application.Unload(window);
+  return timedOut();
 }
 
 }  // namespace
@@ -79,7 +78,10 @@ int ShellAndWait(Application& application, const std::string& commandLine, std::
   if (application.LoadedTool<ProgramWait>()) return StartFailed(kBusy);
   auto program = application.platform.programs.StartToWait(commandLine, WindowStyle::Normal);
   if (!program) return StartFailed(program.failure().number);
-  return WaitFor(application, **program, commandLine, timeout.value_or(kNoLimit));
+  const bool running = (*program)->State() == ProgramState::Running;
+  const bool timedOut = running && ShowWait(application, **program, commandLine, timeout.value_or(kNoLimit));
+  if ((*program)->State() == ProgramState::Ended) return wait::kEnded;
+  return timedOut ? wait::kTimedOut : wait::kAbandoned;
 }
 
 Outcome<> Shell(Application& application, const std::string& commandLine, WindowStyle style) {

@@ -29,8 +29,8 @@ void ListMenus::ShowFiles(const RecentList& list, const char* array, const char*
 
 void ListMenus::UpdateMnuCustomApps() {
   const auto& apps = lists_.CustomApps;
-  std::vector<std::string> names;
-  for (const CustomApp& app : apps) names.push_back(app.name);
+  std::vector<std::string> names(apps.size());
+  std::transform(apps.begin(), apps.end(), names.begin(), [](const CustomApp& app) { return app.name; });
   menus_.Fill("mnuCustomApp", names);
   for (int i = 0; i < PreviousFiles::kCustomApps; ++i) {
     menus_("mnuCustomApp", i + 1).Visible = apps[static_cast<std::size_t>(i)].use == 1;

@@ -187,6 +187,9 @@ Outcome<> Drives::ChangeFolder(std::string_view path) {
   return Done{};
 }
 
-std::string Drives::CurrentFolder() const { return current_.Complete(".")->Text(); }
+std::string Drives::FullPath(std::string_view path) const {
+  const auto whole = current_.Complete(path);
+  return whole ? whole->Text() : "";
+}
 
 }  // namespace tarvik

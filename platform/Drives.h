@@ -43,7 +43,11 @@ class Drives {
   /// Makes `path` the current folder of its drive; the current drive stays. Fails for what is no folder.
   Outcome<> ChangeFolder(std::string_view path);
   /// Of the current drive, as "c:\tm"; "c:\" for the root.
-  [[nodiscard]] std::string CurrentFolder() const;
+  [[nodiscard]] std::string CurrentFolder() const { return FullPath("."); }
+  /// The path from the root of its drive, in lower case; it may be relative. Empty for the empty path.
+  [[nodiscard]] std::string FullPath(std::string_view path) const;
+  /// The host folder of each drive, there or not; that of z too.
+  [[nodiscard]] const std::map<char, std::filesystem::path>& HostFolders() const { return folders_; }
 
  private:
   [[nodiscard]] std::optional<std::filesystem::path> Find(const LogicalPath& path) const;

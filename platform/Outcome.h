@@ -17,6 +17,7 @@ struct Failure {
 
 /// Error numbers that the program itself looks at or hands out.
 namespace error {
+inline constexpr int kInvalidCall = 5;
 inline constexpr int kOverflow = 6;
 inline constexpr int kTypeMismatch = 13;
 inline constexpr int kPathNotFound = 76;

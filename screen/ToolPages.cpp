@@ -221,7 +221,12 @@ QLayout* Page(JoyPlot& form, const FormLayout& in) {
 }
 
 QLayout* Page(ProgramWait& form, const FormLayout& in) {
-  return Column({in.Show(form.Label1), Row({Stretch(), in.Show(form.Command1)})});
+  constexpr int kWidth = 380;
+  auto* const text = static_cast<QLabel*>(in.Show(form.Label1));
+  text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  text->setMinimumWidth(kWidth);
+  return Column({text, Stretch(), Row({Stretch(), in.Show(form.Command1)})});
 }
 
 /// A path, cut in its middle where it is long; the tool tip has all of it.

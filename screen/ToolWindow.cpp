@@ -74,13 +74,15 @@ void ToolWindow::ShowWindow() {
   activateWindow();
 }
 
-/// A modal window stays in front of the one that asked, whatever is clicked. Any other is minimised by
-/// itself, and the frame may cover it unless it is topmost.
+/// A modal window stays in front of the one that asked, whatever is clicked, unless that one is out of sight
+/// and would take it along. Any other is minimised by itself, and the frame may cover it unless it is
+/// topmost.
 void ToolWindow::ChooseOwner() {
   create();
   const QWidget* const asking = QApplication::activeWindow();
   const QWidget* const owner = asking && asking != this ? asking : &frame_;
-  windowHandle()->setTransientParent(form().Modal ? owner->windowHandle() : nullptr);
+  const bool inSight = owner->isVisible() && !owner->isMinimized();
+  windowHandle()->setTransientParent(form().Modal && inSight ? owner->windowHandle() : nullptr);
 }
 
 /// At the frame's right, where it covers little of the text.

@@ -16,6 +16,7 @@
 #include "hardware/Games.h"
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
+#include "hardware/ProgramWait.h"
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "lists/Favourites.h"
@@ -35,7 +36,7 @@ class Windows : public testing::Test {
     application.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
     ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
-              EnterFavouritename, EnterGameName>();
+              ProgramWait, EnterFavouritename, EnterGameName>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();

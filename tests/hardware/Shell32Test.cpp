@@ -1,0 +1,113 @@
+#include <gtest/gtest.h>
+
+#include "app/Mum.h"
+#include "app/Program.h"
+#include "hardware/ProgramWait.h"
+#include "hardware/Shell32.h"
+
+namespace tarvik {
+namespace {
+
+using session::ProgramStart;
+
+class Shell32Test : public testing::Test {
+ protected:
+  /// Has this happen once while a program is waited for; then, as on the real screen, time goes by.
+  void Meanwhile(std::function<void()> what) {
+    program.outside.programs.state = ProgramState::Running;
+    program.outside.dialogs.next = [this, what = std::move(what), looks = 0]() mutable {
+      if (looks++ == 0) what();
+      auto* const window = program.application.LoadedTool<ProgramWait>();
+      if (window && window->Visible) window->Timer1.Elapsed();
+      return looks < 10000;
+    };
+  }
+  void End(ProgramState state) { program.outside.programs.state = state; }
+  int Wait(std::optional<int> style = {}, std::optional<int> timeout = {}) {
+    return ShellAndWait(program.application, "c:\\x.exe", style, timeout);
+  }
+  [[nodiscard]] const std::deque<ProgramStart>& started() const { return program.outside.programs.started; }
+
+  Program program;
+};
+
+TEST_F(Shell32Test, GivesWhatTheWaitGave) {
+  EXPECT_EQ(Wait(), 0);
+  Meanwhile([this] { End(ProgramState::Ended); });
+  EXPECT_EQ(Wait(), 0);
+  Meanwhile([this] { End(ProgramState::Abandoned); });
+  EXPECT_EQ(Wait(), 0x80);
+  Meanwhile([this] { program.application.LoadedTool<ProgramWait>()->Command1.Click(); });
+  EXPECT_EQ(Wait(), 0x80);
+  EXPECT_EQ(program.outside.programs.alive, 0);
+}
+
+TEST_F(Shell32Test, WaitsAsLongAsItIsTold) {
+  ProgramWait* window = nullptr;
+  Meanwhile([&] { window = program.application.LoadedTool<ProgramWait>(); });
+  EXPECT_EQ(Wait(1, 1000), 0x102);
+  ASSERT_TRUE(window);
+  EXPECT_EQ(window->Waited, 1000);
+  EXPECT_EQ(program.outside.programs.alive, 0) << "nobody waits for it any more";
+  Meanwhile([] {});
+  EXPECT_EQ(Wait(1, 0), 0x102);
+  Meanwhile([this] { End(ProgramState::Ended); });
+  EXPECT_EQ(Wait(1, -1), 0);
+}
+
+TEST_F(Shell32Test, GivesANegativeNumberForWhatDoesNotStart) {
+  program.outside.programs.fails = 53;
+  EXPECT_EQ(Wait(), static_cast<int>(0x80040035U));
+  EXPECT_FALSE(program.application.LoadedTool<ProgramWait>());
+}
+
+TEST_F(Shell32Test, AlwaysStartsInANormalWindow) {
+  for (const std::optional<int> style : {std::optional<int>(), std::optional(-1), std::optional(0),
+                                         std::optional(3), std::optional(6), std::optional(7)}) {
+    Wait(style);
+    EXPECT_EQ(started().back().style, WindowStyle::Normal);
+  }
+}
+
+TEST_F(Shell32Test, StartsNothingWhileAnotherIsWaitedFor) {
+  int second = 0;
+  Meanwhile([&] {
+    second = Wait();
+    End(ProgramState::Ended);
+  });
+  EXPECT_EQ(Wait(), 0);
+  EXPECT_EQ(second, static_cast<int>(0x80040046U));
+  EXPECT_EQ(started().size(), 1U);
+}
+
+TEST_F(Shell32Test, HoldsTheTimersOfTheOtherForms) {
+  Timer& timer = program.editor().Timer1;
+  Timer& blink = program.editor().TimerBlinkLine;
+  timer.Enabled = true;
+  blink.Enabled = false;
+  Meanwhile([&] {
+    EXPECT_FALSE(timer.Enabled);
+    EXPECT_TRUE(program.application.LoadedTool<ProgramWait>()->Timer1.Enabled);
+    End(ProgramState::Ended);
+  });
+  Wait();
+  EXPECT_TRUE(timer.Enabled);
+  EXPECT_FALSE(blink.Enabled);
+}
+
+TEST_F(Shell32Test, TheProgramEndsWithTarvik) {
+  Meanwhile([this] { program.application.CloseMum(); });
+  Wait();
+  EXPECT_EQ(program.outside.programs.alive, 0);
+}
+
+TEST_F(Shell32Test, AForgottenProgramIsNotWaitedFor) {
+  End(ProgramState::Running);
+  EXPECT_TRUE(Shell(program.application, "c:\\y.exe", WindowStyle::Maximised));
+  EXPECT_FALSE(started().back().waited);
+  EXPECT_EQ(started().back().style, WindowStyle::Maximised);
+  EXPECT_FALSE(program.application.LoadedTool<ProgramWait>());
+}
+
+}  // namespace
+}  // namespace tarvik
