@@ -8,8 +8,8 @@ ListMenus::ListMenus(PreviousFiles& lists, Menus& menus) : lists_(lists), menus_
   connections_ = {
       lists.JoystickFiles.Changed.Connect([this] { AddMnuJFArray(); }),
       lists.MacroFiles.Changed.Connect([this] { AddMnuMFArray(); }),
-      lists.Favourites.Changed.Connect([this] { menus_.Fill("mnuFavArray", lists_.Favourites.Names()); }),
-      lists.Games.Changed.Connect([this] { menus_.Fill("mnuGameArray", lists_.Games.Names()); }),
+      lists.Favourites.Changed.Connect([this] { AddmnuFavouritesArray(); }),
+      lists.Games.Changed.Connect([this] { AddmnuGamesArray(); }),
       lists.CustomAppsChanged.Connect([this] { UpdateMnuCustomApps(); }),
   };
 }
