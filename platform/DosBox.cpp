@@ -133,7 +133,7 @@ Outcome<std::string> Batch(const ParsedCommand& command, const std::string& lett
   const std::string program = drives.FullPath(command.program);
   if (!IsDosPath(program, kLongestProgram) || !IsDosTail(tail)) return CannotSay();
   const std::string current = drives.CurrentFolder();
-  std::string text = "@echo off\r\n";
+  std::string text = "@echo off\r\ncls\r\n";
   for (const char letter : letters) {
     const std::string folder = drives.FullPath(std::string{letter, ':', '.'});
     const bool fits = IsDosPath(folder, kLongestFolder);

@@ -221,8 +221,9 @@ QLayout* Page(JoyPlot& form, const FormLayout& in) {
 }
 
 QLayout* Page(ProgramWait& form, const FormLayout& in) {
-  constexpr int kWidth = 380;
+  constexpr int kWidth = 460;
   auto* const text = static_cast<QLabel*>(in.Show(form.Label1));
+  text->setAutoFillBackground(false);
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
   text->setMinimumWidth(kWidth);
