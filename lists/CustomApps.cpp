@@ -42,11 +42,10 @@ std::string CustomAppPathUse(Dialogs& dialogs, const std::string& path) {
     const std::string program = std::string(kWindowsFolder) + guard.program;
     if (!LowerCase(path).ends_with(guard.ending) || path.starts_with(program)) continue;
     const std::string whole = program + path;
-    const Answer answer =
-        dialogs.Show({guard.title,
-                      guard.question + program + "to your path so that it looks like this: " + whole +
-                          ". Would you like me to do this for you now?",
-                      BoxIcon::Information, BoxButtons::YesNo});
+    std::string question = guard.question;
+    question.append(program).append("to your path so that it looks like this: ").append(whole);
+    question += ". Would you like me to do this for you now?";
+    const Answer answer = dialogs.Show({guard.title, question, BoxIcon::Information, BoxButtons::YesNo});
     return answer == Answer::Yes ? whole : path;
   }
   return path;

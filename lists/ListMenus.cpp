@@ -8,8 +8,8 @@ ListMenus::ListMenus(PreviousFiles& lists, Menus& menus) : lists_(lists), menus_
   connections_ = {
       lists.JoystickFiles.Changed.Connect([this] { AddMnuJFArray(); }),
       lists.MacroFiles.Changed.Connect([this] { AddMnuMFArray(); }),
-      lists.Favourites.Changed.Connect([this] { menus_.Fill("mnuFavArray", lists_.Favourites.Names()); }),
-      lists.Games.Changed.Connect([this] { menus_.Fill("mnuGameArray", lists_.Games.Names()); }),
+      lists.Favourites.Changed.Connect([this] { AddmnuFavouritesArray(); }),
+      lists.Games.Changed.Connect([this] { AddmnuGamesArray(); }),
       lists.CustomAppsChanged.Connect([this] { UpdateMnuCustomApps(); }),
   };
 }
@@ -29,8 +29,8 @@ void ListMenus::ShowFiles(const RecentList& list, const char* array, const char*
 
 void ListMenus::UpdateMnuCustomApps() {
   const auto& apps = lists_.CustomApps;
-  std::vector<std::string> names;
-  for (const CustomApp& app : apps) names.push_back(app.name);
+  std::vector<std::string> names(apps.size());
+  std::transform(apps.begin(), apps.end(), names.begin(), [](const CustomApp& app) { return app.name; });
   menus_.Fill("mnuCustomApp", names);
   for (int i = 0; i < PreviousFiles::kCustomApps; ++i) {
     menus_("mnuCustomApp", i + 1).Visible = apps[static_cast<std::size_t>(i)].use == 1;

@@ -13,6 +13,8 @@ class ListMenus {
 
   void AddMnuJFArray();
   void AddMnuMFArray();
+  void AddmnuFavouritesArray() { menus_.Fill("mnuFavArray", lists_.Favourites.Names()); }
+  void AddmnuGamesArray() { menus_.Fill("mnuGameArray", lists_.Games.Names()); }
   void UpdateMnuCustomApps();
 
  private:
