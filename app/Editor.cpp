@@ -302,6 +302,8 @@ void Editor::SaveOpenSingleOnly() {
 void Editor::mnuPreferencesEdit_Click() { ShowPreferences(application_, Preferences::kFileLocations); }
 void Editor::mnuViewEditColours_Click() { ShowPreferences(application_, Preferences::kColours); }
 void Editor::mnuAppsEdit_Click() { ShowPreferences(application_, Preferences::kApps); }
+void Editor::mnuFavsEdit_Click() { ShowPreferences(application_, Preferences::kFavourites); }
+void Editor::mnuGamesEdit_Click() { ShowPreferences(application_, Preferences::kGames); }
 
 // Documents.
 

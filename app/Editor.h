@@ -70,6 +70,8 @@ class Editor : public Form {
   void mnuPreferencesEdit_Click();
   void mnuViewEditColours_Click();
   void mnuAppsEdit_Click();
+  void mnuFavsEdit_Click();
+  void mnuGamesEdit_Click();
 
   // Documents.
   void mnuFileNewJoystick_Click() { NewFile(Joystick); }

@@ -42,7 +42,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuFavouritesDivider1", "-"},
     {1, "mnuFavArray", "", "", nullptr, 0, &Editor::mnuFavArray_Click},
     {1, "mnuFavouritesDivider2", "-"},
-    {1, "mnuFavsEdit", "&Edit"},
+    {1, "mnuFavsEdit", "&Edit", "", &Editor::mnuFavsEdit_Click},
 
     {0, "mnuEdit", "&Edit"},
     {1, "mnuEditUndo", "&Undo", "Ctrl+Z", &Editor::mnuEditUndo_Click},
@@ -145,7 +145,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuGamesDivider1", "-"},
     {1, "mnuGameArray", "", "", nullptr, 0, &Editor::mnuGameArray_Click},
     {1, "mnuGamesDivider2", "-"},
-    {1, "mnuGamesEdit", "&Edit"},
+    {1, "mnuGamesEdit", "&Edit", "", &Editor::mnuGamesEdit_Click},
 
     {0, "mnuhelpWizards", "Wi&zards"},
     {1, "mnuWizBeginnersAdvice", "&Beginner's advice"},

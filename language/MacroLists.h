@@ -26,8 +26,8 @@ class MacroLists {
   void ShowMacroKeys();
   /// "All", then the headings of the macro file in its order; each has the list of its index.
   [[nodiscard]] const std::vector<std::string>& MacroHeadings() const { return headings_; }
-  /// Brings the list of the selected category to the front and takes its first macro; `lists` are the editor's
-  /// or a tool's copies of them.
+  /// Brings the list of the selected category to the front and takes its first macro; `lists` are the
+  /// editor's or a tool's copies of them.
   void ShowCategory() { ShowCategory(categories_, lists_); }
   void ShowCategory(const ComboBox& categories, const ControlArray<ListBox>& lists);
   /// Takes SelectedMacro from a list.
@@ -53,7 +53,7 @@ class MacroLists {
   Desk& desk_;
   ComboBox& categories_;
   ControlArray<ListBox>& lists_;
-  std::vector<std::string> records_;   // the macro file's, in order
+  std::vector<std::string> records_;  // the macro file's, in order
   std::vector<std::string> headings_;
 };
 

@@ -4,6 +4,7 @@
 #include "app/Mum.h"
 #include "app/SaveQuestion.h"
 #include "language/Highlighter.h"
+#include "lists/Preferences.h"
 #include "output/PrintRTFWordWrap.h"
 #include "platform/CodePage.h"
 
@@ -41,11 +42,11 @@ constexpr MenuRow<TemplateForm> kMenus[] = {
     {1, "mnuSelectAll", "Select &all", "Ctrl+A", &TemplateForm::mnuSelectAll_Click},
     {1, "mnuEditDivider1", "-"},
     {1, "mnuEditTarvikini", "Edit Tarvik.&ini", "Ctrl+I", &TemplateForm::mnuEditTarvikini_Click},
-    {1, "mnuEdTmpPrefs", "Default te&mplate ..."},
+    {1, "mnuEdTmpPrefs", "Default te&mplate ...", "", &TemplateForm::mnuEdTmpPrefs_Click},
     {0, "mnuView", "&View"},
     {1, "mnuColourApply", "&Apply colour highlighting", "", &TemplateForm::mnuColourApply_Click},
     {1, "mnuTextToBlack", "Text to &black", "", &TemplateForm::mnuTextToBlack_Click},
-    {1, "mnuViewEditColours", "Edit &colours ..."},
+    {1, "mnuViewEditColours", "Edit &colours ...", "", &TemplateForm::mnuViewEditColours_Click},
     {1, "mnuViewDivider1", "-"},
     {1, "mnuViewrefreshLayout", "&Refresh layout", "Ctrl+H", &TemplateForm::mnuViewrefreshLayout_Click},
     // Windows of their own have nothing to be arranged in.
@@ -367,6 +368,14 @@ void TemplateForm::mnuViewrefreshLayout_Click() {
 }
 
 // Colours.
+
+void TemplateForm::EditPreferences(int page) {
+  ShowPreferences(application_, page);
+  if (application_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
+}
+
+void TemplateForm::mnuEdTmpPrefs_Click() { EditPreferences(Preferences::kApps); }
+void TemplateForm::mnuViewEditColours_Click() { EditPreferences(Preferences::kColours); }
 
 void TemplateForm::mnuTextToBlack_Click() {
   const std::size_t start = TemplateText.SelStart;

@@ -65,6 +65,8 @@ class TemplateForm : public Form {
   void mnuSelectAll_Click() { TemplateText.Select({0, TemplateText.Characters().size()}); }
   void mnuEditTarvikini_Click();
   void mnuColourApply_Click() { ColourTemplateText(); }
+  void mnuEdTmpPrefs_Click();
+  void mnuViewEditColours_Click();
   void mnuTextToBlack_Click();
   void mnuViewrefreshLayout_Click();
   void mnuOverview_Click();
@@ -75,6 +77,7 @@ class TemplateForm : public Form {
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
 
  private:
+  void EditPreferences(int page);
   void AttachHandlers();
   void Say(const std::string& text);
   /// Asks about unsaved work, which goes when the user says so.

@@ -1,8 +1,10 @@
 #include "lists/Preferences.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "app/Editor.h"
+#include "lists/CustomApps.h"
 #include "platform/CodePage.h"
 
 namespace tarvik {
@@ -84,7 +86,7 @@ std::string WithBackslash(const std::string& path) {
 }
 
 template <std::size_t N>
-void Fill(ComboBox& combo, const char* const (&items)[N], int index) {
+void FillCombo(ComboBox& combo, const char* const (&items)[N], int index) {
   combo.FillInOrder({std::begin(items), std::end(items)});
   combo.ListIndex = index >= 0 && index < static_cast<int>(N) ? index : -1;
 }
@@ -100,11 +102,25 @@ Preferences::Preferences(Application& application)
     : Form("Preferences"),
       ExampleJoystickText(*this, "ExampleJoystickText", application.platform.files),
       application_(application),
-      settings_(application.settings) {
+      settings_(application.settings),
+      favourites_{application.lists.Favourites,
+                  List2,
+                  {&Text7, &Text8, &Text9},
+                  {&Command9, &Command10, &Command13, &Command14},
+                  "favourites",
+                  [this] { application_.lists.SaveFavourites(); }},
+      games_{application.lists.Games,
+             List3,
+             {&Text12, &Text11, &Text4, &Text13},
+             {&Check5, &Command16, &Command15, &Command4, &Command12},
+             "games",
+             [this] { application_.lists.SaveGames(); }} {
   Caption = "Preferences";
   NameControls();
   AttachHandlers();
   AttachMiscellaneous();
+  AttachApps();
+  AttachLists();
 }
 
 void Preferences::NameControls() {
@@ -140,6 +156,11 @@ void Preferences::AttachHandlers() {
   Text1.Change = [this] { settings_.B50LoadPath = Text1.Text.Get(); };
   Text2.Change = [this] { Text2_Change(); };
   Browse(Command1, Text1, "Locate Thrustmaster file", "Executables (*.exe)|*.exe|All files (*.*)|*.*");
+  Command2.Click = [this] {
+    const auto folder = Ignore(application_.platform.dialogs.AskForFolder(
+        "Select your Thrustmaster programs directory", Text2.Text));
+    if (folder) Text2.Text = WithBackslash(LowerCase(*folder));
+  };
   Browse(Command8, Text10, "Locate Thrustmaster file",
          "Batch files (*.bat)|*.bat|Executables (*.exe)|*.exe|All files (*.*)|*.*");
   Browse(Command5, Text5, "Locate image file", "Picture files|*.bmp;*.jpg;*.gif;*.wmf|All files (*.*)|*.*");
@@ -194,9 +215,9 @@ std::vector<Preferences::Tick> Preferences::Ticks() {
 // Life of the form.
 
 void Preferences::Form_Load() {
-  Fill(ComboJoystick, kJoysticks, settings_.JoyName);
-  Fill(ComboThrottle, kThrottles, settings_.ThrottleName);
-  Fill(ComboRudders, kRudders, settings_.RudderName);
+  FillCombo(ComboJoystick, kJoysticks, settings_.JoyName);
+  FillCombo(ComboThrottle, kThrottles, settings_.ThrottleName);
+  FillCombo(ComboRudders, kRudders, settings_.RudderName);
   Text1.Text = settings_.B50LoadPath.Get();
   Text2.Text = settings_.ProgramFilesPath.Get();
   Text10.Text = settings_.CandCCPath.Get();
@@ -231,6 +252,8 @@ void Preferences::Form_Unload() {
   settings_.FirstTimeUsed = 0;
   settings_.SaveOptions();
   SaveColourScheme();
+  application_.lists.SaveApps();
+  application_.lists.SaveFavourites();
   Editor* const editor = application_.editor();
   if (!editor) return;
   editor->Timer1.Enabled = settings_.AutoSaveEnabled == 1;
@@ -259,6 +282,8 @@ void Preferences::SSTab1_Click() {
     FillColours();
     ShowExample();
   }
+  if (SSTab1.Tab == kFavourites) UpdateFavouritesControls();
+  if (SSTab1.Tab == kGames) UpdateGamesControls();
 }
 
 void Preferences::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
@@ -291,6 +316,178 @@ void Preferences::ComboJoystick_Click() {
   settings_.JoyName = joystick;
   settings_.JoystickExtension = std::string(kEndings[joystick].joystick);
   settings_.MacroExtension = std::string(kEndings[joystick].macro);
+}
+
+// Apps.
+
+void Preferences::AttachApps() {
+  for (int row = 1; row <= PreviousFiles::kCustomApps; ++row) {
+    CustomApp& app = application_.lists.CustomApps[static_cast<std::size_t>(row - 1)];
+    TextBox& name = CustomAppNameText.Load(row);
+    TextBox& path = CustomAppPathText.Load(row);
+    CheckBox& use = CustomAppPathUse.Load(row);
+    name.Text = app.name;
+    path.Text = app.path;
+    use.Caption = "In the menu";
+    use.Value = app.use == 1 ? 1 : 0;
+    CustomAppPathBrowse.Load(row).Caption = "Browse";
+    Browse(
+        CustomAppPathBrowse(row), path, "Locate program",
+        "Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat|Help files (*.hlp)|*.hlp|Control panel applets "
+        "(*.cpl)|*.cpl|All files (*.*)|*.*");
+    const auto take = [this, &app, &name, &path] {
+      app.name = name.Text.Get();
+      app.path = path.Text.Get();
+      application_.lists.CustomAppsChanged();
+    };
+    name.Change = take;
+    path.Change = take;
+    use.Click = [this, row] { CustomAppPathUse_Click(row); };
+  }
+}
+
+void Preferences::CustomAppPathUse_Click(int row) {
+  CustomApp& app = application_.lists.CustomApps[static_cast<std::size_t>(row - 1)];
+  app.use = CustomAppPathUse(row).Value;
+  if (app.use == 1) {
+    CustomAppPathText(row).Text = tarvik::CustomAppPathUse(application_.platform.dialogs, app.path);
+  }
+  application_.lists.CustomAppsChanged();
+}
+
+// Favourites and games.
+
+void Preferences::AttachLists() {
+  AttachList(favourites_, Command13);
+  AttachList(games_, Command12);
+  PreviousFiles& lists = application_.lists;
+  const std::string all = "|All files (*.*)|*.*";
+  const auto own = [all](const std::string& kind, const std::string& ending) {
+    return kind + " (*." + ending + ")|*." + ending + all;
+  };
+  Command9.Click = [this, own] { Choose(favourites_, 1, own("Joystick file", settings_.JoystickExtension)); };
+  Command10.Click = [this, own] { Choose(favourites_, 2, own("Macro file", settings_.MacroExtension)); };
+  Command16.Click = [this, all] {
+    Choose(games_, 1, "Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat" + all);
+  };
+  Command15.Click = [this] { Choose(games_, 2, ""); };
+  Command4.Click = [this, own] { Choose(games_, 3, own("Joystick file", settings_.JoystickExtension)); };
+  Text7.LostFocus = [this] {
+    if (Text7.Empty() && List2.ListIndex >= 0) Text7.Text = std::string("Name?");
+  };
+  Text12.LostFocus = games_.save;
+  Text11.LostFocus = games_.save;
+  Command14.Click = [this, &lists] {
+    lists.FavNameToLoad = Text7.Text.Get();
+    Label11.Caption = Text7.Text.Get();
+    lists.SaveFavourites();
+  };
+  LoadAppCheckBox.Value = lists.FavLoadOnStart == 1 ? 1 : 0;
+  LoadAppCheckBox.Click = [this, &lists] {
+    lists.FavLoadOnStart = LoadAppCheckBox.Value;
+    lists.SaveFavourites();
+  };
+  Label11.Caption = lists.FavNameToLoad.Get();
+  Label11.BackColor = ToggleLabel::kOff;
+  Check5.Click = [this] {
+    if (filling_) return;
+    games_.list.SetPart(List3.ListIndex + 1, 4, Check5.Value.ToText());
+    games_.save();
+  };
+}
+
+void Preferences::AttachList(ListPage& page, CommandButton& remove) {
+  connections_.push_back(page.rows.ListIndex.Changed.Connect([this, &page] { ShowRecord(page); }));
+  for (std::size_t part = 0; part < page.parts.size(); ++part) {
+    TextBox& box = *page.parts[part];
+    box.Change = [this, &page, &box, part] {
+      const int row = page.rows.ListIndex;
+      if (filling_ || row < 0) return;
+      page.list.SetPart(row + 1, part, box.Text);
+      if (part == 0) Fill(page, row);
+    };
+  }
+  remove.Click = [this, &page] { Remove(page); };
+}
+
+/// The names, with the row in hand.
+void Preferences::Fill(ListPage& page, int row) {
+  const bool before = std::exchange(filling_, true);
+  page.rows.FillInOrder(page.list.Names());
+  page.rows.ListIndex = std::min(row, page.list.Count() - 1);
+  filling_ = before;
+}
+
+void Preferences::ShowRecord(ListPage& page) {
+  const int row = page.rows.ListIndex;
+  if (filling_ || row < 0) return;
+  filling_ = true;
+  for (std::size_t part = 0; part < page.parts.size(); ++part) {
+    page.parts[part]->Text = page.list.Part(row + 1, part);
+    page.parts[part]->Enabled = true;
+  }
+  for (Control* const other : page.others) other->Enabled = true;
+  if (&page == &games_) Check5.Value = page.list.Part(row + 1, 4) == "1" ? 1 : 0;
+  filling_ = false;
+}
+
+void Preferences::Disable(ListPage& page) {
+  Fill(page, -1);
+  filling_ = true;
+  for (TextBox* const part : page.parts) {
+    part->Text = std::string();
+    part->Enabled = false;
+  }
+  for (Control* const other : page.others) other->Enabled = false;
+  filling_ = false;
+}
+
+void Preferences::UpdateFavouritesControls() {
+  if (favourites_.list.Count() == 0) return DisableFavouritesControls();
+  Fill(favourites_, std::max(0, List2.ListIndex.Get()));
+  ShowRecord(favourites_);
+}
+
+void Preferences::DisableFavouritesControls() { Disable(favourites_); }
+
+void Preferences::UpdateGamesControls() {
+  if (games_.list.Count() == 0) return DisableGamesControls();
+  Fill(games_, std::max(0, List3.ListIndex.Get()));
+  ShowRecord(games_);
+}
+
+void Preferences::DisableGamesControls() { Disable(games_); }
+
+void Preferences::Choose(ListPage& page, std::size_t part, const std::string& filter) {
+  const int row = page.rows.ListIndex;
+  if (row < 0) return;
+  Dialogs& dialogs = application_.platform.dialogs;
+  TextBox& box = *page.parts[part];
+  const std::string folder = box.Text.Get().substr(0, box.Text.Get().rfind('\\') + 1);
+  const std::string title = "Select the working directory for " + page.list.Part(row + 1, 0);
+  const auto chosen =
+      Ignore(filter.empty() ? dialogs.AskForFolder(title, folder)
+                            : dialogs.AskForFile({FileDialogKind::Open, "", filter, folder, "", ""}));
+  if (!chosen) return;
+  box.Text = LowerCase(*chosen);
+  page.save();
+}
+
+void Preferences::Remove(ListPage& page) {
+  const int row = page.rows.ListIndex;
+  if (row < 0) return;
+  const std::string name = page.list.Part(row + 1, 0);
+  const std::string menu = page.menu;
+  const Answer answer = application_.platform.dialogs.Show(
+      {"Remove " + name + " from " + menu + "?",
+       "Are you sure you want to remove " + name + " from the " + menu + " menu?", BoxIcon::Question,
+       BoxButtons::YesNo});
+  if (answer != Answer::Yes) return;
+  const Trap trap{application_.errors, "PREF Remove"};
+  trap(page.list.Remove(row + 1));
+  page.save();
+  if (&page == &games_) return UpdateGamesControls();
+  UpdateFavouritesControls();
 }
 
 // Colours and fonts.

@@ -44,6 +44,35 @@ class Preferences : public Form {
   CommandButton Command5{*this, "Command5", "Browse"};
   CommandButton Command7{*this, "Command7", "Browse"};
 
+  ControlArray<TextBox> CustomAppNameText{*this, "CustomAppNameText", 0};  ///< 1-based, as the programs are
+  ControlArray<TextBox> CustomAppPathText{*this, "CustomAppPathText", 0};
+  ControlArray<CheckBox> CustomAppPathUse{*this, "CustomAppPathUse", 0};
+  ControlArray<CommandButton> CustomAppPathBrowse{*this, "CustomAppPathBrowse", 0};
+
+  // Favourites.
+  ListBox List2{*this, "List2"};
+  TextBox Text7{*this, "Text7"};  ///< the name
+  TextBox Text8{*this, "Text8"};  ///< the joystick file
+  TextBox Text9{*this, "Text9"};  ///< the macro file
+  CommandButton Command9{*this, "Command9", "Browse"};
+  CommandButton Command10{*this, "Command10", "Browse"};
+  CommandButton Command13{*this, "Command13", "Remove"};
+  CommandButton Command14{*this, "Command14", "Load this one on start"};
+  CheckBox LoadAppCheckBox{*this, "LoadAppCheckBox", "Load a favourite on start:"};
+  Label Label11{*this, "Label11"};  ///< which
+
+  // Games.
+  ListBox List3{*this, "List3"};
+  TextBox Text12{*this, "Text12"};  ///< the name
+  TextBox Text11{*this, "Text11"};  ///< the command line
+  TextBox Text4{*this, "Text4"};    ///< the folder
+  TextBox Text13{*this, "Text13"};  ///< the joystick file
+  CheckBox Check5{*this, "Check5", "Transfer joystick file to joystick when game is run"};
+  CommandButton Command16{*this, "Command16", "Browse"};
+  CommandButton Command15{*this, "Command15", "Select"};
+  CommandButton Command4{*this, "Command4", "Browse"};
+  CommandButton Command12{*this, "Command12", "Remove"};
+
   // Miscellaneous.
   ControlArray<CheckBox> Check3{*this, "Check3", 2};
   TextBox Text3{*this, "Text3"};  ///< minutes of autosave
@@ -81,8 +110,24 @@ class Preferences : public Form {
   void DLYtext_Change();
   void TxtUndoLevels_Change();
   void TxtUndoLevels_LostFocus();
+  void CustomAppPathUse_Click(int row);
+  void UpdateFavouritesControls();
+  void DisableFavouritesControls();
+  void UpdateGamesControls();
+  void DisableGamesControls();
 
  private:
+  /// A page that edits a list: its rows, the boxes of a record's parts in their order, and what else goes
+  /// grey without a row.
+  struct ListPage {
+    RecentList& list;
+    ListBox& rows;
+    std::vector<TextBox*> parts;
+    std::vector<Control*> others;
+    const char* menu;  ///< what a record is removed from
+    std::function<void()> save;
+  };
+
   /// A box whose tick is a setting.
   struct Tick {
     CheckBox& box;
@@ -96,11 +141,24 @@ class Preferences : public Form {
   void FillColours();
   void ShowExample();
   void PaintExample(std::string_view word, std::string_view end, Colour colour);
+  void AttachApps();
+  void AttachLists();
+  void AttachList(ListPage& page, CommandButton& remove);
+  void Fill(ListPage& page, int row);
+  void Disable(ListPage& page);
+  void ShowRecord(ListPage& page);
+  void Remove(ListPage& page);
+  /// Looks for a file, or a folder, for a part of the record in hand.
+  void Choose(ListPage& page, std::size_t part, const std::string& filter);
   void Say(const std::string& text);
   [[nodiscard]] std::vector<Tick> Ticks();
 
   Application& application_;
   Settings& settings_;
+  ListPage favourites_;
+  ListPage games_;
+  bool filling_ = false;  // the form itself puts a record into the boxes
+  std::vector<Connection> connections_;
 };
 
 /// Shows the preferences on one of their pages and waits; a new font is in force afterwards.

@@ -73,6 +73,25 @@ void RecentList::Take(int index) {
   for (std::size_t part = 0; part < record.size(); ++part) inHand_[part] = record[part];
 }
 
+const std::string& RecentList::Part(int index, std::size_t part) const {
+  return records_[static_cast<std::size_t>(index - 1)][part];
+}
+
+void RecentList::SetPart(int index, std::size_t part, const std::string& text) {
+  records_[static_cast<std::size_t>(index - 1)][part] = text;
+  Changed();
+}
+
+Outcome<> RecentList::Remove(int index) {
+  records_.erase(records_.begin() + (index - 1));
+  std::vector<ProfileEntry> entries;
+  for (std::size_t part = 0; part < traits_.keys.size(); ++part) {
+    entries.push_back({std::string(traits_.section), KeyOf(part, records_.size()), ""});
+  }
+  Changed();
+  return Save(std::move(entries));
+}
+
 Outcome<> RecentList::Save(std::vector<ProfileEntry> more) const {
   more.insert(more.begin(), CountEntry());
   for (std::size_t i = 0; i < records_.size(); ++i) {

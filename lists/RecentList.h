@@ -44,6 +44,11 @@ class RecentList {
   void Use();
   /// Takes a record in hand; 1-based.
   void Take(int index);
+  /// A part of a record, by its place in the traits.
+  [[nodiscard]] const std::string& Part(int index, std::size_t part) const;
+  void SetPart(int index, std::size_t part, const std::string& text);
+  /// Takes a record out, and writes that there is nothing behind the last one now.
+  Outcome<> Remove(int index);
   /// Writes the count, then `more`, then the records. What stood behind them in a longer list stays.
   Outcome<> Save(std::vector<ProfileEntry> more = {}) const;
   /// Forgets all records, and writes that there is nothing in their places.

@@ -167,7 +167,8 @@ QRectF DeviceView::ControlOf(const Spot& spot) const {
 }
 
 void DeviceView::PlaceLabels() {
-  for (const Spot& spot : spots_) spot.label->setGeometry(RectOf(spot.id + QLatin1String("-box")).toAlignedRect());
+  for (const Spot& spot : spots_)
+    spot.label->setGeometry(RectOf(spot.id + QLatin1String("-box")).toAlignedRect());
 }
 
 void DeviceView::paintEvent(QPaintEvent*) {

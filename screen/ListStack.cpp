@@ -69,7 +69,8 @@ Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
   return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
 }
 
-ListStack::ListStack(Bindings& bindings, const QString& name, bool ticks) : bindings_(bindings), model_(ticks) {
+ListStack::ListStack(Bindings& bindings, const QString& name, bool ticks)
+    : bindings_(bindings), model_(ticks) {
   setModel(&model_);
   if (ticks) setItemDelegate(new TickDelegate(*this));
   setUniformItemSizes(true);

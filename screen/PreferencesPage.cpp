@@ -51,10 +51,49 @@ QLayout* Colours(Preferences& form, const FormLayout& in) {
 }
 
 QLayout* Apps(Preferences& form, const FormLayout& in) {
+  constexpr int kNameWidth = 150;
+  auto* const apps = new QGridLayout;
+  for (int row = 1; row <= PreviousFiles::kCustomApps; ++row) {
+    const auto named = [row](QWidget* shown, const char* name) {
+      return Named(shown, QString::fromUtf8(name) + QString::number(row));
+    };
+    QWidget* const name = named(in.Show(form.CustomAppNameText(row)), "Name ");
+    name->setFixedWidth(kNameWidth);
+    apps->addWidget(name, row, 0);
+    apps->addWidget(named(in.Show(form.CustomAppPathText(row)), "Command line "), row, 1);
+    apps->addWidget(named(in.Show(form.CustomAppPathBrowse(row)), "Browse "), row, 2);
+    apps->addWidget(named(in.Show(form.CustomAppPathUse(row)), "In the menu "), row, 3);
+  }
   return Column(
       {Group("What the tools start with", Paths(in, {{"Image Viewer", form.Text5, form.Command5},
                                                      {"Template Editor", form.Text6, form.Command7}})),
-       Stretch()});
+       Group("Custom apps: name and command line", apps), Stretch()});
+}
+
+/// The names beside the record in hand.
+QLayout* ListPage(const FormLayout& in, ListBox& rows, const char* name, TextBox& first, QLayout* record) {
+  constexpr int kListWidth = 190;
+  QWidget* const list = Named(in.Show(rows), QString::fromUtf8(name));
+  list->setFixedWidth(kListWidth);
+  return Row({list, Column({Above("Name for menu", in.Show(first)), record})});
+}
+
+QLayout* Favourites(Preferences& form, const FormLayout& in) {
+  QWidget* const toLoad = in.Show(form.Label11);
+  toLoad->setAutoFillBackground(false);
+  return ListPage(in, form.List2, "Favourites", form.Text7,
+                  Column({Paths(in, {{"Joystick file", form.Text8, form.Command9},
+                                     {"Macro file", form.Text9, form.Command10}}),
+                          Row({Stretch(), in.Show(form.Command13)}), Stretch(),
+                          Row({in.Show(form.LoadAppCheckBox), toLoad, Stretch(), in.Show(form.Command14)})}));
+}
+
+QLayout* Games(Preferences& form, const FormLayout& in) {
+  return ListPage(in, form.List3, "Games", form.Text12,
+                  Column({Paths(in, {{"File that runs game", form.Text11, form.Command16},
+                                     {"Working directory", form.Text4, form.Command15},
+                                     {"Joystick file", form.Text13, form.Command4}}),
+                          in.Show(form.Check5), Row({Stretch(), in.Show(form.Command12)}), Stretch()}));
 }
 
 QLayout* Miscellaneous(Preferences& form, const FormLayout& in) {
@@ -87,8 +126,8 @@ QLayout* Miscellaneous(Preferences& form, const FormLayout& in) {
 }  // namespace
 
 QLayout* Page(Preferences& form, const FormLayout& in) {
-  return Column({in.Show(form.SSTab1, {FileLocations(form, in), Colours(form, in), Apps(form, in), Column({}),
-                                       Miscellaneous(form, in), Column({})}),
+  return Column({in.Show(form.SSTab1, {FileLocations(form, in), Colours(form, in), Apps(form, in),
+                                       Favourites(form, in), Miscellaneous(form, in), Games(form, in)}),
                  Row({Stretch(), in.Show(form.Command6), in.Show(form.Command3)})});
 }
 

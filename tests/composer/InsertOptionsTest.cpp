@@ -1,11 +1,10 @@
-#include "composer/InsertOptions.h"
-
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <map>
 
 #include "app/Program.h"
+#include "composer/InsertOptions.h"
 
 namespace tarvik {
 namespace {
