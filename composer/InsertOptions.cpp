@@ -303,9 +303,11 @@ void InsertOptions::CopyMacroList() {
 void InsertOptions::Combo1_Click() { editor().macroLists().ShowCategory(Combo1, List1); }
 
 void InsertOptions::List1_MouseDown(int index, const Mouse& mouse) {
+  constexpr int kLeft = 1;
   constexpr int kRight = 2;
   List1_MouseMove(index, mouse);
-  if (List1(index).ListCount() == 0 || mouse.button == 0) return;
+  const bool finds = mouse.button == kLeft && mouse.shift == shift::kShift;
+  if (List1(index).ListCount() == 0 || (!finds && mouse.button != kRight)) return;
   PopupListIndex = index;
   if (mouse.button == kRight) PopUp("mnuRHList");
 }

@@ -158,7 +158,12 @@ TEST_F(Windows, TakeTheFocusFromTopToBottom) {
           << window->windowTitle().toStdString() << ": " << stop->objectName().toStdString();
       before = here;
     }
-    EXPECT_FALSE(FocusChain(*window).empty());
+    // Some windows are for looking at, or have little to say.
+    const QStringList small = {QStringLiteral("JoyPlot"), QStringLiteral("KeyTestForm"),
+                               QStringLiteral("ViewImage"), QStringLiteral("ProgramWait"),
+                               QStringLiteral("frmAbout")};
+    EXPECT_GE(FocusChain(*window).size(), small.contains(window->objectName()) ? 1U : 3U)
+        << window->objectName().toStdString();
   }
 }
 
