@@ -3,20 +3,7 @@
 #include <algorithm>
 
 #include "app/EditorTables.h"
-#include "composer/InsertOptions.h"
-#include "hardware/Download.h"
-#include "hardware/Games.h"
-#include "hardware/JoyPlot.h"
-#include "hardware/KeyTestForm.h"
-#include "hardware/RAWform.h"
-#include "language/FindAndReplace.h"
-#include "language/TemplateForm.h"
-#include "lists/CustomApps.h"
-#include "lists/Favourites.h"
 #include "lists/Preferences.h"
-#include "output/TextBlocks.h"
-#include "output/Tips.h"
-#include "output/ViewImage.h"
 
 namespace tarvik {
 namespace {
@@ -297,14 +284,6 @@ void Editor::SaveOpenSingleOnly() {
                               mnuJoyPopUpSingleFile.Checked ? "1" : "0");
 }
 
-// Preferences.
-
-void Editor::mnuPreferencesEdit_Click() { ShowPreferences(application_, Preferences::kFileLocations); }
-void Editor::mnuViewEditColours_Click() { ShowPreferences(application_, Preferences::kColours); }
-void Editor::mnuAppsEdit_Click() { ShowPreferences(application_, Preferences::kApps); }
-void Editor::mnuFavsEdit_Click() { ShowPreferences(application_, Preferences::kFavourites); }
-void Editor::mnuGamesEdit_Click() { ShowPreferences(application_, Preferences::kGames); }
-
 // Documents.
 
 void Editor::NewFile(Document& document) {
@@ -352,14 +331,6 @@ void Editor::mnuPreviousClearAllM_Click() {
   application_.lists.ClearAll(application_.lists.MacroFiles);
   menus("mnuFilePrevious").Enabled = false;
 }
-
-// Favourites, games, and the user's own programs.
-
-void Editor::mnuFavouritesAddCurrent_Click() { AddToFavourites(application_); }
-void Editor::mnuFavArray_Click(int index) { OpenFavourite(application_, index); }
-void Editor::mnuGamesAdd_Click() { AddGame(application_); }
-void Editor::mnuGameArray_Click(int index) { StartGame(application_, index); }
-void Editor::mnuCustomApp_Click(int index) { RunCustomApp(application_, index); }
 
 /// The tab that was selected is not selected again.
 void Editor::EmergencySaveFiles() {
@@ -417,84 +388,6 @@ void Editor::UpdateUndoRedoMenus() {
 void Editor::DeleteUndosFromMemory() {
   DeleteUndosOnSaveJ();
   DeleteUndosOnSaveM();
-}
-
-// Editing.
-
-void Editor::mnuEditFind_Click() { application_.Tool<FindAndReplace>().ShowFind(); }
-void Editor::mnuEditReplace_Click() { application_.Tool<FindAndReplace>().ShowReplace(); }
-void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(); }
-
-// The Composer.
-
-void Editor::mnuShowInsertWindow_Click() { application_.Tool<InsertOptions>().ShowComposer(); }
-void Editor::mnuComposerPlugin_Click() { application_.Tool<InsertOptions>().ShowTemplates(); }
-
-// Pimlet.
-
-void Editor::mnuInsertRAW_Click() { application_.Tool<RAWform>().Show(); }
-
-// Blocks.
-
-void Editor::mnuInsertTitle_Click() { InsertTitle(application_); }
-void Editor::mnuInsertHeading_Click() { InsertHeading(application_); }
-void Editor::mnuInsertRemStatement_Click() { InsertRemStatement(application_); }
-
-// Apps.
-
-void Editor::mnuSendToKeyTest_Click() {
-  auto& form = application_.Tool<KeyTestForm>();
-  form.Visible = true;
-  form.RTFKeysText.SetFocus();
-}
-
-void Editor::mnuAppsImageViewer_Click() {
-  auto& form = application_.Tool<ViewImage>();
-  form.Show();
-  form.Image1.SetFocus();
-}
-
-void Editor::mnuAppsTemplate_Click() { application_.Tool<TemplateForm>().ShowText(); }
-
-void Editor::mnuAppsJoyAnalyser_Click() { application_.Tool<JoyPlot>().PicJoy.SetFocus(); }
-
-void Editor::mnuAppsTMScope_Click() { StartTMScope(application_); }
-void Editor::mnuAppsCandCC_Click() { StartControlCentre(application_); }
-void Editor::mnuF22Setup_Click() { StartF22Utility(application_, F22Utility::Setup); }
-void Editor::mnuF22Clear_Click() { StartF22Utility(application_, F22Utility::Clear); }
-void Editor::mnuF22Reset_Click() { StartF22Utility(application_, F22Utility::Reset); }
-void Editor::mnuF22Delay_Click() { StartF22Utility(application_, F22Utility::Delay); }
-void Editor::mnuSendToJoystick_Click() { SendToJoystick(application_); }
-
-void Editor::mnuAppsQuiet_Click() {
-  MenuItem& quiet = menus("mnuAppsQuiet");
-  quiet.Checked = !quiet.Checked;
-}
-
-void Editor::mnuHelpContents_Click() {
-  constexpr int kContents = 1000;
-  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kContents);
-}
-
-void Editor::mnuHelpTips_Click() { application_.ShowModal(application_.Tool<frmTip>()); }
-void Editor::mnuHelpAbout_Click() { application_.ShowModal(application_.Tool<frmAbout>()); }
-
-// Keys that the tools pass on.
-
-void Editor::ForwardKey(Key& key) const {
-  constexpr int kF1 = 112;
-  constexpr int kF7 = 118;  // bears no shortcut in the menu
-  constexpr int kF12 = 123;
-  std::string shortcut;
-  if (key.shift == shift::kCtrl && key.code >= 'A' && key.code <= 'Z') {
-    shortcut = std::string("Ctrl+") + static_cast<char>(key.code);
-  } else if (key.shift != shift::kCtrl && key.code > kF1 && key.code <= kF12) {
-    shortcut = "F" + TextOf(key.code - kF1 + 1);
-  }
-  MenuItem* const item = key.code == kF7 ? &menus("mnuViewIdentify") : menus.WithShortcut(shortcut);
-  if (shortcut.empty() || !item || !item->Enabled) return;
-  item->Click();
-  if (key.shift == shift::kCtrl) key = {};
 }
 
 // View.

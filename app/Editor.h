@@ -200,6 +200,14 @@ class Editor : public Form {
   void mnuSendToJoystick_Click();
   void mnuAppsQuiet_Click();
 
+  // Wizards.
+  void mnuhelpWizCreateMacroFile_Click();
+  void mnuhelpWizCreateJoyFile_Click();
+  void mnuWizSpeedy_Click();
+  void mnuWizBeginnersAdvice_Click();
+  void mnuWizOrlanTip1_Click();
+  void mnuWizLogic1_Click();
+
   // Help.
   void mnuHelpContents_Click();
   void mnuHelpTips_Click();

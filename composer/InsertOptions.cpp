@@ -107,7 +107,7 @@ void InsertOptions::MakeFrame() {
   CommandHelp.Click = [this] { CommandHelp_Click(); };
   Command6.ToolTipText = "Hides the Composer and keeps it in memory for faster recall";
   Command6.Cancel = true;
-  Command6.Click = [this] { Visible = false; };
+  Command6.Click = [this] { Command6_Click(); };
   SSTab1.Click = [this] { SSTab1_Click(); };
   Load = [this] { Form_Load(); };
   Activate = [this] { Form_Activate(); };

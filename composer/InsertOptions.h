@@ -133,6 +133,8 @@ class InsertOptions : public Form {
   void HAT_Click(int index);
   void TRIG_Click() { PopUp("mnuTrigger"); }
   void ROTARY_Click(int index);
+  /// The latch that makes the next trigger the game port's.
+  void ArmPort(bool arm);
   void MnuHatPostion_Click(int index);
   void MnuHatCornerPostion_Click(int index);
   void mnuTrig_Click(int index);
@@ -171,6 +173,7 @@ class InsertOptions : public Form {
   void FindLogicStatements();
 
   void Command5_Click(int index);
+  void Command6_Click() { Visible = false; }
   void Command14_Click();
   void CommandHelp_Click();
   void Check1_Click();
@@ -206,7 +209,6 @@ class InsertOptions : public Form {
   [[nodiscard]] Editor& editor() const { return *application_.editor(); }
   [[nodiscard]] StatementStyle Style() const;
   [[nodiscard]] bool PortArmed() const;
-  void ArmPort(bool arm);
   void FindOrWrite(const Statement& statement);
   void TabStatement_Click(const tables::TabRow& row);
   [[nodiscard]] int LitAxis() const;

@@ -3,6 +3,8 @@
 #include <cmath>
 
 #include "app/Editor.h"
+#include "composer/MacroWizard.h"
+#include "composer/Speedy.h"
 #include "output/TextBlocks.h"
 
 namespace tarvik {
@@ -322,7 +324,15 @@ void RAWform::Command4_Click() {
   FormatCombinedText();
 }
 
+template <class F>
+void RAWform::CopyLineTo() const {
+  const F* const form = application_.LoadedTool<F>();
+  if (form && form->Visible) form->Text1(1).Text = Line();
+}
+
 void RAWform::TotalCombinedText_Change() {
+  CopyLineTo<Speedy>();
+  CopyLineTo<MacroWizard>();
   for (const int i : {0, 1}) CommandINS(i).Enabled = !TotalCombinedText.Characters().empty();
 }
 

@@ -95,6 +95,9 @@ class RAWform : public Form {
   void ShowKeystrings();
   [[nodiscard]] Keystrings GetKeystrings() const;
   void Toggle(ToggleLabel& label, std::initializer_list<int> keys);
+  /// To a form that makes macros while it is shown.
+  template <class F>
+  void CopyLineTo() const;
   [[nodiscard]] std::string Line() const { return TotalCombinedText.Text; }
   void SetLine(const std::string& line, int kind);
   void AddText(const std::string& text);

@@ -94,6 +94,13 @@ std::string GetHardwareNames(const Settings& settings) {
          Row(kRudders, settings.RudderName);
 }
 
+std::span<const char* const> MacroHeadings() { return kHeadings; }
+
+std::vector<std::string> HeadingBlock(const std::string& text) {
+  const std::string rule = "Rem " + std::string(text.size() + kHeadingOverhang, '-');
+  return {rule, "Rem " + std::string(kHeadingIndent, ' ') + text, rule};
+}
+
 // The title.
 
 Title::Title(Application& application)
@@ -175,7 +182,7 @@ Heading::Heading(Application& application) : Form("Heading"), application_(appli
   for (const int i : {0, 1}) {
     Command1(i).Click = [this, i] { Command1_Click(i); };
   }
-  for (const char* const heading : kHeadings) Combo1.AddItem(heading);
+  for (const char* const heading : MacroHeadings()) Combo1.AddItem(heading);
 }
 
 void Heading::Command1_Click(int index) {
@@ -190,11 +197,10 @@ void InsertHeading(Application& application) {
   application.ShowModal(form);
   const std::string text = application.values.REMText;
   if (text.empty()) return;
-  const std::string rule = "Rem " + std::string(text.size() + kHeadingOverhang, '-');
   ColouredInsertion& insertion = application.editor()->insertion();
   insertion.BeginColInsert();
   application.editor()->CheckAtLineBeginning();
-  WriteLines(application, {rule, "Rem " + std::string(kHeadingIndent, ' ') + text, rule});
+  WriteLines(application, HeadingBlock(text));
   insertion.EndColInsert();
 }
 

@@ -2,6 +2,8 @@
 // single remark, each with the small window that asks for its text.
 #pragma once
 
+#include <span>
+
 #include "app/Application.h"
 #include "panes/Pane.h"
 
@@ -68,6 +70,11 @@ class SingleTextForm : public Form {
 
 /// The user's hardware in words, as "F-16 FLCS, TQS, RCS."
 [[nodiscard]] std::string GetHardwareNames(const Settings& settings);
+
+/// The usual headings of a macro file.
+[[nodiscard]] std::span<const char* const> MacroHeadings();
+/// The three lines that make a text a heading of the macro file.
+[[nodiscard]] std::vector<std::string> HeadingBlock(const std::string& text);
 
 /// Asks for a remark in a window: its text with a blank behind it, empty after Cancel.
 std::string AskForRemark(Application& application);

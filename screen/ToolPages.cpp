@@ -385,10 +385,11 @@ ToolWindow::MakePage PageFor(Form& form) {
 
 ToolWindow::MakePage PageOf(Form& form) {
   for (const auto& find :
-       {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Preferences>, PageFor<Title>,
-        PageFor<Heading>, PageFor<SingleTextForm>, PageFor<RAWform>, PageFor<KeyTestForm>, PageFor<JoyPlot>,
-        PageFor<ProgramWait>, PageFor<EnterFavouritename>, PageFor<EnterGameName>, PageFor<TemplateForm>,
-        PageFor<frmTip>, PageFor<frmAbout>, PageFor<ViewImage>, PageFor<SelectPictureForm>}) {
+       {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Preferences>, PageFor<Wizard>,
+        PageFor<Speedy>, PageFor<Title>, PageFor<Heading>, PageFor<SingleTextForm>, PageFor<RAWform>,
+        PageFor<KeyTestForm>, PageFor<JoyPlot>, PageFor<ProgramWait>, PageFor<EnterFavouritename>,
+        PageFor<EnterGameName>, PageFor<TemplateForm>, PageFor<frmTip>, PageFor<frmAbout>, PageFor<ViewImage>,
+        PageFor<SelectPictureForm>}) {
     if (auto page = find(form)) return page;
   }
   return {};

@@ -5,6 +5,8 @@
 #include <QDialog>
 
 #include "composer/InsertOptions.h"
+#include "composer/Speedy.h"
+#include "composer/Wizard.h"
 #include "lists/Preferences.h"
 #include "screen/FormLayout.h"
 #include "screen/FormView.h"
@@ -56,6 +58,8 @@ class ToolWindow : public QDialog, public FormView {
 /// The pages that are large enough for a file of their own.
 [[nodiscard]] QLayout* Page(InsertOptions& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(Preferences& form, const FormLayout& in);
+[[nodiscard]] QLayout* Page(Wizard& form, const FormLayout& in);
+[[nodiscard]] QLayout* Page(Speedy& form, const FormLayout& in);
 
 /// The page of the form's window, or nothing for a form that is shown in another way.
 [[nodiscard]] ToolWindow::MakePage PageOf(Form& form);

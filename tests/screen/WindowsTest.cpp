@@ -13,6 +13,9 @@
 #include "app/ColourSelector.h"
 #include "app/Editor.h"
 #include "composer/InsertOptions.h"
+#include "composer/JoystickWiz.h"
+#include "composer/MacroWizard.h"
+#include "composer/Speedy.h"
 #include "hardware/Games.h"
 #include "hardware/JoyPlot.h"
 #include "hardware/KeyTestForm.h"
@@ -41,7 +44,7 @@ class Windows : public testing::Test {
     application.Start();
     ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
               ProgramWait, EnterFavouritename, EnterGameName, Preferences, TemplateForm, frmTip, frmAbout,
-              ViewImage, SelectPictureForm>();
+              ViewImage, SelectPictureForm, MacroWizard, JoystickWiz, Speedy>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();
@@ -159,9 +162,10 @@ TEST_F(Windows, TakeTheFocusFromTopToBottom) {
       before = here;
     }
     // Some windows are for looking at, or have little to say.
-    const QStringList small = {QStringLiteral("JoyPlot"), QStringLiteral("KeyTestForm"),
-                               QStringLiteral("ViewImage"), QStringLiteral("ProgramWait"),
-                               QStringLiteral("frmAbout")};
+    const QStringList small = {QStringLiteral("JoyPlot"),    QStringLiteral("KeyTestForm"),
+                               QStringLiteral("ViewImage"),  QStringLiteral("ProgramWait"),
+                               QStringLiteral("frmAbout"),   QStringLiteral("MacroWizard"),
+                               QStringLiteral("JoystickWiz")};
     EXPECT_GE(FocusChain(*window).size(), small.contains(window->objectName()) ? 1U : 3U)
         << window->objectName().toStdString();
   }

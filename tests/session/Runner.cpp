@@ -619,16 +619,18 @@ void Runner::ExpectValue(const Line& line) {
   Compare(Wanted(line, 3), property->ToText());
 }
 
-/// expect box TITLE [TEXT [none|information|question|exclamation [No]]]: No is the button that Enter presses
+/// expect box TITLE [TEXT [none|information|question|exclamation [No]]], the text also as a block below: No
+/// is the button that Enter presses
 void Runner::ExpectBox(const Line& line) {
   constexpr const char* kIcons[] = {"none", "information", "question", "exclamation"};
   if (outside_.dialogs.boxes.empty()) throw Stop{"there was no box"};
   const MessageBox box = outside_.dialogs.boxes.front();
   outside_.dialogs.boxes.pop_front();
   Compare(Word(line, 2), box.title);
-  if (line.words.size() > 3) Compare(line.words[3], box.text);
-  if (line.words.size() > 4) Compare(line.words[4], kIcons[static_cast<int>(box.icon)]);
-  if (line.words.size() > 5) Compare(line.words[5], box.preset == Answer::No ? "No" : "");
+  const std::size_t icon = line.hasBlock ? 3 : 4;
+  if (line.hasBlock || line.words.size() > 3) Compare(Wanted(line, 3), box.text);
+  if (line.words.size() > icon) Compare(line.words[icon], kIcons[static_cast<int>(box.icon)]);
+  if (line.words.size() > icon + 1) Compare(line.words[icon + 1], box.preset == Answer::No ? "No" : "");
 }
 
 /// expect dialog title|filter|folder|fileName TEXT, of the last file dialog

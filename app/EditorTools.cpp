@@ -1,0 +1,159 @@
+// The editor's menu entries that lead to the tools, each of which is a form or a command of its own.
+#include "app/Editor.h"
+#include "composer/InsertOptions.h"
+#include "composer/JoystickWiz.h"
+#include "composer/MacroWizard.h"
+#include "composer/Speedy.h"
+#include "hardware/Download.h"
+#include "hardware/Games.h"
+#include "hardware/JoyPlot.h"
+#include "hardware/KeyTestForm.h"
+#include "hardware/RAWform.h"
+#include "language/FindAndReplace.h"
+#include "language/TemplateForm.h"
+#include "lists/CustomApps.h"
+#include "lists/Favourites.h"
+#include "lists/Preferences.h"
+#include "output/TextBlocks.h"
+#include "output/Tips.h"
+#include "output/ViewImage.h"
+
+namespace tarvik {
+namespace {
+
+const MessageBox kBeginnersAdvice = {
+    "Start off with the macro wizard first, and NOT the joystick wizard",
+    "If you've just bought your joystick, and you've got everything plugged in OK but you've never created a "
+    "set of files for downloading to your joystick, then let me just introduce some basics.\r\n\r\nYou need "
+    "two files for each game. The macro file says which keys do what in that game, and gives each of them a "
+    "name that you can remember - these are your macros. The joystick file then says which button or hat of "
+    "your joystick sends which macro. So without a macro file, there's nothing that you could put on a "
+    "button!\r\n\r\nThat's why the macro wizard comes first. Have your game's keyboard card beside you, "
+    "start the macro wizard and let it take you through the macro file step by step. When you've finished "
+    "that one, start the joystick wizard, and it'll help you put those macros on your buttons and hats. And "
+    "when you've got both files, press F12 to send them to your joystick. That's all there is to it, honest!",
+    BoxIcon::Information};
+
+const MessageBox kOrlansTip = {
+    "Using Tarvik efficiently",
+    "The fastest way of banging together a set of files for a game is to do the following:\r\n1) Grab "
+    "someone else's macro file from the net.  \r\n2) Use the templates section of the Composer to get all "
+    "your buttons into your joystick file.  \r\n3) Click in your joystick file where you want a macro to be "
+    "placed and double click the macro in the macros frame to insert it into your Joystick file. (Note that "
+    "this is MUCH faster than using a drag and drop method.)  \r\nGive it a go - this is fast !!!"};
+
+const MessageBox kLogicAdvice = {
+    "Logical programming - wave that flag.",
+    "Logical programming is what you need when a button should do something only while something else is "
+    "going on - say, fire one weapon with your gear up, and another with your gear down. It's done with "
+    "flags, and it isn't half as bad as it sounds.\r\n\r\nI've written it all down for you in a text file "
+    "called An0002a.txt, with examples you can copy. Show the Composer, select its Logic tab, then Misc, and "
+    "press the View An0002a.txt button there. Have a read, and then have a go!",
+    BoxIcon::Exclamation};
+
+}  // namespace
+
+// Preferences.
+
+void Editor::mnuPreferencesEdit_Click() { ShowPreferences(application_, Preferences::kFileLocations); }
+void Editor::mnuViewEditColours_Click() { ShowPreferences(application_, Preferences::kColours); }
+void Editor::mnuAppsEdit_Click() { ShowPreferences(application_, Preferences::kApps); }
+void Editor::mnuFavsEdit_Click() { ShowPreferences(application_, Preferences::kFavourites); }
+void Editor::mnuGamesEdit_Click() { ShowPreferences(application_, Preferences::kGames); }
+
+// Favourites, games, and the user's own programs.
+
+void Editor::mnuFavouritesAddCurrent_Click() { AddToFavourites(application_); }
+void Editor::mnuFavArray_Click(int index) { OpenFavourite(application_, index); }
+void Editor::mnuGamesAdd_Click() { AddGame(application_); }
+void Editor::mnuGameArray_Click(int index) { StartGame(application_, index); }
+void Editor::mnuCustomApp_Click(int index) { RunCustomApp(application_, index); }
+
+// Editing.
+
+void Editor::mnuEditFind_Click() { application_.Tool<FindAndReplace>().ShowFind(); }
+void Editor::mnuEditReplace_Click() { application_.Tool<FindAndReplace>().ShowReplace(); }
+void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(); }
+
+// The Composer.
+
+void Editor::mnuShowInsertWindow_Click() { application_.Tool<InsertOptions>().ShowComposer(); }
+void Editor::mnuComposerPlugin_Click() { application_.Tool<InsertOptions>().ShowTemplates(); }
+
+// Pimlet.
+
+void Editor::mnuInsertRAW_Click() { application_.Tool<RAWform>().Show(); }
+
+// Blocks.
+
+void Editor::mnuInsertTitle_Click() { InsertTitle(application_); }
+void Editor::mnuInsertHeading_Click() { InsertHeading(application_); }
+void Editor::mnuInsertRemStatement_Click() { InsertRemStatement(application_); }
+
+// Apps.
+
+void Editor::mnuSendToKeyTest_Click() {
+  auto& form = application_.Tool<KeyTestForm>();
+  form.Visible = true;
+  form.RTFKeysText.SetFocus();
+}
+
+void Editor::mnuAppsImageViewer_Click() {
+  auto& form = application_.Tool<ViewImage>();
+  form.Show();
+  form.Image1.SetFocus();
+}
+
+void Editor::mnuAppsTemplate_Click() { application_.Tool<TemplateForm>().ShowText(); }
+
+void Editor::mnuAppsJoyAnalyser_Click() { application_.Tool<JoyPlot>().PicJoy.SetFocus(); }
+
+void Editor::mnuAppsTMScope_Click() { StartTMScope(application_); }
+void Editor::mnuAppsCandCC_Click() { StartControlCentre(application_); }
+void Editor::mnuF22Setup_Click() { StartF22Utility(application_, F22Utility::Setup); }
+void Editor::mnuF22Clear_Click() { StartF22Utility(application_, F22Utility::Clear); }
+void Editor::mnuF22Reset_Click() { StartF22Utility(application_, F22Utility::Reset); }
+void Editor::mnuF22Delay_Click() { StartF22Utility(application_, F22Utility::Delay); }
+void Editor::mnuSendToJoystick_Click() { SendToJoystick(application_); }
+
+void Editor::mnuAppsQuiet_Click() {
+  MenuItem& quiet = menus("mnuAppsQuiet");
+  quiet.Checked = !quiet.Checked;
+}
+
+void Editor::mnuHelpContents_Click() {
+  constexpr int kContents = 1000;
+  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kContents);
+}
+
+void Editor::mnuHelpTips_Click() { application_.ShowModal(application_.Tool<frmTip>()); }
+void Editor::mnuHelpAbout_Click() { application_.ShowModal(application_.Tool<frmAbout>()); }
+
+// Wizards.
+
+void Editor::mnuhelpWizCreateMacroFile_Click() { application_.Tool<MacroWizard>().Show(); }
+void Editor::mnuhelpWizCreateJoyFile_Click() { application_.Tool<JoystickWiz>().Show(); }
+void Editor::mnuWizSpeedy_Click() { application_.Tool<Speedy>().Show(); }
+void Editor::mnuWizBeginnersAdvice_Click() { application_.platform.dialogs.Show(kBeginnersAdvice); }
+void Editor::mnuWizOrlanTip1_Click() { application_.platform.dialogs.Show(kOrlansTip); }
+void Editor::mnuWizLogic1_Click() { application_.platform.dialogs.Show(kLogicAdvice); }
+
+// Keys that the tools pass on.
+
+void Editor::ForwardKey(Key& key) const {
+  constexpr int kF1 = 112;
+  constexpr int kF7 = 118;  // bears no shortcut in the menu
+  constexpr int kF12 = 123;
+  std::string shortcut;
+  if (key.shift == shift::kCtrl && key.code >= 'A' && key.code <= 'Z') {
+    shortcut = std::string("Ctrl+") + static_cast<char>(key.code);
+  } else if (key.shift != shift::kCtrl && key.code > kF1 && key.code <= kF12) {
+    shortcut = "F" + TextOf(key.code - kF1 + 1);
+  }
+  MenuItem* const item = key.code == kF7 ? &menus("mnuViewIdentify") : menus.WithShortcut(shortcut);
+  if (shortcut.empty() || !item || !item->Enabled) return;
+  item->Click();
+  if (key.shift == shift::kCtrl) key = {};
+}
+
+}  // namespace tarvik

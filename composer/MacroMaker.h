@@ -1,0 +1,59 @@
+// The controls with which a guided form makes a macro file: its headings, its macros line by line, and the
+// editor's own commands.
+#pragma once
+
+#include "app/Application.h"
+#include "controls/Controls.h"
+
+namespace tarvik {
+
+class MacroMaker {
+ public:
+  /// A button of `Command1` and what it does.
+  struct Command {
+    const char* caption;
+    void (MacroMaker::*run)();
+  };
+  static constexpr std::size_t kOwn = 3;  ///< buttons that each form has for itself; they come first
+  static constexpr int kInsert = 4;
+
+  MacroMaker(Form& form, Application& application, std::span<const Command, kOwn> own);
+
+  ControlArray<CommandButton> Command1;
+  ControlArray<TextBox> Text1;  ///< the macro's name and its keys
+  Label Preview;
+  ListBox List1;
+
+  void Command1_Click(int index);
+  void List1_DblClick();
+  /// Shows the macro's line, unless its name has a blank in it.
+  void Text1_Change();
+  void Text1_KeyDown(Key& key);
+
+  // What buttons do.
+  void CreateFile();
+  void CreateAndSaveFile();
+  void InsertTitle();
+  void InsertHeading();
+  void InsertMacro();
+  void ClearTexts();
+  void ShowPimlet();
+  void SaveFile();
+  void UpdateMacros();
+  void CloseForm();
+
+ protected:
+  /// Ready for the next macro: the name has the focus, and Enter inserts.
+  void PrepareMacro();
+
+ private:
+  void AddHeadingsToList();
+  void WriteBlack(const std::string& text);
+  [[nodiscard]] Editor& editor() const { return *application_.editor(); }
+
+  Form& form_;
+  Application& application_;
+  std::vector<Command> commands_;
+};
+
+}  // namespace tarvik
