@@ -15,8 +15,8 @@ constexpr const char* kAlreadyRunning =
 
 // The tools that end with the editor, in this order.
 constexpr const char* kToolsOfEditor[] = {
-    "FindAndReplace", "InsertOptions",      "Heading",       "RAWform",     "Title",
-    "SingleTextForm", "EnterFavouritename", "EnterGameName", "Preferences", "JoyPlot"};
+    "FindAndReplace",     "InsertOptions", "Heading",    "RAWform",     "Title",  "SingleTextForm",
+    "EnterFavouritename", "EnterGameName", "DrivesForm", "Preferences", "JoyPlot"};
 
 }  // namespace
 
