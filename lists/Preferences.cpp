@@ -257,6 +257,7 @@ void Preferences::Form_Unload() {
   SaveColourScheme();
   application_.lists.SaveApps();
   application_.lists.SaveFavourites();
+  application_.lists.SaveGames();
   Editor* const editor = application_.editor();
   if (!editor) return;
   editor->Timer1.Enabled = settings_.AutoSaveEnabled == 1;
