@@ -14,19 +14,10 @@ constexpr const char* kAlreadyRunning =
     "with both programs writing to it.";
 
 // The tools that end with the editor, in this order.
-constexpr const char* kToolsOfEditor[] = {"FindAndReplace",
-                                          "InsertOptions",
-                                          "Heading",
-                                          "RAWform",
-                                          "Title",
-                                          "SingleTextForm",
-                                          "EnterFavouritename",
-                                          "EnterGameName",
-                                          "Preferences",
-                                          "MacroWizard",
-                                          "JoystickWiz",
-                                          "JoyPlot",
-                                          "Speedy"};
+constexpr const char* kToolsOfEditor[] = {
+    "FindAndReplace", "InsertOptions",      "Heading",       "RAWform",    "Title",
+    "SingleTextForm", "EnterFavouritename", "EnterGameName", "DrivesForm", "Preferences",
+    "MacroWizard",    "JoystickWiz",        "JoyPlot",       "Speedy"};
 
 }  // namespace
 

@@ -5,6 +5,7 @@
 
 #include "app/Editor.h"
 #include "lists/CustomApps.h"
+#include "lists/DrivesForm.h"
 #include "platform/CodePage.h"
 
 namespace tarvik {
@@ -143,6 +144,7 @@ void Preferences::NameControls() {
   Text6.ToolTipText = "Default file for Template Editor";
   TxtUndoLevels.ToolTipText = "10 to 30,000 - high values slow down Tarvik";
   CheckShowTooltips.ToolTipText = "To be implemented at a later date";
+  CommandDrives.ToolTipText = "Which folder each drive letter stands for";
   DLYText.ToolTipText = "Default delay value for Editor's DLY button";
   Command3.ToolTipText = "Saves the Preferences";
 }
@@ -165,6 +167,7 @@ void Preferences::AttachHandlers() {
          "Batch files (*.bat)|*.bat|Executables (*.exe)|*.exe|All files (*.*)|*.*");
   Browse(Command5, Text5, "Locate image file", "Picture files|*.bmp;*.jpg;*.gif;*.wmf|All files (*.*)|*.*");
   Browse(Command7, Text6, "Locate text file", "Text files|*.txt;*.rtf;*.ini;*.bat|All files (*.*)|*.*");
+  CommandDrives.Click = [this] { application_.ShowModal(application_.Tool<DrivesForm>()); };
   ComboJoystick.Click = [this] { ComboJoystick_Click(); };
   ComboThrottle.Click = [this] { settings_.ThrottleName = ComboThrottle.ListIndex; };
   ComboRudders.Click = [this] { settings_.RudderName = ComboRudders.ListIndex; };
@@ -254,6 +257,7 @@ void Preferences::Form_Unload() {
   SaveColourScheme();
   application_.lists.SaveApps();
   application_.lists.SaveFavourites();
+  application_.lists.SaveGames();
   Editor* const editor = application_.editor();
   if (!editor) return;
   editor->Timer1.Enabled = settings_.AutoSaveEnabled == 1;

@@ -26,6 +26,7 @@ class Preferences : public Form {
   CommandButton Command1{*this, "Command1", "Browse"};
   CommandButton Command2{*this, "Command2", "Select"};
   CommandButton Command8{*this, "Command8", "Browse"};
+  CommandButton CommandDrives{*this, "CommandDrives", "&Drives..."};
   ComboBox ComboJoystick{*this, "ComboJoystick"};
   ComboBox ComboThrottle{*this, "ComboThrottle"};
   ComboBox ComboRudders{*this, "ComboRudders"};

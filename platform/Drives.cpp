@@ -108,10 +108,23 @@ Failure PathNotFound() { return {error::kPathNotFound, "Path not found", ENOENT}
 }  // namespace
 
 Drives::Drives(const Folders& folders) {
-  for (const auto& [letter, folder] : folders) {
-    if (IsDriveLetter(letter) && !folder.empty()) folders_[ToLower(letter)] = Absolute(folder);
-  }
+  for (const auto& [letter, folder] : folders) SetFolder(letter, folder);
   folders_[kRootDrive] = "/";
+}
+
+void Drives::SetFolder(char letter, const std::string& folder) {
+  const char drive = ToLower(letter);
+  if (!IsDriveLetter(drive) || drive == kRootDrive) return;
+  const auto isOnIt = [drive](const auto& known) { return known.first.front() == drive; };
+  std::erase_if(picked_, isOnIt);
+  std::erase_if(holders_, isOnIt);
+  current_.SetFolder({.drive = drive});
+  if (!folder.empty()) {
+    folders_[drive] = Absolute(folder);
+    return;
+  }
+  folders_.erase(drive);
+  if (current_.drive() == drive) current_.SetDrive('c');
 }
 
 std::optional<fs::path> Drives::Find(const LogicalPath& path) const {

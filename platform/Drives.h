@@ -46,6 +46,9 @@ class Drives {
   [[nodiscard]] std::string CurrentFolder() const { return FullPath("."); }
   /// The path from the root of its drive, in lower case; it may be relative. Empty for the empty path.
   [[nodiscard]] std::string FullPath(std::string_view path) const;
+  /// Gives a drive another folder from now on, or takes it away where `folder` is empty. What was picked on
+  /// it is forgotten, and its current folder is its root. Drive z stays what it is.
+  void SetFolder(char letter, const std::string& folder);
   /// The host folder of each drive, there or not; that of z too.
   [[nodiscard]] const std::map<char, std::filesystem::path>& HostFolders() const { return folders_; }
 

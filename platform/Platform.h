@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/Files.h"
 #include "platform/Joystick.h"
@@ -61,6 +62,8 @@ class Dialogs {
   virtual Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) = 0;
   /// The same for a folder; `folder` is where the dialog begins.
   virtual Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) = 0;
+  /// The same for a folder of the host, as `DriveFolders` has it.
+  virtual Outcome<std::string> AskForHostFolder(const std::string& title, const std::string& folder) = 0;
   /// Lets the user go on working, one event after another, while `open` says so: what a modal form waits in.
   virtual void WaitWhile(const std::function<bool()>& open) = 0;
 };
@@ -121,6 +124,25 @@ struct ScreenSize {
   float height = 0;
 };
 
+/// A drive, and the host's folder that it stands for: UTF-8, and nothing but text to the program.
+struct Drive {
+  char letter = 'c';
+  std::string folder;
+  bool isThere = true;
+};
+
+/// Which folder of the host each drive letter stands for. A change is in force at once.
+class DriveFolders {
+ public:
+  virtual ~DriveFolders() = default;
+  /// Those that have a folder, by their letters. Drive c is among them, and z, the host's root.
+  [[nodiscard]] virtual std::vector<Drive> All() const = 0;
+  /// Fails for a folder that is not there, and for z.
+  virtual Outcome<> Set(char letter, const std::string& folder) = 0;
+  /// Drive c goes back to the folder beside the executable; z stays.
+  virtual void Remove(char letter) = 0;
+};
+
 /// Everything from outside in one hand.
 struct Platform {
   Files& files;
@@ -134,6 +156,7 @@ struct Platform {
   Joystick& joystick;
   Keyboard& keyboard;
   Programs& programs;
+  DriveFolders& drives;
   ScreenSize screen;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string

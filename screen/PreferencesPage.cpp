@@ -31,9 +31,10 @@ QLayout* Paths(const FormLayout& in, std::initializer_list<PathRow> rows) {
 }
 
 QLayout* FileLocations(Preferences& form, const FormLayout& in) {
-  return Column({Group("Files", Paths(in, {{"Loader", form.Text1, form.Command1},
-                                           {"Joystick and macro files", form.Text2, form.Command2},
-                                           {"Control Centre", form.Text10, form.Command8}})),
+  QLayout* const paths = Paths(in, {{"Loader", form.Text1, form.Command1},
+                                    {"Joystick and macro files", form.Text2, form.Command2},
+                                    {"Control Centre", form.Text10, form.Command8}});
+  return Column({Group("Files", Column({paths, Row({Stretch(), in.Show(form.CommandDrives)})})),
                  Group("Hardware", Fields({{"Joystick", in.Show(form.ComboJoystick)},
                                            {"Throttle", in.Show(form.ComboThrottle)},
                                            {"Rudders", in.Show(form.ComboRudders)}})),

@@ -101,12 +101,25 @@ Outcome<std::string> QtDialogs::AskForFile(const FileRequest& request) {
   dialog.setNameFilters(NameFilters(request.filter));
   if (save) dialog.setDefaultSuffix(ToScreen(request.defaultExtension));
   if (!request.fileName.empty()) dialog.selectFile(ToScreen(request.fileName));
-  return Run(dialog);
+  return OnDrives(Run(dialog));
 }
 
 Outcome<std::string> QtDialogs::AskForFolder(const std::string& title, const std::string& folder) {
+  return OnDrives(RunForFolder(title, StartFolder(folder)));
+}
+
+Outcome<std::string> QtDialogs::AskForHostFolder(const std::string& title, const std::string& folder) {
+  const QString host = QFile::decodeName(folder.c_str());
+  return RunForFolder(title, QFileInfo(host).isDir() ? host : QDir::homePath());
+}
+
+Outcome<std::string> QtDialogs::OnDrives(const Outcome<std::string>& chosen) {
+  return chosen ? drives_.FromHost(*chosen) : chosen;
+}
+
+Outcome<std::string> QtDialogs::RunForFolder(const std::string& title, const QString& folder) {
   const OrdinaryPointer pointer;
-  QFileDialog dialog(QApplication::activeWindow(), ToScreen(title), StartFolder(folder));
+  QFileDialog dialog(QApplication::activeWindow(), ToScreen(title), folder);
   dialog.setFileMode(QFileDialog::Directory);
   dialog.setOption(QFileDialog::ShowDirsOnly);
   return Run(dialog);
@@ -125,7 +138,7 @@ Outcome<std::string> QtDialogs::Run(QFileDialog& dialog) {
   }
   const QString chosen = dialog.selectedFiles().constFirst();
   lastFolder_ = QFileInfo(chosen).absolutePath();
-  return drives_.FromHost(QFile::encodeName(chosen).toStdString());
+  return QFile::encodeName(chosen).toStdString();
 }
 
 Outcome<unsigned> QtDialogs::AskForColour(unsigned before) {

@@ -19,14 +19,18 @@ class QtDialogs : public Dialogs {
   Outcome<unsigned> AskForColour(unsigned before) override;
   Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) override;
   Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) override;
+  Outcome<std::string> AskForHostFolder(const std::string& title, const std::string& folder) override;
   void WaitWhile(const std::function<bool()>& open) override;
 
  private:
   /// The folder asked for, else the one of the last choice, else the user's own.
   [[nodiscard]] QString StartFolder(const std::string& folder) const;
 
-  /// With the user's own folder and drive c at its side, and what was chosen in it.
+  /// With the user's own folder and drive c at its side, and the host's file that was chosen in it.
   Outcome<std::string> Run(QFileDialog& dialog);
+  Outcome<std::string> RunForFolder(const std::string& title, const QString& folder);
+  /// What was chosen, by its path on the drives.
+  Outcome<std::string> OnDrives(const Outcome<std::string>& chosen);
 
   Drives& drives_;
   QString lastFolder_;

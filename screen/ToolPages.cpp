@@ -13,6 +13,7 @@
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "language/TemplateForm.h"
+#include "lists/DrivesForm.h"
 #include "lists/Favourites.h"
 #include "output/TextBlocks.h"
 #include "output/Tips.h"
@@ -295,6 +296,15 @@ QLayout* Page(JoyPlot& form, const FormLayout& in) {
   return PicturePage(form, form.PicJoy, in.Show(form.PicJoy), QStringLiteral("Plot"), in);
 }
 
+QLayout* Page(DrivesForm& form, const FormLayout& in) {
+  QWidget* const about = in.Show(form.Label1);
+  about->setAutoFillBackground(false);
+  QWidget* const drives = Named(in.Show(form.List1), QStringLiteral("Drives"));
+  drives->setMinimumSize(420, 240);
+  return Column({about, Row({drives, Column({in.Show(form.Command1), in.Show(form.Command2), Stretch()})}),
+                 Row({Stretch(), in.Show(form.Command4), in.Show(form.Command3)})});
+}
+
 QLayout* Page(TemplateForm& form, const FormLayout& in) {
   QWidget* const text = Named(in.Show(form.TemplateText), QStringLiteral("Template"));
   qobject_cast<QPlainTextEdit*>(text)->setTabChangesFocus(false);  // as in the files
@@ -384,12 +394,16 @@ ToolWindow::MakePage PageFor(Form& form) {
 }  // namespace
 
 ToolWindow::MakePage PageOf(Form& form) {
-  for (const auto& find :
-       {PageFor<FindAndReplace>, PageFor<InsertOptions>, PageFor<Preferences>, PageFor<Wizard>,
-        PageFor<Speedy>, PageFor<Title>, PageFor<Heading>, PageFor<SingleTextForm>, PageFor<RAWform>,
-        PageFor<KeyTestForm>, PageFor<JoyPlot>, PageFor<ProgramWait>, PageFor<EnterFavouritename>,
-        PageFor<EnterGameName>, PageFor<TemplateForm>, PageFor<frmTip>, PageFor<frmAbout>, PageFor<ViewImage>,
-        PageFor<SelectPictureForm>}) {
+  for (const auto& find : {PageFor<FindAndReplace>, PageFor<InsertOptions>,
+                           PageFor<Preferences>,    PageFor<DrivesForm>,
+                           PageFor<Wizard>,         PageFor<Speedy>,
+                           PageFor<Title>,          PageFor<Heading>,
+                           PageFor<SingleTextForm>, PageFor<RAWform>,
+                           PageFor<KeyTestForm>,    PageFor<JoyPlot>,
+                           PageFor<ProgramWait>,    PageFor<EnterFavouritename>,
+                           PageFor<EnterGameName>,  PageFor<TemplateForm>,
+                           PageFor<frmTip>,         PageFor<frmAbout>,
+                           PageFor<ViewImage>,      PageFor<SelectPictureForm>}) {
     if (auto page = find(form)) return page;
   }
   return {};

@@ -1,6 +1,5 @@
 // The program: the real services, the screen, and the forms between them.
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QScreen>
 #include <QStyleFactory>
@@ -8,10 +7,10 @@
 
 #include "app/Application.h"
 #include "platform/CodePage.h"
+#include "platform/HostDrives.h"
 #include "platform/HostFiles.h"
 #include "platform/HostPrograms.h"
 #include "platform/InstanceLock.h"
-#include "platform/ProfileFile.h"
 #include "screen/Icons.h"
 #include "screen/LockKeys.h"
 #include "screen/QtDesktop.h"
@@ -24,31 +23,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace tarvik;
-
-constexpr std::size_t kLongestPath = 4096;
-
-QByteArray ContentOf(const fs::path& path) {
-  QFile file(QFile::decodeName(path.c_str()));
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// The folders of the drives, from the settings file beside the executable. Drive c is a folder beside it too
-/// where nothing else is said.
-Drives::Folders DriveFolders(const fs::path& home) {
-  const Profile profile(ContentOf(home / "Tarvik.ini").toStdString());
-  Drives::Folders folders;
-  for (char letter = 'a'; letter <= 'z'; ++letter) {
-    const std::string folder = profile.GetString("Drives", std::string(1, letter), "", kLongestPath);
-    if (!folder.empty()) folders[letter] = folder;
-  }
-  if (!folders.contains('c')) {
-    const fs::path own = home / "drive_c";
-    std::error_code ignored;  // a program in a folder that cannot be written to has an empty drive c
-    fs::create_directory(own, ignored);
-    folders['c'] = own.string();
-  }
-  return folders;
-}
 
 /// A file that is there is passed on by its path on the drives, anything else as it is.
 std::string CommandLine(const QStringList& arguments, Drives& drives) {
@@ -77,7 +51,8 @@ int main(int argc, char* argv[]) {
   QApplication::setWindowIcon(screen::Icon("tarvik"));
 
   const fs::path home = QFile::encodeName(QApplication::applicationDirPath()).toStdString();
-  Drives drives(DriveFolders(home));
+  HostDrives driveFolders(home);
+  Drives& drives = driveFolders.Paths();
   HostFiles files(drives);
   screen::QtDialogs dialogs(drives);
   InstanceLock lock(home / "tarvik.lock");
@@ -100,6 +75,7 @@ int main(int argc, char* argv[]) {
                     joystick,
                     keyboard,
                     programs,
+                    driveFolders,
                     SizeOfScreen(),
                     drives.FromHost(home),
                     CommandLine(QApplication::arguments().mid(1), drives)};

@@ -45,6 +45,7 @@ TEST(Download, TheLoaderInDosBoxReceivesTheSavedFileByteForByte) {
                     outside.joystick,
                     outside.keyboard,
                     programs,
+                    outside.drives,
                     {28800, 21600},
                     "c:\\tarvik",
                     "c:\\tm\\strike.b50"};

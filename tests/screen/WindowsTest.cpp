@@ -23,6 +23,7 @@
 #include "hardware/RAWform.h"
 #include "language/FindAndReplace.h"
 #include "language/TemplateForm.h"
+#include "lists/DrivesForm.h"
 #include "lists/Favourites.h"
 #include "lists/Preferences.h"
 #include "output/TextBlocks.h"
@@ -43,8 +44,8 @@ class Windows : public testing::Test {
     application.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
     ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
-              ProgramWait, EnterFavouritename, EnterGameName, Preferences, TemplateForm, frmTip, frmAbout,
-              ViewImage, SelectPictureForm, MacroWizard, JoystickWiz, Speedy>();
+              ProgramWait, EnterFavouritename, EnterGameName, Preferences, DrivesForm, TemplateForm, frmTip,
+              frmAbout, ViewImage, SelectPictureForm, MacroWizard, JoystickWiz, Speedy>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();

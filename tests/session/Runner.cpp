@@ -115,6 +115,7 @@ const std::map<std::string_view, Runner::Command>& Runner::Commands() {
       {"lock", &Runner::SetLock},
       {"program", &Runner::SetProgram},
       {"sysinfo", &Runner::SetSystemInformation},
+      {"hostfolder", &Runner::HostFolder},
       {"tips", &Runner::WantTips},
       {"start", &Runner::Start},
       {"close", &Runner::Close},
@@ -350,6 +351,9 @@ void Runner::SetProgram(const Line& line) {
 void Runner::SetSystemInformation(const Line& line) {
   outside_.desktop.tellsAboutTheMachine = Word(line, 1) != "none";
 }
+
+/// hostfolder PATH: a folder of the host, which a drive can stand for
+void Runner::HostFolder(const Line& line) { outside_.drives.there.insert(ToUtf8(Word(line, 1))); }
 
 // The process.
 

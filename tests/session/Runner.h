@@ -50,6 +50,7 @@ class Runner {
   void SetLock(const Line& line);
   void SetProgram(const Line& line);
   void SetSystemInformation(const Line& line);
+  void HostFolder(const Line& line);
   void WantTips(const Line& /*line*/) { tips_ = true; }
   // The process.
   void Start(const Line& line);

@@ -1,5 +1,7 @@
 #include "support/ScriptedPlatform.h"
 
+#include "platform/CodePage.h"
+
 namespace tarvik::session {
 
 Answer ScriptedDialogs::Show(const MessageBox& box) {
@@ -21,6 +23,12 @@ Outcome<std::string> ScriptedDialogs::AskForFile(const FileRequest& request) {
   const std::string& choice = *chosen;
   const bool hasExtension = choice.find('.', choice.rfind('\\') + 1) != std::string::npos;
   return hasExtension || request.defaultExtension.empty() ? choice : choice + "." + request.defaultExtension;
+}
+
+Outcome<std::string> ScriptedDialogs::AskForHostFolder(const std::string& title, const std::string& folder) {
+  requests.push_back({FileDialogKind::Open, title, {}, folder, {}, {}});
+  const Outcome<std::string> chosen = NextChoice();
+  return chosen ? ToUtf8(*chosen) : chosen;
 }
 
 Outcome<std::string> ScriptedDialogs::NextChoice() {
@@ -85,6 +93,29 @@ Outcome<std::unique_ptr<RunningProgram>> ScriptedPrograms::StartToWait(const std
   const auto recorded = Record({commandLine, files ? files->CurrentFolder() : "", style, true});
   if (!recorded) return recorded.failure();
   return std::unique_ptr<RunningProgram>(std::make_unique<ScriptedProgram>(*this));
+}
+
+std::vector<Drive> ScriptedDrives::All() const {
+  std::vector<Drive> drives;
+  for (const auto& [letter, folder] : folders_) drives.push_back({letter, folder, there.contains(folder)});
+  return drives;
+}
+
+Outcome<> ScriptedDrives::Set(char letter, const std::string& folder) {
+  if (letter == 'z' || !there.contains(folder)) return Failure{error::kPathNotFound, "Path not found", 0};
+  Give(letter, folder);
+  return Done{};
+}
+
+void ScriptedDrives::Remove(char letter) { Give(letter, letter == 'c' ? kOwnFolder : ""); }
+
+void ScriptedDrives::Give(char letter, const std::string& folder) {
+  const std::string root{letter, ':', '\\'};
+  files->Remove(root);
+  folders_.erase(letter);
+  if (folder.empty()) return;
+  folders_[letter] = folder;
+  files->PutFolder(root);
 }
 
 }  // namespace tarvik::session

@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <map>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -24,6 +25,7 @@ class ScriptedDialogs : public Dialogs {
   Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) override {
     return AskForFile({FileDialogKind::Open, title, {}, folder, {}, {}});
   }
+  Outcome<std::string> AskForHostFolder(const std::string& title, const std::string& folder) override;
   void WaitWhile(const std::function<bool()>& open) override;
 
   std::deque<Answer> answers;       ///< for the next boxes; OK where there is none, or No, or Cancel
@@ -149,6 +151,24 @@ class ScriptedPrograms : public Programs {
   Outcome<> Record(const ProgramStart& start);
 };
 
+/// A host that has the folders it is told of. A drive that gets one is there, and empty.
+class ScriptedDrives : public DriveFolders {
+ public:
+  [[nodiscard]] std::vector<Drive> All() const override;
+  Outcome<> Set(char letter, const std::string& folder) override;
+  void Remove(char letter) override;
+
+  MemoryFiles* files = nullptr;  ///< whose drives they are
+  std::set<std::string> there{"/", kOwnFolder};
+
+ private:
+  static constexpr const char* kOwnFolder = "/opt/tarvik/drive_c";
+
+  void Give(char letter, const std::string& folder);
+
+  std::map<char, std::string> folders_{{'c', kOwnFolder}, {'z', "/"}};
+};
+
 /// All of it. The forms of `Process` leave out what the scripted one is good for.
 struct ScriptedPlatform {
   ScriptedDialogs dialogs;
@@ -161,6 +181,7 @@ struct ScriptedPlatform {
   ScriptedJoystick joystick;
   ScriptedKeyboard keyboard;
   ScriptedPrograms programs;
+  ScriptedDrives drives;
 
   /// A process on this disk, beside any other.
   [[nodiscard]] Platform Process(Files& files, std::string commandLine = "") {
@@ -168,9 +189,11 @@ struct ScriptedPlatform {
   }
   [[nodiscard]] Platform Process(Files& files, SingleInstance& lock, Printer& paper,
                                  std::string commandLine = "") {
-    programs.files = dynamic_cast<MemoryFiles*>(&files);
-    return {files,   dialogs,  lock,     clipboard, help,           calendar,     paper,
-            desktop, joystick, keyboard, programs,  {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
+    drives.files = dynamic_cast<MemoryFiles*>(&files);
+    programs.files = drives.files;
+    return {files,    dialogs, lock,           clipboard,    help,
+            calendar, paper,   desktop,        joystick,     keyboard,
+            programs, drives,  {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
   }
 };
 

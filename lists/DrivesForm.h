@@ -1,0 +1,39 @@
+// The drives: which folder of the host each letter stands for, with buttons that give it another one or none.
+// The preferences show it.
+#pragma once
+
+#include "app/Application.h"
+#include "controls/Controls.h"
+
+namespace tarvik {
+
+class DrivesForm : public Form {
+ public:
+  explicit DrivesForm(Application& application);
+
+  Label Label1{*this, "Label1"};
+  ListBox List1{*this, "List1"};  ///< every letter, with its folder where it has one
+  CommandButton Command1{*this, "Command1", "&Folder..."};
+  CommandButton Command2{*this, "Command2", "&Remove"};
+  CommandButton Command3{*this, "Command3", "OK"};
+  CommandButton Command4{*this, "Command4", "Help"};
+
+  void Form_Load();
+  void List1_Click();
+  void Command1_Click();
+  void Command2_Click();
+
+ private:
+  void ShowDrives();
+  /// The letter in hand.
+  [[nodiscard]] char Letter() const { return static_cast<char>('a' + List1.ListIndex); }
+  [[nodiscard]] std::string FolderOf(char letter) const;
+  /// False for a drive from which something is to be written back: the user is told what.
+  bool MayChange(char letter);
+  void Store(char letter, const std::string& folder);
+
+  Application& application_;
+  std::vector<Connection> connections_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,58 @@
+#include "platform/HostDrives.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <system_error>
+
+#include "platform/HostFiles.h"
+#include "platform/ProfileFile.h"
+
+namespace tarvik {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kLongestPath = 4096;
+
+/// A folder whose name the settings file cannot hold counts as none.
+bool CanBeDrive(const fs::path& folder) {
+  std::error_code ignored;
+  const std::string& text = folder.native();
+  return folder.is_absolute() && fs::is_directory(folder, ignored) && text.size() < kLongestPath &&
+         std::none_of(text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; });
+}
+
+}  // namespace
+
+HostDrives::HostDrives(const fs::path& own) : ownDrive_(own / "drive_c") {
+  HostFiles files(drives_);
+  const Profile stored = ProfileFile(files, drives_.FromHost(own) + "\\Tarvik.ini").Read();
+  for (char letter = 'a'; letter <= 'z'; ++letter) {
+    drives_.SetFolder(letter, stored.GetString("Drives", std::string(1, letter), "", kLongestPath));
+  }
+  if (!drives_.HostFolders().contains('c')) Remove('c');
+}
+
+std::vector<Drive> HostDrives::All() const {
+  std::vector<Drive> drives;
+  for (const auto& [letter, folder] : drives_.HostFolders()) {
+    std::error_code ignored;
+    drives.push_back({letter, folder.string(), fs::is_directory(folder, ignored)});
+  }
+  return drives;
+}
+
+Outcome<> HostDrives::Set(char letter, const std::string& folder) {
+  if (letter == 'z' || !CanBeDrive(folder)) return Failure{error::kPathNotFound, "Path not found", ENOENT};
+  drives_.SetFolder(letter, folder);
+  return Done{};
+}
+
+void HostDrives::Remove(char letter) {
+  const bool own = letter == 'c';
+  std::error_code ignored;  // a program in a folder that cannot be written to has an empty drive c
+  if (own) fs::create_directory(ownDrive_, ignored);
+  drives_.SetFolder(letter, own ? ownDrive_.string() : "");
+}
+
+}  // namespace tarvik
