@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QMessageBox>
 #include <QScreen>
 #include <QStyleFactory>
 #include <filesystem>
@@ -12,6 +13,7 @@
 #include "platform/HostPrograms.h"
 #include "platform/InstanceLock.h"
 #include "platform/ProfileFile.h"
+#include "platform/ProgramFolder.h"
 #include "screen/Icons.h"
 #include "screen/LockKeys.h"
 #include "screen/QtDesktop.h"
@@ -27,15 +29,14 @@ using namespace tarvik;
 
 constexpr std::size_t kLongestPath = 4096;
 
-QByteArray ContentOf(const fs::path& path) {
-  QFile file(QFile::decodeName(path.c_str()));
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
+fs::path Host(const QString& path) { return QFile::encodeName(path).toStdString(); }
 
-/// The folders of the drives, from the settings file beside the executable. Drive c is a folder beside it too
+/// The folders of the drives, from the settings file in the program's folder. Drive c is a folder in it too
 /// where nothing else is said.
 Drives::Folders DriveFolders(const fs::path& home) {
-  const Profile profile(ContentOf(home / "Tarvik.ini").toStdString());
+  Drives alone({{'c', home.string()}});
+  const auto settings = HostFiles(alone).Read("c:\\tarvik.ini");
+  const Profile profile(settings ? *settings : std::string());
   Drives::Folders folders;
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     const std::string folder = profile.GetString("Drives", std::string(1, letter), "", kLongestPath);
@@ -54,7 +55,7 @@ Drives::Folders DriveFolders(const fs::path& home) {
 std::string CommandLine(const QStringList& arguments, Drives& drives) {
   std::error_code ignored;
   if (arguments.size() == 1) {
-    const fs::path host = QFile::encodeName(arguments.constFirst()).toStdString();
+    const fs::path host = Host(arguments.constFirst());
     if (fs::exists(host, ignored)) return drives.FromHost(fs::absolute(host));
   }
   return FromUtf8(arguments.join(u' ').toStdString());
@@ -64,6 +65,20 @@ ScreenSize SizeOfScreen() {
   const QSize size = QGuiApplication::primaryScreen()->size();
   return {static_cast<float>(size.width()) * screen::kTwips,
           static_cast<float>(size.height()) * screen::kTwips};
+}
+
+/// Where nothing can be kept the user learns of it, and goes on.
+fs::path HomeOfProgram() {
+  const ProgramFolder folder(Host(QApplication::applicationFilePath()), ProgramFolder::UsersOwn());
+  if (!folder.Writable()) {
+    const QString own = QFile::decodeName(ProgramFolder::UsersOwn().c_str());
+    QMessageBox::warning(
+        nullptr, QStringLiteral("Tarvik"),
+        QStringLiteral("Tarvik has no folder of its own to write to%1. Your joystick and macro files can be "
+                       "edited and saved, but settings, backups and colours will not be kept.")
+            .arg(own.isEmpty() ? own : QStringLiteral(": ") + own));
+  }
+  return folder.Path();
 }
 
 }  // namespace
@@ -76,7 +91,7 @@ int main(int argc, char* argv[]) {
   screen::ChooseIconTheme();
   QApplication::setWindowIcon(screen::Icon("tarvik"));
 
-  const fs::path home = QFile::encodeName(QApplication::applicationDirPath()).toStdString();
+  const fs::path home = HomeOfProgram();
   Drives drives(DriveFolders(home));
   HostFiles files(drives);
   screen::QtDialogs dialogs(drives);
