@@ -1,10 +1,10 @@
 #include "platform/ProgramFolder.h"
 
+#include <stdlib.h>
 #include <unistd.h>
 
 #include <chrono>
 #include <cstdint>
-#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <string>
@@ -103,6 +103,13 @@ void Fill(const fs::path& own, const fs::path& installed, const fs::path& execut
   if (record != before) WriteRecord(record, own / kRecord);
 }
 
+/// Empty where there can be none.
+fs::path NewTemporaryFolder() {
+  std::error_code failure;
+  std::string name = (fs::temp_directory_path(failure) / "tarvik-XXXXXX").string();
+  return !failure && mkdtemp(name.data()) ? fs::path(name) : fs::path();
+}
+
 }  // namespace
 
 ProgramFolder::ProgramFolder(const fs::path& executable, const fs::path& usersOwn)
@@ -114,15 +121,16 @@ ProgramFolder::ProgramFolder(const fs::path& executable, const fs::path& usersOw
   }
   std::error_code ignored;
   if (!usersOwn.empty()) fs::create_directories(usersOwn, ignored);
-  writable_ = CanWrite(usersOwn);
-  if (!writable_) return;
-  Fill(usersOwn, path_, executable);
-  path_ = usersOwn;
+  lasts_ = CanWrite(usersOwn);
+  const fs::path own = lasts_ ? usersOwn : NewTemporaryFolder();
+  if (own.empty()) return;
+  Fill(own, path_, executable);
+  path_ = own;
 }
 
 fs::path ProgramFolder::UsersOwn() {
   const auto variable = [](const char* name) -> fs::path {
-    const char* const value = std::getenv(name);
+    const char* const value = getenv(name);
     return value ? value : "";
   };
   if (const fs::path data = variable("XDG_DATA_HOME"); data.is_absolute()) return data / "tarvik";

@@ -16,14 +16,14 @@ class ProgramFolder {
   /// `$XDG_DATA_HOME/tarvik`, or `.local/share/tarvik` in the user's home; empty for a user without a home.
   [[nodiscard]] static std::filesystem::path UsersOwn();
 
-  /// The folder: without any that can be written, the one of what is installed.
+  /// Where the user's folder cannot be written it is a new temporary one, filled likewise.
   [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-  /// False where nothing that the program writes beside itself will be kept.
-  [[nodiscard]] bool Writable() const { return writable_; }
+  /// False for a temporary folder: the next start will not know of it.
+  [[nodiscard]] bool Lasts() const { return lasts_; }
 
  private:
   std::filesystem::path path_;
-  bool writable_ = true;
+  bool lasts_ = true;
 };
 
 }  // namespace tarvik

@@ -69,14 +69,14 @@ ScreenSize SizeOfScreen() {
 
 /// Where nothing can be kept the user learns of it, and goes on.
 fs::path HomeOfProgram() {
-  const ProgramFolder folder(Host(QApplication::applicationFilePath()), ProgramFolder::UsersOwn());
-  if (!folder.Writable()) {
-    const QString own = QFile::decodeName(ProgramFolder::UsersOwn().c_str());
+  const fs::path own = ProgramFolder::UsersOwn();
+  const ProgramFolder folder(Host(QApplication::applicationFilePath()), own);
+  if (!folder.Lasts()) {
     QMessageBox::warning(
         nullptr, QStringLiteral("Tarvik"),
-        QStringLiteral("Tarvik has no folder of its own to write to%1. Your joystick and macro files can be "
-                       "edited and saved, but settings, backups and colours will not be kept.")
-            .arg(own.isEmpty() ? own : QStringLiteral(": ") + own));
+        QStringLiteral("Tarvik can't write to its folder %1. Settings, backups and coloured copies "
+                       "go to %2 this time, which does not last. Your files are not concerned.")
+            .arg(QFile::decodeName(own.c_str()), QFile::decodeName(folder.Path().c_str())));
   }
   return folder.Path();
 }

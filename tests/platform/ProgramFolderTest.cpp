@@ -51,14 +51,14 @@ TEST_F(ProgramFolderTest, AFolderThatHasTheDataAndCanBeWrittenIsTheOne) {
   temporary.Put("portable/tarvik.hlp", "help");
   const ProgramFolder folder = Start("portable/tarvik");
   EXPECT_EQ(folder.Path(), temporary.path() / "portable");
-  EXPECT_TRUE(folder.Writable());
+  EXPECT_TRUE(folder.Lasts());
   EXPECT_FALSE(fs::exists(own));
 }
 
 TEST_F(ProgramFolderTest, TheFirstStartOfAnInstalledProgramFillsTheUsersFolder) {
   const ProgramFolder folder = Start();
   EXPECT_EQ(folder.Path(), own);
-  EXPECT_TRUE(folder.Writable());
+  EXPECT_TRUE(folder.Lasts());
   EXPECT_EQ(Own("tarvik.hlp"), "help");
   EXPECT_EQ(Own("Templates/Title.rtf"), "title");
 }
@@ -109,7 +109,7 @@ TEST_F(ProgramFolderTest, AFileThatIsNewInALaterVersionComesUnlessTheUserHasOneO
 
 TEST_F(ProgramFolderTest, AFileThatCouldNotBeCopiedComesAtALaterStart) {
   temporary.Put("home/.local/share/tarvik/Templates", "a file where a folder is to be");
-  EXPECT_TRUE(Start().Writable());
+  EXPECT_TRUE(Start().Lasts());
   EXPECT_EQ(Own("tarvik.hlp"), "help");
   fs::remove(own / "Templates");
   Start();
@@ -126,17 +126,20 @@ TEST_F(ProgramFolderTest, CopiesCanBeWrittenAndNothingElseIsLeftBehind) {
   EXPECT_EQ(entries, 4) << "the help, the templates with one file, and the record of them";
 }
 
-TEST_F(ProgramFolderTest, AHomeThatCannotBeWrittenLeavesTheProgramWithWhatIsInstalled) {
-  temporary.Make("home");
+TEST_F(ProgramFolderTest, AHomeThatCannotBeWrittenLeavesATemporaryFolder) {
+  setenv("TMPDIR", temporary.Make("tmp").c_str(), 1);
+  own = temporary.Make("home");
   Allow("home", fs::perms::owner_read | fs::perms::owner_exec);
-  own = temporary.path() / "home";
-  const ProgramFolder folder = Start();
-  EXPECT_EQ(folder.Path(), temporary.path() / "usr/share/tarvik");
-  EXPECT_FALSE(folder.Writable());
-  own = temporary.Put("file", "") / "tarvik";
-  EXPECT_FALSE(Start().Writable());
-  own.clear();
-  EXPECT_FALSE(Start().Writable());
+  for (const fs::path& bad : {own, temporary.Put("file", "") / "tarvik", fs::path()}) {
+    own = bad;
+    const ProgramFolder folder = Start();
+    EXPECT_EQ(folder.Path().parent_path(), temporary.path() / "tmp");
+    EXPECT_FALSE(folder.Lasts());
+    EXPECT_EQ(TemporaryFolder::Content(folder.Path() / "tarvik.hlp"), "help");
+  }
+  setenv("TMPDIR", "/missing", 1);
+  EXPECT_EQ(Start().Path(), temporary.path() / "usr/share/tarvik");
+  unsetenv("TMPDIR");
 }
 
 TEST(UsersOwnFolder, IsWhereTheDesktopKeepsData) {
