@@ -8,6 +8,7 @@ PICTURE_PACKAGES=(xvfb openbox xdotool imagemagick)
 TEST_PACKAGES=(libgtest-dev libgmock-dev fiu-utils poppler-utils dosbox)
 BENCH_PACKAGES=(libbenchmark-dev)
 CHECK_PACKAGES=(clang-format clang-tidy clang libclang-rt-14-dev)
+PACKAGE_PACKAGES=(dpkg-dev file librsvg2-bin desktop-file-utils appstream lintian man-db shared-mime-info libglib2.0-bin)
 
 # install PACKAGE...: those that are not there yet.
 install() {

@@ -1,6 +1,7 @@
 // The program: the real services, the screen, and the forms between them.
 #include <QApplication>
 #include <QFile>
+#include <QMessageBox>
 #include <QScreen>
 #include <QStyleFactory>
 #include <filesystem>
@@ -11,6 +12,7 @@
 #include "platform/HostFiles.h"
 #include "platform/HostPrograms.h"
 #include "platform/InstanceLock.h"
+#include "platform/ProgramFolder.h"
 #include "screen/Icons.h"
 #include "screen/LockKeys.h"
 #include "screen/QtDesktop.h"
@@ -24,11 +26,13 @@ namespace {
 namespace fs = std::filesystem;
 using namespace tarvik;
 
+fs::path Host(const QString& path) { return QFile::encodeName(path).toStdString(); }
+
 /// A file that is there is passed on by its path on the drives, anything else as it is.
 std::string CommandLine(const QStringList& arguments, Drives& drives) {
   std::error_code ignored;
   if (arguments.size() == 1) {
-    const fs::path host = QFile::encodeName(arguments.constFirst()).toStdString();
+    const fs::path host = Host(arguments.constFirst());
     if (fs::exists(host, ignored)) return drives.FromHost(fs::absolute(host));
   }
   return FromUtf8(arguments.join(u' ').toStdString());
@@ -38,6 +42,20 @@ ScreenSize SizeOfScreen() {
   const QSize size = QGuiApplication::primaryScreen()->size();
   return {static_cast<float>(size.width()) * screen::kTwips,
           static_cast<float>(size.height()) * screen::kTwips};
+}
+
+/// Where nothing can be kept the user learns of it, and goes on.
+fs::path HomeOfProgram() {
+  const fs::path own = ProgramFolder::UsersOwn();
+  const ProgramFolder folder(Host(QApplication::applicationFilePath()), own);
+  if (!folder.Lasts()) {
+    QMessageBox::warning(
+        nullptr, QStringLiteral("Tarvik"),
+        QStringLiteral("Tarvik can't write to its folder %1. Settings, backups and coloured copies "
+                       "go to %2 this time, which does not last. Your files are not concerned.")
+            .arg(QFile::decodeName(own.c_str()), QFile::decodeName(folder.Path().c_str())));
+  }
+  return folder.Path();
 }
 
 }  // namespace
@@ -50,7 +68,7 @@ int main(int argc, char* argv[]) {
   screen::ChooseIconTheme();
   QApplication::setWindowIcon(screen::Icon("tarvik"));
 
-  const fs::path home = QFile::encodeName(QApplication::applicationDirPath()).toStdString();
+  const fs::path home = HomeOfProgram();
   HostDrives driveFolders(home);
   Drives& drives = driveFolders.Paths();
   HostFiles files(drives);

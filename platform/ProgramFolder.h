@@ -1,0 +1,29 @@
+// Finds the folder in which the program keeps its files: beside the executable where one may write there, and
+// otherwise a folder of the user's own, filled from what is installed. The program asks once, at its start.
+#pragma once
+
+#include <filesystem>
+
+namespace tarvik {
+
+class ProgramFolder {
+ public:
+  /// What is installed lies beside the executable or in `../share/tarvik` from there. The user's folder is
+  /// made and filled where it is needed: with files that it never got, and with newer versions of what the
+  /// user has left as it was. What was changed or deleted there stays so.
+  ProgramFolder(const std::filesystem::path& executable, const std::filesystem::path& usersOwn);
+
+  /// `$XDG_DATA_HOME/tarvik`, or `.local/share/tarvik` in the user's home; empty for a user without a home.
+  [[nodiscard]] static std::filesystem::path UsersOwn();
+
+  /// Where the user's folder cannot be written it is a new temporary one, filled likewise.
+  [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+  /// False for a temporary folder: the next start will not know of it.
+  [[nodiscard]] bool Lasts() const { return lasts_; }
+
+ private:
+  std::filesystem::path path_;
+  bool lasts_ = true;
+};
+
+}  // namespace tarvik
