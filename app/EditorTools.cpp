@@ -14,6 +14,7 @@
 #include "lists/CustomApps.h"
 #include "lists/Favourites.h"
 #include "lists/Preferences.h"
+#include "output/HelpTopics.h"
 #include "output/TextBlocks.h"
 #include "output/Tips.h"
 #include "output/ViewImage.h"
@@ -121,10 +122,7 @@ void Editor::mnuAppsQuiet_Click() {
   quiet.Checked = !quiet.Checked;
 }
 
-void Editor::mnuHelpContents_Click() {
-  constexpr int kContents = 1000;
-  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kContents);
-}
+void Editor::mnuHelpContents_Click() { ShowHelp(application_.platform, topic::kContents); }
 
 void Editor::mnuHelpTips_Click() { application_.ShowModal(application_.Tool<frmTip>()); }
 void Editor::mnuHelpAbout_Click() { application_.ShowModal(application_.Tool<frmAbout>()); }

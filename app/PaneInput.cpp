@@ -1,5 +1,7 @@
 #include "app/PaneInput.h"
 
+#include "output/HelpTopics.h"
+
 namespace tarvik {
 namespace {
 
@@ -45,7 +47,7 @@ void PaneInput::TurnOvertypeOver() {
 }
 
 void PaneInput::ShowHelp(const std::string& keyword) const {
-  desk_.platform.help.ShowKeyword(desk_.platform.folder + "\\tarvik.hlp", keyword);
+  desk_.platform.help.ShowKeyword(HelpFilePath(desk_.platform), keyword);
 }
 
 /// The right button's pop-up, with what can be done here and now.

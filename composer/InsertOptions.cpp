@@ -1,6 +1,7 @@
 #include "composer/InsertOptions.h"
 
 #include "app/Editor.h"
+#include "output/HelpTopics.h"
 #include "platform/CodePage.h"
 
 namespace tarvik {
@@ -48,8 +49,6 @@ constexpr MenuRow<InsertOptions> kMenus[] = {
 
 constexpr const char* kSection = "Miscellaneous";
 constexpr float kPlace = 10;  // twips; for a window that would be out of sight
-constexpr int kFirstHelpTopic = 5355;
-constexpr int kTopicsBetweenPages = 5;
 constexpr int kMinimised = 1;
 
 constexpr const char* kTipTitle = "Keep the Composer in memory for increased speed";
@@ -253,7 +252,7 @@ void InsertOptions::Command14_Click() {
 
 void InsertOptions::CommandHelp_Click() {
   application_.platform.help.ShowContext(application_.platform.folder + "\\Tarvik.hlp",
-                                         kFirstHelpTopic + kTopicsBetweenPages * SSTab1.Tab);
+                                         topic::kComposerPages[SSTab1.Tab]);
 }
 
 void InsertOptions::Check1_Click() {

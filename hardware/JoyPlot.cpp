@@ -4,6 +4,7 @@
 
 #include "app/Mum.h"
 #include "hardware/JoystickTexts.h"
+#include "output/HelpTopics.h"
 
 namespace tarvik {
 namespace {
@@ -24,8 +25,6 @@ constexpr unsigned kGridColour = 85 + (128 << 8) + (151 << 16);
 constexpr unsigned kWhite = 0xFFFFFF;
 
 constexpr float kInside = 6000;  // twips, until the window says otherwise
-constexpr int kOverview = 7021;
-constexpr int kSpiking = 9410;
 
 constexpr MenuRow<JoyPlot> kMenus[] = {
     {0, "mnuFile", "&File"},
@@ -200,12 +199,8 @@ void JoyPlot::mnuZoom_Click() {
   Form_Resize();
 }
 
-void JoyPlot::mnuHelpOverview_Click() { ShowHelp(kOverview); }
-void JoyPlot::mnuhelpSpiking_Click() { ShowHelp(kSpiking); }
-
-void JoyPlot::ShowHelp(int context) {
-  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", context);
-}
+void JoyPlot::mnuHelpOverview_Click() { ShowHelp(application_.platform, topic::kJoystickAnalyser); }
+void JoyPlot::mnuhelpSpiking_Click() { ShowHelp(application_.platform, topic::kSpiking); }
 
 void JoyPlot::mnuReadMe_Click() {
   application_.platform.dialogs.Show(

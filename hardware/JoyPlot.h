@@ -55,7 +55,6 @@ class JoyPlot : public Form {
   void DrawMarker(unsigned outline, unsigned diagonals);
   void DrawDiagonals(unsigned colour);
   void DrawGrid();
-  void ShowHelp(int context);
 
   Application& application_;
 };

@@ -5,6 +5,7 @@
 #include "app/Editor.h"
 #include "composer/MacroWizard.h"
 #include "composer/Speedy.h"
+#include "output/HelpTopics.h"
 #include "output/TextBlocks.h"
 
 namespace tarvik {
@@ -23,9 +24,6 @@ constexpr int kEscape = 27;
 constexpr int kColourButton = 7;
 constexpr int kMinimised = 1;
 enum AddKind { kNothing, kText, kRaw };
-
-constexpr int kRawCodeTopic = 8170;
-constexpr int kOverviewTopic = 5210;
 
 constexpr const char* kAddTip = "Paste into the combined selection";
 constexpr const char* kCopyTip = "Copy to the clipboard";
@@ -386,11 +384,7 @@ void RAWform::Command14_Click(int index) {
 
 void RAWform::mnuFileClose_Click() { application_.Unload(*this); }
 
-void RAWform::ShowHelp(int topic) const {
-  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", topic);
-}
-
-void RAWform::mnuRawOverview_Click() { ShowHelp(kOverviewTopic); }
-void RAWform::mnuHelpRawcodes_Click() { ShowHelp(kRawCodeTopic); }
+void RAWform::mnuRawOverview_Click() { ShowHelp(application_.platform, topic::kPimlet); }
+void RAWform::mnuHelpRawcodes_Click() { ShowHelp(application_.platform, topic::kRawCodes); }
 
 }  // namespace tarvik

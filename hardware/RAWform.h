@@ -103,7 +103,6 @@ class RAWform : public Form {
   void AddText(const std::string& text);
   [[nodiscard]] TextBox& CodeBox(int index);
   void PasteInto(Document& document);
-  void ShowHelp(int topic) const;
 
   Application& application_;
   Editor& editor_;

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "app/Editor.h"
+#include "output/HelpTopics.h"
 
 namespace tarvik {
 namespace {
@@ -14,7 +15,6 @@ constexpr int kEscape = 27;
 enum Tab { kFindTab, kReplaceTab, kGotoTab };
 
 /// The topics of the tabs in the help file.
-constexpr int kTopics[] = {3110, 3120, 3130};
 
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
@@ -159,9 +159,7 @@ void FindAndReplace::SSTab1_Click() {
   page.find.MakeDefault();
 }
 
-void FindAndReplace::Command10_Click() {
-  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kTopics[SSTab1.Tab]);
-}
+void FindAndReplace::Command10_Click() { ShowHelp(application_.platform, topic::kFindPages[SSTab1.Tab]); }
 
 void FindAndReplace::AllowReplacing(bool allow) {
   Command5.Enabled = allow;

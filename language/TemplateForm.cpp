@@ -5,6 +5,7 @@
 #include "app/SaveQuestion.h"
 #include "language/Highlighter.h"
 #include "lists/Preferences.h"
+#include "output/HelpTopics.h"
 #include "output/PrintRTFWordWrap.h"
 #include "platform/CodePage.h"
 
@@ -20,7 +21,6 @@ constexpr const char* kFilter =
 constexpr int kNoWrapping = 2000;
 constexpr int kRightButton = 2;
 constexpr int kEscape = 27;
-constexpr int kHelpContext = 7030;
 
 constexpr MenuRow<TemplateForm> kMenus[] = {
     {0, "mnuFile", "&File"},
@@ -401,8 +401,6 @@ void TemplateForm::ColourTemplateText() {
   Say("Done");
 }
 
-void TemplateForm::mnuOverview_Click() {
-  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kHelpContext);
-}
+void TemplateForm::mnuOverview_Click() { ShowHelp(application_.platform, topic::kTemplateEditor); }
 
 }  // namespace tarvik

@@ -5,6 +5,7 @@
 #include "app/Editor.h"
 #include "app/Mum.h"
 #include "language/TemplateForm.h"
+#include "output/HelpTopics.h"
 #include "platform/CodePage.h"
 
 namespace tarvik {
@@ -13,7 +14,6 @@ namespace {
 constexpr char kOwn = 'c';
 constexpr char kRoot = 'z';
 constexpr int kLetters = 26;
-constexpr int kHelpContext = 5335;
 
 constexpr const char* kAbout = "Each drive letter is a folder of yours. Drive z: is the whole computer.";
 
@@ -33,9 +33,7 @@ DrivesForm::DrivesForm(Application& application) : Form("DrivesForm"), applicati
   Command3.MakeDefault();
   Command3.Cancel = true;
   Command3.Click = [this] { application_.Unload(*this); };
-  Command4.Click = [this] {
-    application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kHelpContext);
-  };
+  Command4.Click = [this] { ShowHelp(application_.platform, topic::kDrives); };
   List1.DblClick = [this] {
     if (Command1.Enabled) Command1_Click();
   };

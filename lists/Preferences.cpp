@@ -6,6 +6,7 @@
 #include "app/Editor.h"
 #include "lists/CustomApps.h"
 #include "lists/DrivesForm.h"
+#include "output/HelpTopics.h"
 #include "platform/CodePage.h"
 
 namespace tarvik {
@@ -70,8 +71,6 @@ constexpr const char* kFixedPitch =
 constexpr const char* kAutoSaveInvalid =
     "The value you entered isn't valid. I'm changing it to 10 minutes to prevent an error ocurring.";
 
-constexpr int kFirstHelpTopic = 5305;
-constexpr int kTopicsBetweenPages = 5;
 constexpr int kLeastUndo = 10;
 constexpr int kMostUndo = 30000;
 constexpr int kAutoSaveMinutes = 10;
@@ -292,10 +291,7 @@ void Preferences::SSTab1_Click() {
 
 void Preferences::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
 
-void Preferences::Command6_Click() {
-  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp",
-                                         kFirstHelpTopic + kTopicsBetweenPages * SSTab1.Tab);
-}
+void Preferences::Command6_Click() { ShowHelp(application_.platform, topic::kPreferencesPages[SSTab1.Tab]); }
 
 // File locations.
 

@@ -11,6 +11,7 @@ namespace {
 constexpr std::string_view kTitle = "# ";
 constexpr std::string_view kNoteStart = "<!--";
 constexpr std::string_view kNoteEnd = "-->";
+constexpr std::string_view kGroup = "group:";
 
 std::string_view Trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(" \t\r\n");
@@ -26,9 +27,20 @@ std::string_view TakeUpTo(std::string_view& text, char separator) {
   return Trimmed(part);
 }
 
-void TakeNote(std::string_view line, HelpTopic& topic) {
-  std::string_view keywords =
-      line.substr(kNoteStart.size(), line.size() - kNoteStart.size() - kNoteEnd.size());
+/// The blanks in front of an example belong to it.
+std::string_view TakeLine(std::string_view& text) {
+  const std::size_t end = std::min(text.find('\n'), text.size());
+  const std::string_view line = text.substr(0, end);
+  text.remove_prefix(std::min(end + 1, text.size()));
+  return line.substr(0, line.find_last_not_of(" \t\r") + 1);
+}
+
+bool IsNote(std::string_view line) {
+  return line.size() >= kNoteStart.size() + kNoteEnd.size() && line.starts_with(kNoteStart) &&
+         line.ends_with(kNoteEnd);
+}
+
+void TakeNote(std::string_view keywords, HelpTopic& topic) {
   std::string_view numbers = TakeUpTo(keywords, ':');
   while (!numbers.empty()) {
     int number = 0;
@@ -44,17 +56,21 @@ void TakeNote(std::string_view line, HelpTopic& topic) {
 }  // namespace
 
 HelpFile::HelpFile(std::string_view text) {
+  std::string group;
   while (!text.empty()) {
-    const std::string_view line = TakeUpTo(text, '\n');
-    if (line.starts_with(kTitle)) topics_.push_back({std::string(line.substr(kTitle.size())), {}, {}, {}});
-    if (topics_.empty()) continue;
-    HelpTopic& topic = topics_.back();
-    const bool note = line.size() >= kNoteStart.size() + kNoteEnd.size() && line.starts_with(kNoteStart) &&
-                      line.ends_with(kNoteEnd);
-    if (note) {
-      TakeNote(line, topic);
-    } else {
-      topic.text.append(line).append("\n");
+    std::string_view line = TakeLine(text);
+    if (line.starts_with(kTitle)) {
+      topics_.push_back({std::string(line.substr(kTitle.size())), group, {}, {}, {}});
+    }
+    const bool note = IsNote(line);
+    if (note)
+      line = Trimmed(line.substr(kNoteStart.size(), line.size() - kNoteStart.size() - kNoteEnd.size()));
+    if (note && line.starts_with(kGroup)) {
+      group = Trimmed(line.substr(kGroup.size()));
+    } else if (note && !topics_.empty()) {
+      TakeNote(line, topics_.back());
+    } else if (!topics_.empty()) {
+      topics_.back().text.append(line).append("\n");
     }
   }
 }
@@ -77,7 +93,25 @@ const HelpTopic* HelpFile::WithKeyword(std::string_view keyword) const {
       if (!beginning && known.starts_with(wanted)) beginning = &topic;
     }
   }
-  return beginning;
+  if (beginning) return beginning;
+  const std::string_view word = std::string_view(wanted).substr(0, wanted.find_first_of(" (\r\n", 1));
+  const std::string_view name = word.substr(0, word.find_last_not_of("0123456789") + 1);
+  const std::string_view shorter = word.size() < wanted.size() ? word : name;
+  return shorter.size() < wanted.size() ? WithKeyword(shorter) : nullptr;
+}
+
+std::vector<const HelpTopic*> HelpFile::Search(std::string_view words) const {
+  const std::string wanted = LowerCase(Trimmed(words));
+  const auto has = [&wanted](const std::string& text) {
+    return LowerCase(text).find(wanted) != std::string::npos;
+  };
+  std::vector<const HelpTopic*> found;
+  for (const HelpTopic& topic : topics_) {
+    if (has(topic.text) || std::any_of(topic.keywords.begin(), topic.keywords.end(), has)) {
+      found.push_back(&topic);
+    }
+  }
+  return found;
 }
 
 }  // namespace tarvik

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/Mum.h"
+#include "output/HelpTopics.h"
 #include "platform/CodePage.h"
 #include "platform/LogicalPath.h"
 
@@ -10,7 +11,6 @@ namespace tarvik {
 namespace {
 
 constexpr float kInside = 7500;  // twips, until the window says otherwise
-constexpr int kHelpContext = 7040;
 constexpr const char* kEndings[] = {".bmp", ".gif", ".jpeg", ".jpg", ".png", ".wmf"};
 
 constexpr MenuRow<ViewImage> kMenus[] = {
@@ -88,9 +88,7 @@ void ViewImage::mnuImageEdit_Click() {
   trap(application_.platform.desktop.Open(application_.settings.ImageFilePath));
 }
 
-void ViewImage::mnuHelpViewer_Click() {
-  application_.platform.help.ShowContext(application_.platform.folder + "\\tarvik.hlp", kHelpContext);
-}
+void ViewImage::mnuHelpViewer_Click() { ShowHelp(application_.platform, topic::kImageViewer); }
 
 // The picker.
 

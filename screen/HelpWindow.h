@@ -1,31 +1,62 @@
-// The help window: the topics of the help file beside the one that is read, with a field to find a keyword.
+// The help window: the topics of the help file under their headings, a field to search them, the topic that
+// is read with its examples in the colours of the files, the way back and forward, and printing.
 #pragma once
 
+#include <QAction>
 #include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTextBrowser>
+#include <array>
+#include <optional>
 
+#include "language/Painting.h"
 #include "output/HelpFile.h"
 
 namespace tarvik::screen {
+
+/// What the files look like: the colours of the statements, and the paper of either file.
+struct FileLook {
+  std::array<Colour, kColourClasses> colours{};
+  Colour joystick = kWhite;
+  Colour macro = kWhite;
+  static constexpr Colour kWhite = 0xFFFFFF;
+};
 
 class HelpWindow : public QDialog {
  public:
   HelpWindow();
 
-  void Open(HelpFile file);
+  void Open(HelpFile file, const FileLook& look = {});
   /// Shows the topic; for a number or keyword that no topic has, the list with a word about that.
   void ShowContext(int context);
   void ShowKeyword(const std::string& keyword);
 
  private:
+  QAction* AddAction(const char* icon, const QString& text, const QKeySequence& key,
+                     void (HelpWindow::*run)());
+  void Search();
   void ListTopics();
+  void AddHeading(const std::string& group);
+  void SelectShown();
   void ShowTopic(const HelpTopic* topic, const QString& asked);
+  void Show(std::size_t topic);
+  void Visit(std::size_t topic);
+  void Step(int by);
+  void GoBack();
+  void GoForward();
+  void GoToContents();
+  void Print();
   void FollowLink(const QUrl& link);
 
   HelpFile file_;
-  QLineEdit* keyword_;
+  FileLook look_;
+  std::vector<std::size_t> read_;  // the topics on the way here and on
+  std::size_t at_ = 0;             // in read_
+  std::optional<std::size_t> shown_;
+  QAction* back_;
+  QAction* forward_;
+  QLineEdit* words_;
   QListWidget* topics_;
   QTextBrowser* text_;
 };

@@ -11,7 +11,6 @@
 #include <QStandardPaths>
 #include <QUrl>
 
-#include "screen/HelpWindow.h"
 #include "screen/Text.h"
 
 namespace tarvik::screen {
@@ -117,7 +116,7 @@ QtHelp::~QtHelp() { delete window_; }
 HelpWindow& QtHelp::Window(const std::string& file) {
   const auto text = files_.Read(file);
   if (!window_) window_ = new HelpWindow;
-  window_->Open(HelpFile(text ? *text : std::string()));
+  window_->Open(HelpFile(text ? *text : std::string()), look ? look() : FileLook());
   return *window_;
 }
 

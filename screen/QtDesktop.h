@@ -8,10 +8,9 @@
 #include "platform/Drives.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"
+#include "screen/HelpWindow.h"
 
 namespace tarvik::screen {
-
-class HelpWindow;
 
 class QtClipboard : public QObject, public Clipboard {
  public:
@@ -52,6 +51,8 @@ class QtHelp : public Help {
 
   void ShowKeyword(const std::string& file, const std::string& keyword) override;
   void ShowContext(const std::string& file, int context) override;
+  /// How its examples look; black on white without.
+  std::function<FileLook()> look;
 
  private:
   HelpWindow& Window(const std::string& file);

@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "app/Application.h"
+#include "language/Highlighter.h"
 #include "platform/CodePage.h"
 #include "platform/HostDrives.h"
 #include "platform/HostFiles.h"
@@ -42,6 +43,10 @@ ScreenSize SizeOfScreen() {
   const QSize size = QGuiApplication::primaryScreen()->size();
   return {static_cast<float>(size.width()) * screen::kTwips,
           static_cast<float>(size.height()) * screen::kTwips};
+}
+
+screen::FileLook LookOf(const Settings& settings) {
+  return {ColoursOf(settings), settings.BackgroundColour, settings.MacroBackgroundColour};
 }
 
 /// Where nothing can be kept the user learns of it, and goes on.
@@ -99,6 +104,7 @@ int main(int argc, char* argv[]) {
                     CommandLine(QApplication::arguments().mid(1), drives)};
 
   Application application(platform);
+  help.look = [&application] { return LookOf(application.settings); };
   screen::Screen screen(application, screen::Clock::Real);
   const Connection ended = application.HasEnded.Connect([] {
     QMetaObject::invokeMethod(

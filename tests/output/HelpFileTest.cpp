@@ -4,8 +4,14 @@
 #include <fstream>
 #include <iterator>
 #include <regex>
+#include <set>
 
+#include "composer/ComposerTables.h"
+#include "composer/LogicLines.h"
+#include "language/Painting.h"
 #include "output/HelpFile.h"
+#include "output/HelpTopics.h"
+#include "platform/CodePage.h"
 
 namespace tarvik {
 namespace {
@@ -48,13 +54,116 @@ TEST(HelpFile, ATopicIsFoundByNumberAndByKeywordInAnyCaseOrByItsBeginning) {
 
 TEST(HelpFile, NoFileHasNoTopics) { EXPECT_THAT(HelpFile("").Topics(), IsEmpty()); }
 
-TEST(HelpFile, EveryLinkOfTheProgramsOwnLeadsToATopic) {
-  std::ifstream in(TARVIK_DATA "/tarvik.hlp", std::ios::binary);
-  const HelpFile file(std::string(std::istreambuf_iterator<char>(in), {}));
-  ASSERT_GT(file.Topics().size(), 10U);
-  for (const int context : {1000, 3110, 3120, 3130, 7021, 9410})
-    EXPECT_TRUE(file.WithContext(context)) << context;
-  EXPECT_TRUE(file.WithKeyword("BTN"));
+TEST(HelpFile, ASelectionOfMoreThanItsFirstWordFindsThat) {
+  const HelpFile file("# Button\n<!-- 1: btn, s -->\n# Delay\n<!-- 2: dly, dly of the list -->\n");
+  EXPECT_EQ(file.WithKeyword("BTN S1 Fire"), &file.Topics()[0]);
+  EXPECT_EQ(file.WithKeyword("DLY(60)"), &file.Topics()[1]);
+  EXPECT_EQ(file.WithKeyword("S14"), &file.Topics()[0]);
+  EXPECT_EQ(file.WithKeyword("Some words"), nullptr);
+  EXPECT_EQ(file.WithKeyword("(("), nullptr);
+  EXPECT_EQ(file.WithKeyword("123"), nullptr);
+}
+
+TEST(HelpFile, TopicsStandUnderTheHeadingBeforeThem) {
+  const HelpFile file("<!-- group: Early -->\n# One\n<!-- 1: a -->\n<!-- group: Late -->\n# Two\n# Three\n");
+  ASSERT_EQ(file.Topics().size(), 3U);
+  EXPECT_EQ(file.Topics()[0].group, "Early");
+  EXPECT_EQ(file.Topics()[0].text, "# One\n");
+  EXPECT_EQ(file.Topics()[1].group, "Late");
+  EXPECT_EQ(file.Topics()[2].group, "Late");
+  EXPECT_THAT(file.Topics()[1].contexts, IsEmpty());
+}
+
+TEST(HelpFile, ASearchLooksAtTitlesKeywordsAndText) {
+  const HelpFile file(kFile);
+  EXPECT_THAT(file.Search(" LOOKS for "), ElementsAre(&file.Topics()[0]));
+  EXPECT_THAT(file.Search("search"), ElementsAre(&file.Topics()[0], &file.Topics()[1]));
+  EXPECT_THAT(file.Search("Last"), ElementsAre(&file.Topics()[2]));
+  EXPECT_EQ(file.Search("").size(), 3U);
+  EXPECT_THAT(file.Search("nowhere"), IsEmpty());
+}
+
+TEST(HelpFile, ExamplesKeepTheirBlanks) {
+  const HelpFile file("# One\n```joystick\nBTN S1 /I a\r\n       /O b  \n```\n");
+  EXPECT_EQ(file.Topics()[0].text, "# One\n```joystick\nBTN S1 /I a\n       /O b\n```\n");
+}
+
+class OwnHelpFile : public testing::Test {
+ protected:
+  static std::string Content() {
+    std::ifstream in(TARVIK_DATA "/tarvik.hlp", std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+  }
+
+  /// A topic about the file language that says of itself that it is about the word.
+  void ExpectTopicOf(std::string_view word) {
+    const HelpTopic* const topic = file.WithKeyword(word);
+    ASSERT_TRUE(topic) << word;
+    EXPECT_THAT(topic->keywords, testing::Contains(LowerCase(word))) << word << " leads to " << topic->title;
+    EXPECT_EQ(topic->group, "The file language") << word;
+  }
+
+  const HelpFile file{Content()};
+};
+
+TEST_F(OwnHelpFile, HasATopicForEveryNumberThatTheProgramAsksFor) {
+  for (const int number : topic::All()) EXPECT_TRUE(file.WithContext(number)) << number;
+}
+
+TEST_F(OwnHelpFile, GivesEachNumberToOneTopicAndEachTopicAHeading) {
+  std::set<int> numbers;
+  for (const HelpTopic& topic : file.Topics()) {
+    EXPECT_FALSE(topic.contexts.empty()) << topic.title;
+    EXPECT_FALSE(topic.group.empty()) << topic.title;
+    for (const int number : topic.contexts) EXPECT_TRUE(numbers.insert(number).second) << number;
+  }
+}
+
+TEST_F(OwnHelpFile, HasATopicForEveryWordOfTheFileLanguages) {
+  for (const auto passes : {JoystickPasses(), MacroPasses()}) {
+    for (const Pass& pass : passes) ExpectTopicOf(pass.text.substr(0, pass.text.find_first_of(" (", 1)));
+  }
+  for (const tables::SlashRow& slash : tables::kSlashes) ExpectTopicOf(slash.caption);
+  for (const std::string_view slash : tables::kFlagSlashes) ExpectTopicOf(slash);
+  for (const tables::TabRow& row : tables::kTabStatements) {
+    if (!row.keyword.empty()) ExpectTopicOf(row.keyword);
+  }
+  for (const tables::AxisRow& axis : tables::kAxes) ExpectTopicOf(axis.token);
+  for (const tables::ValueRow& value : tables::kValues) {
+    ExpectTopicOf(value.keyword.substr(0, value.keyword.find(' ')));
+  }
+}
+
+TEST_F(OwnHelpFile, HasATopicForEveryControlOfTheHardware) {
+  for (const tables::HardwareRow& row : tables::kHardware) {
+    if (row.array != "BTN" || row.caption.empty()) continue;
+    EXPECT_TRUE(file.WithKeyword(row.caption)) << row.caption;
+  }
+  for (const std::string_view hat : tables::kHats) {
+    for (const std::string_view position : tables::kHatPositions) {
+      ExpectTopicOf(std::string(hat) + std::string(position));
+    }
+  }
+}
+
+TEST_F(OwnHelpFile, ShowsEveryExampleInColours) {
+  int examples = 0;
+  const std::regex example("```(joystick|macro)\n([^`]*)\n```");
+  for (const HelpTopic& topic : file.Topics()) {
+    for (std::sregex_iterator at(topic.text.begin(), topic.text.end(), example), end; at != end; ++at) {
+      const std::string text = (*at)[2];
+      Painting painting(text, (*at)[1] == "macro" ? MacroPasses() : JoystickPasses());
+      painting.Run();
+      constexpr Colour kColours[] = {0, 1, 2, 3, 4, 5};
+      const bool macrosAlone = topic.contexts.front() == 4150;
+      EXPECT_EQ(painting.Colours(kColours).runs().size() > 1, !macrosAlone) << topic.title;
+      ++examples;
+    }
+  }
+  EXPECT_GT(examples, 30);
+}
+
+TEST_F(OwnHelpFile, HasNoLinkToNowhere) {
   const std::regex link(R"(\]\(#(\d+)\))");
   for (const HelpTopic& topic : file.Topics()) {
     for (std::sregex_iterator at(topic.text.begin(), topic.text.end(), link), end; at != end; ++at) {

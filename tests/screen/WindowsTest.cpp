@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <QTextBlock>
 #include <map>
 
 #include "app/ColourSelector.h"
@@ -31,6 +32,7 @@
 #include "output/ViewImage.h"
 #include "screen/HelpWindow.h"
 #include "screen/Screen.h"
+#include "screen/Text.h"
 #include "support/ScriptedPlatform.h"
 
 namespace tarvik::screen {
@@ -138,6 +140,93 @@ TEST_F(Windows, ShowAHelpTopicAsItIsMeant) {
   EXPECT_EQ(text->toPlainText(), QStringLiteral("First\nSome words of text."));
   help.ShowContext(12);
   EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("12")));
+}
+
+class HelpWindowTest : public testing::Test {
+ protected:
+  HelpWindowTest() {
+    FileLook look;
+    look.colours = {0x000000, 0x0000FF, 0, 0, 0, 0x00FF00};
+    look.joystick = 0xAABBCC;
+    help.Open(
+        HelpFile("<!-- group: Early -->\n# One\n<!-- 1: one -->\n[on](#3)\n"
+                 "# Two\n<!-- 2: two -->\nsilver\n"
+                 "<!-- group: Late -->\n# Three\n<!-- 3: three -->\n```joystick\nBTN S1 Gun Rem x\n```\n"),
+        look);
+    help.ShowContext(1);
+  }
+
+  QString Title() const { return text->toPlainText().section(u'\n', 0, 0); }
+  QAction* Action(const char* text) const {
+    for (QAction* const action : help.actions()) {
+      if (action->text() == QLatin1String(text)) return action;
+    }
+    return nullptr;
+  }
+
+  HelpWindow help;
+  QTextBrowser* text = help.findChild<QTextBrowser*>();
+  QListWidget* topics = help.findChild<QListWidget*>();
+  QLineEdit* words = help.findChild<QLineEdit*>();
+};
+
+TEST_F(HelpWindowTest, ListsTopicsUnderTheirHeadings) {
+  QStringList rows;
+  for (int i = 0; i < topics->count(); ++i) rows += topics->item(i)->text();
+  EXPECT_EQ(rows, QStringList({QStringLiteral("Early"), QStringLiteral("One"), QStringLiteral("Two"),
+                               QStringLiteral("Late"), QStringLiteral("Three")}));
+  EXPECT_FALSE(topics->item(0)->flags() & Qt::ItemIsSelectable);
+  EXPECT_EQ(topics->currentRow(), 1);
+}
+
+TEST_F(HelpWindowTest, GoesBackAndForwardOnTheWayThatWasRead) {
+  EXPECT_FALSE(Action("Back")->isEnabled());
+  topics->setCurrentRow(2);
+  help.ShowContext(3);
+  EXPECT_EQ(Title(), QStringLiteral("Three"));
+  Action("Back")->trigger();
+  EXPECT_EQ(Title(), QStringLiteral("Two"));
+  EXPECT_EQ(topics->currentRow(), 2);
+  Action("Back")->trigger();
+  EXPECT_EQ(Title(), QStringLiteral("One"));
+  EXPECT_FALSE(Action("Back")->isEnabled());
+  Action("Forward")->trigger();
+  EXPECT_EQ(Title(), QStringLiteral("Two"));
+  help.ShowContext(1);
+  EXPECT_FALSE(Action("Forward")->isEnabled()) << "a new way";
+  Action("Back")->trigger();
+  EXPECT_EQ(Title(), QStringLiteral("Two"));
+}
+
+TEST_F(HelpWindowTest, SearchesTheTextsToo) {
+  words->setText(QStringLiteral("SILV"));
+  EXPECT_EQ(topics->count(), 1);
+  EXPECT_EQ(Title(), QStringLiteral("Two"));
+  words->setText(QStringLiteral("silvery"));
+  EXPECT_EQ(topics->count(), 0);
+  EXPECT_EQ(Title(), QStringLiteral("Two"));
+  words->clear();
+  EXPECT_EQ(topics->count(), 5);
+  EXPECT_EQ(topics->currentRow(), 2);
+  help.ShowContext(3);
+  Action("Back")->trigger();
+  EXPECT_EQ(Title(), QStringLiteral("Two")) << "what the search found was on the way";
+}
+
+TEST_F(HelpWindowTest, ShowsExamplesInTheColoursOfTheFiles) {
+  help.ShowContext(3);
+  const QTextBlock example = text->document()->lastBlock();
+  ASSERT_EQ(example.text(), QStringLiteral("BTN S1 Gun Rem x"));
+  EXPECT_EQ(example.blockFormat().background().color(), ToScreenColour(0xAABBCC));
+  const auto colourAt = [&example](int position) {
+    QTextCursor cursor(example);
+    cursor.setPosition(example.position() + position + 1);
+    return cursor.charFormat().foreground().color();
+  };
+  EXPECT_EQ(colourAt(0), ToScreenColour(0x0000FF));
+  EXPECT_EQ(colourAt(5), ToScreenColour(0x0000FF));
+  EXPECT_EQ(colourAt(7), ToScreenColour(0x000000));
+  EXPECT_EQ(colourAt(15), ToScreenColour(0x00FF00));
 }
 
 /// Where the focus goes by the Tab key, from the first control of a window around to it again.

@@ -7,6 +7,7 @@
 
 #include "app/Editor.h"
 #include "hardware/KeyTestForm.h"
+#include "output/HelpFile.h"
 #include "platform/CodePage.h"
 
 namespace tarvik::session {
@@ -556,8 +557,14 @@ void Runner::ExpectClipboard(const Line& line) { Compare(Wanted(line, 2), outsid
 /// expect help "FILE TOPIC", in the order they were asked for
 void Runner::ExpectHelp(const Line& line) {
   if (outside_.help.shown.empty()) throw Stop{"no help was asked for"};
-  Compare(Word(line, 2), outside_.help.shown.front());
+  const std::string shown = outside_.help.shown.front();
+  Compare(Word(line, 2), shown);
   outside_.help.shown.pop_front();
+  const std::string asked = shown.substr(shown.find(' ') + 1);
+  const HelpFile file(files_.Content(std::string(kFolder) + "\\tarvik.hlp").value_or(""));
+  const bool number = asked.find_first_not_of("0123456789") == std::string::npos;
+  if (number ? !file.WithContext(std::stoi(asked)) : !file.WithKeyword(asked))
+    throw Stop{"no topic is about that"};
 }
 
 /// expect opened PATH, in the order in which the desktop was asked to open them

@@ -1,0 +1,33 @@
+// The help topics that the program itself asks for, by the numbers that the help file gives them.
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "platform/Platform.h"
+
+namespace tarvik {
+
+namespace topic {
+inline constexpr int kContents = 1000;
+inline constexpr int kFindPages[] = {3110, 3120, 3130};
+inline constexpr int kPimlet = 5210;
+inline constexpr int kPreferencesPages[] = {5305, 5310, 5315, 5320, 5325, 5330};
+inline constexpr int kDrives = 5335;
+inline constexpr int kComposerPages[] = {5355, 5360, 5365, 5370, 5375, 5380, 5385, 5390};
+inline constexpr int kJoystickAnalyser = 7021;
+inline constexpr int kTemplateEditor = 7030;
+inline constexpr int kImageViewer = 7040;
+inline constexpr int kRawCodes = 8170;
+inline constexpr int kSpiking = 9410;
+
+/// All of the above.
+[[nodiscard]] std::vector<int> All();
+}  // namespace topic
+
+/// The path of the help file.
+[[nodiscard]] std::string HelpFilePath(const Platform& platform);
+/// Opens the help at the topic.
+void ShowHelp(const Platform& platform, int topic);
+
+}  // namespace tarvik
