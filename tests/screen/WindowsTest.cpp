@@ -183,6 +183,23 @@ TEST_F(Windows, ShowEveryPageOfTheComposerWithNames) {
   }
 }
 
+TEST_F(Windows, ShowEveryPageOfThePreferencesWhole) {
+  auto& preferences = application.Tool<Preferences>();
+  auto* const window = dynamic_cast<QWidget*>(screen.ViewOf(preferences));
+  for (int page = 0; page < preferences.SSTab1.Count(); ++page) {
+    preferences.SSTab1.Tab = page;
+    QApplication::processEvents();
+    ExpectNames(*QAccessible::queryAccessibleInterface(window));
+    for (const QWidget* const part : window->findChildren<QWidget*>()) {
+      const auto* const label = qobject_cast<const QLabel*>(part);
+      const bool named = label || qobject_cast<const QAbstractButton*>(part);
+      if (!named || !part->isVisible()) continue;
+      EXPECT_GE(part->width(), part->sizeHint().width())
+          << part->objectName().toStdString() << " " << (label ? label->text().toStdString() : "");
+    }
+  }
+}
+
 TEST_F(Windows, MoveAmongTheLabelsOfADeviceByTheArrowKeys) {
   auto& composer = application.Tool<InsertOptions>();
   const auto widget = [&](const char* name) {
