@@ -1,8 +1,10 @@
 #include "screen/HelpWindow.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "screen/Text.h"
 
@@ -72,9 +74,20 @@ void HelpWindow::ShowTopic(const HelpTopic* topic, const QString& asked) {
   } else {
     text_->setMarkdown(tr("There is no topic for *%1*. Pick one from the list.").arg(asked));
   }
+  ChooseOwner();
   show();
   raise();
   activateWindow();
+}
+
+/// A modal window lets only those through that belong to it.
+void HelpWindow::ChooseOwner() {
+  create();
+  const QWidget* const modal = QApplication::activeModalWidget();
+  QWindow* const owner = modal ? modal->windowHandle() : nullptr;
+  if (windowHandle()->transientParent() == owner) return;
+  hide();
+  windowHandle()->setTransientParent(owner);
 }
 
 void HelpWindow::ShowContext(int context) { ShowTopic(file_.WithContext(context), QString::number(context)); }

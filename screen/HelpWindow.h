@@ -22,6 +22,7 @@ class HelpWindow : public QDialog {
  private:
   void ListTopics();
   void ShowTopic(const HelpTopic* topic, const QString& asked);
+  void ChooseOwner();
   void FollowLink(const QUrl& link);
 
   HelpFile file_;

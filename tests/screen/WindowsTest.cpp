@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <QWindow>
 #include <map>
 
 #include "app/ColourSelector.h"
@@ -135,6 +136,20 @@ TEST_F(Windows, ShowAHelpTopicAsItIsMeant) {
   EXPECT_EQ(text->toPlainText(), QStringLiteral("First\nSome words of text."));
   help.ShowContext(12);
   EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("12")));
+}
+
+TEST_F(Windows, ShowHelpInFrontOfTheModalOneThatAsks) {
+  auto& preferences = application.Tool<Preferences>();
+  const auto* const window = dynamic_cast<QWidget*>(screen.ViewOf(preferences));
+  preferences.Visible = false;
+  preferences.Modal = true;
+  preferences.Visible = true;
+  help.ShowContext(0);
+  EXPECT_EQ(help.windowHandle()->transientParent(), window->windowHandle());
+  EXPECT_TRUE(help.isVisible());
+  preferences.Visible = false;
+  help.ShowContext(0);
+  EXPECT_EQ(help.windowHandle()->transientParent(), nullptr);
 }
 
 /// Where the focus goes by the Tab key, from the first control of a window around to it again.
