@@ -159,7 +159,6 @@ void Settings::GetColours() {
 }
 
 void Settings::ColoursSortOut() {
-  const Trap trap{errors_, "MUM ColoursSortOut"};
   for (const ColourOption& option : kColourOptions)
     this->*option.member = static_cast<Colour>(option.factory);
   TextFontName = kFontFallback;
@@ -167,7 +166,10 @@ void Settings::ColoursSortOut() {
   TextFontBold = 0;
   ApplyColoursOnFileOpen = 1;
   InsertWithColour = 1;
+  Trap{errors_, "MUM ColoursSortOut"}(SaveColours());
+}
 
+Outcome<> Settings::SaveColours() {
   std::vector<ProfileEntry> entries;
   const auto add = [&entries](const auto& property) {
     entries.push_back({kColours, std::string(property.Name()), Decimal(property.Get())});
@@ -177,7 +179,7 @@ void Settings::ColoursSortOut() {
   add(TextFontSize);
   add(TextFontBold);
   add(ApplyColoursOnFileOpen);
-  trap(file_.WriteAll(entries));
+  return file_.WriteAll(entries);
 }
 
 void Settings::Write(std::string_view section, std::string_view key, std::string_view value) {

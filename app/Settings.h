@@ -72,6 +72,8 @@ class Settings : public Component {
   void SaveOptions();
   /// Reads the colour scheme. A colour that is no number keeps its value.
   void GetColours();
+  /// Writes the colour scheme, but for InsertWithColour.
+  Outcome<> SaveColours();
   /// Sets the factory colour scheme and writes it; InsertWithColour is set but not written.
   void ColoursSortOut();
 

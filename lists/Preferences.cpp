@@ -264,17 +264,7 @@ void Preferences::Form_Unload() {
 }
 
 void Preferences::SaveColourScheme() {
-  constexpr const char* kSection = "Colours";
-  std::vector<ProfileEntry> entries;
-  for (const PropertyBase* const property : std::initializer_list<const PropertyBase*>{
-           &settings_.BackgroundColour, &settings_.BTNColour, &settings_.SlashColour, &settings_.RAWColour,
-           &settings_.MiscellaneousColour, &settings_.MacroBackgroundColour, &settings_.RemStatements,
-           &settings_.TextFontName, &settings_.TextFontSize, &settings_.TextFontBold,
-           &settings_.ApplyColoursOnFileOpen}) {
-    entries.push_back({kSection, std::string(property->Name()), property->ToText()});
-  }
-  const Trap trap{application_.errors, "PREF SaveColourScheme"};
-  trap(application_.profile.WriteAll(entries));
+  Trap{application_.errors, "PREF SaveColourScheme"}(settings_.SaveColours());
 }
 
 void Preferences::SSTab1_Click() {

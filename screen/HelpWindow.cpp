@@ -1,5 +1,6 @@
 #include "screen/HelpWindow.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPrintDialog>
@@ -7,6 +8,7 @@
 #include <QTextBlock>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "output/HelpTopics.h"
 #include "screen/Icons.h"
@@ -221,9 +223,20 @@ void HelpWindow::ShowTopic(const HelpTopic* topic, const QString& asked) {
   } else {
     text_->setMarkdown(tr("There is no topic for *%1*. Pick one from the list.").arg(asked));
   }
+  ChooseOwner();
   show();
   raise();
   activateWindow();
+}
+
+/// A modal window lets only those through that belong to it.
+void HelpWindow::ChooseOwner() {
+  create();
+  const QWidget* const modal = QApplication::activeModalWidget();
+  QWindow* const owner = modal ? modal->windowHandle() : nullptr;
+  if (windowHandle()->transientParent() == owner) return;
+  hide();
+  windowHandle()->setTransientParent(owner);
 }
 
 void HelpWindow::ShowContext(int context) { ShowTopic(file_.WithContext(context), QString::number(context)); }

@@ -47,6 +47,7 @@ class HelpWindow : public QDialog {
   void GoForward();
   void GoToContents();
   void Print();
+  void ChooseOwner();
   void FollowLink(const QUrl& link);
 
   HelpFile file_;

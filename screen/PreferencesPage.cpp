@@ -8,6 +8,7 @@ namespace tarvik::screen {
 namespace {
 
 constexpr int kNumberWidth = 64;
+constexpr int kKerning = 4;  // of a label, which its underlined letter breaks
 
 /// A path in a row of its own: what it is, the box, the button that looks for it.
 struct PathRow {
@@ -23,6 +24,7 @@ QLayout* Paths(const FormLayout& in, std::initializer_list<PathRow> rows) {
     auto* const label = new QLabel(QString::fromUtf8(row.label));
     QWidget* const box = Named(in.Show(row.box), label->text());
     label->setBuddy(box);
+    label->setMinimumWidth(label->sizeHint().width() + kKerning);
     grid->addWidget(label, line, 0);
     grid->addWidget(box, line, 1);
     grid->addWidget(Named(in.Show(row.browse), QLatin1String("Browse: ") + label->text()), line, 2);

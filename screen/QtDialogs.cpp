@@ -152,7 +152,8 @@ Outcome<unsigned> QtDialogs::AskForColour(unsigned before) {
 Outcome<FontChoice> QtDialogs::AskForFont(const FontChoice& before, bool fixedPitch) {
   const OrdinaryPointer pointer;
   constexpr int kLeastSize = 4;
-  QFont font(ToScreen(before.name), std::max(before.size, kLeastSize));
+  constexpr int kMostSize = 144;
+  QFont font(ToScreen(before.name), std::clamp(before.size, kLeastSize, kMostSize));
   font.setBold(before.bold);
   QFontDialog::FontDialogOptions options = QFontDialog::DontUseNativeDialog;
   if (fixedPitch) options |= QFontDialog::MonospacedFonts;

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QImage>
+#include <fstream>
+#include <iterator>
 
 #include "controls/Form.h"
 #include "screen/ImageView.h"
@@ -61,6 +63,13 @@ TEST(Pictures, OfAHundredMegapixelsAreMadeSmaller) {
   const QImage picture = PictureIn(bytes.toStdString());
   EXPECT_EQ(picture.size(), QSize(4096, 4096));
   EXPECT_EQ(PictureIn(Encoded("png", {20000, 1})).height(), 1);
+}
+
+TEST(Pictures, OfTheProgramIsOneThatItShows) {
+  std::ifstream in(TARVIK_DATA "/tarvik.jpg", std::ios::binary);
+  const std::string bytes{std::istreambuf_iterator<char>(in), {}};
+  EXPECT_LE(bytes.size(), 150U * 1024);
+  EXPECT_GE(PictureIn(bytes).width(), 800);
 }
 
 TEST(Pictures, KeepTheirProportionsOnScreen) {

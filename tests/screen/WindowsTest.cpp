@@ -9,6 +9,7 @@
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTextBlock>
+#include <QWindow>
 #include <map>
 
 #include "app/ColourSelector.h"
@@ -229,6 +230,20 @@ TEST_F(HelpWindowTest, ShowsExamplesInTheColoursOfTheFiles) {
   EXPECT_EQ(colourAt(15), ToScreenColour(0x00FF00));
 }
 
+TEST_F(Windows, ShowHelpInFrontOfTheModalOneThatAsks) {
+  auto& preferences = application.Tool<Preferences>();
+  const auto* const window = dynamic_cast<QWidget*>(screen.ViewOf(preferences));
+  preferences.Visible = false;
+  preferences.Modal = true;
+  preferences.Visible = true;
+  help.ShowContext(0);
+  EXPECT_EQ(help.windowHandle()->transientParent(), window->windowHandle());
+  EXPECT_TRUE(help.isVisible());
+  preferences.Visible = false;
+  help.ShowContext(0);
+  EXPECT_EQ(help.windowHandle()->transientParent(), nullptr);
+}
+
 /// Where the focus goes by the Tab key, from the first control of a window around to it again.
 std::vector<QWidget*> FocusChain(QWidget& window) {
   std::vector<QWidget*> chain;
@@ -272,6 +287,23 @@ TEST_F(Windows, ShowEveryPageOfTheComposerWithNames) {
       if (!button->isVisible()) continue;
       const QString shown = QString(button->text()).remove(u'&');
       EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(shown)) << shown.toStdString();
+    }
+  }
+}
+
+TEST_F(Windows, ShowEveryPageOfThePreferencesWhole) {
+  auto& preferences = application.Tool<Preferences>();
+  auto* const window = dynamic_cast<QWidget*>(screen.ViewOf(preferences));
+  for (int page = 0; page < preferences.SSTab1.Count(); ++page) {
+    preferences.SSTab1.Tab = page;
+    QApplication::processEvents();
+    ExpectNames(*QAccessible::queryAccessibleInterface(window));
+    for (const QWidget* const part : window->findChildren<QWidget*>()) {
+      const auto* const label = qobject_cast<const QLabel*>(part);
+      const bool named = label || qobject_cast<const QAbstractButton*>(part);
+      if (!named || !part->isVisible()) continue;
+      EXPECT_GE(part->width(), part->sizeHint().width())
+          << part->objectName().toStdString() << " " << (label ? label->text().toStdString() : "");
     }
   }
 }
