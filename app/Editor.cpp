@@ -477,6 +477,13 @@ void Editor::mnuHelpContents_Click() {
 }
 
 void Editor::mnuHelpTips_Click() { application_.ShowModal(application_.Tool<frmTip>()); }
+
+void Editor::mnuHelpOnWeb_Click() {
+  const Trap trap{application_.errors, "EDITOR mnuHelpOnWeb_Click"};
+  if (trap(application_.platform.desktop.Open(application_.platform.folder + "\\guide\\index.html"))) return;
+  mum_.StatusBar.Panels(1).Text = std::string("The user guide can't be opened.");
+}
+
 void Editor::mnuHelpAbout_Click() { application_.ShowModal(application_.Tool<frmAbout>()); }
 
 // Keys that the tools pass on.
