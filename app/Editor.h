@@ -211,6 +211,7 @@ class Editor : public Form {
   // Help.
   void mnuHelpContents_Click();
   void mnuHelpTips_Click();
+  void mnuHelpOnWeb_Click();
   void mnuHelpAbout_Click();
 
   // For the tools.

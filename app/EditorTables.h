@@ -164,7 +164,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {0, "mnuHelp", "&Help"},
     {1, "mnuHelpContents", "&Help topics", "", &Editor::mnuHelpContents_Click},
     {1, "mnuHelpTips", "&Tip of the day", "", &Editor::mnuHelpTips_Click},
-    {1, "mnuHelpOnWeb", "Help on the &web"},
+    {1, "mnuHelpOnWeb", "Help on the &web", "", &Editor::mnuHelpOnWeb_Click},
     {1, "mnuHelpDivider1", "-"},
     {1, "mnuHelpAbout", "&About Tarvik", "", &Editor::mnuHelpAbout_Click},
 };

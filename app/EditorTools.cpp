@@ -125,6 +125,13 @@ void Editor::mnuAppsQuiet_Click() {
 void Editor::mnuHelpContents_Click() { ShowHelp(application_.platform, topic::kContents); }
 
 void Editor::mnuHelpTips_Click() { application_.ShowModal(application_.Tool<frmTip>()); }
+
+void Editor::mnuHelpOnWeb_Click() {
+  const Trap trap{application_.errors, "EDITOR mnuHelpOnWeb_Click"};
+  if (trap(application_.platform.desktop.Open(application_.platform.folder + "\\guide\\index.html"))) return;
+  mum_.StatusBar.Panels(1).Text = std::string("The user guide can't be opened.");
+}
+
 void Editor::mnuHelpAbout_Click() { application_.ShowModal(application_.Tool<frmAbout>()); }
 
 // Wizards.

@@ -84,6 +84,7 @@ class ScriptedHelp : public Help {
 class ScriptedDesktop : public Desktop {
  public:
   Outcome<> Open(const std::string& path) override {
+    if (!opensFiles) return Failure{error::kFileNotFound, "File not found", 0};
     opened.push_back(path);
     return Done{};
   }
@@ -93,6 +94,7 @@ class ScriptedDesktop : public Desktop {
     return Done{};
   }
   std::deque<std::string> opened;  ///< and not yet expected
+  bool opensFiles = true;
   bool tellsAboutTheMachine = true;
 };
 
