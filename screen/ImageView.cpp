@@ -5,15 +5,19 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include "screen/Metafile.h"
+
 namespace tarvik::screen {
 namespace {
 
 constexpr int kLongestSide = 4096;    // pixels
+constexpr int kDrawingSide = 2048;    // of a picture that has no size in pixels
 constexpr int kMostMegabytes = 1024;  // of memory for one picture
 
 }  // namespace
 
 QImage PictureIn(std::string_view bytes) {
+  if (QImage drawing = MetafileIn(bytes, kDrawingSide); !drawing.isNull()) return drawing;
   QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
   QBuffer buffer(&data);
   QImageReader reader(&buffer);

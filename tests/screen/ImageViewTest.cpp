@@ -40,13 +40,56 @@ TEST(Pictures, OfEveryKindAreRead) {
   EXPECT_EQ(gif.pixelColor(0, 0), QColor(Qt::red));
 }
 
+/// A metafile with two squares of 200 units beside one another, a red one and a blue one, an accented
+/// letter, and a picture of two green points at the upper left.
+std::string Metafile() {
+  std::string bytes;
+  const auto words = [&bytes](std::initializer_list<unsigned> values) {
+    for (const unsigned value : values) {
+      bytes += static_cast<char>(value & 0xFF);
+      bytes += static_cast<char>(value >> 8);
+    }
+  };
+  words({0xCDD7, 0x9AC6, 0, 0, 0, 400, 200, 960, 0, 0, 0x5589});
+  words({1, 9, 0x300, 103, 0, 2, 38, 0, 0});
+  words({5, 0, 0x20B, 0, 0});      // the origin
+  words({5, 0, 0x20C, 200, 400});  // the extent
+  for (const unsigned square : {0U, 1U}) {
+    const unsigned left = square * 200;
+    words({7, 0, 0x2FC, 0, square ? 0U : 0xFFU, square ? 0xFFU : 0U, 0});  // a brush
+    words({4, 0, 0x12D, square});                                          // is taken
+    words({7, 0, 0x41B, 200, left + 200, 0, left});                        // for a rectangle
+  }
+  words({7, 0, 0x521, 1, 0xE9, 100, 300});
+  words({38, 0, 0xF43, 0x20, 0xCC, 0, 1, 2, 0, 0, 50, 100, 0, 0});
+  words({40, 0, 2, 0, 1, 0, 1, 24, 0, 0, 8, 0, 0, 0, 0, 0, 0, 0, 0, 0});  // the picture's head
+  words({0xFF00, 0x0000, 0x00FF, 0});                                     // and its points
+  words({3, 0, 0});
+  return bytes;
+}
+
+#ifdef TARVIK_WMF
+TEST(Pictures, AreMetafilesToo) {
+  const std::string whole = Metafile();
+  const QImage picture = PictureIn(whole);
+  EXPECT_EQ(picture.width(), 2048);
+  EXPECT_NEAR(picture.height(), 1024, 50) << "with the lines around them";
+  EXPECT_EQ(picture.pixelColor(500, 500), QColor(Qt::red));
+  EXPECT_EQ(picture.pixelColor(1500, 500), QColor(Qt::blue));
+  EXPECT_EQ(picture.pixelColor(200, 150), QColor(Qt::green));
+  EXPECT_EQ(PictureIn(whole.substr(22)).pixelColor(100, 500), QColor(Qt::red))
+      << "without the head that places it";
+}
+#endif
+
 TEST(Pictures, ThatAreBrokenAreNone) {
   for (const char* const bytes : {"", "BM", "GIF89a", "no picture at all", "\xD7\xCD\xC6\x9A metafile"}) {
     EXPECT_TRUE(PictureIn(bytes).isNull()) << bytes;
   }
-  const std::string whole = Encoded("png");
-  for (std::size_t length = 0; length < whole.size(); length += 7) {
-    (void)PictureIn(std::string_view(whole).substr(0, length));
+  for (const std::string& whole : {Encoded("png"), Metafile()}) {
+    for (std::size_t length = 0; length < whole.size(); length += 7) {
+      (void)PictureIn(std::string_view(whole).substr(0, length));
+    }
   }
   // A head that promises more than any memory holds.
   std::string head = Encoded("bmp");
