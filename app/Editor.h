@@ -137,6 +137,7 @@ class Editor : public Form {
   void mnuInsertTitle_Click();
   void mnuInsertHeading_Click();
   void mnuInsertRemStatement_Click();
+  void mnuInsertQuickTip_Click();
 
   // View.
   void mnuViewMacros_Click() { layout_.ToggleMacroFrame(); }

@@ -91,7 +91,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
      &Editor::mnuSlashModifierQ_Click},
     {1, "mnuSlashModifierDLY", "D&LY  delay", "", &Editor::mnuSlashModifierDLY_Click},
     {1, "mnuInsertDivider8", "-"},
-    {1, "mnuInsertQuickTip", "Quic&k tip"},
+    {1, "mnuInsertQuickTip", "Quic&k tip", "", &Editor::mnuInsertQuickTip_Click},
 
     {0, "mnuView", "&View"},
     {1, "mnuViewMacros", "&Macros", "", &Editor::mnuViewMacros_Click},

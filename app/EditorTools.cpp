@@ -52,6 +52,12 @@ const MessageBox kLogicAdvice = {
     "press the View An0002a.txt button there. Have a read, and then have a go!",
     BoxIcon::Exclamation};
 
+const MessageBox kQuickTip = {"Quick tip",
+                              "Press the Escape key when you're typing in one of your files, and this menu "
+                              "pops up right where you are. "
+                              "You never have to take your hands off the keyboard!",
+                              BoxIcon::Information};
+
 }  // namespace
 
 // Preferences.
@@ -90,6 +96,8 @@ void Editor::mnuInsertRAW_Click() { application_.Tool<RAWform>().Show(); }
 void Editor::mnuInsertTitle_Click() { InsertTitle(application_); }
 void Editor::mnuInsertHeading_Click() { InsertHeading(application_); }
 void Editor::mnuInsertRemStatement_Click() { InsertRemStatement(application_); }
+
+void Editor::mnuInsertQuickTip_Click() { application_.platform.dialogs.Show(kQuickTip); }
 
 // Apps.
 

@@ -91,6 +91,13 @@ TEST(Pictures, ThatAreBrokenAreNone) {
       (void)PictureIn(std::string_view(whole).substr(0, length));
     }
   }
+  // Every second word of a drawing says something else.
+  const std::string drawing = Metafile();
+  for (std::size_t at = 0; at + 1 < drawing.size(); at += 4) {
+    std::string damaged = drawing;
+    damaged.replace(at, 2, at % 8 == 0 ? "\xFF\x7F" : "\x01\xFF");
+    (void)PictureIn(damaged);
+  }
   // A head that promises more than any memory holds.
   std::string head = Encoded("bmp");
   for (const std::size_t at : {18U, 22U}) head.replace(at, 4, "\xFF\xFF\xFF\x7F");
