@@ -98,6 +98,11 @@ bool ScreenAccess::HasFocus(const Control& control) const {
   return widget && widget->hasFocus();
 }
 
+bool ScreenAccess::IsOnShow(const Component& component) const {
+  const auto* const widget = qobject_cast<const QWidget*>(screen_.Find(component));
+  return !widget || widget->isVisible();
+}
+
 QWidget* ScreenAccess::WidgetOf(const Component& component) const {
   auto* const widget = qobject_cast<QWidget*>(screen_.Find(component));
   return widget && widget->isVisible() && widget->isEnabled() ? widget : nullptr;

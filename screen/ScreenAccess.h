@@ -37,6 +37,8 @@ class ScreenAccess {
   /// Drags the list's current item as text to a position in a pane.
   void Drop(ListBox& from, Pane& to, std::size_t position);
   [[nodiscard]] bool HasFocus(const Control& control) const;
+  /// False for a control on a page or in a window that is not shown.
+  [[nodiscard]] bool IsOnShow(const Component& component) const;
   /// Lets what is pending happen.
   void Settle();
   /// Gives a window another size inside, in twips.

@@ -48,13 +48,13 @@ class ScreenDriver : public Driver {
   void Settle() override { access_.Settle(); }
 
  private:
-  /// Whether a user can get at the control: it is shown, and not greyed out.
+  /// Whether a user can get at the control: it is shown, on a page that is, and not greyed out.
   [[nodiscard]] bool Usable(const Component& control) {
     for (const char* name : {"Visible", "Enabled"}) {
       const PropertyBase* property = control.FindProperty(name);
       if (property && Read(*property) == "False") return false;
     }
-    return true;
+    return access_.IsOnShow(control);
   }
 
   screen::Screen screen_;
