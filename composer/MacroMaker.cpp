@@ -78,10 +78,15 @@ void MacroMaker::Text1_KeyDown(Key& key) {
   key = {};
 }
 
-/// The line goes into the macro file whatever is on top; its end goes where the editor's insertions go.
+/// The line goes into the macro file whatever is on top; its end goes where the editor's insertions go, in
+/// the same step of undo.
 void MacroMaker::InsertMacro() {
+  UndoHistory& history = editor().Macro.Undo;
+  history.Start = 1;
   WriteBlack(Preview.Caption);
+  history.Start = 0;
   editor().insertion().InsertCarriageReturn();
+  history.Start = 1;
   ClearTexts();
 }
 
@@ -89,6 +94,7 @@ void MacroMaker::WriteBlack(const std::string& text) {
   Pane& pane = editor().MacroText;
   pane.SelColor = kBlack;
   pane.SelText = text;
+  editor().Macro.Caret = pane.SelStart;
 }
 
 void MacroMaker::ClearTexts() {

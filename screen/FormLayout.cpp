@@ -248,6 +248,21 @@ QWidget* Named(QWidget* control, const QString& name) {
   return control;
 }
 
+QWidget* AsTitle(QWidget* label) {
+  QFont font = label->font();
+  font.setBold(true);
+  font.setPointSizeF(font.pointSizeF() * 1.25);
+  label->setFont(font);
+  return label;
+}
+
+QLabel* Wrapped(QWidget* shown) {
+  auto* const label = qobject_cast<QLabel*>(shown);
+  label->setWordWrap(true);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
 QLayout* Fields(const std::vector<Field>& fields) {
   auto* const layout = new QFormLayout;
   layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);

@@ -64,6 +64,11 @@ class FormLayout {
 /// The control, which is to be read out under the name.
 QWidget* Named(QWidget* control, const QString& name);
 
+/// A label with a title's letters.
+QWidget* AsTitle(QWidget* label);
+/// A label whose text is a paragraph, word for word.
+QLabel* Wrapped(QWidget* label);
+
 /// A label with the control that it names; its mnemonic leads there.
 struct Field {
   const char* label;

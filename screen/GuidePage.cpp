@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "composer/Speedy.h"
-#include "screen/Icons.h"
 #include "screen/Text.h"
 #include "screen/ToolWindow.h"
 
@@ -41,13 +40,17 @@ class GuidePages {
   }
 
  private:
-  QLabel* NextWords() { return qobject_cast<QLabel*>(in_.Show(form_.Texts(text_++))); }
+  QLabel* NextWords() { return OnTheWindow(form_.Texts(text_++)); }
+
+  /// Without a ground of its own.
+  QLabel* OnTheWindow(Label& label) {
+    auto* const shown = qobject_cast<QLabel*>(in_.Show(label));
+    shown->setAutoFillBackground(false);
+    return shown;
+  }
 
   QWidget* Words(const tables::GuideRow& row) {
-    QLabel* const words = NextWords();
-    words->setTextFormat(Qt::PlainText);
-    words->setAutoFillBackground(false);
-    words->setWordWrap(true);
+    QLabel* const words = Wrapped(NextWords());
     words->setMinimumWidth(kTextWidth);
     if (row.example) {
       words->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -58,7 +61,6 @@ class GuidePages {
 
   void Add(const tables::GuideRow& row, QFormLayout& fields) {
     QLabel* const label = NextWords();
-    label->setAutoFillBackground(false);
     QWidget* const control = ShowNamed(row.control);
     if (qobject_cast<QLineEdit*>(control)) Named(control, label->text());
     fields.addRow(label, control);
@@ -79,11 +81,7 @@ class GuidePages {
   }
 
   QWidget* ShowNamed(std::string_view name) {
-    const std::size_t bracket = name.find('(');
-    const auto index = bracket == std::string_view::npos
-                           ? std::optional<int>()
-                           : static_cast<int>(NumberIn(name.substr(bracket + 1)));
-    Component* const found = form_.FindChild(name.substr(0, bracket), index);
+    Component* const found = form_.Resolve(name);
     if (auto* const button = dynamic_cast<CommandButton*>(found)) return in_.Show(*button);
     if (auto* const box = dynamic_cast<TextBox*>(found)) return in_.Show(*box);
     if (auto* const list = dynamic_cast<ListBox*>(found)) return Headings(*list);
@@ -97,10 +95,9 @@ class GuidePages {
   }
 
   QWidget* Preview(Label& preview) {
-    auto* const label = qobject_cast<QLabel*>(in_.Show(preview));
+    QLabel* const label = OnTheWindow(preview);
     label->setTextFormat(Qt::PlainText);
     label->setFrameShape(QFrame::StyledPanel);
-    label->setAutoFillBackground(false);
     label->setMargin(label->fontMetrics().height() / 3);
     label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     label->setMinimumWidth(1);
@@ -114,16 +111,6 @@ class GuidePages {
   int text_ = 0;
 };
 
-QLabel* HeadingOf(const Frame& frame) {
-  auto* const heading = new QLabel(ToScreen(frame.Caption.Get()));
-  QFont font = heading->font();
-  font.setBold(true);
-  font.setPointSizeF(font.pointSizeF() * 1.25);
-  heading->setFont(font);
-  heading->setWordWrap(true);
-  return heading;
-}
-
 }  // namespace
 
 /// The frame in front is the page on show. All pages are there at once, so that the window keeps its size.
@@ -133,7 +120,7 @@ QLayout* Page(Wizard& form, const FormLayout& in) {
   for (int i = 0; i < form.frames.Count(); ++i) {
     auto* const page = new QWidget;
     QVBoxLayout* const rows = pages.Next();
-    rows->insertWidget(0, HeadingOf(form.frames(i)));
+    rows->insertWidget(0, AsTitle(Wrapped(new QLabel(ToScreen(form.frames(i).Caption.Get())))));
     rows->setSpacing(page->fontMetrics().height() * 2 / 3);
     page->setLayout(rows);
     stack->addWidget(page);

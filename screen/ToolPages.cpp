@@ -324,22 +324,6 @@ QLayout* Page(TemplateForm& form, const FormLayout& in) {
                       in.Show(form.Command2), Stretch(), in.Show(form.CmndPrint)})});
 }
 
-/// A label with a title's letters.
-QWidget* AsTitle(QWidget* label) {
-  QFont font = label->font();
-  font.setBold(true);
-  font.setPointSizeF(font.pointSizeF() * 1.25);
-  label->setFont(font);
-  return label;
-}
-
-QLabel* Wrapped(QWidget* shown) {
-  auto* const label = qobject_cast<QLabel*>(shown);
-  label->setWordWrap(true);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
-
 /// However long the tip is, the window keeps its size.
 QLayout* Page(frmTip& form, const FormLayout& in) {
   QLabel* const tip = Wrapped(in.Show(form.lblTipText));
