@@ -7,45 +7,14 @@
 #include "app/Editor.h"
 #include "controls/ImageBox.h"
 #include "platform/CodePage.h"
+#include "session/Chord.h"
 #include "session/Driver.h"
 
 namespace tarvik::session {
 namespace {
 
-const std::map<std::string_view, int> kKeyCodes = {
-    {"Backspace", 8},   {"Tab", 9},     {"Return", 13},   {"Escape", 27}, {"Space", 32},    {"PgUp", 33},
-    {"PgDown", 34},     {"End", 35},    {"Home", 36},     {"Left", 37},   {"Up", 38},       {"Right", 39},
-    {"Down", 40},       {"Insert", 45}, {"Delete", 46},   {"Clear", 12},  {"Shift", 16},    {"Ctrl", 17},
-    {"Alt", 18},        {"Pause", 19},  {"CapsLock", 20}, {"Print", 42},  {"Num+*", 106},   {"Num++", 107},
-    {"Num+Enter", 108}, {"Num+-", 109}, {"Num+.", 110},   {"Num+/", 111}, {"NumLock", 144},
-};
-
 /// The modifiers' own bits.
 const std::map<int, int> kModifierBits = {{16, shift::kShift}, {17, shift::kCtrl}, {18, shift::kAlt}};
-
-Key ParseChord(std::string_view chord) {
-  Key key;
-  const auto take = [&](std::string_view prefix, int bit) {
-    if (!chord.starts_with(prefix)) return;
-    chord.remove_prefix(prefix.size());
-    key.shift |= bit;
-  };
-  take("Ctrl+", shift::kCtrl);
-  take("Alt+", shift::kAlt);
-  take("Shift+", shift::kShift);
-  const auto named = kKeyCodes.find(chord);
-  if (named != kKeyCodes.end()) {
-    key.code = named->second;
-  } else if (chord.starts_with("Num+")) {
-    key.code = 96 + chord.back() - '0';
-  } else if (chord.size() > 1 && chord[0] == 'F') {
-    int number = 0;
-    if (ParseText(chord.substr(1), number)) key.code = 111 + number;
-  } else if (!chord.empty()) {
-    key.code = static_cast<unsigned char>(ToUpper(chord[0]));
-  }
-  return key;
-}
 
 /// The character that a key types, or 0.
 int CharacterOf(const Key& key, std::string_view chord) {
@@ -301,7 +270,7 @@ class FormDriver : public Driver {
   }
 
   bool KeyUp(Component& control, std::string_view chord) override {
-    Key key = ParseChord(chord);
+    Key key = *ParseChord(chord);
     if (const auto bit = kModifierBits.find(key.code); bit != kModifierBits.end()) key.shift &= ~bit->second;
     FormOf(control).KeyUp(key);
     return true;
@@ -318,7 +287,7 @@ class FormDriver : public Driver {
   bool KeyDown(Component& control, std::string_view chord) override {
     ClosePopUps();
     application_.Activated(FormOf(control));
-    Key key = ParseChord(chord);
+    Key key = *ParseChord(chord);
     if (const auto bit = kModifierBits.find(key.code); bit != kModifierBits.end()) key.shift |= bit->second;
     Form& form = FormOf(control);
     Key previewed = key;

@@ -9,6 +9,7 @@
 #include "hardware/KeyTestForm.h"
 #include "output/HelpFile.h"
 #include "platform/CodePage.h"
+#include "session/Grammar.h"
 
 namespace tarvik::session {
 namespace {
@@ -41,13 +42,6 @@ std::string FileContent(const Line& line) {
   return line.block.empty() ? "" : Joined(line.block) + (open ? "" : "\r\n");
 }
 
-bool NeedsProgram(std::string_view command) {
-  constexpr std::string_view kCommands[] = {"close", "click", "dblclick", "rightclick", "focus",
-                                            "pick",  "type",  "key",      "drag",       "mouse",
-                                            "set",   "call",  "keydown",  "keyup",      "resize"};
-  return std::find(std::begin(kCommands), std::end(kCommands), command) != std::end(kCommands);
-}
-
 }  // namespace
 
 Runner::Runner(MakeDriver makeDriver, const std::string& dataFolder) : makeDriver_(std::move(makeDriver)) {
@@ -70,6 +64,7 @@ Runner::~Runner() {
 
 std::vector<std::string> Runner::Run(std::string_view script) {
   lines_ = ParseScript(script);
+  if (!ReadsWell()) return failures_;
   outside_.dialogs.next = [this] { return Next(); };
   while (Next()) {
     if (application_ && application_->Ended()) Killed(*line_);
@@ -96,95 +91,126 @@ bool Runner::Next() {
     Step(line);
   } catch (const Stop& stop) {
     Fail(stop.text);
+  } catch (const std::exception& error) {
+    Fail(error.what());  // a number too large, say
   }
   return true;
 }
 
-const std::map<std::string_view, Runner::Command>& Runner::Commands() {
-  static const std::map<std::string_view, Command> commands = {
-      {"file", &Runner::File},
-      {"repeat", &Runner::Repeat},
-      {"bytes", &Runner::Bytes},
-      {"folder", &Runner::Folder},
-      {"readonly", &Runner::ReadOnly},
-      {"unreadable", &Runner::Unreadable},
-      {"remove", &Runner::Remove},
-      {"ini", &Runner::Ini},
-      {"room", &Runner::DiskRoom},
-      {"printer", &Runner::SetPrinter},
-      {"joystick", &Runner::SetJoystick},
-      {"lock", &Runner::SetLock},
-      {"program", &Runner::SetProgram},
-      {"sysinfo", &Runner::SetSystemInformation},
-      {"hostfolder", &Runner::HostFolder},
+/// Each kind of line with what it does. A shape's first words tell the kinds apart.
+const std::vector<Runner::Sentence>& Runner::Sentences() {
+  static const std::vector<Sentence> sentences = {
+      {"file TEXT [open] [:]", &Runner::File},
+      {"repeat TEXT COUNT [open] :", &Runner::Repeat},
+      {"bytes TEXT HEX...", &Runner::Bytes},
+      {"folder TEXT", &Runner::Folder},
+      {"readonly TEXT", &Runner::ReadOnly},
+      {"unreadable TEXT", &Runner::Unreadable},
+      {"remove TEXT", &Runner::Remove},
+      {"ini TEXT TEXT TEXT", &Runner::Ini},
+      {"room enough|COUNT", &Runner::DiskRoom},
+      {"printer none", &Runner::SetPrinter},
+      {"printer gone|lines COUNT", &Runner::SetPrinter},
+      {"printer chosen TEXT", &Runner::SetPrinter},
+      {"joystick none|plugged|unplugged", &Runner::SetJoystick},
+      {"joystick axes zr|z|r|none", &Runner::SetJoystickAxes},
+      {"joystick x|y|z|r|buttons|error NUMBER ...", &Runner::MoveJoystick},
+      {"lock caps|num NUMBER|unknown", &Runner::SetLock},
+      {"program runs|ends|abandoned", &Runner::SetProgram},
+      {"program fails NUMBER", &Runner::SetProgram},
+      {"sysinfo none", &Runner::SetSystemInformation},
+      {"hostfolder TEXT", &Runner::HostFolder},
       {"tips", &Runner::WantTips},
-      {"start", &Runner::Start},
-      {"close", &Runner::Close},
+      {"start [TEXT]", &Runner::Start},
+      {"close FORM", &Runner::Close, Needs::Program},
       {"killed", &Runner::Killed},
-      {"wait", &Runner::Wait},
-      {"click", &Runner::Click},
-      {"dblclick", &Runner::DoubleClick},
-      {"rightclick", &Runner::RightClick},
-      {"focus", &Runner::Focus},
-      {"pick", &Runner::Pick},
-      {"type", &Runner::Type},
-      {"key", &Runner::PressKey},
-      {"keydown", &Runner::KeyDown},
-      {"keyup", &Runner::KeyUp},
-      {"resize", &Runner::Resize},
-      {"drag", &Runner::Drag},
-      {"mouse", &Runner::Mouse},
-      {"set", &Runner::Set},
-      {"call", &Runner::Call},
-      {"choose", &Runner::Choose},
-      {"answer", &Runner::AnswerBox},
-      {"clipboard", &Runner::FillClipboard},
-      {"expect", &Runner::Expect},
+      {"wait TIME", &Runner::Wait},
+      {"click CONTROL", &Runner::Click, Needs::Program},
+      {"dblclick CONTROL [TEXT]", &Runner::DoubleClick, Needs::Program},
+      {"rightclick CONTROL [TEXT]", &Runner::RightClick, Needs::Program},
+      {"focus CONTROL", &Runner::Focus, Needs::Program},
+      {"pick CONTROL TEXT", &Runner::Pick, Needs::Program},
+      {"type CONTROL TEXT", &Runner::Type, Needs::Program},
+      {"key CONTROL KEY [COUNT]", &Runner::PressKey, Needs::Program},
+      {"keydown CONTROL KEY", &Runner::KeyDown, Needs::Program},
+      {"keyup CONTROL KEY", &Runner::KeyUp, Needs::Program},
+      {"resize FORM NUMBER NUMBER", &Runner::Resize, Needs::Program},
+      {"drag CONTROL TEXT CONTROL COUNT", &Runner::Drag, Needs::Program},
+      {"mouse down|move|up CONTROL COUNT NUMBER NUMBER [COUNT]", &Runner::Mouse, Needs::Program},
+      {"set value TEXT TEXT|:", &Runner::SetValue, Needs::Program},
+      {"set PROPERTY TEXT|:", &Runner::Set, Needs::Program},
+      {"call PROPERTY [TEXT]", &Runner::Call, Needs::Program},
+      {"choose TEXT", &Runner::Choose},
+      {"answer OK|Yes|No|Cancel|later", &Runner::AnswerBox},
+      {"clipboard empty", &Runner::FillClipboard},
+      {"clipboard text|rtf TEXT|:", &Runner::FillClipboard},
+      {"expect value TEXT TEXT|:", &Runner::ExpectValue, Needs::Program},
+      {"expect box TEXT [none|information|question|exclamation] [No] :", &Runner::ExpectBox},
+      {"expect box TEXT [TEXT] [none|information|question|exclamation] [No]", &Runner::ExpectBox},
+      {"expect dialog title|filter|folder|fileName TEXT", &Runner::ExpectDialog},
+      {"expect file TEXT [empty|open] [:]", &Runner::ExpectFile},
+      {"expect bytes TEXT HEX...", &Runner::ExpectBytes},
+      {"expect same TEXT TEXT", &Runner::ExpectSame},
+      {"expect no file TEXT", &Runner::ExpectNoFile},
+      {"expect no form FORM", &Runner::ExpectNoForm, Needs::Program},
+      {"expect no list CONTROL", &Runner::ExpectNoList, Needs::Program},
+      {"expect no box", &Runner::ExpectNoBox},
+      {"expect no dialog", &Runner::ExpectNoDialog},
+      {"expect no printing", &Runner::ExpectNoPrinting},
+      {"expect folder TEXT", &Runner::ExpectFolder},
+      {"expect ini TEXT TEXT TEXT", &Runner::ExpectIni},
+      {"expect colour CONTROL COUNT COUNT COUNT", &Runner::ExpectColour, Needs::Program},
+      {"expect colours CONTROL :", &Runner::ExpectColours, Needs::Program},
+      {"expect ended", &Runner::ExpectEnded},
+      {"expect running", &Runner::ExpectRunning},
+      {"expect printed :", &Runner::ExpectPrinted},
+      {"expect clipboard TEXT|:", &Runner::ExpectClipboard},
+      {"expect help TEXT", &Runner::ExpectHelp},
+      {"expect opened TEXT", &Runner::ExpectOpened},
+      {"expect popup TEXT", &Runner::ExpectPopUp},
+      {"expect focus CONTROL", &Runner::ExpectFocus, Needs::Program},
+      {"expect form FORM", &Runner::ExpectForm, Needs::Program},
+      {"expect point CONTROL NUMBER NUMBER COUNT", &Runner::ExpectPoint, Needs::Program},
+      {"expect lock caps|num NUMBER", &Runner::ExpectLock},
+      {"expect run TEXT [TEXT] [waited|normal|maximised]", &Runner::ExpectRun},
+      {"expect PROPERTY TEXT|:", &Runner::ExpectProperty, Needs::Program},
   };
-  return commands;
+  return sentences;
 }
 
-const std::map<std::string_view, Runner::Command>& Runner::Expectations() {
-  static const std::map<std::string_view, Command> expectations = {
-      {"value", &Runner::ExpectValue},
-      {"box", &Runner::ExpectBox},
-      {"dialog", &Runner::ExpectDialog},
-      {"file", &Runner::ExpectFile},
-      {"bytes", &Runner::ExpectBytes},
-      {"no", &Runner::ExpectNo},
-      {"folder", &Runner::ExpectFolder},
-      {"ini", &Runner::ExpectIni},
-      {"colour", &Runner::ExpectColour},
-      {"colours", &Runner::ExpectColours},
-      {"ended", &Runner::ExpectEnded},
-      {"running", &Runner::ExpectRunning},
-      {"same", &Runner::ExpectSame},
-      {"printed", &Runner::ExpectPrinted},
-      {"clipboard", &Runner::ExpectClipboard},
-      {"help", &Runner::ExpectHelp},
-      {"opened", &Runner::ExpectOpened},
-      {"popup", &Runner::ExpectPopUp},
-      {"focus", &Runner::ExpectFocus},
-      {"form", &Runner::ExpectForm},
-      {"point", &Runner::ExpectPoint},
-      {"lock", &Runner::ExpectLock},
-      {"run", &Runner::ExpectRun},
-  };
-  return expectations;
+const Runner::Sentence* Runner::SentenceOf(const Line& line) {
+  const auto fits = [&line](const Sentence& sentence) { return Fits(line, sentence.shape); };
+  const auto found = std::find_if(Sentences().begin(), Sentences().end(), fits);
+  return found == Sentences().end() ? nullptr : &*found;
+}
+
+/// Holds every line against the shapes, and tells those that fit none.
+bool Runner::ReadsWell() {
+  for (const Line& line : lines_) {
+    line_ = &line;
+    if (line.isOpen) Fail("a quotation mark has no other");
+    if (SentenceOf(line)) continue;
+    std::string shapes;
+    for (const Sentence& sentence : Sentences()) {
+      if (Verb(sentence.shape) == line.words[0]) shapes += "\n      " + std::string(sentence.shape);
+    }
+    Fail(shapes.empty() ? "no line begins so" : "it reads otherwise:" + shapes);
+  }
+  return failures_.empty();
 }
 
 void Runner::Step(const Line& line) {
-  const auto command = Commands().find(line.words[0]);
-  if (command == Commands().end()) throw Stop{"no such command"};
-  if (!application_ && NeedsProgram(line.words[0])) throw Stop{"no program runs"};
-  if (IsBlocked(line)) throw Stop{"a modal form is in front"};
-  (this->*command->second)(line);
+  const Sentence& sentence = *SentenceOf(line);
+  if (!application_ && sentence.needs == Needs::Program) throw Stop{"no program runs"};
+  if (IsBlocked(line, sentence)) throw Stop{"a modal form is in front"};
+  (this->*sentence.command)(line);
   if (driver_) driver_->Settle();
 }
 
 /// Whether the line works on a form while another one is modal.
-bool Runner::IsBlocked(const Line& line) const {
-  if (!NeedsProgram(line.words[0]) || line.words[0] == "call" || line.words.size() < 2) return false;
+bool Runner::IsBlocked(const Line& line, const Sentence& sentence) const {
+  const std::string& verb = line.words[0];
+  if (sentence.needs != Needs::Program || verb == "call" || verb == "expect") return false;
   const std::vector<Form*> forms = application_->Forms();
   const auto modal = std::find_if(forms.rbegin(), forms.rend(),
                                   [](const Form* form) { return form->Modal && form->Visible; });
@@ -214,6 +240,12 @@ void Runner::Compare(const std::string& wanted, const std::string& found) {
 const std::string& Runner::Word(const Line& line, std::size_t index) {
   if (index >= line.words.size()) throw Stop{"a word is missing"};
   return line.words[index];
+}
+
+int Runner::Number(const Line& line, std::size_t index) {
+  int number = 0;
+  if (!ParseText(Word(line, index), number)) throw Stop{Word(line, index) + " is no whole number"};
+  return number;
 }
 
 /// The word at `index`, or the indented lines where there are any.
@@ -255,7 +287,7 @@ void Runner::File(const Line& line) { files_.Put(Word(line, 1), FileContent(line
 void Runner::Repeat(const Line& line) {
   const bool open = line.words.back() == "open";
   std::string content;
-  for (int time = 1; time <= std::stoi(Word(line, 2)); ++time) {
+  for (int time = 1; time <= Number(line, 2); ++time) {
     for (const std::string& text : line.block) {
       for (const char c : text) content += c == '%' ? TextOf(time) : std::string(1, c);
       if (!open) content += "\r\n";
@@ -281,7 +313,7 @@ void Runner::DiskRoom(const Line& line) {
   files_.FailAfter(static_cast<std::size_t>(std::stoul(Word(line, 1))));
 }
 
-/// printer none | gone CALLS | lines COUNT | chosen NAME|cancel|fails
+/// The choice in the printer's set-up is a name, "cancel" or "fails".
 void Runner::SetPrinter(const Line& line) {
   const std::string& what = Word(line, 1);
   const auto number = [&] { return std::stoul(Word(line, 2)); };
@@ -291,47 +323,47 @@ void Runner::SetPrinter(const Line& line) {
     outside_.printer.callsLeft = number();
   } else if (what == "lines") {
     outside_.printer.linesPerPage = number();
-  } else if (what == "chosen") {
-    outside_.printer.choice = Word(line, 2);
   } else {
-    throw Stop{"no such printer"};
+    outside_.printer.choice = Word(line, 2);
   }
 }
 
-/// joystick WHAT...: none, unplugged, plugged, error NUMBER, axes none|z|r|zr, and the axes x, y, z, r and
-/// the mask "buttons", each with a number. All but "none" mean that there is one.
+/// A stick that is named in any way but "none" is there.
 void Runner::SetJoystick(const Line& line) {
   ScriptedJoystick& stick = outside_.joystick;
-  const std::map<std::string, std::function<void(const std::string&)>> parts = {
-      {"axes",
-       [&](const std::string& axes) {
-         stick.caps = {axes.find('z') != std::string::npos, axes.find('r') != std::string::npos};
-       }},
-      {"error", [&](const std::string& number) { stick.error = std::stoi(number); }},
-      {"x", [&](const std::string& number) { stick.info.x = std::stoi(number); }},
-      {"y", [&](const std::string& number) { stick.info.y = std::stoi(number); }},
-      {"z", [&](const std::string& number) { stick.info.z = std::stoi(number); }},
-      {"r", [&](const std::string& number) { stick.info.r = std::stoi(number); }},
-      {"buttons",
-       [&](const std::string& mask) { stick.info.buttons = static_cast<unsigned>(std::stoul(mask)); }},
-  };
   const std::string& what = Word(line, 1);
   stick.isThere = what != "none";
   if (what == "unplugged") stick.error = joystick::kUnplugged;
   if (what == "plugged") stick.error = joystick::kNoError;
-  if (what == "none" || what == "unplugged" || what == "plugged") return;
-  for (std::size_t i = 1; i < line.words.size(); i += 2) {
-    const auto part = parts.find(line.words[i]);
-    if (part == parts.end()) throw Stop{"no such joystick"};
-    part->second(Word(line, i + 1));
-  }
+}
+
+/// What it has beside x and y.
+void Runner::SetJoystickAxes(const Line& line) {
+  const std::string& axes = Word(line, 2);
+  outside_.joystick.isThere = true;
+  outside_.joystick.caps = {axes.find('z') != std::string::npos, axes == "r" || axes == "zr"};
+}
+
+/// Where its axes are, which buttons are down as a mask, and what reading it gives.
+void Runner::MoveJoystick(const Line& line) {
+  ScriptedJoystick& stick = outside_.joystick;
+  stick.isThere = true;
+  const std::map<std::string, std::function<void(int)>> parts = {
+      {"error", [&](int number) { stick.error = number; }},
+      {"x", [&](int number) { stick.info.x = number; }},
+      {"y", [&](int number) { stick.info.y = number; }},
+      {"z", [&](int number) { stick.info.z = number; }},
+      {"r", [&](int number) { stick.info.r = number; }},
+      {"buttons", [&](int mask) { stick.info.buttons = static_cast<unsigned>(mask); }},
+  };
+  for (std::size_t i = 1; i + 1 < line.words.size(); i += 2) parts.at(line.words[i])(Number(line, i + 1));
 }
 
 /// lock caps|num NUMBER|unknown
 void Runner::SetLock(const Line& line) {
   const int code = Word(line, 1) == "caps" ? kCapsLock : kNumLock;
   outside_.keyboard.locks.erase(code);
-  if (Word(line, 2) != "unknown") outside_.keyboard.locks[code] = std::stoi(line.words[2]);
+  if (Word(line, 2) != "unknown") outside_.keyboard.locks[code] = Number(line, 2);
 }
 
 /// program runs: the next one that is waited for does not end by itself; ends|abandoned: what becomes of it;
@@ -344,7 +376,7 @@ void Runner::SetProgram(const Line& line) {
   if (state != states.end()) {
     programs.state = state->second;
   } else {
-    programs.fails = std::stoi(Word(line, 2));
+    programs.fails = Number(line, 2);
   }
 }
 
@@ -388,7 +420,8 @@ void Runner::Killed(const Line&) {
 }
 
 void Runner::Wait(const Line& line) {
-  int left = std::stoi(Word(line, 1)) * (line.words[1].ends_with("ms") ? 1 : 1000);
+  const std::string& time = Word(line, 1);
+  int left = std::stoi(time) * (time.ends_with("ms") ? 1 : 1000);
   while (application_) {
     std::vector<Timer*> running;
     int next = left;
@@ -432,7 +465,6 @@ void Runner::RightClick(const Line& line) {
 void Runner::Focus(const Line& line) { FindAs<Control>(Word(line, 1))->SetFocus(); }
 
 int Runner::ItemIndex(Component& control, const std::string& item) {
-  if (item.starts_with('#')) return std::stoi(item.substr(1));
   std::vector<std::string> items;
   if (auto* list = dynamic_cast<ListBox*>(&control)) items = list->List();
   if (auto* combo = dynamic_cast<ComboBox*>(&control)) items = combo->List();
@@ -443,8 +475,11 @@ int Runner::ItemIndex(Component& control, const std::string& item) {
   if (auto* strip = dynamic_cast<TabStrip*>(&control)) {
     for (int i = 1; i <= strip->Count(); ++i) items.push_back(strip->Tabs(i).Caption);
   }
+  int index = 0;
+  const bool isIndex = item.starts_with('#') && ParseText(std::string_view(item).substr(1), index);
+  if (isIndex && index >= 0 && index < static_cast<int>(items.size())) return index;
   const auto found = std::find(items.begin(), items.end(), item);
-  if (found == items.end()) throw Stop{"there is no item " + item};
+  if (isIndex || found == items.end()) throw Stop{"there is no item " + item};
   return static_cast<int>(found - items.begin());
 }
 
@@ -458,7 +493,7 @@ void Runner::Type(const Line& line) {
 }
 /// key CONTROL CHORD [COUNT]
 void Runner::PressKey(const Line& line) {
-  const int count = line.words.size() > 3 ? std::stoi(line.words[3]) : 1;
+  const int count = line.words.size() > 3 ? Number(line, 3) : 1;
   for (int i = 0; i < count; ++i) {
     if (!driver_->PressKey(*Find(Word(line, 1)), Word(line, 2))) throw Stop{"nothing takes the key"};
   }
@@ -493,24 +528,27 @@ void Runner::Mouse(const Line& line) {
 }
 
 void Runner::Set(const Line& line) {
-  const bool value = Word(line, 1) == "value";
-  PropertyBase* property = value ? application_->FindValue(Word(line, 2)) : FindProperty(line.words[1]);
+  if (!FindProperty(Word(line, 1))->FromText(Wanted(line, 2))) throw Stop{"it can't be set to that"};
+}
+
+void Runner::SetValue(const Line& line) {
+  PropertyBase* const property = application_->FindValue(Word(line, 2));
   if (!property) throw Stop{"there is no such value"};
-  if (!property->FromText(Wanted(line, value ? 3 : 2))) throw Stop{"it can't be set to that"};
+  if (!property->FromText(Wanted(line, 3))) throw Stop{"it can't be set to that"};
 }
 
 /// The named operations that no control reaches.
 void Runner::Call(const Line& line) {
-  Editor* const editor = application_->editor();
+  const auto editor = [this] { return FindAs<Editor>("Editor"); };
   const std::map<std::string, std::function<void()>> operations = {
-      {"Editor.ExtractButtonDefinition", [&] { editor->ExtractButtonDefinition(Word(line, 2)); }},
-      {"KeyTestForm.TurnOffCapsLOCK", [&] { application_->LoadedTool<KeyTestForm>()->TurnOffCapsLOCK(); }},
-      {"Editor.HardwareHasChanged", [&] { editor->HardwareHasChanged(); }},
-      {"Editor.DamnFontWasChanged", [&] { editor->DamnFontWasChanged(); }},
-      {"Editor.DeleteUndosFromMemory", [&] { editor->DeleteUndosFromMemory(); }},
-      {"Editor.Form_Activate", [&] { editor->Form_Activate(); }},
-      {"Editor.EmergencySaveFiles", [&] { editor->EmergencySaveFiles(); }},
-      {"Editor.CheckAtLineBeginning", [&] { editor->CheckAtLineBeginning(); }},
+      {"Editor.ExtractButtonDefinition", [&] { editor()->ExtractButtonDefinition(Word(line, 2)); }},
+      {"KeyTestForm.TurnOffCapsLOCK", [&] { FindAs<KeyTestForm>("KeyTestForm")->TurnOffCapsLOCK(); }},
+      {"Editor.HardwareHasChanged", [&] { editor()->HardwareHasChanged(); }},
+      {"Editor.DamnFontWasChanged", [&] { editor()->DamnFontWasChanged(); }},
+      {"Editor.DeleteUndosFromMemory", [&] { editor()->DeleteUndosFromMemory(); }},
+      {"Editor.Form_Activate", [&] { editor()->Form_Activate(); }},
+      {"Editor.EmergencySaveFiles", [&] { editor()->EmergencySaveFiles(); }},
+      {"Editor.CheckAtLineBeginning", [&] { editor()->CheckAtLineBeginning(); }},
       {"Mum.ReleaseGradientInEmergency", [&] { application_->mum().ReleaseGradientInEmergency(); }},
       {"Mum.MakeFlat", [&] { application_->mum().MakeFlat(); }},
       {"Mum.ColoursSortOut", [&] { application_->mum().ColoursSortOut(); }},
@@ -538,9 +576,7 @@ void Runner::AnswerBox(const Line& line) {
   }
   const std::map<std::string, Answer> answers = {
       {"OK", Answer::Ok}, {"Yes", Answer::Yes}, {"No", Answer::No}, {"Cancel", Answer::Cancel}};
-  const auto answer = answers.find(Word(line, 1));
-  if (answer == answers.end()) throw Stop{"no such answer"};
-  outside_.dialogs.answers.push_back(answer->second);
+  outside_.dialogs.answers.push_back(answers.at(Word(line, 1)));
 }
 
 /// clipboard text|rtf "TEXT": what another program puts there; clipboard empty.
@@ -613,19 +649,13 @@ void Runner::ExpectForm(const Line& line) {
   if (!form || !form->Visible) Fail("it isn't on show");
 }
 
-void Runner::Expect(const Line& line) {
-  const auto expectation = Expectations().find(Word(line, 1));
-  if (expectation != Expectations().end()) return (this->*expectation->second)(line);
-  ExpectProperty(line);
-}
-
 void Runner::ExpectProperty(const Line& line) {
   const PropertyBase* property = FindProperty(line.words[1]);
   Compare(Wanted(line, 2), driver_->Read(*property));
 }
 
 void Runner::ExpectValue(const Line& line) {
-  const PropertyBase* property = application_ ? application_->FindValue(Word(line, 2)) : nullptr;
+  const PropertyBase* const property = application_->FindValue(Word(line, 2));
   if (!property) throw Stop{"there is no such value"};
   Compare(Wanted(line, 3), property->ToText());
 }
@@ -675,12 +705,25 @@ void Runner::ExpectSame(const Line& line) {
   Compare(*wanted, *found);
 }
 
-void Runner::ExpectNo(const Line& line) {
-  if (Word(line, 2) == "file" && files_.FileExists(Word(line, 3))) Fail("it is there");
-  if (line.words[2] == "dialog" && !outside_.dialogs.requests.empty()) Fail("there was one");
-  if (line.words[2] == "form" && application_->FindForm(Word(line, 3))) Fail("it is loaded");
-  if (line.words[2] == "printing" && !outside_.printer.record.empty()) Fail(Joined(outside_.printer.record));
-  if (line.words[2] == "list" && application_->editor()->Resolve(Word(line, 3))) Fail("it is there");
+void Runner::ExpectNoFile(const Line& line) {
+  if (files_.FileExists(Word(line, 3))) Fail("it is there");
+}
+void Runner::ExpectNoForm(const Line& line) {
+  if (application_->FindForm(Word(line, 3))) Fail("it is loaded");
+}
+/// Of the editor's controls and menus.
+void Runner::ExpectNoList(const Line& line) {
+  if (Find("Editor")->Resolve(Word(line, 3))) Fail("it is there");
+}
+/// All boxes that came have been expected.
+void Runner::ExpectNoBox(const Line&) {
+  if (!outside_.dialogs.boxes.empty()) Fail("there is \"" + outside_.dialogs.boxes.front().title + "\"");
+}
+void Runner::ExpectNoDialog(const Line&) {
+  if (!outside_.dialogs.requests.empty()) Fail("there was one");
+}
+void Runner::ExpectNoPrinting(const Line&) {
+  if (!outside_.printer.record.empty()) Fail(Joined(outside_.printer.record));
 }
 
 /// What was printed since the last time that this was asked.

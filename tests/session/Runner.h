@@ -26,12 +26,19 @@ class Runner {
 
  private:
   using Command = void (Runner::*)(const Line&);
-  static const std::map<std::string_view, Command>& Commands();
-  static const std::map<std::string_view, Command>& Expectations();
+  enum class Needs { Nothing, Program };
+  struct Sentence {
+    const char* shape;
+    Command command;
+    Needs needs = Needs::Nothing;
+  };
+  static const std::vector<Sentence>& Sentences();
+  static const Sentence* SentenceOf(const Line& line);
 
+  bool ReadsWell();
   bool Next();
   void Step(const Line& line);
-  [[nodiscard]] bool IsBlocked(const Line& line) const;
+  [[nodiscard]] bool IsBlocked(const Line& line, const Sentence& sentence) const;
   void Fail(const std::string& what);
   void Compare(const std::string& wanted, const std::string& found);
 
@@ -47,6 +54,8 @@ class Runner {
   void DiskRoom(const Line& line);
   void SetPrinter(const Line& line);
   void SetJoystick(const Line& line);
+  void SetJoystickAxes(const Line& line);
+  void MoveJoystick(const Line& line);
   void SetLock(const Line& line);
   void SetProgram(const Line& line);
   void SetSystemInformation(const Line& line);
@@ -71,12 +80,12 @@ class Runner {
   void Drag(const Line& line);
   void Mouse(const Line& line);
   void Set(const Line& line);
+  void SetValue(const Line& line);
   void Call(const Line& line);
   void Choose(const Line& line);
   void AnswerBox(const Line& line);
   void FillClipboard(const Line& line);
   // What is seen.
-  void Expect(const Line& line);
   void ExpectProperty(const Line& line);
   void ExpectValue(const Line& line);
   void ExpectBox(const Line& line);
@@ -94,7 +103,12 @@ class Runner {
   void ExpectFocus(const Line& line);
   void ExpectForm(const Line& line);
   void ExpectPrinted(const Line& line);
-  void ExpectNo(const Line& line);
+  void ExpectNoFile(const Line& line);
+  void ExpectNoForm(const Line& line);
+  void ExpectNoList(const Line& line);
+  void ExpectNoBox(const Line& line);
+  void ExpectNoDialog(const Line& line);
+  void ExpectNoPrinting(const Line& line);
   void ExpectFolder(const Line& line);
   void ExpectIni(const Line& line);
   void ExpectColour(const Line& line);
@@ -103,6 +117,7 @@ class Runner {
   void ExpectRunning(const Line& line);
 
   [[nodiscard]] const std::string& Word(const Line& line, std::size_t index);
+  [[nodiscard]] int Number(const Line& line, std::size_t index);
   [[nodiscard]] std::string Wanted(const Line& line, std::size_t index);
   Component* Find(const std::string& path);
   template <class T>

@@ -19,8 +19,9 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
   return lines;
 }
 
-/// Takes a word in quotation marks, in which \" is one and every other backslash is itself.
-std::string TakeQuoted(std::string_view& rest) {
+/// Takes a word in quotation marks, in which \" is one and every other backslash is itself. `isOpen` becomes
+/// true when the second mark is missing.
+std::string TakeQuoted(std::string_view& rest, bool& isOpen) {
   std::string word;
   rest.remove_prefix(1);
   while (!rest.empty() && rest.front() != '"') {
@@ -28,17 +29,18 @@ std::string TakeQuoted(std::string_view& rest) {
     word += rest.front();
     rest.remove_prefix(1);
   }
+  isOpen = isOpen || rest.empty();
   rest.remove_prefix(std::min<std::size_t>(1, rest.size()));
   return word;
 }
 
-std::vector<std::string> SplitWords(std::string_view rest) {
+std::vector<std::string> SplitWords(std::string_view rest, bool& isOpen) {
   std::vector<std::string> words;
   while (true) {
     rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
     if (rest.empty() || rest == "#" || rest.starts_with("# ")) return words;
     if (rest.front() == '"') {
-      words.push_back(FromUtf8(TakeQuoted(rest)));
+      words.push_back(FromUtf8(TakeQuoted(rest, isOpen)));
     } else {
       const std::size_t end = std::min(rest.find(' '), rest.size());
       words.push_back(FromUtf8(rest.substr(0, end)));
@@ -65,9 +67,9 @@ std::vector<Line> ParseScript(std::string_view script) {
       emptyBefore = 0;
     } else {
       emptyBefore = 0;
-      std::vector<std::string> words = SplitWords(text);
-      if (!words.empty())
-        result.push_back({static_cast<int>(i + 1), std::move(words), {}, false, std::string(text)});
+      Line line{static_cast<int>(i + 1), {}, {}, false, std::string(text)};
+      line.words = SplitWords(text, line.isOpen);
+      if (!line.words.empty()) result.push_back(std::move(line));
     }
   }
   return result;

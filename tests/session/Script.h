@@ -12,7 +12,8 @@ struct Line {
   std::vector<std::string> words;  ///< in the code page, quotation marks gone
   std::vector<std::string> block;  ///< the indented lines below, in the code page
   bool hasBlock = false;
-  std::string source;  ///< as it stands in the script
+  std::string source;   ///< as it stands in the script
+  bool isOpen = false;  ///< a quotation mark has no other
 };
 
 /// Reads a script in UTF-8. Empty lines and those that begin with "#" are passed over; so is the rest of a

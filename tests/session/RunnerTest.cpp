@@ -1,0 +1,97 @@
+// The session runner tells what is wrong with a session instead of passing over it, and nothing in one makes
+// it crash.
+#include <gmock/gmock.h>
+
+#include "session/Runner.h"
+
+namespace tarvik::session {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::SizeIs;
+using ::testing::StartsWith;
+
+std::vector<std::string> Failures(const std::string& script) {
+  return Runner(MakeFormDriver, TARVIK_DATA).Run(script);
+}
+
+/// The program with a list of two macros.
+constexpr const char* kStarted =
+    "ini FileLocations FirstTimeUsed 0\n"
+    "file c:\\my\\a.m50\n"
+    "  Gear = g\n"
+    "  Flaps = f\n"
+    "start c:\\my\\a.m50\n";
+
+TEST(Runner, PassesWhatHolds) {
+  EXPECT_THAT(
+      Failures(std::string(kStarted) + "pick Editor.List1(0) #1\nexpect Editor.List1(0).ListIndex 1\n"),
+      IsEmpty());
+}
+
+class Mistake : public ::testing::TestWithParam<const char*> {};
+
+/// A line that reads wrong fails with its number, and nothing of the session runs.
+TEST_P(Mistake, IsToldBeforeAnythingRuns) {
+  EXPECT_THAT(Failures(std::string(GetParam()) + "\nexpect file c:\\not\\there\n"),
+              ElementsAre(StartsWith("1: ")));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Runner, Mistake,
+    ::testing::Values("clik Editor.JoystickText", "key Editor.JoystickText Ctrl+Zap",
+                      "key Editor.JoystickText Retrun", "key Editor.JoystickText F25",
+                      "key Editor.JoystickText Ctrl+A many", "keydown Editor.JoystickText Ctrl+A 2",
+                      "pick Editor.List1(0)", "pick Editor.List1(x) #0", "expect no bokks",
+                      "expect no box today", "expect ended now", "expect Editor",
+                      "expect Editor.JoystickText.Text", "click Editor.JoystickText twice", "wait long",
+                      "wait 5", "mouse jump Editor.List1(0) 1 2 3", "mouse down Editor.List1(0) 1 2",
+                      "resize Editor wide 300", "answer Maybe", "choose", "room much", "bytes c:\\a 4Z",
+                      "lock scroll 1", "joystick w 3", "joystick x", "expect box \"one\" two three four",
+                      "expect colour Editor.JoystickText a 1 0", "type Editor.JoystickText \"no end",
+                      "click Editor.JoystickText\n  a block", "repeat c:\\a.b50 3", "expect printed",
+                      "set value InsertionText", "drag Editor.List1(0) Gear Editor.JoystickText end"));
+
+class Impossible : public ::testing::TestWithParam<const char*> {};
+
+/// What cannot be done or seen fails the session.
+TEST_P(Impossible, IsToldWithoutACrash) {
+  const auto failures = Failures(std::string(kStarted) + GetParam() + "\n");
+  ASSERT_THAT(failures, SizeIs(1));
+  EXPECT_THAT(failures[0], StartsWith("6: "));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Runner, Impossible,
+    ::testing::Values("pick Editor.List1(0) #9", "pick Editor.List1(0) #-1", "pick Editor.List1(0) Brakes",
+                      "pick Editor.TabStrip1 #2", "pick Editor.Combo1 #7", "click Editor.Command1(13)",
+                      "click Editor.Comand1", "click Editr.Command1(0)", "expect Editor.TabStrip1.Colour 3",
+                      "expect form Composer", "expect value Joystick 3",
+                      "set Editor.JoystickText.SelStart here", "set value JoystickDirty yes",
+                      "call Editor.Explode", "close Pimlet", "expect focus Editor.MacroTxt",
+                      "drag Editor.List1(0) Gear Editor.List1(0) 0", "type Editor.Combo1 abc",
+                      "expect popup mnuRHMouse", "expect help anything", "call KeyTestForm.TurnOffCapsLOCK",
+                      "key Editor.JoystickText a 9999999999"));
+
+TEST(Runner, TellsThatTheProgramHasEnded) {
+  for (const char* const line :
+       {"expect form Editor", "expect no form Editor", "expect no list mnuJFArray(1)",
+        "expect value JoystickDirty 0", "click Editor.JoystickText", "close Mum", "call Editor.Form_Activate",
+        "expect Editor.Visible True", "expect colour Editor.JoystickText 0 1 0", "set value JoystickDirty 1",
+        "expect focus Editor.JoystickText"}) {
+    const auto failures = Failures(std::string(kStarted) + "killed\n" + line + "\n");
+    ASSERT_THAT(failures, SizeIs(1)) << line;
+    EXPECT_THAT(failures[0], HasSubstr("no program runs")) << line;
+  }
+}
+
+TEST(Runner, TellsABoxThatNobodyExpects) {
+  const std::string box = std::string(kStarted) + "click Editor.mnuViewIdentify\n";
+  EXPECT_THAT(Failures(box), SizeIs(1));
+  EXPECT_THAT(Failures(box + "expect no box\nexpect box \"You're kidding me...right?!\"\n"), SizeIs(1));
+}
+
+}  // namespace
+}  // namespace tarvik::session
