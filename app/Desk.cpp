@@ -24,7 +24,11 @@ void Desk::SayIsProtected(const Document& document) const {
   Say(TabOf(document).Caption.Get() + " is protected and can't be edited.");
 }
 
-void Desk::ShowLineNumber(const Document& document, std::size_t position) const {
+void Desk::ShowLineNumber(const Document& document) const { ShowLine(document, document.Caret); }
+
+void Desk::ShowCaretLine() const { ShowLine(Active(), Active().text.SelStart); }
+
+void Desk::ShowLine(const Document& document, std::size_t position) const {
   status.Panels(3).Text = "Line no: " + TextOf(1 + document.text.GetLineFromChar(position));
 }
 

@@ -32,14 +32,20 @@ struct Desk {
   void Say(const std::string& text) const;
   /// Status panel 1, when the user would edit a protected file.
   void SayIsProtected(const Document& document) const;
-  /// Status panel 3.
-  void ShowLineNumber(const Document& document, std::size_t position) const;
+  /// Status panel 3: the line of the document's caret memory.
+  void ShowLineNumber(const Document& document) const;
+  /// The same of the caret in the document of the selected tab. Its pane announces each move, so that no
+  /// command has to think of it; only a change of the tab asks for it by hand.
+  void ShowCaretLine() const;
   /// Status panel 2: the saved state of the document of the selected tab.
   void UpdateSavedIcon() const;
   /// Menu captions, tool tips and states of undo and redo; set by the form that owns them.
   std::function<void()> updateUndoRedoMenus;
   /// Gives the pane the user's font, indent and the document's background.
   void ApplyLook(const Document& document) const;
+
+ private:
+  void ShowLine(const Document& document, std::size_t position) const;
 };
 
 /// Gives a pane the user's font, and the indent of all panes.

@@ -43,7 +43,7 @@ bool EditCommands::Refuses() const {
 
 void EditCommands::DeleteSelection(Document& document) {
   if (document.text.SelLength == 0) return;
-  document.Undo.Start = 1;
+  document.Undo.BeginCommand(desk_.settings.UndoMax);
   document.text.SelText = std::string();
 }
 
@@ -67,7 +67,6 @@ void EditCommands::Paste() {
   document.Caret = document.text.SelStart;
   document.text.SetFocus();
   insertion_.EndColInsert();
-  desk_.ShowLineNumber(document, document.Caret);
 }
 
 void EditCommands::SelectAll() {
@@ -88,8 +87,7 @@ void EditCommands::UpdateCCPButtons() {
 }
 
 void EditCommands::CheckAtLineBeginning() {
-  Document& document = desk_.Active();
-  Pane& pane = document.text;
+  Pane& pane = desk_.Active().text;
   const std::string_view text = pane.Characters();
   const std::size_t caret = pane.SelStart;
   if (!text.empty() && pane.SelLength == 0 && caret > 0 && text[caret - 1] != '\n') {
@@ -97,7 +95,6 @@ void EditCommands::CheckAtLineBeginning() {
     insertion_.InsertCarriageReturn();
   }
   pane.SetFocus();
-  desk_.ShowLineNumber(document, pane.SelStart);
 }
 
 }  // namespace tarvik

@@ -75,7 +75,8 @@ Editor::Editor(Application& application)
       edit_(desk_, insertion_, menus, mum_.Toolbar1),
       input_(desk_, menus, popUps,
              {[this](Document& document) { TextChanged(document); },
-              [this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); }}),
+              [this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); },
+              [this](const Document& document) { return FindNext(document); }}),
       files_(desk_, copies_, highlighter_, lists_,
              {[this] { layout_.ShowMacroFrame(); },
               [this] { ShowPreferences(application_, Preferences::kFileLocations); },
@@ -185,7 +186,7 @@ void Editor::Form_Load() {
   values.LoadingFile = 0;
   Joystick.Caret = 0;
   Macro.Caret = 0;
-  desk_.ShowLineNumber(Joystick, 0);
+  desk_.ShowCaretLine();
   desk_.UpdateSavedIcon();
   F22MenusUpdate();
   autoSave_.Restart();
@@ -205,6 +206,7 @@ void Editor::FirstTimeFlow() {
 void Editor::Form_Activate() {
   mum_.Toolbar1.Visible = true;
   desk_.Active().text.SetFocus();
+  desk_.ShowCaretLine();
   UpdateToolBarOpenSaveTooltips();
   if (application_.values.FontChanged == 1) DamnFontWasChanged();
 }
@@ -417,6 +419,7 @@ void Editor::TabStrip1_Click() {
   }
   desk_.UpdateSavedIcon();
   document.text.SelStart = document.Caret;
+  desk_.ShowCaretLine();
   layout_.ShowPanes();
   document.text.SetFocus();
   UpdateUndoRedoMenus();

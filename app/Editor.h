@@ -227,7 +227,7 @@ class Editor : public Form {
   /// which is then swallowed. The entry must be enabled.
   void ForwardKey(Key& key) const;
   /// Status panel 3, by the document's caret memory.
-  void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document, document.Caret); }
+  void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document); }
   /// Gives a tool's pane the font of the files.
   void ApplyFont(Pane& pane) const { tarvik::ApplyFont(pane, desk_.settings); }
   void SayIsProtected(const Document& document) const { desk_.SayIsProtected(document); }
@@ -244,6 +244,7 @@ class Editor : public Form {
   void Remember(const Document& document);
   void FirstTimeFlow();
   void ShowPopUp(std::string_view name);
+  bool FindNext(const Document& document);
   void ShowQuickTip(bool show);
   void StepThroughHistory(void (UndoHistory::*step)());
 

@@ -82,6 +82,12 @@ void Editor::mnuEditFind_Click() { application_.Tool<FindAndReplace>().ShowFind(
 void Editor::mnuEditReplace_Click() { application_.Tool<FindAndReplace>().ShowReplace(); }
 void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(); }
 
+/// While the find window is open, the Enter key on a hit in a file goes on to the next one.
+bool Editor::FindNext(const Document& document) {
+  auto* const find = application_.LoadedTool<FindAndReplace>();
+  return find && find->GoOnFrom(document);
+}
+
 // The Composer.
 
 void Editor::mnuShowInsertWindow_Click() { application_.Tool<InsertOptions>().ShowComposer(); }

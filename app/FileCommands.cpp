@@ -142,7 +142,6 @@ bool FileCommands::New(Document& document) {
   }
   document.Caret = 0;
   ResetHistory(document);
-  desk_.ShowLineNumber(document, 0);
   desk_.Select(document);
   desk_.Say(WordsOf(document).created);
   desk_.UpdateSavedIcon();

@@ -5,6 +5,7 @@
 namespace tarvik {
 namespace {
 
+constexpr int kEnter = 13;
 constexpr int kEscape = 27;
 constexpr int kInsert = 45;
 constexpr int kF1 = 112;
@@ -25,6 +26,14 @@ void PaneInput::Attach(Document& document) {
   pane.GotFocus = [this, &document] { GotFocus(document); };
   pane.LostFocus = [&document] { document.SelLength = document.text.SelLength; };
   pane.Change = [this, &document] { Change(document); };
+  connections_.push_back(pane.SelectionChanged.Connect([this, &document] { CaretMoved(document); }));
+  connections_.push_back(pane.Edited.Connect([this, &document](const PaneEdit& edit) {
+    if (!edit.OnlyColours()) CaretMoved(document);
+  }));
+}
+
+void PaneInput::CaretMoved(const Document& document) const {
+  if (&document == &desk_.Active()) desk_.ShowCaretLine();
 }
 
 void PaneInput::KeyDown(Document& document, Key& key) {
@@ -33,7 +42,10 @@ void PaneInput::KeyDown(Document& document, Key& key) {
     key = {};
     return;
   }
-  desk_.ShowLineNumber(document, document.text.SelStart);
+  if (key.code == kEnter && key.shift == 0 && hooks_.findNext(document)) {
+    key = {};
+    return;
+  }
   if (key.code == kInsert && key.shift == 0) TurnOvertypeOver();
   if (key.code == kEscape) hooks_.popUp("mnuInsert");
   const std::string selected = document.text.SelText;
@@ -85,7 +97,6 @@ void PaneInput::KeyPress(Document& document, int character) {
 void PaneInput::RememberCaret(Document& document) {
   document.SelLength = document.text.SelLength;
   document.Caret = document.text.SelStart;
-  desk_.ShowLineNumber(document, document.Caret);
   hooks_.updateCCPButtons();
 }
 

@@ -16,6 +16,8 @@ class PaneInput {
     std::function<void(std::string_view)> popUp;
     /// Fits the menus to the selection.
     std::function<void()> updateCCPButtons;
+    /// Goes on to the next hit while a search is on and its hit stands untouched in the document.
+    std::function<bool(const Document&)> findNext;
   };
 
   PaneInput(Desk& desk, const Menus& menus, const Menus& popUps, Hooks hooks)
@@ -32,6 +34,8 @@ class PaneInput {
   void GotFocus(Document& document);
   void Change(Document& document);
   void RememberCaret(Document& document);
+  /// The caret of a pane moved, or text before it came or went.
+  void CaretMoved(const Document& document) const;
   /// For both files, as the status bar's panel tells.
   void TurnOvertypeOver();
   void ShowHelp(const std::string& keyword) const;
@@ -40,6 +44,7 @@ class PaneInput {
   const Menus& menus_;
   const Menus& popUps_;
   Hooks hooks_;
+  std::vector<Connection> connections_;
 };
 
 }  // namespace tarvik

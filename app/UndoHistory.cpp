@@ -141,9 +141,13 @@ void UndoHistory::StoreLook() {
   unrecorded_.clear();
 }
 
-void UndoHistory::StoreShown() {
+void UndoHistory::BeginCommand(int undoMax) {
   StoreLook();
   At(Index).caret = pane_.SelStart;
+  Start = 1;
+  if (Index == 1) return;
+  Open(undoMax);
+  GoToNewest();
 }
 
 void UndoHistory::TakeBackUnrecorded() {

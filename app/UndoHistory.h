@@ -37,8 +37,10 @@ class UndoHistory {
   void Absorb();
   /// Puts the pane's present content in the slot on show, whose caret stays: after colouring.
   void StoreLook();
-  /// Puts the pane's present state in the slot on show: before an insertion by a tool.
-  void StoreShown();
+  /// A command of the program is about to change the pane: what it changes is a step of its own, which one
+  /// undo takes back to what is on show now. Where something is undone, the state on show becomes the newest
+  /// slot, and what was undone stays reachable behind it; `undoMax` as for Open.
+  void BeginCommand(int undoMax);
   /// True when nothing is undone and the next change is no new step.
   [[nodiscard]] bool Absorbs() const { return Start != 1 && Index == 1; }
 

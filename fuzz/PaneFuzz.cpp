@@ -106,8 +106,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
         index = 0;
         break;
       case 3:
-        history.StoreShown();
+        history.BeginCommand(4);
         slots[index] = model;
+        if (index == 0) break;
+        slots.insert(slots.begin(), model);
+        if (slots.size() > 5) slots.pop_back();
+        index = 0;
         break;
       case 4:
         if (index + 1 == slots.size()) break;

@@ -4,7 +4,7 @@ namespace tarvik {
 
 void ColouredInsertion::BeginColInsert() {
   desk_.values.LoadingFile = 1;
-  desk_.Active().Undo.StoreShown();
+  desk_.Active().Undo.BeginCommand(desk_.settings.UndoMax);
 }
 
 void ColouredInsertion::EndColInsert() {

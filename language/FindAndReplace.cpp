@@ -14,8 +14,6 @@ constexpr const char* kNext = "Find next";
 constexpr int kEscape = 27;
 enum Tab { kFindTab, kReplaceTab, kGotoTab };
 
-/// The topics of the tabs in the help file.
-
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
 /// Where a line begins, counted from 1; nothing where the text has fewer.
@@ -212,6 +210,7 @@ void FindAndReplace::Search(const Page& page) {
   const auto hit =
       document.text.Find(SearchText.Get(), document.Caret, document.text.Characters().size(), SearchOptions);
   SearchHit = hit ? static_cast<int>(*hit) : -1;
+  hit_.reset();
   if (!hit) return NotFound(page, document, first);
   page.find.Caption = kNext;
   if (page.replaces) AllowReplacing(true);
@@ -225,7 +224,15 @@ void FindAndReplace::Search(const Page& page) {
   // hit.
   document.SelLength = SearchText.Get().size();
   document.Caret = *hit + SearchText.Get().size();
-  if (document.IsJoystick()) editor_.ShowLineNumber(document);
+  hit_ = Hit{&document, document.text.Selection(), document.text.SelText, page.replaces};
+}
+
+bool FindAndReplace::GoOnFrom(const Document& document) {
+  if (!Visible || !hit_ || hit_->document != &document) return false;
+  if (document.text.Selection() != hit_->range || document.text.SelText.Get() != hit_->text) return false;
+  hit_->document->Caret = hit_->range.End();
+  Search(hit_->onReplacePage ? ReplacePage() : FindPage());
+  return true;
 }
 
 void FindAndReplace::NotFound(const Page& page, Document& document, bool first) {
@@ -255,19 +262,30 @@ bool FindAndReplace::Refuses(const Document& document) const {
   return true;
 }
 
-void FindAndReplace::RememberReplacement() {
+void FindAndReplace::TakeReplacement() {
   ReplacementText = ComboTextReplaceWith.Text.Get();
   if (!ComboTextReplaceWith.Empty()) ComboTextReplaceWith.Remember(ReplacementText);
 }
 
+bool FindAndReplace::SelectHit() {
+  if (!hit_ || hit_->document != &Target(ReplacePage())) return false;
+  const Range range = hit_->range;
+  Pane& pane = hit_->document->text;
+  if (pane.Characters().substr(std::min(range.start, pane.Characters().size()), range.length) != hit_->text)
+    return false;
+  pane.Select(range);
+  return true;
+}
+
+/// Only what was found is replaced, also when it is no longer selected; the caret stands behind it.
 void FindAndReplace::ReplaceText() {
-  Document& document = Target(ReplacePage());
-  RememberReplacement();
-  document.Undo.Start = 1;
+  if (!SelectHit()) return;
+  TakeReplacement();
+  Document& document = *hit_->document;
+  document.Undo.BeginCommand(application_.settings.UndoMax);
   document.text.SelText = ReplacementText.Get();
-  // The caret may have been moved to the top since the hit.
-  const std::size_t behind = document.Caret + ReplacementText.Get().size();
-  document.Caret = behind - std::min(behind, ComboTextReplaceFind.Text.Get().size());
+  document.Caret = hit_->range.start + ReplacementText.Get().size();
+  hit_.reset();
 }
 
 void FindAndReplace::Command5_Click() {
@@ -283,19 +301,21 @@ void FindAndReplace::Command6_Click() {
   {
     const Loading loading(application_.values);
     editor_.TabStrip1.Select(document.traits.tab);
+    document.Undo.BeginCommand(application_.settings.UndoMax);
     TakeOptions(page);
-    RememberReplacement();
     ProgressBar& bar = application_.mum().ProgressBar1;
     bar.Min = 0;
     bar.Max = static_cast<int>(document.text.Characters().size());
     bar.Value = 0;
     bar.Visible = true;
     const Replaced replaced =
-        document.text.ReplaceAll(SearchText.Get(), ReplacementText.Get(), SearchOptions,
+        document.text.ReplaceAll(SearchText.Get(), ComboTextReplaceWith.Text.Get(), SearchOptions,
                                  [&bar](std::size_t hit) { bar.Value = static_cast<int>(hit); });
     bar.Visible = false;
     SearchHit = -1;
     count = replaced.count;
+    if (count > 0) TakeReplacement();
+    hit_.reset();
     document.Caret = replaced.end;
   }
   Show("Replaced 'em all for you. Now buy me a drink",

@@ -71,6 +71,9 @@ class FindAndReplace : public Form {
   void Command10_Click();
   void LineToFind_GotFocus() { LineToFind.SelectAll(); }
   void ReplaceText();
+  /// Goes on to the next hit when the last one stands selected and untouched in the document. False: it does
+  /// not.
+  bool GoOnFrom(const Document& document);
 
  private:
   /// The controls of a page that searches, and the ways in which the pages differ.
@@ -88,11 +91,22 @@ class FindAndReplace : public Form {
   void TakeOptions(const Page& page);
   void AllowReplacing(bool allow);
   [[nodiscard]] bool Refuses(const Document& document) const;
-  void RememberReplacement();
+  void TakeReplacement();
+  /// Selects the last hit again. False where the text is no longer what was found.
+  bool SelectHit();
   void Show(const char* title, const std::string& text, BoxIcon icon = BoxIcon::Exclamation) const;
+
+  /// What the last search found, until it is replaced.
+  struct Hit {
+    Document* document;
+    Range range;
+    std::string text;
+    bool onReplacePage;
+  };
 
   Application& application_;
   Editor& editor_;
+  std::optional<Hit> hit_;
 };
 
 }  // namespace tarvik

@@ -213,7 +213,7 @@ void MacroLists::Insert(const ListBox& list) {
   const std::string& name = desk_.values.SelectedMacro;
   const std::size_t caret = std::min<std::size_t>(document.Caret, pane.Characters().size());
   const bool joinsText = caret != 0 && pane.Characters()[caret - 1] != ' ';
-  document.Undo.Start = 1;
+  document.Undo.BeginCommand(desk_.settings.UndoMax);
   pane.SelStart = caret;
   pane.SelColor = kBlack;
   pane.SelText = (joinsText ? " " : "") + name + " ";

@@ -49,7 +49,7 @@ QLayout* GotoPage(FindAndReplace& form, const FormLayout& in) {
 
 QLayout* Page(FindAndReplace& form, const FormLayout& in) {
   return Column({in.Show(form.SSTab1, {FindPage(form, in), ReplacePage(form, in), GotoPage(form, in)}),
-                 Row({in.Show(form.Command10), Stretch()})});
+                 Row({in.Show(form.Command10), Stretch(), in.Show(form.Command9)})});
 }
 
 QLayout* Page(Title& form, const FormLayout& in) {

@@ -255,6 +255,8 @@ class HourOfWork : public testing::TestWithParam<unsigned> {
   /// slots.
   void Record() {
     const auto slots = static_cast<std::size_t>(editor.Joystick.Undo.UpperBound());
+    // A command puts what it found in front of what was undone.
+    if (slots > slots_.size() + 1) slots_.insert(slots_.begin(), slots_[shown_]);
     if (slots > slots_.size()) {
       slots_.insert(slots_.begin(), model_);
       shown_ = 0;

@@ -140,6 +140,7 @@ TEST_F(PaneInputTest, WhatCodeWritesWhileAFileIsLoadedIsNoEdit) {
 
 TEST_F(PaneInputTest, TheMacroFilesHandlersKeepTheMacroFilesMemories) {
   editor.MacroText.Text = "ab\r\ncd";
+  editor.MacroText.SetFocus();
   editor.MacroText.Select({4, 1});
   editor.MacroText.Click();
   EXPECT_EQ(editor.Macro.Caret, 4U);

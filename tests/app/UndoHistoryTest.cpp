@@ -40,7 +40,7 @@ class Work {
   /// An insertion by a tool, in two pieces.
   void Insert(const std::string& first, const std::string& second) {
     loading = true;
-    history.StoreShown();
+    history.BeginCommand(undoMax);
     pane.SelColor = kBlue;
     pane.SelText = first;
     pane.SelColor = kBlack;
@@ -328,11 +328,17 @@ TEST_F(UndoHistoryTest, AnInsertionAfterUndoLosesNothing) {
   Undo();
   Insert("X", "");
   Look("aX", ".B", 2);
-  Counts(3, 0);
+  Counts(4, 0);
   Undo();
-  Look("ab", "..", 2);
+  Look("a", ".", 1);  // the insertion alone is taken back
+  Undo();
+  Look("ab", "..", 2);  // and what had been undone stands behind it
   Undo();
   Look("a", ".", 1);
+  Redo();
+  Redo();
+  Redo();
+  Look("aX", ".B", 2);
 }
 
 TEST_F(UndoHistoryTest, ClearingKeepsThePresentTextAsTheOldest) {
@@ -393,6 +399,11 @@ class Snapshots {
     slots[0] = Of(pane);
     index = 1;
     start = 1;
+  }
+  void BeginCommand(const Pane& pane, int undoMax) {
+    Shown() = Of(pane);
+    start = 1;
+    if (index != 1) Change(pane, undoMax);
   }
   struct Slot {
     RichText content;
@@ -471,7 +482,7 @@ void UndoHistoryAgainstSnapshots::DoAnything() {
       model.Shown().content = pane.Content();
       return;
     case 9:
-      model.Shown() = Snapshots::Of(pane);
+      model.BeginCommand(pane, undoMax);
       Insert("in", Below(2) ? "sert" : "");
       model.start = 1;
       return model.Change(pane, undoMax);

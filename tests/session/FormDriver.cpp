@@ -116,8 +116,10 @@ class Typing {
     const Range selection = pane_.Selection();
     const bool whole = (key.shift & shift::kCtrl) != 0;
     std::size_t to = 0;
-    if (key.code == 37) to = Before(selection.start);
-    if (key.code == 39) to = Behind(selection.End());
+    // A selection is left at its edge.
+    const bool leaves = selection.length > 0 && !(key.shift & shift::kShift);
+    if (key.code == 37) to = leaves ? selection.start : Before(selection.start);
+    if (key.code == 39) to = leaves ? selection.End() : Behind(selection.End());
     if (key.code == 36) to = whole || selection.start == 0 ? 0 : Text().rfind('\n', selection.start - 1) + 1;
     if (key.code == 35)
       to = whole ? Text().size() : std::min(Text().find('\r', selection.End()), Text().size());
