@@ -36,7 +36,7 @@ void Desk::UpdateSavedIcon() const {
   const Document& document = Active();
   const int image = document.Dirty + 2;
   status.Panels(2).Picture = image;
-  status.Panels(2).ToolTipText = document.Name.Get() + kSavedStateTips[image - 1];
+  status.Panels(2).ToolTipText = document.Name.Get().Text() + kSavedStateTips[image - 1];
 }
 
 void ApplyFont(Pane& pane, const Settings& settings) {

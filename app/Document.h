@@ -4,6 +4,7 @@
 
 #include "app/Settings.h"
 #include "app/UndoHistory.h"
+#include "platform/FileName.h"
 
 namespace tarvik {
 
@@ -62,7 +63,7 @@ class Document : public Component {
   const DocumentTraits& traits;
   Pane& text;
 
-  Property<std::string> Name{*this, traits.name};
+  Property<FileName> Name{*this, traits.name};
   Property<std::string> Path{*this, traits.path};
   /// -1 no text and unsaved, 0 saved, 1 modified.
   Property<int> Dirty{*this, traits.dirty, saved::kNoText};
@@ -72,7 +73,7 @@ class Document : public Component {
   UndoHistory Undo{*this, traits.undoIndex, traits.undoStart, text};
 
   [[nodiscard]] bool IsJoystick() const { return traits.tab == 1; }
-  [[nodiscard]] bool IsUntitled() const { return Name.Get().starts_with("untitled"); }
+  [[nodiscard]] bool IsUntitled() const { return Name.Get().Text().starts_with("untitled"); }
 };
 
 }  // namespace tarvik

@@ -501,7 +501,7 @@ void Editor::mnuEditUpdateMacros_Click() {
   desk_.Select(Macro);
   if (Macro.Dirty == saved::kModified) {
     Dialogs& dialogs = application_.platform.dialogs;
-    const std::string name = Macro.Name;
+    const std::string name = Macro.Name.Get().Text();
     const Answer answer =
         dialogs.Show({" Save " + name + " now?",
                       name + " has changed and isn't saved. You must save it if you want to update "

@@ -76,6 +76,15 @@ struct Pair {
 };
 constexpr Pair kPairs[] = {{"f22", "m22"}, {"b50", "m50"}, {"adv", "mdf"}};
 
+/// The file of a path in lower case; nothing where it names none.
+template <class File>
+std::optional<File> FileAt(const std::string& path) {
+  const std::string lower = LowerCase(path);
+  const auto name = FileName::Of(lower);
+  if (!name) return {};
+  return File{lower, *name};
+}
+
 /// The last three characters, whatever they are: how the program tells files apart.
 std::string_view Ending(std::string_view name) {
   return name.substr(name.size() - std::min<std::size_t>(3, name.size()));
@@ -85,8 +94,6 @@ std::string WithEnding(std::string name, std::string_view ending) {
   name.resize(name.size() - Ending(name).size());
   return name + std::string(ending);
 }
-
-std::size_t NameStart(std::string_view path) { return path.rfind('\\') + 1; }
 
 std::string Filter(const FileWords& words, const std::string& extension, const char* rest) {
   return std::string(words.kind) + " file (*." + extension + ")|*." + extension + rest;
@@ -117,15 +124,21 @@ constexpr const char* kNoPartnerMacroFile =
 // New.
 
 void FileCommands::NameUntitled(Document& document) {
-  document.Name = "untitled." + (desk_.settings.*document.traits.extension).Get();
+  const std::string extension = (desk_.settings.*document.traits.extension).Get();
+  // The settings file may hold anything, also an extension that is none.
+  document.Name = FileName::From("untitled." + extension).value_or(*FileName::From("untitled."));
   // No separator between the two: an untitled file is never saved there by hand.
-  document.Path = desk_.settings.ProgramFilesPath.Get() + document.Name.Get();
-  desk_.TabOf(document).Caption = document.Name;
+  document.Path = desk_.settings.ProgramFilesPath.Get() + document.Name.Get().Text();
+  ShowName(document);
 }
 
 void FileCommands::ResetHistory(Document& document) {
   document.Undo.Clear();
   desk_.updateUndoRedoMenus();
+}
+
+void FileCommands::ShowName(const Document& document) {
+  desk_.TabOf(document).Caption = document.Name.Get().Text();
 }
 
 bool FileCommands::New(Document& document) {
@@ -154,7 +167,7 @@ bool FileCommands::New(Document& document) {
 
 bool FileCommands::AskToSave(Document& document, const SaveQuestion& question) {
   if (document.Dirty != saved::kModified) return true;
-  return MayGo(desk_.platform.dialogs, document.Name, question, [&] {
+  return MayGo(desk_.platform.dialogs, document.Name.Get().Text(), question, [&] {
     desk_.Select(document);
     Save(document);
     return document.Dirty != saved::kModified;
@@ -178,20 +191,20 @@ bool FileCommands::MayExit() {
 
 void FileCommands::OpenWithoutDialog(const std::string& path) {
   toOpen_.path = path;
-  if (NameStart(path) > 0) toOpen_.name = path.substr(NameStart(path));
+  if (path.find('\\') == std::string::npos) return;
+  if (const auto name = FileName::Of(path)) toOpen_.name = *name;
 }
 
 FileCommands::File FileCommands::GivenFile() const {
-  return {LowerCase(toOpen_.path), LowerCase(toOpen_.name)};
+  return {LowerCase(toOpen_.path), FileName::From(LowerCase(toOpen_.name.Text())).value_or(FileName())};
 }
 
-Outcome<FileCommands::File> FileCommands::ChooseFile(const FileRequest& request) {
+std::optional<FileCommands::File> FileCommands::ChooseFile(const FileRequest& request) {
   Ignore(desk_.platform.files.ChangeDrive(request.folder));
   const auto chosen = desk_.platform.dialogs.AskForFile(request);
-  if (!chosen) return chosen.failure();
+  if (!chosen) return {};
   lastFileName_ = *chosen;
-  const std::string path = LowerCase(*chosen);
-  return File{path, path.substr(NameStart(path))};
+  return FileAt<File>(*chosen);
 }
 
 /// A file that cannot be read is told, and the document in its place stays.
@@ -204,7 +217,7 @@ bool FileCommands::CanRead(const std::string& path, const Trap& trap) {
 void FileCommands::TakeFile(Document& document, const File& file) {
   document.Path = file.path;
   document.Name = file.name;
-  desk_.TabOf(document).Caption = document.Name;
+  ShowName(document);
   hooks_.remember(document);
 }
 
@@ -260,7 +273,7 @@ void FileCommands::AnalyseMacroFile() {
   const Loading loading(desk_.values);
   hooks_.showMacroFrame();
   lists_.ClearAllForNewMacroFile();
-  desk_.status.Panels(8).Text = desk_.macro.Name;
+  desk_.status.Panels(8).Text = desk_.macro.Name.Get().Text();
   lists_.GetEachLineFromMacroFile();
   lists_.ExtractMacrosAndTitles();
 }
@@ -289,7 +302,7 @@ void FileCommands::OpenPair() {
     file = *chosen;
   }
   const Loading loading(desk_.values);
-  const std::string_view ending = Ending(file.name);
+  const std::string_view ending = Ending(file.name.Text());
   const auto is = [ending](std::string_view Pair::*half) {
     return std::any_of(std::begin(kPairs), std::end(kPairs),
                        [&](const Pair& pair) { return pair.*half == ending; });
@@ -309,23 +322,24 @@ void FileCommands::OpenMacroThenJoystick(const File& file, const Trap& trap) {
   desk_.Select(desk_.macro);
   desk_.UpdateSavedIcon();
   const auto pair = std::find_if(std::begin(kPairs), std::end(kPairs),
-                                 [&](const Pair& each) { return each.macro == Ending(file.name); });
-  const File partner{WithEnding(file.path, pair->joystick), WithEnding(file.name, pair->joystick)};
-  if (!desk_.platform.files.FileExists(partner.path)) {
+                                 [&](const Pair& each) { return each.macro == Ending(file.name.Text()); });
+  const auto partner = FileAt<File>(WithEnding(file.path, pair->joystick));
+  if (!partner || !desk_.platform.files.FileExists(partner->path)) {
     desk_.Say("Joystick file not opened");
     desk_.platform.dialogs.Show(
         {"Couldn't find associated joystick file", kNoJoystickFile, BoxIcon::Information, BoxButtons::Ok});
     return;
   }
-  if (!CanRead(partner.path, trap)) return;
-  TakeFile(desk_.joystick, partner);
+  if (!CanRead(partner->path, trap)) return;
+  TakeFile(desk_.joystick, *partner);
   FillPane(desk_.joystick, trap);
   FinishPair();
 }
 
 /// The word after the last "MDEF" in the joystick file, also one in a comment, names the macro file beside
-/// it. Without one the path ends in a point, and such a file does not normally exist.
-FileCommands::File FileCommands::MacroFileNamedIn(Document& joystick) const {
+/// it, and nothing beyond its folder: a word that is no name of a file names none. Without the word the path
+/// ends in a point, and such a file does not normally exist.
+std::optional<FileCommands::File> FileCommands::MacroFileNamedIn(Document& joystick) const {
   Pane& pane = joystick.text;
   bool named = false;
   joystick.Caret = 0;
@@ -334,15 +348,16 @@ FileCommands::File FileCommands::MacroFileNamedIn(Document& joystick) const {
     joystick.Caret = pane.Selection().End();
   }
   const std::string path = joystick.Path;
-  const std::string name = joystick.Name;
-  if (!named) return {WithEnding(path, ""), WithEnding(name, "")};
-  const auto pair = std::find_if(std::begin(kPairs), std::end(kPairs),
-                                 [&](const Pair& each) { return each.joystick == Ending(name); });
+  if (!named) return FileAt<File>(WithEnding(path, ""));
+  const auto pair = std::find_if(std::begin(kPairs), std::end(kPairs), [&](const Pair& each) {
+    return each.joystick == Ending(joystick.Name.Get().Text());
+  });
   joystick.Caret = joystick.Caret + 1;
   pane.SelStart = joystick.Caret;
   pane.Span(" \r\n");
-  const std::string macroName = LowerCase(pane.SelText.Get()) + "." + std::string(pair->macro);
-  return {path.substr(0, NameStart(path)) + macroName, macroName};
+  const auto macro = FileName::From(LowerCase(pane.SelText.Get()) + "." + std::string(pair->macro));
+  if (!macro) return {};
+  return File{Folder(path.substr(0, path.rfind('\\') + 1)) / *macro, *macro};
 }
 
 void FileCommands::OpenJoystickThenMacro(const File& file, const Trap& trap) {
@@ -351,16 +366,16 @@ void FileCommands::OpenJoystickThenMacro(const File& file, const Trap& trap) {
   desk_.Select(desk_.joystick);
   desk_.UpdateSavedIcon();
   desk_.Say("Looking for associated macro file");
-  const File partner = MacroFileNamedIn(desk_.joystick);
-  if (!desk_.platform.files.FileExists(partner.path)) {
+  const auto partner = MacroFileNamedIn(desk_.joystick);
+  if (!partner || !desk_.platform.files.FileExists(partner->path)) {
     desk_.Say("Macro file not opened");
     desk_.platform.dialogs.Show(
         {"Couldn't find associated macro file", kNoPartnerMacroFile, BoxIcon::Information, BoxButtons::Ok});
     lists_.ClearMacroTicks();
     return;
   }
-  if (!CanRead(partner.path, trap)) return;
-  OpenMacro(partner, trap);
+  if (!CanRead(partner->path, trap)) return;
+  OpenMacro(*partner, trap);
   FinishPair();
 }
 
@@ -426,7 +441,7 @@ void FileCommands::SaveAs(Document& document) {
   document.Name = chosen->name;
   SaveText(document);
   // Only now, so that the backup has gone under the caption before.
-  desk_.TabOf(document).Caption = document.Name;
+  ShowName(document);
 }
 
 void FileCommands::SaveText(Document& document) {
@@ -438,11 +453,12 @@ void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   const Trap trap{desk_.errors, tag};
   const Scratch scratch(desk_.scratch);
   scratch->SetContent(RichText(std::string(document.text.Characters())));
-  if (trap(scratch->SaveFile(document.Path.Get(), FileFormat::Text))) hooks_.remember(document);
-  if (desk_.settings.CreateBackup == 1) {
-    trap(scratch->SaveFile(desk_.values.BackupDir.Get() + desk_.TabOf(document).Caption.Get(),
-                           FileFormat::Text));
+  trap(scratch->SaveFile(document.Path.Get(), FileFormat::Text));
+  const auto shown = FileName::From(desk_.TabOf(document).Caption.Get());
+  if (desk_.settings.CreateBackup == 1 && shown) {
+    trap(scratch->SaveFile(desk_.values.BackupDir.Get() / *shown, FileFormat::Text));
   }
+  hooks_.remember(document);
   desk_.Say(document.Path.Get() + " saved successfully.");
   document.Dirty = saved::kSaved;
   desk_.UpdateSavedIcon();

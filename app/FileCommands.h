@@ -40,7 +40,7 @@ class FileCommands {
   /// the file opened so before.
   void OpenWithoutDialog(const std::string& path);
   void OpenWithDialogs() { toOpen_.path.clear(); }
-  [[nodiscard]] const std::string& NameToOpen() const { return toOpen_.name; }
+  [[nodiscard]] const std::string& NameToOpen() const { return toOpen_.name.Text(); }
 
   /// Empties the undo history: what the pane holds now is all there is.
   void ResetHistory(Document& document);
@@ -52,14 +52,16 @@ class FileCommands {
   enum class Question { New, Load, OpenPair };
   struct File {
     std::string path;
-    std::string name;
+    FileName name;
   };
 
   bool MayReplace(Document& document, Question question);
   bool AskToSave(Document& document, const SaveQuestion& question);
-  Outcome<File> ChooseFile(const FileRequest& request);
+  /// What the user picks, in lower case; nothing when he cancels.
+  std::optional<File> ChooseFile(const FileRequest& request);
   /// What is to be opened without a dialog, in lower case; its path is empty when there is to be one.
   [[nodiscard]] File GivenFile() const;
+  void ShowName(const Document& document);
   bool CanRead(const std::string& path, const Trap& trap);
   void TakeFile(Document& document, const File& file);
   void FillPane(Document& document, const Trap& trap);
@@ -67,7 +69,7 @@ class FileCommands {
   void OpenMacroThenJoystick(const File& file, const Trap& trap);
   void OpenJoystickThenMacro(const File& file, const Trap& trap);
   void OpenMacro(const File& file, const Trap& trap);
-  [[nodiscard]] File MacroFileNamedIn(Document& joystick) const;
+  [[nodiscard]] std::optional<File> MacroFileNamedIn(Document& joystick) const;
   void TellUnrecognised();
   void FinishPair();
 

@@ -86,8 +86,9 @@ void Mum::MDIForm_Load() {
   Files& files = application_.platform.files;
   SetPaths();
   GetMumPosition();
-  if (!files.FolderExists(values.BackupDir.Get())) trap(files.MakeFolder(values.BackupDir.Get()));
-  if (!files.FolderExists(values.RtfDir.Get())) trap(files.MakeFolder(values.RtfDir.Get()));
+  for (const Folder& made : {values.BackupDir.Get(), values.RtfDir.Get()}) {
+    if (!files.FolderExists(made.Path())) trap(files.MakeFolder(made.Path()));
+  }
   settings.GetOptions();
   const std::string& folder = application_.platform.folder;
   if (settings.ImageFilePath.Get().empty()) settings.ImageFilePath = folder + "\\tarvik.jpg";
@@ -108,8 +109,8 @@ void Mum::MDIForm_Load() {
 void Mum::SetPaths() {
   const std::string& folder = application_.platform.folder;
   application_.values.IniFile = folder + "\\Tarvik.ini";
-  application_.values.BackupDir = folder + "\\Backup\\";
-  application_.values.RtfDir = folder + "\\Rtf\\";
+  application_.values.BackupDir = Folder(folder + "\\Backup\\");
+  application_.values.RtfDir = Folder(folder + "\\Rtf\\");
 }
 
 /// The swatch stands where its button is.

@@ -3,6 +3,7 @@
 
 #include "controls/Component.h"
 #include "panes/RichText.h"
+#include "platform/FileName.h"
 
 namespace tarvik {
 
@@ -12,8 +13,8 @@ class Values : public Component {
 
   // Paths set at the start.
   Property<std::string> IniFile{*this, "IniFile"};
-  Property<std::string> BackupDir{*this, "BackupDir"};
-  Property<std::string> RtfDir{*this, "RtfDir"};
+  Property<Folder> BackupDir{*this, "BackupDir"};
+  Property<Folder> RtfDir{*this, "RtfDir"};
   Property<std::string> CommandLine{*this, "CommandLine"};
 
   /// 1 while program code rewrites a pane, so that its change handler does not count it as an edit.

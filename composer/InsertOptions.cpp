@@ -232,7 +232,7 @@ void InsertOptions::SSTab1_Click() {
 
 std::string InsertOptions::MacroNameForMDEF() const {
   constexpr std::size_t kExtension = 4;
-  const std::string& name = editor().Macro.Name;
+  const std::string& name = editor().Macro.Name.Get().Text();
   return name.substr(0, name.size() - std::min(name.size(), kExtension));
 }
 

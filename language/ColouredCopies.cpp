@@ -3,7 +3,7 @@
 namespace tarvik {
 
 std::string ColouredCopies::PathOf(const Document& document) const {
-  return desk_.values.RtfDir.Get() + document.Name.Get();
+  return desk_.values.RtfDir.Get() / document.Name;
 }
 
 void ColouredCopies::Save(const Document& document) {

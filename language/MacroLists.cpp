@@ -55,13 +55,13 @@ void MacroLists::GetEachLineFromMacroFile() {
   const Trap trap{desk_.errors, "ED_GetEachLineFromMacroFile"};
   const std::string path = desk_.macro.Path;
   if (!desk_.platform.files.FileExists(path)) return;
-  desk_.Say("Opening " + desk_.macro.Name.Get() + " file for analysis ");
+  desk_.Say("Opening " + desk_.macro.Name.Get().Text() + " file for analysis ");
   records_.clear();
   if (const auto content = trap(desk_.platform.files.Read(path))) records_ = ReadMacroRecords(*content);
 }
 
 void MacroLists::ExtractMacrosAndTitles() {
-  desk_.Say("Analysing " + desk_.macro.Name.Get() + " for macros and sub-headings. Please wait ...");
+  desk_.Say("Analysing " + desk_.macro.Name.Get().Text() + " for macros and sub-headings. Please wait ...");
   Fill(AnalyseMacros(records_));
   desk_.Say("Done");
   ShowAll();
@@ -137,7 +137,7 @@ void MacroLists::IdentifyMacrosUsed() {
         {kNothingToAnalyseTitle, kNothingToAnalyse, BoxIcon::Exclamation, BoxButtons::Ok});
     return;
   }
-  desk_.Say("Analysing the macros you've already assigned in the " + desk_.joystick.Name.Get() +
+  desk_.Say("Analysing the macros you've already assigned in the " + desk_.joystick.Name.Get().Text() +
             ". Please wait ...");
   desk_.mousePointer = pointer::kHourglass;
   TickNamesUsed(text);

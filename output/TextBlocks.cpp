@@ -119,7 +119,7 @@ Title::Title(Application& application)
 
 void Title::Form_Activate() {
   const std::string hardware = GetHardwareNames(application_.settings);
-  Text1.Text = application_.editor()->ActiveDocument().Name.Get();
+  Text1.Text = application_.editor()->ActiveDocument().Name.Get().Text();
   if (Text2.Empty()) Text2.Text = std::string("eg. F22 ADF");
   Text3.Text = GetPersonsName();
   Text4.Text = application_.platform.calendar.LongDate();

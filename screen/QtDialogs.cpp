@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSplitter>
 #include <QUrl>
 
@@ -60,6 +61,17 @@ class OrdinaryPointer {
   OrdinaryPointer& operator=(const OrdinaryPointer&) = delete;
 };
 
+/// A name without an ending gets that of the type that is chosen, or `otherwise` where the type has none.
+void KeepSuffix(QFileDialog& dialog, const QString& otherwise) {
+  const auto take = [&dialog, otherwise](const QString& filter) {
+    static const QRegularExpression kOneEnding(QStringLiteral("\\(\\*\\.([^ *?()]+)\\)$"));
+    const QRegularExpressionMatch type = kOneEnding.match(filter);
+    dialog.setDefaultSuffix(type.hasMatch() ? type.captured(1) : otherwise);
+  };
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, take);
+  take(dialog.selectedNameFilter());
+}
+
 }  // namespace
 
 Answer QtDialogs::Show(const MessageBox& box) {
@@ -99,7 +111,7 @@ Outcome<std::string> QtDialogs::AskForFile(const FileRequest& request) {
   dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setNameFilters(NameFilters(request.filter));
-  if (save) dialog.setDefaultSuffix(ToScreen(request.defaultExtension));
+  if (save) KeepSuffix(dialog, ToScreen(request.defaultExtension));
   if (!request.fileName.empty()) dialog.selectFile(ToScreen(request.fileName));
   return OnDrives(Run(dialog));
 }

@@ -45,7 +45,7 @@ class HourOfWork : public testing::TestWithParam<unsigned> {
     program.files().PutFolder("c:\\my");
     slots_.push_back(model_);
     editor.Joystick.Path = std::string("c:\\my\\work.b50");
-    editor.Joystick.Name = std::string("work.b50");
+    editor.Joystick.Name = *FileName::From("work.b50");
     editor.TabStrip1.Tabs(1).Caption = std::string("work.b50");
   }
 

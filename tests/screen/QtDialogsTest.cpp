@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFontDialog>
+#include <QLineEdit>
 #include <QTimer>
 
 #include "platform/TemporaryFolder.h"
@@ -52,6 +54,33 @@ TEST_F(QtDialogsTest, AFolderOfTheHostIsChosenAsItIs) {
   EXPECT_EQ(begins, folder);
   ASSERT_TRUE(chosen);
   EXPECT_EQ(*chosen, folder);
+}
+
+TEST_F(QtDialogsTest, ANameWithoutAnEndingGetsThatOfTheTypeThatIsChosen) {
+  const TemporaryFolder temporary;
+  drives = Drives{{{'c', temporary.path()}}};
+  const FileRequest request{
+      FileDialogKind::Save,
+      {},
+      "Joystick file (*.b50)|*.b50|F22 joystick file (*.f22) |*.f22|All files (*.*)|*.*",
+      "c:\\",
+      {},
+      "b50"};
+  const std::pair<int, const char*> kTypes[] = {
+      {0, "c:\\mine.b50"}, {1, "c:\\mine.f22"}, {2, "c:\\mine.b50"}};
+  for (const auto& [type, path] : kTypes) {
+    Once<QFileDialog>([index = type](QFileDialog& dialog) {
+      auto* const types = dialog.findChild<QComboBox*>("fileTypeCombo");
+      types->setCurrentIndex(index);
+      Q_EMIT types->activated(index);
+      Q_EMIT types->textActivated(types->currentText());
+      dialog.findChild<QLineEdit*>("fileNameEdit")->setText("mine");
+      static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+    });
+    const auto chosen = dialogs.AskForFile(request);
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(*chosen, path);
+  }
 }
 
 }  // namespace
