@@ -39,28 +39,29 @@ bool Application::Start() {
   }
   platform.clipboard.changed = [this] { ClipboardChanged(); };
   mum_ = std::make_unique<Mum>(*this);
+  editor_ = std::make_unique<Editor>(*this);
   mum_->MDIForm_Load();
   return true;
 }
 
+bool Application::EditorIsLoaded() const { return editor_ && editor_->Visible; }
+
 void Application::ShowEditor() {
-  if (editor_) {
-    editor_->Visible = true;
-    return;
-  }
-  editor_ = std::make_unique<Editor>(*this);
+  if (EditorIsLoaded()) return;
+  editor_->FillFrame();
   Loaded(*editor_);
   editor_->Form_Load();
 }
 
 bool Application::CloseEditor() {
-  if (!editor_) return true;
+  if (!EditorIsLoaded()) return true;
   if (!editor_->Form_QueryUnload()) return false;
   editor_->Form_Unload();
+  editor_->Visible = false;
   UnloadTools(kToolsOfEditor);
   Unloading(*editor_);
   if (active_ == editor_.get()) active_ = nullptr;
-  editor_.reset();
+  unloaded_.push_back(std::exchange(editor_, std::make_unique<Editor>(*this)));
   return true;
 }
 
@@ -75,7 +76,7 @@ bool Application::CloseMum() {
   for (Form* const form : Forms()) {
     if (!form->Form_QueryUnload()) return false;
   }
-  if (editor_) {
+  if (EditorIsLoaded()) {
     editor_->Form_Unload();
     UnloadTools(kToolsOfEditor);
   }
@@ -88,7 +89,7 @@ bool Application::CloseMum() {
 }
 
 void Application::LoadTool(std::unique_ptr<Form> form) {
-  unloaded_.clear();
+  if (waits_ == 0) unloaded_.clear();
   Form& loaded = *tools_.emplace_back(std::move(form));
   shown_.push_back(loaded.Visible.Changed.Connect([this, &loaded] {
     if (!loaded.Visible && active_ == &loaded) active_ = nullptr;
@@ -99,7 +100,7 @@ void Application::LoadTool(std::unique_ptr<Form> form) {
 
 void Application::Activated(Form& form) {
   const bool toMain = &form == editor_.get() || &form == mum_.get();
-  Form& now = toMain && editor_ ? *editor_ : form;
+  Form& now = toMain && EditorIsLoaded() ? *editor_ : form;
   Form* const left = std::exchange(active_, &now);
   if (left == active_) return;
   if (left && toMain) left->Deactivate();
@@ -111,7 +112,13 @@ void Application::ShowModal(Form& form) {
   const Connection closed = form.Visible.Changed.Connect([&open, &form] { open = form.Visible; });
   form.Modal = true;
   form.Visible = true;
-  platform.dialogs.WaitWhile([&open, this] { return open && !ended_; });
+  WaitWhile([&open, this] { return open && !ended_; });
+}
+
+void Application::WaitWhile(const std::function<bool()>& open) {
+  ++waits_;
+  platform.dialogs.WaitWhile(open);
+  --waits_;
 }
 
 void Application::Unload(Form& form) {
@@ -136,7 +143,7 @@ void Application::UnloadTools(std::span<const char* const> names) {
 std::vector<Form*> Application::Forms() const {
   std::vector<Form*> forms;
   if (mum_) forms.push_back(mum_.get());
-  if (editor_) forms.push_back(editor_.get());
+  if (EditorIsLoaded()) forms.push_back(editor_.get());
   for (const auto& tool : tools_) forms.push_back(tool.get());
   return forms;
 }
@@ -150,7 +157,7 @@ Form* Application::FindForm(std::string_view name) const {
 
 PropertyBase* Application::FindValue(std::string_view name) const {
   std::vector<const Component*> places = {&settings, &values, &errors, &lists};
-  if (editor_) places.insert(places.end(), {&editor_->Joystick, &editor_->Macro});
+  if (EditorIsLoaded()) places.insert(places.end(), {&editor_->Joystick, &editor_->Macro});
   if (mum_) places.push_back(mum_.get());
   for (const Component* place : places) {
     if (PropertyBase* property = place->FindProperty(name)) return property;

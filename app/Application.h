@@ -2,6 +2,7 @@
 // else is global, so that two programs can stand side by side.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <span>
 
@@ -36,8 +37,9 @@ class Application {
   /// From process start to the work area. False: another instance runs, and this process is to end.
   bool Start();
   [[nodiscard]] Mum& mum() const { return *mum_; }
-  /// The editor, or null after it was closed.
-  [[nodiscard]] Editor* editor() const { return editor_.get(); }
+  /// The editor, visible while it is loaded. After it was closed alone it is a fresh one that nobody sees,
+  /// until it is shown again: what a tool does to that one goes nowhere.
+  [[nodiscard]] Editor& editor() const { return *editor_; }
   void ShowEditor();
   /// What a tool's close box does. False: the user keeps the tool.
   bool CloseTool(Form& form);
@@ -71,6 +73,8 @@ class Application {
 
   /// Shows a tool's form and returns when it is hidden or unloaded; other forms take no input till then.
   void ShowModal(Form& form);
+  /// Lets the program go on inside the handler that calls it, as long as `open` says so.
+  void WaitWhile(const std::function<bool()>& open);
   /// Ends a tool's form. A handler of that form touches it no more afterwards.
   void Unload(Form& form);
 
@@ -94,6 +98,7 @@ class Application {
 
  private:
   void LoadTool(std::unique_ptr<Form> form);
+  [[nodiscard]] bool EditorIsLoaded() const;
 
   std::unique_ptr<Mum> mum_;
   std::unique_ptr<Editor> editor_;
@@ -101,6 +106,7 @@ class Application {
   std::vector<std::unique_ptr<Form>> unloaded_;  // their handlers may still run
   std::vector<Connection> shown_;
   Form* active_ = nullptr;
+  int waits_ = 0;  // handlers that stand still, each inside the one before
   bool ended_ = false;
 };
 

@@ -21,8 +21,7 @@ void ColourSelector::Form_Activate() {
 void ColourSelector::Command1_Click(int index) {
   const Colour colour = Label1(index).BackColor;
   application_.mum().Picture1.BackColor = colour;
-  if (Editor* const editor = application_.editor(); editor && editor->Visible)
-    editor->ColourSelection(colour);
+  if (Editor& editor = application_.editor(); editor.Visible) editor.ColourSelection(colour);
   Visible = false;
 }
 

@@ -84,7 +84,6 @@ Editor::Editor(Application& application)
       autoSave_(desk_, files_, Timer1),
       listMenus_(application.lists, menus) {
   SetUpControls();
-  SetUpToolbar();
 }
 
 void Editor::SetUpControls() {
@@ -118,8 +117,6 @@ void Editor::SetUpControls() {
   mnuViewWordWrap.Checked = true;
   Form::Resize = [this] { Form_Resize(); };
   Form::Activate = [this] { Form_Activate(); };
-  ScaleWidth = mum_.Width / kTwipsPerPixel;
-  ScaleHeight = mum_.Height / kTwipsPerPixel;
 }
 
 void Editor::AttachList(ListBox& list) {
@@ -145,10 +142,16 @@ void Editor::SetUpToolbar() {
 
 // Life of the form.
 
+void Editor::FillFrame() {
+  ScaleWidth = mum_.Width / kTwipsPerPixel;
+  ScaleHeight = mum_.Height / kTwipsPerPixel;
+}
+
 void Editor::Form_Load() {
   Values& values = application_.values;
   const Settings& settings = application_.settings;
   values.LoadingFile = 1;
+  SetUpToolbar();
   mum_.MousePointer = pointer::kHourglass;
   values.PreferencesTab = 0;
   application_.settings.GetColours();
@@ -213,6 +216,8 @@ void Editor::Form_Activate() {
 
 void Editor::Form_Unload() {
   SaveOpenSingleOnly();
+  for (Timer* const timer : {&Timer1, &TimerBlinkLine}) timer->Enabled = false;
+  clipboardChanged_ = {};
   mum_.Toolbar1.Visible = false;
   for (const tables::ToolbarRow& row : tables::kToolbar) mum_.Toolbar1.Buttons(row.button).Click = nullptr;
 }
@@ -267,8 +272,13 @@ void Editor::HardwareHasChanged() {
   application_.values.HardwareChanged = 0;
 }
 
+/// No timer runs while nobody sees the editor.
+void Editor::AutoSaveHasChanged() { Timer1.Enabled = Visible && application_.settings.AutoSaveEnabled == 1; }
+
+/// An editor that nobody sees takes the new font when it is loaded.
 void Editor::DamnFontWasChanged() {
   application_.values.FontChanged = 0;
+  if (!Visible) return;
   Document& before = desk_.Active();
   for (Document* document : {&Joystick, &Macro}) {
     desk_.Select(*document);

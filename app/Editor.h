@@ -51,6 +51,8 @@ class Editor : public Form {
   Document Macro;
 
   // Life of the form.
+  /// Takes the frame's size, until whatever shows the form tells it its own.
+  void FillFrame();
   void Form_Load();
   void Form_Activate();
   bool Form_QueryUnload() override { return files_.MayExit(); }
@@ -62,6 +64,7 @@ class Editor : public Form {
   void OpenFavouriteFile(const std::string& path);
   void F22MenusUpdate();
   void HardwareHasChanged();
+  void AutoSaveHasChanged();
   void DamnFontWasChanged();
   void GetOpenSingleOnly();
   void SaveOpenSingleOnly();

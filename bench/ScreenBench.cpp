@@ -45,7 +45,7 @@ Seconds TimeToShow(Editor& editor) {
 void CompareTheComposer(Application& application, QPlainTextEdit& edit) {
   constexpr int kLastButton = 31;
   constexpr const char* kLastStatement = "BTN T14 ";
-  Editor& editor = *application.editor();
+  Editor& editor = application.editor();
   editor.JoystickText.SelStart = editor.JoystickText.Characters().size();
   editor.JoystickText.SelText = std::string(kLastStatement);
   const Seconds first = TimeToShow(editor);
@@ -84,7 +84,7 @@ int main(int count, char** arguments) {
   Application application(platform);
   screen::Screen screen(application, screen::Clock::Scripted);
   application.Start();
-  auto* const own = dynamic_cast<QPlainTextEdit*>(screen.Find(application.editor()->JoystickText));
+  auto* const own = dynamic_cast<QPlainTextEdit*>(screen.Find(application.editor().JoystickText));
   PutCaretInTheMiddle(*own);
 
   QPlainTextEdit bare;

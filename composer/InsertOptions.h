@@ -206,7 +206,7 @@ class InsertOptions : public Form {
   /// The last three characters of the joystick file's name.
   [[nodiscard]] std::string EndingOfFile() const;
 
-  [[nodiscard]] Editor& editor() const { return *application_.editor(); }
+  [[nodiscard]] Editor& editor() const { return application_.editor(); }
   [[nodiscard]] StatementStyle Style() const;
   [[nodiscard]] bool PortArmed() const;
   void FindOrWrite(const Statement& statement);

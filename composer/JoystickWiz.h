@@ -30,7 +30,7 @@ class JoystickWiz : public Wizard {
 
  private:
   InsertOptions& ComposerAt(int page);
-  [[nodiscard]] Editor& editor() const { return *application_.editor(); }
+  [[nodiscard]] Editor& editor() const { return application_.editor(); }
 
   Application& application_;
 };

@@ -49,7 +49,7 @@ class MacroMaker {
  private:
   void AddHeadingsToList();
   void WriteBlack(const std::string& text);
-  [[nodiscard]] Editor& editor() const { return *application_.editor(); }
+  [[nodiscard]] Editor& editor() const { return application_.editor(); }
 
   Form& form_;
   Application& application_;

@@ -21,7 +21,7 @@ bool IsAxis(const std::string& text) {
 }  // namespace
 
 bool StatementWriter::FindButton(const std::string& text) {
-  Editor& editor = *application_.editor();
+  Editor& editor = application_.editor();
   Document& joystick = editor.Joystick;
   Pane& pane = joystick.text;
   if (pane.Characters().empty()) return false;
@@ -38,7 +38,7 @@ bool StatementWriter::FindButton(const std::string& text) {
 
 bool StatementWriter::FindOrWrite(const Statement& statement, bool alwaysInsert) {
   if (!alwaysInsert && !statement.search.empty() && FindButton(statement.search)) {
-    Document& joystick = application_.editor()->Joystick;
+    Document& joystick = application_.editor().Joystick;
     joystick.Caret = joystick.Caret + statement.pastHit;
     joystick.text.SelStart = joystick.Caret;
     return false;
@@ -48,16 +48,16 @@ bool StatementWriter::FindOrWrite(const Statement& statement, bool alwaysInsert)
 }
 
 void StatementWriter::Write(const Statement& statement) {
-  ColouredInsertion& insertion = application_.editor()->insertion();
+  ColouredInsertion& insertion = application_.editor().insertion();
   insertion.BeginColInsert();
-  if (statement.ownLine) application_.editor()->CheckAtLineBeginning();
+  if (statement.ownLine) application_.editor().CheckAtLineBeginning();
   for (const Piece& piece : statement.pieces) WritePiece(piece);
   if (statement.endsLine) insertion.InsertCarriageReturn();
   insertion.EndColInsert();
 }
 
 void StatementWriter::WritePiece(const Piece& piece) {
-  ColouredInsertion& insertion = application_.editor()->insertion();
+  ColouredInsertion& insertion = application_.editor().insertion();
   Values& values = application_.values;
   values.InsertionText = piece.text;
   values.InsertionColour = ColoursOf(application_.settings)[static_cast<std::size_t>(piece.colour)];

@@ -71,8 +71,8 @@ class User {
     constexpr Answer kAnswers[] = {Answer::Yes, Answer::No, Answer::Cancel};
     outside_.dialogs.choices = {bytes_.OneOf(kChoices), "cancel"};
     outside_.dialogs.answers = {bytes_.OneOf(kAnswers), bytes_.OneOf(kAnswers)};
-    if (!application_.editor()) application_.ShowEditor();
-    Editor& editor = *application_.editor();
+    application_.ShowEditor();
+    Editor& editor = application_.editor();
     Pane& pane = bytes_.Below(2) ? editor.MacroText : editor.JoystickText;
     switch (bytes_.Below(9)) {
       case 0:
@@ -106,9 +106,8 @@ class User {
     }
     outside_.dialogs.boxes.clear();
     outside_.dialogs.requests.clear();
-    if (!application_.editor()) return;
-    Check(application_.editor()->Joystick);
-    Check(application_.editor()->Macro);
+    Check(application_.editor().Joystick);
+    Check(application_.editor().Macro);
   }
 
  private:
@@ -136,7 +135,7 @@ class User {
   }
 
   void UseList(Pane& pane) {
-    Editor& editor = *application_.editor();
+    Editor& editor = application_.editor();
     const int category = static_cast<int>(bytes_.Below(4));
     if (category < editor.Combo1.ListCount()) driver_->Pick(editor.Combo1, category);
     ListBox& list = editor.List1(static_cast<int>(bytes_.Below(editor.List1.Count())));

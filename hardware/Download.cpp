@@ -75,7 +75,7 @@ void ChangeToRootOf(Application& application, const std::string& path, const Tra
 }
 
 std::string LoaderCommandLine(const Application& application, const std::string& file) {
-  const bool quiet = application.editor()->menus("mnuAppsQuiet").Checked;
+  const bool quiet = application.editor().menus("mnuAppsQuiet").Checked;
   return application.settings.B50LoadPath.Get() + " " + file + (quiet ? " Q" : "");
 }
 
@@ -87,7 +87,7 @@ std::string PrepareLoader(Application& application, const std::string& file, con
 
 void SendToJoystick(Application& application) {
   const Trap trap{application.errors, "ED_mnuSendToJoystick_Click"};
-  Editor& editor = *application.editor();
+  Editor& editor = application.editor();
   const Document& joystick = editor.Joystick;
   if (joystick.text.Characters().empty()) {
     application.platform.dialogs.Show(

@@ -195,7 +195,7 @@ void AddGame(Application& application) {
 
 void StartGame(Application& application, int index) {
   PreviousFiles& lists = application.lists;
-  const FilesForTheEnd files(*application.editor());
+  const FilesForTheEnd files(application.editor());
   lists.Games.Take(index);
   lists.UpdateGamesMenu();
   const Outcome<> run = Run(application);

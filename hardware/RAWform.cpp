@@ -107,7 +107,7 @@ RAWform::RAWform(Application& application)
       TotalCombinedText(*this, "TotalCombinedText", application.platform.files),
       menus(*this, kMenus),
       application_(application),
-      editor_(*application.editor()) {
+      editor_(application.editor()) {
   Caption = "Pimlet - the Thrustmaster key syntax and RAW code generator";
   Width = kWidth;
   Height = kHeight;

@@ -63,7 +63,7 @@ bool ShowWait(Application& application, RunningProgram& program, const std::stri
   window.Modal = true;
   window.Visible = true;
   const auto timedOut = [&] { return timeout != kNoLimit && window.Waited >= timeout; };
-  application.platform.dialogs.WaitWhile([&] {
+  application.WaitWhile([&] {
     return program.State() == ProgramState::Running && window.Visible && !timedOut() && !application.Ended();
   });
   if (!window.Visible) return false;

@@ -48,7 +48,7 @@ FindAndReplace::Page FindAndReplace::ReplacePage() {
 }
 
 FindAndReplace::FindAndReplace(Application& application)
-    : Form("FindAndReplace"), application_(application), editor_(*application.editor()) {
+    : Form("FindAndReplace"), application_(application), editor_(application.editor()) {
   Caption = "Find and Replace";
   Command1.Caption = kFirst;
   Command3.Caption = kFirst;

@@ -90,10 +90,9 @@ bool DrivesForm::MayChange(char letter) {
                   ". To change this drive, close me and edit the section [Drives] of Tarvik.ini.");
   }
   std::vector<std::string> open;
-  if (const Editor* const editor = application_.editor()) {
-    for (const Document* const document : {&editor->Joystick, &editor->Macro}) {
-      if (!document->IsUntitled()) open.push_back(document->Path);
-    }
+  const Editor& files = application_.editor();
+  for (const Document* const document : {&files.Joystick, &files.Macro}) {
+    if (!document->IsUntitled()) open.push_back(document->Path);
   }
   if (const auto* const editor = application_.LoadedTool<TemplateForm>()) open.push_back(editor->FileName);
   for (const std::string& path : open) {

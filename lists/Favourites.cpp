@@ -38,7 +38,7 @@ std::string SuggestedName(const std::string& path) {
 }
 
 void AddToFavourites(Application& application) {
-  const Editor& editor = *application.editor();
+  const Editor& editor = application.editor();
   Dialogs& dialogs = application.platform.dialogs;
   PreviousFiles& lists = application.lists;
   if (editor.Joystick.Dirty == saved::kNoText && editor.Macro.Dirty == saved::kNoText) {
@@ -61,7 +61,7 @@ void AddToFavourites(Application& application) {
 }
 
 void OpenFavourite(Application& application, int index) {
-  Editor& editor = *application.editor();
+  Editor& editor = application.editor();
   PreviousFiles& lists = application.lists;
   lists.Favourites.Take(index);
   const Files& files = application.platform.files;

@@ -184,7 +184,7 @@ void Preferences::AttachMiscellaneous() {
   const auto atOnce = [this](CheckBox& box, Property<int>& setting) {
     box.Click = [this, &box, &setting] {
       setting = box.Value;
-      application_.editor()->UpdateToolBarOpenSaveTooltips();
+      application_.editor().UpdateToolBarOpenSaveTooltips();
     };
   };
   atOnce(OpenBothChk, settings_.OpenBothOnToolbar);
@@ -194,7 +194,7 @@ void Preferences::AttachMiscellaneous() {
   TxtUndoLevels.Change = [this] { TxtUndoLevels_Change(); };
   TxtUndoLevels.LostFocus = [this] { TxtUndoLevels_LostFocus(); };
   DLYText.Change = [this] { DLYtext_Change(); };
-  Command11.Click = [this] { application_.editor()->DeleteUndosFromMemory(); };
+  Command11.Click = [this] { application_.editor().DeleteUndosFromMemory(); };
   for (int i = 0; i < OptionImagesToShow.Count(); ++i) {
     OptionImagesToShow(i).Click = [this, i] { settings_.ComposerImages = i; };
   }
@@ -257,14 +257,12 @@ void Preferences::Form_Unload() {
   application_.lists.SaveApps();
   application_.lists.SaveFavourites();
   application_.lists.SaveGames();
-  Editor* const editor = application_.editor();
-  if (!editor) return;
-  editor->Timer1.Enabled = settings_.AutoSaveEnabled == 1;
-  if (application_.values.HardwareChanged == 1) editor->HardwareHasChanged();
+  application_.editor().AutoSaveHasChanged();
+  if (application_.values.HardwareChanged == 1) application_.editor().HardwareHasChanged();
 }
 
 void Preferences::SaveColourScheme() {
-  Trap{application_.errors, "PREF SaveColourScheme"}(settings_.SaveColours());
+  Trap{application_.errors, "PREFS SaveColourScheme"}(settings_.SaveColours());
 }
 
 void Preferences::SSTab1_Click() {
@@ -473,7 +471,7 @@ void Preferences::Remove(ListPage& page) {
        "Are you sure you want to remove " + name + " from the " + menu + " menu?", BoxIcon::Question,
        BoxButtons::YesNo});
   if (answer != Answer::Yes) return;
-  const Trap trap{application_.errors, "PREF Remove"};
+  const Trap trap{application_.errors, "PREFS Remove"};
   trap(page.list.Remove(row + 1));
   page.save();
   if (&page == &games_) return UpdateGamesControls();
@@ -490,7 +488,7 @@ void Preferences::FillColours() {
 
 void Preferences::ShowExample() {
   ExampleJoystickText.Text = std::string(kExample);
-  application_.editor()->ApplyFont(ExampleJoystickText);
+  application_.editor().ApplyFont(ExampleJoystickText);
   for (int i = 0; i < List1.ListCount(); ++i) {
     List1.ListIndex = i;
     ApplyColour(settings_.*kColourRows[i].colour);
@@ -536,7 +534,7 @@ void Preferences::DoTheFonts() {
   settings_.TextFontName = font->name;
   settings_.TextFontSize = font->size;
   settings_.TextFontBold = font->bold ? 1 : 0;
-  application_.editor()->ApplyFont(ExampleJoystickText);
+  application_.editor().ApplyFont(ExampleJoystickText);
   application_.values.FontChanged = 1;
   application_.values.TemplateFontChanged = 1;
 }
@@ -581,7 +579,7 @@ void Preferences::TxtUndoLevels_LostFocus() {
 void ShowPreferences(Application& application, int page) {
   application.values.PreferencesTab = page;
   application.ShowModal(application.Tool<Preferences>());
-  if (application.values.FontChanged == 1 && application.editor()) application.editor()->DamnFontWasChanged();
+  if (application.values.FontChanged == 1) application.editor().DamnFontWasChanged();
 }
 
 }  // namespace tarvik

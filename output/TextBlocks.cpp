@@ -79,7 +79,7 @@ Colour RemarkColour(const Settings& settings) {
 }
 
 void WriteLines(Application& application, const std::vector<std::string>& lines) {
-  ColouredInsertion& insertion = application.editor()->insertion();
+  ColouredInsertion& insertion = application.editor().insertion();
   application.values.InsertionColour = RemarkColour(application.settings);
   for (const std::string& line : lines) {
     insertion.InsertColouredStringNoSpace(line, application.values.InsertionColour);
@@ -119,7 +119,7 @@ Title::Title(Application& application)
 
 void Title::Form_Activate() {
   const std::string hardware = GetHardwareNames(application_.settings);
-  Text1.Text = application_.editor()->ActiveDocument().Name.Get().Text();
+  Text1.Text = application_.editor().ActiveDocument().Name.Get().Text();
   if (Text2.Empty()) Text2.Text = std::string("eg. F22 ADF");
   Text3.Text = GetPersonsName();
   Text4.Text = application_.platform.calendar.LongDate();
@@ -161,7 +161,7 @@ std::vector<std::string> Title::Lines() const {
 }
 
 void Title::Command1_Click() {
-  ColouredInsertion& insertion = application_.editor()->insertion();
+  ColouredInsertion& insertion = application_.editor().insertion();
   insertion.BeginColInsert();
   WriteLines(application_, Lines());
   insertion.EndColInsert();
@@ -197,9 +197,9 @@ void InsertHeading(Application& application) {
   application.ShowModal(form);
   const std::string text = application.values.REMText;
   if (text.empty()) return;
-  ColouredInsertion& insertion = application.editor()->insertion();
+  ColouredInsertion& insertion = application.editor().insertion();
   insertion.BeginColInsert();
-  application.editor()->CheckAtLineBeginning();
+  application.editor().CheckAtLineBeginning();
   WriteLines(application, HeadingBlock(text));
   insertion.EndColInsert();
 }
@@ -246,7 +246,7 @@ void InsertRemStatement(Application& application) {
   if (remark.empty()) return;
   values.InsertionText = "Rem " + remark;
   values.InsertionColour = application.settings.RemStatements;
-  ColouredInsertion& insertion = application.editor()->insertion();
+  ColouredInsertion& insertion = application.editor().insertion();
   insertion.BeginColInsert();
   if (application.settings.InsertWithColour == 1) {
     insertion.AddSpaceToColouredText();

@@ -173,6 +173,13 @@ void EditorView::paintEvent(QPaintEvent*) {
                    ToPixels(strip.Width, 1) - 5, ToPixels(strip.Height, 1) - kTabHeight);
 }
 
+/// One of its menu entries may still run.
+void EditorView::Retire() {
+  hide();
+  bindings_.Release();
+  deleteLater();
+}
+
 void EditorView::CloseByUser() { static_cast<MumWindow*>(window())->CloseChildByUser(); }
 
 }  // namespace tarvik::screen

@@ -17,6 +17,7 @@ class EditorView : public QWidget, public FormView {
 
   [[nodiscard]] const std::vector<std::unique_ptr<QMenu>>& menus() const { return menus_; }
   void CloseByUser() override;
+  void Retire() override;
 
  protected:
   bool focusNextPrevChild(bool next) override;

@@ -28,7 +28,7 @@ TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerTex
   application.settings.Write("FileLocations", "FirstTimeUsed", "0");
   application.settings.Write("FileLocations", "ShowTips", "0");
   application.Start();
-  Editor& editor = *application.editor();
+  Editor& editor = application.editor();
 
   editor.OpenPreviouslySavedFiles("c:\\my\\former.b50");
   ASSERT_EQ(editor.JoystickText.Text.Get(), "the former text\r\n");

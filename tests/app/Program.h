@@ -27,7 +27,7 @@ class Program {
  public:
   Application application;
   [[nodiscard]] MemoryFiles& files() { return files_; }
-  [[nodiscard]] Editor& editor() const { return *application.editor(); }
+  [[nodiscard]] Editor& editor() const { return application.editor(); }
 };
 
 }  // namespace tarvik

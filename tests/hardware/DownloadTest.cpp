@@ -55,7 +55,7 @@ TEST(Download, TheLoaderInDosBoxReceivesTheSavedFileByteForByte) {
   };
   Application application(platform);
   ASSERT_TRUE(application.Start());
-  Editor& editor = *application.editor();
+  Editor& editor = application.editor();
   ASSERT_EQ(editor.Joystick.Name.Get().Text(), "strike.b50");
   editor.JoystickText.SelText = std::string("Rem just written\r\n");
   ASSERT_EQ(editor.Joystick.Dirty, saved::kModified);

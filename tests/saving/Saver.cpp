@@ -35,7 +35,7 @@ std::string ContentOf(const std::string& path) {
 
 class User {
  public:
-  explicit User(Application& application) : application_(application), editor_(*application.editor()) {}
+  explicit User(Application& application) : application_(application), editor_(application.editor()) {}
 
   /// The file dialog is to give the file's path. False when the text did not come.
   bool Opens(const std::string& path) {

@@ -32,7 +32,7 @@ class GrowingMenus : public testing::Test {
     return texts;
   }
 
-  [[nodiscard]] Menus& Menu() const { return application.editor()->menus; }
+  [[nodiscard]] Menus& Menu() const { return application.editor().menus; }
   void Fill(const std::vector<std::string>& captions) const { Menu().Fill("mnuFavArray", captions); }
 
  private:

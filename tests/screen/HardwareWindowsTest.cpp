@@ -54,7 +54,7 @@ class HardwareWindows : public testing::Test {
 class KeyTestWindow : public HardwareWindows {
  protected:
   KeyTestWindow() {
-    application.editor()->mnuSendToKeyTest_Click();
+    application.editor().mnuSendToKeyTest_Click();
     QApplication::processEvents();
   }
 
@@ -129,7 +129,7 @@ class Paints : public QObject {
 class AnalyserWindow : public HardwareWindows {
  protected:
   AnalyserWindow() {
-    application.editor()->mnuAppsJoyAnalyser_Click();
+    application.editor().mnuAppsJoyAnalyser_Click();
     QApplication::processEvents();
   }
 

@@ -22,7 +22,7 @@ class Keyboard : public testing::Test {
     application_.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application_.settings.Write("FileLocations", "ShowTips", "0");
     application_.Start();
-    application_.editor()->mnuInsertRAW_Click();
+    application_.editor().mnuInsertRAW_Click();
     QApplication::processEvents();
   }
 

@@ -328,7 +328,7 @@ TEST_F(Windows, MoveAmongTheLabelsOfADeviceByTheArrowKeys) {
   EXPECT_EQ(widget("BTN(0)")->focusPolicy(), Qt::StrongFocus) << "the Tab key comes back to it";
   EXPECT_EQ(widget("HAT(0)")->focusPolicy(), Qt::ClickFocus);
   press(widget("BTN(0)"), Qt::Key_Return);
-  EXPECT_EQ(application.editor()->JoystickText.Text.Get(), "BTN S1 ");
+  EXPECT_EQ(application.editor().JoystickText.Text.Get(), "BTN S1 ");
 }
 
 }  // namespace

@@ -313,7 +313,7 @@ class FormDriver : public Driver {
   }
 
   void Close(Form& form) override {
-    if (&form == application_.editor()) {
+    if (&form == &application_.editor()) {
       application_.CloseEditor();
     } else if (&form == &application_.mum()) {
       application_.CloseMum();
