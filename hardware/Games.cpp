@@ -76,7 +76,7 @@ Outcome<> Run(Application& application) {
 }
 
 /// Saves each document that is modified, and takes it for saved whatever came of that, so that nothing is
-/// asked at the end of the program. When it does not end, what is not saved is not to be lost.
+/// asked at the end of the program. When the program goes on, what is not saved counts as modified again.
 class FilesForTheEnd {
  public:
   explicit FilesForTheEnd(Editor& editor) {
@@ -91,12 +91,21 @@ class FilesForTheEnd {
     }
   }
   void GoOn() const {
-    for (const auto& [document, dirty] : before_) document->Dirty = dirty;
+    for (const auto& [document, dirty] : before_) {
+      if (document->Dirty == saved::kSaved) document->Dirty = dirty;
+    }
   }
 
  private:
   std::vector<std::pair<Document*, int>> before_;
 };
+
+void SayWhyNot(Application& application, const Outcome<>& run) {
+  Trap{application.errors, "ED_mnuGameArray_Click"}(run);
+  const bool notFound = run.failure().text.find("found") != std::string::npos;
+  application.platform.dialogs.Show(
+      {"Ooopps ! I'm confused buddy!", notFound ? kNotFound : kNotRun, BoxIcon::Exclamation, BoxButtons::Ok});
+}
 
 }  // namespace
 
@@ -111,6 +120,7 @@ EnterGameName::EnterGameName(Application& application) : Form("EnterGameName"), 
     };
     box->Change = [this] { Text_Change(); };
   }
+  Text4.Change = [this] { CopyToRecord(); };
   Command3.Enabled = false;
   AttachHandlers();
   CopyToRecord();
@@ -199,16 +209,10 @@ void StartGame(Application& application, int index) {
   lists.Games.Take(index);
   lists.UpdateGamesMenu();
   const Outcome<> run = Run(application);
-  if (application.Ended()) return;
-  if (run) {
-    application.CloseMum();
-    return;
-  }
+  if (application.Ended() || (run && application.CloseMum())) return;
   files.GoOn();
-  Trap{application.errors, "ED_mnuGameArray_Click"}(run);
-  const bool notFound = run.failure().text.find("found") != std::string::npos;
-  application.platform.dialogs.Show(
-      {"Ooopps ! I'm confused buddy!", notFound ? kNotFound : kNotRun, BoxIcon::Exclamation, BoxButtons::Ok});
+  if (!run) SayWhyNot(application, run);
+  application.mum().Visible = true;  // the transfer hid it
 }
 
 }  // namespace tarvik
