@@ -141,7 +141,7 @@ void Editor::mnuHelpContents_Click() { ShowHelp(application_.platform, topic::kC
 void Editor::mnuHelpTips_Click() { application_.ShowModal(application_.Tool<frmTip>()); }
 
 void Editor::mnuHelpOnWeb_Click() {
-  const Trap trap{application_.errors, "EDITOR mnuHelpOnWeb_Click"};
+  const Trap trap{application_.errors, "ED_mnuHelpOnWeb_Click"};
   if (trap(application_.platform.desktop.Open(application_.platform.folder + "\\guide\\index.html"))) return;
   mum_.StatusBar.Panels(1).Text = std::string("The user guide can't be opened.");
 }

@@ -7,7 +7,7 @@ std::string ColouredCopies::PathOf(const Document& document) const {
 }
 
 void ColouredCopies::Save(const Document& document) {
-  const Trap trap{desk_.errors, document.IsJoystick() ? "ED_SaveColouredTextJF" : "ED_SaveColouredTextMF"};
+  const Trap trap{desk_.errors, document.IsJoystick() ? "SaveColouredTextJF" : "SaveColouredTextMF"};
   trap(document.text.SaveFile(PathOf(document), FileFormat::Rtf));
 }
 
