@@ -13,6 +13,7 @@ namespace tarvik {
 namespace {
 
 constexpr const char* kUntitled = "untitled.rtf";
+constexpr const char* kCurrentFolder = ".";
 constexpr const char* kIniName = "Tarvik.ini";
 constexpr const char* kNoDefaultTip = "Open default template/text file (see Preferences)";
 constexpr const char* kFilter =
@@ -131,6 +132,7 @@ void TemplateForm::AttachHandlers() {
   connections_ = {
       TemplateText.Edited.Connect([this](const PaneEdit&) { TemplateText_Change(); }),
       application_.ClipboardChanged.Connect([this] { UpdateCopyItems(); }),
+      application_.settings.TextFilePath.Changed.Connect([this] { ShowDefault(); }),
   };
 }
 
@@ -211,10 +213,15 @@ bool TemplateForm::LoadText(const std::string& path, const Trap& trap) {
   return true;
 }
 
-void TemplateForm::OpenDefault(const Trap& trap) {
+void TemplateForm::ShowDefault() {
   const std::string path = LowerCase(application_.settings.TextFilePath.Get());
   Command2.Enabled = application_.platform.files.FileExists(path);
   Command2.ToolTipText = Command2.Enabled ? "Open " + path : kNoDefaultTip;
+}
+
+void TemplateForm::OpenDefault(const Trap& trap) {
+  ShowDefault();
+  const std::string path = LowerCase(application_.settings.TextFilePath.Get());
   if (Command2.Enabled && LoadText(path, trap)) ShowName(NameIn(application_.settings.TextFilePath));
 }
 
@@ -227,7 +234,7 @@ void TemplateForm::Open() {
   const Trap trap{application_.errors, "TEMPLATE Command1_Click"};
   if (!MayOpen(" has changed and isn't saved. Do you want to save it before opening another file?")) return;
   const auto chosen =
-      application_.platform.dialogs.AskForFile({FileDialogKind::Open, {}, kFilter, {}, {}, {}});
+      application_.platform.dialogs.AskForFile({FileDialogKind::Open, {}, kFilter, kCurrentFolder, {}, {}});
   if (!chosen || !LoadText(LowerCase(*chosen), trap)) return;
   Say(TemplatePath.Get() + " was opened successfully");
   ShowName(NameIn(*chosen));
@@ -245,7 +252,10 @@ bool TemplateForm::Save() {
   Files& files = application_.platform.files;
   if (rich && !files.FolderExists(TemplateFolder.Get())) trap(files.MakeFolder(TemplateFolder.Get()));
   const std::string path = rich || FileName.Get().empty() ? TemplateFolder.Get() + name : FileName.Get();
-  if (!trap(TemplateText.SaveFile(path, rich ? FileFormat::Rtf : FileFormat::Text))) return false;
+  if (!trap(TemplateText.SaveFile(path, rich ? FileFormat::Rtf : FileFormat::Text))) {
+    Say(name + " wasn't saved, because " + path + " can't be written");
+    return false;
+  }
   TemplatePath = LowerCase(path);
   TemplateName = name;
   TemplateChanged = 0;
@@ -279,8 +289,7 @@ void TemplateForm::mnuFileSetAsDefault_Click() {
   if (!Save()) return;
   application_.settings.TextFilePath = TemplatePath;
   application_.settings.SaveOptions();
-  Command2.Enabled = true;
-  Command2.ToolTipText = "Open " + TemplatePath.Get();
+  ShowDefault();
 }
 
 void TemplateForm::mnuFileLoadDefault_Click() {

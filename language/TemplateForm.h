@@ -85,6 +85,8 @@ class TemplateForm : public Form {
   bool MayOpen(const char* question);
   void NameUntitled();
   void OpenDefault(const Trap& trap);
+  /// The button for the default template goes by whether there is one.
+  void ShowDefault();
   /// On failure all stays as it was.
   bool LoadText(const std::string& path, const Trap& trap);
   void ShowName(const std::string& name);
