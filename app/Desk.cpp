@@ -1,14 +1,9 @@
 #include "app/Desk.h"
 
-#include <algorithm>
-
 namespace tarvik {
 namespace {
 
 constexpr int kPaneIndent = 20;  // pixels
-// Sizes of letters that can be read, in points; the stored one may be any number.
-constexpr int kSmallestFont = 6;
-constexpr int kLargestFont = 144;
 
 constexpr const char* kSavedStateTips[] = {
     " has no text and isn't saved",
@@ -43,8 +38,7 @@ void ApplyFont(Pane& pane, const Settings& settings) {
   pane.SelIndent = kPaneIndent;
   pane.SelFontName = settings.TextFontName;
   pane.SelBold = settings.TextFontBold != 0;
-  const int size = std::clamp(settings.TextFontSize.Get(), kSmallestFont, kLargestFont);
-  pane.SelFontSize = static_cast<float>(size);
+  pane.SelFontSize = static_cast<float>(settings.TextFontSize);
 }
 
 void Desk::ApplyLook(const Document& document) const {

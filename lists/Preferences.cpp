@@ -530,7 +530,7 @@ void Preferences::PaintExample(std::string_view word, std::string_view end, Colo
 void Preferences::DoTheFonts() {
   const FontChoice before = {settings_.TextFontName, settings_.TextFontSize, settings_.TextFontBold == 1};
   const auto font = Ignore(application_.platform.dialogs.AskForFont(before, CheckFixedPitch.Value == 1));
-  if (!font) return;
+  if (!font || *font == before) return;
   settings_.TextFontName = font->name;
   settings_.TextFontSize = font->size;
   settings_.TextFontBold = font->bold ? 1 : 0;

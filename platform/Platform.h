@@ -46,6 +46,8 @@ struct FontChoice {
   std::string name;
   int size = 0;
   bool bold = false;
+
+  bool operator==(const FontChoice&) const = default;
 };
 
 class Dialogs {

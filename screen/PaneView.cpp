@@ -84,7 +84,7 @@ void PaneView::BindLook(Bindings& bindings) {
 
 void PaneView::ShowFont() {
   QFont font(ToScreen(pane_.SelFontName.Get()));
-  font.setPointSizeF(static_cast<qreal>(pane_.SelFontSize.Get()));
+  font.setPointSizeF(ToScreenSize(pane_.SelFontSize));
   font.setBold(pane_.SelBold);
   setFont(font);
 }

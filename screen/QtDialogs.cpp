@@ -6,12 +6,12 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QFontDialog>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QSplitter>
 #include <QUrl>
 
+#include "screen/FontDialog.h"
 #include "screen/Text.h"
 
 namespace tarvik::screen {
@@ -161,18 +161,14 @@ Outcome<unsigned> QtDialogs::AskForColour(unsigned before) {
   return FromScreenColour(colour);
 }
 
+/// Taken as it is offered, the font stays what it was: a name of a font that is not installed, too.
 Outcome<FontChoice> QtDialogs::AskForFont(const FontChoice& before, bool fixedPitch) {
   const OrdinaryPointer pointer;
-  constexpr int kLeastSize = 4;
-  constexpr int kMostSize = 144;
-  QFont font(ToScreen(before.name), std::clamp(before.size, kLeastSize, kMostSize));
-  font.setBold(before.bold);
-  QFontDialog::FontDialogOptions options = QFontDialog::DontUseNativeDialog;
-  if (fixedPitch) options |= QFontDialog::MonospacedFonts;
-  bool chosen = false;
-  font = QFontDialog::getFont(&chosen, font, QApplication::activeWindow(), {}, options);
-  if (!chosen) return Cancelled();
-  return FontChoice{FromScreen(font.family()), font.pointSize(), font.bold()};
+  const FontChoice shown = AsShown(before);
+  FontDialog dialog(shown, fixedPitch, QApplication::activeWindow());
+  if (dialog.exec() != QDialog::Accepted) return Cancelled();
+  const FontChoice chosen = dialog.Choice();
+  return chosen == shown ? before : chosen;
 }
 
 void QtDialogs::WaitWhile(const std::function<bool()>& open) {

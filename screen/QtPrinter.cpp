@@ -45,9 +45,9 @@ bool IsWhole(const QString& path) {
          file.readAll().contains("%%EOF");
 }
 
-QFont FontOf(const std::string& name, qreal points, bool bold) {
+QFont FontOf(const std::string& name, float points, bool bold) {
   QFont font(ToScreen(name));
-  font.setPixelSize(qRound(points * kTwipsPerPoint));
+  font.setPixelSize(qRound(ToScreenSize(points) * kTwipsPerPoint));
   font.setBold(bold);
   font.setHintingPreference(QFont::PreferNoHinting);
   return font;
@@ -167,7 +167,7 @@ Outcome<Paper> QtPrinter::Sheet() {
 Outcome<std::size_t> QtPrinter::FormatRange(const FormattedText& text, std::size_t from,
                                             const PrintArea& area) {
   if (!Works()) return Broken();
-  const QFont font = FontOf(text.font, static_cast<qreal>(text.size), text.bold);
+  const QFont font = FontOf(text.font, text.size, text.bold);
   const qreal left = area.left + text.indent;
   qreal y = area.top;
   while (from < text.text.size()) {

@@ -1,5 +1,6 @@
 #include "screen/Text.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/CodePage.h"
@@ -90,6 +91,11 @@ std::string FromText(QString text) {
 }
 
 QString AsWritten(QStringView text) { return ToScreen(FromText(text.toString())); }
+
+qreal ToScreenSize(float points) {
+  constexpr qreal kOfNoSize = 10;
+  return points < 1 ? kOfNoSize : std::min<qreal>(static_cast<qreal>(points), kLargestLetters);
+}
 
 QColor ToScreenColour(Colour colour) {
   return QColor(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),

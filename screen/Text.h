@@ -27,6 +27,11 @@ namespace tarvik::screen {
 /// The text as it would come back: without what the code page lacks.
 [[nodiscard]] QString AsWritten(QStringView text);
 
+/// The largest letters that are shown, in points: far beyond it painting stands still.
+inline constexpr int kLargestLetters = 512;
+/// A font size that letters can be shown and printed in, in points: the stored one may be any number.
+[[nodiscard]] qreal ToScreenSize(float points);
+
 [[nodiscard]] QColor ToScreenColour(Colour colour);
 [[nodiscard]] Colour FromScreenColour(const QColor& colour);
 

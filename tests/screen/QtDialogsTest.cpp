@@ -3,12 +3,14 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFontDialog>
+#include <QFontInfo>
 #include <QLineEdit>
 #include <QTimer>
 
 #include "platform/TemporaryFolder.h"
+#include "screen/FontDialog.h"
 #include "screen/QtDialogs.h"
+#include "screen/Text.h"
 
 namespace tarvik::screen {
 namespace {
@@ -30,16 +32,48 @@ class QtDialogsTest : public testing::Test {
 };
 
 TEST_F(QtDialogsTest, AFontOfNoPossibleSizeIsOfferedInOneThatCanBe) {
-  for (const auto& [stored, offered] : {std::pair{0, 4}, {12, 12}, {10000, 144}}) {
+  for (const auto& [stored, offered] : {std::pair{0, 10}, {1, 1}, {12, 12}, {10000, 512}}) {
     int size = 0;
-    Once<QFontDialog>([&size](QFontDialog& dialog) {
-      size = dialog.currentFont().pointSize();
+    Once<FontDialog>([&size](FontDialog& dialog) {
+      size = dialog.Choice().size;
       dialog.reject();
     });
     const auto font = dialogs.AskForFont({"A font that is gone", stored, false}, false);
     EXPECT_EQ(size, offered);
     EXPECT_EQ(font.failure().number, error::kDialogCancelled);
   }
+}
+
+TEST_F(QtDialogsTest, TheFontThatIsReallyShownIsOffered) {
+  const std::string shown = QFontInfo(QFont(QStringLiteral("A font that is gone"))).family().toStdString();
+  Once<FontDialog>([&shown](FontDialog& dialog) {
+    const auto* const families = dialog.findChild<QListWidget*>();
+    ASSERT_TRUE(families->currentItem());
+    EXPECT_EQ(families->currentItem()->text().toStdString(), shown);
+    dialog.reject();
+  });
+  Ignore(dialogs.AskForFont({"A font that is gone", 9, false}, false));
+}
+
+TEST_F(QtDialogsTest, AFontThatIsTakenAsItIsOfferedStaysWhatItWas) {
+  for (const bool fixedPitch : {false, true}) {
+    const FontChoice before{"A font that is gone", 0, true};
+    Once<FontDialog>([](FontDialog& dialog) { dialog.accept(); });
+    const auto font = dialogs.AskForFont(before, fixedPitch);
+    ASSERT_TRUE(font);
+    EXPECT_EQ(*font, before);
+  }
+}
+
+TEST_F(QtDialogsTest, AFontThatIsChangedIsOneThatIsThere) {
+  Once<FontDialog>([](FontDialog& dialog) {
+    dialog.findChild<QSpinBox*>()->setValue(17);
+    dialog.accept();
+  });
+  const auto font = dialogs.AskForFont({"A font that is gone", 9, false}, false);
+  ASSERT_TRUE(font);
+  EXPECT_EQ(font->size, 17);
+  EXPECT_EQ(font->name, QFontInfo(QFont(ToScreen("A font that is gone"))).family().toStdString());
 }
 
 TEST_F(QtDialogsTest, AFolderOfTheHostIsChosenAsItIs) {
