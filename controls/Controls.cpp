@@ -1,6 +1,7 @@
 #include "controls/Controls.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/CodePage.h"
 
@@ -32,7 +33,21 @@ std::string Lines(const std::vector<std::string>& items) {
   return lines;
 }
 
+void Form::SetVisible(bool visible) {
+  if (visible) BringBack();
+  if (visible == std::exchange(visible_, visible)) return;
+  Visible.Changed();
+}
+
+/// Whoever goes to a form wants to see it, whatever way leads there.
+void Form::BringBack() {
+  constexpr int kNormal = 0;
+  constexpr int kMinimised = 1;
+  if (WindowState == kMinimised) WindowState = kNormal;
+}
+
 void Form::Focus(Control& control) {
+  BringBack();
   if (active_ == &control) {
     ActiveControlChanged();
     return;

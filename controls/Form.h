@@ -15,7 +15,9 @@ class Form : public Component {
   using Component::Component;
 
   Property<std::string> Caption{*this, "Caption"};
-  Property<bool> Visible{*this, "Visible", false};
+  /// Showing it, also once more, brings it back from being minimised.
+  Attribute<bool> Visible{*this, "Visible", [this] { return visible_; },
+                          [this](bool visible) { SetVisible(visible); }};
   /// On the screen, in twips.
   Property<float> Left{*this, "Left"};
   Property<float> Top{*this, "Top"};
@@ -68,20 +70,29 @@ class Form : public Component {
   /// Shows it, whole and in front of the others.
   void Show() {
     Visible = true;
-    WindowState = 0;
+    Raise();
+  }
+  /// Brings it in front of the others.
+  void Raise() {
+    BringBack();
     Raised();
   }
   Signal<> Raised;
 
   /// The control with the focus, or null.
   [[nodiscard]] Control* ActiveControl() const { return active_; }
-  /// Moves the focus: the old control hears of the loss before the new one of the gain.
+  /// Moves the focus: the old control hears of the loss before the new one of the gain. The form comes back
+  /// from being minimised.
   void Focus(Control& control);
   /// Also when a control is to get the focus that it has: on screen it may be elsewhere.
   Signal<> ActiveControlChanged;
 
  private:
+  void SetVisible(bool visible);
+  void BringBack();
+
   Control* active_ = nullptr;
+  bool visible_ = false;
 };
 
 }  // namespace tarvik

@@ -169,7 +169,7 @@ void RAWform::AttachHandlers() {
   TotalCombinedText.KeyDown = [this](Key& key) { TotalCombinedText_KeyDown(key); };
   Form::Load = [this] { Form_Load(); };
   Form::Unload = [this] { Form_Unload(); };
-  Form::Activate = [this] { Raised(); };
+  Form::Activate = [this] { Raise(); };
   Form::KeyDown = [this](Key& key) { editor_.ForwardKey(key); };
 }
 

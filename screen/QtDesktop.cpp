@@ -113,10 +113,12 @@ std::string QtCalendar::LongDate() const {
 
 QtHelp::~QtHelp() { delete window_; }
 
+/// Asked for anew, it comes back from being minimised.
 HelpWindow& QtHelp::Window(const std::string& file) {
   const auto text = files_.Read(file);
   if (!window_) window_ = new HelpWindow;
   window_->Open(HelpFile(text ? *text : std::string()), look ? look() : FileLook());
+  if (window_->isMinimized()) window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
   return *window_;
 }
 

@@ -31,9 +31,9 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   bindings_.Bind(
       form.Caption, [this] { setWindowTitle(ToScreen(this->form().Caption.Get()).trimmed()); },
       [this] { return this->form().Caption.ToText(); });
-  bindings_.Bind(form.WindowState, [this] {
-    if (this->form().WindowState == kNormal && isMinimized()) showNormal();
-  });
+  bindings_.Bind(
+      form.WindowState, [this] { ShowMinimised(this->form().WindowState == kMinimised); },
+      [this] { return TextOf(isMinimized() ? kMinimised : kNormal); });
   bindings_.Bind(form.Topmost, [this] { ShowTopmost(); });
   bindings_.Keep(form.Moved.Connect([this] {
     placed_ = true;
@@ -74,6 +74,11 @@ void ToolWindow::ShowWindow() {
   show();
   raise();
   AskForWindow(*this);
+}
+
+/// A window that fills the screen does so again when it comes back.
+void ToolWindow::ShowMinimised(bool minimised) {
+  if (minimised != isMinimized()) setWindowState(windowState() ^ Qt::WindowMinimized);
 }
 
 /// A modal window stays in front of the one that asked, whatever is clicked, unless that one is out of sight

@@ -37,6 +37,7 @@ class ToolWindow : public QDialog, public FormView {
  private:
   void MakeMenuBar(const Menus& menus);
   void ShowWindow();
+  void ShowMinimised(bool minimised);
   void ShowTopmost();
   void ChooseOwner();
   [[nodiscard]] QPoint PlaceBeside();
