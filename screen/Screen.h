@@ -7,6 +7,7 @@
 
 #include "app/Application.h"
 #include "screen/FormView.h"
+#include "screen/WindowOrder.h"
 
 class QWindow;
 
@@ -39,6 +40,7 @@ class Screen {
   MumWindow* frame_ = nullptr;
   std::vector<FormView*> views_;  // each ends itself when it retires
   std::vector<Connection> connections_;
+  WindowOrder order_;
   QObject context_;
 };
 

@@ -34,7 +34,7 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   bindings_.Bind(
       form.WindowState, [this] { ShowMinimised(this->form().WindowState == kMinimised); },
       [this] { return TextOf(isMinimized() ? kMinimised : kNormal); });
-  bindings_.Bind(form.Topmost, [this] { ShowTopmost(); });
+  bindings_.Bind(form.Topmost, [] { ArrangeWindows(); });
   bindings_.Keep(form.Moved.Connect([this] {
     placed_ = true;
     if (isVisible()) move(PlaceOfForm());
@@ -121,14 +121,6 @@ void ToolWindow::moveEvent(QMoveEvent* event) {
   if (!isVisible() || isMinimized() || isMaximized()) return;
   form().Left = static_cast<float>(pos().x()) * kTwips;
   form().Top = static_cast<float>(pos().y()) * kTwips;
-}
-
-void ToolWindow::ShowTopmost() {
-  if (windowHandle()) {
-    windowHandle()->setFlag(Qt::WindowStaysOnTopHint, form().Topmost);
-  } else {
-    setWindowFlag(Qt::WindowStaysOnTopHint, form().Topmost);
-  }
 }
 
 void ToolWindow::showEvent(QShowEvent* event) {

@@ -12,10 +12,11 @@
 #include "screen/FormView.h"
 #include "screen/Keys.h"
 #include "screen/MenuBuilder.h"
+#include "screen/WindowOrder.h"
 
 namespace tarvik::screen {
 
-class ToolWindow : public QDialog, public FormView {
+class ToolWindow : public QDialog, public FormView, public CanBeOnTop {
  public:
   using MakePage = std::function<QLayout*(const FormLayout&)>;
 
@@ -24,6 +25,7 @@ class ToolWindow : public QDialog, public FormView {
 
   void CloseByUser() override { close(); }
   void Retire() override;
+  [[nodiscard]] bool IsOnTop() const override { return form().Topmost; }
   /// Escape: the form's own handling, else its Cancel button, else the close box.
   void reject() override;
 
@@ -38,7 +40,6 @@ class ToolWindow : public QDialog, public FormView {
   void MakeMenuBar(const Menus& menus);
   void ShowWindow();
   void ShowMinimised(bool minimised);
-  void ShowTopmost();
   void ChooseOwner();
   [[nodiscard]] QPoint PlaceBeside();
   [[nodiscard]] QPoint PlaceInTheMiddle();

@@ -1,0 +1,123 @@
+// What lies above a tool that is on top of all windows.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QTimer>
+#include <QWindow>
+
+#include "app/Editor.h"
+#include "hardware/RAWform.h"
+#include "output/ViewImage.h"
+#include "screen/FontDialog.h"
+#include "screen/QtDesktop.h"
+#include "screen/QtDialogs.h"
+#include "screen/Screen.h"
+#include "support/ScriptedPlatform.h"
+
+namespace tarvik::screen {
+namespace {
+
+class WindowOrderTest : public testing::Test {
+ protected:
+  WindowOrderTest() {
+    files_.PutFolder("c:\\tarvik");
+    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.Start();
+    ShowPimlet(true);
+  }
+
+  void ShowPimlet(bool onTop) {
+    auto& pimlet = application.Tool<RAWform>();
+    pimlet.Check1.Value = onTop ? 1 : 0;
+    pimlet.Show();
+  }
+
+  static bool IsOnTop(const QWidget& window) {
+    return window.windowHandle()->flags() & Qt::WindowStaysOnTopHint;
+  }
+
+  /// Whether the dialog that `ask` shows is on top; it is cancelled.
+  template <class D>
+  static bool ComesUpOnTop(const std::function<void()>& ask) {
+    bool onTop = false;
+    QTimer::singleShot(0, [&onTop] {
+      for (QWidget* const window : QApplication::topLevelWidgets()) {
+        auto* const dialog = qobject_cast<QDialog*>(window);
+        if (!dialog || !dialog->isVisible() || !dynamic_cast<D*>(dialog)) continue;
+        onTop = IsOnTop(*dialog);
+        dialog->reject();
+      }
+    });
+    ask();
+    return onTop;
+  }
+
+  QWidget& WindowOf(const Form& form) { return *dynamic_cast<QWidget*>(screen.ViewOf(form)); }
+
+ private:
+  session::ScriptedPlatform outside_;
+  MemoryFiles files_;
+  Platform platform_ = outside_.Process(files_);
+  Drives drives_{{}};
+
+ public:
+  Application application{platform_};
+  Screen screen{application, Clock::Scripted};
+  QtDialogs dialogs{drives_};
+  QtHelp help{files_};
+};
+
+TEST_F(WindowOrderTest, EveryBoxAndDialogLiesAboveIt) {
+  EXPECT_TRUE(ComesUpOnTop<QMessageBox>([&] { dialogs.Show({"a", "b"}); }));
+  EXPECT_TRUE(ComesUpOnTop<QFileDialog>([&] { Ignore(dialogs.AskForFile({})); }));
+  EXPECT_TRUE(ComesUpOnTop<QFileDialog>([&] { Ignore(dialogs.AskForFolder("a", "")); }));
+  EXPECT_TRUE(ComesUpOnTop<QColorDialog>([&] { Ignore(dialogs.AskForColour(0)); }));
+  EXPECT_TRUE(ComesUpOnTop<FontDialog>([&] { Ignore(dialogs.AskForFont({"Arial", 9, false}, false)); }));
+}
+
+TEST_F(WindowOrderTest, AModalToolLiesAboveIt) {
+  auto& pictures = application.Tool<SelectPictureForm>();
+  pictures.Modal = true;
+  pictures.Visible = true;
+  EXPECT_TRUE(IsOnTop(WindowOf(pictures)));
+}
+
+TEST_F(WindowOrderTest, TheHelpLiesAboveItAsLongAsItIsOnTop) {
+  const auto shown = [&]() -> const QWidget& {
+    help.ShowContext("c:\\tarvik\\tarvik.hlp", 1);
+    for (const QWidget* const window : QApplication::topLevelWidgets()) {
+      if (dynamic_cast<const HelpWindow*>(window)) return *window;
+    }
+    return *QApplication::activeWindow();
+  };
+  const QWidget& window = shown();
+  EXPECT_TRUE(IsOnTop(window));
+  ShowPimlet(false);
+  EXPECT_FALSE(IsOnTop(window));
+  ShowPimlet(true);
+  EXPECT_TRUE(IsOnTop(window));
+  application.Tool<RAWform>().Visible = false;
+  EXPECT_FALSE(IsOnTop(window));
+}
+
+TEST_F(WindowOrderTest, MinimisedHelpComesBack) {
+  help.ShowContext("c:\\tarvik\\tarvik.hlp", 1);
+  QWidget* const window = QApplication::activeWindow();
+  ASSERT_TRUE(dynamic_cast<HelpWindow*>(window));
+  window->showMinimized();
+  help.ShowKeyword("c:\\tarvik\\tarvik.hlp", "BTN");
+  EXPECT_FALSE(window->isMinimized());
+}
+
+TEST_F(WindowOrderTest, WithoutSuchAToolNothingIsOnTop) {
+  ShowPimlet(false);
+  EXPECT_FALSE(ComesUpOnTop<QMessageBox>([&] { dialogs.Show({"a", "b"}); }));
+  EXPECT_FALSE(IsOnTop(WindowOf(application.Tool<RAWform>())));
+}
+
+}  // namespace
+}  // namespace tarvik::screen
