@@ -7,8 +7,7 @@
 namespace tarvik {
 namespace {
 
-// Window states of the frame.
-constexpr int kNormal = 0;
+// A window state of the frame.
 constexpr int kMinimised = 1;
 
 // What the loader is waited for with.
@@ -97,9 +96,11 @@ void SendToJoystick(Application& application) {
   if (joystick.Dirty == saved::kModified) editor.mnuFileSave_Click();
   if (joystick.Dirty == saved::kModified && !MaySendAsSaved(application)) return;
   const std::string commandLine = PrepareLoader(application, joystick.Path, trap);
-  application.mum().WindowState = kMinimised;
+  Mum& mum = application.mum();
+  const int before = mum.WindowState;
+  mum.WindowState = kMinimised;
   ShellAndWait(application, commandLine, kMinimisedWithoutFocus, kNoLimit);
-  application.mum().WindowState = kNormal;
+  mum.WindowState = before;
   editor.ActiveDocument().text.SetFocus();
 }
 

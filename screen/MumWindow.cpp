@@ -22,6 +22,7 @@ constexpr int kCapsPanel = 4;
 constexpr int kNumPanel = 6;
 constexpr int kClockPanel = 7;
 constexpr int kPanelInterval = 250;  // milliseconds
+constexpr int kSettlingTime = 200;   // milliseconds
 constexpr QSize kSmallest(480, 320);
 
 // Window states of a form.
@@ -60,6 +61,9 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   menus_ = MakeMenus(mum.menus, bindings_);
   RemoveChild();
   if (clock == Clock::Real) KeepPanels();
+  settling_.setSingleShot(true);
+  settling_.setInterval(clock == Clock::Real ? kSettlingTime : 0);
+  connect(&settling_, &QTimer::timeout, this, [this] { TakePlace(); });
   BindWindow();
 }
 
@@ -74,9 +78,12 @@ void MumWindow::BindWindow() {
       mum_.Caption, [this] { setWindowTitle(ToScreen(mum_.Caption.Get())); },
       [this] { return FromScreen(windowTitle()); });
   bindings_.Bind(mum_.MousePointer, [this] { ShowPointer(); });
-  bindings_.Bind(mum_.WindowState, [this] {
-    if (isVisible()) ShowWindow();
-  });
+  bindings_.Bind(
+      mum_.WindowState,
+      [this] {
+        if (isVisible() && mum_.WindowState != StateOnScreen()) ShowWindow();
+      },
+      [this] { return isVisible() ? TextOf(StateOnScreen()) : mum_.WindowState.ToText(); });
   bindings_.Bind(
       mum_.Visible,
       [this] {
@@ -139,6 +146,7 @@ void MumWindow::PlaceWindow() {
   frame.moveTop(std::clamp(frame.top(), screen.top(), screen.bottom() + 1 - frame.height()));
   move(frame.topLeft());
   resize(frame.size());
+  toFit_ = frame;
 }
 
 void MumWindow::ShowWindow() {
@@ -151,18 +159,28 @@ void MumWindow::ShowWindow() {
   }
 }
 
-/// The stored size is that of the whole frame, which is known only once the window stands.
-void MumWindow::FitFrame() {
+/// The stored size is that of the whole frame, whose edges are known only once the window stands. A window
+/// that fills the screen gets it when it does so no more. What it has until then is not worth keeping.
+bool MumWindow::FitFrame() {
   const QMargins margins = windowHandle() ? windowHandle()->frameMargins() : QMargins();
-  if (frameFitted_ || margins.isNull() || windowState() != Qt::WindowNoState) return;
-  frameFitted_ = true;
-  resize(size().shrunkBy(margins));
+  if (!toFit_ || margins.isNull()) return false;
+  const QRect frame = *std::exchange(toFit_, {});
+  setGeometry(frame.marginsRemoved(margins));
+  return true;
+}
+
+int MumWindow::StateOnScreen() const {
+  return isMinimized() ? kMinimised : isMaximized() ? kMaximised : kNormal;
+}
+
+/// A window that is changing its state passes through others on the way, with the size of one and the place
+/// of another.
+bool MumWindow::HasPlaceOfItsOwn() const {
+  return isVisible() && !settling_.isActive() && !isFullScreen() && StateOnScreen() == kNormal;
 }
 
 void MumWindow::TakePlace() {
-  if (!isVisible() || windowState() & (Qt::WindowMaximized | Qt::WindowMinimized | Qt::WindowFullScreen))
-    return;
-  FitFrame();
+  if (!HasPlaceOfItsOwn() || FitFrame()) return;
   const QRect frame = frameGeometry();
   mum_.Left = static_cast<float>(frame.left()) * kTwips;
   mum_.Top = static_cast<float>(frame.top()) * kTwips;
@@ -174,7 +192,8 @@ void MumWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::ActivationChange) TakePlace();
   if (event->type() != QEvent::WindowStateChange) return;
-  mum_.WindowState = isMinimized() ? kMinimised : isMaximized() ? kMaximised : kNormal;
+  mum_.WindowState = StateOnScreen();
+  settling_.start();
 }
 
 void MumWindow::moveEvent(QMoveEvent* event) {

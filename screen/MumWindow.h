@@ -5,6 +5,7 @@
 #include <QMdiArea>
 #include <QMenu>
 #include <memory>
+#include <optional>
 
 #include "app/Mum.h"
 #include "screen/FormView.h"
@@ -35,7 +36,9 @@ class MumWindow : public QMainWindow, public FormView {
   void ShowWindow();
   void PlaceWindow();
   void TakePlace();
-  void FitFrame();
+  bool FitFrame();
+  [[nodiscard]] int StateOnScreen() const;
+  [[nodiscard]] bool HasPlaceOfItsOwn() const;
   void ShowPointer();
   void KeepPanels();
 
@@ -45,7 +48,8 @@ class MumWindow : public QMainWindow, public FormView {
   QMdiSubWindow* child_ = nullptr;
   QToolButton* closeChild_;
   std::vector<std::unique_ptr<QMenu>> menus_;
-  bool frameFitted_ = false;
+  QTimer settling_;
+  std::optional<QRect> toFit_;  // where the whole frame belongs, until it stands there
   bool waiting_ = false;
 };
 
