@@ -66,6 +66,7 @@ Editor::Editor(Application& application)
             TempRichTextBox,
             CompareRTF,
             [this] { UpdateUndoRedoMenus(); }},
+      savedStates_(desk_, mum_),
       copies_(desk_),
       highlighter_(desk_, copies_),
       insertion_(desk_, [this](Document& document) { TextChanged(document); }),

@@ -9,6 +9,7 @@
 #include "app/LineBlink.h"
 #include "app/Mum.h"
 #include "app/PaneInput.h"
+#include "app/SavedStates.h"
 #include "language/ColouredInsertion.h"
 #include "lists/ListMenus.h"
 #include "output/PrintRTFWordWrap.h"
@@ -254,6 +255,7 @@ class Editor : public Form {
   Application& application_;
   Mum& mum_;
   Desk desk_;
+  SavedStates savedStates_;
   ColouredCopies copies_;
   Highlighter highlighter_;
   ColouredInsertion insertion_;

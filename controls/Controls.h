@@ -336,6 +336,7 @@ class Tab : public Component {
   Property<std::string> ToolTipText{*this, "ToolTipText"};
   Property<int> Image{*this, "Image", 0};
   Property<bool> Selected{*this, "Selected", false};
+  Property<bool> Unsaved{*this, "Unsaved", false};  ///< its page holds unsaved work
 };
 
 class TabStrip : public Control {

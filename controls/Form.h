@@ -15,6 +15,9 @@ class Form : public Component {
   using Component::Component;
 
   Property<std::string> Caption{*this, "Caption"};
+  /// The name of the file on show, for the title of its window, and whether that one holds unsaved work.
+  Property<std::string> FileOnShow{*this, "FileOnShow"};
+  Property<bool> Unsaved{*this, "Unsaved", false};
   /// Showing it, also once more, brings it back from being minimised.
   Attribute<bool> Visible{*this, "Visible", [this] { return visible_; },
                           [this](bool visible) { SetVisible(visible); }};

@@ -133,6 +133,8 @@ void TemplateForm::AttachHandlers() {
       TemplateText.Edited.Connect([this](const PaneEdit&) { TemplateText_Change(); }),
       application_.ClipboardChanged.Connect([this] { UpdateCopyItems(); }),
       application_.settings.TextFilePath.Changed.Connect([this] { ShowDefault(); }),
+      TemplateName.Changed.Connect([this] { FileOnShow = TemplateName; }),
+      TemplateChanged.Changed.Connect([this] { Unsaved = TemplateChanged == 1; }),
   };
 }
 

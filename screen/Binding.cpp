@@ -53,6 +53,9 @@ int ButtonNumber(Qt::MouseButtons buttons) {
          (buttons & Qt::MiddleButton ? 4 : 0);
 }
 
+/// Behind the caption of a tab, as desktops have it in the titles of windows.
+const QLatin1String kUnsavedMark("*");
+
 QString Escaped(QString text) { return text.replace(u'&', QLatin1String("&&")); }
 QString Unescaped(QString text) { return text.replace(QLatin1String("&&"), QLatin1String("&")); }
 
@@ -333,9 +336,18 @@ void Bindings::Bind(ComboBox& combo, QComboBox& widget) {
 
 void Bindings::BindTab(Tab& tab, QTabBar& widget, int index) {
   widget.addTab(QString());
-  Bind(
-      tab.Caption, [&tab, &widget, index] { widget.setTabText(index, Escaped(ToScreen(tab.Caption.Get()))); },
-      [&widget, index] { return FromScreen(Unescaped(widget.tabText(index))); });
+  const auto show = [&tab, &widget, index] {
+    const QString caption = Escaped(ToScreen(tab.Caption.Get()));
+    widget.setTabText(index, tab.Unsaved ? caption + kUnsavedMark : caption);
+  };
+  const auto isMarked = [&tab, &widget, index] {
+    return tab.Unsaved && widget.tabText(index).endsWith(kUnsavedMark);
+  };
+  Bind(tab.Caption, show, [&widget, index, isMarked] {
+    const QString text = Unescaped(widget.tabText(index));
+    return FromScreen(text.chopped(isMarked() ? kUnsavedMark.size() : 0));
+  });
+  Bind(tab.Unsaved, show, [isMarked] { return TextOf(isMarked()); });
   Bind(
       tab.ToolTipText,
       [&tab, &widget, index] { widget.setTabToolTip(index, ToScreen(tab.ToolTipText.Get())); },

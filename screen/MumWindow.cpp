@@ -14,6 +14,7 @@
 #include "screen/MenuBuilder.h"
 #include "screen/StatusBarView.h"
 #include "screen/Text.h"
+#include "screen/WindowTitle.h"
 
 namespace tarvik::screen {
 namespace {
@@ -74,9 +75,7 @@ MumWindow::~MumWindow() {
 void MumWindow::BindWindow() {
   bindings_.Shows(mum_, *this);
   PlaceWindow();
-  bindings_.Bind(
-      mum_.Caption, [this] { setWindowTitle(ToScreen(mum_.Caption.Get())); },
-      [this] { return FromScreen(windowTitle()); });
+  BindTitle(mum_, *this, bindings_);
   bindings_.Bind(mum_.MousePointer, [this] { ShowPointer(); });
   bindings_.Bind(
       mum_.WindowState,

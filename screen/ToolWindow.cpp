@@ -8,6 +8,7 @@
 
 #include "screen/Text.h"
 #include "screen/WindowFocus.h"
+#include "screen/WindowTitle.h"
 
 namespace tarvik::screen {
 namespace {
@@ -28,9 +29,7 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   for (QWidget* const child : findChildren<QWidget*>()) child->installEventFilter(this);
   if (clock == Clock::Real) RunTimers();
   bindings_.Shows(form, *this);
-  bindings_.Bind(
-      form.Caption, [this] { setWindowTitle(ToScreen(this->form().Caption.Get()).trimmed()); },
-      [this] { return this->form().Caption.ToText(); });
+  BindTitle(form, *this, bindings_);
   bindings_.Bind(
       form.WindowState, [this] { ShowMinimised(this->form().WindowState == kMinimised); },
       [this] { return TextOf(isMinimized() ? kMinimised : kNormal); });

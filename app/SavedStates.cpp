@@ -1,0 +1,34 @@
+#include "app/SavedStates.h"
+
+namespace tarvik {
+namespace {
+
+bool IsModified(const Document& document) { return document.Dirty == saved::kModified; }
+
+}  // namespace
+
+SavedStates::SavedStates(const Desk& desk, Mum& mum) : desk_(desk), mum_(mum) {
+  const auto follow = [this](PropertyBase& property) {
+    connections_.push_back(property.Changed.Connect([this] { Show(); }));
+  };
+  for (Document* const document : {&desk_.joystick, &desk_.macro}) {
+    follow(document->Name);
+    follow(document->Dirty);
+  }
+  follow(desk_.tabs.SelectedItem);
+}
+
+SavedStates::~SavedStates() {
+  mum_.FileOnShow = std::string();
+  mum_.Unsaved = false;
+}
+
+void SavedStates::Show() {
+  for (const Document* const document : {&desk_.joystick, &desk_.macro}) {
+    desk_.TabOf(*document).Unsaved = IsModified(*document);
+  }
+  mum_.FileOnShow = desk_.Active().Name;
+  mum_.Unsaved = IsModified(desk_.Active());
+}
+
+}  // namespace tarvik

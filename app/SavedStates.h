@@ -1,0 +1,26 @@
+// Tells the user which file is on show and which ones hold unsaved work, in the frame's title and on the
+// tabs.
+#pragma once
+
+#include "app/Desk.h"
+#include "app/Mum.h"
+
+namespace tarvik {
+
+class SavedStates {
+ public:
+  SavedStates(const Desk& desk, Mum& mum);
+  /// Without the files the frame has none on show.
+  ~SavedStates();
+  SavedStates(const SavedStates&) = delete;
+  SavedStates& operator=(const SavedStates&) = delete;
+
+ private:
+  void Show();
+
+  const Desk& desk_;
+  Mum& mum_;
+  std::vector<Connection> connections_;
+};
+
+}  // namespace tarvik

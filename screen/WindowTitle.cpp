@@ -1,0 +1,36 @@
+#include "screen/WindowTitle.h"
+
+#include "screen/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+/// Where the desktop puts its mark. In a file's name the same characters are doubled to stand for themselves.
+const QLatin1String kMark("[*]");
+
+QString CaptionOf(const Form& form) { return ToScreen(form.Caption.Get()).trimmed(); }
+
+QString TitleOf(const Form& form) {
+  QString file = ToScreen(form.FileOnShow.Get());
+  if (file.isEmpty()) return CaptionOf(form) + kMark;
+  return file.replace(kMark, QLatin1String("[*][*]")) + kMark + QLatin1String(" - ") + CaptionOf(form);
+}
+
+}  // namespace
+
+void BindTitle(Form& form, QWidget& window, Bindings& bindings) {
+  const auto show = [&form, &window] { window.setWindowTitle(TitleOf(form)); };
+  const auto read = [&form, &window](const Property<std::string>& part) {
+    return [&form, &window, &part]() -> std::optional<std::string> {
+      const QString title = window.windowTitle();
+      return title == TitleOf(form) ? part.ToText() : FromScreen(title);
+    };
+  };
+  bindings.Bind(form.Caption, show, read(form.Caption));
+  bindings.Bind(form.FileOnShow, show, read(form.FileOnShow));
+  bindings.Bind(
+      form.Unsaved, [&form, &window] { window.setWindowModified(form.Unsaved); },
+      [&window] { return TextOf(window.isWindowModified()); });
+}
+
+}  // namespace tarvik::screen

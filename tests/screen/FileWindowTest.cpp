@@ -1,0 +1,113 @@
+// What only the toolkit can show of the window with the two files: keys, drops, the title, the toolbar's
+// lights.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTabBar>
+#include <QToolButton>
+#include <QUrl>
+
+#include "app/Editor.h"
+#include "language/TemplateForm.h"
+#include "output/Tips.h"
+#include "screen/MumWindow.h"
+#include "screen/PaneView.h"
+#include "screen/Screen.h"
+#include "support/ScriptedPlatform.h"
+
+namespace tarvik::screen {
+namespace {
+
+class FileWindow : public testing::Test {
+ protected:
+  FileWindow() {
+    files_.PutFolder("c:\\tarvik");
+    files_.Put("c:\\my\\one.b50", "USE MDEF one\r\nBTN S1 Fire\r\n");
+    files_.Put("c:\\my\\one.m50", "Fire = a\r\n");
+    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.Start();
+    QApplication::processEvents();
+  }
+
+  Editor& Files() { return *application.editor(); }
+  MumWindow& Frame() { return *dynamic_cast<MumWindow*>(screen.ViewOf(application.mum())); }
+  PaneView& JoystickPane() { return *dynamic_cast<PaneView*>(screen.Find(Files().JoystickText)); }
+
+  void Press(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
+    QApplication::sendEvent(&JoystickPane(), &down);
+  }
+
+  /// Whether somebody takes it, as the drag goes on to where it is dropped.
+  static bool Drop(QWidget& widget, const QMimeData& data) {
+    const QPoint place = widget.rect().center();
+    QDragEnterEvent enter(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    enter.ignore();
+    QApplication::sendEvent(&widget, &enter);
+    QDropEvent drop(place, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    drop.ignore();
+    if (enter.isAccepted()) QApplication::sendEvent(&widget, &drop);
+    QApplication::processEvents();
+    return enter.isAccepted() && drop.isAccepted();
+  }
+
+  /// What a file manager drags.
+  static std::unique_ptr<QMimeData> DraggedFiles(const QStringList& names) {
+    auto data = std::make_unique<QMimeData>();
+    QList<QUrl> urls;
+    for (const QString& name : names)
+      urls += QUrl::fromLocalFile(QStringLiteral("/opt/tarvik/drive_c/my/") + name);
+    data->setUrls(urls);
+    data->setText(urls.constFirst().toString());
+    return data;
+  }
+
+  session::ScriptedPlatform outside;
+
+ private:
+  MemoryFiles files_;
+  Platform platform_ = outside.Process(files_);
+
+ public:
+  Application application{platform_};
+  Screen screen{application, Clock::Scripted};
+};
+
+TEST_F(FileWindow, TheTitleNamesTheFileOnShowAndMarksUnsavedWork) {
+  const auto title = [this] { return Frame().windowTitle().toStdString(); };
+  const auto* const tabs = dynamic_cast<QTabBar*>(screen.Find(Files().TabStrip1));
+  EXPECT_EQ(title(), "untitled.b50[*] - Tarvik");
+  EXPECT_FALSE(Frame().isWindowModified());
+  EXPECT_EQ(application.mum().Caption.Get(), "Tarvik");
+  Press(Qt::Key_J, Qt::NoModifier, QStringLiteral("j"));
+  EXPECT_TRUE(Frame().isWindowModified());
+  EXPECT_EQ(tabs->tabText(0), QStringLiteral("untitled.b50*"));
+  EXPECT_EQ(Files().TabStrip1.Tabs(1).Caption.Get(), "untitled.b50");
+  Files().TabStrip1.Select(2);
+  EXPECT_EQ(title(), "untitled.m50[*] - Tarvik");
+  EXPECT_FALSE(Frame().isWindowModified());
+  Files().Macro.Name = "a[*].m50";
+  EXPECT_EQ(title(), "a[*][*].m50[*] - Tarvik");
+  outside.dialogs.answers = {Answer::No};
+  application.CloseEditor();
+  EXPECT_EQ(title(), "Tarvik[*]");
+  EXPECT_FALSE(Frame().isWindowModified());
+}
+
+TEST_F(FileWindow, TheTemplateEditorNamesItsFileAndMarksUnsavedWork) {
+  auto& form = application.Tool<TemplateForm>();
+  form.ShowText();
+  const auto* const window = dynamic_cast<QWidget*>(screen.ViewOf(form));
+  const std::string name = form.TemplateName.Get();
+  EXPECT_EQ(window->windowTitle().toStdString(), name + "[*] - Template Editor");
+  EXPECT_FALSE(window->isWindowModified());
+  form.TemplateText.SelText = "x";
+  EXPECT_TRUE(window->isWindowModified());
+}
+
+}  // namespace
+}  // namespace tarvik::screen
