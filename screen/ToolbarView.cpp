@@ -1,5 +1,6 @@
 #include "screen/ToolbarView.h"
 
+#include <QApplication>
 #include <QMenu>
 #include <QPainter>
 #include <QStyleOptionToolButton>
@@ -99,6 +100,20 @@ std::pair<std::vector<QRect>, int> ToolbarView::Arrange(int width) const {
 int ToolbarView::heightForWidth(int width) const { return Arrange(width).second; }
 QSize ToolbarView::sizeHint() const { return {width(), heightForWidth(width())}; }
 QSize ToolbarView::minimumSizeHint() const { return {4 * kButton, kButton + 2 * kMargin}; }
+
+bool ToolbarView::event(QEvent* event) {
+  if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked) PutOutLights();
+  return QWidget::event(event);
+}
+
+/// No button hears that the pointer has left it while another window comes up above.
+void ToolbarView::PutOutLights() const {
+  for (const Position& position : positions_) {
+    QEvent left(QEvent::Leave);
+    if (position.widget->underMouse()) QApplication::sendEvent(position.widget, &left);
+  }
+}
+
 void ToolbarView::resizeEvent(QResizeEvent*) { Rearrange(); }
 
 void ToolbarView::Rearrange() {

@@ -33,6 +33,7 @@ class ToolbarView : public QWidget {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  bool event(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -46,6 +47,7 @@ class ToolbarView : public QWidget {
   /// Where each position stands, an empty place for what does not fit; and the height of all rows.
   [[nodiscard]] std::pair<std::vector<QRect>, int> Arrange(int width) const;
   void Rearrange();
+  void PutOutLights() const;
   void ShowOverflow();
 
   Toolbar& toolbar_;

@@ -109,5 +109,15 @@ TEST_F(FileWindow, TheTemplateEditorNamesItsFileAndMarksUnsavedWork) {
   EXPECT_TRUE(window->isWindowModified());
 }
 
+TEST_F(FileWindow, AButtonDoesNotStayLitBehindAWindow) {
+  auto& button = *dynamic_cast<QToolButton*>(screen.Find(application.mum().Toolbar1.Buttons(1)));
+  QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), button.mapToGlobal(QPointF(5, 5)));
+  QApplication::sendEvent(&button, &enter);
+  ASSERT_TRUE(button.underMouse());
+  application.Tool<TemplateForm>().ShowText();
+  QApplication::processEvents();
+  EXPECT_FALSE(button.underMouse());
+}
+
 }  // namespace
 }  // namespace tarvik::screen
