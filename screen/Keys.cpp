@@ -134,6 +134,10 @@ int VirtualKey(const QKeyEvent& event) {
   return code == 0 ? kCharacterAlone : code;
 }
 
+bool TypesNothing(const QKeyEvent& event) {
+  return !event.text().isEmpty() && (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier));
+}
+
 /// The toolkit's modifiers are those before the event.
 Key KeyReader::Read(const QKeyEvent& event) {
   const int code = VirtualKey(event);

@@ -14,6 +14,9 @@ namespace tarvik::screen {
 /// 108, and Print Screen has 42. Keys without a code get that of a character which comes from no key, 231.
 [[nodiscard]] int VirtualKey(const QKeyEvent& event);
 
+/// With Alt, or the desktop's own modifier, a key that would type is a command, or nothing.
+[[nodiscard]] bool TypesNothing(const QKeyEvent& event);
+
 /// The keys of one window. It remembers which modifiers are down, of which there are two.
 class KeyReader {
  public:

@@ -68,7 +68,7 @@ void PaneView::keyPressEvent(QKeyEvent* event) {
   keyIsDown_ = true;
   Key key{VirtualKey(*event), ShiftState(event->modifiers())};
   pane_.KeyDown(key);
-  if (key.code == 0) return;
+  if (key.code == 0 || TypesNothing(*event)) return;
   QString text = event->text();
   if (!text.isEmpty() && event->key() != Qt::Key_Delete) {
     text = PressKeys(text);

@@ -146,6 +146,7 @@ void ToolWindow::Retire() {
 bool ToolWindow::FormTakesPress(const QKeyEvent& event) {
   Key key = keys_.Read(event);
   form().KeyDown(key);
+  if (TypesNothing(event) && !form().OwnsKeys) return true;
   bool taken = key.code == 0;
   for (const QChar typed : event.text()) {
     int character = typed < u' ' ? typed.unicode() : static_cast<unsigned char>(FromScreen(typed));

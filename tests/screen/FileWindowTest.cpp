@@ -77,6 +77,15 @@ class FileWindow : public testing::Test {
   Screen screen{application, Clock::Scripted};
 };
 
+TEST_F(FileWindow, AltWithALetterThatLeadsNowhereTypesNothing) {
+  Press(Qt::Key_J, Qt::AltModifier, QStringLiteral("j"));
+  Press(Qt::Key_Return, Qt::AltModifier, QStringLiteral("\r"));
+  Press(Qt::Key_J, Qt::MetaModifier, QStringLiteral("j"));
+  EXPECT_EQ(Files().JoystickText.Text.Get(), "");
+  Press(Qt::Key_J, Qt::NoModifier, QStringLiteral("j"));
+  EXPECT_EQ(Files().JoystickText.Text.Get(), "j");
+}
+
 TEST_F(FileWindow, TheTitleNamesTheFileOnShowAndMarksUnsavedWork) {
   const auto title = [this] { return Frame().windowTitle().toStdString(); };
   const auto* const tabs = dynamic_cast<QTabBar*>(screen.Find(Files().TabStrip1));
