@@ -53,6 +53,13 @@ void Application::ShowEditor() {
   editor_->Form_Load();
 }
 
+void Application::FilesDropped(const std::vector<std::string>& hostPaths) {
+  std::vector<std::string> paths;
+  for (const std::string& path : hostPaths) paths.push_back(platform.drives.FromHost(path));
+  ShowEditor();
+  editor_->OpenDropped(paths);
+}
+
 bool Application::CloseEditor() {
   if (!EditorIsLoaded()) return true;
   if (!editor_->Form_QueryUnload()) return false;

@@ -41,6 +41,8 @@ class Application {
   /// until it is shown again: what a tool does to that one goes nowhere.
   [[nodiscard]] Editor& editor() const { return *editor_; }
   void ShowEditor();
+  /// The user drops files of the host on the program.
+  void FilesDropped(const std::vector<std::string>& hostPaths);
   /// What a tool's close box does. False: the user keeps the tool.
   bool CloseTool(Form& form);
   /// Closes the editor alone; the frame stays. False: the user keeps the program running.

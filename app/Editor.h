@@ -61,6 +61,8 @@ class Editor : public Form {
   void Form_Resize() { layout_.Place(); }
   void TestCommandLine();
   void OpenPreviouslySavedFiles(const std::string& path);
+  /// Files that the user dropped: opens the first that is one of a pair, together with the other one.
+  void OpenDropped(const std::vector<std::string>& paths) { files_.OpenPairAmong(paths); }
   /// Opens the one file, as a macro file or a joystick file by its ending; no path, no file.
   void OpenFavouriteFile(const std::string& path);
   void F22MenusUpdate();

@@ -90,6 +90,11 @@ std::string_view Ending(std::string_view name) {
   return name.substr(name.size() - std::min<std::size_t>(3, name.size()));
 }
 
+bool EndsAs(std::string_view name, std::string_view Pair::*half) {
+  return std::any_of(std::begin(kPairs), std::end(kPairs),
+                     [&](const Pair& pair) { return pair.*half == Ending(name); });
+}
+
 std::string WithEnding(std::string name, std::string_view ending) {
   name.resize(name.size() - Ending(name).size());
   return name + std::string(ending);
@@ -302,18 +307,24 @@ void FileCommands::OpenPair() {
     file = *chosen;
   }
   const Loading loading(desk_.values);
-  const std::string_view ending = Ending(file.name.Text());
-  const auto is = [ending](std::string_view Pair::*half) {
-    return std::any_of(std::begin(kPairs), std::end(kPairs),
-                       [&](const Pair& pair) { return pair.*half == ending; });
-  };
-  if (is(&Pair::macro)) {
+  if (EndsAs(file.name.Text(), &Pair::macro)) {
     if (CanRead(file.path, trap)) OpenMacroThenJoystick(file, trap);
-  } else if (is(&Pair::joystick)) {
+  } else if (EndsAs(file.name.Text(), &Pair::joystick)) {
     if (CanRead(file.path, trap)) OpenJoystickThenMacro(file, trap);
   } else {
     TellUnrecognised();
   }
+}
+
+void FileCommands::OpenPairAmong(const std::vector<std::string>& paths) {
+  if (paths.empty()) return;
+  const auto ofAPair = std::find_if(paths.begin(), paths.end(), [](const std::string& path) {
+    const std::string name = LowerCase(path);
+    return EndsAs(name, &Pair::joystick) || EndsAs(name, &Pair::macro);
+  });
+  OpenWithoutDialog(ofAPair == paths.end() ? paths.front() : *ofAPair);
+  OpenPair();
+  OpenWithDialogs();
 }
 
 /// A macro file finds its joystick file by the same name beside it.

@@ -28,6 +28,9 @@ class FileCommands {
   void Load(Document& document);
   /// A joystick file together with its macro file, from either of the two.
   void OpenPair();
+  /// The same without a dialog, from the first of these files that belongs to a pair, else from the first
+  /// one.
+  void OpenPairAmong(const std::vector<std::string>& paths);
   void Save(Document& document);
   void SaveAs(Document& document);
   void SaveBoth();

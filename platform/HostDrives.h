@@ -20,6 +20,7 @@ class HostDrives : public DriveFolders {
   [[nodiscard]] std::vector<Drive> All() const override;
   Outcome<> Set(char letter, const std::string& folder) override;
   void Remove(char letter) override;
+  std::string FromHost(const std::string& path) override { return drives_.FromHost(path); }
 
   /// For those that look files up.
   [[nodiscard]] Drives& Paths() { return drives_; }

@@ -143,6 +143,8 @@ class DriveFolders {
   virtual Outcome<> Set(char letter, const std::string& folder) = 0;
   /// Drive c goes back to the folder beside the executable; z stays.
   virtual void Remove(char letter) = 0;
+  /// The path under which the program knows a file or folder of the host.
+  virtual std::string FromHost(const std::string& path) = 0;
 };
 
 /// Everything from outside in one hand.

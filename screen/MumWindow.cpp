@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "screen/FileDrop.h"
 #include "screen/Icons.h"
 #include "screen/LockKeys.h"
 #include "screen/MenuBuilder.h"
@@ -41,6 +42,7 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
       closeChild_(new QToolButton(this)) {
   setMinimumSize(kSmallest);
   setContextMenuPolicy(Qt::NoContextMenu);
+  setAcceptDrops(true);
   auto* const centre = new QWidget;
   auto* const column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
@@ -132,6 +134,29 @@ void MumWindow::RemoveChild() {
   child_->setWidget(nullptr);
   area_->removeSubWindow(child_);
   std::exchange(child_, nullptr)->deleteLater();
+}
+
+// Files from a file manager.
+
+/// Whatever the file manager has in mind, the files stay where they are.
+void MumWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (FilesIn(*event->mimeData()).empty() || !TakesDrops(*this)) return;
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+}
+
+/// The file manager waits until this returns, and there may be questions to answer first.
+void MumWindow::dropEvent(QDropEvent* event) {
+  const std::vector<std::string> files = FilesIn(*event->mimeData());
+  if (files.empty() || !TakesDrops(*this)) return;
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  QMetaObject::invokeMethod(
+      this,
+      [this, files] {
+        if (TakesDrops(*this)) application_.FilesDropped(files);
+      },
+      Qt::QueuedConnection);
 }
 
 // The window.

@@ -3,6 +3,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 
+#include "screen/FileDrop.h"
 #include "screen/Keys.h"
 #include "screen/PaneView.h"
 #include "screen/Text.h"
@@ -98,6 +99,11 @@ void PaneView::inputMethodEvent(QInputMethodEvent* event) {
   event->accept();
 }
 
+/// A file is none of the text that it is written in.
+bool PaneView::canInsertFromMimeData(const QMimeData* data) const {
+  return FilesIn(*data).empty() && TakesDrops(*this) && QPlainTextEdit::canInsertFromMimeData(data);
+}
+
 void PaneView::insertFromMimeData(const QMimeData* data) {
   if (pane_.Locked || !data->hasText()) return;
   QTextCursor cursor = textCursor();
@@ -107,6 +113,7 @@ void PaneView::insertFromMimeData(const QMimeData* data) {
 }
 
 void PaneView::dropEvent(QDropEvent* event) {
+  if (!canInsertFromMimeData(event->mimeData())) return event->ignore();
   setFocus();
   const bool own = event->source() == this || event->source() == viewport();
   if (!own || event->dropAction() != Qt::MoveAction || pane_.Locked) {

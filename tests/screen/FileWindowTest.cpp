@@ -86,6 +86,54 @@ TEST_F(FileWindow, AltWithALetterThatLeadsNowhereTypesNothing) {
   EXPECT_EQ(Files().JoystickText.Text.Get(), "j");
 }
 
+TEST_F(FileWindow, AFileThatIsDroppedOpensItsPair) {
+  EXPECT_TRUE(Drop(*JoystickPane().viewport(),
+                   *DraggedFiles({QStringLiteral("readme.txt"), QStringLiteral("one.m50")})));
+  EXPECT_EQ(Files().Joystick.Path.Get(), "c:\\my\\one.b50");
+  EXPECT_EQ(Files().Macro.Path.Get(), "c:\\my\\one.m50");
+  EXPECT_EQ(Files().JoystickText.Text.Get(), "USE MDEF one\r\nBTN S1 Fire\r\n");
+  EXPECT_EQ(Files().Joystick.Dirty, 0);
+}
+
+TEST_F(FileWindow, DroppedFilesLeaveUnsavedWorkToTheUser) {
+  Press(Qt::Key_J, Qt::NoModifier, QStringLiteral("j"));
+  outside.dialogs.answers = {Answer::Cancel};
+  EXPECT_TRUE(Drop(Frame(), *DraggedFiles({QStringLiteral("one.b50")})));
+  EXPECT_EQ(Files().JoystickText.Text.Get(), "j");
+  EXPECT_EQ(outside.dialogs.boxes.size(), 1U);
+}
+
+TEST_F(FileWindow, AFileOpensInTheEmptyFrame) {
+  application.CloseEditor();
+  EXPECT_TRUE(Drop(Frame(), *DraggedFiles({QStringLiteral("one.b50")})));
+  ASSERT_TRUE(application.editor());
+  EXPECT_EQ(Files().Joystick.Name.Get(), "one.b50");
+}
+
+TEST_F(FileWindow, TextThatIsDroppedIsText) {
+  QMimeData text;
+  text.setText(QStringLiteral("BTN"));
+  EXPECT_TRUE(Drop(*JoystickPane().viewport(), text));
+  EXPECT_EQ(Files().JoystickText.Text.Get(), "BTN");
+  QMimeData link;
+  link.setText(QStringLiteral(" https://a.b/"));
+  link.setUrls({QUrl(QStringLiteral("https://a.b/"))});
+  EXPECT_TRUE(Drop(*JoystickPane().viewport(), link));
+  EXPECT_FALSE(Drop(Frame(), text));
+}
+
+TEST_F(FileWindow, NothingIsDroppedBehindAModalWindow) {
+  auto& about = application.Tool<frmAbout>();
+  about.Modal = true;
+  about.Visible = true;
+  QApplication::processEvents();
+  QMimeData text;
+  text.setText(QStringLiteral("BTN"));
+  EXPECT_FALSE(Drop(*JoystickPane().viewport(), text));
+  EXPECT_FALSE(Drop(Frame(), *DraggedFiles({QStringLiteral("one.b50")})));
+  EXPECT_EQ(Files().JoystickText.Text.Get(), "");
+}
+
 TEST_F(FileWindow, TheTitleNamesTheFileOnShowAndMarksUnsavedWork) {
   const auto title = [this] { return Frame().windowTitle().toStdString(); };
   const auto* const tabs = dynamic_cast<QTabBar*>(screen.Find(Files().TabStrip1));

@@ -1,5 +1,7 @@
 #include "support/ScriptedPlatform.h"
 
+#include <algorithm>
+
 #include "platform/CodePage.h"
 
 namespace tarvik::session {
@@ -108,6 +110,12 @@ Outcome<> ScriptedDrives::Set(char letter, const std::string& folder) {
 }
 
 void ScriptedDrives::Remove(char letter) { Give(letter, letter == 'c' ? kOwnFolder : ""); }
+
+std::string ScriptedDrives::FromHost(const std::string& path) {
+  std::string own = path.substr(std::string_view(kOwnFolder).size());
+  std::replace(own.begin(), own.end(), '/', '\\');
+  return "c:" + own;
+}
 
 void ScriptedDrives::Give(char letter, const std::string& folder) {
   const std::string root{letter, ':', '\\'};

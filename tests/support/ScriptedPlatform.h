@@ -159,6 +159,8 @@ class ScriptedDrives : public DriveFolders {
   [[nodiscard]] std::vector<Drive> All() const override;
   Outcome<> Set(char letter, const std::string& folder) override;
   void Remove(char letter) override;
+  /// Every file of this host lies on drive c.
+  std::string FromHost(const std::string& path) override;
 
   MemoryFiles* files = nullptr;  ///< whose drives they are
   std::set<std::string> there{"/", kOwnFolder};
