@@ -44,29 +44,36 @@ class TickDelegate : public QStyledItemDelegate {
 
 }  // namespace
 
-void ListModel::SetList(const ListBox* list) {
+void ListModel::SetItems(const std::vector<std::string>& items, std::vector<bool> ticks) {
   beginResetModel();
-  list_ = list;
+  items_.clear();
+  for (const std::string& item : items) items_ += ToScreen(item);
+  ticks_ = std::move(ticks);
   endResetModel();
 }
 
-void ListModel::ShowTicks() {
-  if (rowCount() > 0) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
+void ListModel::SetTicks(std::vector<bool> ticks) {
+  ticks_ = std::move(ticks);
+  if (!items_.isEmpty()) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
+}
+
+bool ListModel::Has(const QModelIndex& index) const {
+  return hasIndex(index.row(), index.column(), index.parent());
 }
 
 int ListModel::rowCount(const QModelIndex& parent) const {
-  return list_ && !parent.isValid() ? list_->ListCount() : 0;
+  return parent.isValid() ? 0 : static_cast<int>(items_.size());
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
-  if (!list_ || index.row() >= list_->ListCount()) return {};
-  if (role == Qt::DisplayRole) return ToScreen(list_->List(index.row()));
-  if (role == Qt::CheckStateRole && ticks_) return list_->Selected(index.row()) ? Qt::Checked : Qt::Unchecked;
-  return {};
+  if (!Has(index)) return {};
+  if (role == Qt::DisplayRole) return items_.at(index.row());
+  if (role != Qt::CheckStateRole || !canTick_) return {};
+  return ticks_[static_cast<std::size_t>(index.row())] ? Qt::Checked : Qt::Unchecked;
 }
 
 Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
-  return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
+  return Has(index) ? QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled : Qt::NoItemFlags;
 }
 
 ListStack::ListStack(Bindings& bindings, const QString& name, bool ticks)
@@ -103,7 +110,7 @@ void ListStack::Add(ListBox& list) {
       list.Raised.Connect([this, &list] { Raise(list); }),
       list.Visible.Changed.Connect([this] { BringUpToDate(); }),
       list.ItemsChanged.Connect(inFront([this] { ShowItems(); })),
-      list.TicksChanged.Connect(inFront([this] { model_.ShowTicks(); })),
+      list.TicksChanged.Connect(inFront([this, &list] { model_.SetTicks(list.Ticks()); })),
       list.ListIndex.Changed.Connect(inFront([this] { ShowIndex(); })),
   };
   const auto read = [this, &list](auto what) -> Bindings::Reader {
@@ -175,7 +182,11 @@ void ListStack::BringUpToDate() {
 
 void ListStack::ShowItems() {
   const QScopedValueRollback showing(showing_, true);
-  model_.SetList(front_);
+  if (front_) {
+    model_.SetItems(front_->List(), front_->Ticks());
+  } else {
+    model_.SetItems({}, {});
+  }
   ShowIndex();
 }
 

@@ -9,20 +9,25 @@
 
 namespace tarvik::screen {
 
-/// The items of whichever list is in front.
+/// The items of whichever list is in front. It holds them itself, so that it has an answer for every index at
+/// any time, also while the list changes and after it has gone.
 class ListModel : public QAbstractListModel {
  public:
-  explicit ListModel(bool ticks) : ticks_(ticks) {}
-  void SetList(const ListBox* list);
-  void ShowTicks();
+  /// `ticks`: an item may bear one.
+  explicit ListModel(bool ticks) : canTick_(ticks) {}
+  void SetItems(const std::vector<std::string>& items, std::vector<bool> ticks);
+  void SetTicks(std::vector<bool> ticks);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
 
  private:
-  const ListBox* list_ = nullptr;
-  bool ticks_;
+  [[nodiscard]] bool Has(const QModelIndex& index) const;
+
+  QStringList items_;
+  std::vector<bool> ticks_;  // one for each item
+  bool canTick_;
 };
 
 class ListStack : public QListView {

@@ -1,0 +1,124 @@
+// The lists of all windows: what their models answer, and what the keys and the mouse do in them.
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QComboBox>
+#include <QListView>
+#include <QTest>
+
+#include "app/Editor.h"
+#include "composer/InsertOptions.h"
+#include "hardware/RAWform.h"
+#include "language/FindAndReplace.h"
+#include "lists/DrivesForm.h"
+#include "lists/Preferences.h"
+#include "output/ViewImage.h"
+#include "screen/ListStack.h"
+#include "screen/Screen.h"
+#include "support/ScriptedPlatform.h"
+
+namespace tarvik::screen {
+namespace {
+
+class Lists : public testing::Test {
+ protected:
+  Lists() {
+    files_.PutFolder("c:\\tarvik");
+    files_.Put("c:\\tarvik\\a.png", "");
+    files_.Put("c:\\tarvik\\b.png", "");
+    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.Start();
+  }
+
+  template <class Tool>
+  Tool& Shown() {
+    auto& tool = application.Tool<Tool>();
+    tool.Visible = true;
+    QApplication::processEvents();
+    return tool;
+  }
+  QListView* ViewOf(const ListBox& list) const { return qobject_cast<QListView*>(screen.Find(list)); }
+
+  session::ScriptedPlatform outside_;
+  MemoryFiles files_;
+  Platform platform_ = outside_.Process(files_);
+
+ public:
+  Application application{platform_};
+  Screen screen{application, Clock::Scripted};
+};
+
+/// What the toolkit complains of while it stands.
+class Complaints {
+ public:
+  Complaints() : before_(qInstallMessageHandler(Take)) { taken.clear(); }
+  ~Complaints() { qInstallMessageHandler(before_); }
+  Complaints(const Complaints&) = delete;
+  Complaints& operator=(const Complaints&) = delete;
+
+  static inline QStringList taken;
+
+ private:
+  static void Take(QtMsgType /*kind*/, const QMessageLogContext& /*place*/, const QString& text) {
+    taken += text;
+  }
+  QtMessageHandler before_;
+};
+
+TEST_F(Lists, HaveModelsThatAnswerEveryIndexWhileTheyChange) {
+  auto& preferences = Shown<Preferences>();
+  Shown<InsertOptions>();
+  Shown<RAWform>();
+  Shown<FindAndReplace>();
+  Shown<DrivesForm>();
+  auto& picker = Shown<SelectPictureForm>();
+  const Complaints complaints;
+  std::vector<std::unique_ptr<QAbstractItemModelTester>> testers;
+  const auto watch = [&testers](QAbstractItemModel* model) {
+    testers.push_back(std::make_unique<QAbstractItemModelTester>(
+        model, QAbstractItemModelTester::FailureReportingMode::Warning));
+  };
+  for (QWidget* const window : QApplication::topLevelWidgets()) {
+    for (const auto* const view : window->findChildren<QListView*>()) watch(view->model());
+    for (const auto* const combo : window->findChildren<QComboBox*>()) watch(combo->model());
+  }
+  ASSERT_GE(testers.size(), 20U);
+  preferences.SSTab1.Tab = Preferences::kColours;
+  picker.File1.Fill({"a", "b", "c"});
+  picker.File1.ListIndex = 2;
+  picker.File1.Clear();
+  application.editor()->List1(0).Fill({"one", "two"});
+  application.editor()->List1(0).Tick({true, false});
+  application.editor()->List1(0).Fill({"one"});
+  EXPECT_EQ(Complaints::taken.join(u'\n').toStdString(), "");
+}
+
+TEST_F(Lists, AnswerForAnItemThatIsNotThere) {
+  ListModel model(true);
+  model.SetItems({"one"}, {true});
+  for (const int role : {Qt::DisplayRole, Qt::CheckStateRole, Qt::ToolTipRole}) {
+    EXPECT_FALSE(model.data(QModelIndex(), role).isValid());
+  }
+  EXPECT_EQ(model.flags(QModelIndex()), Qt::NoItemFlags);
+  const QModelIndex first = model.index(0);
+  EXPECT_EQ(model.data(first, Qt::DisplayRole), QStringLiteral("one"));
+  EXPECT_EQ(model.data(first, Qt::CheckStateRole), Qt::Checked);
+  model.SetItems({}, {});
+  EXPECT_FALSE(model.data(first, Qt::DisplayRole).isValid());
+}
+
+TEST_F(Lists, CopyNothingWithoutAnItemInHand) {
+  auto& picker = Shown<SelectPictureForm>();
+  auto& preferences = Shown<Preferences>();
+  preferences.SSTab1.Tab = Preferences::kColours;
+  for (const ListBox* const list : {&picker.File1, &preferences.List1}) {
+    QListView* const view = ViewOf(*list);
+    ASSERT_FALSE(view->currentIndex().isValid());
+    QTest::keyClick(view, Qt::Key_C, Qt::ControlModifier);
+  }
+}
+
+}  // namespace
+}  // namespace tarvik::screen
