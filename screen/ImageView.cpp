@@ -1,43 +1,30 @@
 #include "screen/ImageView.h"
 
-#include <QBuffer>
-#include <QImageReader>
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "screen/Metafile.h"
-
 namespace tarvik::screen {
-namespace {
 
-constexpr int kLongestSide = 4096;    // pixels
-constexpr int kDrawingSide = 2048;    // of a picture that has no size in pixels
-constexpr int kMostMegabytes = 1024;  // of memory for one picture
-
-}  // namespace
-
-QImage PictureIn(std::string_view bytes) {
-  if (QImage drawing = MetafileIn(bytes, kDrawingSide); !drawing.isNull()) return drawing;
-  QByteArray data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  QBuffer buffer(&data);
-  QImageReader reader(&buffer);
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  QImageReader::setAllocationLimit(kMostMegabytes);
-  const QSize size = reader.size();
-  if (size.width() > kLongestSide || size.height() > kLongestSide) {
-    reader.setScaledSize(size.scaled(kLongestSide, kLongestSide, Qt::KeepAspectRatio).expandedTo({1, 1}));
-  }
-  return reader.read();
-}
-
-ImageView::ImageView(ImageBox& box, Bindings& bindings) : box_(box) {
+ImageView::ImageView(ImageBox& box, Bindings& bindings)
+    : box_(box), reader_([this](const QImage& picture) { Show(picture); }) {
   setFocusPolicy(Qt::StrongFocus);
   bindings.BindControl(box, *this);
   bindings.Keep(box.Loaded.Connect([this](std::string_view bytes) {
-    picture_ = QPixmap::fromImage(PictureIn(bytes));
+    picture_ = QPixmap();
+    reader_.Read(bytes);
     update();
   }));
+}
+
+void ImageView::Show(const QImage& picture) {
+  picture_ = QPixmap::fromImage(picture);
+  update();
+}
+
+/// What stands in the place of a picture.
+QString ImageView::Word() const {
+  if (reader_.IsReading()) return tr("Reading the picture ...");
+  return box_.Picture.Get().empty() ? tr("No picture") : tr("This picture can't be shown.");
 }
 
 void ImageView::mouseDoubleClickEvent(QMouseEvent*) { box_.DblClick(); }
@@ -50,9 +37,7 @@ void ImageView::keyPressEvent(QKeyEvent* event) {
 void ImageView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   if (picture_.isNull()) {
-    const bool broken = !box_.Picture.Get().empty();
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap,
-                     broken ? tr("This picture can't be shown.") : tr("No picture"));
+    painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, Word());
     return;
   }
   const QSize shown = picture_.size().scaled(size(), Qt::KeepAspectRatio);

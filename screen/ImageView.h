@@ -1,4 +1,5 @@
-// A picture from a file, on screen: as large as its place allows, in its own proportions.
+// A picture from a file, on screen: as large as its place allows, in its own proportions. The window does not
+// wait for it.
 #pragma once
 
 #include <QPixmap>
@@ -6,16 +7,16 @@
 
 #include "controls/ImageBox.h"
 #include "screen/Binding.h"
+#include "screen/PictureReader.h"
 
 namespace tarvik::screen {
-
-/// The picture in a file's bytes, made smaller where it has more pixels than a screen can show; null for
-/// whatever is no picture that can be read.
-[[nodiscard]] QImage PictureIn(std::string_view bytes);
 
 class ImageView : public QWidget {
  public:
   ImageView(ImageBox& box, Bindings& bindings);
+
+  /// The picture is on its way.
+  [[nodiscard]] bool IsReading() const { return reader_.IsReading(); }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -23,8 +24,12 @@ class ImageView : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void Show(const QImage& picture);
+  [[nodiscard]] QString Word() const;
+
   ImageBox& box_;
   QPixmap picture_;
+  PictureReader reader_;
 };
 
 }  // namespace tarvik::screen

@@ -16,6 +16,7 @@
 #include "platform/ProgramFolder.h"
 #include "screen/Icons.h"
 #include "screen/LockKeys.h"
+#include "screen/Picture.h"
 #include "screen/QtDesktop.h"
 #include "screen/QtDialogs.h"
 #include "screen/QtPrinter.h"
@@ -66,6 +67,7 @@ fs::path HomeOfProgram() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  if (const auto decoded = screen::RunAsDecoder(argc, argv)) return *decoded;
   QApplication toolkit(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Tarvik"));
   QApplication::setDesktopFileName(QStringLiteral("tarvik"));

@@ -9,6 +9,7 @@
 
 #include "controls/Form.h"
 #include "screen/ImageView.h"
+#include "screen/Picture.h"
 
 namespace tarvik::screen {
 namespace {
@@ -42,7 +43,7 @@ TEST(Pictures, OfEveryKindAreRead) {
 
 /// A metafile with two squares of 200 units beside one another, a red one and a blue one, an accented
 /// letter, and a picture of two green points at the upper left.
-std::string Metafile() {
+std::string Metafile(unsigned headOfPicture = 40) {
   std::string bytes;
   const auto words = [&bytes](std::initializer_list<unsigned> values) {
     for (const unsigned value : values) {
@@ -62,8 +63,8 @@ std::string Metafile() {
   }
   words({7, 0, 0x521, 1, 0xE9, 100, 300});
   words({38, 0, 0xF43, 0x20, 0xCC, 0, 1, 2, 0, 0, 50, 100, 0, 0});
-  words({40, 0, 2, 0, 1, 0, 1, 24, 0, 0, 8, 0, 0, 0, 0, 0, 0, 0, 0, 0});  // the picture's head
-  words({0xFF00, 0x0000, 0x00FF, 0});                                     // and its points
+  words({headOfPicture, 0, 2, 0, 1, 0, 1, 24, 0, 0, 8, 0, 0, 0, 0, 0, 0, 0, 0, 0});  // the picture's head
+  words({0xFF00, 0x0000, 0x00FF, 0});                                                // and its points
   words({3, 0, 0});
   return bytes;
 }
@@ -122,6 +123,56 @@ TEST(Pictures, OfTheProgramIsOneThatItShows) {
   EXPECT_GE(PictureIn(bytes).width(), 800);
 }
 
+/// Waits for the picture that the reader has begun with last.
+void Await(const PictureReader& reader) {
+  while (reader.IsReading()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+TEST(Pictures, AreReadByAnotherProcess) {
+  std::vector<QSize> read;
+  PictureReader reader([&read](const QImage& picture) { read.push_back(picture.size()); });
+  reader.Read(Encoded("png"));
+  EXPECT_TRUE(reader.IsReading()) << "nobody waits for it";
+  Await(reader);
+  reader.Read("no picture");
+  Await(reader);
+  reader.Read("");
+  EXPECT_EQ(read, (std::vector{kSize, QSize(0, 0), QSize(0, 0)}));
+}
+
+TEST(Pictures, ThatAreChosenLastWin) {
+  std::vector<QSize> read;
+  PictureReader reader([&read](const QImage& picture) { read.push_back(picture.size()); });
+  reader.Read(Encoded("png"));
+  reader.Read(Encoded("bmp", {3, 4}));
+  Await(reader);
+  EXPECT_EQ(read, std::vector{QSize(3, 4)});
+}
+
+TEST(Pictures, ThatTakeForEverAreNone) {
+  constexpr std::chrono::milliseconds kPatience(1500);
+  bool answered = false;
+  PictureReader reader(
+      [&answered](const QImage& picture) {
+        answered = true;
+        EXPECT_TRUE(picture.isNull());
+      },
+      kPatience);
+  reader.Read(Metafile(0));  // libwmf goes round in circles over it
+  Await(reader);
+  EXPECT_TRUE(answered);
+}
+
+TEST(Pictures, ThatAreNotWrittenWholeAreNone) {
+  EXPECT_TRUE(PictureOf("").isNull());
+  QByteArray written(8 + 4, '\0');
+  written[0] = written[4] = 1;
+  EXPECT_EQ(PictureOf(written).size(), QSize(1, 1));
+  EXPECT_TRUE(PictureOf(written.chopped(1)).isNull());
+  written[7] = 0x7F;
+  EXPECT_TRUE(PictureOf(written).isNull());
+}
+
 TEST(Pictures, KeepTheirProportionsOnScreen) {
   Form form("Form");
   ImageBox box(form, "Image1");
@@ -129,14 +180,20 @@ TEST(Pictures, KeepTheirProportionsOnScreen) {
   ImageView view(box, bindings);
   view.resize(100, 100);
   const QColor empty = view.grab().toImage().pixelColor(50, 30);
-  box.Load("c:\\a.png", Encoded("png"));
+  const auto load = [&](const char* path, const std::string& bytes) {
+    box.Load(path, bytes);
+    const QImage meanwhile = view.grab().toImage();
+    while (view.IsReading()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_NE(view.grab().toImage(), meanwhile) << "nothing of it is shown before it is there";
+  };
+  load("c:\\a.png", Encoded("png"));
   const QImage shown = view.grab().toImage();
   EXPECT_EQ(shown.pixelColor(50, 30), kColour);
   EXPECT_EQ(shown.pixelColor(2, 50), kColour);
   EXPECT_EQ(shown.pixelColor(50, 20), empty);
   EXPECT_EQ(shown.pixelColor(50, 80), empty);
   // What is no picture takes the place of the one before, and says so.
-  box.Load("c:\\b.png", "broken");
+  load("c:\\b.png", "broken");
   EXPECT_NE(view.grab().toImage(), shown);
   EXPECT_EQ(view.grab().toImage().pixelColor(50, 30), empty);
 }

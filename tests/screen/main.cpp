@@ -3,7 +3,10 @@
 
 #include <QApplication>
 
+#include "screen/Picture.h"
+
 int main(int count, char** arguments) {
+  if (const auto decoded = tarvik::screen::RunAsDecoder(count, arguments)) return *decoded;
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&count, arguments);
   const QApplication toolkit(count, arguments);

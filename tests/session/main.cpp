@@ -3,6 +3,7 @@
 #include <fstream>
 #include <iostream>
 
+#include "screen/Picture.h"
 #include "session/Runner.h"
 #include "session/ScreenSession.h"
 
@@ -25,6 +26,7 @@ bool RunFile(const std::string& path, const tarvik::session::MakeDriver& makeDri
 }  // namespace
 
 int main(int count, char** arguments) {
+  if (const auto decoded = tarvik::screen::RunAsDecoder(count, arguments)) return *decoded;
   std::vector<std::string> files(arguments + 1, arguments + count);
   const bool screen = !files.empty() && files.front() == "--screen";
   if (screen) files.erase(files.begin());
