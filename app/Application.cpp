@@ -46,11 +46,11 @@ bool Application::Start() {
 
 bool Application::EditorIsLoaded() const { return editor_ && editor_->Visible; }
 
-void Application::ShowEditor() {
+void Application::ShowEditor(EditorBegins begins) {
   if (EditorIsLoaded()) return;
   editor_->FillFrame();
   Loaded(*editor_);
-  editor_->Form_Load();
+  editor_->Form_Load(begins);
 }
 
 void Application::FilesDropped(const std::vector<std::string>& hostPaths) {

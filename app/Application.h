@@ -20,6 +20,9 @@ class Editor;
 /// The tools that end with the frame before all others.
 inline constexpr const char* kToolsOfMum[] = {"ColourSelector", "KeyTestForm", "ProgramWait"};
 
+/// The files that the program was started with are opened once; an editor that is shown again begins anew.
+enum class EditorBegins { Untitled, WithTheFilesOfTheStart };
+
 class Application {
  public:
   explicit Application(Platform& platform);
@@ -40,7 +43,7 @@ class Application {
   /// The editor, visible while it is loaded. After it was closed alone it is a fresh one that nobody sees,
   /// until it is shown again: what a tool does to that one goes nowhere.
   [[nodiscard]] Editor& editor() const { return *editor_; }
-  void ShowEditor();
+  void ShowEditor(EditorBegins begins = EditorBegins::Untitled);
   /// The user drops files of the host on the program.
   void FilesDropped(const std::vector<std::string>& hostPaths);
   /// What a tool's close box does. False: the user keeps the tool.

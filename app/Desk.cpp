@@ -36,14 +36,22 @@ void Desk::UpdateSavedIcon() const {
 
 void ApplyFont(Pane& pane, const Settings& settings) {
   pane.SelIndent = kPaneIndent;
+  ApplyFontOnly(pane, settings);
+}
+
+void ApplyFontOnly(Pane& pane, const Settings& settings) {
   pane.SelFontName = settings.TextFontName;
   pane.SelBold = settings.TextFontBold != 0;
   pane.SelFontSize = static_cast<float>(settings.TextFontSize);
 }
 
 void Desk::ApplyLook(const Document& document) const {
-  document.text.BackColor = (settings.*document.traits.background).Get();
+  ApplyBackground(document);
   ApplyFont(document.text, settings);
+}
+
+void Desk::ApplyBackground(const Document& document) const {
+  document.text.BackColor = (settings.*document.traits.background).Get();
 }
 
 }  // namespace tarvik

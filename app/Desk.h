@@ -43,6 +43,7 @@ struct Desk {
   std::function<void()> updateUndoRedoMenus;
   /// Gives the pane the user's font, indent and the document's background.
   void ApplyLook(const Document& document) const;
+  void ApplyBackground(const Document& document) const;
 
  private:
   void ShowLine(const Document& document, std::size_t position) const;
@@ -50,6 +51,8 @@ struct Desk {
 
 /// Gives a pane the user's font, and the indent of all panes.
 void ApplyFont(Pane& pane, const Settings& settings);
+/// The same without the indent.
+void ApplyFontOnly(Pane& pane, const Settings& settings);
 
 /// Keeps the change handlers from counting what program code does to a pane as an edit.
 class Loading {

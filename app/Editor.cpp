@@ -96,6 +96,7 @@ void Editor::SetUpControls() {
   TabStrip1.Tabs(2).Image = kNormalTabImage;
   TabStrip1.Click = [this] { TabStrip1_Click(); };
   FrameMacros.Caption = "Macros";
+  FrameMacros.MouseDown = [this](const Mouse&) { FrameMacros_MouseDown(); };
   FrameMacros.MouseMove = [this](const Mouse& mouse) { FrameMacros_MouseMove(mouse); };
   FrameMacros.DblClick = [this] { FrameMacros_DblClick(); };
   Combo1.ToolTipText = "Macro categories";
@@ -104,6 +105,7 @@ void Editor::SetUpControls() {
   for (int i = 0; i < kModifierButtons; ++i) {
     Command1(i).Caption = tables::kModifierCaptions[i];
     Command1(i).Click = [this, i] { Command1_Click(i); };
+    Command1(i).MouseDown = [this](const Mouse&) { Command1_MouseDown(); };
     Command1(i).MouseMove = [this](const Mouse&) { Command1_MouseMove(); };
   }
   List1.Prepare = [this](ListBox& list) { AttachList(list); };
@@ -148,11 +150,12 @@ void Editor::FillFrame() {
   ScaleHeight = mum_.Height / kTwipsPerPixel;
 }
 
-void Editor::Form_Load() {
+void Editor::Form_Load(EditorBegins begins) {
   Values& values = application_.values;
   const Settings& settings = application_.settings;
   values.LoadingFile = 1;
   SetUpToolbar();
+  savedStates_.Follow();
   mum_.MousePointer = pointer::kHourglass;
   values.PreferencesTab = 0;
   application_.settings.GetColours();
@@ -179,14 +182,7 @@ void Editor::Form_Load() {
   GetOpenSingleOnly();
   JoystickText.SetFocus();
 
-  TestCommandLine();
-  const int favourite = lists.TakeFavouriteToLoad();
-  if (!values.CommandLine.Get().empty()) {
-    OpenPreviouslySavedFiles(values.CommandLine);
-  } else if (favourite > 0) {
-    mnuFavArray_Click(favourite);
-  }
-  values.CommandLine = std::string();  // an editor that is shown again begins with untitled files
+  if (begins == EditorBegins::WithTheFilesOfTheStart) OpenFilesOfTheStart();
   values.LoadingFile = 0;
   Joystick.Caret = 0;
   Macro.Caret = 0;
@@ -217,10 +213,20 @@ void Editor::Form_Activate() {
 
 void Editor::Form_Unload() {
   SaveOpenSingleOnly();
+  savedStates_.Stop();
   for (Timer* const timer : {&Timer1, &TimerBlinkLine}) timer->Enabled = false;
   clipboardChanged_ = {};
   mum_.Toolbar1.Visible = false;
   for (const tables::ToolbarRow& row : tables::kToolbar) mum_.Toolbar1.Buttons(row.button).Click = nullptr;
+}
+
+/// The file of the command line, else the favourite that is to be loaded.
+void Editor::OpenFilesOfTheStart() {
+  TestCommandLine();
+  const std::string line = application_.values.CommandLine;
+  if (!line.empty()) return OpenPreviouslySavedFiles(line);
+  const int favourite = application_.lists.FavouriteToLoad();
+  if (favourite > 0) mnuFavArray_Click(favourite);
 }
 
 void Editor::TestCommandLine() {
@@ -309,6 +315,22 @@ void Editor::mnuFileNewBoth_Click() {
   desk_.Say("Done .... now what?");
 }
 
+void Editor::mnuFilePrintJoystick_Click() {
+  RemoveHugeBlankStringJF();
+  PrintDocument(desk_, Joystick);
+  AddHugeBlankStringJF();
+}
+
+void Editor::mnuFilePrintMacro_Click() {
+  RemoveHugeBlankStringMF();
+  PrintDocument(desk_, Macro);
+  AddHugeBlankStringMF();
+}
+
+void Editor::mnuRHMPrint_Click() {
+  desk_.Active().IsJoystick() ? mnuFilePrintJoystick_Click() : mnuFilePrintMacro_Click();
+}
+
 void Editor::mnuPreferencesProtectMacroFile_Click() {
   const bool protect = !mnuPreferencesProtectMacroFile.Checked;
   MacroText.Locked = protect;
@@ -367,6 +389,11 @@ void Editor::TextChanged(Document& document) {
   document.Undo.GoToNewest();
   mnuEditRedo.Enabled = false;
   mum_.Toolbar1.Buttons(kRedoButton).Enabled = false;
+}
+
+void Editor::mnuEditSelectAll_Click() {
+  desk_.Active().IsJoystick() ? RemoveHugeBlankStringJF() : RemoveHugeBlankStringMF();
+  edit_.SelectAll();
 }
 
 // Undo.
@@ -504,7 +531,18 @@ void Editor::ColourSelection(Colour colour) {
   desk_.Active().text.SetFocus();
 }
 
+void Editor::TextFromTempRichTextBox() {
+  desk_.Active().text.SetContent(TempRichTextBox.Content());
+  TempRichTextBox.SetContent({});
+}
+
 // Macros.
+
+void Editor::HelpOnWhatsThis(int topic) {
+  if (mum_.MousePointer != pointer::kWhatsThis) return;
+  ShowHelp(application_.platform, topic);
+  mum_.MousePointer = pointer::kDefault;
+}
 
 void Editor::mnuEditUpdateMacros_Click() {
   const std::size_t equals = MacroText.Characters().find('=');
@@ -573,18 +611,19 @@ void Editor::Command1_Click(int index) {
   const std::string value = TextOf(settings.DefaultDLYvalue.Get());
   const bool delay = index == kDelayButton;
   values.InsertionText = delay ? "DLY(" : Command1(index).Caption.Get() + " ";
+  values.InsertionColour = delay ? settings.RAWColour.Get() : settings.SlashColour.Get();
   insertion_.BeginColInsert();
   if (settings.InsertWithColour == 0) {
     if (delay) values.InsertionText = "DLY(" + value + ") ";
+    values.InsertionColour = kBlack;
     insertion_.InsertBlackText();
-  } else if (delay) {
-    insertion_.AddSpaceToColouredText();
-    insertion_.InsertColouredStringNoSpace(values.InsertionText, settings.RAWColour);
-    insertion_.InsertColouredStringNoSpace(value, kBlack);
-    insertion_.InsertColouredString(") ", settings.RAWColour);
   } else {
     insertion_.AddSpaceToColouredText();
-    insertion_.InsertColouredString(values.InsertionText, settings.SlashColour);
+    insertion_.InsertColouredString(values.InsertionText, values.InsertionColour);
+    if (delay) {
+      insertion_.InsertColouredStringNoSpace(value, kBlack);
+      insertion_.InsertColouredString(") ", values.InsertionColour);
+    }
   }
   insertion_.EndColInsert();
 }

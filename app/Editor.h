@@ -12,6 +12,7 @@
 #include "app/SavedStates.h"
 #include "language/ColouredInsertion.h"
 #include "lists/ListMenus.h"
+#include "output/HelpTopics.h"
 #include "output/PrintRTFWordWrap.h"
 
 namespace tarvik {
@@ -54,7 +55,7 @@ class Editor : public Form {
   // Life of the form.
   /// Takes the frame's size, until whatever shows the form tells it its own.
   void FillFrame();
-  void Form_Load();
+  void Form_Load(EditorBegins begins);
   void Form_Activate();
   bool Form_QueryUnload() override { return files_.MayExit(); }
   void Form_Unload();
@@ -89,10 +90,10 @@ class Editor : public Form {
   void mnuFileSave_Click() { files_.Save(desk_.Active()); }
   void mnuFileSaveAs_Click() { files_.SaveAs(desk_.Active()); }
   void mnuFileSaveBoth_Click() { files_.SaveBoth(); }
-  void mnuFilePrintJoystick_Click() { PrintDocument(desk_, Joystick); }
-  void mnuFilePrintMacro_Click() { PrintDocument(desk_, Macro); }
+  void mnuFilePrintJoystick_Click();
+  void mnuFilePrintMacro_Click();
   void mnuFilePrinterSetup_Click() { SetUpPrinter(desk_); }
-  void mnuRHMPrint_Click() { PrintDocument(desk_, desk_.Active()); }
+  void mnuRHMPrint_Click();
   void mnuJoyPopUpSingleFile_Click() { mnuJoyPopUpSingleFile.Checked = !mnuJoyPopUpSingleFile.Checked; }
   void mnuJFArray_Click(int index) { OpenPrevious("mnuJFArray", index); }
   void mnuMFArray_Click(int index) { OpenPrevious("mnuMFArray", index); }
@@ -127,7 +128,7 @@ class Editor : public Form {
   void mnuEditCopy_Click() { edit_.Copy(); }
   void mnuEditPaste_Click() { edit_.Paste(); }
   void mnuEditDelete_Click() { edit_.Delete(); }
-  void mnuEditSelectAll_Click() { edit_.SelectAll(); }
+  void mnuEditSelectAll_Click();
   void mnuEditFind_Click();
   void mnuEditReplace_Click();
   void mnuEditGoto_Click();
@@ -151,12 +152,26 @@ class Editor : public Form {
   void mnuViewReformat_Click();
   void mnuViewWordWrap_Click();
   void mnuViewHighlightLine_Click() { blink_.Start(); }
+  void FrameMacros_MouseDown() { HelpOnWhatsThis(topic::kMacroLists); }
   void FrameMacros_MouseMove(const Mouse& mouse) { layout_.FrameMouseMove(mouse); }
   void FrameMacros_DblClick() { mnuViewMacros_Click(); }
   void TimerBlinkLine_Timer() { blink_.Step(); }
   void TabStrip1_Click();
   void UpdateToolBarOpenSaveTooltips();
   void Toolbar1_ButtonClick(int button);
+
+  // The scratch pane, for work on the file on top that must not show.
+  void TextToTempRichTextBox() { TempRichTextBox.SetContent(desk_.Active().text.Content()); }
+  void TextFromTempRichTextBox();
+  /// Gives all of the scratch pane the user's font.
+  void TempTextRefreshFont() { tarvik::ApplyFont(TempRichTextBox, desk_.settings); }
+  // Where padding at the end of a file, or the colour of what is pasted, would be seen to. Nothing is ever
+  // padded, and what is pasted keeps its colours.
+  void AddHugeBlankStringJF() {}
+  void RemoveHugeBlankStringJF() {}
+  void AddHugeBlankStringMF() {}
+  void RemoveHugeBlankStringMF() {}
+  void ApplyPasteColour() {}
 
   // Colours.
   void ApplyColourHighlighting() { highlighter_.Apply(Joystick); }
@@ -188,6 +203,7 @@ class Editor : public Form {
   void List1_DblClick(int index) { lists_.Insert(List1(index)); }
   void List1_OLEStartDrag(int index);
   void Command1_Click(int index);
+  void Command1_MouseDown() { HelpOnWhatsThis(topic::kSlashModifiers); }
   void Command1_MouseMove() { layout_.ResetFramePointer(); }
   void mnuSlashModifier_Click(int index) { Command1_Click(index); }
   void mnuSlashModifierQ_Click() { Command1_Click(12); }
@@ -245,6 +261,7 @@ class Editor : public Form {
   void SetUpControls();
   void AttachList(ListBox& list);
   void SetUpToolbar();
+  void OpenFilesOfTheStart();
   void NewFile(Document& document);
   void OpenPrevious(std::string_view array, int index);
   void Remember(const Document& document);
@@ -252,6 +269,8 @@ class Editor : public Form {
   void ShowPopUp(std::string_view name);
   bool FindNext(const Document& document);
   void ShowQuickTip(bool show);
+  /// In what's-this mode a click asks for help instead, and ends the mode.
+  void HelpOnWhatsThis(int topic);
   void StepThroughHistory(void (UndoHistory::*step)());
 
   Application& application_;

@@ -102,7 +102,7 @@ void Mum::MDIForm_Load() {
   Toolbar1.Wrappable = settings.CanWrapToolbar != 0;
   MDIForm_Resize();
   if (settings.FlatToolbar == 1) MakeFlat();
-  application_.ShowEditor();
+  application_.ShowEditor(EditorBegins::WithTheFilesOfTheStart);
   if (settings.ShowTips == 1) application_.ShowModal(application_.Tool<frmTip>());
 }
 

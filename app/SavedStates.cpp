@@ -7,7 +7,7 @@ bool IsModified(const Document& document) { return document.Dirty == saved::kMod
 
 }  // namespace
 
-SavedStates::SavedStates(const Desk& desk, Mum& mum) : desk_(desk), mum_(mum) {
+void SavedStates::Follow() {
   const auto follow = [this](PropertyBase& property) {
     connections_.push_back(property.Changed.Connect([this] { Show(); }));
   };
@@ -16,9 +16,11 @@ SavedStates::SavedStates(const Desk& desk, Mum& mum) : desk_(desk), mum_(mum) {
     follow(document->Dirty);
   }
   follow(desk_.tabs.SelectedItem);
+  Show();
 }
 
-SavedStates::~SavedStates() {
+void SavedStates::Stop() {
+  connections_.clear();
   mum_.FileOnShow = std::string();
   mum_.Unsaved = false;
 }
@@ -27,7 +29,7 @@ void SavedStates::Show() {
   for (const Document* const document : {&desk_.joystick, &desk_.macro}) {
     desk_.TabOf(*document).Unsaved = IsModified(*document);
   }
-  mum_.FileOnShow = desk_.Active().Name;
+  mum_.FileOnShow = desk_.Active().Name.Get().Text();
   mum_.Unsaved = IsModified(desk_.Active());
 }
 

@@ -9,11 +9,12 @@ namespace tarvik {
 
 class SavedStates {
  public:
-  SavedStates(const Desk& desk, Mum& mum);
-  /// Without the files the frame has none on show.
-  ~SavedStates();
-  SavedStates(const SavedStates&) = delete;
-  SavedStates& operator=(const SavedStates&) = delete;
+  SavedStates(const Desk& desk, Mum& mum) : desk_(desk), mum_(mum) {}
+
+  /// From now on; the editor is loaded.
+  void Follow();
+  /// The frame shows no file any more.
+  void Stop();
 
  private:
   void Show();

@@ -202,7 +202,7 @@ void InsertOptions::Templates_MouseMove(const Mouse& mouse) {
 /// Over what is selected in the file, with its colours, as one step of undo. The caret goes behind it.
 void InsertOptions::InsertTemplate(Document& document) {
   if (TemplatesPreview.Characters().empty()) return;
-  document.Undo.Start = 1;
+  document.Undo.BeginCommand(application_.settings.UndoMax);
   document.text.ReplaceSelection(TemplatesPreview.Content());
   document.Caret = document.text.SelStart;
 }

@@ -56,7 +56,7 @@ void JoystickWiz::GoToStart() {
 
 /// One undo brings the text back.
 void JoystickWiz::StartOver() {
-  editor().Joystick.Undo.Start = 1;
+  editor().Joystick.Undo.BeginCommand(application_.settings.UndoMax);
   editor().JoystickText.Text = std::string();
   GoToStart();
   editor().mnuInsertTitle_Click();

@@ -82,7 +82,7 @@ void MacroMaker::Text1_KeyDown(Key& key) {
 /// the same step of undo.
 void MacroMaker::InsertMacro() {
   UndoHistory& history = editor().Macro.Undo;
-  history.Start = 1;
+  history.BeginCommand(application_.settings.UndoMax);
   WriteBlack(Preview.Caption);
   history.Start = 0;
   editor().insertion().InsertCarriageReturn();

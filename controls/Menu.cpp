@@ -3,6 +3,35 @@
 #include <algorithm>
 
 namespace tarvik {
+namespace {
+
+constexpr int kInsert = 45;
+constexpr int kDelete = 46;
+
+struct OlderKey {
+  Key key;
+  int letter;
+};
+constexpr OlderKey kOlderKeys[] = {
+    {{kDelete, shift::kShift}, 'X'}, {{kInsert, shift::kCtrl}, 'C'}, {{kInsert, shift::kShift}, 'V'}};
+
+/// The letter that the key is with Ctrl, or means; 0 where it is neither.
+int CtrlLetter(const Key& key) {
+  for (const OlderKey& older : kOlderKeys) {
+    if (older.key.code == key.code && older.key.shift == key.shift) return older.letter;
+  }
+  return key.shift == shift::kCtrl && key.code >= 'A' && key.code <= 'Z' ? key.code : 0;
+}
+
+}  // namespace
+
+bool Menus::RunCtrlLetter(const Key& key) const {
+  const int letter = CtrlLetter(key);
+  if (letter == 0) return false;
+  const MenuItem* const item = WithShortcut(std::string("Ctrl+") + static_cast<char>(letter));
+  if (item && item->Enabled) item->Click();
+  return item != nullptr;
+}
 
 void Menus::Fill(std::string_view array, const std::vector<std::string>& captions) {
   std::size_t at = 0;

@@ -69,13 +69,9 @@ class Menus {
     return nullptr;
   }
 
-  /// True when the key is a letter with Ctrl alone that is an entry's; the entry runs when it is enabled.
-  bool RunCtrlLetter(const Key& key) const {
-    if (key.shift != shift::kCtrl || key.code < 'A' || key.code > 'Z') return false;
-    const MenuItem* const item = WithShortcut(std::string("Ctrl+") + static_cast<char>(key.code));
-    if (item && item->Enabled) item->Click();
-    return item != nullptr;
-  }
+  /// True when the key is a letter with Ctrl alone that is an entry's, or one of the older keys of cut, copy and
+  /// paste, which mean the same; the entry runs when it is enabled.
+  bool RunCtrlLetter(const Key& key) const;
 
   /// For whatever shows the menus: the entry that the new one stands behind, and the new one.
   Signal<MenuItem&, MenuItem&> Loaded;

@@ -34,7 +34,7 @@ void Highlighter::Apply(Document& document) {
   desk_.Select(document);
   desk_.Say("Applying colour highlighting to " + caption + ". Please wait ...");
   desk_.ApplyLook(desk_.macro);
-  desk_.ApplyLook(desk_.joystick);
+  ApplyLookOfJoystick(document);
 
   MakePasses(document.text, document.IsJoystick() ? JoystickPasses() : MacroPasses(), desk_.settings,
              {desk_.status.Panels(1), desk_.progress, true});
@@ -44,6 +44,13 @@ void Highlighter::Apply(Document& document) {
   document.Undo.StoreLook();
   if (document.Dirty == saved::kSaved || copies_.Exists(document)) copies_.Save(document);
   desk_.Say("Done");
+}
+
+/// Colouring the macro file leaves the joystick pane's indent alone.
+void Highlighter::ApplyLookOfJoystick(const Document& coloured) {
+  if (coloured.IsJoystick()) return desk_.ApplyLook(desk_.joystick);
+  desk_.ApplyBackground(desk_.joystick);
+  ApplyFontOnly(desk_.joystick.text, desk_.settings);
 }
 
 void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settings,

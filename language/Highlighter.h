@@ -34,6 +34,8 @@ class Highlighter {
   void ColourSelection(Colour colour);
 
  private:
+  void ApplyLookOfJoystick(const Document& coloured);
+
   Desk& desk_;
   ColouredCopies& copies_;
 };

@@ -71,8 +71,8 @@ void PreviousFiles::UpdateFavouritesMenu() {
   SaveFavourites();
 }
 
-int PreviousFiles::TakeFavouriteToLoad() {
-  if (std::exchange(started_, true) || FavLoadOnStart != 1 || FavNameToLoad.Get().empty()) return 0;
+int PreviousFiles::FavouriteToLoad() const {
+  if (FavLoadOnStart != 1 || FavNameToLoad.Get().empty()) return 0;
   const std::vector<std::string> names = Favourites.Names();
   return static_cast<int>(names.rend() - std::find(names.rbegin(), names.rend(), FavNameToLoad.Get()));
 }

@@ -56,9 +56,8 @@ class PreviousFiles : public Component {
   void SaveFavourites();
   void UpdateFavouritesMenu();
   [[nodiscard]] bool IsFavOnMenuAlready(std::string_view name) const { return Favourites.Contains(name); }
-  /// The number of the favourite to load when the program starts, 0 for none. Asked again it is 0: an editor
-  /// that is closed and shown again is no start.
-  [[nodiscard]] int TakeFavouriteToLoad();
+  /// The number of the favourite to load when the program starts, 0 for none.
+  [[nodiscard]] int FavouriteToLoad() const;
 
   // Games.
   void GetGames() { Games.Read(); }
@@ -77,7 +76,6 @@ class PreviousFiles : public Component {
 
   Settings& settings_;
   Errors& errors_;
-  bool started_ = false;
 };
 
 }  // namespace tarvik

@@ -3,8 +3,8 @@
 namespace tarvik {
 
 std::vector<int> topic::All() {
-  std::vector<int> topics = {kContents,       kPimlet,      kDrives,   kJoystickAnalyser,
-                             kTemplateEditor, kImageViewer, kRawCodes, kSpiking};
+  std::vector<int> topics = {kContents,         kMacroLists,     kSlashModifiers, kPimlet,   kDrives,
+                             kJoystickAnalyser, kTemplateEditor, kImageViewer,    kRawCodes, kSpiking};
   const auto add = [&topics](const auto& pages) {
     topics.insert(topics.end(), std::begin(pages), std::end(pages));
   };

@@ -10,6 +10,8 @@ namespace tarvik {
 
 namespace topic {
 inline constexpr int kContents = 1000;
+inline constexpr int kMacroLists = 1200;
+inline constexpr int kSlashModifiers = 4020;
 inline constexpr int kFindPages[] = {3110, 3120, 3130};
 inline constexpr int kPimlet = 5210;
 inline constexpr int kPreferencesPages[] = {5305, 5310, 5315, 5320, 5325, 5330};

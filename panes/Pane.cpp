@@ -145,6 +145,23 @@ void Pane::UserReplaced(Range range, std::string_view text) {
   SelChange();
 }
 
+void Pane::UserMoved(Range from, std::size_t to) {
+  const Range moved = Clipped(from);
+  if (moved.length == 0 || to > content_.size() || (to >= moved.start && to <= moved.End())) return;
+  const Range between = to < moved.start ? Range{to, moved.start - to} : Range{moved.End(), to - moved.End()};
+  const bool back = to < moved.start;
+  RichText result;
+  for (const Range& part : {back ? moved : between, back ? between : moved}) {
+    result.text.append(content_.text, part.start, part.length);
+    result.colours.Append(content_.colours, part);
+  }
+  Replace({std::min(moved.start, to), moved.length + between.length}, result);
+  if (back) selection_ = {to + moved.length, 0};
+  SelectionChanged();
+  Change();
+  SelChange();
+}
+
 Colour Pane::InsertionColour() const {
   if (selection_.length) return content_.colours.At(selection_.start);
   if (nextColour_) return *nextColour_;

@@ -62,6 +62,9 @@ class Pane : public Control {
   void ReplaceSelection(const RichText& content);
   /// What a user's typing, dropping or deleting on screen did to the text.
   void UserReplaced(Range range, std::string_view text);
+  /// The user dragged a part of the text to another place, colours and all: one change. The caret stands
+  /// behind it. Within the part itself nothing happens.
+  void UserMoved(Range from, std::size_t to);
 
   // Searching and lines.
 

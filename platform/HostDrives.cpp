@@ -30,7 +30,7 @@ HostDrives::HostDrives(const fs::path& own) : ownDrive_(own / "drive_c") {
   for (char letter = 'a'; letter <= 'z'; ++letter) {
     drives_.SetFolder(letter, stored.GetString("Drives", std::string(1, letter), "", kLongestPath));
   }
-  if (!drives_.HostFolders().contains('c')) Remove('c');
+  if (!drives_.HostFolders().contains('c')) drives_.SetFolder('c', ownDrive_.string());
 }
 
 std::vector<Drive> HostDrives::All() const {
@@ -49,10 +49,15 @@ Outcome<> HostDrives::Set(char letter, const std::string& folder) {
 }
 
 void HostDrives::Remove(char letter) {
-  const bool own = letter == 'c';
+  drives_.SetFolder(letter, letter == 'c' ? ownDrive_.string() : "");
+  MakeOwnDrive();
+}
+
+void HostDrives::MakeOwnDrive() const {
+  const auto& folders = drives_.HostFolders();
+  const auto c = folders.find('c');
   std::error_code ignored;  // a program in a folder that cannot be written to has an empty drive c
-  if (own) fs::create_directory(ownDrive_, ignored);
-  drives_.SetFolder(letter, own ? ownDrive_.string() : "");
+  if (c != folders.end() && c->second == ownDrive_) fs::create_directory(ownDrive_, ignored);
 }
 
 }  // namespace tarvik

@@ -20,6 +20,8 @@ class HostDrives : public DriveFolders {
   [[nodiscard]] std::vector<Drive> All() const override;
   Outcome<> Set(char letter, const std::string& folder) override;
   void Remove(char letter) override;
+  /// Makes drive c's folder beside the executable, where it is that one.
+  void MakeOwnDrive() const;
   std::string FromHost(const std::string& path) override { return drives_.FromHost(path); }
 
   /// For those that look files up.

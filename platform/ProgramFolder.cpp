@@ -8,6 +8,7 @@
 #include <fstream>
 #include <map>
 #include <string>
+#include <utility>
 
 namespace tarvik {
 namespace {
@@ -86,7 +87,7 @@ void WriteRecord(const Record& record, const fs::path& file) {
 
 /// A file that was never copied comes if it is not there; one that was is replaced by a newer version if it
 /// is still as it was copied.
-void Fill(const fs::path& own, const fs::path& installed, const fs::path& executable) {
+void FillFolder(const fs::path& own, const fs::path& installed, const fs::path& executable) {
   const Record before = ReadRecord(own / kRecord);
   Record record = before;
   std::error_code failure;
@@ -113,7 +114,7 @@ fs::path NewTemporaryFolder() {
 }  // namespace
 
 ProgramFolder::ProgramFolder(const fs::path& executable, const fs::path& usersOwn)
-    : path_(executable.parent_path()) {
+    : path_(executable.parent_path()), executable_(executable) {
   if (!HasData(path_)) {
     path_ = (path_ / "../share/tarvik").lexically_normal();
   } else if (CanWrite(path_)) {
@@ -124,8 +125,11 @@ ProgramFolder::ProgramFolder(const fs::path& executable, const fs::path& usersOw
   lasts_ = CanWrite(usersOwn);
   const fs::path own = lasts_ ? usersOwn : NewTemporaryFolder();
   if (own.empty()) return;
-  Fill(own, path_, executable);
-  path_ = own;
+  installed_ = std::exchange(path_, own);
+}
+
+void ProgramFolder::Fill() const {
+  if (!installed_.empty()) FillFolder(path_, installed_, executable_);
 }
 
 fs::path ProgramFolder::UsersOwn() {

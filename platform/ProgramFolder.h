@@ -9,20 +9,25 @@ namespace tarvik {
 class ProgramFolder {
  public:
   /// What is installed lies beside the executable or in `../share/tarvik` from there. The user's folder is
-  /// made and filled where it is needed: with files that it never got, and with newer versions of what the
-  /// user has left as it was. What was changed or deleted there stays so.
+  /// made where it is needed.
   ProgramFolder(const std::filesystem::path& executable, const std::filesystem::path& usersOwn);
+
+  /// Fills the user's folder with files that it never got, and with newer versions of what the user has left
+  /// as it was. What was changed or deleted there stays so. Only for the one program that uses the folder.
+  void Fill() const;
 
   /// `$XDG_DATA_HOME/tarvik`, or `.local/share/tarvik` in the user's home; empty for a user without a home.
   [[nodiscard]] static std::filesystem::path UsersOwn();
 
-  /// Where the user's folder cannot be written it is a new temporary one, filled likewise.
+  /// Where the user's folder cannot be written it is a new temporary one.
   [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
   /// False for a temporary folder: the next start will not know of it.
   [[nodiscard]] bool Lasts() const { return lasts_; }
 
  private:
   std::filesystem::path path_;
+  std::filesystem::path executable_;
+  std::filesystem::path installed_;  // what fills the user's folder; empty where the program has its own
   bool lasts_ = true;
 };
 

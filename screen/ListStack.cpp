@@ -1,11 +1,13 @@
 #include "screen/ListStack.h"
 
+#include <QApplication>
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <algorithm>
+#include <cstdlib>
 
 #include "screen/Icons.h"
 #include "screen/Text.h"
@@ -81,7 +83,6 @@ ListStack::ListStack(Bindings& bindings, const QString& name, bool ticks)
   setModel(&model_);
   if (ticks) setItemDelegate(new TickDelegate(*this));
   setUniformItemSizes(true);
-  setDragEnabled(true);
   setMouseTracking(true);
   setEditTriggers(NoEditTriggers);
   setAccessibleName(name);
@@ -203,17 +204,38 @@ void ListStack::currentChanged(const QModelIndex& current, const QModelIndex& pr
 }
 
 void ListStack::mousePressEvent(QMouseEvent* event) {
+  press_ = event->button() == Qt::LeftButton ? std::optional(event->pos()) : std::nullopt;
   QListView::mousePressEvent(event);
   if (const QModelIndex under = indexAt(event->pos()); under.isValid()) setCurrentIndex(under);
   if (front_) front_->MouseDown(ToMouse(*event));
 }
 
+/// Across the list the pointer takes the item in hand along. When it goes aside or leaves the list a drag
+/// begins, which ends before this returns: nothing of the movement may be told behind its drop.
 void ListStack::mouseMoveEvent(QMouseEvent* event) {
-  QListView::mouseMoveEvent(event);
+  const bool held = press_ && event->buttons() & Qt::LeftButton;
+  if (held && BeginsDrag(event->pos())) {
+    press_.reset();
+    startDrag(Qt::CopyAction);
+    return;
+  }
+  if (held) {
+    if (const QModelIndex under = indexAt(event->pos()); under.isValid()) setCurrentIndex(under);
+  } else {
+    QListView::mouseMoveEvent(event);
+  }
   if (front_) front_->MouseMove(ToMouse(*event));
 }
 
+bool ListStack::BeginsDrag(const QPoint& place) const {
+  const QPoint way = place - *press_;
+  const bool aside =
+      std::abs(way.x()) >= QApplication::startDragDistance() && std::abs(way.x()) > std::abs(way.y());
+  return currentIndex().isValid() && (aside || !viewport()->rect().contains(place));
+}
+
 void ListStack::mouseReleaseEvent(QMouseEvent* event) {
+  press_.reset();
   QListView::mouseReleaseEvent(event);
   if (front_) front_->MouseUp(ToMouse(*event));
 }

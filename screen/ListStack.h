@@ -63,12 +63,15 @@ class ListStack : public QListView {
   void BringUpToDate();
   void ShowItems();
   void ShowIndex();
+  /// Whether the pointer, which went down in the list, has gone where a drag begins.
+  [[nodiscard]] bool BeginsDrag(const QPoint& place) const;
 
   Bindings& bindings_;
   ListModel model_;
   std::vector<Shown> stack_;  // the last one is on top
   ListBox* front_ = nullptr;
   bool showing_ = false;
+  std::optional<QPoint> press_;  // where the left button went down
 };
 
 }  // namespace tarvik::screen

@@ -128,14 +128,7 @@ void PaneView::dropEvent(QDropEvent* event) {
 
 /// Its colours go with it.
 void PaneView::MoveSelectionTo(const QPoint& place) {
-  const Range from = pane_.Selection();
-  const std::size_t to = PanePosition(cursorForPosition(place).position());
-  if (to >= from.start && to <= from.End()) return;
-  const RichText moved(pane_.Content().text.substr(from.start, from.length),
-                       pane_.Content().colours.Slice(from));
-  pane_.ReplaceSelection({});
-  pane_.SelStart = to > from.start ? to - from.length : to;
-  pane_.ReplaceSelection(moved);
+  pane_.UserMoved(pane_.Selection(), PanePosition(cursorForPosition(place).position()));
 }
 
 void PaneView::mousePressEvent(QMouseEvent* event) {

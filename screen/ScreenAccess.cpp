@@ -247,16 +247,41 @@ unsigned ScreenAccess::ColourAt(const PlotBox& picture, float x, float y) const 
   return view ? view->ColourAt(x, y) : picture.BackColor.Get();
 }
 
+void ScreenAccess::Mouse(QEvent::Type act, const Control& control, const tarvik::Mouse& mouse) {
+  constexpr Qt::MouseButton kButtons[] = {Qt::NoButton, Qt::LeftButton, Qt::RightButton};
+  constexpr int kKinds = static_cast<int>(std::size(kButtons));
+  QWidget* const widget = WidgetOf(control);
+  if (!widget) return;
+  const Qt::MouseButton button = mouse.button < kKinds ? kButtons[mouse.button] : Qt::MiddleButton;
+  const bool moves = act == QEvent::MouseMove;
+  const Qt::MouseButtons down = act == QEvent::MouseButtonRelease ? Qt::NoButton : button;
+  Qt::KeyboardModifiers modifiers;
+  modifiers.setFlag(Qt::ShiftModifier, (mouse.shift & shift::kShift) != 0);
+  modifiers.setFlag(Qt::ControlModifier, (mouse.shift & shift::kCtrl) != 0);
+  QWidget& surface = Surface(*widget);
+  const QPointF place(mouse.x / kTwips, mouse.y / kTwips);
+  QMouseEvent event(act, place, surface.mapToGlobal(place), moves ? Qt::NoButton : button, down, modifiers);
+  QApplication::sendEvent(&surface, &event);
+  Settle();
+}
+
+/// The hand goes down on the item and out of the list, where the drag begins. The platform without a screen
+/// has no drag of its own: what would arrive in the pane is sent there.
 void ScreenAccess::Drop(ListBox& from, Pane& to, std::size_t position) {
   auto* const view = dynamic_cast<PaneView*>(WidgetOf(to));
-  if (!view || !WidgetOf(from)) return;
-  from.OLEStartDrag();
+  QWidget* const list = WidgetOf(from);
+  if (!view || !list) return;
+  QWidget& surface = Surface(*list);
+  const QPointF start = PlaceToClick(*list);
+  SendMouse(surface, QEvent::MouseButtonPress, start, Qt::LeftButton);
+  SendMouse(surface, QEvent::MouseMove, start + QPointF(1, 0), Qt::LeftButton);
+  SendMouse(surface, QEvent::MouseMove, QPointF(surface.width() + 1, start.y()), Qt::LeftButton);
   QMimeData data;
   data.setText(ToScreen(from.DragText.Get()));
-  const QRect caret = view->CaretAt(position);
-  QDragEnterEvent enter(caret.center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  const QPoint place = view->CaretAt(position).center();
+  QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(view->viewport(), &enter);
-  QDropEvent drop(QPointF(caret.center()), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QDropEvent drop(QPointF(place), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(view->viewport(), &drop);
   Settle();
 }

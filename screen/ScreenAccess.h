@@ -34,6 +34,8 @@ class ScreenAccess {
   /// Its way down alone, or up alone; also of a modifier: "Shift", "Ctrl+Alt".
   void KeyDown(Component& component, std::string_view chord);
   void KeyUp(Component& component, std::string_view chord);
+  /// A press, a move or a release of the mouse at a place of the control, in twips.
+  void Mouse(QEvent::Type act, const Control& control, const tarvik::Mouse& mouse);
   /// Drags the list's current item as text to a position in a pane.
   void Drop(ListBox& from, Pane& to, std::size_t position);
   [[nodiscard]] bool HasFocus(const Control& control) const;

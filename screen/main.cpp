@@ -51,18 +51,34 @@ screen::FileLook LookOf(const Settings& settings) {
 }
 
 /// Where nothing can be kept the user learns of it, and goes on.
-fs::path HomeOfProgram() {
-  const fs::path own = ProgramFolder::UsersOwn();
-  const ProgramFolder folder(Host(QApplication::applicationFilePath()), own);
-  if (!folder.Lasts()) {
-    QMessageBox::warning(
-        nullptr, QStringLiteral("Tarvik"),
-        QStringLiteral("Tarvik can't write to its folder %1. Settings, backups and coloured copies "
-                       "go to %2 this time, which does not last. Your files are not concerned.")
-            .arg(QFile::decodeName(own.c_str()), QFile::decodeName(folder.Path().c_str())));
-  }
-  return folder.Path();
+void TellIfNothingLasts(const ProgramFolder& folder) {
+  if (folder.Lasts()) return;
+  QMessageBox::warning(
+      nullptr, QStringLiteral("Tarvik"),
+      QStringLiteral("Tarvik can't write to its folder %1. Settings, backups and coloured copies "
+                     "go to %2 this time, which does not last. Your files are not concerned.")
+          .arg(QFile::decodeName(ProgramFolder::UsersOwn().c_str()),
+               QFile::decodeName(folder.Path().c_str())));
 }
+
+/// Nothing is written to the program's folder before its lock is held: a second start leaves all as it is.
+class FirstInFolder : public SingleInstance {
+ public:
+  FirstInFolder(const ProgramFolder& folder, const HostDrives& drives)
+      : folder_(folder), drives_(drives), lock_(folder.Path() / "tarvik.lock") {}
+
+  bool Acquire() override {
+    if (!lock_.Acquire()) return false;
+    folder_.Fill();
+    drives_.MakeOwnDrive();
+    return true;
+  }
+
+ private:
+  const ProgramFolder& folder_;
+  const HostDrives& drives_;
+  InstanceLock lock_;
+};
 
 }  // namespace
 
@@ -75,12 +91,14 @@ int main(int argc, char* argv[]) {
   screen::ChooseIconTheme();
   QApplication::setWindowIcon(screen::Icon("tarvik"));
 
-  const fs::path home = HomeOfProgram();
+  const ProgramFolder folder(Host(QApplication::applicationFilePath()), ProgramFolder::UsersOwn());
+  TellIfNothingLasts(folder);
+  const fs::path& home = folder.Path();
   HostDrives driveFolders(home);
   Drives& drives = driveFolders.Paths();
   HostFiles files(drives);
   screen::QtDialogs dialogs(drives);
-  InstanceLock lock(home / "tarvik.lock");
+  FirstInFolder lock(folder, driveFolders);
   screen::QtClipboard clipboard;
   screen::QtHelp help(files);
   screen::QtPrinter printer;

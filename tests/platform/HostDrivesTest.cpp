@@ -39,14 +39,19 @@ TEST_F(HostDrivesTest, AStartReadsTheSettingsFileHoweverItsNameIsWritten) {
   for (const char* const name : {"own/tarvik.ini", "own/Tarvik.ini"}) {
     const fs::path ini = folder.Put(name, "[Drives]\r\nC=" + Host("dos") + "\r\nd=" + Host("gone") +
                                               "\r\ne=\r\nz=" + Host("cd") + "\r\n");
-    EXPECT_THAT(Listed(HostDrives(Host("own")), folder.path()), ElementsAre("c=dos", "d=gone!", "z=/"));
+    const HostDrives drives(Host("own"));
+    drives.MakeOwnDrive();
+    EXPECT_THAT(Listed(drives, folder.path()), ElementsAre("c=dos", "d=gone!", "z=/"));
     fs::remove(ini);
   }
   EXPECT_FALSE(fs::exists(Host("own/drive_c")));
 }
 
 TEST_F(HostDrivesTest, WithoutAWordOfItDriveCIsAFolderBesideTheProgram) {
-  EXPECT_THAT(Listed(HostDrives(Host("own")), folder.path()), ElementsAre("c=own/drive_c", "z=/"));
+  const HostDrives drives(Host("own"));
+  EXPECT_FALSE(fs::exists(Host("own/drive_c"))) << "another program may have the folder";
+  drives.MakeOwnDrive();
+  EXPECT_THAT(Listed(drives, folder.path()), ElementsAre("c=own/drive_c", "z=/"));
   EXPECT_TRUE(fs::is_directory(Host("own/drive_c")));
 }
 

@@ -34,7 +34,9 @@ class ProgramFolderTest : public testing::Test {
     fs::permissions(temporary.path() / folder, permissions, ignored);
   }
   ProgramFolder Start(const std::string& executable = "usr/bin/tarvik") const {
-    return {temporary.path() / executable, own};
+    ProgramFolder folder(temporary.path() / executable, own);
+    folder.Fill();
+    return folder;
   }
   [[nodiscard]] std::string Own(const std::string& name) const {
     return TemporaryFolder::Content(own / name);
@@ -53,6 +55,14 @@ TEST_F(ProgramFolderTest, AFolderThatHasTheDataAndCanBeWrittenIsTheOne) {
   EXPECT_EQ(folder.Path(), temporary.path() / "portable");
   EXPECT_TRUE(folder.Lasts());
   EXPECT_FALSE(fs::exists(own));
+}
+
+TEST_F(ProgramFolderTest, NothingIsCopiedBeforeTheFolderIsToBeFilled) {
+  const ProgramFolder folder(temporary.path() / "usr/bin/tarvik", own);
+  EXPECT_EQ(folder.Path(), own);
+  EXPECT_TRUE(fs::is_empty(own));
+  folder.Fill();
+  EXPECT_EQ(Own("tarvik.hlp"), "help");
 }
 
 TEST_F(ProgramFolderTest, TheFirstStartOfAnInstalledProgramFillsTheUsersFolder) {

@@ -9,6 +9,9 @@
 
 namespace tarvik::session {
 
+/// What the pointer does.
+enum class Pointer { Down, Move, Up };
+
 class Driver {
  public:
   virtual ~Driver() = default;
@@ -31,6 +34,9 @@ class Driver {
   virtual unsigned ColourAt(PlotBox& picture, float x, float y) = 0;
   /// The close box of a window.
   virtual void Close(Form& form) = 0;
+  /// At a place of a control, in twips; while it moves, `mouse` tells the buttons that are down.
+  virtual void Mouse(Pointer act, Control& control, const tarvik::Mouse& mouse) = 0;
+  /// Drags the current item of a list to a place in a pane.
   virtual void Drop(ListBox& from, Pane& pane, std::size_t position) = 0;
   /// Whether the control has its window's focus.
   virtual bool HasFocus(const Control& control) = 0;

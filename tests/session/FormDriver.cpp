@@ -324,7 +324,16 @@ class FormDriver : public Driver {
     }
   }
 
+  void Mouse(Pointer act, Control& control, const tarvik::Mouse& mouse) override {
+    if (act == Pointer::Down) control.MouseDown(mouse);
+    if (act == Pointer::Move) control.MouseMove(mouse);
+    if (act == Pointer::Up) control.MouseUp(mouse);
+  }
+
+  /// The button goes down on the item and moves on over it; behind the drop the list hears of nothing.
   void Drop(ListBox& from, Pane& pane, std::size_t position) override {
+    from.MouseDown({1, 0, 0, 0});
+    from.MouseMove({1, 0, 0, 0});
     from.OLEStartDrag();
     pane.Select({position, 0});
     if (!pane.Locked) pane.UserReplaced({position, 0}, from.DragText.Get());

@@ -517,14 +517,13 @@ void Runner::Drag(const Line& line) {
   driver_->Drop(*list, *FindAs<Pane>(Word(line, 3)), std::stoul(Word(line, 4)));
 }
 
-/// mouse down|move|up CONTROL BUTTON X Y [SHIFT], in twips
+/// The button's number, the place in twips, and the shift state.
 void Runner::Mouse(const Line& line) {
-  auto* control = FindAs<Control>(Word(line, 2));
-  const tarvik::Mouse mouse{std::stoi(Word(line, 3)), line.words.size() > 6 ? std::stoi(line.words[6]) : 0,
-                            std::stof(Word(line, 4)), std::stof(Word(line, 5))};
-  if (line.words[1] == "down") control->MouseDown(mouse);
-  if (line.words[1] == "move") control->MouseMove(mouse);
-  if (line.words[1] == "up") control->MouseUp(mouse);
+  const std::map<std::string_view, Pointer> acts = {
+      {"down", Pointer::Down}, {"move", Pointer::Move}, {"up", Pointer::Up}};
+  const int shift = line.words.size() > 6 ? Number(line, 6) : 0;
+  driver_->Mouse(acts.at(Word(line, 1)), *FindAs<Control>(Word(line, 2)),
+                 {Number(line, 3), shift, std::stof(Word(line, 4)), std::stof(Word(line, 5))});
 }
 
 void Runner::Set(const Line& line) {

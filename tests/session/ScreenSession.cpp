@@ -37,6 +37,11 @@ class ScreenDriver : public Driver {
   }
   void Resize(Form& form, float width, float height) override { access_.Resize(form, width, height); }
   unsigned ColourAt(PlotBox& picture, float x, float y) override { return access_.ColourAt(picture, x, y); }
+  void Mouse(Pointer act, Control& control, const tarvik::Mouse& mouse) override {
+    constexpr QEvent::Type kActs[] = {QEvent::MouseButtonPress, QEvent::MouseMove,
+                                      QEvent::MouseButtonRelease};
+    access_.Mouse(kActs[static_cast<int>(act)], control, mouse);
+  }
   void Drop(ListBox& from, Pane& pane, std::size_t position) override { access_.Drop(from, pane, position); }
   bool HasFocus(const Control& control) override {
     access_.Settle();
