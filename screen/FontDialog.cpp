@@ -45,7 +45,7 @@ FontDialog::FontDialog(const FontChoice& shown, bool fixedPitch, QWidget* parent
   bold_->setChecked(shown.bold);
   ListFamilies(fixedPitch);
   LayOut();
-  connect(families_, &QListWidget::currentRowChanged, this, [this] { ShowSample(); });
+  connect(families_, &QListWidget::itemSelectionChanged, this, [this] { ShowSample(); });
   connect(size_, &QSpinBox::valueChanged, this, [this] { ShowSample(); });
   connect(bold_, &QCheckBox::toggled, this, [this] { ShowSample(); });
   connect(families_, &QListWidget::itemDoubleClicked, this, [this] { accept(); });
@@ -68,8 +68,9 @@ void FontDialog::ListFamilies(bool fixedPitch) {
 void FontDialog::LayOut() {
   sample_->setFrameShape(QFrame::StyledPanel);
   sample_->setAlignment(Qt::AlignCenter);
-  sample_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);  // large letters don't widen the window
-  sample_->setMinimumSize(kSampleSize);
+  sample_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // large letters don't widen the window
+  sample_->setMinimumWidth(kSampleSize.width());
+  sample_->setFixedHeight(kSampleSize.height());
   size_->setAccessibleName(tr("Size"));
   auto* const look = new QFormLayout;
   look->addRow(tr("&Size:"), size_);
@@ -87,8 +88,9 @@ void FontDialog::LayOut() {
 }
 
 FontChoice FontDialog::Choice() const {
-  const QListWidgetItem* const family = families_->currentItem();
-  return {family ? FromScreen(family->text()) : shown_.name, size_->value(), bold_->isChecked()};
+  const QList<QListWidgetItem*> family = families_->selectedItems();
+  return {family.isEmpty() ? shown_.name : FromScreen(family.constFirst()->text()), size_->value(),
+          bold_->isChecked()};
 }
 
 void FontDialog::ShowSample() { sample_->setFont(FontOf(Choice())); }

@@ -45,9 +45,10 @@ bool IsWhole(const QString& path) {
          file.readAll().contains("%%EOF");
 }
 
+/// Letters too large for a page are the caller's to notice.
 QFont FontOf(const std::string& name, float points, bool bold) {
   QFont font(ToScreen(name));
-  font.setPixelSize(qRound(ToScreenSize(points) * kTwipsPerPoint));
+  font.setPixelSize(qRound((points < 1 ? ToScreenSize(points) : points) * kTwipsPerPoint));
   font.setBold(bold);
   font.setHintingPreference(QFont::PreferNoHinting);
   return font;
