@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QStyleOptionToolButton>
+#include <algorithm>
 
 #include "screen/Text.h"
 
@@ -102,7 +103,9 @@ QSize ToolbarView::sizeHint() const { return {width(), heightForWidth(width())};
 QSize ToolbarView::minimumSizeHint() const { return {4 * kButton, kButton + 2 * kMargin}; }
 
 bool ToolbarView::event(QEvent* event) {
-  if (event->type() == QEvent::WindowDeactivate || event->type() == QEvent::WindowBlocked) PutOutLights();
+  constexpr QEvent::Type kLeaving[] = {QEvent::WindowDeactivate, QEvent::WindowBlocked, QEvent::Hide};
+  if (std::find(std::begin(kLeaving), std::end(kLeaving), event->type()) != std::end(kLeaving))
+    PutOutLights();
   return QWidget::event(event);
 }
 

@@ -11,6 +11,7 @@
 #include <QUrl>
 
 #include "app/Editor.h"
+#include "hardware/RAWform.h"
 #include "language/TemplateForm.h"
 #include "output/Tips.h"
 #include "screen/MumWindow.h"
@@ -168,11 +169,25 @@ TEST_F(FileWindow, TheTemplateEditorNamesItsFileAndMarksUnsavedWork) {
 
 TEST_F(FileWindow, AButtonDoesNotStayLitBehindAWindow) {
   auto& button = *dynamic_cast<QToolButton*>(screen.Find(application.mum().Toolbar1.Buttons(1)));
-  QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), button.mapToGlobal(QPointF(5, 5)));
-  QApplication::sendEvent(&button, &enter);
-  ASSERT_TRUE(button.underMouse());
-  application.Tool<TemplateForm>().ShowText();
+  const auto hover = [&button] {
+    QEnterEvent enter(QPointF(5, 5), QPointF(5, 5), button.mapToGlobal(QPointF(5, 5)));
+    QApplication::sendEvent(&button, &enter);
+    return button.underMouse();
+  };
+  ASSERT_TRUE(hover());
+  application.Tool<RAWform>().Show();
   QApplication::processEvents();
+  EXPECT_FALSE(button.underMouse());
+  Frame().activateWindow();
+  ASSERT_TRUE(hover());
+  auto& about = application.Tool<frmAbout>();
+  about.Modal = true;
+  about.Visible = true;
+  QApplication::processEvents();
+  EXPECT_FALSE(button.underMouse());
+  about.Visible = false;
+  ASSERT_TRUE(hover());
+  application.mum().Toolbar1.Visible = false;
   EXPECT_FALSE(button.underMouse());
 }
 

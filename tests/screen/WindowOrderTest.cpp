@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QWindow>
+#include <stdexcept>
 
 #include "app/Editor.h"
 #include "hardware/RAWform.h"
@@ -56,6 +57,14 @@ class WindowOrderTest : public testing::Test {
     return onTop;
   }
 
+  QWidget& ShowHelp() {
+    help.ShowContext("c:\\tarvik\\tarvik.hlp", 1);
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+      if (window->isVisible() && dynamic_cast<HelpWindow*>(window)) return *window;
+    }
+    throw std::logic_error("no help");
+  }
+
   QWidget& WindowOf(const Form& form) { return *dynamic_cast<QWidget*>(screen.ViewOf(form)); }
 
  private:
@@ -87,14 +96,7 @@ TEST_F(WindowOrderTest, AModalToolLiesAboveIt) {
 }
 
 TEST_F(WindowOrderTest, TheHelpLiesAboveItAsLongAsItIsOnTop) {
-  const auto shown = [&]() -> const QWidget& {
-    help.ShowContext("c:\\tarvik\\tarvik.hlp", 1);
-    for (const QWidget* const window : QApplication::topLevelWidgets()) {
-      if (dynamic_cast<const HelpWindow*>(window)) return *window;
-    }
-    return *QApplication::activeWindow();
-  };
-  const QWidget& window = shown();
+  const QWidget& window = ShowHelp();
   EXPECT_TRUE(IsOnTop(window));
   ShowPimlet(false);
   EXPECT_FALSE(IsOnTop(window));
@@ -105,12 +107,10 @@ TEST_F(WindowOrderTest, TheHelpLiesAboveItAsLongAsItIsOnTop) {
 }
 
 TEST_F(WindowOrderTest, MinimisedHelpComesBack) {
-  help.ShowContext("c:\\tarvik\\tarvik.hlp", 1);
-  QWidget* const window = QApplication::activeWindow();
-  ASSERT_TRUE(dynamic_cast<HelpWindow*>(window));
-  window->showMinimized();
+  QWidget& window = ShowHelp();
+  window.showMinimized();
   help.ShowKeyword("c:\\tarvik\\tarvik.hlp", "BTN");
-  EXPECT_FALSE(window->isMinimized());
+  EXPECT_FALSE(window.isMinimized());
 }
 
 TEST_F(WindowOrderTest, WithoutSuchAToolNothingIsOnTop) {
