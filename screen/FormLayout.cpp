@@ -16,6 +16,7 @@
 #include "screen/ImageView.h"
 #include "screen/ListStack.h"
 #include "screen/PaneView.h"
+#include "screen/PathLabel.h"
 #include "screen/PlotView.h"
 #include "screen/Text.h"
 
@@ -39,6 +40,15 @@ QLayout* Fill(QBoxLayout* layout, std::initializer_list<Piece> pieces) {
 class Button : public QPushButton {
  public:
   Button() { setAutoDefault(false); }
+
+  /// With air on both sides of its words.
+  [[nodiscard]] QSize sizeHint() const override {
+    constexpr int kAir = 12;
+    const int icon = this->icon().isNull() ? 0 : iconSize().width();
+    const int words = fontMetrics().horizontalAdvance(QString(text()).remove(u'&'));
+    return QPushButton::sizeHint().expandedTo({words + icon + (words > 0 ? 2 * kAir : 0), 0});
+  }
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
@@ -132,6 +142,12 @@ QWidget* FormLayout::Show(OptionButton& button) const { return Shown<QRadioButto
 
 QWidget* FormLayout::Show(ToggleLabel& label) const { return Shown<Button>(bindings_, label); }
 QWidget* FormLayout::Show(Label& label) const { return Shown<QLabel>(bindings_, label); }
+
+QWidget* FormLayout::ShowPath(Label& label) const {
+  QWidget* const path = Shown<PathLabel>(bindings_, label);
+  path->setAutoFillBackground(false);
+  return path;
+}
 
 QWidget* FormLayout::Show(PlotBox& box) const { return new PlotView(box, bindings_); }
 QWidget* FormLayout::Show(ImageBox& box) const { return new ImageView(box, bindings_); }

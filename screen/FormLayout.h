@@ -29,6 +29,8 @@ class FormLayout {
   QWidget* Show(CommandButton& button) const;
   QWidget* Show(ToggleLabel& label) const;
   QWidget* Show(Label& label) const;
+  /// A label whose text is a path, or has one in it.
+  QWidget* ShowPath(Label& label) const;
   QWidget* Show(Pane& pane) const;
   QWidget* Show(ComboBox& box) const;
   QWidget* Show(ListBox& list) const;

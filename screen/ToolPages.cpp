@@ -229,31 +229,16 @@ QLayout* PicturePage(Form& form, Control& picture, QWidget* shown, const QString
 
 QLayout* Page(ProgramWait& form, const FormLayout& in) {
   constexpr int kWidth = 460;
-  auto* const text = static_cast<QLabel*>(in.Show(form.Label1));
-  text->setAutoFillBackground(false);
-  text->setTextFormat(Qt::PlainText);
-  text->setWordWrap(true);
+  QWidget* const text = in.ShowPath(form.Label1);
   text->setMinimumWidth(kWidth);
   return Column({text, Stretch(), Row({Stretch(), in.Show(form.Command1)})});
-}
-
-/// A path, cut in its middle where it is long; the tool tip has all of it.
-QWidget* PathOf(Label& label, const FormLayout& in) {
-  constexpr int kWidth = 360;
-  auto* const path = qobject_cast<QLabel*>(in.Show(label));
-  path->setToolTip(path->text());
-  path->setTextFormat(Qt::PlainText);
-  path->setText(path->fontMetrics().elidedText(path->text(), Qt::ElideMiddle, kWidth));
-  path->setMinimumWidth(kWidth);
-  path->setAutoFillBackground(false);
-  return path;
 }
 
 QLayout* Page(EnterFavouritename& form, const FormLayout& in) {
   auto* const fields = new QFormLayout;
   fields->addRow(QStringLiteral("Name:"), in.Show(form.Text1));
-  fields->addRow(new QLabel(QStringLiteral("Joystick file:")), PathOf(form.Label1, in));
-  fields->addRow(new QLabel(QStringLiteral("Macro file:")), PathOf(form.Label2, in));
+  fields->addRow(new QLabel(QStringLiteral("Joystick file:")), in.ShowPath(form.Label1));
+  fields->addRow(new QLabel(QStringLiteral("Macro file:")), in.ShowPath(form.Label2));
   return Column({fields, Stretch(), Row({Stretch(), in.Show(form.Command1), in.Show(form.Command2)})});
 }
 
@@ -365,7 +350,7 @@ QLayout* Page(SelectPictureForm& form, const FormLayout& in) {
   preview->setFocusPolicy(Qt::NoFocus);
   return Column({Row({Column({Above("Drive", in.Show(form.Drive1)), Above("Folders", folders)}),
                       Above("Pictures", pictures), preview}),
-                 in.Show(form.Label1), Row({Stretch(), in.Show(form.Command2), in.Show(form.Command1)})});
+                 in.ShowPath(form.Label1), Row({Stretch(), in.Show(form.Command2), in.Show(form.Command1)})});
 }
 
 template <class F>

@@ -3,8 +3,11 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QStackedWidget>
+#include <QTabWidget>
 #include <QTimer>
 #include <QWindow>
+#include <algorithm>
 
 #include "screen/Text.h"
 #include "screen/WindowFocus.h"
@@ -18,12 +21,23 @@ constexpr int kFromTheTop = 120;
 constexpr int kNormal = 0;
 constexpr int kMinimised = 1;
 
+/// Whether there is anything in the window that makes use of more room: a list, a text, a picture. What only
+/// holds others does not count.
+bool Grows(const QWidget& window) {
+  const QList<QWidget*> parts = window.findChildren<QWidget*>();
+  return std::any_of(parts.begin(), parts.end(), [](const QWidget* part) {
+    const bool holds = qobject_cast<const QTabWidget*>(part) || qobject_cast<const QStackedWidget*>(part);
+    return !holds && (part->sizePolicy().expandingDirections() & Qt::Vertical);
+  });
+}
+
 }  // namespace
 
 ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame,
                        Clock clock)
     : QDialog(&frame), FormView(form), application_(application), frame_(frame) {
   setLayout(makePage(FormLayout(bindings_)));
+  if (!Grows(*this)) layout()->setSizeConstraint(QLayout::SetFixedSize);
   if (const Menus* const menus = form.MenuBar()) MakeMenuBar(*menus);
   if (!form.OwnsKeys) GiveMnemonics(*this);
   for (QWidget* const child : findChildren<QWidget*>()) child->installEventFilter(this);

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTextBlock>
@@ -32,6 +33,7 @@
 #include "output/Tips.h"
 #include "output/ViewImage.h"
 #include "screen/HelpWindow.h"
+#include "screen/PathLabel.h"
 #include "screen/Screen.h"
 #include "screen/Text.h"
 #include "support/ScriptedPlatform.h"
@@ -304,6 +306,56 @@ TEST_F(Windows, ShowEveryPageOfThePreferencesWhole) {
       if (!named || !part->isVisible()) continue;
       EXPECT_GE(part->width(), part->sizeHint().width())
           << part->objectName().toStdString() << " " << (label ? label->text().toStdString() : "");
+    }
+  }
+}
+
+QWidget* WindowOf(const Screen& screen, const Form& form) {
+  return dynamic_cast<QWidget*>(screen.ViewOf(form));
+}
+
+/// Such a window can't be made as large as the screen either.
+TEST_F(Windows, HaveOneSizeWhereNothingMakesUseOfMoreRoom) {
+  const auto isFixed = [this](const Form& form) {
+    const QWidget* const window = WindowOf(screen, form);
+    return window->minimumSize() == window->maximumSize();
+  };
+  EXPECT_TRUE(isFixed(application.Tool<frmAbout>()));
+  EXPECT_TRUE(isFixed(application.Tool<ProgramWait>()));
+  EXPECT_TRUE(isFixed(application.Tool<Heading>()));
+  EXPECT_TRUE(isFixed(application.Tool<EnterGameName>()));
+  EXPECT_TRUE(isFixed(application.Tool<FindAndReplace>()));
+  EXPECT_FALSE(isFixed(application.Tool<Title>()));
+  EXPECT_FALSE(isFixed(application.Tool<RAWform>()));
+  EXPECT_FALSE(isFixed(application.Tool<InsertOptions>()));
+  EXPECT_FALSE(isFixed(application.Tool<ViewImage>()));
+  EXPECT_FALSE(isFixed(application.Tool<JoyPlot>()));
+}
+
+TEST_F(Windows, KeepTheirSizeHoweverLongAPathIs) {
+  auto& pictures = application.Tool<SelectPictureForm>();
+  auto& wait = application.Tool<ProgramWait>();
+  const std::string path = "z:\\" + std::string(1000, 'x') + "\\last.bmp";
+  for (Label* const label : {&pictures.Label1, &wait.Label1}) {
+    const QWidget* const window = WindowOf(screen, label->OwnForm());
+    const QSize before = window->size();
+    label->Caption = path;
+    QApplication::processEvents();
+    EXPECT_EQ(window->size(), before);
+    EXPECT_EQ(screen.Read(label->Caption), path);
+    const QString shown = dynamic_cast<PathLabel*>(screen.Find(*label))->Shown();
+    EXPECT_TRUE(shown.startsWith(QStringLiteral("z:")) && shown.endsWith(QStringLiteral("last.bmp")));
+  }
+}
+
+TEST_F(Windows, HaveButtonsWithAirAroundTheirWords) {
+  constexpr int kAir = 8;
+  for (QWidget* const window : Shown()) {
+    for (const auto* const button : window->findChildren<QPushButton*>()) {
+      if (!button->isVisible() || !button->icon().isNull() || button->text().size() < 6) continue;
+      const int words = button->fontMetrics().horizontalAdvance(QString(button->text()).remove(u'&'));
+      EXPECT_GE(button->width(), words + 2 * kAir)
+          << window->windowTitle().toStdString() << ": " << button->text().toStdString();
     }
   }
 }
