@@ -6,6 +6,7 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScreen>
 #include <QTabBar>
 #include <QToolButton>
 #include <QUrl>
@@ -165,6 +166,23 @@ TEST_F(FileWindow, TheTemplateEditorNamesItsFileAndMarksUnsavedWork) {
   EXPECT_FALSE(window->isWindowModified());
   form.TemplateText.SelText = "x";
   EXPECT_TRUE(window->isWindowModified());
+}
+
+/// With the edges that the window system gives it.
+TEST_F(FileWindow, TheFrameHasTheStoredPlaceOnceItFillsTheScreenNoMore) {
+  ASSERT_TRUE(Frame().isMaximized());
+  const QSize stored(ToPixels(application.mum().Width, kTwips), ToPixels(application.mum().Height, kTwips));
+  const QSize screen = Frame().screen()->availableGeometry().size();
+  Frame().showNormal();
+  QApplication::processEvents();
+  QApplication::processEvents();
+  EXPECT_EQ(Frame().frameGeometry().size(), stored.boundedTo(screen));
+  Frame().showMaximized();
+  Frame().showMinimized();
+  application.mum().WindowState = 2;
+  QApplication::processEvents();
+  EXPECT_TRUE(Frame().isMaximized());
+  EXPECT_EQ(ToPixels(application.mum().Width, kTwips), stored.boundedTo(screen).width());
 }
 
 TEST_F(FileWindow, AButtonDoesNotStayLitBehindAWindow) {
