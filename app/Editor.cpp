@@ -289,6 +289,7 @@ void Editor::DamnFontWasChanged() {
   Document& before = desk_.Active();
   for (Document* document : {&Joystick, &Macro}) {
     desk_.Select(*document);
+    document->text.BackColor = (application_.settings.*document->traits.background).Get();
     mnuViewReformat_Click();
   }
   desk_.Select(before);

@@ -381,7 +381,7 @@ void TemplateForm::mnuViewrefreshLayout_Click() {
 // Colours.
 
 void TemplateForm::EditPreferences(int page) {
-  ShowPreferences(application_, page);
+  WaitForPreferences(application_, page);
   if (application_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
 }
 

@@ -156,16 +156,19 @@ void Preferences::AttachHandlers() {
   SSTab1.Click = [this] { SSTab1_Click(); };
   Text1.Change = [this] { settings_.B50LoadPath = Text1.Text.Get(); };
   Text2.Change = [this] { Text2_Change(); };
-  Browse(Command1, Text1, "Locate Thrustmaster file", "Executables (*.exe)|*.exe|All files (*.*)|*.*");
+  Browse(Command1, Text1, "Locate Thrustmaster file", "Executables (*.exe)|*.exe|All files (*.*)|*.*",
+         &settings_.B50LoadPath);
   Command2.Click = [this] {
     const auto folder = Ignore(application_.platform.dialogs.AskForFolder(
         "Select your Thrustmaster programs directory", Text2.Text));
     if (folder) Text2.Text = WithBackslash(LowerCase(*folder));
   };
   Browse(Command8, Text10, "Locate Thrustmaster file",
-         "Batch files (*.bat)|*.bat|Executables (*.exe)|*.exe|All files (*.*)|*.*");
-  Browse(Command5, Text5, "Locate image file", "Picture files|*.bmp;*.jpg;*.gif;*.wmf|All files (*.*)|*.*");
-  Browse(Command7, Text6, "Locate text file", "Text files|*.txt;*.rtf;*.ini;*.bat|All files (*.*)|*.*");
+         "Batch files (*.bat)|*.bat|Executables (*.exe)|*.exe|All files (*.*)|*.*", &settings_.CandCCPath);
+  Browse(Command5, Text5, "Locate image file", "Picture files|*.bmp;*.jpg;*.gif;*.wmf|All files (*.*)|*.*",
+         &settings_.ImageFilePath);
+  Browse(Command7, Text6, "Locate text file", "Text files|*.txt;*.rtf;*.ini;*.bat|All files (*.*)|*.*",
+         &settings_.TextFilePath);
   CommandDrives.Click = [this] { application_.ShowModal(application_.Tool<DrivesForm>()); };
   ComboJoystick.Click = [this] { ComboJoystick_Click(); };
   ComboThrottle.Click = [this] { settings_.ThrottleName = ComboThrottle.ListIndex; };
@@ -244,6 +247,7 @@ void Preferences::Form_Activate() {
 
 /// The one place where the dialog's state becomes the program's.
 void Preferences::Form_Unload() {
+  Text7_LostFocus();
   settings_.B50LoadPath = Text1.Text.Get();
   settings_.ProgramFilesPath = WithBackslash(Text2.Text);
   settings_.CandCCPath = Text10.Text.Get();
@@ -273,8 +277,8 @@ void Preferences::SSTab1_Click() {
     FillColours();
     ShowExample();
   }
-  if (SSTab1.Tab == kFavourites) UpdateFavouritesControls();
-  if (SSTab1.Tab == kGames) UpdateGamesControls();
+  if (SSTab1.Tab == kFavourites) Show(favourites_, 0);
+  if (SSTab1.Tab == kGames) Show(games_, 0);
 }
 
 void Preferences::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
@@ -283,15 +287,18 @@ void Preferences::Command6_Click() { ShowHelp(application_.platform, topic::kPre
 
 // File locations.
 
-void Preferences::Browse(CommandButton& button, TextBox& box, const char* say, const char* filter) {
-  button.Click = [this, &box, say, filter] {
+void Preferences::Browse(CommandButton& button, TextBox& box, const char* say, const char* filter,
+                         Property<std::string>* setting) {
+  button.Click = [this, &box, say, filter, setting] {
     Say(say);
     FileRequest request;
     request.title = say;
     request.filter = filter;
     request.folder = box.Text.Get().substr(0, box.Text.Get().rfind('\\') + 1);
-    if (const auto path = Ignore(application_.platform.dialogs.AskForFile(request)))
-      box.Text = LowerCase(*path);
+    const auto path = Ignore(application_.platform.dialogs.AskForFile(request));
+    if (!path) return;
+    box.Text = LowerCase(*path);
+    if (setting) *setting = box.Text.Get();
   };
 }
 
@@ -360,9 +367,7 @@ void Preferences::AttachLists() {
   };
   Command15.Click = [this] { Choose(games_, 2, ""); };
   Command4.Click = [this, own] { Choose(games_, 3, own("Joystick file", settings_.JoystickExtension)); };
-  Text7.LostFocus = [this] {
-    if (Text7.Empty() && List2.ListIndex >= 0) Text7.Text = std::string("Name?");
-  };
+  Text7.LostFocus = [this] { Text7_LostFocus(); };
   Text12.LostFocus = games_.save;
   Text11.LostFocus = games_.save;
   Command14.Click = [this, &lists] {
@@ -382,6 +387,11 @@ void Preferences::AttachLists() {
     games_.list.SetPart(List3.ListIndex + 1, 4, Check5.Value.ToText());
     games_.save();
   };
+}
+
+/// The Enter key leaves the window without leaving the box.
+void Preferences::Text7_LostFocus() {
+  if (Text7.Empty() && List2.ListIndex >= 0) Text7.Text = std::string("Name?");
 }
 
 void Preferences::AttachList(ListPage& page, CommandButton& remove) {
@@ -430,20 +440,16 @@ void Preferences::Disable(ListPage& page) {
   filling_ = false;
 }
 
-void Preferences::UpdateFavouritesControls() {
-  if (favourites_.list.Count() == 0) return DisableFavouritesControls();
-  Fill(favourites_, std::max(0, List2.ListIndex.Get()));
-  ShowRecord(favourites_);
+/// The list anew, with this row in hand as far as there is one.
+void Preferences::Show(ListPage& page, int row) {
+  if (page.list.Count() == 0) return Disable(page);
+  Fill(page, row);
+  ShowRecord(page);
 }
 
+void Preferences::UpdateFavouritesControls() { Show(favourites_, std::max(0, List2.ListIndex.Get())); }
 void Preferences::DisableFavouritesControls() { Disable(favourites_); }
-
-void Preferences::UpdateGamesControls() {
-  if (games_.list.Count() == 0) return DisableGamesControls();
-  Fill(games_, std::max(0, List3.ListIndex.Get()));
-  ShowRecord(games_);
-}
-
+void Preferences::UpdateGamesControls() { Show(games_, std::max(0, List3.ListIndex.Get())); }
 void Preferences::DisableGamesControls() { Disable(games_); }
 
 void Preferences::Choose(ListPage& page, std::size_t part, const std::string& filter) {
@@ -576,9 +582,13 @@ void Preferences::TxtUndoLevels_LostFocus() {
   TxtUndoLevels.Text = TextOf(settings_.UndoMax.Get());
 }
 
-void ShowPreferences(Application& application, int page) {
+void WaitForPreferences(Application& application, int page) {
   application.values.PreferencesTab = page;
   application.ShowModal(application.Tool<Preferences>());
+}
+
+void ShowPreferences(Application& application, int page) {
+  WaitForPreferences(application, page);
   if (application.values.FontChanged == 1) application.editor().DamnFontWasChanged();
 }
 

@@ -108,6 +108,7 @@ class Preferences : public Form {
   void Text2_Change();
   void Text3_Change();
   void Text3_LostFocus();
+  void Text7_LostFocus();
   void DLYtext_Change();
   void TxtUndoLevels_Change();
   void TxtUndoLevels_LostFocus();
@@ -138,13 +139,16 @@ class Preferences : public Form {
   void NameControls();
   void AttachHandlers();
   void AttachMiscellaneous();
-  void Browse(CommandButton& button, TextBox& box, const char* say, const char* filter);
+  /// What is found goes into the box, and at once into the setting where the box has one.
+  void Browse(CommandButton& button, TextBox& box, const char* say, const char* filter,
+              Property<std::string>* setting = nullptr);
   void FillColours();
   void ShowExample();
   void PaintExample(std::string_view word, std::string_view end, Colour colour);
   void AttachApps();
   void AttachLists();
   void AttachList(ListPage& page, CommandButton& remove);
+  void Show(ListPage& page, int row);
   void Fill(ListPage& page, int row);
   void Disable(ListPage& page);
   void ShowRecord(ListPage& page);
@@ -162,7 +166,10 @@ class Preferences : public Form {
   std::vector<Connection> connections_;
 };
 
-/// Shows the preferences on one of their pages and waits; a new font is in force afterwards.
+/// Shows the preferences on one of their pages and waits. A new font reaches the files when the editor is
+/// activated.
+void WaitForPreferences(Application& application, int page);
+/// The same from within the editor, where the font is in force afterwards.
 void ShowPreferences(Application& application, int page);
 
 }  // namespace tarvik

@@ -3,6 +3,13 @@
 #include <algorithm>
 
 namespace tarvik {
+namespace {
+
+/// A number that is not there is 0.
+bool SaysSomething(const std::string& part) { return !part.empty() && part != "0"; }
+
+}  // namespace
+
 RecentList::RecentList(Component& owner, const ListTraits& traits, ProfileFile& file)
     : traits_(traits), file_(file), count_(owner, traits.countKey, [this] { return Count(); }) {
   for (const RecordKey& key : traits.keys) inHand_.emplace_back(owner, key.inHand);
@@ -44,7 +51,7 @@ void RecentList::Read() {
       record.push_back(buffer ? profile.GetString(traits_.section, key, "", buffer)
                               : TextOf(profile.GetInt(traits_.section, key, 0)));
     }
-    if (!record.front().empty()) records_.push_back(std::move(record));
+    if (std::any_of(record.begin(), record.end(), SaysSomething)) records_.push_back(std::move(record));
   }
   Changed();
 }

@@ -38,7 +38,7 @@ class RecentList {
   /// What tells the records apart, in the order of the list.
   [[nodiscard]] std::vector<std::string> Names() const;
 
-  /// Takes what the settings file holds: no more than the limit, and no record without a name.
+  /// Takes what the settings file holds: no more than the limit, and no record that is empty.
   void Read();
   /// Puts the record in hand first, in the place of the last one of its name. At the limit the oldest goes.
   void Use();

@@ -46,14 +46,13 @@ void frmTip::Form_Load() {
   cmdOK.SetFocus();
 }
 
-/// An empty line is no tip.
 void frmTip::LoadTips(const std::string& path) {
   const auto read = Ignore(application_.platform.files.Read(path));
   if (!read) return;
   const std::string text = WithPaneLineBreaks(InCodePage(*read));
   for (std::size_t from = 0; from < text.size();) {
     const std::size_t end = std::min(text.find('\r', from), text.size());
-    if (end > from) tips_.push_back(text.substr(from, end - from));
+    tips_.push_back(text.substr(from, end - from));
     from = end + 2;
   }
   DoNextTip();

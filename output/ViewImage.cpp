@@ -79,8 +79,7 @@ bool ViewImage::ShowPicture() {
 void ViewImage::mnuImageLoad_Click() {
   application_.ShowModal(application_.Tool<SelectPictureForm>());
   if (!ShowPicture()) return;
-  Settings& settings = application_.settings;
-  settings.Write("Apps", "ImageFilePath", settings.ImageFilePath.Get());
+  application_.lists.SaveApps();
 }
 
 void ViewImage::mnuImageEdit_Click() {
