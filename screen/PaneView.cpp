@@ -44,6 +44,8 @@ PaneView::PaneView(Pane& pane, Bindings& bindings, QWidget* parent) : QPlainText
   setBackgroundRole(QPalette::Base);
   setTabStopDistance(kTabWidth);
   document()->setDocumentMargin(kTextMargin);
+  // What the text makes nothing of would come back from the indent for ever, see `event`.
+  viewport()->setAttribute(Qt::WA_NoMousePropagation);
   ShowAll();
   BindLook(bindings);
   ListenToPane(bindings);

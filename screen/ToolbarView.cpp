@@ -154,7 +154,11 @@ void ToolbarView::ShowOverflow() {
     }
     QAction* const action = menu->addAction(position.widget->icon(), position.widget->toolTip());
     action->setEnabled(position.widget->isEnabled());
-    connect(action, &QAction::triggered, position.widget, [&position] { position.widget->click(); });
+    // Not before the menu is through with its own event: what is pressed may wait, and the menu ends
+    // meanwhile.
+    connect(
+        action, &QAction::triggered, position.widget, [&position] { position.widget->click(); },
+        Qt::QueuedConnection);
   }
   menu->popup(overflow_->mapToGlobal(overflow_->rect().bottomLeft()));
 }

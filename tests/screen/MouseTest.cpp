@@ -1,0 +1,73 @@
+// Clicks that a random user found something wrong with.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMenu>
+#include <QTest>
+
+#include "app/Editor.h"
+#include "hardware/KeyTestForm.h"
+#include "lists/Preferences.h"
+#include "screen/PaneView.h"
+#include "screen/Screen.h"
+#include "support/ScriptedPlatform.h"
+
+namespace tarvik::screen {
+namespace {
+
+class MouseTest : public testing::Test {
+ protected:
+  MouseTest() {
+    files_.PutFolder("c:\\tarvik");
+    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.Start();
+    QApplication::processEvents();
+  }
+
+  session::ScriptedPlatform outside_;
+  MemoryFiles files_;
+  Platform platform_ = outside_.Process(files_);
+
+ public:
+  Application application{platform_};
+  Screen screen{application, Clock::Scripted};
+};
+
+/// The text makes nothing of most of them; beside it, in the indent, they came back to it for ever.
+TEST_F(MouseTest, ADoubleClickOfAnyButtonEndsInAnyPane) {
+  application.Tool<KeyTestForm>().Visible = true;
+  int panes = 0;
+  for (QWidget* const window : QApplication::topLevelWidgets()) {
+    for (auto* const pane : window->findChildren<QPlainTextEdit*>()) {
+      ++panes;
+      for (const auto button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
+        for (QWidget* const at : {static_cast<QWidget*>(pane), pane->viewport()}) {
+          QTest::mouseDClick(at, button);
+        }
+      }
+    }
+  }
+  EXPECT_GE(panes, 5);
+}
+
+/// It ends when it closes, and must not do so under its own feet while what was chosen waits for its end.
+TEST_F(MouseTest, TheMenuOfHiddenToolbarButtonsIsThroughBeforeWhatIsChosen) {
+  auto* const frame = dynamic_cast<QWidget*>(screen.ViewOf(application.mum()));
+  frame->resize(500, 400);
+  QApplication::processEvents();
+  QTest::mouseClick(frame->findChild<QWidget*>(QStringLiteral("MoreButtons")), Qt::LeftButton);
+  auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  for (QAction* const action : menu->actions()) {
+    if (!action->text().contains(QStringLiteral("references"))) continue;
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+    break;
+  }
+  EXPECT_EQ(application.LoadedTool<Preferences>(), nullptr);
+  QApplication::processEvents();
+  EXPECT_NE(application.LoadedTool<Preferences>(), nullptr);
+}
+
+}  // namespace
+}  // namespace tarvik::screen
