@@ -7,6 +7,7 @@
 #include "platform/CodePage.h"
 #include "session/Driver.h"
 #include "support/ScriptedPlatform.h"
+#include "support/SoundDocument.h"
 
 namespace {
 
@@ -28,26 +29,6 @@ class Bytes {
   std::size_t size_;
   std::size_t at_ = 0;
 };
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-void Check(const Document& document) {
-  const Pane& pane = document.text;
-  const std::string text(pane.Characters());
-  Require(WithPaneLineBreaks(text) == text);
-  Require(pane.Selection().End() <= text.size());
-  Require(pane.Searchable().folded == LowerCase(text));
-  Require(pane.Content().colours.size() == text.size());
-  const auto runs = pane.Content().colours.runs();
-  for (std::size_t i = 0; i < runs.size(); ++i) {
-    Require(i == 0 ? runs[i].start == 0
-                   : runs[i].start > runs[i - 1].start && runs[i].colour != runs[i - 1].colour);
-    Require(runs[i].start < text.size());
-  }
-  Require(document.Undo.Index >= 1 && document.Undo.Index <= document.Undo.UpperBound());
-}
 
 class User {
  public:
@@ -106,8 +87,8 @@ class User {
     }
     outside_.dialogs.boxes.clear();
     outside_.dialogs.requests.clear();
-    Check(application_.editor().Joystick);
-    Check(application_.editor().Macro);
+    RequireSound(application_.editor().Joystick);
+    RequireSound(application_.editor().Macro);
   }
 
  private:
