@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "screen/Text.h"
+#include "screen/Uncovered.h"
 
 namespace tarvik::screen {
 namespace {
@@ -214,9 +215,30 @@ void PaneView::ShowSelection() {
       this,
       [this] {
         scrollAsked_ = false;
-        if (!viewport()->rect().contains(cursorRect())) centerCursor();
+        BringCaretIntoSight();
       },
       Qt::QueuedConnection);
+}
+
+/// Where tools are kept above the text, the caret's line goes to where none of them covers it. What can't be
+/// scrolled down that far begins lower.
+void PaneView::BringCaretIntoSight() {
+  if (!viewport()->rect().contains(cursorRect())) centerCursor();
+  const QRect line = cursorRect().united(CaretAt(PanePosition(textCursor().block().position())));
+  const QRect free = UncoveredPart(*viewport(), line);
+  if (free.height() >= viewport()->height()) return ShowFrom(0);
+  if (free.contains(line)) return;
+  const int lineHeight = std::max(1, cursorRect().height());
+  const int wanted = verticalScrollBar()->value() + (line.center().y() - free.center().y()) / lineHeight;
+  verticalScrollBar()->setValue(wanted);
+  if (wanted < 0) ShowFrom(viewportMargins().top() - wanted * lineHeight);
+}
+
+void PaneView::ShowFrom(int top) {
+  QMargins margins = viewportMargins();
+  if (margins.top() == top) return;
+  margins.setTop(top);
+  setViewportMargins(margins);
 }
 
 // From the document to the pane.

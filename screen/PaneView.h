@@ -52,6 +52,8 @@ class PaneView : public QPlainTextEdit {
   void ShowEdit(const PaneEdit& edit);
   void ShowAll();
   void ShowSelection();
+  void BringCaretIntoSight();
+  void ShowFrom(int top);
   [[nodiscard]] bool CutsLineBreak(const PaneEdit& edit) const;
 
   // From the document to the pane.

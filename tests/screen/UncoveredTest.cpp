@@ -1,0 +1,83 @@
+// A text below a tool that is kept on top: what the program goes to is where somebody can see it.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDialog>
+#include <QPlainTextEdit>
+
+#include "app/Editor.h"
+#include "screen/Screen.h"
+#include "support/ScriptedPlatform.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr int kLines = 300;
+
+class Uncovered : public testing::TestWithParam<int> {
+ protected:
+  Uncovered() {
+    std::string text;
+    for (int i = 0; i < kLines; ++i) text += "BTN S1 Fire\r\n";
+    pane.Text = text;
+    view = qobject_cast<QPlainTextEdit*>(screen.Find(pane));
+    QApplication::processEvents();
+    tool.setWindowFlag(Qt::WindowStaysOnTopHint);
+    const QRect seen(view->viewport()->mapToGlobal(QPoint()), view->viewport()->size());
+    tool.setGeometry(seen.adjusted(-20, -20, 0, -seen.height() / 2));
+    tool.show();
+    QApplication::processEvents();
+  }
+
+  /// The caret's line goes to the start of one of 13 characters each.
+  void GoToLine(int line) {
+    pane.SelStart = static_cast<std::size_t>(line) * 13;
+    QApplication::processEvents();
+  }
+
+  [[nodiscard]] QRect Caret() const {
+    const QRect caret = view->cursorRect();
+    return {view->viewport()->mapToGlobal(caret.topLeft()), caret.size()};
+  }
+  [[nodiscard]] QRect Seen() const { return {view->mapToGlobal(QPoint()), view->size()}; }
+
+ private:
+  session::ScriptedPlatform outside_;
+  MemoryFiles files_;
+  Platform platform_ = outside_.Process(files_);
+
+ public:
+  Application application{platform_};
+  Screen screen{application, Clock::Scripted};
+  Pane& pane = Joystick();
+  QPlainTextEdit* view = nullptr;
+  QDialog tool;
+
+ private:
+  Pane& Joystick() {
+    files_.PutFolder("c:\\tarvik");
+    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.Start();
+    return application.editor().JoystickText;
+  }
+};
+
+TEST_P(Uncovered, TheLineOfTheCaretIsInSight) {
+  GoToLine(kLines / 2);
+  GoToLine(GetParam());
+  EXPECT_FALSE(tool.frameGeometry().intersects(Caret())) << Caret().top();
+  EXPECT_TRUE(Seen().contains(Caret())) << Caret().top();
+}
+
+TEST_P(Uncovered, TheTextIsInItsPlaceWhenTheToolHasGone) {
+  GoToLine(GetParam());
+  tool.hide();
+  GoToLine(kLines / 2);
+  EXPECT_EQ(view->viewport()->y(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, Uncovered, testing::Values(0, 1, 5, 20, 100, kLines - 1));
+
+}  // namespace
+}  // namespace tarvik::screen
