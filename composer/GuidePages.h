@@ -149,7 +149,6 @@ inline constexpr GuideRow kMacroPage12[] = {
     {.control = "Label1(38)"},
     {.control = "Command1(4) Command1(5)"},
     {.control = "Command1(6)"},
-    {.text = "Macro will appear here"},
     {.text = "Press the back button to add a new heading for more macros, click the Finish button if your "
              "Macro file is finished"},
 };

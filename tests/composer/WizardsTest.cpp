@@ -80,6 +80,11 @@ TEST_F(Wizards, HaveAControlForEachName) {
   expectControls(program.application.Tool<Speedy>());
 }
 
+TEST_F(Wizards, ShowTheMacroOnce) {
+  const auto& wizard = program.application.Tool<MacroWizard>();
+  for (const tables::GuideRow& row : wizard.pages[12].rows) EXPECT_NE(row.text, "Macro will appear here");
+}
+
 TEST_F(Wizards, SayTheirTextsInReadingOrder) {
   const auto& wizard = program.application.Tool<MacroWizard>();
   EXPECT_TRUE(wizard.Texts(0).Caption.Get().starts_with("Welcome! OK, we're going to go about"));
