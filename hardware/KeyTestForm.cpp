@@ -27,6 +27,8 @@ constexpr float kFrame = 450;
 constexpr float kGap = 120;
 constexpr int kPointWidth = 5;  // pixels
 constexpr unsigned kWhite = 0xFFFFFF;
+constexpr unsigned kLightGrey = 0xE0E0E0;
+constexpr unsigned kGrey = 0xC0C0C0;
 
 constexpr MenuRow<KeyTestForm> kMenus[] = {
     {0, "mnuClose", "Exit", "", &KeyTestForm::mnuClose_Click},
@@ -83,9 +85,7 @@ KeyTestForm::KeyTestForm(Application& application)
   LabelTHR.ToolTipText = "Throttle";
   LabelRDDR.ToolTipText = "Rudder";
   status.BackColor = ToggleLabel::kOff;
-  for (Label* const bar : {&LabelTHR, &LabelRDDR}) bar->BackColor = ToggleLabel::kOn;
   PictureJoystick.Move(0, kFrameTop, kPicture, kPicture);
-  PictureJoystick.BackColor = kWhite;
   PictureJoystick.DrawWidth = kPointWidth;
   FrameTHR.Move(kPicture + kGap, 0, kFrame, kPicture + kFrameTop);
   LabelTHR.Move(kFrameInside, 0, kFrame - 2 * kFrameInside, 0);
@@ -237,6 +237,7 @@ void KeyTestForm::mnuClear500_Click(int index) {
 void KeyTestForm::JoystickStuff() {
   JoystickTimer.Enabled = false;
   LastError = application_.platform.joystick.GetDevCaps(caps_);
+  ShowWhetherThere();
   if (LastError != joystick::kNoError) application_.platform.dialogs.Show(NoJoystickBox());
   PictureJoystick.Scale(0, kJoystickRange);
   FrameTHR.Height = PictureJoystick.Height + kFrameTop;
@@ -247,6 +248,19 @@ void KeyTestForm::JoystickStuff() {
   FrameRDDR.Left = PictureJoystick.Left;
   LabelRDDR.Move(kFrameInside, kBarTop, (PictureJoystick.Width - 2 * kFrameInside) / 2, kBar);
   JoystickTimer.Enabled = LastError == joystick::kNoError;
+}
+
+/// Without a stick its bars and lamps are grey, and the status says why.
+void KeyTestForm::ShowWhetherThere() {
+  const bool there = LastError == joystick::kNoError;
+  for (Label* const bar : {&LabelTHR, &LabelRDDR}) {
+    bar->BackColor = there ? ToggleLabel::kOn : kGrey;
+    bar->Enabled = there;
+  }
+  for (int i = 0; i < kButtons; ++i) JoyButtonAnalogue(i).Enabled = there;
+  PictureJoystick.Enabled = there;
+  PictureJoystick.BackColor = there ? kWhite : kLightGrey;
+  if (!there) status.Caption = std::string("Status: No joystick detected");
 }
 
 void KeyTestForm::JoystickTimer_Timer() {

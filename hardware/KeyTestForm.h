@@ -85,6 +85,7 @@ class KeyTestForm : public Form {
  private:
   void AttachHandlers();
   void ShowNumLock();
+  void ShowWhetherThere();
   void NextColour();
   void ShowPoint();
   void ShowThrottle();

@@ -1,5 +1,6 @@
 #include "screen/Keys.h"
 
+#include <QApplication>
 #include <algorithm>
 #include <string_view>
 
@@ -136,6 +137,39 @@ int VirtualKey(const QKeyEvent& event) {
 
 bool TypesNothing(const QKeyEvent& event) {
   return !event.text().isEmpty() && (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier));
+}
+
+namespace {
+
+/// The key itself, whatever it types.
+quint32 PlaceOf(const QKeyEvent& event) {
+  const quint32 place = event.nativeScanCode();
+  return place != 0 ? place : static_cast<quint32>(event.key());
+}
+
+}  // namespace
+
+KeysFromElsewhere::KeysFromElsewhere(const QWidget& own) : own_(own) { qApp->installEventFilter(this); }
+
+bool KeysFromElsewhere::eventFilter(QObject* watched, QEvent* event) {
+  const bool press = event->type() == QEvent::KeyPress;
+  const auto* const widget = qobject_cast<QWidget*>(watched);
+  if ((!press && event->type() != QEvent::KeyRelease) || !widget || widget->window() == &own_) return false;
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  if (press) {
+    down_.insert(PlaceOf(key));
+  } else if (!key.isAutoRepeat()) {
+    down_.erase(PlaceOf(key));
+  }
+  return false;
+}
+
+bool KeysFromElsewhere::Take(const QKeyEvent& event) {
+  const auto found = down_.find(PlaceOf(event));
+  if (found == down_.end()) return false;
+  if (event.isAutoRepeat()) return true;
+  down_.erase(found);
+  return event.type() == QEvent::KeyRelease;
 }
 
 /// The toolkit's modifiers are those before the event.

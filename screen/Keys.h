@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QKeyEvent>
+#include <QWidget>
 #include <set>
 
 #include "controls/Controls.h"
@@ -26,6 +27,23 @@ class KeyReader {
 
  private:
   std::set<std::pair<int, quint32>> held_;  // codes, and the keys themselves
+};
+
+/// The keys that went down in another window of the program and have not come up: what is still heard of them
+/// is no key of this window.
+class KeysFromElsewhere : public QObject {
+ public:
+  /// `own` is this window.
+  explicit KeysFromElsewhere(const QWidget& own);
+  /// Whether the event is the rest of such a key.
+  [[nodiscard]] bool Take(const QKeyEvent& event);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  const QWidget& own_;
+  std::set<quint32> down_;
 };
 
 }  // namespace tarvik::screen

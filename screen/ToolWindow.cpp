@@ -42,6 +42,7 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   if (!form.OwnsKeys) GiveMnemonics(*this);
   for (QWidget* const child : findChildren<QWidget*>()) child->installEventFilter(this);
   if (clock == Clock::Real) RunTimers();
+  if (form.OwnsKeys) others_.emplace(*this);
   bindings_.Shows(form, *this);
   BindTitle(form, *this, bindings_);
   bindings_.Bind(
@@ -158,6 +159,7 @@ void ToolWindow::Retire() {
 }
 
 bool ToolWindow::FormTakesPress(const QKeyEvent& event) {
+  if (others_ && others_->Take(event)) return true;
   Key key = keys_.Read(event);
   form().KeyDown(key);
   if (TypesNothing(event) && !form().OwnsKeys) return true;
@@ -172,7 +174,7 @@ bool ToolWindow::FormTakesPress(const QKeyEvent& event) {
 
 /// A key that is held repeats its press alone.
 bool ToolWindow::FormTakesRelease(const QKeyEvent& event) {
-  if (event.isAutoRepeat()) return form().OwnsKeys;
+  if (event.isAutoRepeat() || (others_ && others_->Take(event))) return form().OwnsKeys;
   Key key = keys_.Read(event);
   form().KeyUp(key);
   return form().OwnsKeys;

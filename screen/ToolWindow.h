@@ -55,6 +55,7 @@ class ToolWindow : public QDialog, public FormView, public CanBeOnTop {
   std::vector<std::unique_ptr<QMenu>> menus_;
   bool placed_ = false;  // by its form
   KeyReader keys_;
+  std::optional<KeysFromElsewhere> others_;  // where every key is the form's
 };
 
 /// The pages that are large enough for a file of their own.

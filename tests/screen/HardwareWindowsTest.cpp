@@ -74,6 +74,20 @@ TEST_F(KeyTestWindow, AKeyThatIsHeldRepeatsItsPressAlone) {
   EXPECT_EQ(form.RTFKeysUpText.Text.Get(), "Keycode: 65\r\n");
 }
 
+TEST_F(KeyTestWindow, WhatIsLeftOfAKeyThatClosedABoxIsNoKeyOfTheTest) {
+  QWidget box;
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+  QApplication::sendEvent(&box, &press);
+  Send(log, QEvent::KeyPress, Qt::Key_Return, QStringLiteral("\r"), true);
+  Send(log, QEvent::KeyRelease, Qt::Key_Return);
+  EXPECT_EQ(form.RTFKeysText.Text.Get(), "");
+  EXPECT_EQ(form.RTFKeysUpText.Text.Get(), "");
+  Send(log, QEvent::KeyPress, Qt::Key_Return, QStringLiteral("\r"));
+  Send(log, QEvent::KeyRelease, Qt::Key_Return);
+  EXPECT_EQ(form.RTFKeysText.Text.Get(), " Enter\r\n");
+  EXPECT_EQ(form.RTFKeysUpText.Text.Get(), "Keycode: 13\r\n");
+}
+
 TEST_F(KeyTestWindow, AltDoesNotLeadToTheMenuBar) {
   for (const auto type : {QEvent::ShortcutOverride, QEvent::KeyPress, QEvent::KeyRelease}) {
     QKeyEvent alt(type, Qt::Key_Alt, type == QEvent::KeyPress ? Qt::NoModifier : Qt::AltModifier);
