@@ -159,6 +159,12 @@ void InsertOptions::Form_Deactivate() {
   if (COMPreturnFocus != 0) editor().FocusActiveText();
 }
 
+/// Hidden by its own button, it is left for the file on top, whatever had the focus there before.
+void InsertOptions::Command6_Click() {
+  Visible = false;
+  Form_Deactivate();
+}
+
 void InsertOptions::Form_KeyDown(Key& key) {
   const bool ctrlAmongOthers = (key.shift & shift::kCtrl) != 0 && key.shift != shift::kCtrl;
   if (!ctrlAmongOthers) editor().ForwardKey(key);
@@ -223,7 +229,7 @@ void InsertOptions::SSTab1_Click() {
     boxes("Text1(4)").Text = MacroNameForMDEF();
     boxes("Text1(3)").SetFocus();
   }
-  if (SSTab1.Tab == kTemplates && Templates.ListCount() > 0) Templates.ListIndex = 0;
+  if (SSTab1.Tab == kTemplates && Templates.ListCount() > 0) MakeTemplateCurrent(0);
   if (SSTab1.Tab == kLogic) {
     WhichLogicText();
     RichTexFlag(CurrentLogicLine).SetFocus();

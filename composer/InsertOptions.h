@@ -156,6 +156,7 @@ class InsertOptions : public Form {
   // Templates.
   void FillTemplates();
   void Templates_Click();
+  void MakeTemplateCurrent(int item);
   void Templates_MouseMove(const Mouse& mouse);
   void TemplatesPreview_DblClick();
   void Command11_Click(int index);
@@ -173,7 +174,7 @@ class InsertOptions : public Form {
   void FindLogicStatements();
 
   void Command5_Click(int index);
-  void Command6_Click() { Visible = false; }
+  void Command6_Click();
   void Command14_Click();
   void CommandHelp_Click();
   void Check1_Click();
@@ -212,6 +213,10 @@ class InsertOptions : public Form {
   void FindOrWrite(const Statement& statement);
   void TabStatement_Click(const tables::TabRow& row);
   [[nodiscard]] int LitAxis() const;
+  /// The list of mouse types in front.
+  [[nodiscard]] int KindOfMouse() const;
+  /// Tells in the status bar what a click has come to.
+  void Say(const std::string& text);
   [[nodiscard]] std::string MacroNameForMDEF() const;
   void InsertTemplate(Document& document);
   void AddToLogicLine(std::string_view token);

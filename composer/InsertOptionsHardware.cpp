@@ -24,6 +24,13 @@ std::string FullNameOf(const tables::HardwareRow& row) {
   return name;
 }
 
+/// What is written, without the blanks around it.
+std::string NameOf(const Statement& statement) {
+  const std::string name = statement.Text();
+  const std::size_t first = std::min(name.find_first_not_of(' '), name.size());
+  return name.substr(first, name.find_last_not_of(' ') + 1 - first);
+}
+
 bool Holds(Pane& pane, const std::string& word) {
   return pane.Find(word, 0, pane.Characters().size(), find::kKeepSelection).has_value();
 }
@@ -201,6 +208,8 @@ void InsertOptions::LabelWCS() {
 
 // Statements.
 
+void InsertOptions::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
+
 StatementStyle InsertOptions::Style() const {
   const Settings& settings = application_.settings;
   return {settings.InsertWithColour != 0, settings.CompTabsAddCr == 1};
@@ -212,6 +221,8 @@ void InsertOptions::ArmPort(bool arm) { hardware("ROTARY(7)").BorderStyle = arm 
 /// What was looked for and found leaves the latch as it is, but for a port.
 void InsertOptions::FindOrWrite(const Statement& statement) {
   InsertAfterSearch = writer_.FindOrWrite(statement, AlwaysInsert == 1) ? 1 : 0;
+  Say(NameOf(statement) +
+      (InsertAfterSearch == 1 ? " is in now, fresh from me" : " was there already - here it is"));
   if (InsertAfterSearch == 1 ? statement.releasesPort : statement.pastHit > 0) ArmPort(false);
 }
 
@@ -257,6 +268,8 @@ void InsertOptions::ROTARY_Click(int index) {
   if (index == tables::kSwapTriggers) return FindOrWrite(SwapTriggersStatement(Style()));
   const bool found = AlwaysInsert != 1 && writer_.FindButton(std::string(row.search));
   InsertAfterSearch = found ? 0 : 1;
+  const std::string name(row.search);
+  Say(found ? name + " was there already - here it is" : "No " + name + " yet, so let's make one");
   if (found) return;
   SSTab1.Tab = row.tab;
   if (row.axis >= 0) ToggleButton1_Click(row.axis);

@@ -141,11 +141,16 @@ void InsertOptions::Command2_Click(int index) {
   writer_.Write(ValueStatement(row, boxes(row.box).Text, Style()));
 }
 
-/// Without a kind of mouse chosen nothing is.
-void InsertOptions::Command9_Click() {
+/// Before a kind of mouse is chosen the first list is in front.
+int InsertOptions::KindOfMouse() const {
   for (int i = 0; i < Option1.Count(); ++i) {
-    if (Option1(i).Value) return writer_.Write(MouseStatement(MouseList(i).Current(), Style()));
+    if (Option1(i).Value) return i;
   }
+  return 0;
+}
+
+void InsertOptions::Command9_Click() {
+  writer_.Write(MouseStatement(MouseList(KindOfMouse()).Current(), Style()));
 }
 
 // Templates.
@@ -156,6 +161,9 @@ void InsertOptions::MakeTemplatesPage() {
   connections_.push_back(Templates.ListIndex.Changed.Connect([this] {
     if (Templates.ListIndex >= 0) Templates_Click();
   }));
+  Templates.MouseUp = [this](const Mouse&) {
+    if (Templates.ListIndex >= 0) MakeTemplateCurrent(Templates.ListIndex);
+  };
   TemplatesPreview.Locked = true;
   TemplatesPreview.ToolTipText = "Double click here to insert into your file";
   TemplatesPreview.DblClick = [this] { TemplatesPreview_DblClick(); };
@@ -179,10 +187,16 @@ void InsertOptions::FillTemplates() {
   }
   Templates.FillInOrder(std::move(names));
   if (Templates.ListCount() > 0) {
-    Templates.ListIndex = 0;
+    MakeTemplateCurrent(0);
   } else {
     TemplatesPreview.Text = std::string();
   }
+}
+
+/// It is read anew, also where it was current before: its file may have been edited.
+void InsertOptions::MakeTemplateCurrent(int item) {
+  if (Templates.ListIndex == item) return Templates_Click();
+  Templates.ListIndex = item;
 }
 
 void InsertOptions::Templates_Click() {
@@ -211,6 +225,7 @@ void InsertOptions::TemplatesPreview_DblClick() { InsertTemplate(editor().Active
 
 void InsertOptions::Command11_Click(int index) {
   if (index == 2) return FillTemplates();
+  if (TemplatesPreview.Characters().empty()) return;
   Document& document = index == 0 ? editor().Joystick : editor().Macro;
   editor().TabStrip1.Select(document.traits.tab);
   InsertTemplate(document);
@@ -266,10 +281,12 @@ void InsertOptions::FillLogicLists() {
   }
 }
 
+/// Whatever works on the current line brings its page to the front.
 void InsertOptions::WhichLogicText() {
   for (int i = 0; i < OptionFlag.Count(); ++i) {
     if (OptionFlag(i).Value) CurrentLogicLine = i;
   }
+  SSTabFlags.Tab = CurrentLogicLine * SSTabFlags.Count() / OptionFlag.Count();
 }
 
 void InsertOptions::ColourFlagTextBack() {
