@@ -186,6 +186,7 @@ void PaneView::ShowEdit(const PaneEdit& edit) {
   }
   viewport()->update();
   ShowSelection();
+  AskForSight();
 }
 
 /// Such an edit makes or breaks a line beyond its own characters.
@@ -209,7 +210,11 @@ void PaneView::ShowSelection() {
   cursor.setPosition(DocumentPosition(pane_.Selection().End()), QTextCursor::KeepAnchor);
   setTextCursor(cursor);
   verticalScrollBar()->setValue(scrolled);
-  // Many a command moves the caret through the text before it rests: only where it rests is scrolled to.
+  AskForSight();
+}
+
+/// Many a command moves the caret through the text before it rests: only where it rests is scrolled to.
+void PaneView::AskForSight() {
   if (std::exchange(scrollAsked_, true)) return;
   QMetaObject::invokeMethod(
       this,
@@ -224,9 +229,11 @@ void PaneView::ShowSelection() {
 /// scrolled down that far begins lower.
 void PaneView::BringCaretIntoSight() {
   if (!viewport()->rect().contains(cursorRect())) centerCursor();
-  const QRect line = cursorRect().united(CaretAt(PanePosition(textCursor().block().position())));
-  const QRect free = UncoveredPart(*viewport(), line);
-  if (free.height() >= viewport()->height()) return ShowFrom(0);
+  const QRect line = cursorRect()
+                         .united(CaretAt(PanePosition(textCursor().block().position())))
+                         .translated(viewport()->pos());
+  const QRect free = UncoveredPart(*this, line);
+  if (free.height() >= height()) return ShowFrom(0);
   if (free.contains(line)) return;
   const int lineHeight = std::max(1, cursorRect().height());
   const int wanted = verticalScrollBar()->value() + (line.center().y() - free.center().y()) / lineHeight;

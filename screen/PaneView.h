@@ -52,6 +52,7 @@ class PaneView : public QPlainTextEdit {
   void ShowEdit(const PaneEdit& edit);
   void ShowAll();
   void ShowSelection();
+  void AskForSight();
   void BringCaretIntoSight();
   void ShowFrom(int top);
   [[nodiscard]] bool CutsLineBreak(const PaneEdit& edit) const;

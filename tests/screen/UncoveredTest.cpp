@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QFocusEvent>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 #include "app/Editor.h"
 #include "screen/Screen.h"
@@ -70,10 +72,29 @@ TEST_P(Uncovered, TheLineOfTheCaretIsInSight) {
   EXPECT_TRUE(Seen().contains(Caret())) << Caret().top();
 }
 
+TEST_P(Uncovered, AWrittenLineIsInSight) {
+  pane.Select({static_cast<std::size_t>(GetParam()) * 13, 0});
+  QApplication::processEvents();
+  view->verticalScrollBar()->setValue(GetParam());
+  pane.SelText = std::string("BTN S2 ");
+  QApplication::processEvents();
+  EXPECT_FALSE(tool.frameGeometry().intersects(Caret())) << Caret().top();
+  EXPECT_TRUE(Seen().contains(Caret())) << Caret().top();
+}
+
 TEST_P(Uncovered, TheTextIsInItsPlaceWhenTheToolHasGone) {
   GoToLine(GetParam());
   tool.hide();
   GoToLine(kLines / 2);
+  EXPECT_EQ(view->viewport()->y(), 0);
+}
+
+TEST_P(Uncovered, TheTextGoesBackWhenItGetsTheFocus) {
+  GoToLine(GetParam());
+  tool.hide();
+  QFocusEvent focus(QEvent::FocusIn);
+  QApplication::sendEvent(view, &focus);
+  QApplication::processEvents();
   EXPECT_EQ(view->viewport()->y(), 0);
 }
 
