@@ -41,7 +41,7 @@ class FindAndReplace : public Form {
   CommandButton Command7{*this, "Command7", "G&oto"};
   CommandButton Command8{*this, "Command8", "Cancel"};
 
-  CommandButton Command9{*this, "Command9", "Close"};
+  CommandButton Command9{*this, "Command9", "C&lose"};
   CommandButton Command10{*this, "Command10", "&Help"};
 
   Property<std::string> SearchText{*this, "SearchText"};

@@ -142,8 +142,8 @@ std::size_t World::Ways() { return std::size(kWays); }
 const char* World::NameOf(std::size_t way) { return kWays[way]; }
 
 void World::Open(std::size_t way) {
-  if (!application.editor()) return;
-  MenuItem& entry = application.editor()->menus(kWays[way]);
+  if (!application.editor().Visible) return;
+  MenuItem& entry = application.editor().menus(kWays[way]);
   if (entry.Enabled && entry.Visible) entry.Click();
 }
 

@@ -127,10 +127,9 @@ class Round {
   }
 
   void CheckDocuments() const {
-    const Editor* const editor = world_.application.editor();
-    if (!editor) return;
-    RequireSound(editor->Joystick);
-    RequireSound(editor->Macro);
+    const Editor& editor = world_.application.editor();
+    RequireSound(editor.Joystick);
+    RequireSound(editor.Macro);
   }
 
   Chance chance_;

@@ -35,7 +35,7 @@ class FileWindow : public testing::Test {
     QApplication::processEvents();
   }
 
-  Editor& Files() { return *application.editor(); }
+  Editor& Files() { return application.editor(); }
   MumWindow& Frame() { return *dynamic_cast<MumWindow*>(screen.ViewOf(application.mum())); }
   PaneView& JoystickPane() { return *dynamic_cast<PaneView*>(screen.Find(Files().JoystickText)); }
 
@@ -108,8 +108,8 @@ TEST_F(FileWindow, DroppedFilesLeaveUnsavedWorkToTheUser) {
 TEST_F(FileWindow, AFileOpensInTheEmptyFrame) {
   application.CloseEditor();
   EXPECT_TRUE(Drop(Frame(), *DraggedFiles({QStringLiteral("one.b50")})));
-  ASSERT_TRUE(application.editor());
-  EXPECT_EQ(Files().Joystick.Name.Get(), "one.b50");
+  ASSERT_TRUE(application.editor().Visible);
+  EXPECT_EQ(Files().Joystick.Name.Get().Text(), "one.b50");
 }
 
 TEST_F(FileWindow, TextThatIsDroppedIsText) {
@@ -149,7 +149,7 @@ TEST_F(FileWindow, TheTitleNamesTheFileOnShowAndMarksUnsavedWork) {
   Files().TabStrip1.Select(2);
   EXPECT_EQ(title(), "untitled.m50[*] - Tarvik");
   EXPECT_FALSE(Frame().isWindowModified());
-  Files().Macro.Name = "a[*].m50";
+  Files().Macro.Name = *FileName::From("a[*].m50");
   EXPECT_EQ(title(), "a[*][*].m50[*] - Tarvik");
   outside.dialogs.answers = {Answer::No};
   application.CloseEditor();

@@ -89,9 +89,9 @@ TEST_F(Lists, HaveModelsThatAnswerEveryIndexWhileTheyChange) {
   picker.File1.Fill({"a", "b", "c"});
   picker.File1.ListIndex = 2;
   picker.File1.Clear();
-  application.editor()->List1(0).Fill({"one", "two"});
-  application.editor()->List1(0).Tick({true, false});
-  application.editor()->List1(0).Fill({"one"});
+  application.editor().List1(0).Fill({"one", "two"});
+  application.editor().List1(0).Tick({true, false});
+  application.editor().List1(0).Fill({"one"});
   EXPECT_EQ(Complaints::taken.join(u'\n').toStdString(), "");
 }
 

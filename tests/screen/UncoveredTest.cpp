@@ -9,12 +9,19 @@
 
 #include "app/Editor.h"
 #include "screen/Screen.h"
+#include "screen/WindowOrder.h"
 #include "support/ScriptedPlatform.h"
 
 namespace tarvik::screen {
 namespace {
 
 constexpr int kLines = 300;
+
+/// A tool that is kept on top.
+class Tool : public QDialog, public CanBeOnTop {
+ public:
+  [[nodiscard]] bool IsOnTop() const override { return true; }
+};
 
 class Uncovered : public testing::TestWithParam<int> {
  protected:
@@ -24,7 +31,6 @@ class Uncovered : public testing::TestWithParam<int> {
     pane.Text = text;
     view = qobject_cast<QPlainTextEdit*>(screen.Find(pane));
     QApplication::processEvents();
-    tool.setWindowFlag(Qt::WindowStaysOnTopHint);
     const QRect seen(view->viewport()->mapToGlobal(QPoint()), view->viewport()->size());
     tool.setGeometry(seen.adjusted(-20, -20, 0, -seen.height() / 2));
     tool.show();
@@ -53,7 +59,7 @@ class Uncovered : public testing::TestWithParam<int> {
   Screen screen{application, Clock::Scripted};
   Pane& pane = Joystick();
   QPlainTextEdit* view = nullptr;
-  QDialog tool;
+  Tool tool;
 
  private:
   Pane& Joystick() {
