@@ -85,6 +85,7 @@ void ListBox::FillInOrder(std::vector<std::string> items) {
   ListIndex = -1;
   items_ = std::move(items);
   ticks_.assign(items_.size(), false);
+  colours_.clear();
   ItemsChanged();
 }
 
@@ -93,6 +94,19 @@ void ListBox::Tick(std::vector<bool> ticks) {
   if (ticks == ticks_) return;
   ticks_ = std::move(ticks);
   TicksChanged();
+}
+
+void ListBox::Paint(std::vector<unsigned> colours) {
+  colours.resize(items_.size());
+  if (colours == colours_) return;
+  colours_ = std::move(colours);
+  ColoursChanged();
+}
+
+std::string ListBox::ColourLines() const {
+  std::string lines;
+  for (const unsigned colour : colours_) AddLine(lines, TextOf(colour));
+  return lines;
 }
 
 std::string ListBox::Lines(bool tickedOnly) const {

@@ -265,7 +265,8 @@ class ProgressBar : public Control {
   Property<int> Value{*this, "Value", 0};
 };
 
-/// A list of texts, sorted or in an order of their own, each of which can bear a tick.
+/// A list of texts, sorted or in an order of their own, each of which can bear a tick or stand beside a
+/// colour.
 class ListBox : public Control {
  public:
   using Control::Control;
@@ -284,11 +285,15 @@ class ListBox : public Control {
   void Clear() { Fill({}); }
   /// One tick for each item, in the order of the list.
   void Tick(std::vector<bool> ticks);
+  /// A colour beside each item, in the order of the list.
+  void Paint(std::vector<unsigned> colours);
+  [[nodiscard]] const std::vector<unsigned>& Colours() const { return colours_; }
 
   Property<int> ListIndex{*this, "ListIndex", -1};
   Attribute<std::string> Items{*this, "Items", [this] { return Lines(false); }};
   Attribute<std::string> Ticked{*this, "Ticked", [this] { return Lines(true); }};
   Attribute<int> Count{*this, "ListCount", [this] { return ListCount(); }};
+  Attribute<std::string> Swatches{*this, "Swatches", [this] { return ColourLines(); }};
   Event<> DblClick{*this, "DblClick"};
   Event<> OLEStartDrag{*this, "OLEStartDrag"};
   /// What a drag carries, as plain text; the drag's handler fills it.
@@ -296,12 +301,15 @@ class ListBox : public Control {
 
   Signal<> ItemsChanged;
   Signal<> TicksChanged;
+  Signal<> ColoursChanged;
 
  private:
   [[nodiscard]] std::string Lines(bool tickedOnly) const;
+  [[nodiscard]] std::string ColourLines() const;
 
   std::vector<std::string> items_;
   std::vector<bool> ticks_;
+  std::vector<unsigned> colours_;  // none, or one for each item
 };
 
 /// A drop-down list of texts, with no free typing.

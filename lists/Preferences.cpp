@@ -71,6 +71,7 @@ constexpr const char* kFixedPitch =
 constexpr const char* kAutoSaveInvalid =
     "The value you entered isn't valid. I'm changing it to 10 minutes to prevent an error ocurring.";
 
+constexpr int kLeftButton = 1;
 constexpr int kLeastUndo = 10;
 constexpr int kMostUndo = 30000;
 constexpr int kAutoSaveMinutes = 10;
@@ -173,7 +174,9 @@ void Preferences::AttachHandlers() {
   ComboJoystick.Click = [this] { ComboJoystick_Click(); };
   ComboThrottle.Click = [this] { settings_.ThrottleName = ComboThrottle.ListIndex; };
   ComboRudders.Click = [this] { settings_.RudderName = ComboRudders.ListIndex; };
-  List1.MouseUp = [this](const Mouse&) { List1_Click(); };
+  List1.MouseUp = [this](const Mouse& mouse) {
+    if (mouse.button == kLeftButton) List1_Click();
+  };
   List1.DblClick = [this] { List1_Click(); };  // the Enter key
   CheckBox1.Click = [this] { settings_.ApplyColoursOnFileOpen = CheckBox1.Value; };
   Command17.Click = [this] { Command17_Click(); };
@@ -490,6 +493,14 @@ void Preferences::FillColours() {
   std::vector<std::string> items;
   for (const ColourRow& row : kColourRows) items.emplace_back(row.item);
   List1.FillInOrder(std::move(items));
+  ShowSwatches();
+}
+
+/// Each colour stands beside its name.
+void Preferences::ShowSwatches() {
+  std::vector<unsigned> colours;
+  for (const ColourRow& row : kColourRows) colours.push_back(settings_.*row.colour);
+  List1.Paint(std::move(colours));
 }
 
 void Preferences::ShowExample() {
@@ -514,6 +525,7 @@ void Preferences::ApplyColour(Colour colour) {
   if (item < 0) return;
   const ColourRow& row = kColourRows[item];
   settings_.*row.colour = colour;
+  ShowSwatches();
   if (item == kBackground) ExampleJoystickText.BackColor = colour;
   for (const ColouredWord& word : row.words) {
     if (!word.word.empty()) PaintExample(word.word, word.end, colour);

@@ -143,6 +143,7 @@ class Preferences : public Form {
   void Browse(CommandButton& button, TextBox& box, const char* say, const char* filter,
               Property<std::string>* setting = nullptr);
   void FillColours();
+  void ShowSwatches();
   void ShowExample();
   void PaintExample(std::string_view word, std::string_view end, Colour colour);
   void AttachApps();

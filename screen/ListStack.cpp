@@ -4,6 +4,7 @@
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <algorithm>
@@ -20,29 +21,55 @@ constexpr int kTick = 16;
 constexpr int kLeftButton = 1;
 constexpr int kRightButton = 2;
 
-/// A tick, and as much blank space where there is none.
-class TickDelegate : public QStyledItemDelegate {
+/// An item's colour, or its tick and as much blank space where there is none.
+class ItemDelegate : public QStyledItemDelegate {
  public:
-  explicit TickDelegate(QWidget& list)
+  ItemDelegate(QWidget& list, bool ticks)
       : QStyledItemDelegate(&list),
+        ticks_(ticks),
         tick_(Icon("tick", list.palette().color(QPalette::Text))),
         selectedTick_(Icon("tick", list.palette().color(QPalette::HighlightedText))) {}
 
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-    option->features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false);
-    option->features.setFlag(QStyleOptionViewItem::HasDecoration);
-    option->decorationSize = {kTick, kTick};
-    const QIcon& tick = option->state & QStyle::State_Selected ? selectedTick_ : tick_;
-    option->icon = ticked ? tick : QIcon();
+    if (ticks_) ShowTick(*option, index);
+    const auto colour = index.data(Qt::DecorationRole).value<QColor>();
+    if (colour.isValid()) option->icon = Swatch(colour, *option);
   }
 
  private:
+  void ShowTick(QStyleOptionViewItem& option, const QModelIndex& index) const {
+    const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+    option.features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false);
+    option.features.setFlag(QStyleOptionViewItem::HasDecoration);
+    option.decorationSize = {kTick, kTick};
+    const bool bright = (option.state & QStyle::State_Selected) && (option.state & QStyle::State_Active);
+    option.icon = ticked ? bright ? selectedTick_ : tick_ : QIcon();
+  }
+
+  /// With a line around it, and the same in a selected row.
+  static QIcon Swatch(const QColor& colour, const QStyleOptionViewItem& option) {
+    const qreal ratio = option.widget->devicePixelRatioF();
+    QPixmap swatch(option.decorationSize * ratio);
+    swatch.setDevicePixelRatio(ratio);
+    swatch.fill(option.palette.color(QPalette::Mid));
+    QPainter(&swatch).fillRect(QRect({1, 1}, option.decorationSize - QSize(2, 2)), colour);
+    QIcon icon;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected}) icon.addPixmap(swatch, mode);
+    return icon;
+  }
+
+  bool ticks_;
   QIcon tick_;
   QIcon selectedTick_;
 };
+
+QColor Between(const QColor& a, const QColor& b, float share) {
+  return QColor::fromRgbF(a.redF() + (b.redF() - a.redF()) * share,
+                          a.greenF() + (b.greenF() - a.greenF()) * share,
+                          a.blueF() + (b.blueF() - a.blueF()) * share);
+}
 
 }  // namespace
 
@@ -51,12 +78,23 @@ void ListModel::SetItems(const std::vector<std::string>& items, std::vector<bool
   items_.clear();
   for (const std::string& item : items) items_ += ToScreen(item);
   ticks_ = std::move(ticks);
+  colours_.clear();
   endResetModel();
 }
 
 void ListModel::SetTicks(std::vector<bool> ticks) {
   ticks_ = std::move(ticks);
-  if (!items_.isEmpty()) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {Qt::CheckStateRole});
+  Changed(Qt::CheckStateRole);
+}
+
+void ListModel::SetColours(const std::vector<unsigned>& colours) {
+  colours_.clear();
+  for (const unsigned colour : colours) colours_.push_back(ToScreenColour(colour));
+  Changed(Qt::DecorationRole);
+}
+
+void ListModel::Changed(int role) {
+  if (!items_.isEmpty()) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {role});
 }
 
 bool ListModel::Has(const QModelIndex& index) const {
@@ -70,18 +108,34 @@ int ListModel::rowCount(const QModelIndex& parent) const {
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   if (!Has(index)) return {};
   if (role == Qt::DisplayRole) return items_.at(index.row());
+  const auto row = static_cast<std::size_t>(index.row());
+  if (role == Qt::DecorationRole && row < colours_.size()) return colours_[row];
   if (role != Qt::CheckStateRole || !canTick_) return {};
-  return ticks_[static_cast<std::size_t>(index.row())] ? Qt::Checked : Qt::Unchecked;
+  return ticks_[row] ? Qt::Checked : Qt::Unchecked;
 }
 
 Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
   return Has(index) ? QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled : Qt::NoItemFlags;
 }
 
+void ShowFocusInSelection(QAbstractItemView& view) {
+  constexpr float kPale = 0.18F;
+  QPalette palette = view.palette();
+  if (palette.color(QPalette::Active, QPalette::Highlight) !=
+      palette.color(QPalette::Inactive, QPalette::Highlight))
+    return;
+  const QColor text = palette.color(QPalette::Text);
+  palette.setColor(QPalette::Inactive, QPalette::Highlight,
+                   Between(palette.color(QPalette::Base), text, kPale));
+  palette.setColor(QPalette::Inactive, QPalette::HighlightedText, text);
+  view.setPalette(palette);
+}
+
 ListStack::ListStack(Bindings& bindings, const QString& name, bool ticks)
     : bindings_(bindings), model_(ticks) {
   setModel(&model_);
-  if (ticks) setItemDelegate(new TickDelegate(*this));
+  setItemDelegate(new ItemDelegate(*this, ticks));
+  ShowFocusInSelection(*this);
   setUniformItemSizes(true);
   setMouseTracking(true);
   setEditTriggers(NoEditTriggers);
@@ -112,6 +166,7 @@ void ListStack::Add(ListBox& list) {
       list.Visible.Changed.Connect([this] { BringUpToDate(); }),
       list.ItemsChanged.Connect(inFront([this] { ShowItems(); })),
       list.TicksChanged.Connect(inFront([this, &list] { model_.SetTicks(list.Ticks()); })),
+      list.ColoursChanged.Connect(inFront([this, &list] { model_.SetColours(list.Colours()); })),
       list.ListIndex.Changed.Connect(inFront([this] { ShowIndex(); })),
   };
   const auto read = [this, &list](auto what) -> Bindings::Reader {
@@ -134,6 +189,15 @@ void ListStack::Add(ListBox& list) {
       list.Ticked, [] {}, read([lines] { return lines(true); }));
   bindings_.Bind(
       list.Count, [] {}, read([this] { return TextOf(model_.rowCount()); }));
+  bindings_.Bind(
+      list.Swatches, [] {}, read([this] {
+        QStringList colours;
+        for (int row = 0; row < model_.rowCount(); ++row) {
+          const auto colour = model_.index(row).data(Qt::DecorationRole).value<QColor>();
+          if (colour.isValid()) colours += QString::number(FromScreenColour(colour));
+        }
+        return FromScreen(colours.join(u'\n'));
+      }));
   bindings_.Bind(
       list.ListIndex, [] {}, read([this] { return TextOf(currentIndex().row()); }));
   bindings_.Bind(
@@ -185,6 +249,7 @@ void ListStack::ShowItems() {
   const QScopedValueRollback showing(showing_, true);
   if (front_) {
     model_.SetItems(front_->List(), front_->Ticks());
+    model_.SetColours(front_->Colours());
   } else {
     model_.SetItems({}, {});
   }
@@ -237,15 +302,22 @@ bool ListStack::BeginsDrag(const QPoint& place) const {
 void ListStack::mouseReleaseEvent(QMouseEvent* event) {
   press_.reset();
   QListView::mouseReleaseEvent(event);
-  if (front_) front_->MouseUp(ToMouse(*event));
+  if (front_ && indexAt(event->pos()).isValid()) front_->MouseUp(ToMouse(*event));
 }
 
 void ListStack::mouseDoubleClickEvent(QMouseEvent* event) {
   if (front_ && event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) front_->DblClick();
 }
 
+void ListStack::ClickItem() {
+  if (!front_ || !currentIndex().isValid()) return;
+  front_->MouseDown({kLeftButton, 0, 0, 0});
+  front_->MouseUp({kLeftButton, 0, 0, 0});
+}
+
 /// A move by keys shows the macro as a click does.
 void ListStack::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Space && event->modifiers() == Qt::NoModifier) return ClickItem();
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     if (front_ && currentIndex().isValid()) front_->DblClick();
     return;
@@ -266,7 +338,7 @@ void ListStack::focusInEvent(QFocusEvent* event) {
 }
 
 void ListStack::startDrag(Qt::DropActions) {
-  if (!front_) return;
+  if (!front_ || !front_->OLEStartDrag) return;
   front_->OLEStartDrag();
   auto* const data = new QMimeData;
   data->setText(ToScreen(front_->DragText.Get()));

@@ -17,6 +17,8 @@ class ListModel : public QAbstractListModel {
   explicit ListModel(bool ticks) : canTick_(ticks) {}
   void SetItems(const std::vector<std::string>& items, std::vector<bool> ticks);
   void SetTicks(std::vector<bool> ticks);
+  /// None, or one beside each item.
+  void SetColours(const std::vector<unsigned>& colours);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -24,11 +26,16 @@ class ListModel : public QAbstractListModel {
 
  private:
   [[nodiscard]] bool Has(const QModelIndex& index) const;
+  void Changed(int role);
 
   QStringList items_;
   std::vector<bool> ticks_;  // one for each item
+  std::vector<QColor> colours_;
   bool canTick_;
 };
+
+/// Lets the selection of a list without the focus look paler, where the desktop makes no difference.
+void ShowFocusInSelection(QAbstractItemView& view);
 
 class ListStack : public QListView {
  public:
@@ -58,6 +65,8 @@ class ListStack : public QListView {
   };
 
   void TakeFocus();
+  /// What a click does to the item in hand, and the Space key as well.
+  void ClickItem();
   void Remove(ListBox& list);
   void Raise(ListBox& list);
   void BringUpToDate();

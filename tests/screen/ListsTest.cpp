@@ -120,5 +120,71 @@ TEST_F(Lists, CopyNothingWithoutAnItemInHand) {
   }
 }
 
+class ColourList : public Lists {
+ protected:
+  ColourList() {
+    preferences.SSTab1.Tab = Preferences::kColours;
+    view->setFocus();
+  }
+
+  Preferences& preferences = Shown<Preferences>();
+  QListView* view = ViewOf(preferences.List1);
+  const Property<Colour>& background = application.settings.BackgroundColour;
+  const Property<Colour>& rem = application.settings.RemStatements;
+};
+
+TEST_F(ColourList, IsWalkedByTheArrowKeysAndAsksForAColourByEnterSpaceAndClick) {
+  outside_.dialogs.choices = {"17", "18", "19", "20"};
+  QTest::keyClick(view, Qt::Key_Down);
+  QTest::keyClick(view, Qt::Key_Up);
+  EXPECT_EQ(preferences.List1.ListIndex, 0);
+  EXPECT_EQ(outside_.dialogs.choices.size(), 4U) << "the arrow keys only select";
+  QTest::keyClick(view, Qt::Key_Space);
+  EXPECT_EQ(background, 17U);
+  QTest::keyClick(view, Qt::Key_Return);
+  EXPECT_EQ(background, 18U);
+  QTest::keyClick(view, Qt::Key_Down);
+  EXPECT_EQ(preferences.List1.ListIndex, 1);
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                    view->visualRect(view->model()->index(1, 0)).center());
+  EXPECT_EQ(rem, 19U);
+  const QPoint below(10, view->viewport()->height() - 3);
+  ASSERT_FALSE(view->indexAt(below).isValid());
+  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, below);
+  QTest::mouseClick(view->viewport(), Qt::RightButton, {},
+                    view->visualRect(view->model()->index(1, 0)).center());
+  EXPECT_EQ(rem, 19U);
+}
+
+TEST_F(ColourList, ShowsEachColourBesideItsName) {
+  outside_.dialogs.choices = {"255"};
+  preferences.List1.ListIndex = 2;
+  QTest::keyClick(view, Qt::Key_Space);
+  const QRect row = view->visualRect(view->model()->index(2, 0));
+  const QImage shown = view->viewport()->grab().toImage();
+  int red = 0;
+  for (int x = row.left(); x < row.left() + row.height() * 2; ++x) {
+    red += shown.pixelColor(x, row.center().y()) == QColor(Qt::red) ? 1 : 0;
+  }
+  EXPECT_GE(red, 8) << "also in a row that is selected";
+}
+
+TEST_F(Lists, PaintTheirSelectionPalerWithoutTheFocus) {
+  auto& picker = Shown<SelectPictureForm>();
+  auto* const window = dynamic_cast<QWidget*>(screen.ViewOf(picker));
+  QListView* const view = ViewOf(picker.Dir1);
+  window->activateWindow();
+  const auto selection = [view] {
+    QApplication::processEvents();
+    const QRect row = view->visualRect(view->currentIndex());
+    return view->viewport()->grab().toImage().pixelColor(row.right() - 3, row.center().y());
+  };
+  view->setFocus();
+  const QColor focused = selection();
+  ViewOf(picker.File1)->setFocus();
+  EXPECT_NE(selection(), focused);
+  EXPECT_NE(selection(), view->palette().color(QPalette::Base));
+}
+
 }  // namespace
 }  // namespace tarvik::screen
