@@ -12,6 +12,16 @@ constexpr int kF1 = 112;
 constexpr int kInsertPanel = 5;
 constexpr int kRightButton = 2;
 
+/// The word that the caret stands in, before or behind.
+std::string WordAt(const Pane& pane) {
+  constexpr std::string_view kBetween = " \t\r\n(),=";
+  const std::string_view text = pane.Characters();
+  const std::size_t caret = pane.Selection().start;
+  const std::size_t before = caret == 0 ? std::string_view::npos : text.find_last_of(kBetween, caret - 1);
+  const std::size_t start = before == std::string_view::npos ? 0 : before + 1;
+  return std::string(text.substr(start, text.find_first_of(kBetween, caret) - start));
+}
+
 }  // namespace
 
 void PaneInput::Attach(Document& document) {
@@ -48,8 +58,10 @@ void PaneInput::KeyDown(Document& document, Key& key) {
   }
   if (key.code == kInsert && key.shift == 0) TurnOvertypeOver();
   if (key.code == kEscape) hooks_.popUp("mnuInsert");
+  if (key.code != kF1) return;
   const std::string selected = document.text.SelText;
-  if (key.code == kF1 && !selected.empty()) ShowHelp(selected);
+  const std::string keyword = selected.empty() ? WordAt(document.text) : selected;
+  if (!keyword.empty()) ShowHelp(keyword);
 }
 
 void PaneInput::TurnOvertypeOver() {

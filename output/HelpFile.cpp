@@ -1,6 +1,7 @@
 #include "output/HelpFile.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include "controls/Component.h"
 #include "platform/CodePage.h"
@@ -53,6 +54,44 @@ void TakeNote(std::string_view keywords, HelpTopic& topic) {
   }
 }
 
+bool IsOfWord(char character) {
+  return (character & 0x80) || std::isalnum(static_cast<unsigned char>(character));
+}
+
+std::vector<std::string> WordsOf(std::string_view text) {
+  std::string rest = LowerCase(text);
+  std::replace(rest.begin(), rest.end(), '\t', ' ');
+  std::vector<std::string> words;
+  for (std::string_view left = Trimmed(rest); !left.empty(); left = Trimmed(left)) {
+    words.emplace_back(TakeUpTo(left, ' '));
+  }
+  return words;
+}
+
+/// A sign such as the "/" of "/U" begins anywhere, letters and digits only where no other stands before them.
+std::vector<SearchHit> HitsOf(std::string_view wanted, std::string_view lowerText) {
+  std::vector<SearchHit> hits;
+  for (std::size_t at = lowerText.find(wanted); at != std::string_view::npos;
+       at = lowerText.find(wanted, at + 1)) {
+    if (at == 0 || !IsOfWord(wanted.front()) || !IsOfWord(lowerText[at - 1]))
+      hits.push_back({at, wanted.size()});
+  }
+  return hits;
+}
+
+bool HasAll(std::string_view text, const std::vector<std::string>& words) {
+  const std::string lower = LowerCase(text);
+  return std::all_of(words.begin(), words.end(),
+                     [&lower](const std::string& word) { return !HitsOf(word, lower).empty(); });
+}
+
+/// What is searched beside the title.
+std::string WholeOf(const HelpTopic& topic) {
+  std::string whole;
+  for (const std::string& keyword : topic.keywords) whole += keyword + "\n";
+  return whole + topic.text;
+}
+
 }  // namespace
 
 HelpFile::HelpFile(std::string_view text) {
@@ -101,17 +140,28 @@ const HelpTopic* HelpFile::WithKeyword(std::string_view keyword) const {
 }
 
 std::vector<const HelpTopic*> HelpFile::Search(std::string_view words) const {
-  const std::string wanted = LowerCase(Trimmed(words));
-  const auto has = [&wanted](const std::string& text) {
-    return LowerCase(text).find(wanted) != std::string::npos;
-  };
+  const std::vector<std::string> wanted = WordsOf(words);
   std::vector<const HelpTopic*> found;
+  std::vector<const HelpTopic*> others;
   for (const HelpTopic& topic : topics_) {
-    if (has(topic.text) || std::any_of(topic.keywords.begin(), topic.keywords.end(), has)) {
+    if (HasAll(topic.title, wanted)) {
       found.push_back(&topic);
+    } else if (HasAll(WholeOf(topic), wanted)) {
+      others.push_back(&topic);
     }
   }
+  found.insert(found.end(), others.begin(), others.end());
   return found;
+}
+
+std::vector<SearchHit> HitsIn(std::string_view text, std::string_view words) {
+  const std::string lower = LowerCase(text);
+  std::vector<SearchHit> hits;
+  for (const std::string& word : WordsOf(words)) {
+    const std::vector<SearchHit> more = HitsOf(word, lower);
+    hits.insert(hits.end(), more.begin(), more.end());
+  }
+  return hits;
 }
 
 }  // namespace tarvik

@@ -31,11 +31,21 @@ class HelpFile {
   /// without its number where it has one; else null. Case and blanks around it do not matter.
   [[nodiscard]] const HelpTopic* WithKeyword(std::string_view keyword) const;
 
-  /// The topics whose title, keywords or text hold the words, in the order of the file; all for none.
+  /// The topics in which each of the words begins one, in the order of the file: those first where all do so
+  /// in the title, then those where they do in the keywords or the text. All topics for no words.
   [[nodiscard]] std::vector<const HelpTopic*> Search(std::string_view words) const;
 
  private:
   std::vector<HelpTopic> topics_;
 };
+
+/// A stretch of a text.
+struct SearchHit {
+  std::size_t start;
+  std::size_t length;
+};
+
+/// Where a word of the text begins with one of the words that are searched for, whatever their case.
+[[nodiscard]] std::vector<SearchHit> HitsIn(std::string_view text, std::string_view words);
 
 }  // namespace tarvik

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTextBlock>
@@ -12,6 +11,7 @@
 
 #include "output/HelpTopics.h"
 #include "screen/Icons.h"
+#include "screen/ListStack.h"
 #include "screen/Text.h"
 
 namespace tarvik::screen {
@@ -22,6 +22,7 @@ constexpr int kListWidth = 240;
 constexpr int kExampleMargin = 12;
 constexpr int kTextMargin = 14;
 constexpr int kIcon = 16;
+constexpr QColor kMarked(0xFF, 0xE0, 0x66);
 
 /// A stretch of lines of one file, as the help file marks it: ```joystick or ```macro.
 struct Example {
@@ -81,7 +82,11 @@ std::size_t TopicOf(const QListWidgetItem& item) { return item.data(Qt::UserRole
 
 }  // namespace
 
-HelpWindow::HelpWindow() : words_(new QLineEdit), topics_(new QListWidget), text_(new QTextBrowser) {
+HelpWindow::HelpWindow()
+    : words_(new QLineEdit),
+      none_(new QLabel(tr("No topic has these words."))),
+      topics_(new QListWidget),
+      text_(new QTextBrowser) {
   setWindowTitle(tr("Tarvik help"));
   resize(kSize);
   auto* const tools = new QToolBar;
@@ -106,14 +111,19 @@ HelpWindow::HelpWindow() : words_(new QLineEdit), topics_(new QListWidget), text
   search->addWidget(words_);
   auto* const left = new QVBoxLayout;
   left->addLayout(search);
+  left->addWidget(none_);
   left->addWidget(topics_);
+  none_->setObjectName(QStringLiteral("NothingFound"));
+  none_->hide();
   topics_->setFixedWidth(kListWidth);
+  ShowFocusInSelection(*topics_);
   auto* const columns = new QHBoxLayout;
   columns->addLayout(left);
   columns->addWidget(text_, 1);
   auto* const rows = new QVBoxLayout(this);
   rows->setMenuBar(tools);
   rows->addLayout(columns);
+  EnableWays();
   connect(words_, &QLineEdit::textChanged, this, [this] { Search(); });
   connect(topics_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
     if (item && (item->flags() & Qt::ItemIsSelectable)) Visit(TopicOf(*item));
@@ -134,22 +144,27 @@ void HelpWindow::Open(HelpFile file, const FileLook& look) {
   file_ = std::move(file);
   look_ = look;
   read_.clear();
+  at_ = 0;
   shown_.reset();
+  EnableWays();
   const QSignalBlocker quiet(words_);
   words_->clear();
   ListTopics();
 }
 
+/// The page stays as long as the words are on it, when there are none, and when no topic has them.
 void HelpWindow::Search() {
-  ListTopics();
-  const bool listed = topics_->currentItem();
-  for (int row = 0; row < topics_->count() && !listed; ++row) {
+  const bool found = ListTopics();
+  none_->setVisible(!found);
+  MarkHits();
+  if (!found || topics_->currentItem()) return;
+  for (int row = 0; row < topics_->count(); ++row) {
     if (topics_->item(row)->flags() & Qt::ItemIsSelectable) return Show(TopicOf(*topics_->item(row)));
   }
 }
 
 /// Without a search the topics stand under their headings.
-void HelpWindow::ListTopics() {
+bool HelpWindow::ListTopics() {
   const std::string words = FromText(words_->text());
   const QSignalBlocker quiet(topics_);
   topics_->clear();
@@ -160,6 +175,25 @@ void HelpWindow::ListTopics() {
     item->setData(Qt::UserRole, static_cast<unsigned>(topic - file_.Topics().data()));
   }
   SelectShown();
+  return topics_->count() > 0;
+}
+
+/// In the text, what was searched for.
+void HelpWindow::MarkHits() {
+  const std::string words = FromText(words_->text());
+  QTextCharFormat marked;
+  marked.setBackground(kMarked);
+  marked.setForeground(Qt::black);
+  QList<QTextEdit::ExtraSelection> marks;
+  for (QTextBlock line = text_->document()->begin(); line.isValid(); line = line.next()) {
+    for (const SearchHit& hit : HitsIn(FromText(line.text()), words)) {
+      QTextCursor cursor(line);
+      cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, static_cast<int>(hit.start));
+      cursor.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor, static_cast<int>(hit.length));
+      marks.push_back({cursor, marked});
+    }
+  }
+  text_->setExtraSelections(marks);
 }
 
 void HelpWindow::AddHeading(const std::string& group) {
@@ -181,13 +215,18 @@ void HelpWindow::SelectShown() {
 
 void HelpWindow::Show(std::size_t topic) {
   shown_ = topic;
-  back_->setEnabled(at_ > 0);
-  forward_->setEnabled(at_ + 1 < read_.size());
+  EnableWays();
   text_->setMarkdown(AsText(file_.Topics()[topic].text));
   ColourExamples(*text_->document(), look_);
   text_->document()->setDocumentMargin(kTextMargin);
   text_->moveCursor(QTextCursor::Start);
+  MarkHits();
   SelectShown();
+}
+
+void HelpWindow::EnableWays() {
+  back_->setEnabled(at_ > 0);
+  forward_->setEnabled(at_ + 1 < read_.size());
 }
 
 /// What was ahead is forgotten, as in every browser. What a search has shown is on the way too.

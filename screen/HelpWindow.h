@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTextBrowser>
@@ -36,7 +37,10 @@ class HelpWindow : public QDialog {
   QAction* AddAction(const char* icon, const QString& text, const QKeySequence& key,
                      void (HelpWindow::*run)());
   void Search();
-  void ListTopics();
+  /// True when a topic has the words.
+  bool ListTopics();
+  void MarkHits();
+  void EnableWays();
   void AddHeading(const std::string& group);
   void SelectShown();
   void ShowTopic(const HelpTopic* topic, const QString& asked);
@@ -58,6 +62,7 @@ class HelpWindow : public QDialog {
   QAction* back_;
   QAction* forward_;
   QLineEdit* words_;
+  QLabel* none_;  // no topic has the words
   QListWidget* topics_;
   QTextBrowser* text_;
 };

@@ -77,10 +77,22 @@ TEST(HelpFile, TopicsStandUnderTheHeadingBeforeThem) {
 TEST(HelpFile, ASearchLooksAtTitlesKeywordsAndText) {
   const HelpFile file(kFile);
   EXPECT_THAT(file.Search(" LOOKS for "), ElementsAre(&file.Topics()[0]));
-  EXPECT_THAT(file.Search("search"), ElementsAre(&file.Topics()[0], &file.Topics()[1]));
+  EXPECT_THAT(file.Search("search"), ElementsAre(&file.Topics()[1], &file.Topics()[0])) << "titles first";
+  EXPECT_THAT(file.Search("aga sea"), ElementsAre(&file.Topics()[1])) << "all of them, in any order";
   EXPECT_THAT(file.Search("Last"), ElementsAre(&file.Topics()[2]));
   EXPECT_EQ(file.Search("").size(), 3U);
   EXPECT_THAT(file.Search("nowhere"), IsEmpty());
+}
+
+TEST(HelpFile, ASearchFindsTheBeginningsOfWords) {
+  const HelpFile file("# Buttons\n/U and BTN (RAW)\n# Reset\nset\n");
+  EXPECT_THAT(file.Search("set"), ElementsAre(&file.Topics()[1]));
+  EXPECT_THAT(file.Search("utton"), IsEmpty());
+  EXPECT_THAT(file.Search("/u raw"), ElementsAre(&file.Topics()[0]));
+  std::vector<std::size_t> starts;
+  for (const SearchHit& hit : HitsIn("Reset, set and /set", "SET")) starts.push_back(hit.start);
+  EXPECT_THAT(starts, ElementsAre(7, 16));
+  EXPECT_TRUE(HitsIn("Reset", " ").empty());
 }
 
 TEST(HelpFile, ExamplesKeepTheirBlanks) {

@@ -216,6 +216,38 @@ TEST_F(HelpWindowTest, SearchesTheTextsToo) {
   EXPECT_EQ(Title(), QStringLiteral("Two")) << "what the search found was on the way";
 }
 
+TEST_F(HelpWindowTest, SaysThatNothingWasFoundAndKeepsThePage) {
+  auto* const none = help.findChild<QLabel*>(QStringLiteral("NothingFound"));
+  ASSERT_NE(none, nullptr);
+  EXPECT_FALSE(none->isVisible());
+  words->setText(QStringLiteral("nowhere"));
+  EXPECT_TRUE(none->isVisible());
+  EXPECT_EQ(Title(), QStringLiteral("One"));
+  words->clear();
+  EXPECT_FALSE(none->isVisible());
+  EXPECT_EQ(Title(), QStringLiteral("One"));
+}
+
+TEST_F(HelpWindowTest, MarksWhatWasSearchedFor) {
+  words->setText(QStringLiteral("gun btn"));
+  ASSERT_EQ(Title(), QStringLiteral("Three"));
+  QStringList marked;
+  for (const auto& mark : text->extraSelections()) marked += mark.cursor.selectedText();
+  EXPECT_EQ(marked, QStringList({QStringLiteral("Gun"), QStringLiteral("BTN")}));
+  words->clear();
+  EXPECT_TRUE(text->extraSelections().isEmpty());
+}
+
+TEST_F(HelpWindowTest, HasNoWayBackBeforeAnythingWasRead) {
+  HelpWindow fresh;
+  fresh.Open(HelpFile("# One\n"));
+  fresh.ShowKeyword("unknown");
+  for (QAction* const action : fresh.actions()) {
+    if (action->isEnabled() && action->text() != QLatin1String("Print")) action->trigger();
+  }
+  EXPECT_FALSE(fresh.actions().constFirst()->isEnabled());
+}
+
 TEST_F(HelpWindowTest, ShowsExamplesInTheColoursOfTheFiles) {
   help.ShowContext(3);
   const QTextBlock example = text->document()->lastBlock();
