@@ -386,7 +386,7 @@ void Preferences::AttachLists() {
   Label11.Caption = lists.FavNameToLoad.Get();
   Label11.BackColor = ToggleLabel::kOff;
   Check5.Click = [this] {
-    if (filling_) return;
+    if (filling_ || List3.ListIndex < 0) return;
     games_.list.SetPart(List3.ListIndex + 1, 4, Check5.Value.ToText());
     games_.save();
   };
@@ -505,7 +505,7 @@ void Preferences::ShowSwatches() {
 
 void Preferences::ShowExample() {
   ExampleJoystickText.Text = std::string(kExample);
-  application_.editor().ApplyFont(ExampleJoystickText);
+  ApplyFont(ExampleJoystickText, settings_);
   for (int i = 0; i < List1.ListCount(); ++i) {
     List1.ListIndex = i;
     ApplyColour(settings_.*kColourRows[i].colour);
@@ -552,7 +552,7 @@ void Preferences::DoTheFonts() {
   settings_.TextFontName = font->name;
   settings_.TextFontSize = font->size;
   settings_.TextFontBold = font->bold ? 1 : 0;
-  application_.editor().ApplyFont(ExampleJoystickText);
+  ApplyFont(ExampleJoystickText, settings_);
   application_.values.FontChanged = 1;
   application_.values.TemplateFontChanged = 1;
 }
