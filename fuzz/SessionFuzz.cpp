@@ -1,5 +1,6 @@
 // A user who does anything: bytes become keys, clicks on menu entries and buttons, picks, drops and passing
-// time, over the whole program. After each of them both panes and their histories are sound.
+// time, over the whole program: the editor, and every tool that is open, with the editor and without it.
+// After each of them both panes and their histories are sound.
 #include <algorithm>
 #include <cstdlib>
 
@@ -30,9 +31,32 @@ class Bytes {
   std::size_t at_ = 0;
 };
 
+/// Colours and fonts are numbers; all other answers come from the queues.
+class FuzzDialogs : public session::ScriptedDialogs {
+ public:
+  explicit FuzzDialogs(Bytes& bytes) : bytes_(bytes) {}
+  Outcome<unsigned> AskForColour(unsigned /*before*/) override {
+    return static_cast<unsigned>(bytes_.Below(256) * 65793);
+  }
+  Outcome<FontChoice> AskForFont(const FontChoice& before, bool /*fixedPitch*/) override {
+    return FontChoice{before.name, static_cast<int>(bytes_.Below(100)), bytes_.Below(2) == 1};
+  }
+
+ private:
+  Bytes& bytes_;
+};
+
 class User {
  public:
-  explicit User(Bytes& bytes) : bytes_(bytes) {
+  explicit User(Bytes& bytes) : bytes_(bytes), dialogs_(bytes) {
+    outside_.drives.files = &files_;
+    outside_.programs.files = &files_;
+    // A modal form: what comes next happens inside it.
+    dialogs_.next = [this] {
+      if (bytes_.Empty()) return false;
+      Act();
+      return true;
+    };
     files_.Put("c:\\my\\a.b50", "USE MDEF a\r\nBTN S1 Fire /U Gear RAW (1C) Rem c\r\n~ d");
     files_.Put("c:\\my\\a.m50",
                "Gear = g\r\nrem ----\r\nrem guns\r\nrem ----\r\nFire = SPC\r\nBomb = b, x = 1");
@@ -46,13 +70,32 @@ class User {
     application_.Start();
   }
 
+  [[nodiscard]] bool HasEnded() const { return application_.Ended(); }
+
   void Act() {
     constexpr const char* kChoices[] = {"c:\\my\\a.b50", "c:\\my\\a.m50",   "c:\\my\\b.b50", "c:\\my\\b.m50",
                                         "c:\\my\\new",   "c:\\none\\a.b50", "c:\\my",        "cancel"};
     constexpr Answer kAnswers[] = {Answer::Yes, Answer::No, Answer::Cancel};
-    outside_.dialogs.choices = {bytes_.OneOf(kChoices), "cancel"};
-    outside_.dialogs.answers = {bytes_.OneOf(kAnswers), bytes_.OneOf(kAnswers)};
-    application_.ShowEditor();
+    dialogs_.choices = {bytes_.OneOf(kChoices), "cancel"};
+    dialogs_.answers = {bytes_.OneOf(kAnswers), bytes_.OneOf(kAnswers)};
+    if (Form* const modal = ModalForm()) {
+      UseTool(*modal);
+    } else if (!application_.editor().Visible && bytes_.Below(8) == 0) {
+      application_.ShowEditor();
+    } else if (!application_.editor().Visible || bytes_.Below(3) == 0) {
+      const std::vector<Form*> forms = application_.Forms();
+      UseTool(*forms[bytes_.Below(forms.size())]);
+    } else {
+      UseEditor();
+    }
+    dialogs_.boxes.clear();
+    dialogs_.requests.clear();
+    RequireSound(application_.editor().Joystick);
+    RequireSound(application_.editor().Macro);
+  }
+
+ private:
+  void UseEditor() {
     Editor& editor = application_.editor();
     Pane& pane = bytes_.Below(2) ? editor.MacroText : editor.JoystickText;
     switch (bytes_.Below(9)) {
@@ -85,13 +128,47 @@ class User {
       default:
         if (bytes_.Below(8) == 0) driver_->Close(editor);
     }
-    outside_.dialogs.boxes.clear();
-    outside_.dialogs.requests.clear();
-    RequireSound(application_.editor().Joystick);
-    RequireSound(application_.editor().Macro);
   }
 
- private:
+  /// The one that was shown last; no other takes input.
+  [[nodiscard]] Form* ModalForm() const {
+    const std::vector<Form*> forms = application_.Forms();
+    const auto modal = std::find_if(forms.rbegin(), forms.rend(),
+                                    [](const Form* form) { return form->Visible && form->Modal; });
+    return modal == forms.rend() ? nullptr : *modal;
+  }
+
+  void UseTool(Form& form) {
+    if (!form.Visible || form.Children().empty()) return;
+    if (&form != &application_.mum() && bytes_.Below(16) == 0) return driver_->Close(form);
+    Component& part = *form.Children()[bytes_.Below(form.Children().size())];
+    const auto* const control = dynamic_cast<const Control*>(&part);
+    if (!control || (control->Visible && control->Enabled)) UsePart(part);
+  }
+
+  void UsePart(Component& part) {
+    const auto pick = [&](int count) {
+      const auto item = bytes_.Below(256);
+      if (count > 0) driver_->Pick(part, static_cast<int>(item) % count);
+    };
+    if (auto* const timer = dynamic_cast<Timer*>(&part)) {
+      if (timer->Enabled) timer->Elapsed();
+    } else if (const auto* const combo = dynamic_cast<const ComboBox*>(&part)) {
+      pick(combo->ListCount());
+    } else if (const auto* const pages = dynamic_cast<const TabPages*>(&part)) {
+      pick(pages->Count());
+    } else if (const auto* const list = dynamic_cast<const ListBox*>(&part)) {
+      if (bytes_.Below(3) == 0 && list->ListIndex >= 0) return void(driver_->DoubleClick(part));
+      pick(list->ListCount());
+    } else if (dynamic_cast<TextBox*>(&part) || dynamic_cast<Pane*>(&part)) {
+      auto& box = dynamic_cast<Control&>(part);
+      if (bytes_.Below(2)) return void(driver_->PressKey(box, bytes_.OneOf(kKeys)));
+      driver_->Type(box, bytes_.OneOf(kTexts));
+    } else if (part.Name() != "mnuFileExit" && part.Name() != "mnuMumFileExit") {
+      driver_->Click(part);
+    }
+  }
+
   static constexpr const char* kTexts[] = {"a", " ", "BTN S1 ", "RAW (", ")", "/U", "Rem ", "Fire", "\xC9"};
   static constexpr const char* kKeys[] = {"Return", "Backspace", "Delete",   "Left",   "Right",     "Home",
                                           "End",    "Ctrl+Home", "Ctrl+End", "Ctrl+Z", "Ctrl+Z",    "Ctrl+Y",
@@ -137,7 +214,22 @@ class User {
   Bytes& bytes_;
   MemoryFiles files_;
   session::ScriptedPlatform outside_;
-  Platform platform_ = outside_.Process(files_);
+  FuzzDialogs dialogs_;
+  Platform platform_{files_,
+                     dialogs_,
+                     outside_.instance,
+                     outside_.clipboard,
+                     outside_.help,
+                     outside_.calendar,
+                     outside_.printer,
+                     outside_.desktop,
+                     outside_.joystick,
+                     outside_.keyboard,
+                     outside_.programs,
+                     outside_.drives,
+                     {28800, 21600},
+                     "c:\\tarvik",
+                     ""};
   Application application_{platform_};
   std::unique_ptr<session::Driver> driver_ = session::MakeFormDriver(application_);
 };
@@ -147,6 +239,6 @@ class User {
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   Bytes bytes(data, size);
   User user(bytes);
-  while (!bytes.Empty()) user.Act();
+  while (!bytes.Empty() && !user.HasEnded()) user.Act();
   return 0;
 }

@@ -150,6 +150,9 @@ class FormDriver : public Driver {
         if (auto* const picture = dynamic_cast<PlotBox*>(child)) drawings_.Watch(*picture);
       }
     });
+    unloading_ = application.Unloading.Connect([this](Form& form) {
+      std::erase_if(popUps_, [&form](const auto& open) { return open.first == &form; });
+    });
   }
 
   bool Click(Component& control) override {
@@ -414,6 +417,7 @@ class FormDriver : public Driver {
 
   Application& application_;
   Connection loaded_;
+  Connection unloading_;
   Drawings drawings_;
   std::vector<Connection> shown_;
   std::vector<std::pair<Form*, std::string>> popUps_;
