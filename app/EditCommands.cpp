@@ -45,6 +45,7 @@ void EditCommands::DeleteSelection(Document& document) {
   if (document.text.SelLength == 0) return;
   document.Undo.BeginCommand(desk_.settings.UndoMax);
   document.text.SelText = std::string();
+  document.Caret = document.text.SelStart;
 }
 
 void EditCommands::Cut() {
