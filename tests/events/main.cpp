@@ -114,7 +114,8 @@ class Round {
       return NoteAgain("  giving up: " + hands_.GiveUp());
     }
     if (count_ == 1) return world_.Open(way_);
-    if (losesEditor_ && count_ >= kRoundLength / 3 && !QApplication::activeModalWidget()) {
+    const bool blocked = QApplication::activeModalWidget() || QApplication::activePopupWidget();
+    if (losesEditor_ && count_ >= kRoundLength / 3 && !blocked) {
       losesEditor_ = false;
       Note("the editor is closed");
       world_.application.CloseEditor();
