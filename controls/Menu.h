@@ -69,8 +69,8 @@ class Menus {
     return nullptr;
   }
 
-  /// True when the key is a letter with Ctrl alone that is an entry's, or one of the older keys of cut, copy and
-  /// paste, which mean the same; the entry runs when it is enabled.
+  /// True when the key is a letter with Ctrl alone that is an entry's, or one of the older keys of cut, copy
+  /// and paste, which mean the same; the entry runs when it is enabled.
   bool RunCtrlLetter(const Key& key) const;
 
   /// For whatever shows the menus: the entry that the new one stands behind, and the new one.
