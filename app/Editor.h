@@ -261,6 +261,7 @@ class Editor : public Form {
   void SetUpControls();
   void AttachList(ListBox& list);
   void SetUpToolbar();
+  void BeginUntitled();
   void OpenFilesOfTheStart();
   void NewFile(Document& document);
   void OpenPrevious(std::string_view array, int index);

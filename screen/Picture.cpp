@@ -15,7 +15,6 @@ namespace {
 
 constexpr int kDrawingSide = 2048;    // of a picture that has no size in pixels
 constexpr int kMostMegabytes = 1024;  // of memory for one picture
-constexpr rlim_t kMostMemory = rlim_t{2} << 30;
 constexpr rlim_t kMostSeconds = 8;  // of the processor's time
 
 /// What stands in front of the pixels, which are four bytes each, line by line.
@@ -35,6 +34,7 @@ void LimitThisProcess() {
   Limit(RLIMIT_CORE, 0);
 #ifndef TARVIK_SANITIZED
   // The sanitizers take more address space than any limit would leave them.
+  constexpr rlim_t kMostMemory = rlim_t{2} << 30;
   Limit(RLIMIT_AS, kMostMemory);
 #endif
 }

@@ -149,5 +149,15 @@ TEST_F(PaneInputTest, TheMacroFilesHandlersKeepTheMacroFilesMemories) {
   EXPECT_EQ(mum.StatusBar.Panels(3).Text.Get(), "Line no: 2");
 }
 
+TEST_F(PaneInputTest, ADragWithinAFileIsOneStepOfUndo) {
+  pane.Text = "one two";
+  const int before = editor.Joystick.Undo.UndoSteps();
+  pane.UserMoved({0, 4}, 7);
+  EXPECT_EQ(pane.Text.Get(), "twoone ");
+  EXPECT_EQ(editor.Joystick.Undo.UndoSteps(), before + 1);
+  editor.mnuEditUndo_Click();
+  EXPECT_EQ(pane.Text.Get(), "one two");
+}
+
 }  // namespace
 }  // namespace tarvik

@@ -372,5 +372,26 @@ TEST_F(PaneTest, TheLineOfAPositionIsRightAfterEditsBeforeAndBehindTheLastOneAsk
   }
 }
 
+TEST_F(PaneTest, WhatTheUserDragsElsewhereGoesInOneChangeWithItsColours) {
+  pane.Text = "one two three";
+  Colour({4, 3}, kRed);
+  changes = 0;
+  pane.UserMoved({4, 3}, 13);
+  EXPECT_EQ(pane.Text.Get(), "one  threetwo");
+  EXPECT_EQ(At(10), kRed);
+  EXPECT_EQ(At(4), kBlack);
+  ExpectSelection({13, 0});
+  pane.UserMoved({10, 3}, 0);
+  EXPECT_EQ(pane.Text.Get(), "twoone  three");
+  EXPECT_EQ(At(0), kRed);
+  EXPECT_EQ(At(3), kBlack);
+  ExpectSelection({3, 0});
+  EXPECT_EQ(changes, 2);
+  for (const std::size_t within : {3U, 4U, 6U, 99U}) pane.UserMoved({3, 3}, within);
+  pane.UserMoved({3, 0}, 0);
+  EXPECT_EQ(pane.Text.Get(), "twoone  three");
+  EXPECT_EQ(changes, 2);
+}
+
 }  // namespace
 }  // namespace tarvik
