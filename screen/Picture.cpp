@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kDrawingSide = 2048;    // of a picture that has no size in pixels
 constexpr int kMostMegabytes = 1024;  // of memory for one picture
-constexpr rlim_t kMostSeconds = 8;  // of the processor's time
+constexpr rlim_t kMostSeconds = 8;    // of the processor's time
 
 /// What stands in front of the pixels, which are four bytes each, line by line.
 struct Head {
