@@ -107,7 +107,10 @@ void Editor::SetUpControls() {
     Command1(i).MouseDown = [this](const Mouse&) { Command1_MouseDown(); };
     Command1(i).MouseMove = [this](const Mouse&) { Command1_MouseMove(); };
   }
-  List1.Prepare = [this](ListBox& list) { AttachList(list); };
+  List1.Prepare = [this](ListBox& list) {
+    list.Visible = false;  // until its category is chosen: nothing is shown of it while it is filled
+    AttachList(list);
+  };
   AttachList(List1(0));
   Timer1.Interval = kAutoSaveInterval;
   Timer1.Elapsed = [this] { Timer1_Timer(); };
@@ -526,7 +529,8 @@ void Editor::mnuInsertWithColour_Click() {
   const bool colour = !mnuInsertWithColour.Checked;
   mnuInsertWithColour.Checked = colour;
   application_.settings.InsertWithColour = colour ? 1 : 0;
-  application_.settings.Write("Colours", "InsertWithColour", colour ? "1" : "0");
+  const Trap trap{application_.errors, "mnuInsertWithColour_Click"};
+  trap(application_.profile.Write("Colours", "InsertWithColour", colour ? "1" : "0"));
 }
 
 void Editor::ColourSelection(Colour colour) {

@@ -102,6 +102,7 @@ void PaneInput::MouseDown(const Document& document, const Mouse& mouse) {
 }
 
 void PaneInput::KeyPress(Document& document, int character) {
+  typing_ = character != kEscape;
   document.Caret = document.text.SelStart;
   document.Undo.KeyPress(character, document.text.Characters().empty());
 }
@@ -113,6 +114,7 @@ void PaneInput::RememberCaret(Document& document) {
 }
 
 void PaneInput::KeyUp(Document& document) {
+  typing_ = false;
   RememberCaret(document);
   if (document.SelLength == 0) desk_.swatch.BackColor = document.text.SelColor;
 }
@@ -126,6 +128,8 @@ void PaneInput::GotFocus(Document& document) {
 void PaneInput::Change(Document& document) {
   document.SelLength = 0;
   if (desk_.values.LoadingFile == 1) return;
+  // What no key types is a step of its own: a drop, and whatever else comes from the desktop.
+  if (!std::exchange(typing_, false)) document.Undo.BeginCommandBehindItsChange(desk_.settings.UndoMax);
   hooks_.changed(document);
   document.Undo.Start = 1;
 }

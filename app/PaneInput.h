@@ -44,6 +44,7 @@ class PaneInput {
   const Menus& menus_;
   const Menus& popUps_;
   Hooks hooks_;
+  bool typing_ = false;  // a key that types is down
   std::vector<Connection> connections_;
 };
 

@@ -105,16 +105,26 @@ void UndoHistory::KeyPress(int character, bool paneIsEmpty) {
   }
 }
 
+Edits UndoHistory::WayToShown() {
+  Edits way;
+  for (int slot = 1; slot < Index; ++slot) Add(way, Inverse(At(slot).fromOlder));
+  return way;
+}
+
 void UndoHistory::Open(int undoMax) {
   // The way from slot 1, which becomes slot 2, to the slot on show, and on to what the pane holds now.
-  Edits path = std::exchange(unrecorded_, {});
-  if (Index > 1) {
-    Edits back;
-    for (int slot = 1; slot < Index; ++slot) Add(back, Inverse(At(slot).fromOlder));
-    Add(back, path);
-    path = std::move(back);
+  const Edits made = std::exchange(unrecorded_, {});
+  Edits path = Index > 1 ? WayToShown() : Edits();
+  if (path.empty()) {
+    path = made;
+  } else {
+    Add(path, made);
   }
-  slots_.push_front({pane_.SelStart, Bounded(std::move(path), pane_.Content())});
+  Push(pane_.SelStart, Bounded(std::move(path), pane_.Content()), undoMax);
+}
+
+void UndoHistory::Push(std::size_t caret, Edits fromOlder, int undoMax) {
+  slots_.push_front({caret, std::move(fromOlder)});
   if (UpperBound() - 1 > undoMax) {
     slots_.pop_back();
     slots_.back().fromOlder.clear();
@@ -147,6 +157,13 @@ void UndoHistory::BeginCommand(int undoMax) {
   Start = 1;
   if (Index == 1) return;
   Open(undoMax);
+  GoToNewest();
+}
+
+void UndoHistory::BeginCommandBehindItsChange(int undoMax) {
+  Start = 1;
+  if (Index == 1) return;
+  Push(At(Index).caret, WayToShown(), undoMax);
   GoToNewest();
 }
 

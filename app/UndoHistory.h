@@ -41,6 +41,8 @@ class UndoHistory {
   /// undo takes back to what is on show now. Where something is undone, the state on show becomes the newest
   /// slot, and what was undone stays reachable behind it; `undoMax` as for Open.
   void BeginCommand(int undoMax);
+  /// The same when the change has been made already, by a drop and not by a key.
+  void BeginCommandBehindItsChange(int undoMax);
   /// True when nothing is undone and the next change is no new step.
   [[nodiscard]] bool Absorbs() const { return Start != 1 && Index == 1; }
 
@@ -57,6 +59,10 @@ class UndoHistory {
 
   [[nodiscard]] Slot& At(int slot) { return slots_[static_cast<std::size_t>(slot - 1)]; }
   void Show(const Edits& edits, int slot);
+  /// A new slot 1, made out of slot 1 by `fromOlder`; the oldest one falls off at the full depth.
+  void Push(std::size_t caret, Edits fromOlder, int undoMax);
+  /// From slot 1 to the slot on show.
+  [[nodiscard]] Edits WayToShown();
   void TakeBackUnrecorded();
 
   Pane& pane_;

@@ -56,7 +56,10 @@ void InsertOptions::MakeHardware() {
 void InsertOptions::MakeMainPage() {
   Combo1.ToolTipText = "Macro categories";
   Combo1.Click = [this] { Combo1_Click(); };
-  List1.Prepare = [this](ListBox& list) { AttachList(list); };
+  List1.Prepare = [this](ListBox& list) {
+    list.Visible = false;  // as in the editor
+    AttachList(list);
+  };
   AttachList(List1(0));
   CheckCopyTicks.ToolTipText = "Use only if you're changing the ticks in the Editor's macro list regularly";
   CheckCopyTicks.Click = [this] { COMPMacrosTickedCopy = CheckCopyTicks.Value; };

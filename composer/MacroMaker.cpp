@@ -81,12 +81,11 @@ void MacroMaker::Text1_KeyDown(Key& key) {
 /// The line goes into the macro file whatever is on top; its end goes where the editor's insertions go, in
 /// the same step of undo.
 void MacroMaker::InsertMacro() {
-  UndoHistory& history = editor().Macro.Undo;
-  history.BeginCommand(application_.settings.UndoMax);
-  WriteBlack(Preview.Caption);
-  history.Start = 0;
-  editor().insertion().InsertCarriageReturn();
-  history.Start = 1;
+  const bool onTop = &editor().ActiveDocument() == &editor().Macro;
+  editor().Macro.Undo.BeginCommand(application_.settings.UndoMax);
+  WriteBlack(Preview.Caption.Get() + (onTop ? "\r\n" : ""));
+  if (!onTop) editor().insertion().InsertCarriageReturn();
+  application_.mum().Picture1.BackColor = kBlack;
   ClearTexts();
 }
 

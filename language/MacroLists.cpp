@@ -75,7 +75,6 @@ void MacroLists::Fill(MacroAnalysis analysis) {
   for (MacroCategory& category : analysis.categories) {
     headings_.push_back(std::move(category.heading));
     ListBox& list = lists_.Load(lists_.Count());
-    list.Visible = false;
     list.Fill(std::move(category.macros));
   }
   categories_.Fill(headings_);

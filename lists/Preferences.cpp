@@ -480,7 +480,7 @@ void Preferences::Remove(ListPage& page) {
        "Are you sure you want to remove " + name + " from the " + menu + " menu?", BoxIcon::Question,
        BoxButtons::YesNo});
   if (answer != Answer::Yes) return;
-  const Trap trap{application_.errors, "PREFS Remove"};
+  const Trap trap{application_.errors, &page == &games_ ? "PREFS Command12_Click" : "PREFS Command13_Click"};
   trap(page.list.Remove(row + 1));
   page.save();
   if (&page == &games_) return UpdateGamesControls();

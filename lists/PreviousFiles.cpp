@@ -51,7 +51,10 @@ void PreviousFiles::GetPreviousFiles() {
   MacroFiles.Read();
 }
 
-void PreviousFiles::ClearAll(RecentList& list) { Trap{errors_, "MODULE ClearAll"}(list.Clear()); }
+void PreviousFiles::ClearAll(RecentList& list) {
+  const bool joystick = &list == &JoystickFiles;
+  Trap{errors_, joystick ? "ED_mnuPreviousClearAllJ_Click" : "ED_mnuPreviousClearAllM_Click"}(list.Clear());
+}
 
 void PreviousFiles::GetFavourites() {
   const Profile profile = settings_.File().Read();

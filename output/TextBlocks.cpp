@@ -134,7 +134,8 @@ void Title::Form_Unload() {
 
 void Title::SaveThePersonsName() {
   application_.settings.ValidUser = Text3.Text.Get();
-  application_.settings.Write("Miscellaneous", "ValidUser", application_.settings.ValidUser.Get());
+  const Trap trap{application_.errors, "TITLE SaveThePersonsName"};
+  trap(application_.profile.Write("Miscellaneous", "ValidUser", application_.settings.ValidUser.Get()));
 }
 
 std::vector<std::string> Title::Lines() const {
@@ -229,7 +230,8 @@ void SingleTextForm::Close(const std::string& text) {
 
 void SingleTextForm::SaveCRthang() {
   application_.settings.AddCRtoREM = CheckAddCR.Value;
-  application_.settings.Write("Miscellaneous", "AddCRtoREM", TextOf(CheckAddCR.Value.Get()));
+  const Trap trap{application_.errors, "TITLE SaveCRthang"};
+  trap(application_.profile.Write("Miscellaneous", "AddCRtoREM", TextOf(CheckAddCR.Value.Get())));
 }
 
 std::string AskForRemark(Application& application) {

@@ -70,7 +70,8 @@ void frmTip::DisplayCurrentTip() {
 
 void frmTip::cmdOK_Click() {
   application_.settings.ShowTips = chkLoadTipsAtStartup.Value;
-  application_.settings.Write("FileLocations", "ShowTips", TextOf(application_.settings.ShowTips.Get()));
+  const Trap trap{application_.errors, "TIPS cmdOK_Click"};
+  trap(application_.profile.Write("FileLocations", "ShowTips", TextOf(application_.settings.ShowTips.Get())));
   application_.Unload(*this);
 }
 

@@ -61,12 +61,18 @@ class OrdinaryPointer {
   OrdinaryPointer& operator=(const OrdinaryPointer&) = delete;
 };
 
-/// A name without an ending gets that of the type that is chosen, or `otherwise` where the type has none.
+/// The one ending of a type, empty where it has none or more.
+QString EndingOf(const QString& filter) {
+  static const QRegularExpression kOneEnding(QStringLiteral("\\(\\*\\.([^ *?()]+)\\)$"));
+  return kOneEnding.match(filter).captured(1);
+}
+
+/// A name without an ending gets that of the type that is chosen, or `otherwise` where the type has none. One
+/// that has an ending the toolkit itself gives the chosen type's.
 void KeepSuffix(QFileDialog& dialog, const QString& otherwise) {
   const auto take = [&dialog, otherwise](const QString& filter) {
-    static const QRegularExpression kOneEnding(QStringLiteral("\\(\\*\\.([^ *?()]+)\\)$"));
-    const QRegularExpressionMatch type = kOneEnding.match(filter);
-    dialog.setDefaultSuffix(type.hasMatch() ? type.captured(1) : otherwise);
+    const QString ending = EndingOf(filter);
+    dialog.setDefaultSuffix(ending.isEmpty() ? otherwise : ending);
   };
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, take);
   take(dialog.selectedNameFilter());

@@ -154,8 +154,14 @@ void ToolWindow::closeEvent(QCloseEvent* event) {
 /// The form goes before its window, which may be in the middle of an event.
 void ToolWindow::Retire() {
   hide();
+  retired_ = true;
   bindings_.Release();
   deleteLater();
+}
+
+/// The form may be gone when its window is still told something, by a menu of one of its fields, say.
+bool ToolWindow::event(QEvent* event) {
+  return retired_ && event->type() != QEvent::DeferredDelete ? false : QDialog::event(event);
 }
 
 bool ToolWindow::FormTakesPress(const QKeyEvent& event) {
@@ -193,6 +199,7 @@ bool ToolWindow::KeepsForForm(QEvent& event) const {
 }
 
 bool ToolWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (retired_) return false;
   if (watched != focusWidget()) return QDialog::eventFilter(watched, event);
   if (KeepsForForm(*event)) return true;
   if (event->type() == QEvent::FocusOut) keys_.Forget();

@@ -25,6 +25,7 @@ class ToolWindow : public QDialog, public FormView, public CanBeOnTop {
 
   void CloseByUser() override { close(); }
   void Retire() override;
+  bool event(QEvent* event) override;
   [[nodiscard]] bool IsOnTop() const override { return form().Topmost; }
   /// Escape: the form's own handling, else its Cancel button, else the close box.
   void reject() override;
@@ -56,6 +57,7 @@ class ToolWindow : public QDialog, public FormView, public CanBeOnTop {
   bool placed_ = false;  // by its form
   KeyReader keys_;
   std::optional<KeysFromElsewhere> others_;  // where every key is the form's
+  bool retired_ = false;
 };
 
 /// The pages that are large enough for a file of their own.

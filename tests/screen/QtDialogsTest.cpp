@@ -100,15 +100,21 @@ TEST_F(QtDialogsTest, ANameWithoutAnEndingGetsThatOfTheTypeThatIsChosen) {
       "c:\\",
       {},
       "b50"};
-  const std::pair<int, const char*> kTypes[] = {
-      {0, "c:\\mine.b50"}, {1, "c:\\mine.f22"}, {2, "c:\\mine.b50"}};
-  for (const auto& [type, path] : kTypes) {
-    Once<QFileDialog>([index = type](QFileDialog& dialog) {
+  struct Row {
+    const char* name;
+    int type;
+    const char* path;
+  };
+  const Row kRows[] = {{"mine", 0, "c:\\mine.b50"},     {"mine", 1, "c:\\mine.f22"},
+                       {"mine", 2, "c:\\mine.b50"},     {"mine.b50", 1, "c:\\mine.f22"},
+                       {"mine.txt", 1, "c:\\mine.f22"}, {"mine.f22", 2, "c:\\mine.f22"}};
+  for (const auto& [name, type, path] : kRows) {
+    Once<QFileDialog>([index = type, text = name](QFileDialog& dialog) {
+      dialog.findChild<QLineEdit*>("fileNameEdit")->setText(text);
       auto* const types = dialog.findChild<QComboBox*>("fileTypeCombo");
       types->setCurrentIndex(index);
       Q_EMIT types->activated(index);
       Q_EMIT types->textActivated(types->currentText());
-      dialog.findChild<QLineEdit*>("fileNameEdit")->setText("mine");
       static_cast<QDialog&>(dialog).done(QDialog::Accepted);
     });
     const auto chosen = dialogs.AskForFile(request);

@@ -2,12 +2,19 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <iterator>
 
 #include "session/Chord.h"
 
 namespace tarvik::session {
 namespace {
+
+constexpr std::string_view kForms[] = {
+    "Mum",         "Editor",      "InsertOptions",     "RAWform",       "TemplateForm", "FindAndReplace",
+    "KeyTestForm", "JoyPlot",     "MacroWizard",       "Speedy",        "JoystickWiz",  "Title",
+    "Heading",     "Preferences", "SingleTextForm",    "EnterGameName", "DrivesForm",   "EnterFavouritename",
+    "ProgramWait", "ViewImage",   "SelectPictureForm", "frmTip",        "frmAbout",     "ColourSelector"};
 
 bool IsName(std::string_view word) {
   return !word.empty() && word.find_first_not_of(
@@ -24,7 +31,7 @@ bool IsCount(std::string_view word) {
 bool IsNumber(std::string_view word) {
   double number = 0;
   const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-  return error == std::errc() && end == word.data() + word.size();
+  return error == std::errc() && end == word.data() + word.size() && std::abs(number) < 1e9;
 }
 
 bool IsHex(std::string_view word) {
@@ -32,8 +39,11 @@ bool IsHex(std::string_view word) {
 }
 
 bool IsTime(std::string_view word) {
+  constexpr std::size_t kMostDigitsOfTime = 6;
   for (const std::string_view unit : {"ms", "s"}) {
-    if (word.ends_with(unit)) return IsCount(word.substr(0, word.size() - unit.size()));
+    if (!word.ends_with(unit)) continue;
+    word.remove_suffix(unit.size());
+    return IsCount(word) && word.size() <= kMostDigitsOfTime;
   }
   return false;
 }
@@ -46,9 +56,14 @@ bool IsControlName(std::string_view word) {
          IsCount(word.substr(open + 1, word.size() - open - 2));
 }
 
-/// Names with points between them, `least` of them or more.
+bool IsForm(std::string_view word) {
+  return std::find(std::begin(kForms), std::end(kForms), word) != std::end(kForms);
+}
+
+/// Names with points between them, the first a form's, `least` of them or more.
 bool IsPath(std::string_view word, int least) {
   int names = 0;
+  if (!IsForm(word.substr(0, word.find('.')))) return false;
   while (true) {
     const std::size_t point = std::min(word.find('.'), word.size());
     if (!IsControlName(word.substr(0, point))) return false;
@@ -65,7 +80,8 @@ struct Kind {
 
 constexpr Kind kKinds[] = {
     {"CONTROL", [](std::string_view word) { return IsPath(word, 1); }},
-    {"FORM", IsName},
+    {"FORM", IsForm},
+    {"NAME", IsControlName},
     {"PROPERTY", [](std::string_view word) { return IsPath(word, 2); }},
     {"NUMBER", IsNumber},
     {"COUNT", IsCount},

@@ -9,8 +9,8 @@
 namespace tarvik::session {
 
 /// Whether a line fits a shape. A shape is made of the words of the line. Words in capitals are kinds of
-/// word: CONTROL, FORM, PROPERTY, NUMBER, COUNT, HEX, KEY, TIME and TEXT; all others stand as they are. "|"
-/// stands between words that can take each other's place, "[ ]" around a word that may be missing. "..."
+/// word: CONTROL, FORM, NAME, PROPERTY, NUMBER, COUNT, HEX, KEY, TIME and TEXT; all others stand as they are.
+/// "|" stands between words that can take each other's place, "[ ]" around a word that may be missing. "..."
 /// behind a word means any number of it, and by itself at the end that everything behind the verb may come
 /// again. A ":" at the end wants indented lines below, "[:]" allows them, "WORD|:" wants either; other shapes
 /// have none.

@@ -79,6 +79,7 @@ std::vector<std::string> Runner::Run(std::string_view script) {
   for (const ProgramStart& run : outside_.programs.started) Fail("an unexpected program: " + run.commandLine);
   if (outside_.programs.alive) Fail("a program that is waited for outlives the session");
   if (!outside_.dialogs.answers.empty()) Fail("an answer that no box took");
+  if (!outside_.dialogs.choices.empty()) Fail("a choice that no dialog took");
   return failures_;
 }
 
@@ -87,6 +88,7 @@ bool Runner::Next() {
   if (nextLine_ == lines_.size()) return false;
   const Line& line = lines_[nextLine_++];
   line_ = &line;
+  ++depth_;
   try {
     Step(line);
   } catch (const Stop& stop) {
@@ -94,6 +96,7 @@ bool Runner::Next() {
   } catch (const std::exception& error) {
     Fail(error.what());  // a number too large, say
   }
+  --depth_;
   return true;
 }
 
@@ -139,7 +142,7 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"mouse down|move|up CONTROL COUNT NUMBER NUMBER [COUNT]", &Runner::Mouse, Needs::Program},
       {"set value TEXT TEXT|:", &Runner::SetValue, Needs::Program},
       {"set PROPERTY TEXT|:", &Runner::Set, Needs::Program},
-      {"call PROPERTY [TEXT]", &Runner::Call, Needs::Program},
+      {"call TEXT [TEXT]", &Runner::Call, Needs::Program},
       {"choose TEXT", &Runner::Choose},
       {"answer OK|Yes|No|Cancel|later", &Runner::AnswerBox},
       {"clipboard empty", &Runner::FillClipboard},
@@ -148,12 +151,13 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"expect box TEXT [none|information|question|exclamation] [No] :", &Runner::ExpectBox},
       {"expect box TEXT [TEXT] [none|information|question|exclamation] [No]", &Runner::ExpectBox},
       {"expect dialog title|filter|folder|fileName TEXT", &Runner::ExpectDialog},
-      {"expect file TEXT [empty|open] [:]", &Runner::ExpectFile},
+      {"expect file TEXT [empty]", &Runner::ExpectFile},
+      {"expect file TEXT [open] :", &Runner::ExpectFile},
       {"expect bytes TEXT HEX...", &Runner::ExpectBytes},
       {"expect same TEXT TEXT", &Runner::ExpectSame},
       {"expect no file TEXT", &Runner::ExpectNoFile},
       {"expect no form FORM", &Runner::ExpectNoForm, Needs::Program},
-      {"expect no list CONTROL", &Runner::ExpectNoList, Needs::Program},
+      {"expect no list NAME", &Runner::ExpectNoList, Needs::Program},
       {"expect no box", &Runner::ExpectNoBox},
       {"expect no dialog", &Runner::ExpectNoDialog},
       {"expect no printing", &Runner::ExpectNoPrinting},
@@ -412,7 +416,9 @@ void Runner::Start(const Line& line) {
 
 void Runner::Close(const Line& line) { driver_->Close(*FindAs<Form>(Word(line, 1))); }
 
+/// Nothing can die in the middle of one of its own handlers, which go on when this returns.
 void Runner::Killed(const Line&) {
+  if (depth_ > 1) throw Stop{"it can't be killed while a modal form, a box or a dialog is open"};
   elapsed_.clear();
   driver_.reset();
   application_.reset();
@@ -743,6 +749,7 @@ void Runner::ExpectColour(const Line& line) {
   const auto* pane = FindAs<Pane>(Word(line, 2));
   const std::size_t start = std::stoul(Word(line, 3));
   const std::size_t length = std::stoul(Word(line, 4));
+  if (start + length > pane->Characters().size()) throw Stop{"the text ends before that"};
   for (std::size_t i = start; i < start + length; ++i) {
     const std::string found = TextOf(pane->Content().colours.At(i));
     if (found != Word(line, 5)) return Fail("position " + TextOf(i) + " has the colour " + found);
@@ -768,6 +775,7 @@ void Runner::ExpectColours(const Line& line) {
   const auto* pane = FindAs<Pane>(Word(line, 2));
   const std::string_view text = pane->Characters();
   std::size_t from = 0;
+  if (line.block.size() % 2 != 0) throw Stop{"a line has no letters below it"};
   for (std::size_t i = 0; i + 1 < line.block.size(); i += 2) {
     const std::string& wanted = line.block[i];
     std::size_t at = text.find(wanted, from);

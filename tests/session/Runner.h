@@ -140,6 +140,7 @@ class Runner {
   std::vector<std::string> failures_;
   std::vector<Line> lines_;
   std::size_t nextLine_ = 0;
+  int depth_ = 0;  // of lines inside the handlers of lines
   const Line* line_ = nullptr;
 };
 

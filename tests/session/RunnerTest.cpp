@@ -10,6 +10,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
@@ -41,18 +42,20 @@ TEST_P(Mistake, IsToldBeforeAnythingRuns) {
 
 INSTANTIATE_TEST_SUITE_P(
     Runner, Mistake,
-    ::testing::Values("clik Editor.JoystickText", "key Editor.JoystickText Ctrl+Zap",
-                      "key Editor.JoystickText Retrun", "key Editor.JoystickText F25",
-                      "key Editor.JoystickText Ctrl+A many", "keydown Editor.JoystickText Ctrl+A 2",
-                      "pick Editor.List1(0)", "pick Editor.List1(x) #0", "expect no bokks",
-                      "expect no box today", "expect ended now", "expect Editor",
-                      "expect Editor.JoystickText.Text", "click Editor.JoystickText twice", "wait long",
-                      "wait 5", "mouse jump Editor.List1(0) 1 2 3", "mouse down Editor.List1(0) 1 2",
-                      "resize Editor wide 300", "answer Maybe", "choose", "room much", "bytes c:\\a 4Z",
-                      "lock scroll 1", "joystick w 3", "joystick x", "expect box \"one\" two three four",
-                      "expect colour Editor.JoystickText a 1 0", "type Editor.JoystickText \"no end",
-                      "click Editor.JoystickText\n  a block", "repeat c:\\a.b50 3", "expect printed",
-                      "set value InsertionText", "drag Editor.List1(0) Gear Editor.JoystickText end"));
+    ::testing::Values(
+        "clik Editor.JoystickText", "click Editr.Command1(0)", "expect form Composer",
+        "expect no form Composer", "close Pimlet", "wait 9999999s", "mouse down Editor.List1(0) 1 nan 5",
+        "resize Mum inf 5", "expect no list Editor.List1(0)", "expect file c:\\a open",
+        "key Editor.JoystickText Ctrl+Zap", "key Editor.JoystickText Retrun", "key Editor.JoystickText F25",
+        "key Editor.JoystickText Ctrl+A many", "keydown Editor.JoystickText Ctrl+A 2", "pick Editor.List1(0)",
+        "pick Editor.List1(x) #0", "expect no bokks", "expect no box today", "expect ended now",
+        "expect Editor", "expect Editor.JoystickText.Text", "click Editor.JoystickText twice", "wait long",
+        "wait 5", "mouse jump Editor.List1(0) 1 2 3", "mouse down Editor.List1(0) 1 2",
+        "resize Editor wide 300", "answer Maybe", "choose", "room much", "bytes c:\\a 4Z", "lock scroll 1",
+        "joystick w 3", "joystick x", "expect box \"one\" two three four",
+        "expect colour Editor.JoystickText a 1 0", "type Editor.JoystickText \"no end",
+        "click Editor.JoystickText\n  a block", "repeat c:\\a.b50 3", "expect printed",
+        "set value InsertionText", "drag Editor.List1(0) Gear Editor.JoystickText end"));
 
 class Impossible : public ::testing::TestWithParam<const char*> {};
 
@@ -67,13 +70,12 @@ INSTANTIATE_TEST_SUITE_P(
     Runner, Impossible,
     ::testing::Values("pick Editor.List1(0) #9", "pick Editor.List1(0) #-1", "pick Editor.List1(0) Brakes",
                       "pick Editor.TabStrip1 #2", "pick Editor.Combo1 #7", "click Editor.Command1(13)",
-                      "click Editor.Comand1", "click Editr.Command1(0)", "expect Editor.TabStrip1.Colour 3",
-                      "expect form Composer", "expect value Joystick 3",
+                      "click Editor.Comand1", "expect Editor.TabStrip1.Colour 3", "expect value Joystick 3",
                       "set Editor.JoystickText.SelStart here", "set value JoystickDirty yes",
-                      "call Editor.Explode", "close Pimlet", "expect focus Editor.MacroTxt",
-                      "drag Editor.List1(0) Gear Editor.List1(0) 0", "type Editor.Combo1 abc",
-                      "expect popup mnuRHMouse", "expect help anything", "call KeyTestForm.TurnOffCapsLOCK",
-                      "key Editor.JoystickText a 9999999999"));
+                      "call Editor.Explode", "key Editor.JoystickText a 9999999999",
+                      "expect focus Editor.MacroTxt", "drag Editor.List1(0) Gear Editor.List1(0) 0",
+                      "type Editor.Combo1 abc", "expect popup mnuRHMouse", "expect help anything",
+                      "call KeyTestForm.TurnOffCapsLOCK", "expect colour Editor.JoystickText 0 999999999 0"));
 
 TEST(Runner, TellsThatTheProgramHasEnded) {
   for (const char* const line :
@@ -84,6 +86,13 @@ TEST(Runner, TellsThatTheProgramHasEnded) {
     const auto failures = Failures(std::string(kStarted) + "killed\n" + line + "\n");
     ASSERT_THAT(failures, SizeIs(1)) << line;
     EXPECT_THAT(failures[0], HasSubstr("no program runs")) << line;
+  }
+}
+
+TEST(Runner, KillsNothingInTheMiddleOfAHandler) {
+  for (const char* const open : {"click Editor.mnuHelpTips\n", "answer later\nclick Editor.mnuViewIdentify\n",
+                                 "choose later\nclick Editor.mnuFileOpen\n"}) {
+    EXPECT_THAT(Failures(std::string(kStarted) + open + "killed\n"), Not(IsEmpty())) << open;
   }
 }
 

@@ -58,7 +58,9 @@ Outcome<FontChoice> ScriptedDialogs::AskForFont(const FontChoice& /*before*/, bo
 }
 
 void ScriptedDialogs::WaitWhile(const std::function<bool()>& open) {
-  while (open() && next && next()) {
+  while (open()) {
+    const auto act = next;  // which may put another one in its own place
+    if (!act || !act()) return;
   }
 }
 
