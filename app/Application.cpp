@@ -54,8 +54,9 @@ void Application::ShowEditor(EditorBegins begins) {
 }
 
 void Application::FilesDropped(const std::vector<std::string>& hostPaths) {
-  std::vector<std::string> paths;
-  for (const std::string& path : hostPaths) paths.push_back(platform.drives.FromHost(path));
+  std::vector<std::string> paths(hostPaths.size());
+  std::transform(hostPaths.begin(), hostPaths.end(), paths.begin(),
+                 [this](const std::string& path) { return platform.drives.FromHost(path); });
   ShowEditor();
   editor_->OpenDropped(paths);
 }
