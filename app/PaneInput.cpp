@@ -6,6 +6,7 @@ namespace tarvik {
 namespace {
 
 constexpr int kEnter = 13;
+constexpr int kKeypadEnter = 108;
 constexpr int kEscape = 27;
 constexpr int kInsert = 45;
 constexpr int kF1 = 112;
@@ -52,7 +53,8 @@ void PaneInput::KeyDown(Document& document, Key& key) {
     key = {};
     return;
   }
-  if (key.code == kEnter && key.shift == 0 && hooks_.findNext(document)) {
+  const bool enter = key.code == kEnter || key.code == kKeypadEnter;
+  if (enter && key.shift == 0 && hooks_.findNext(document)) {
     key = {};
     return;
   }
