@@ -6,11 +6,11 @@
 #include <memory>
 #include <span>
 
-#include "app/Settings.h"
-#include "app/Values.h"
 #include "controls/Form.h"
-#include "lists/PreviousFiles.h"
 #include "platform/Platform.h"
+#include "workbench/PreviousFiles.h"
+#include "workbench/Settings.h"
+#include "workbench/Values.h"
 
 namespace tarvik {
 

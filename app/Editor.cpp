@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "app/EditorTables.h"
-#include "lists/Preferences.h"
+#include "tools/preferences/Preferences.h"
 
 namespace tarvik {
 namespace {

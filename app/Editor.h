@@ -2,18 +2,18 @@
 // is a switchboard: its handlers hand over to small classes that know one matter each.
 #pragma once
 
-#include "app/AutoSave.h"
-#include "app/EditCommands.h"
-#include "app/FileCommands.h"
 #include "app/Layout.h"
-#include "app/LineBlink.h"
+#include "app/ListMenus.h"
 #include "app/Mum.h"
 #include "app/PaneInput.h"
 #include "app/SavedStates.h"
-#include "language/ColouredInsertion.h"
-#include "lists/ListMenus.h"
-#include "output/HelpTopics.h"
-#include "output/PrintRTFWordWrap.h"
+#include "tools/printing/PrintRTFWordWrap.h"
+#include "workbench/AutoSave.h"
+#include "workbench/ColouredInsertion.h"
+#include "workbench/EditCommands.h"
+#include "workbench/FileCommands.h"
+#include "workbench/HelpTopics.h"
+#include "workbench/LineBlink.h"
 
 namespace tarvik {
 

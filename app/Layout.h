@@ -3,7 +3,7 @@
 // twips.
 #pragma once
 
-#include "app/Desk.h"
+#include "workbench/Desk.h"
 
 namespace tarvik {
 

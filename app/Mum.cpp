@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "app/ColourSelector.h"
-#include "output/Tips.h"
+#include "tools/viewers/Tips.h"
 
 namespace tarvik {
 namespace {

@@ -1,6 +1,6 @@
 #include "app/PaneInput.h"
 
-#include "output/HelpTopics.h"
+#include "workbench/HelpTopics.h"
 
 namespace tarvik {
 namespace {

@@ -2,8 +2,8 @@
 // the line number, and the decision which change is a step of undo.
 #pragma once
 
-#include "app/Desk.h"
 #include "controls/Menu.h"
+#include "workbench/Desk.h"
 
 namespace tarvik {
 

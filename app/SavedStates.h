@@ -2,8 +2,8 @@
 // tabs.
 #pragma once
 
-#include "app/Desk.h"
 #include "app/Mum.h"
+#include "workbench/Desk.h"
 
 namespace tarvik {
 

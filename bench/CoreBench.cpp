@@ -10,12 +10,12 @@
 
 #include "Compare.h"
 #include "Samples.h"
-#include "app/UndoHistory.h"
 #include "language/MacroAnalysis.h"
 #include "language/Painting.h"
-#include "panes/Rtf.h"
-#include "platform/CodePage.h"
 #include "support/MemoryFiles.h"
+#include "text/CodePage.h"
+#include "text/Rtf.h"
+#include "workbench/UndoHistory.h"
 
 namespace {
 

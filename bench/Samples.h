@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "panes/RichText.h"
+#include "text/RichText.h"
 
 namespace tarvik::bench {
 

@@ -7,9 +7,9 @@
 #include "Compare.h"
 #include "Samples.h"
 #include "app/Editor.h"
-#include "composer/InsertOptions.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
+#include "tools/composer/InsertOptions.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

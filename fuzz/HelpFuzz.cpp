@@ -1,7 +1,7 @@
 // Any bytes as a help file: every topic that it gives can be found again by what it says of itself.
 #include <cstdlib>
 
-#include "output/HelpFile.h"
+#include "tools/help/HelpFile.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   const tarvik::HelpFile file(std::string_view(reinterpret_cast<const char*>(data), size));

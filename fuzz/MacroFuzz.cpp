@@ -4,8 +4,8 @@
 #include <cstdlib>
 
 #include "language/MacroAnalysis.h"
-#include "panes/Search.h"
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
+#include "text/Search.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   using namespace tarvik;

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "app/UndoHistory.h"
-#include "platform/CodePage.h"
 #include "support/LiteralReplaceAll.h"
 #include "support/MemoryFiles.h"
+#include "text/CodePage.h"
+#include "workbench/UndoHistory.h"
 
 namespace {
 

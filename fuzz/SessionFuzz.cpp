@@ -5,10 +5,10 @@
 #include <cstdlib>
 
 #include "app/Editor.h"
-#include "platform/CodePage.h"
 #include "session/Driver.h"
 #include "support/ScriptedPlatform.h"
 #include "support/SoundDocument.h"
+#include "text/CodePage.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <bit>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

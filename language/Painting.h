@@ -5,7 +5,7 @@
 #include <functional>
 
 #include "language/KeywordHits.h"
-#include "panes/RichText.h"
+#include "text/RichText.h"
 
 namespace tarvik {
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-#include "panes/Search.h"
+#include "text/Search.h"
 
 namespace tarvik {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "panes/Rtf.h"
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
+#include "text/Rtf.h"
 
 namespace tarvik {
 

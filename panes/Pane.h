@@ -5,9 +5,9 @@
 #include <optional>
 
 #include "controls/Controls.h"
-#include "panes/RichText.h"
-#include "panes/Search.h"
 #include "platform/Files.h"
+#include "text/RichText.h"
+#include "text/Search.h"
 
 namespace tarvik {
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

@@ -10,7 +10,7 @@
 #include <system_error>
 #include <vector>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

@@ -6,7 +6,7 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <sstream>
 
-#include "platform/CodePage.h"
 #include "platform/CommandLine.h"
 #include "platform/DosBox.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

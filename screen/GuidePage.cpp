@@ -5,9 +5,9 @@
 #include <QStackedWidget>
 #include <algorithm>
 
-#include "composer/Speedy.h"
 #include "screen/Text.h"
 #include "screen/ToolWindow.h"
+#include "tools/wizards/Speedy.h"
 
 namespace tarvik::screen {
 namespace {

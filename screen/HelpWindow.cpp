@@ -9,10 +9,10 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include "output/HelpTopics.h"
 #include "screen/Icons.h"
 #include "screen/ListStack.h"
 #include "screen/Text.h"
+#include "workbench/HelpTopics.h"
 
 namespace tarvik::screen {
 namespace {

@@ -12,7 +12,7 @@
 #include <optional>
 
 #include "language/Painting.h"
-#include "output/HelpFile.h"
+#include "tools/help/HelpFile.h"
 
 namespace tarvik::screen {
 

@@ -5,8 +5,8 @@
 #include <QAbstractButton>
 #include <vector>
 
-#include "hardware/RAWform.h"
 #include "screen/Binding.h"
+#include "tools/pimlet/RAWform.h"
 
 namespace tarvik::screen {
 

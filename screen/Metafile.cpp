@@ -14,7 +14,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik::screen {
 namespace {

@@ -1,8 +1,8 @@
 // The page of the preferences' window.
 #include <QGridLayout>
 
-#include "lists/Preferences.h"
 #include "screen/ToolWindow.h"
+#include "tools/preferences/Preferences.h"
 
 namespace tarvik::screen {
 namespace {

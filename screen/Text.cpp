@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik::screen {
 namespace {

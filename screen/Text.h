@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "panes/RichText.h"
+#include "text/RichText.h"
 
 namespace tarvik::screen {
 

@@ -6,22 +6,22 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
-#include "hardware/Games.h"
-#include "hardware/JoyPlot.h"
-#include "hardware/KeyTestForm.h"
-#include "hardware/ProgramWait.h"
-#include "hardware/RAWform.h"
-#include "language/FindAndReplace.h"
-#include "language/TemplateForm.h"
-#include "lists/DrivesForm.h"
-#include "lists/Favourites.h"
-#include "output/TextBlocks.h"
-#include "output/Tips.h"
-#include "output/ViewImage.h"
 #include "screen/Icons.h"
 #include "screen/KeyboardView.h"
 #include "screen/Text.h"
 #include "screen/ToolWindow.h"
+#include "tools/blocks/TextBlocks.h"
+#include "tools/favourites/Favourites.h"
+#include "tools/find/FindAndReplace.h"
+#include "tools/pimlet/RAWform.h"
+#include "tools/preferences/DrivesForm.h"
+#include "tools/programs/Games.h"
+#include "tools/programs/ProgramWait.h"
+#include "tools/templates/TemplateForm.h"
+#include "tools/testing/JoyPlot.h"
+#include "tools/testing/KeyTestForm.h"
+#include "tools/viewers/Tips.h"
+#include "tools/viewers/ViewImage.h"
 
 namespace tarvik::screen {
 namespace {

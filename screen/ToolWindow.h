@@ -4,15 +4,15 @@
 
 #include <QDialog>
 
-#include "composer/InsertOptions.h"
-#include "composer/Speedy.h"
-#include "composer/Wizard.h"
-#include "lists/Preferences.h"
 #include "screen/FormLayout.h"
 #include "screen/FormView.h"
 #include "screen/Keys.h"
 #include "screen/MenuBuilder.h"
 #include "screen/WindowOrder.h"
+#include "tools/composer/InsertOptions.h"
+#include "tools/preferences/Preferences.h"
+#include "tools/wizards/Speedy.h"
+#include "tools/wizards/Wizard.h"
 
 namespace tarvik::screen {
 

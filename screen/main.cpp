@@ -7,8 +7,6 @@
 #include <filesystem>
 
 #include "app/Application.h"
-#include "language/Highlighter.h"
-#include "platform/CodePage.h"
 #include "platform/HostDrives.h"
 #include "platform/HostFiles.h"
 #include "platform/HostPrograms.h"
@@ -22,6 +20,8 @@
 #include "screen/QtPrinter.h"
 #include "screen/Screen.h"
 #include "screen/SdlJoystick.h"
+#include "text/CodePage.h"
+#include "workbench/Highlighter.h"
 
 namespace {
 

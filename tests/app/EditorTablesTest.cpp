@@ -6,7 +6,7 @@
 
 #include "app/EditorTables.h"
 #include "app/Program.h"
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

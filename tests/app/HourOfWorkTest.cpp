@@ -5,8 +5,8 @@
 #include <random>
 
 #include "app/Program.h"
-#include "language/FindAndReplace.h"
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
+#include "tools/find/FindAndReplace.h"
 
 namespace tarvik {
 namespace {

@@ -4,8 +4,8 @@
 #include <iterator>
 #include <set>
 
-#include "app/Settings.h"
 #include "support/MemoryFiles.h"
+#include "workbench/Settings.h"
 
 namespace tarvik {
 namespace {

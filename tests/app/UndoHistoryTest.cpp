@@ -2,8 +2,8 @@
 
 #include <random>
 
-#include "app/UndoHistory.h"
 #include "support/MemoryFiles.h"
+#include "workbench/UndoHistory.h"
 
 namespace tarvik {
 namespace {

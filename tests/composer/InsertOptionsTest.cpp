@@ -4,7 +4,7 @@
 #include <map>
 
 #include "app/Program.h"
-#include "composer/InsertOptions.h"
+#include "tools/composer/InsertOptions.h"
 
 namespace tarvik {
 namespace {

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "composer/LogicLines.h"
+#include "language/LogicLines.h"
 
 namespace tarvik {
 namespace {

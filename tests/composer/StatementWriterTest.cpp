@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
-#include "composer/StatementWriter.h"
+#include "tools/composer/StatementWriter.h"
 
 namespace tarvik {
 namespace {

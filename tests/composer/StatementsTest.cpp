@@ -4,7 +4,7 @@
 #include <map>
 #include <set>
 
-#include "composer/Statements.h"
+#include "language/Statements.h"
 
 namespace tarvik {
 namespace {

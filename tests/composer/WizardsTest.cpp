@@ -5,9 +5,9 @@
 #include <sstream>
 
 #include "app/Program.h"
-#include "composer/JoystickWiz.h"
-#include "composer/MacroWizard.h"
-#include "composer/Speedy.h"
+#include "tools/wizards/JoystickWiz.h"
+#include "tools/wizards/MacroWizard.h"
+#include "tools/wizards/Speedy.h"
 
 namespace tarvik {
 namespace {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
-#include "hardware/JoyPlot.h"
-#include "hardware/KeyTestForm.h"
+#include "tools/testing/JoyPlot.h"
+#include "tools/testing/KeyTestForm.h"
 
 namespace tarvik {
 namespace {

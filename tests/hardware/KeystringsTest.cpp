@@ -3,7 +3,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "hardware/Keystrings.h"
+#include "language/Keystrings.h"
 
 namespace tarvik {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
-#include "hardware/RAWform.h"
+#include "tools/pimlet/RAWform.h"
 
 namespace tarvik {
 namespace {

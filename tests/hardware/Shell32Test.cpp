@@ -2,8 +2,8 @@
 
 #include "app/Mum.h"
 #include "app/Program.h"
-#include "hardware/ProgramWait.h"
-#include "hardware/Shell32.h"
+#include "tools/programs/ProgramWait.h"
+#include "tools/programs/Shell32.h"
 
 namespace tarvik {
 namespace {

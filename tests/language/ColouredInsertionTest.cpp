@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
-#include "language/ColouredInsertion.h"
+#include "workbench/ColouredInsertion.h"
 
 namespace tarvik {
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
-#include "language/Highlighter.h"
+#include "workbench/Highlighter.h"
 
 namespace tarvik {
 namespace {

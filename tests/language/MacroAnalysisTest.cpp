@@ -4,8 +4,8 @@
 #include <random>
 
 #include "language/MacroAnalysis.h"
-#include "panes/Search.h"
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
+#include "text/Search.h"
 
 namespace tarvik {
 namespace {

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "app/Program.h"
-#include "language/TemplateForm.h"
+#include "tools/templates/TemplateForm.h"
 
 namespace tarvik {
 namespace {

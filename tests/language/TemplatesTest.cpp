@@ -5,10 +5,10 @@
 #include <fstream>
 
 #include "app/Program.h"
-#include "composer/ComposerTables.h"
-#include "composer/Statements.h"
-#include "language/TemplateForm.h"
-#include "panes/Rtf.h"
+#include "language/ComposerTables.h"
+#include "language/Statements.h"
+#include "text/Rtf.h"
+#include "tools/templates/TemplateForm.h"
 
 namespace tarvik {
 namespace {

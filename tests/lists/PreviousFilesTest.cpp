@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
-#include "lists/CustomApps.h"
-#include "lists/Favourites.h"
-#include "lists/PreviousFiles.h"
+#include "tools/favourites/Favourites.h"
+#include "tools/programs/CustomApps.h"
+#include "workbench/PreviousFiles.h"
 
 namespace tarvik {
 namespace {

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "lists/RecentList.h"
 #include "support/MemoryFiles.h"
+#include "workbench/RecentList.h"
 
 namespace tarvik {
 namespace {

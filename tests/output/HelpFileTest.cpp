@@ -6,12 +6,12 @@
 #include <regex>
 #include <set>
 
-#include "composer/ComposerTables.h"
-#include "composer/LogicLines.h"
+#include "language/ComposerTables.h"
+#include "language/LogicLines.h"
 #include "language/Painting.h"
-#include "output/HelpFile.h"
-#include "output/HelpTopics.h"
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
+#include "tools/help/HelpFile.h"
+#include "workbench/HelpTopics.h"
 
 namespace tarvik {
 namespace {

@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "output/PrintRTFWordWrap.h"
 #include "support/MemoryFiles.h"
 #include "support/ScriptedPrinter.h"
+#include "tools/printing/PrintRTFWordWrap.h"
 
 namespace tarvik {
 namespace {

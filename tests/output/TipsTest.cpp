@@ -5,7 +5,7 @@
 #include <set>
 
 #include "app/Program.h"
-#include "output/Tips.h"
+#include "tools/viewers/Tips.h"
 
 namespace tarvik {
 namespace {

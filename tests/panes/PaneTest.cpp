@@ -4,9 +4,9 @@
 #include <random>
 
 #include "panes/Pane.h"
-#include "panes/Rtf.h"
 #include "support/LiteralReplaceAll.h"
 #include "support/MemoryFiles.h"
+#include "text/Rtf.h"
 
 namespace tarvik {
 namespace {

@@ -3,7 +3,7 @@
 #include <random>
 #include <vector>
 
-#include "panes/RichText.h"
+#include "text/RichText.h"
 
 namespace tarvik {
 namespace {

@@ -4,7 +4,7 @@
 #include <random>
 #include <string>
 
-#include "panes/Rtf.h"
+#include "text/Rtf.h"
 
 namespace tarvik {
 namespace {

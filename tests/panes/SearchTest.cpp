@@ -2,8 +2,8 @@
 
 #include <random>
 
-#include "panes/Search.h"
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
+#include "text/Search.h"
 
 namespace tarvik {
 namespace {

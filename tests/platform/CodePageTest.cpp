@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

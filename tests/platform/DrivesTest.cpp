@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "platform/CodePage.h"
 #include "platform/Drives.h"
 #include "platform/TemporaryFolder.h"
+#include "text/CodePage.h"
 
 namespace tarvik {
 namespace {

@@ -12,13 +12,13 @@
 #include <QUrl>
 
 #include "app/Editor.h"
-#include "hardware/RAWform.h"
-#include "language/TemplateForm.h"
-#include "output/Tips.h"
 #include "screen/MumWindow.h"
 #include "screen/PaneView.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
+#include "tools/pimlet/RAWform.h"
+#include "tools/templates/TemplateForm.h"
+#include "tools/viewers/Tips.h"
 
 namespace tarvik::screen {
 namespace {

@@ -9,11 +9,11 @@
 #include <QWindow>
 
 #include "app/Editor.h"
-#include "hardware/JoyPlot.h"
-#include "hardware/KeyTestForm.h"
 #include "screen/PlotView.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
+#include "tools/testing/JoyPlot.h"
+#include "tools/testing/KeyTestForm.h"
 
 namespace tarvik::screen {
 namespace {

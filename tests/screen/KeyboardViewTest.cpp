@@ -7,10 +7,10 @@
 #include <set>
 
 #include "app/Editor.h"
-#include "output/TextBlocks.h"
 #include "screen/KeyboardView.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
+#include "tools/blocks/TextBlocks.h"
 
 namespace tarvik::screen {
 namespace {

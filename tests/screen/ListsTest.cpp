@@ -8,15 +8,15 @@
 #include <QTest>
 
 #include "app/Editor.h"
-#include "composer/InsertOptions.h"
-#include "hardware/RAWform.h"
-#include "language/FindAndReplace.h"
-#include "lists/DrivesForm.h"
-#include "lists/Preferences.h"
-#include "output/ViewImage.h"
 #include "screen/ListStack.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
+#include "tools/composer/InsertOptions.h"
+#include "tools/find/FindAndReplace.h"
+#include "tools/pimlet/RAWform.h"
+#include "tools/preferences/DrivesForm.h"
+#include "tools/preferences/Preferences.h"
+#include "tools/viewers/ViewImage.h"
 
 namespace tarvik::screen {
 namespace {

@@ -6,11 +6,11 @@
 #include <QTest>
 
 #include "app/Editor.h"
-#include "hardware/KeyTestForm.h"
-#include "lists/Preferences.h"
 #include "screen/PaneView.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
+#include "tools/preferences/Preferences.h"
+#include "tools/testing/KeyTestForm.h"
 
 namespace tarvik::screen {
 namespace {

@@ -10,13 +10,13 @@
 #include <stdexcept>
 
 #include "app/Editor.h"
-#include "hardware/RAWform.h"
-#include "output/ViewImage.h"
 #include "screen/FontDialog.h"
 #include "screen/QtDesktop.h"
 #include "screen/QtDialogs.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
+#include "tools/pimlet/RAWform.h"
+#include "tools/viewers/ViewImage.h"
 
 namespace tarvik::screen {
 namespace {

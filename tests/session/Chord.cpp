@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
 
 namespace tarvik::session {
 namespace {

@@ -6,9 +6,9 @@
 #include "app/ColourSelector.h"
 #include "app/Editor.h"
 #include "controls/ImageBox.h"
-#include "platform/CodePage.h"
 #include "session/Chord.h"
 #include "session/Driver.h"
+#include "text/CodePage.h"
 
 namespace tarvik::session {
 namespace {

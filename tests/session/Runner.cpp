@@ -6,10 +6,10 @@
 #include <sstream>
 
 #include "app/Editor.h"
-#include "hardware/KeyTestForm.h"
-#include "output/HelpFile.h"
-#include "platform/CodePage.h"
 #include "session/Grammar.h"
+#include "text/CodePage.h"
+#include "tools/help/HelpFile.h"
+#include "tools/testing/KeyTestForm.h"
 
 namespace tarvik::session {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <cstdlib>
 
-#include "app/Document.h"
-#include "platform/CodePage.h"
+#include "text/CodePage.h"
+#include "workbench/Document.h"
 
 namespace tarvik {
 

@@ -1,0 +1,78 @@
+#include "language/Keystrings.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int kSeven = 7;
+constexpr int kF22Pro = 0;
+
+// By Shift 1, Ctrl 2 and Alt 4 added up. Alt with Shift has no blank behind it.
+constexpr std::string_view kAltShift = "ALT SHF";
+constexpr std::string_view kModifiers[] = {"",     "SHF ",    "CTL ",     "CTL SHF ",
+                                           "ALT ", kAltShift, "CTL ALT ", "CTL ALT SHF "};
+
+constexpr std::string_view kLockMake = "#E0 #12 ";
+constexpr std::string_view kLockBreak = "#E0 #F0 #12 ";
+
+/// The bytes around a key's own: the modifier goes down before it and comes up behind it.
+struct Wrap {
+  std::string_view down;
+  std::string_view up;
+};
+constexpr Wrap kCtrl = {"#14 ", " #F0 #14"};
+constexpr Wrap kAlt = {"#11 ", " #F0 #11"};
+constexpr Wrap kShift = {"#12 ", " #F0 #12"};
+constexpr Wrap kUnshift = {"#E0 #F0 #12 ", " #E0 #12"};
+
+std::string Text(std::string_view text) { return std::string(text); }
+
+/// The key's own text. True beside it: Shift is told by the face.
+struct Named {
+  std::string text;
+  bool byFace = false;
+};
+
+Named Name(const KeyRow& row, std::string_view caption, const Naming& naming) {
+  if (row.mark == Mark::Aux && naming.JoyName == kF22Pro) return {"AUX" + Text(row.name)};
+  if (row.mark != Mark::Face || naming.UseSHF) return {Text(row.name)};
+  return {row.key == kSeven ? "&" : Text(caption), true};
+}
+
+void Surround(Keystrings& keys, const Wrap& wrap) {
+  keys.MakeCode.insert(0, wrap.down);
+  keys.BreakCode += wrap.up;
+}
+
+/// Ctrl goes down first and comes up last, Shift is nearest to the key.
+void AddModifiers(Keystrings& keys, const KeyRow& row, const Held& held) {
+  const bool unshifts = row.mark == Mark::Aux || row.mark == Mark::Unshifts;
+  if (held.numLock && row.mark == Mark::Aux) {
+    keys.MakeCode.insert(0, kLockMake);
+    keys.BreakCode.insert(0, kLockBreak);
+  }
+  if (GetModifier(held, false) == kAltShift) return;  // these two alone leave the codes bare
+  if (held.shift) Surround(keys, unshifts ? kUnshift : kShift);
+  if (held.alt) Surround(keys, kAlt);
+  if (held.ctrl) Surround(keys, kCtrl);
+}
+
+}  // namespace
+
+std::string GetModifier(const Held& held, bool ShiftInKeyText) {
+  const int sum = (held.shift && !ShiftInKeyText ? 1 : 0) + (held.ctrl ? 2 : 0) + (held.alt ? 4 : 0);
+  return Text(kModifiers[sum]);
+}
+
+Keystrings GetKeystrings(const KeyRow& row, std::string_view caption, const Held& held,
+                         const Naming& naming) {
+  const Named named = Name(row, caption, naming);
+  Keystrings keys = {named.text, Text(row.make), Text(row.breaks), {}};
+  if (row.name != kNotSupported) {
+    keys.KeyText.insert(0, GetModifier(held, named.byFace));
+    AddModifiers(keys, row, held);
+  }
+  keys.CombinedCode = keys.MakeCode + " " + keys.BreakCode;
+  return keys;
+}
+
+}  // namespace tarvik

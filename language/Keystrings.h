@@ -1,0 +1,41 @@
+// What a key is called in the controllers' files and what it sends, by what is held with it. Pimlet shows it.
+#pragma once
+
+#include <string>
+
+#include "language/KeyTable.h"
+
+namespace tarvik {
+
+struct Held {
+  bool shift = false;
+  bool ctrl = false;
+  bool alt = false;
+  bool numLock = false;
+};
+
+/// What the user has chosen about names.
+struct Naming {
+  int JoyName = 0;
+  /// Shift is spelt out, "SHF 1"; else the face on show tells it, "!".
+  bool UseSHF = false;
+};
+
+/// In the order of the boxes that show them.
+struct Keystrings {
+  std::string KeyText;
+  std::string MakeCode;
+  std::string BreakCode;
+  std::string CombinedCode;
+
+  bool operator==(const Keystrings&) const = default;
+};
+
+/// The words for what is held; Shift is left out where the key's own text tells it.
+[[nodiscard]] std::string GetModifier(const Held& held, bool ShiftInKeyText);
+
+/// `caption` is the key's face as it is on show.
+[[nodiscard]] Keystrings GetKeystrings(const KeyRow& row, std::string_view caption, const Held& held,
+                                       const Naming& naming);
+
+}  // namespace tarvik

@@ -1,0 +1,88 @@
+#include "text/CodePage.h"
+
+#include <algorithm>
+
+namespace tarvik {
+namespace {
+
+using codepage::Byte;
+
+// 0x80 to 0x9F, where the code page differs from Latin-1 (the WHATWG Encoding Standard, index windows-1252).
+constexpr std::array<char16_t, 32> kUpperControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+void AppendUtf8(std::string& out, char32_t c) {
+  if (c < 0x80) {
+    out += static_cast<char>(c);
+  } else if (c < 0x800) {
+    out += static_cast<char>(0xC0 | (c >> 6));
+    out += static_cast<char>(0x80 | (c & 0x3F));
+  } else {
+    out += static_cast<char>(0xE0 | (c >> 12));
+    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (c & 0x3F));
+  }
+}
+
+constexpr char32_t kNoCharacter = 0xFFFD;
+
+/// Takes the next character off the front of `text`; kNoCharacter for a byte that begins none.
+char32_t TakeUtf8(std::string_view& text) {
+  const unsigned char lead = Byte(text.front());
+  text.remove_prefix(1);
+  if (lead < 0x80) return lead;
+  // RFC 3629: no lead begins an overlong form or a character beyond U+10FFFF.
+  const std::size_t more = lead >= 0xF5 ? 0 : lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC2 ? 1 : 0;
+  if (more == 0 || text.size() < more) return kNoCharacter;
+  char32_t c = lead & (0x3F >> more);
+  for (std::size_t i = 0; i < more; ++i) {
+    if ((Byte(text[i]) & 0xC0) != 0x80) return kNoCharacter;
+    c = (c << 6) | (Byte(text[i]) & 0x3F);
+  }
+  const bool overlong = (more == 2 && c < 0x800) || (more == 3 && c < 0x10000);
+  if (overlong) return kNoCharacter;
+  text.remove_prefix(more);
+  return c;
+}
+
+}  // namespace
+
+char32_t ToUnicode(char byte) {
+  const unsigned char b = Byte(byte);
+  return b >= 0x80 && b < 0xA0 ? kUpperControls[b - 0x80] : b;
+}
+
+char FromUnicode(char32_t character) {
+  if (character < 0x80 || (character >= 0xA0 && character < 0x100)) return static_cast<char>(character);
+  const auto found = std::find(kUpperControls.begin(), kUpperControls.end(), character);
+  return found == kUpperControls.end() ? '?' : static_cast<char>(0x80 + (found - kUpperControls.begin()));
+}
+
+std::string ToUtf8(std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  for (const char c : text) AppendUtf8(result, ToUnicode(c));
+  return result;
+}
+
+std::string FromUtf8(std::string_view text) {
+  std::string result;
+  result.reserve(text.size());
+  while (!text.empty()) result += FromUnicode(TakeUtf8(text));
+  return result;
+}
+
+std::string LowerCase(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(), ToLower);
+  return result;
+}
+
+bool SortsBefore(std::string_view left, std::string_view right) {
+  return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
+                                      [](char a, char b) { return Byte(ToLower(a)) < Byte(ToLower(b)); });
+}
+
+}  // namespace tarvik

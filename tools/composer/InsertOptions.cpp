@@ -1,0 +1,352 @@
+#include "tools/composer/InsertOptions.h"
+
+#include "app/Editor.h"
+#include "text/CodePage.h"
+#include "workbench/HelpTopics.h"
+
+namespace tarvik {
+namespace {
+
+using M = InsertOptions;
+
+constexpr MenuRow<InsertOptions> kMenus[] = {
+    {0, "mnuRHList", "List"},
+    {1, "mnuRHListInsert", "&Insert into Joystick file", "", &M::mnuRHListInsert_Click},
+    {1, "mnuRHListDivider1", "-"},
+    {1, "mnuFindInJoyFile", "&Find in joystick file", "", &M::mnuFindInJoyFile_Click},
+    {1, "mnuRHListDivider2", "-"},
+    {1, "mnuRHListEdit", "&Edit", "", &M::mnuRHListEdit_Click},
+
+    {0, "mnuHatPos", "Hat"},
+    {1, "MnuHatPostion", "U", "", nullptr, 0, &M::MnuHatPostion_Click},
+    {1, "MnuHatPostion", "D", "", nullptr, 1, &M::MnuHatPostion_Click},
+    {1, "MnuHatPostion", "L", "", nullptr, 2, &M::MnuHatPostion_Click},
+    {1, "MnuHatPostion", "R", "", nullptr, 3, &M::MnuHatPostion_Click},
+    {1, "MnuHatPostion", "M", "", nullptr, 4, &M::MnuHatPostion_Click},
+    {1, "mnuHatDivider", "-"},
+    {1, "MnuHatCornerPostion", "UL", "", nullptr, 0, &M::MnuHatCornerPostion_Click},
+    {1, "MnuHatCornerPostion", "UR", "", nullptr, 1, &M::MnuHatCornerPostion_Click},
+    {1, "MnuHatCornerPostion", "DL", "", nullptr, 2, &M::MnuHatCornerPostion_Click},
+    {1, "MnuHatCornerPostion", "DR", "", nullptr, 3, &M::MnuHatCornerPostion_Click},
+
+    {0, "mnuTrigger", "Trigger"},
+    {1, "mnuTrig", "TG1", "", nullptr, 0, &M::mnuTrig_Click},
+    {1, "mnuTrig", "TG2", "", nullptr, 1, &M::mnuTrig_Click},
+
+    {0, "mnuPortAll", "Port"},
+    {1, "mnuPort", "PortB1 IS", "", nullptr, 0, &M::mnuPort_Click},
+    {1, "mnuPort", "PortB2 IS", "", nullptr, 1, &M::mnuPort_Click},
+    {1, "mnuPort", "PortB3 IS", "", nullptr, 2, &M::mnuPort_Click},
+    {1, "mnuPort", "PortB4 IS", "", nullptr, 3, &M::mnuPort_Click},
+
+    {0, "mnuTemplates", "&Templates"},
+    {1, "mnuInsertInto", "&Insert into"},
+    {2, "mnuJoystick", "&Joystick file", "", &M::mnuJoystick_Click},
+    {2, "mnuMacrofile", "&Macro file", "", &M::mnuMacrofile_Click},
+    {1, "divider", "-"},
+    {1, "mnuQuickie", "Just a &quickie ...", "", &M::mnuQuickie_Click},
+};
+
+constexpr const char* kSection = "Miscellaneous";
+constexpr float kPlace = 10;  // twips; for a window that would be out of sight
+constexpr int kMinimised = 1;
+
+constexpr const char* kTipTitle = "Keep the Composer in memory for increased speed";
+constexpr const char* kTip =
+    "If you're using the Composer a lot, but it keeps getting in the way when you're using the Editor, then "
+    "don't close down the Composer. Rather, minimise it or press the OK button. It then waits in memory and "
+    "is "
+    "back at once, with everything you typed into it, when you press F2. Closing it makes it forget your "
+    "logic "
+    "lines, and it has to be set up again the next time.";
+
+float WithinScreen(float place, float extent) { return place < 0 || place > extent ? kPlace : place; }
+
+}  // namespace
+
+InsertOptions::InsertOptions(Application& application)
+    : Form("InsertOptions"),
+      TemplatesPreview(*this, "TemplatesPreview", application.platform.files),
+      menus(*this, kMenus),
+      application_(application),
+      writer_(application) {
+  Caption = "  Composer - to ease your programming somewhat !!!";
+  for (const char* const menu : {"mnuRHList", "mnuHatPos", "mnuTrigger", "mnuPortAll", "mnuTemplates"}) {
+    menus(menu).Visible = false;  // they only pop up
+  }
+  MakeHardware();
+  MakeMainPage();
+  MakeStatementPages();
+  MakeUsePage();
+  MakeTemplatesPage();
+  MakeLogicPage();
+  MakeFrame();
+}
+
+void InsertOptions::MakeFrame() {
+  constexpr const char* kCaptions[] = {"Pimlet", "Prefs", "Find IP"};
+  constexpr const char* kTips[] = {"Show Pimlet - the Keyboard and RAW code generator",
+                                   "Edit your preferences",
+                                   "Locate insertion point in the currently selected file"};
+  constexpr const char* kEntries[] = {"mnuInsertRAW", "mnuPreferencesEdit", "mnuViewHighlightLine"};
+  for (int i = 0; i < Command5.Count(); ++i) {
+    Command5(i).Caption = kCaptions[i];
+    Command5(i).ToolTipText = kTips[i];
+    Command5(i).Enabled = editor().menus(kEntries[i]).Enabled;
+    Command5(i).Click = [this, entry = kEntries[i], i] {
+      editor().menus(entry).Click();
+      Command5_Click(i);
+    };
+  }
+  Check1.ToolTipText = "Keep the Composer above the Editor";
+  Check1.Click = [this] { Check1_Click(); };
+  Check2FocusThang.ToolTipText = "Shows insertion point when mouse isn't on Composer";
+  Check2FocusThang.Click = [this] { COMPreturnFocus = Check2FocusThang.Value; };
+  Command14.Click = [this] { Command14_Click(); };
+  CommandHelp.Click = [this] { CommandHelp_Click(); };
+  Command6.ToolTipText = "Hides the Composer and keeps it in memory for faster recall";
+  Command6.Cancel = true;
+  Command6.Click = [this] { Command6_Click(); };
+  SSTab1.Click = [this] { SSTab1_Click(); };
+  Load = [this] { Form_Load(); };
+  Activate = [this] { Form_Activate(); };
+  Deactivate = [this] { Form_Deactivate(); };
+  KeyDown = [this](Key& key) { Form_KeyDown(key); };
+  Unload = [this] { Form_Unload(); };
+}
+
+void InsertOptions::ShowComposer() {
+  Show();
+  SSTab1.Tab = kComposer;
+}
+
+void InsertOptions::ShowTemplates() {
+  Show();
+  SSTab1.Tab = kComposer;
+  SSTab1.Tab = kTemplates;
+}
+
+// Life of the form.
+
+void InsertOptions::Form_Load() {
+  const Settings& settings = application_.settings;
+  PositionComposer();
+  FillMiceListBoxes();
+  boxes("Text1(4)").Text = MacroNameForMDEF();
+  TemplatePath = application_.platform.folder + "\\Templates\\";
+  FillTemplates();
+  FillLogicLists();
+  SSTab7.Tab = 0;
+  SSTabFlags.Tab = 0;
+  for (int i = 0; i < CheckMultiAddCR.Count(); ++i) CheckMultiAddCR(i).Value = settings.CompTabsAddCr.Get();
+  Check1.Value = settings.CompOnTop.Get();
+  GetSpaces();
+  HighlightStatement.Value = settings.HighlightDefinitions.Get();
+  Topmost = settings.CompOnTop == 1;
+  ShowApproriateTabs();
+  CopyMacroList();
+}
+
+void InsertOptions::Form_Activate() {
+  ShowApproriateTabs();
+  if (application_.values.MacroListChanged == 1 || COMPMacrosTickedCopy == 1) CopyMacroList();
+  const std::string delay = TextOf(application_.settings.DefaultDLYvalue.Get());
+  boxes("DLYText").Text = delay;
+  TxtFlag(4).Text = delay;
+}
+
+void InsertOptions::Form_Deactivate() {
+  if (COMPreturnFocus != 0) editor().FocusActiveText();
+}
+
+/// Hidden by its own button, it is left for the file on top, whatever had the focus there before.
+void InsertOptions::Command6_Click() {
+  Visible = false;
+  Form_Deactivate();
+}
+
+void InsertOptions::Form_KeyDown(Key& key) {
+  const bool ctrlAmongOthers = (key.shift & shift::kCtrl) != 0 && key.shift != shift::kCtrl;
+  if (!ctrlAmongOthers) editor().ForwardKey(key);
+}
+
+void InsertOptions::PositionComposer() {
+  const Profile profile = application_.profile.Read();
+  const auto place = [&profile](const char* key, float extent) {
+    return WithinScreen(static_cast<float>(profile.GetInt(kSection, key, static_cast<int>(kPlace))), extent);
+  };
+  const ScreenSize& screen = application_.platform.screen;
+  MoveTo(place("ComposerLeft", screen.width), place("ComposerTop", screen.height));
+}
+
+void InsertOptions::GetSpaces() {
+  const Profile profile = application_.profile.Read();
+  const auto text = [&profile](const char* key, int fallback) {
+    return TextOf(To16Bits(profile.GetInt(kSection, key, fallback)));
+  };
+  const auto tick = [&profile](CheckBox& box, Property<int>& member, int fallback) {
+    box.Value = profile.GetInt(kSection, member.Name(), fallback) == 0 ? 0 : 1;
+    member = box.Value;
+  };
+  boxes("Text1(8)").Text = text("NumberOfBlanks", 5);
+  boxes("TextRPT").Text = text("DefaultRPTvalue", 2);
+  TxtFlag(5).Text = boxes("TextRPT").Text;
+  boxes("DLYText").Text = text("DefaultDLYvalue", 60);
+  tick(CheckAlwaysInsert, AlwaysInsert, 0);
+  tick(CheckAddCR, COMPaddCR, 0);
+  tick(Check2FocusThang, COMPreturnFocus, 1);
+  tick(CheckCopyTicks, COMPMacrosTickedCopy, 0);
+}
+
+void InsertOptions::SaveSpaces() {
+  Settings& settings = application_.settings;
+  std::vector<ProfileEntry> entries;
+  for (const Property<int>* member :
+       {&NumberOfBlanks, &DefaultRPTvalue, &settings.DefaultDLYvalue, &AlwaysInsert, &COMPaddCR,
+        &settings.CompTabsAddCr, &COMPreturnFocus, &COMPMacrosTickedCopy}) {
+    entries.push_back({kSection, std::string(member->Name()), member->ToText()});
+  }
+  if (WindowState != kMinimised) {
+    const ScreenSize& screen = application_.platform.screen;
+    const auto place = [](float at, float extent) {
+      return TextOf(static_cast<int>(WithinScreen(at, extent)));
+    };
+    entries.push_back({kSection, "ComposerTop", place(Top, screen.height)});
+    entries.push_back({kSection, "ComposerLeft", place(Left, screen.width)});
+  }
+  const Trap trap{application_.errors, "COMPOSER SaveSpaces"};
+  trap(application_.profile.WriteAll(entries));
+}
+
+/// Each page that builds statements starts on its first page, ready for typing.
+void InsertOptions::SSTab1_Click() {
+  for (const tables::StatementTabRow& row : tables::kStatementTabs) {
+    if (row.tab != SSTab1.Tab) continue;
+    StripOf(row).Tab = 0;
+    PreparePage(row);
+  }
+  if (SSTab1.Tab == kUse) {
+    boxes("Text1(4)").Text = MacroNameForMDEF();
+    boxes("Text1(3)").SetFocus();
+  }
+  if (SSTab1.Tab == kTemplates && Templates.ListCount() > 0) MakeTemplateCurrent(0);
+  if (SSTab1.Tab == kLogic) {
+    WhichLogicText();
+    RichTexFlag(CurrentLogicLine).SetFocus();
+  }
+}
+
+std::string InsertOptions::MacroNameForMDEF() const {
+  constexpr std::size_t kExtension = 4;
+  const std::string& name = editor().Macro.Name.Get().Text();
+  return name.substr(0, name.size() - std::min(name.size(), kExtension));
+}
+
+// Below the pages.
+
+/// The entry of the editor has run; for that of the preferences a new hardware may have been chosen.
+void InsertOptions::Command5_Click(int index) {
+  constexpr int kPreferences = 1;
+  if (index != kPreferences) return;
+  if (application_.values.FontChanged == 1) editor().DamnFontWasChanged();
+  LabelWCS();
+}
+
+void InsertOptions::Command14_Click() {
+  application_.platform.dialogs.Show({kTipTitle, kTip, BoxIcon::Information, BoxButtons::Ok});
+}
+
+void InsertOptions::CommandHelp_Click() {
+  application_.platform.help.ShowContext(application_.platform.folder + "\\Tarvik.hlp",
+                                         topic::kComposerPages[SSTab1.Tab]);
+}
+
+void InsertOptions::Check1_Click() {
+  application_.settings.CompOnTop = Check1.Value;
+  application_.settings.SaveOptions();
+  Topmost = Check1.Value == 1;
+}
+
+// The copy of the editor's macro lists.
+
+void InsertOptions::AttachList(ListBox& list) {
+  const int index = *list.Index();
+  list.ToolTipText = "Double click macro to insert into Joystick file, or use drag and drop";
+  list.MouseDown = [this, index](const Mouse& mouse) { List1_MouseDown(index, mouse); };
+  list.MouseMove = [this, index](const Mouse& mouse) { List1_MouseMove(index, mouse); };
+  list.DblClick = [this, index] { List1_DblClick(index); };
+  list.OLEStartDrag = [this, index] { List1_OLEStartDrag(index); };
+}
+
+void InsertOptions::ClearAllForNewMacroFile() {
+  Combo1.Clear();
+  List1(0).Clear();
+  for (int i = List1.Count() - 1; i > 0; --i) List1.Unload(i);
+  PopupListIndex = 0;  // the list it was opened on may be gone
+}
+
+void InsertOptions::CopyMacroList() {
+  const Editor& from = editor();
+  ClearAllForNewMacroFile();
+  Combo1.FillInOrder(from.Combo1.List());
+  for (int i = 0; i < from.List1.Count(); ++i) {
+    ListBox& list = i == 0 ? List1(0) : List1.Load(i);
+    list.Visible = i == 0;
+    list.FillInOrder(from.List1(i).List());
+    list.Tick(from.List1(i).Ticks());
+  }
+  for (int item = 0; item < Combo1.ListCount(); ++item) {
+    if (Combo1.List()[static_cast<std::size_t>(item)] != "All") continue;
+    application_.values.SelectedCategoryList = item;
+    Combo1.ListIndex = item;
+    List1(0).ToFront();
+  }
+  if (List1(0).ListCount() > 0) List1(0).ListIndex = 0;
+  application_.values.MacroListChanged = 0;
+}
+
+void InsertOptions::Combo1_Click() { editor().macroLists().ShowCategory(Combo1, List1); }
+
+void InsertOptions::List1_MouseDown(int index, const Mouse& mouse) {
+  constexpr int kLeft = 1;
+  constexpr int kRight = 2;
+  List1_MouseMove(index, mouse);
+  const bool finds = mouse.button == kLeft && mouse.shift == shift::kShift;
+  if (List1(index).ListCount() == 0 || (!finds && mouse.button != kRight)) return;
+  PopupListIndex = index;
+  if (mouse.button == kRight) PopUp("mnuRHList");
+}
+
+void InsertOptions::List1_MouseMove(int index, const Mouse& mouse) {
+  editor().macroLists().TakeUnder(List1(index), mouse);
+}
+
+void InsertOptions::List1_DblClick(int index) {
+  editor().macroLists().Insert(List1(index));
+  if (COMPaddCR == 1) editor().insertion().InsertCarriageReturn();
+}
+
+void InsertOptions::List1_OLEStartDrag(int index) {
+  editor().macroLists().TakeFrom(List1(index));
+  List1(index).DragText = " " + application_.values.SelectedMacro.Get() + " ";
+}
+
+void InsertOptions::mnuFindInJoyFile_Click() {
+  editor().macroLists().TakeFrom(List1(PopupListIndex));
+  editor().Joystick.text.SetFocus();
+  editor().macroLists().FindMacroInJF();
+}
+
+void InsertOptions::mnuRHListEdit_Click() {
+  editor().TabStrip1.Select(editor().Macro.traits.tab);
+  editor().macroLists().TakeFrom(List1(PopupListIndex));
+  editor().MacroText.SetFocus();
+  editor().macroLists().ShowMacroKeys();
+}
+
+void InsertOptions::FindMacriInJfile() {
+  editor().macroLists().TakeFrom(List1(PopupListIndex));
+  editor().macroLists().FindMacroInJF();
+}
+
+}  // namespace tarvik

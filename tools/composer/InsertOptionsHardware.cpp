@@ -1,0 +1,305 @@
+// The Composer's main page: which hardware it shows, and what a click on it does.
+#include <algorithm>
+
+#include "app/Editor.h"
+#include "tools/composer/InsertOptions.h"
+
+namespace tarvik {
+namespace {
+
+/// The values of ComposerImages.
+enum Images { kByPreferences, kAll, kByFile };
+
+constexpr int kPictures = 4;
+
+/// The whole number that a text begins with, or `fallback` where it is below 1.
+int AtLeastOne(const TextBox& box, int fallback) {
+  const double number = NumberIn(box.Text.Get());
+  return number >= 1 && number < 1 << 15 ? static_cast<int>(number) : fallback;
+}
+
+std::string FullNameOf(const tables::HardwareRow& row) {
+  std::string name(row.array);
+  if (row.index >= 0) name += "(" + std::to_string(row.index) + ")";
+  return name;
+}
+
+/// What is written, without the blanks around it.
+std::string NameOf(const Statement& statement) {
+  const std::string name = statement.Text();
+  const std::size_t first = std::min(name.find_first_not_of(' '), name.size());
+  return name.substr(first, name.find_last_not_of(' ') + 1 - first);
+}
+
+bool Holds(Pane& pane, const std::string& word) {
+  return pane.Find(word, 0, pane.Characters().size(), find::kKeepSelection).has_value();
+}
+
+}  // namespace
+
+// The controls.
+
+Label& InsertOptions::LabelOf(const tables::HardwareRow& row) const { return hardware(FullNameOf(row)); }
+
+void InsertOptions::MakeHardware() {
+  for (const tables::HardwareRow& row : tables::kHardware) {
+    Label& label = hardware.Load(FullNameOf(row));
+    label.Caption = std::string(row.caption);
+    label.ToolTipText = std::string(row.tip);
+    if (row.array == "BTN") label.Click = [this, &row] { BTN_Click(row.index); };
+    if (row.array == "HAT") label.Click = [this, &row] { HAT_Click(row.index); };
+    if (row.array == "TRIG") label.Click = [this] { TRIG_Click(); };
+    if (row.array == "ROTARY") label.Click = [this, &row] { ROTARY_Click(row.index); };
+  }
+}
+
+void InsertOptions::MakeMainPage() {
+  Combo1.ToolTipText = "Macro categories";
+  Combo1.Click = [this] { Combo1_Click(); };
+  List1.Prepare = [this](ListBox& list) {
+    list.Visible = false;  // as in the editor
+    AttachList(list);
+  };
+  AttachList(List1(0));
+  CheckCopyTicks.ToolTipText = "Use only if you're changing the ticks in the Editor's macro list regularly";
+  CheckCopyTicks.Click = [this] { COMPMacrosTickedCopy = CheckCopyTicks.Value; };
+  CheckAddCR.ToolTipText = "Doesn't apply if you're using drag and drop";
+  CheckAddCR.Click = [this] { COMPaddCR = CheckAddCR.Value; };
+  CheckAlwaysInsert.Click = [this] { AlwaysInsert = CheckAlwaysInsert.Value; };
+  HighlightStatement.ToolTipText =
+      "Be aware that this routine doesn't always work - leave it unselected if it causes problems";
+  for (int i = 0; i < SlashButton.Count(); ++i) {
+    SlashButton(i).Caption = std::string(tables::kSlashes[i].caption);
+    SlashButton(i).ToolTipText = std::string(tables::kSlashes[i].tip);
+    SlashButton(i).Click = [this, i] { SlashButton_Click(i); };
+  }
+  SlashButton(tables::kIgnoreSlash).ToolTipText = std::string(tables::kIgnoreSlashFirstTip);
+  for (int i = 0; i < DlyRptButtons.Count(); ++i) {
+    const std::string_view opening = tables::kBrackets[i].opening;
+    DlyRptButtons(i).Caption = std::string(opening.substr(0, opening.size() - 1));
+    DlyRptButtons(i).Click = [this, i] { DlyRptButtons_Click(i); };
+  }
+  const auto number = [this](const char* name, Property<int>& member, int fallback) {
+    TextBox& box = boxes.Load(name);
+    box.Change = [&box, &member, fallback] { member = AtLeastOne(box, fallback); };
+    return &box;
+  };
+  number("DLYText", application_.settings.DefaultDLYvalue, 60);
+  number("TextRPT", DefaultRPTvalue, 2);
+  TextBox* const blanks = number("Text1(8)", NumberOfBlanks, 5);
+  blanks->GotFocus = [this, blanks] {
+    blanks->SelectAll();
+    Command7(1).MakeDefault();
+  };
+  constexpr const char* kCaptions[] = {"Insert Carriage Return", "Spaces"};
+  for (int i = 0; i < Command7.Count(); ++i) {
+    Command7(i).Caption = kCaptions[i];
+    Command7(i).Click = [this, i] { Command7_Click(i); };
+  }
+  RemTextBox.GotFocus = [this] { CommandREM.MakeDefault(); };
+  CommandREM.Click = [this] { CommandREM_Click(); };
+  Command10.Click = [this] { RemTextBox.Text = std::string(); };
+}
+
+// What it shows.
+
+void InsertOptions::ShowApproriateTabs() {
+  const Settings& settings = application_.settings;
+  if (settings.ComposerImages == kByPreferences) ShowForPreferences();
+  if (settings.ComposerImages == kAll) ShowAllHardware();
+  if (settings.ComposerImages == kByFile) ShowForFile();
+  for (const int rudder : tables::kRudders) {
+    hardware("ROTARY(" + std::to_string(rudder) + ")").Visible =
+        settings.RudderName != 0 || settings.ComposerImages == kAll;
+  }
+}
+
+/// The page on show stays, where it is still there.
+void InsertOptions::ShowPictures(const bool (&shown)[kPictures]) {
+  for (int i = 0; i < kPictures; ++i) {
+    if (shown[i]) SSTabHardware.Pages(i).Visible = true;
+  }
+  if (!shown[SSTabHardware.Tab]) {
+    SSTabHardware.Tab = static_cast<int>(std::find(shown, shown + kPictures, true) - shown);
+  }
+  for (int i = 0; i < kPictures; ++i) SSTabHardware.Pages(i).Visible = shown[i];
+}
+
+void InsertOptions::ShowPorts(bool show) {
+  for (int i = 1; i < static_cast<int>(std::size(tables::kPorts)); ++i) menus("mnuPort", i).Visible = show;
+}
+
+void InsertOptions::ShowCorners(bool show) {
+  for (int i = 0; i < static_cast<int>(std::size(tables::kHatCorners)); ++i) {
+    menus("MnuHatCornerPostion", i).Visible = show;
+  }
+  menus("mnuHatDivider").Visible = show;
+}
+
+/// "/Q" is the F-22 Pro's alone, and "/A" has another name there.
+void InsertOptions::ShowIgnoreSlash(bool f22) {
+  const tables::SlashRow& row = f22 ? tables::kFormatSlash : tables::kSlashes[tables::kForceSlash];
+  SlashButton(tables::kForceSlash).Caption = std::string(row.caption);
+  SlashButton(tables::kForceSlash).ToolTipText = std::string(row.tip);
+  CommandButton& ignore = SlashButton(tables::kIgnoreSlash);
+  ignore.Visible = f22;
+  if (f22) ignore.ToolTipText = std::string(tables::kSlashes[tables::kIgnoreSlash].tip);
+}
+
+void InsertOptions::ShowForJoystick(int joystick) {
+  const int picture = joystick <= tables::kFlcs ? 0 : 1;
+  const bool known = joystick >= 0 && joystick < static_cast<int>(std::size(tables::kJoysticks));
+  if (known) SSTabHardware.Pages(picture).Caption = std::string(tables::kJoysticks[joystick].model);
+  ShowIgnoreSlash(joystick == tables::kF22Pro);
+  ShowCorners(picture == 0);
+}
+
+void InsertOptions::ShowForPreferences() {
+  const Settings& settings = application_.settings;
+  const int throttle = settings.ThrottleName;
+  const bool plain = settings.JoyName > tables::kFlcs;
+  const bool known = throttle <= tables::kLastWcs;
+  const bool tqs = known ? throttle == tables::kTqs : SSTabHardware.Pages(2).Visible.Get();
+  const bool wcs = known ? throttle > tables::kTqs : SSTabHardware.Pages(3).Visible.Get();
+  ShowPictures({!plain, plain, tqs, wcs});
+  if (known) ShowPorts(!wcs);
+  if (known && wcs) LabelWCS();
+  ShowForJoystick(settings.JoyName);
+  hardware("ROTARY(7)").Visible = settings.JoyName == tables::kF22Pro;
+}
+
+void InsertOptions::ShowAllHardware() {
+  ShowPictures({true, true, true, true});
+  LabelWCS();
+  SSTabHardware.Pages(0).Caption = "F22 and F16";
+  ShowIgnoreSlash(false);
+  ShowPorts(true);
+  ShowCorners(true);
+}
+
+void InsertOptions::ShowForFile() {
+  const std::string ending = EndingOfFile();
+  int joystick = tables::kF22Pro;
+  for (int i = 0; i < static_cast<int>(std::size(tables::kJoysticks)); ++i) {
+    if (tables::kJoysticks[i].ending == ending) joystick = i;
+  }
+  Pane& file = editor().JoystickText;
+  const bool tqs = Holds(file, "TQS");
+  const bool wcs = !tqs && Holds(file, "WCS");
+  const bool plain = joystick > tables::kFlcs;
+  ShowPictures({!plain, plain, tqs, wcs});
+  ShowForJoystick(joystick);
+  ShowPorts(!wcs);
+  if (wcs) LabelWCS();
+}
+
+std::string InsertOptions::EndingOfFile() const {
+  constexpr std::size_t kEnding = 3;
+  const std::string& name = editor().TabStrip1.Tabs(1).Caption;
+  return name.substr(name.size() - std::min(name.size(), kEnding));
+}
+
+/// The throttle goes by the language of the joystick that it is programmed with.
+void InsertOptions::LabelWCS() {
+  const bool plain = EndingOfFile() == "adv" || application_.settings.JoyName > tables::kFlcs;
+  for (const tables::WcsRow& row : tables::kWcsButtons) {
+    Label& button = hardware("BTN(" + std::to_string(row.button) + ")");
+    button.Caption = std::string(plain ? row.plain : row.numbered);
+    button.Visible = !button.Caption.Get().empty();
+  }
+}
+
+// Statements.
+
+void InsertOptions::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
+
+StatementStyle InsertOptions::Style() const {
+  const Settings& settings = application_.settings;
+  return {settings.InsertWithColour != 0, settings.CompTabsAddCr == 1};
+}
+
+bool InsertOptions::PortArmed() const { return hardware("ROTARY(7)").BorderStyle == 1; }
+void InsertOptions::ArmPort(bool arm) { hardware("ROTARY(7)").BorderStyle = arm ? 1 : 0; }
+
+/// What was looked for and found leaves the latch as it is, but for a port.
+void InsertOptions::FindOrWrite(const Statement& statement) {
+  InsertAfterSearch = writer_.FindOrWrite(statement, AlwaysInsert == 1) ? 1 : 0;
+  Say(NameOf(statement) +
+      (InsertAfterSearch == 1 ? " is in now, fresh from me" : " was there already - here it is"));
+  if (InsertAfterSearch == 1 ? statement.releasesPort : statement.pastHit > 0) ArmPort(false);
+}
+
+void InsertOptions::BTN_Click(int index) {
+  const std::string caption = hardware("BTN(" + std::to_string(index) + ")").Caption;
+  FindOrWrite(ButtonStatement(index, caption, PortArmed(), Style()));
+}
+
+/// The corner entries of a hat that has none keep what they had; they are hidden then.
+void InsertOptions::HAT_Click(int index) {
+  const HatTokens tokens = TokensOf(index);
+  const auto name = [this](const char* array, const std::vector<std::string>& captions) {
+    for (std::size_t i = 0; i < captions.size(); ++i) menus(array, static_cast<int>(i)).Caption = captions[i];
+  };
+  name("MnuHatPostion", tokens.positions);
+  name("MnuHatCornerPostion", tokens.corners);
+  PopUp("mnuHatPos");
+}
+
+void InsertOptions::MnuHatPostion_Click(int index) {
+  FindOrWrite(ControlStatement(menus("MnuHatPostion", index).Caption.Get(), PortArmed(), Style()));
+}
+
+void InsertOptions::MnuHatCornerPostion_Click(int index) {
+  FindOrWrite(ControlStatement(menus("MnuHatCornerPostion", index).Caption.Get(), PortArmed(), Style()));
+}
+
+void InsertOptions::mnuTrig_Click(int index) {
+  FindOrWrite(ControlStatement(menus("mnuTrig", index).Caption.Get(), PortArmed(), Style()));
+}
+
+void InsertOptions::mnuPort_Click(int index) {
+  FindOrWrite(PortStatement(menus("mnuPort", index).Caption.Get(), Style()));
+}
+
+void InsertOptions::ROTARY_Click(int index) {
+  const tables::RotaryRow& row = tables::kRotaries[index];
+  if (index == tables::kPortLatch) {
+    ArmPort(!PortArmed());
+    if (PortArmed()) PopUp("mnuPortAll");
+    return;
+  }
+  if (index == tables::kSwapTriggers) return FindOrWrite(SwapTriggersStatement(Style()));
+  const bool found = AlwaysInsert != 1 && writer_.FindButton(std::string(row.search));
+  InsertAfterSearch = found ? 0 : 1;
+  const std::string name(row.search);
+  Say(found ? name + " was there already - here it is" : "No " + name + " yet, so let's make one");
+  if (found) return;
+  SSTab1.Tab = row.tab;
+  if (row.axis >= 0) ToggleButton1_Click(row.axis);
+}
+
+void InsertOptions::SlashButton_Click(int index) {
+  writer_.Write(SlashStatement(SlashButton(index).Caption.Get(), Style()));
+}
+
+void InsertOptions::DlyRptButtons_Click(int index) {
+  const tables::BracketRow& row = tables::kBrackets[index];
+  writer_.Write(BracketStatement(row, boxes(row.box).Text, Style()));
+}
+
+void InsertOptions::CommandREM_Click() { writer_.Write(RemStatement(RemTextBox.Text, Style())); }
+
+void InsertOptions::Command7_Click(int index) {
+  ColouredInsertion& insertion = editor().insertion();
+  if (index == 0) return insertion.InsertCarriageReturn();
+  insertion.BeginColInsert();
+  InsertComposerBlanks();
+  insertion.EndColInsert();
+}
+
+void InsertOptions::InsertComposerBlanks() {
+  NumberOfBlanks = AtLeastOne(boxes("Text1(8)"), 5);
+  editor().insertion().InsertBlackBlanks(static_cast<std::size_t>(NumberOfBlanks.Get()));
+}
+
+}  // namespace tarvik

@@ -1,0 +1,366 @@
+// The Composer's pages beside the main one: statements built from fields, templates, and logic lines.
+#include "app/Editor.h"
+#include "tools/composer/InsertOptions.h"
+#include "workbench/Highlighter.h"
+
+namespace tarvik {
+namespace {
+
+constexpr Colour kCurrentLine = 0xC0FFFF;
+constexpr Colour kOtherLine = 0xFFFFFF;
+
+constexpr const char* kQuickieTitle = "Double clicking is quickest";
+constexpr const char* kQuickie =
+    "If you double click in the preview area, the template will be inserted into whichever file has the "
+    "focus "
+    "in the Editor window. It's much quicker inserting templates in this manner. I thought you might like to "
+    "know that!";
+constexpr const char* kNoLogicTitle = "What logical statements?";
+constexpr const char* kNoLogic = "I couldn't find any logical statements in your jouystick file";
+
+/// What an array of controls holds, under full names, for the makers of statements.
+template <class T, class TextIn>
+void AddTexts(const ControlArray<T>& controls, TextIn textIn, BoxTexts& texts) {
+  for (int i = 0; i < controls.Count(); ++i) texts[controls(i).FullName()] = textIn(controls(i));
+}
+
+}  // namespace
+
+// Statements built from fields.
+
+TabPages& InsertOptions::StripOf(const tables::StatementTabRow& row) const {
+  return dynamic_cast<TabPages&>(*FindChild(row.strip, {}));
+}
+
+void InsertOptions::MakeStatementPages() {
+  for (const tables::TabRow& row : tables::kTabStatements) {
+    CommandButton& insert = buttons.Load(row.button);
+    insert.Caption = "Insert";
+    insert.Click = [this, &row] { TabStatement_Click(row); };
+    for (const tables::FieldRow& field : row.fields) {
+      if (field.box.empty()) break;
+      boxes.Load(field.box).GotFocus = [&insert] { insert.MakeDefault(); };
+    }
+  }
+  for (const tables::StatementTabRow& row : tables::kStatementTabs) {
+    StripOf(row).Click = [this, &row] { PreparePage(row); };
+  }
+  for (int i = 0; i < ToggleButton1.Count(); ++i) {
+    ToggleButton1(i).Caption = std::string(tables::kAxes[i].caption);
+    ToggleButton1(i).Click = [this, i] { ToggleButton1_Click(i); };
+  }
+  ToggleButton1(2).Turn(true);
+  constexpr int kTabsWithStatements = 5;
+  for (int i = 0; i < kTabsWithStatements; ++i) {
+    CheckBox& box = CheckMultiAddCR.Load(i);
+    box.Caption = "Add carriage return when inserting";
+    box.Click = [this, i] { CheckMultiAddCR_Click(i); };
+  }
+}
+
+/// The focus goes to the first field; the last page of the throttle has buttons alone.
+void InsertOptions::PreparePage(const tables::StatementTabRow& row) {
+  constexpr int kDigitalThrottle = 5;
+  const int page = StripOf(row).Tab;
+  if (page >= row.rows) return Command1(kDigitalThrottle).MakeDefault();
+  const tables::TabRow& statement = tables::kTabStatements[row.firstRow + page];
+  buttons(statement.button).MakeDefault();
+  boxes(statement.fields[0].box).SetFocus();
+}
+
+void InsertOptions::ToggleButton1_Click(int index) {
+  for (int i = 0; i < ToggleButton1.Count(); ++i) ToggleButton1(i).Turn(i == index);
+}
+
+int InsertOptions::LitAxis() const {
+  int axis = 0;
+  while (axis < ToggleButton1.Count() - 1 && !ToggleButton1(axis).On()) ++axis;
+  return axis;
+}
+
+void InsertOptions::TabStatement_Click(const tables::TabRow& row) {
+  BoxTexts texts;
+  for (const auto& [name, box] : boxes.Members()) texts[name] = box->Text;
+  writer_.Write(TabStatement(row, texts, LitAxis(), Style()));
+}
+
+void InsertOptions::CheckMultiAddCR_Click(int index) {
+  const int value = CheckMultiAddCR(index).Value;
+  application_.settings.CompTabsAddCr = value;
+  for (int i = 0; i < CheckMultiAddCR.Count(); ++i) CheckMultiAddCR(i).Value = value;
+}
+
+// Use, mouse and the rest.
+
+void InsertOptions::MakeUsePage() {
+  for (int i = 0; i < Command1.Count(); ++i) {
+    Command1(i).Caption = std::string(tables::kUses[i].caption);
+    Command1(i).Click = [this, i] { Command1_Click(i); };
+  }
+  for (int i = 0; i < Command2.Count(); ++i) {
+    TextBox& box = boxes.Load(tables::kValues[i].box);
+    box.Text = std::string(tables::kValues[i].initial);
+    box.GotFocus = [this, i] { Command2(i).MakeDefault(); };
+    Command2(i).Caption = "Insert";
+    Command2(i).Click = [this, i] { Command2_Click(i); };
+  }
+  for (int i = 0; i < MouseList.Count(); ++i) {
+    Option1.Load(i).Caption = std::string(tables::kMouseLists[i].option);
+    Option1(i).Click = [this, i] { Option1_Click(i); };
+    connections_.push_back(MouseList(i).ListIndex.Changed.Connect([this, i] { MouseList_Click(i); }));
+  }
+  for (int i = 0; i < Label5.Count(); ++i) Label5(i).BackColor = ToggleLabel::kOff;
+  Command9.Click = [this] { Command9_Click(); };
+}
+
+void InsertOptions::FillMiceListBoxes() {
+  for (int i = 0; i < MouseList.Count(); ++i) MouseList(i).FillInOrder(MouseTypes(tables::kMouseLists[i]));
+  MouseList(0).ToFront();
+  MouseList(0).ListIndex = 0;
+}
+
+void InsertOptions::Option1_Click(int index) {
+  MouseList(index).ToFront();
+  MouseList(index).ListIndex = -1;  // an item chosen before is taken for a new choice
+  MouseList(index).ListIndex = 0;
+}
+
+void InsertOptions::MouseList_Click(int index) {
+  const int item = MouseList(index).ListIndex;
+  if (item < 0) return;
+  const tables::MouseRow& row = tables::kMouseLists[index].types[static_cast<std::size_t>(item)];
+  Label5(0).Caption = std::string(row.left);
+  Label5(1).Caption = std::string(row.middle);
+  Label5(2).Caption = std::string(row.right);
+}
+
+void InsertOptions::Command1_Click(int index) { writer_.Write(UseStatement(tables::kUses[index], Style())); }
+
+void InsertOptions::Command2_Click(int index) {
+  const tables::ValueRow& row = tables::kValues[index];
+  writer_.Write(ValueStatement(row, boxes(row.box).Text, Style()));
+}
+
+/// Before a kind of mouse is chosen the first list is in front.
+int InsertOptions::KindOfMouse() const {
+  for (int i = 0; i < Option1.Count(); ++i) {
+    if (Option1(i).Value) return i;
+  }
+  return 0;
+}
+
+void InsertOptions::Command9_Click() {
+  writer_.Write(MouseStatement(MouseList(KindOfMouse()).Current(), Style()));
+}
+
+// Templates.
+
+void InsertOptions::MakeTemplatesPage() {
+  Templates.ToolTipText = "Select a template to view";
+  Templates.MouseMove = [this](const Mouse& mouse) { Templates_MouseMove(mouse); };
+  connections_.push_back(Templates.ListIndex.Changed.Connect([this] {
+    if (Templates.ListIndex >= 0) Templates_Click();
+  }));
+  Templates.MouseUp = [this](const Mouse&) {
+    if (Templates.ListIndex >= 0) MakeTemplateCurrent(Templates.ListIndex);
+  };
+  TemplatesPreview.Locked = true;
+  TemplatesPreview.ToolTipText = "Double click here to insert into your file";
+  TemplatesPreview.DblClick = [this] { TemplatesPreview_DblClick(); };
+  TemplatesPreview.MouseDown = [this](const Mouse& mouse) {
+    constexpr int kRight = 2;
+    if (mouse.button == kRight) PopUp("mnuTemplates");
+  };
+  constexpr const char* kCaptions[] = {"Insert into Joystick file", "Insert into Macro file", "Refresh"};
+  for (int i = 0; i < Command11.Count(); ++i) {
+    Command11(i).Caption = kCaptions[i];
+    Command11(i).Click = [this, i] { Command11_Click(i); };
+  }
+}
+
+void InsertOptions::FillTemplates() {
+  std::vector<std::string> names;
+  for (const char* const ending : {".rtf", ".txt"}) {
+    for (std::string& name : application_.platform.files.FilesIn(TemplatePath.Get(), ending)) {
+      names.push_back(std::move(name));
+    }
+  }
+  Templates.FillInOrder(std::move(names));
+  if (Templates.ListCount() > 0) {
+    MakeTemplateCurrent(0);
+  } else {
+    TemplatesPreview.Text = std::string();
+  }
+}
+
+/// It is read anew, also where it was current before: its file may have been edited.
+void InsertOptions::MakeTemplateCurrent(int item) {
+  if (Templates.ListIndex == item) return Templates_Click();
+  Templates.ListIndex = item;
+}
+
+void InsertOptions::Templates_Click() {
+  const Trap trap{application_.errors, "PLUGIN Templates_Click"};
+  TemplatesPreview.Text = std::string();
+  trap(TemplatesPreview.LoadFile(TemplatePath.Get() + Templates.Current()));
+  LastTemplateIndex = Templates.ListIndex;
+}
+
+/// Dragging down the list shows one template after the other.
+void InsertOptions::Templates_MouseMove(const Mouse& mouse) {
+  if (Templates.ListCount() > 0 && mouse.button != 0 && Templates.ListIndex != LastTemplateIndex) {
+    Templates_Click();
+  }
+}
+
+/// Over what is selected in the file, with its colours, as one step of undo. The caret goes behind it.
+void InsertOptions::InsertTemplate(Document& document) {
+  if (TemplatesPreview.Characters().empty()) return;
+  document.Undo.BeginCommand(application_.settings.UndoMax);
+  document.text.ReplaceSelection(TemplatesPreview.Content());
+  document.Caret = document.text.SelStart;
+}
+
+void InsertOptions::TemplatesPreview_DblClick() { InsertTemplate(editor().ActiveDocument()); }
+
+void InsertOptions::Command11_Click(int index) {
+  if (index == 2) return FillTemplates();
+  if (TemplatesPreview.Characters().empty()) return;
+  Document& document = index == 0 ? editor().Joystick : editor().Macro;
+  editor().TabStrip1.Select(document.traits.tab);
+  InsertTemplate(document);
+}
+
+void InsertOptions::mnuJoystick_Click() { Command11_Click(0); }
+/// Whichever file is on top stays there.
+void InsertOptions::mnuMacrofile_Click() { InsertTemplate(editor().Macro); }
+
+void InsertOptions::mnuQuickie_Click() {
+  application_.platform.dialogs.Show({kQuickieTitle, kQuickie, BoxIcon::Information, BoxButtons::Ok});
+}
+
+// Logic.
+
+void InsertOptions::MakeLogicPage() {
+  const auto caption = [](CommandButton& button, std::string_view text, std::function<void()> click) {
+    button.Caption = std::string(text);
+    button.Click = std::move(click);
+  };
+  for (int i = 0; i < CMDCompare.Count(); ++i) {
+    caption(CMDCompare(i), tables::kCompares[i], [this, i] { AddToLogicLine(tables::kCompares[i]); });
+  }
+  for (int i = 0; i < CMDFlagSlash.Count(); ++i) {
+    caption(CMDFlagSlash(i), tables::kFlagSlashes[i], [this, i] { AddToLogicLine(tables::kFlagSlashes[i]); });
+  }
+  for (int i = 0; i < CMDFlagInsert.Count(); ++i) {
+    caption(CMDFlagInsert(i), "Insert", [this, i] { CMDFlagInsert_Click(i); });
+  }
+  CMDFlagInsert(CMDFlagInsert.Count() - 1).Caption = "View An0002a.txt";
+  constexpr const char* kCaptions[] = {"Insert all", "Insert current", "Analyse current joystick file"};
+  for (int i = 0; i < Command13.Count(); ++i) {
+    caption(Command13(i), kCaptions[i], [this, i] { Command13_Click(i); });
+  }
+  for (int i = 0; i < TxtFlag.Count(); ++i) {
+    TxtFlag(i).Text = std::string(tables::kFlagBoxes[i].initial);
+    TxtFlag(i).GotFocus = [this, i] { TxtFlag(i).SelectAll(); };
+  }
+  for (int i = 0; i < RichTexFlag.Count(); ++i) {
+    OptionFlag.Load(i).Caption = std::to_string(i + 1);
+    OptionFlag(i).Click = [this, i] { OptionFlag_Click(i); };
+    const auto makeCurrent = [this, i] { OptionFlag(i).Value = true; };
+    RichTexFlag(i).GotFocus = makeCurrent;
+    RichTexFlag(i).MouseDown = [makeCurrent](const Mouse&) { makeCurrent(); };
+  }
+  OptionFlag(0).Value = true;
+}
+
+void InsertOptions::FillLogicLists() {
+  for (int i = 0; i < FlagList.Count(); ++i) {
+    FlagList(i).FillInOrder(ItemsOf(tables::kFlagLists[i]));
+    FlagList(i).ListIndex = 0;
+  }
+}
+
+/// Whatever works on the current line brings its page to the front.
+void InsertOptions::WhichLogicText() {
+  for (int i = 0; i < OptionFlag.Count(); ++i) {
+    if (OptionFlag(i).Value) CurrentLogicLine = i;
+  }
+  SSTabFlags.Tab = CurrentLogicLine * SSTabFlags.Count() / OptionFlag.Count();
+}
+
+void InsertOptions::ColourFlagTextBack() {
+  for (int i = 0; i < RichTexFlag.Count(); ++i) RichTexFlag(i).BackColor = kOtherLine;
+}
+
+void InsertOptions::OptionFlag_Click(int index) {
+  ColourFlagTextBack();
+  RichTexFlag(index).BackColor = kCurrentLine;
+}
+
+/// At the caret of the current line, in place of what is selected there.
+void InsertOptions::AddToLogicLine(std::string_view token) {
+  WhichLogicText();
+  TextBox& line = RichTexFlag(CurrentLogicLine);
+  line.SelText = SpacedToken(token, line.Text.Get(), line.SelStart);
+  line.SetFocus();
+}
+
+void InsertOptions::CMDFlagInsert_Click(int index) {
+  const Trap trap{application_.errors, "COMPOSER CMDFlagInsert_Click"};
+  if (index == static_cast<int>(std::size(tables::kFlagInserts))) {
+    trap(application_.platform.desktop.Open(application_.platform.folder + "\\An0002a.txt"));
+    return;
+  }
+  BoxTexts texts;
+  AddTexts(
+      FlagList, [](const ComboBox& list) { return list.Text(); }, texts);
+  AddTexts(
+      TxtFlag, [](const TextBox& box) { return box.Text.Get(); }, texts);
+  AddToLogicLine(TokenOf(tables::kFlagInserts[index], texts));
+}
+
+Outcome<std::string> InsertOptions::LogicLine(int index) {
+  constexpr int kNoSuchControl = 340;
+  if (index < RichTexFlag.Count()) return RichTexFlag(index).Text.Get();
+  return Failure{kNoSuchControl, "Control array element '" + std::to_string(index) + "' doesn't exist", 0};
+}
+
+/// All lines, the current line, or the lines of the joystick file back into the boxes.
+void InsertOptions::Command13_Click(int index) {
+  if (index == 2) return FindLogicStatements();
+  if (index == 1) {
+    WhichLogicText();
+    const TextBox& line = RichTexFlag(CurrentLogicLine);
+    if (!line.Empty()) writer_.Write(LogicStatement(line.Text));
+    return;
+  }
+  const Trap trap{application_.errors, "COMPOSER Command13_Click"};
+  ColouredInsertion& insertion = editor().insertion();
+  insertion.BeginColInsert();
+  editor().CheckAtLineBeginning();
+  for (int i = 0; i <= static_cast<int>(tables::kLogicLines); ++i) {  // the last pass finds no box
+    const auto line = trap(LogicLine(i));
+    if (!line || line->empty()) continue;
+    application_.values.InsertionText = *line;
+    insertion.InsertBlackText();
+    insertion.InsertCarriageReturn();
+  }
+  insertion.EndColInsert();
+}
+
+void InsertOptions::FindLogicStatements() {
+  const std::string_view text = editor().JoystickText.Characters();
+  if (text.empty()) return;
+  for (int i = 0; i < RichTexFlag.Count(); ++i) RichTexFlag(i).Text = std::string();
+  const std::vector<std::string> lines = LogicLinesOf(text);
+  if (lines.empty()) {
+    application_.platform.dialogs.Show({kNoLogicTitle, kNoLogic, BoxIcon::Information, BoxButtons::Ok});
+    return;
+  }
+  for (std::size_t i = 0; i < lines.size(); ++i) RichTexFlag(static_cast<int>(i)).Text = lines[i];
+  SSTabFlags.Tab = 0;
+  OptionFlag(0).Value = true;
+}
+
+}  // namespace tarvik

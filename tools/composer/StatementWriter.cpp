@@ -1,0 +1,74 @@
+#include "tools/composer/StatementWriter.h"
+
+#include <algorithm>
+
+#include "app/Editor.h"
+#include "text/CodePage.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* kAxisWords[] = {"rng", "ant", "rddr", "jsx", "jsy", "thr"};
+
+/// What stands for an axis is looked for as a whole word. With the letters behind it a text that ends in "JS"
+/// counts as one too.
+bool IsAxis(const std::string& text) {
+  const std::string lower = LowerCase(text) + "xxxx";
+  return std::ranges::any_of(kAxisWords,
+                             [&lower](const char* word) { return lower.find(word) != std::string::npos; });
+}
+
+}  // namespace
+
+bool StatementWriter::FindButton(const std::string& text) {
+  Editor& editor = application_.editor();
+  Document& joystick = editor.Joystick;
+  Pane& pane = joystick.text;
+  if (pane.Characters().empty()) return false;
+  editor.TabStrip1.Select(joystick.traits.tab);
+  const auto hit = pane.Find(text, 0, pane.Characters().size(), IsAxis(text) ? find::kWholeWord : 0);
+  if (hit) {
+    joystick.Caret = *hit + text.size();
+    joystick.SelLength = 0;
+  }
+  pane.SelStart = joystick.Caret;
+  editor.FocusActiveText();
+  return hit.has_value();
+}
+
+bool StatementWriter::FindOrWrite(const Statement& statement, bool alwaysInsert) {
+  if (!alwaysInsert && !statement.search.empty() && FindButton(statement.search)) {
+    Document& joystick = application_.editor().Joystick;
+    joystick.Caret = joystick.Caret + statement.pastHit;
+    joystick.text.SelStart = joystick.Caret;
+    return false;
+  }
+  Write(statement);
+  return true;
+}
+
+void StatementWriter::Write(const Statement& statement) {
+  ColouredInsertion& insertion = application_.editor().insertion();
+  insertion.BeginColInsert();
+  if (statement.ownLine) application_.editor().CheckAtLineBeginning();
+  for (const Piece& piece : statement.pieces) WritePiece(piece);
+  if (statement.endsLine) insertion.InsertCarriageReturn();
+  insertion.EndColInsert();
+}
+
+void StatementWriter::WritePiece(const Piece& piece) {
+  ColouredInsertion& insertion = application_.editor().insertion();
+  Values& values = application_.values;
+  values.InsertionText = piece.text;
+  values.InsertionColour = ColoursOf(application_.settings)[static_cast<std::size_t>(piece.colour)];
+  if (piece.joins) {
+    insertion.InsertColouredStringNoSpace(values.InsertionText, values.InsertionColour);
+  } else if (piece.colour == ColourClass::Black) {
+    insertion.InsertBlackText();
+  } else {
+    insertion.AddSpaceToColouredText();
+    insertion.InsertColouredString(values.InsertionText, values.InsertionColour);
+  }
+}
+
+}  // namespace tarvik

@@ -1,0 +1,390 @@
+#include "tools/pimlet/RAWform.h"
+
+#include <cmath>
+
+#include "app/Editor.h"
+#include "tools/blocks/TextBlocks.h"
+#include "tools/wizards/MacroWizard.h"
+#include "tools/wizards/Speedy.h"
+#include "workbench/HelpTopics.h"
+
+namespace tarvik {
+namespace {
+
+// As large as its window comes up, in twips.
+constexpr float kWidth = 12855;
+constexpr float kHeight = 8850;
+
+constexpr const char* kMiscellaneous = "Miscellaneous";
+constexpr int kFallbackPlace = 200;
+
+constexpr int kMinus = 47;
+constexpr int kEnter = 13;
+constexpr int kEscape = 27;
+constexpr int kColourButton = 7;
+constexpr int kMinimised = 1;
+enum AddKind { kNothing, kText, kRaw };
+
+constexpr const char* kAddTip = "Paste into the combined selection";
+constexpr const char* kCopyTip = "Copy to the clipboard";
+
+constexpr const char* kSwitchCaptions[RAWform::kSwitches] = {
+    "/P", "/R", "/I", "/O", "/T", "/H", "/A", "Apply colour highlighting", "/N",
+};
+
+const MessageBox kTip = {"Keep the Composer in memory for increased speed",
+                         "If you're using Pimlet a lot, but he keeps getting in the way when you're using "
+                         "the Editor, then don't close "
+                         "down Pimlet. Rather, minimise him or press the OK button. This way, Pimlet is kept "
+                         "in memory and therefore "
+                         "will appear much quicker when you want him to. Closing Pimlet removes him from "
+                         "memory and therefore makes him "
+                         "much slower to view as he has to be loaded up again. Don't forget that you can use "
+                         "the F4 key to view Pimlet.",
+                         BoxIcon::Information};
+
+const MessageBox kLayoutWarning = {
+    "Applies to symbols generated with the SHIFT key pressed",
+    "If your keyboard layout is different to that above, then be careful! Let's say that if you press the \" "
+    "key "
+    "the undercarriage will be raised, and if you press the @ symbol, you eject. So in your macro file, you "
+    "have: "
+    "UnderCarriageUp = \" and Eject = @. You then assign these to Joystick buttons S1 and S2 respectively. "
+    "Now on "
+    "a British keyboard, the \" symbol is above the number 2, and the @ symbol is above the symbol ' . So "
+    "what "
+    "happens ... you take off, you press S1 to raise the undercarriage, but instead, you find yourself "
+    "ejecting. "
+    "Why? Well, using this keyboard, you can see that the Thrustmaster compiler will convert \" into the key "
+    "sequence SHF ' which on a British keyboard produces the @ symbol. So the moral of this tale is .... if "
+    "for "
+    "example you want to get a \" symbol generated, then find it on your keyboard, and use SHF key where key "
+    "is the "
+    "symbol below the \" symbol. On a British keyboard then, SHF 2 will give me the desired \" symbol.",
+    BoxIcon::Information};
+
+constexpr auto kDelay = &RAWform::mnuDelayValue_Click;
+constexpr MenuRow<RAWform> kMenus[] = {
+    {0, "mnuFile", "&File"},
+    {1, "mnuFileClose", "&Close Pimlet", "", &RAWform::mnuFileClose_Click},
+    {0, "mnuDelay", "Delay"},
+    {1, "mnuDelayValue", "20", "", nullptr, 0, kDelay},
+    {1, "mnuDelayValue", "40", "", nullptr, 1, kDelay},
+    {1, "mnuDelayValue", "60", "", nullptr, 2, kDelay},
+    {1, "mnuDelayValue", "80", "", nullptr, 3, kDelay},
+    {1, "mnuDelayValue", "100", "", nullptr, 4, kDelay},
+    {1, "mnuDelayValue", "150", "", nullptr, 5, kDelay},
+    {1, "mnuDelayValue", "200", "", nullptr, 6, kDelay},
+    {1, "mnuDelayValue", "300", "", nullptr, 7, kDelay},
+    {1, "mnuDelayValue", "400", "", nullptr, 8, kDelay},
+    {1, "mnuDelayValue", "500", "", nullptr, 9, kDelay},
+    {0, "mnuColourPaste", "Colour paste"},
+    {1, "mnuPasteJ", "Paste into joystick file", "", &RAWform::mnuPasteJ_Click},
+    {1, "mnuPasteM", "Paste into macro file", "", &RAWform::mnuPasteM_Click},
+    {0, "mnuHelp", "&Help"},
+    {1, "mnuRawOverview", "&Overview", "", &RAWform::mnuRawOverview_Click},
+    {1, "mnuHelpDivider", "-"},
+    {1, "mnuHelpRawcodes", "What's a &raw code?", "", &RAWform::mnuHelpRawcodes_Click},
+};
+
+std::string Raw(const std::string& codes) { return "RAW (" + codes + ")"; }
+
+/// A place on the screen that the window can be seen at.
+int OnScreen(int place, float end) {
+  return place < 0 || static_cast<float>(place) > end ? kFallbackPlace : place;
+}
+
+void Attach(const ControlArray<CommandButton>& buttons, RAWform& form, void (RAWform::*handler)(int)) {
+  for (int i = 0; i < buttons.Count(); ++i) {
+    buttons(i).Click = [&form, handler, i] { (form.*handler)(i); };
+  }
+}
+
+}  // namespace
+
+RAWform::RAWform(Application& application)
+    : Form("RAWform"),
+      TotalCombinedText(*this, "TotalCombinedText", application.platform.files),
+      menus(*this, kMenus),
+      application_(application),
+      editor_(application.editor()) {
+  Caption = "Pimlet - the Thrustmaster key syntax and RAW code generator";
+  Width = kWidth;
+  Height = kHeight;
+  MakeKeys();
+  SetUpTexts();
+  AttachHandlers();
+}
+
+void RAWform::MakeKeys() {
+  for (const KeyRow& row : kKeys) {
+    CommandButton& key = Command1.Load(row.key);
+    key.Caption = row.caption;
+    key.Move(static_cast<float>(row.place.left), static_cast<float>(row.place.top),
+             static_cast<float>(row.place.width), static_cast<float>(row.place.height));
+    key.Click = [this, number = row.key] { Command1_Click(number); };
+  }
+}
+
+void RAWform::SetUpTexts() {
+  for (int i = 0; i < kSwitches; ++i) Command3(i).Caption = kSwitchCaptions[i];
+  for (CommandButton* const add : {&Command5, &Command10(0), &Command10(1), &Command10(2)}) {
+    add->ToolTipText = kAddTip;
+  }
+  for (int i = 0; i < Command9.Count(); ++i) Command9(i).ToolTipText = kCopyTip;
+  Command4.ToolTipText = "Clear the combined selection contents";
+  TotalCombinedText.ToolTipText =
+      "Use the Combined text !! It'll make your life much easier! Click in it to insert text into files";
+  CommandINS(0).Caption = "Insert into joystick file";
+  CommandINS(1).Caption = "Insert into macro file";
+  CheckUseSHFUK.ToolTipText = "Especially important for non-US keyboard layout";
+  Command14(0).Caption = "Tip";
+  Command14(1).Caption = "Find IP";
+  Command14(1).ToolTipText = "Locate insertion point in the currently selected file";
+  Command2.ToolTipText = "Hides Pimlet and keeps him in memory for faster recall";
+  Command2.MakeDefault();
+  Command2.Cancel = true;
+}
+
+void RAWform::AttachHandlers() {
+  ToggleButton1.Click = [this] { ToggleButton1_Click(); };
+  ToggleButton2.Click = [this] { ToggleButton2_Click(); };
+  ToggleButton3.Click = [this] { ToggleButton3_Click(); };
+  ToggleButton4.Click = [this] { ToggleButton4_Click(); };
+  CheckUseSHFUK.Click = [this] { CheckUseSHFUK_Click(); };
+  CheckAddCRPimlet.Click = [this] { CheckAddCRPimlet_Click(); };
+  Check1.Click = [this] { Check1_Click(); };
+  Command2.Click = [this] { Command2_Click(); };
+  Command4.Click = [this] { Command4_Click(); };
+  Command5.Click = [this] { Command5_Click(); };
+  Command6.Click = [this] { Command6_Click(); };
+  Command7.Click = [this] { Command7_Click(); };
+  Command11.Click = [this] { Command11_Click(); };
+  Attach(Command3, *this, &RAWform::Command3_Click);
+  Attach(Command9, *this, &RAWform::Command9_Click);
+  Attach(Command10, *this, &RAWform::Command10_Click);
+  Attach(Command14, *this, &RAWform::Command14_Click);
+  Attach(CommandINS, *this, &RAWform::CommandINS_Click);
+  TotalCombinedText.Change = [this] { TotalCombinedText_Change(); };
+  TotalCombinedText.KeyDown = [this](Key& key) { TotalCombinedText_KeyDown(key); };
+  Form::Load = [this] { Form_Load(); };
+  Form::Unload = [this] { Form_Unload(); };
+  Form::Activate = [this] { Raise(); };
+  Form::KeyDown = [this](Key& key) { editor_.ForwardKey(key); };
+}
+
+// Life of the form.
+
+void RAWform::Form_Load() {
+  PositionPimlet();
+  FormatCombinedText();
+  TotalCombinedText_Change();
+  SelectedKey = -1;
+  LastAddKind = kNothing;
+  menus("mnuDelay").Visible = false;
+  menus("mnuColourPaste").Visible = false;
+  Check1.Value = application_.settings.PimletOnTop == 1 ? 1 : 0;
+  Topmost = Check1.Value == 1;
+}
+
+void RAWform::Check1_Click() {
+  Topmost = Check1.Value == 1;
+  application_.settings.PimletOnTop = Check1.Value;
+  application_.settings.SaveOptions();
+}
+
+void RAWform::PositionPimlet() {
+  const ScreenSize& screen = application_.platform.screen;
+  const Profile stored = application_.profile.Read();
+  const auto read = [&stored](const char* key, float size, float end) {
+    const int centred = static_cast<int>((end - size) / 2);
+    return static_cast<float>(OnScreen(stored.GetInt(kMiscellaneous, key, centred), end));
+  };
+  MoveTo(read("PimletLeft", Width, screen.width), read("PimletTop", Height, screen.height));
+  const int addCR = To16Bits(stored.GetInt(kMiscellaneous, "AddPimletCR", 0));
+  CheckAddCRPimlet.Value = addCR == 1 ? 1 : 0;
+  AddCR = addCR;
+}
+
+void RAWform::SavePosition() {
+  if (WindowState == kMinimised) return;
+  const ScreenSize& screen = application_.platform.screen;
+  const auto place = [](float at, float end) {
+    return TextOf(OnScreen(static_cast<int>(std::lround(at)), end));
+  };
+  Ignore(application_.profile.WriteAll(std::vector<ProfileEntry>{
+      {kMiscellaneous, "PimletTop", place(Top, screen.height)},
+      {kMiscellaneous, "PimletLeft", place(Left, screen.width)},
+      {kMiscellaneous, "AddPimletCR", TextOf(AddCR.Get())},
+  }));
+}
+
+void RAWform::FormatCombinedText() {
+  TotalCombinedText.BackColor = application_.settings.BackgroundColour.Get();
+  editor_.ApplyFont(TotalCombinedText);
+}
+
+// Keys.
+
+void RAWform::Command1_Click(int key) {
+  SelectedKey = key;
+  ShowKeystrings();
+}
+
+void RAWform::CheckUseSHFUK_Click() {
+  if (SelectedKey >= 0) ShowKeystrings();
+}
+
+void RAWform::ShowKeystrings() {
+  const Keystrings keys = GetKeystrings();
+  SyntaxText.Text = keys.KeyText;
+  RMakeText.Text = keys.MakeCode;
+  RBreakText.Text = keys.BreakCode;
+  RCombinedText.Text = keys.CombinedCode;
+}
+
+Keystrings RAWform::GetKeystrings() const {
+  const KeyRow* const row = FindKey(SelectedKey);
+  if (!row) return {};
+  const Held held = {ToggleButton1.On(), ToggleButton2.On(), ToggleButton3.On(), ToggleButton4.On()};
+  return tarvik::GetKeystrings(*row, Command1(row->key).Caption.Get(), held,
+                               {application_.settings.JoyName, CheckUseSHFUK.Value == 1});
+}
+
+void RAWform::Toggle(ToggleLabel& label, std::initializer_list<int> keys) {
+  label.Turn(!label.On());
+  for (const int key : keys) Command1(key).Enabled = !label.On();
+}
+
+void RAWform::ToggleButton1_Click() {
+  Toggle(ToggleButton1, {58, 59});
+  for (const KeyRow& row : kKeys) {
+    if (!*row.shiftCaption) continue;
+    const char* const without = row.key == kMinus ? "." : row.caption;  // Shift leaves its point on this key
+    Command1(row.key).Caption = ToggleButton1.On() ? row.shiftCaption : without;
+  }
+}
+
+void RAWform::ToggleButton2_Click() { Toggle(ToggleButton2, {60, 61}); }
+void RAWform::ToggleButton3_Click() { Toggle(ToggleButton3, {62, 63}); }
+void RAWform::ToggleButton4_Click() { Toggle(ToggleButton4, {}); }
+
+// The line.
+
+void RAWform::SetLine(const std::string& line, int kind) {
+  TotalCombinedText.Text = line;
+  TotalCombinedText.SelStart = line.size();
+  LastAddKind = kind;
+}
+
+void RAWform::AddText(const std::string& text) { SetLine(Line() + " " + text, kText); }
+
+TextBox& RAWform::CodeBox(int index) {
+  return *std::array{&RMakeText, &RBreakText, &RCombinedText}.at(static_cast<std::size_t>(index));
+}
+
+void RAWform::Command3_Click(int index) {
+  if (index == kColourButton) return ApplyColour();
+  AddText(Command3(index).Caption);
+}
+
+void RAWform::Command5_Click() {
+  if (!SyntaxText.Empty()) AddText(SyntaxText.Text);
+}
+
+/// Codes that follow codes join their statement.
+void RAWform::Command10_Click(int index) {
+  const std::string codes = CodeBox(index).Text;
+  if (codes.empty()) return;
+  std::string line = Line();
+  if (line.empty()) {
+    line = Raw(codes);
+  } else if (line.back() == ')' && LastAddKind == kRaw) {
+    line.back() = ' ';
+    line += codes + ")";
+  } else {
+    line += " " + Raw(codes);
+  }
+  SetLine(line, kRaw);
+}
+
+void RAWform::mnuDelayValue_Click(int index) {
+  AddText("DLY(" + menus("mnuDelayValue", index).Caption.Get() + ")");
+}
+
+void RAWform::Command7_Click() {
+  const std::string remark = AskForRemark(application_);
+  if (!remark.empty()) AddText("Rem " + remark);
+}
+
+void RAWform::Command4_Click() {
+  SetLine("", kNothing);
+  FormatCombinedText();
+}
+
+template <class F>
+void RAWform::CopyLineTo() const {
+  const F* const form = application_.LoadedTool<F>();
+  if (form && form->Visible) form->Text1(1).Text = Line();
+}
+
+void RAWform::TotalCombinedText_Change() {
+  CopyLineTo<Speedy>();
+  CopyLineTo<MacroWizard>();
+  for (const int i : {0, 1}) CommandINS(i).Enabled = !TotalCombinedText.Characters().empty();
+}
+
+/// It is one line, in a box that would take these keys for itself.
+void RAWform::TotalCombinedText_KeyDown(Key& key) {
+  if (key.code == kEscape) Command2_Click();
+  if (key.code == kEnter || key.code == kEscape) key = {};
+}
+
+void RAWform::Command9_Click(int index) {
+  constexpr int kLine = 3;
+  constexpr int kSyntax = 4;
+  const std::string text = index == kLine     ? Line()
+                           : index == kSyntax ? SyntaxText.Text.Get()
+                                              : Raw(CodeBox(index).Text);
+  application_.platform.clipboard.Put(text, "");
+  editor_.UpdateCCPButtons();
+}
+
+void RAWform::CommandINS_Click(int index) {
+  editor_.TabStrip1.Select(index + 1);
+  application_.values.InsertionText = Line() + " ";
+  ColouredInsertion& insertion = editor_.insertion();
+  insertion.BeginColInsert();
+  insertion.InsertBlackText();
+  if (AddCR == 1) insertion.InsertCarriageReturn();
+  insertion.EndColInsert();
+}
+
+void RAWform::mnuPasteJ_Click() { PasteInto(editor_.Joystick); }
+void RAWform::mnuPasteM_Click() { PasteInto(editor_.Macro); }
+
+void RAWform::PasteInto(Document& document) {
+  const std::string line = Line();
+  if (line.empty()) return;
+  const std::size_t place = document.text.SelStart;
+  document.text.SelText = line;
+  document.Caret = place + line.size();
+  document.text.SelStart = document.Caret;
+  editor_.mnuViewReformat_Click();
+}
+
+// What else it offers.
+
+void RAWform::Command11_Click() { application_.platform.dialogs.Show(kLayoutWarning); }
+
+void RAWform::Command14_Click(int index) {
+  if (index == 1) return editor_.mnuViewHighlightLine_Click();
+  application_.platform.dialogs.Show(kTip);
+}
+
+void RAWform::mnuFileClose_Click() { application_.Unload(*this); }
+
+void RAWform::mnuRawOverview_Click() { ShowHelp(application_.platform, topic::kPimlet); }
+void RAWform::mnuHelpRawcodes_Click() { ShowHelp(application_.platform, topic::kRawCodes); }
+
+}  // namespace tarvik

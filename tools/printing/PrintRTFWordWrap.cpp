@@ -1,0 +1,69 @@
+#include "tools/printing/PrintRTFWordWrap.h"
+
+#include "app/Layout.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int kMargin = 1440;  // twips: an inch, above which the header has its place
+
+FormattedText Formatted(const Pane& pane) {
+  FormattedText text{pane.Characters(), {}, pane.SelFontName, pane.SelFontSize, pane.SelBold, 0};
+  text.indent = pane.SelIndent * static_cast<int>(kTwipsPerPixel);
+  for (const ColourRuns::Run& run : pane.Content().colours.runs()) {
+    text.colours.push_back({run.start, run.colour});
+  }
+  return text;
+}
+
+void PrintHeader(const Platform& platform, const Trap& trap, const std::string& title) {
+  Printer& printer = platform.printer;
+  trap(printer.Print("", false));
+  trap(printer.Print(title, true));
+  trap(printer.Print("Date printed: " + platform.calendar.ShortDate(), true));
+  trap(printer.Print("", false));
+}
+
+}  // namespace
+
+void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int top, int right, int bottom) {
+  const Trap trap{errors, "MODULE PrintRTF"};
+  trap(printer.Print(" ", false));
+  const Paper paper = trap(printer.Sheet()).value_or(Paper());
+  const PrintArea area{left - paper.offsetX, top - paper.offsetY, paper.width - right - paper.offsetX,
+                       paper.height - bottom - paper.offsetY};
+  const FormattedText text = Formatted(pane);
+  std::size_t from = 0;
+  while (true) {
+    const std::size_t next = trap(printer.FormatRange(text, from, area)).value_or(from);
+    // Where nothing goes on the page nothing would go on the next ones either.
+    if (next >= text.text.size() || next <= from) break;
+    from = next;
+    trap(printer.NewPage());
+    trap(printer.Print(" ", false));
+  }
+  trap(printer.EndDocument());
+}
+
+void PrintPane(const Pane& pane, const std::string& title, std::string_view tag, const Platform& platform,
+               Errors& errors, Panel& panel) {
+  if (pane.Characters().empty()) return;
+  panel.Text = "Printing " + title;
+  PrintHeader(platform, Trap{errors, tag}, title);
+  PrintRTF(platform.printer, errors, pane, kMargin, kMargin, kMargin, kMargin);
+  panel.Text = "Finished printing " + title;
+}
+
+void PrintDocument(const Desk& desk, const Document& document) {
+  PrintPane(document.text, desk.TabOf(document).Caption,
+            document.IsJoystick() ? "ED_mnuFilePrintJoystick_Click" : "ED_mnuFilePrintMacro_Click",
+            desk.platform, desk.errors, desk.status.Panels(1));
+}
+
+void SetUpPrinter(const Desk& desk) {
+  const Outcome<> chosen = desk.platform.printer.SetUp();
+  if (!chosen && chosen.failure().number == error::kDialogCancelled) return;
+  Trap{desk.errors, "ED_mnuFilePrinterSetup_Click"}(chosen);
+}
+
+}  // namespace tarvik

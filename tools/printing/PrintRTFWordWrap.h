@@ -1,0 +1,24 @@
+// Documents on paper: a header, and below it the text of a pane as it stands there, page after page. The
+// editor's printing entries run this.
+#pragma once
+
+#include "workbench/Desk.h"
+
+namespace tarvik {
+
+/// Prints the pane's text in its colours and ends the document. The margins are in twips from the edges of
+/// the sheet.
+void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int top, int right, int bottom);
+
+/// Prints the pane's text under a title and today's date, and tells so in `panel`; an empty one not.
+/// Failures are recorded under `tag`.
+void PrintPane(const Pane& pane, const std::string& title, std::string_view tag, const Platform& platform,
+               Errors& errors, Panel& panel);
+
+/// Prints the document under its name and today's date; status panel 1 tells.
+void PrintDocument(const Desk& desk, const Document& document);
+
+/// Lets the user choose where everything is printed from now on.
+void SetUpPrinter(const Desk& desk);
+
+}  // namespace tarvik

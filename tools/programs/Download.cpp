@@ -1,0 +1,144 @@
+#include "tools/programs/Download.h"
+
+#include "app/Editor.h"
+#include "app/Mum.h"
+#include "tools/programs/Shell32.h"
+
+namespace tarvik {
+namespace {
+
+// A window state of the frame.
+constexpr int kMinimised = 1;
+
+// What the loader is waited for with.
+constexpr int kMinimisedWithoutFocus = 6;  // without effect
+constexpr int kNoLimit = -1;
+
+constexpr const char* kNoControlCentre =
+    "You need to enter the path in preferences for the Thrustmaster Control Centre";
+constexpr const char* kWhyPath =
+    " program is in this path and I really do need to know where to find it. I could be really intelligent "
+    "here and go and find the file myself, but let's face facts, I'm just a humble lazy computer, and I'd "
+    "rather be on a beach somewhere than running this Tarvik rubbish.";
+constexpr const char* kNothingToSend =
+    "The Joystick file is empty, so there's not much point in me sending that off to your joystick. Load up "
+    "a joystick file, or create one, or just put your feet up and watch TV.";
+constexpr const char* kNotSaved =
+    "The joystick file isn't saved, so you won't be sending the currently edited file to your Thrustmaster "
+    "hardware. Do you want to continue anyway?";
+
+struct F22Row {
+  const char* program;
+  const char* nameInText;
+  const char* tag;
+};
+
+/// In the order of F22Utility.
+constexpr F22Row kF22Utilities[] = {
+    {"f22setup.exe", "Setup", "ED_mnuF22Setup_Click"},
+    {"f22clear.exe", "f22clear", "ED_mnuF22Clear_Click"},
+    {"f22reset.exe", "F22Reset", "ED_mnuF22Reset_Click"},
+    {"f22dly2.exe", "F22dly2", "ED_mnuF22Delay_Click"},
+};
+
+/// Whether the Control Centre is known; the user is told where it is not.
+bool IsControlCentreKnown(Application& application, const std::string& text) {
+  if (!application.settings.CandCCPath.Get().empty()) return true;
+  application.platform.dialogs.Show({"Where is it?", text, BoxIcon::Information, BoxButtons::Ok});
+  return false;
+}
+
+bool MaySendAsSaved(Application& application) {
+  return application.platform.dialogs.Show({"Hang on a minute ...", kNotSaved, BoxIcon::Exclamation,
+                                            BoxButtons::YesNo, Answer::No}) == Answer::Yes;
+}
+
+}  // namespace
+
+std::string FolderOfControlCentre(const Settings& settings) {
+  const std::string& path = settings.CandCCPath.Get();
+  return path.substr(0, path.rfind('\\') + 1);
+}
+
+void ChangeToControlCentre(Application& application, const std::string& path, const Trap& trap) {
+  Files& files = application.platform.files;
+  trap(files.ChangeDrive(path.substr(0, 1) + ":"));
+  trap(files.ChangeFolder(FolderOfControlCentre(application.settings)));
+}
+
+void ChangeToRootOf(Application& application, const std::string& path, const Trap& trap) {
+  Files& files = application.platform.files;
+  const std::string drive = path.substr(0, 1) + ":";
+  trap(files.ChangeDrive(drive));
+  trap(files.ChangeFolder(drive + "\\"));
+}
+
+std::string LoaderCommandLine(const Application& application, const std::string& file) {
+  const bool quiet = application.editor().menus("mnuAppsQuiet").Checked;
+  return application.settings.B50LoadPath.Get() + " " + file + (quiet ? " Q" : "");
+}
+
+std::string PrepareLoader(Application& application, const std::string& file, const Trap& trap) {
+  ChangeToRootOf(application, application.settings.B50LoadPath, trap);
+  trap(application.platform.files.ChangeFolder(FolderOfControlCentre(application.settings)));
+  return LoaderCommandLine(application, file);
+}
+
+void SendToJoystick(Application& application) {
+  const Trap trap{application.errors, "ED_mnuSendToJoystick_Click"};
+  Editor& editor = application.editor();
+  const Document& joystick = editor.Joystick;
+  if (joystick.text.Characters().empty()) {
+    application.platform.dialogs.Show(
+        {"Nothing to transfer ...", kNothingToSend, BoxIcon::Information, BoxButtons::Ok});
+    return;
+  }
+  if (joystick.Dirty == saved::kModified) editor.mnuFileSave_Click();
+  if (joystick.Dirty == saved::kModified && !MaySendAsSaved(application)) return;
+  const std::string commandLine = PrepareLoader(application, joystick.Path, trap);
+  Mum& mum = application.mum();
+  const int before = mum.WindowState;
+  mum.WindowState = kMinimised;
+  ShellAndWait(application, commandLine, kMinimisedWithoutFocus, kNoLimit);
+  mum.WindowState = before;
+  editor.ActiveDocument().text.SetFocus();
+}
+
+void StartControlCentre(Application& application) {
+  if (!IsControlCentreKnown(application, kNoControlCentre)) return;
+  const Trap trap{application.errors, "ED_mnuAppsCandCC_Click"};
+  const std::string path = application.settings.CandCCPath;
+  ChangeToControlCentre(application, path, trap);
+  trap(Shell(application, path, WindowStyle::Normal));
+}
+
+void StartTMScope(Application& application) {
+  if (!IsControlCentreKnown(application, kNoControlCentre)) return;
+  const Trap trap{application.errors, "ED_mnuAppsTMScope_Click"};
+  const std::string path = application.settings.CandCCPath;
+  const std::string folder = FolderOfControlCentre(application.settings);
+  ChangeToControlCentre(application, path, trap);
+  for (const char* const name : {"tmscope.exe", "tms.exe"}) {
+    if (!application.platform.files.FileExists(folder + name)) continue;
+    trap(Shell(application, folder + name, WindowStyle::Maximised));
+    return;
+  }
+  application.platform.dialogs.Show(
+      {"Couldn't find TMScope",
+       "I couldn't find TMScope which should be located here: " + folder +
+           ". Goto your preferences and make sure you've entered the correct path for the Thrustmaster "
+           "Control Centre because tms.exe should be in the same directory. You've told me that this is: " +
+           path,
+       BoxIcon::Exclamation, BoxButtons::Ok});
+}
+
+void StartF22Utility(Application& application, F22Utility utility) {
+  const F22Row& row = kF22Utilities[static_cast<int>(utility)];
+  const std::string text = std::string(kNoControlCentre) + ", as the " + row.nameInText + kWhyPath;
+  if (!IsControlCentreKnown(application, text)) return;
+  const Trap trap{application.errors, row.tag};
+  ChangeToControlCentre(application, application.settings.CandCCPath, trap);
+  trap(Shell(application, FolderOfControlCentre(application.settings) + row.program, WindowStyle::Normal));
+}
+
+}  // namespace tarvik

@@ -1,0 +1,91 @@
+#include "tools/programs/Shell32.h"
+
+#include <vector>
+
+#include "app/Mum.h"
+#include "tools/programs/ProgramWait.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int kNoLimit = -1;
+constexpr int kBusy = 70;  // "Permission denied"
+
+int StartFailed(int number) { return static_cast<int>(0x80040000U + static_cast<unsigned>(number)); }
+
+/// The timers of all forms stand still meanwhile.
+class TimersHeld {
+ public:
+  explicit TimersHeld(const Application& application) {
+    for (const Form* const form : application.Forms()) {
+      for (Component* const child : form->Children()) {
+        auto* const timer = dynamic_cast<Timer*>(child);
+        if (timer && timer->Enabled) held_.push_back(timer);
+      }
+    }
+    Enable(false);
+  }
+  ~TimersHeld() { Enable(true); }
+  TimersHeld(const TimersHeld&) = delete;
+  TimersHeld& operator=(const TimersHeld&) = delete;
+
+ private:
+  void Enable(bool enabled) {
+    for (Timer* const timer : held_) timer->Enabled = enabled;
+  }
+
+  std::vector<Timer*> held_;
+};
+
+/// Status panel 1 says what is waited for, and afterwards what it said before.
+class Announced {
+ public:
+  Announced(Panel& panel, const std::string& text) : panel_(panel), before_(panel.Text) {
+    panel_.Text = text;
+  }
+  ~Announced() { panel_.Text = before_; }
+  Announced(const Announced&) = delete;
+  Announced& operator=(const Announced&) = delete;
+
+ private:
+  Panel& panel_;
+  std::string before_;
+};
+
+/// Stands in front until the program has ended, or the user or the time has had enough; true for the time.
+bool ShowWait(Application& application, RunningProgram& program, const std::string& commandLine,
+              int timeout) {
+  const TimersHeld held(application);
+  const std::string waiting = "Waiting for " + commandLine + " to end ...";
+  const Announced announced(application.mum().StatusBar.Panels(1), waiting);
+  auto& window = application.Tool<ProgramWait>();
+  window.Label1.Caption = waiting;
+  window.Modal = true;
+  window.Visible = true;
+  const auto timedOut = [&] { return timeout != kNoLimit && window.Waited >= timeout; };
+  application.WaitWhile([&] {
+    return program.State() == ProgramState::Running && window.Visible && !timedOut() && !application.Ended();
+  });
+  if (!window.Visible) return false;
+  application.Unload(window);
+  return timedOut();
+}
+
+}  // namespace
+
+int ShellAndWait(Application& application, const std::string& commandLine, std::optional<int> /*windowStyle*/,
+                 std::optional<int> timeout) {
+  if (application.LoadedTool<ProgramWait>()) return StartFailed(kBusy);
+  auto program = application.platform.programs.StartToWait(commandLine, WindowStyle::Normal);
+  if (!program) return StartFailed(program.failure().number);
+  const bool running = (*program)->State() == ProgramState::Running;
+  const bool timedOut = running && ShowWait(application, **program, commandLine, timeout.value_or(kNoLimit));
+  if ((*program)->State() == ProgramState::Ended) return wait::kEnded;
+  return timedOut ? wait::kTimedOut : wait::kAbandoned;
+}
+
+Outcome<> Shell(Application& application, const std::string& commandLine, WindowStyle style) {
+  return application.platform.programs.Start(commandLine, style);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,417 @@
+#include "tools/templates/TemplateForm.h"
+
+#include "app/Mum.h"
+#include "text/CodePage.h"
+#include "tools/preferences/Preferences.h"
+#include "tools/printing/PrintRTFWordWrap.h"
+#include "workbench/EditCommands.h"
+#include "workbench/HelpTopics.h"
+#include "workbench/Highlighter.h"
+#include "workbench/SaveQuestion.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* kUntitled = "untitled.rtf";
+constexpr const char* kCurrentFolder = ".";
+constexpr const char* kIniName = "Tarvik.ini";
+constexpr const char* kNoDefaultTip = "Open default template/text file (see Preferences)";
+constexpr const char* kFilter =
+    "Templates (*.rtf)|*.rtf|Joystick files |*.f22;*.b50;*.adv|Macro files |*.m22;*.m50;*.mdf|"
+    "Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|All files (*.*)|*.*";
+constexpr int kNoWrapping = 2000;
+constexpr int kRightButton = 2;
+constexpr int kEscape = 27;
+
+constexpr MenuRow<TemplateForm> kMenus[] = {
+    {0, "mnuFile", "&File"},
+    {1, "mnuFileNew", "&New", "Ctrl+N", &TemplateForm::mnuFileNew_Click},
+    {1, "mnuFileOpen", "&Open ...", "Ctrl+O", &TemplateForm::mnuFileOpen_Click},
+    {1, "mnuFileSave", "&Save", "Ctrl+S", &TemplateForm::mnuFileSave_Click},
+    {1, "mnuFileDivider1", "-"},
+    {1, "mnuFileLoadDefault", "Open &default", "", &TemplateForm::mnuFileLoadDefault_Click},
+    {1, "mnuFileSetAsDefault", "Save and set &as default", "", &TemplateForm::mnuFileSetAsDefault_Click},
+    {1, "mnuFileDivider2", "-"},
+    {1, "mnuFilePrint", "&Print", "Ctrl+P", &TemplateForm::mnuFilePrint_Click},
+    {1, "mnuFileDivider3", "-"},
+    {1, "mnuFileExit", "E&xit Template Editor", "", &TemplateForm::mnuFileExit_Click},
+    {0, "mnuEdit", "&Edit"},
+    {1, "mnuCut", "Cu&t", "Ctrl+X", &TemplateForm::mnuCut_Click},
+    {1, "mnuCopy", "&Copy", "Ctrl+C", &TemplateForm::mnuCopy_Click},
+    {1, "mnuPaste", "&Paste", "Ctrl+V", &TemplateForm::mnuPaste_Click},
+    {1, "mnuDelete", "&Delete", "", &TemplateForm::mnuDelete_Click},
+    {1, "mnuSelectAll", "Select &all", "Ctrl+A", &TemplateForm::mnuSelectAll_Click},
+    {1, "mnuEditDivider1", "-"},
+    {1, "mnuEditTarvikini", "Edit Tarvik.&ini", "Ctrl+I", &TemplateForm::mnuEditTarvikini_Click},
+    {1, "mnuEdTmpPrefs", "Default te&mplate ...", "", &TemplateForm::mnuEdTmpPrefs_Click},
+    {0, "mnuView", "&View"},
+    {1, "mnuColourApply", "&Apply colour highlighting", "", &TemplateForm::mnuColourApply_Click},
+    {1, "mnuTextToBlack", "Text to &black", "", &TemplateForm::mnuTextToBlack_Click},
+    {1, "mnuViewEditColours", "Edit &colours ...", "", &TemplateForm::mnuViewEditColours_Click},
+    {1, "mnuViewDivider1", "-"},
+    {1, "mnuViewrefreshLayout", "&Refresh layout", "Ctrl+H", &TemplateForm::mnuViewrefreshLayout_Click},
+    // Windows of their own have nothing to be arranged in.
+    {0, "mnuWindow", "&Window"},
+    {1, "mnuWindowCascade", "&Cascade", "", nullptr, 0},
+    {1, "mnuWindowCascade", "Tile &horizontally", "", nullptr, 1},
+    {1, "mnuWindowCascade", "Tile &vertically", "", nullptr, 2},
+    {1, "mnuWindowCascade", "&Arrange icons", "", nullptr, 3},
+    {0, "mnuHelp", "&Help"},
+    {1, "mnuOverview", "&Overview", "", &TemplateForm::mnuOverview_Click},
+
+    {0, "mnuPopShow", "Template"},
+    {1, "mnuPopitUpCut", "Cu&t", "", &TemplateForm::mnuCut_Click},
+    {1, "mnuPopitUpCopy", "&Copy", "", &TemplateForm::mnuCopy_Click},
+    {1, "mnuPopitUpPaste", "&Paste", "", &TemplateForm::mnuPaste_Click},
+    {1, "mnuPopitUpSelectAll", "Select &all", "", &TemplateForm::mnuSelectAll_Click},
+    {1, "mnuPopDivider1", "-"},
+    {1, "mnuPopitUpColour", "App&ly colour highlighting", "", &TemplateForm::mnuColourApply_Click},
+    {1, "mnuPopitUpBlack", "Text to &black", "", &TemplateForm::mnuTextToBlack_Click},
+    {1, "mnuPopDivider2", "-"},
+    {1, "mnuSetAsDefault", "Save and set as &default", "", &TemplateForm::mnuFileSetAsDefault_Click},
+    {1, "mnuPopitUpPrint", "Pr&int", "", &TemplateForm::mnuFilePrint_Click},
+    {1, "mnuPopitUpSave", "&Save", "", &TemplateForm::mnuFileSave_Click},
+};
+
+struct CommandRow {
+  const char* caption;
+  const char* tip;
+};
+
+constexpr CommandRow kCommandRows[TemplateForm::kCommands] = {
+    {"Open", "Open a template or any text file (Ctrl+O)"},
+    {"Save", "Save templates in the folder Templates, other files where they came from (Ctrl+S)"},
+    {"New", "New template (Ctrl+N)"},
+};
+
+std::string NameIn(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
+
+}  // namespace
+
+TemplateForm::TemplateForm(Application& application)
+    : Form("TemplateForm"),
+      menus(*this, kMenus),
+      TemplateText(*this, "TemplateText", application.platform.files),
+      application_(application) {
+  Caption = "Template Editor";
+  menus("mnuPopShow").Visible = false;
+  Text1.ToolTipText = "The file's name; a name typed here is a template's";
+  Label1.Caption = "Colour of the selection";
+  Label1.BackColor = ToggleLabel::kOff;
+  for (int i = 0; i < kCommands; ++i) {
+    Command1(i).Caption = kCommandRows[i].caption;
+    Command1(i).ToolTipText = kCommandRows[i].tip;
+    Command1(i).Click = [this, i] { Command1_Click(i); };
+  }
+  for (int i = 0; i < ColourSelector::kColours; ++i) {
+    Label& swatch = swatches.Load("ColourLabel" + TextOf(i + 1));
+    swatch.ToolTipText = kColourChoices[i].caption;
+    swatch.Click = [this, &swatch] { ColourLabel_Click(swatch); };
+  }
+  ToggleButton1.Turn(true);
+  AttachHandlers();
+}
+
+void TemplateForm::AttachHandlers() {
+  Load = [this] { Form_Load(); };
+  Activate = [this] { Form_Activate(); };
+  // The text is not closed in passing.
+  KeyDown = [](Key& key) {
+    if (key.code == kEscape) key = {};
+  };
+  Command2.Click = [this] { Command2_Click(); };
+  CmndPrint.ToolTipText = "Print (Ctrl+P)";
+  CmndPrint.Click = [this] { mnuFilePrint_Click(); };
+  ToggleButton1.Click = [this] { ToggleButton1_Click(); };
+  Text1.LostFocus = [this] { Text1_LostFocus(); };
+  TemplateText.GotFocus = [this] { TemplateText_GotFocus(); };
+  TemplateText.KeyDown = [this](Key& key) { TemplateText_KeyDown(key); };
+  TemplateText.MouseDown = [this](const Mouse& mouse) { TemplateText_MouseDown(mouse); };
+  TemplateText.SelChange = [this] { UpdateCopyItems(); };
+  // Colours are part of a template.
+  connections_ = {
+      TemplateText.Edited.Connect([this](const PaneEdit&) { TemplateText_Change(); }),
+      application_.ClipboardChanged.Connect([this] { UpdateCopyItems(); }),
+      application_.settings.TextFilePath.Changed.Connect([this] { ShowDefault(); }),
+      TemplateName.Changed.Connect([this] { FileOnShow = TemplateName; }),
+      TemplateChanged.Changed.Connect([this] { Unsaved = TemplateChanged == 1; }),
+  };
+}
+
+void TemplateForm::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
+
+// Life of the form.
+
+void TemplateForm::ShowText() {
+  Show();
+  TemplateText.SetFocus();
+}
+
+void TemplateForm::Form_Load() {
+  TemplateFolder = application_.platform.folder + "\\Templates\\";
+  NameUntitled();
+  UpdateLabelColours();
+  mnuViewrefreshLayout_Click();
+  OpenDefault(Trap{application_.errors, "TEMPLATE Form_Load"});
+  UpdateCopyItems();
+}
+
+void TemplateForm::Form_Activate() {
+  application_.mum().Toolbar1.Visible = false;
+  UpdateLabelColours();
+  if (application_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
+  UpdateCopyItems();
+}
+
+void TemplateForm::UpdateLabelColours() {
+  for (int i = 0; i < ColourSelector::kColours; ++i) {
+    swatches("ColourLabel" + TextOf(i + 1)).BackColor = kColourChoices[i].In(application_.settings);
+  }
+}
+
+bool TemplateForm::MayLeave(const char* question, const char* refused) {
+  if (TemplateChanged != 1) return true;
+  return MayGo(application_.platform.dialogs, TemplateName, {question, "Ooops!", refused},
+               [this] { return Save(); });
+}
+
+bool TemplateForm::MayOpen(const char* question) {
+  return MayLeave(question, " wasn't saved for some reason. I won't proceed in opening up another file");
+}
+
+bool TemplateForm::Form_QueryUnload() {
+  return MayLeave(" has changed and isn't saved. Do you want to save it before exiting?",
+                  " wasn't saved. Exit Template Editor aborted.");
+}
+
+// Files.
+
+void TemplateForm::Command1_Click(int index) {
+  if (index == kOpen) Open();
+  if (index == kSave) Save();
+  if (index == kNew) New();
+}
+
+void TemplateForm::ShowName(const std::string& name) {
+  TemplateName = name;
+  Text1.Text = name;
+}
+
+/// Its text comes from no file: nothing goes back to the last one.
+void TemplateForm::NameUntitled() {
+  TemplatePath = TemplateFolder.Get() + kUntitled;
+  FileName = std::string();
+  ShowName(kUntitled);
+}
+
+bool TemplateForm::LoadText(const std::string& path, const Trap& trap) {
+  if (!trap(TemplateText.LoadFile(path))) {
+    Say(path + " can't be opened");
+    return false;
+  }
+  FileName = path;
+  TemplatePath = path;
+  TemplateChanged = 0;
+  return true;
+}
+
+void TemplateForm::ShowDefault() {
+  const std::string path = LowerCase(application_.settings.TextFilePath.Get());
+  Command2.Enabled = application_.platform.files.FileExists(path);
+  Command2.ToolTipText = Command2.Enabled ? "Open " + path : kNoDefaultTip;
+}
+
+void TemplateForm::OpenDefault(const Trap& trap) {
+  ShowDefault();
+  const std::string path = LowerCase(application_.settings.TextFilePath.Get());
+  if (Command2.Enabled && LoadText(path, trap)) ShowName(NameIn(application_.settings.TextFilePath));
+}
+
+void TemplateForm::Command2_Click() {
+  if (!MayOpen(" has changed and isn't saved. Do you want to save it before opening another file?")) return;
+  OpenDefault(Trap{application_.errors, "TEMPLATE Command2_Click"});
+}
+
+void TemplateForm::Open() {
+  const Trap trap{application_.errors, "TEMPLATE Command1_Click"};
+  if (!MayOpen(" has changed and isn't saved. Do you want to save it before opening another file?")) return;
+  const auto chosen =
+      application_.platform.dialogs.AskForFile({FileDialogKind::Open, {}, kFilter, kCurrentFolder, {}, {}});
+  if (!chosen || !LoadText(LowerCase(*chosen), trap)) return;
+  Say(TemplatePath.Get() + " was opened successfully");
+  ShowName(NameIn(*chosen));
+  mnuViewrefreshLayout_Click();
+}
+
+/// False when the file could not be written: the text is then as unsaved as before.
+bool TemplateForm::Save() {
+  const Trap trap{application_.errors, "TEMPLATE Command1_Click"};
+  // The focus that is still there while a menu is used has a typed name to finish.
+  if (Text1.Empty() || (ActiveControl() == &Text1 && Text1.Text.Get() != TemplateName.Get()))
+    Text1_LostFocus();
+  const std::string name = Text1.Text;
+  const bool rich = LowerCase(name).ends_with("rtf");
+  Files& files = application_.platform.files;
+  if (rich && !files.FolderExists(TemplateFolder.Get())) trap(files.MakeFolder(TemplateFolder.Get()));
+  const std::string path = rich || FileName.Get().empty() ? TemplateFolder.Get() + name : FileName.Get();
+  if (!trap(TemplateText.SaveFile(path, rich ? FileFormat::Rtf : FileFormat::Text))) {
+    Say(name + " wasn't saved, because " + path + " can't be written");
+    return false;
+  }
+  TemplatePath = LowerCase(path);
+  TemplateName = name;
+  TemplateChanged = 0;
+  Say(name + " was saved successfully");
+  return true;
+}
+
+void TemplateForm::New() {
+  if (!MayLeave(" has changed and isn't saved. Do you want to save it before creating a new file?",
+                " wasn't saved for some reason. I won't proceed in creating a new file")) {
+    return;
+  }
+  NameUntitled();
+  TemplateText.Text = std::string();
+  TemplateText.SelColor = kBlack;
+  mnuViewrefreshLayout_Click();
+  TemplateChanged = 0;
+  Say("New file created");
+}
+
+void TemplateForm::Text1_LostFocus() {
+  const std::string name = Text1.Text;
+  if (name.empty()) {
+    Text1.Text = std::string(kUntitled);
+  } else if (!LowerCase(name).ends_with(".rtf")) {
+    Text1.Text = name + ".rtf";
+  }
+}
+
+void TemplateForm::mnuFileSetAsDefault_Click() {
+  if (!Save()) return;
+  application_.settings.TextFilePath = TemplatePath;
+  application_.settings.SaveOptions();
+  ShowDefault();
+}
+
+void TemplateForm::mnuFileLoadDefault_Click() {
+  if (Command2.Enabled) return Command2_Click();
+  application_.platform.dialogs.Show(
+      {"Have a beer instead",
+       "You don't have a default template to open. You can set one here or in Preferences.",
+       BoxIcon::Information, BoxButtons::Ok});
+}
+
+void TemplateForm::mnuEditTarvikini_Click() {
+  const Trap trap{application_.errors, "TEMPLATE mnuEditTarvikini_Click"};
+  if (!MayOpen(" has changed and isn't saved. Do you want to save it before opening up the ini file?")) {
+    return;
+  }
+  const std::string path = application_.platform.folder + "\\tarvik.ini";
+  if (!application_.platform.files.FileExists(path)) {
+    application_.platform.dialogs.Show(
+        {"Couldn't locate Tarvik.ini",
+         "Hmmm...I couldn't find your ini file - I was looking for it here: " + path, BoxIcon::Exclamation,
+         BoxButtons::Ok});
+    return;
+  }
+  if (LoadText(path, trap)) ShowName(kIniName);
+}
+
+void TemplateForm::mnuFilePrint_Click() {
+  PrintPane(TemplateText, TemplateName, "TEMPLATE mnuFilePrint_Click", application_.platform,
+            application_.errors, application_.mum().StatusBar.Panels(1));
+}
+
+// The clipboard.
+
+void TemplateForm::mnuCopy_Click() {
+  CopySelection(TemplateText, application_.platform.clipboard);
+  UpdateCopyItems();
+}
+
+void TemplateForm::mnuCut_Click() {
+  mnuCopy_Click();
+  mnuDelete_Click();
+}
+
+void TemplateForm::mnuDelete_Click() {
+  if (TemplateText.SelLength > 0) TemplateText.SelText = std::string();
+}
+
+void TemplateForm::mnuPaste_Click() {
+  const Clipping clipping(application_.platform.clipboard);
+  if (clipping.Empty()) return;
+  ApplyFont(TemplateText, application_.settings);
+  clipping.ReplaceSelectionOf(TemplateText);
+}
+
+void TemplateForm::UpdateCopyItems() {
+  const bool selected = TemplateText.SelLength > 0;
+  for (const char* const entry : {"mnuCut", "mnuCopy", "mnuDelete", "mnuPopitUpCut", "mnuPopitUpCopy"}) {
+    menus(entry).Enabled = selected;
+  }
+  const bool text = application_.platform.clipboard.HasText();
+  for (const char* const entry : {"mnuPaste", "mnuPopitUpPaste"}) menus(entry).Enabled = text;
+}
+
+// The pane.
+
+void TemplateForm::TemplateText_KeyDown(Key& key) {
+  if (menus.RunCtrlLetter(key)) key = {};
+}
+
+void TemplateForm::TemplateText_MouseDown(const Mouse& mouse) {
+  if (mouse.button != kRightButton) return;
+  UpdateCopyItems();
+  PopUp("mnuPopShow");
+}
+
+void TemplateForm::ToggleButton1_Click() {
+  ToggleButton1.Turn(!ToggleButton1.On());
+  TemplateText.RightMargin = ToggleButton1.On() ? 0 : kNoWrapping;
+}
+
+void TemplateForm::mnuViewrefreshLayout_Click() {
+  application_.values.TemplateFontChanged = 0;
+  TemplateText.BackColor = application_.settings.BackgroundColour;
+  ApplyFont(TemplateText, application_.settings);
+}
+
+// Colours.
+
+void TemplateForm::EditPreferences(int page) {
+  WaitForPreferences(application_, page);
+  if (application_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
+}
+
+void TemplateForm::mnuEdTmpPrefs_Click() { EditPreferences(Preferences::kApps); }
+void TemplateForm::mnuViewEditColours_Click() { EditPreferences(Preferences::kColours); }
+
+void TemplateForm::mnuTextToBlack_Click() {
+  const std::size_t start = TemplateText.SelStart;
+  if (TemplateText.SelLength == 0U) mnuSelectAll_Click();
+  TemplateText.SelColor = kBlack;
+  TemplateText.SelStart = start;
+}
+
+void TemplateForm::ColourTemplateText() {
+  if (TemplateText.Characters().empty()) {
+    Say("There's no text to highlight.");
+    return;
+  }
+  const std::size_t start = TemplateText.SelStart;
+  TemplateText.SelLength = 0;
+  mnuTextToBlack_Click();
+  Say("Applying colour highlighting to " + Text1.Text.Get() + ". Please wait ...");
+  mnuViewrefreshLayout_Click();
+  MakePasses(TemplateText, JoystickPasses(), application_.settings,
+             {application_.mum().StatusBar.Panels(1), application_.mum().ProgressBar1, false});
+  TemplateText.SelStart = start;
+  TemplateText_Change();
+  Say("Done");
+}
+
+void TemplateForm::mnuOverview_Click() { ShowHelp(application_.platform, topic::kTemplateEditor); }
+
+}  // namespace tarvik

@@ -1,0 +1,96 @@
+#include "tools/viewers/Tips.h"
+
+#include <chrono>
+
+#include "text/CodePage.h"
+#include "text/RichText.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* kVersion = "Version: 1.2a";
+constexpr const char* kDescription =
+    "A workbench for Thrustmaster joysticks, throttles and rudders: it edits and colours the joystick file "
+    "and "
+    "the macro file, writes their statements for you, and tests what the hardware sends.";
+
+/// The text in the code page, whichever of the two ways it was written in.
+std::string InCodePage(std::string text) {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  const bool marked = text.starts_with(kMark);
+  if (marked) text.erase(0, kMark.size());
+  std::string taken = FromUtf8(text);
+  return marked || ToUtf8(taken) == text ? taken : text;
+}
+
+}  // namespace
+
+frmTip::frmTip(Application& application)
+    : Form("frmTip"),
+      application_(application),
+      random_(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count())) {
+  Caption = "Tip of the Day";
+  Label1.Caption = "Did you know...";
+  for (Label* const label : {&Label1, &lblTipText}) label->BackColor = ToggleLabel::kOff;
+  cmdOK.MakeDefault();
+  cmdOK.Click = [this] { cmdOK_Click(); };
+  cmdNextTip.Click = [this] { cmdNextTip_Click(); };
+  Load = [this] { Form_Load(); };
+}
+
+void frmTip::Form_Load() {
+  Topmost = true;
+  chkLoadTipsAtStartup.Value = application_.settings.ShowTips == 1 ? 1 : 0;
+  LoadTips(application_.platform.folder + "\\Tips.txt");
+  DisplayCurrentTip();
+  cmdOK.SetFocus();
+}
+
+void frmTip::LoadTips(const std::string& path) {
+  const auto read = Ignore(application_.platform.files.Read(path));
+  if (!read) return;
+  const std::string text = WithPaneLineBreaks(InCodePage(*read));
+  for (std::size_t from = 0; from < text.size();) {
+    const std::size_t end = std::min(text.find('\r', from), text.size());
+    tips_.push_back(text.substr(from, end - from));
+    from = end + 2;
+  }
+  DoNextTip();
+}
+
+void frmTip::DoNextTip() {
+  if (tips_.empty()) return;
+  CurrentTip = std::uniform_int_distribution<int>(1, static_cast<int>(tips_.size()))(random_);
+  DisplayCurrentTip();
+}
+
+void frmTip::DisplayCurrentTip() {
+  if (CurrentTip > 0) lblTipText.Caption = tips_[static_cast<std::size_t>(CurrentTip - 1)];
+}
+
+void frmTip::cmdOK_Click() {
+  application_.settings.ShowTips = chkLoadTipsAtStartup.Value;
+  const Trap trap{application_.errors, "TIPS cmdOK_Click"};
+  trap(application_.profile.Write("FileLocations", "ShowTips", TextOf(application_.settings.ShowTips.Get())));
+  application_.Unload(*this);
+}
+
+frmAbout::frmAbout(Application& application) : Form("frmAbout"), application_(application) {
+  Caption = "About Tarvik";
+  lblVersion.Caption = kVersion;
+  lblDescription.Caption = kDescription;
+  for (Label* const label : {&lblVersion, &lblDescription}) label->BackColor = ToggleLabel::kOff;
+  cmdOK.MakeDefault();
+  cmdOK.Cancel = true;
+  cmdOK.Click = [this] { application_.Unload(*this); };
+  cmdSysInfo.Click = [this] { cmdSysInfo_Click(); };
+  Load = [this] { Form_Load(); };
+}
+
+void frmAbout::cmdSysInfo_Click() {
+  if (Ignore(application_.platform.desktop.ShowSystemInformation())) return;
+  application_.platform.dialogs.Show(
+      {"Tarvik", "System Information Is Unavailable At This Time", BoxIcon::None, BoxButtons::Ok});
+}
+
+}  // namespace tarvik

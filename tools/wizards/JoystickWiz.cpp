@@ -1,0 +1,98 @@
+#include "tools/wizards/JoystickWiz.h"
+
+#include "app/Editor.h"
+#include "tools/composer/InsertOptions.h"
+
+namespace tarvik {
+namespace {
+
+constexpr Wizard::Traits kTraits = {
+    "JoystickWiz",         "Tarvik Joystick wizard", "JoyWizFrame", "Command1", "Finished", 10,
+    tables::kJoystickPages};
+
+struct Command {
+  const char* toolTip;
+  void (JoystickWiz::*run)();
+};
+
+constexpr Command kCommands[] = {
+    {"Open up a macro file", &JoystickWiz::OpenMacroFile},
+    {"Give me a new joystick file please", &JoystickWiz::CreateFile},
+    {"Save this joystick file please", &JoystickWiz::SaveFile},
+    {"Show me this Composer thing you're so proud of then", &JoystickWiz::ShowComposer},
+    {"Put me in the correct position in the joystick file please.", &JoystickWiz::GoToStart},
+    {"Clear the joystick file and insert a title please", &JoystickWiz::StartOver},
+    {"Show the Composer and its MDEF section please ", &JoystickWiz::ShowMDEF},
+    {"Insert a Port B thangy statement, oh whatever!", &JoystickWiz::InsertPortB},
+    {"Show the Composer and its RATE section please ", &JoystickWiz::ShowRATE},
+    {"Show the Composer with the main Composer tab selected please", &JoystickWiz::ShowComposer},
+};
+
+}  // namespace
+
+JoystickWiz::JoystickWiz(Application& application)
+    : Wizard(kTraits, application),
+      BTNinFrame(*this, "BTNinFrame", std::size(kCommands)),
+      application_(application) {
+  for (int i = 0; i < BTNinFrame.Count(); ++i) {
+    BTNinFrame(i).Caption = std::string(kCommands[i].toolTip);
+    BTNinFrame(i).ToolTipText = std::string(kCommands[i].toolTip);
+    BTNinFrame(i).Click = [this, i] { BTNinFrame_Click(i); };
+  }
+}
+
+void JoystickWiz::BTNinFrame_Click(int index) { (this->*kCommands[index].run)(); }
+
+void JoystickWiz::OpenMacroFile() { editor().MnuFileMacroLoad_Click(); }
+void JoystickWiz::CreateFile() { editor().mnuFileNewJoystick_Click(); }
+void JoystickWiz::SaveFile() { editor().mnuFileSave_Click(); }
+
+void JoystickWiz::GoToStart() {
+  editor().TabStrip1.Select(1);
+  editor().JoystickText.SelStart = 0;
+  editor().Joystick.Caret = 0;
+  editor().JoystickText.SetFocus();
+}
+
+/// One undo brings the text back.
+void JoystickWiz::StartOver() {
+  editor().Joystick.Undo.BeginCommand(application_.settings.UndoMax);
+  editor().JoystickText.Text = std::string();
+  GoToStart();
+  editor().mnuInsertTitle_Click();
+}
+
+InsertOptions& JoystickWiz::ComposerAt(int page) {
+  editor().mnuShowInsertWindow_Click();
+  auto& composer = application_.Tool<InsertOptions>();
+  composer.SSTab1.Tab = page;
+  return composer;
+}
+
+void JoystickWiz::ShowComposer() { ComposerAt(InsertOptions::kComposer); }
+
+void JoystickWiz::ShowMDEF() {
+  InsertOptions& composer = ComposerAt(InsertOptions::kUse);
+  composer.boxes("Text1(4)").SetFocus();
+  composer.Command2(1).MakeDefault();
+}
+
+void JoystickWiz::ShowRATE() {
+  InsertOptions& composer = ComposerAt(InsertOptions::kUse);
+  composer.boxes("Text1(3)").Text = std::string("80");
+  composer.boxes("Text1(3)").SetFocus();
+  composer.Command2(0).MakeDefault();
+}
+
+/// The trigger of the game port on the first trigger, a line end, and the Composer out of the way.
+void JoystickWiz::InsertPortB() {
+  InsertOptions& composer = ComposerAt(InsertOptions::kComposer);
+  composer.ArmPort(true);
+  composer.mnuPort_Click(0);
+  composer.mnuTrig_Click(0);
+  composer.Command7_Click(0);
+  composer.Command6_Click();
+  editor().JoystickText.SetFocus();
+}
+
+}  // namespace tarvik

@@ -1,0 +1,28 @@
+#include "tools/wizards/MacroWizard.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int kMacroPage = 12;
+
+constexpr Wizard::Traits kTraits = {
+    "MacroWizard", "Tarvik Macro file wizard", "MacroWizFrame", "CommandAll", "Finish",
+    kMacroPage,    tables::kMacroPages};
+
+constexpr MacroMaker::Command kOwnCommands[] = {
+    {"New macro file please", &MacroMaker::CreateAndSaveFile},
+    {"Insert a title please", &MacroMaker::InsertTitle},
+    {"Introduce me to Pimlet", &MacroMaker::ShowPimlet},
+};
+
+}  // namespace
+
+MacroWizard::MacroWizard(Application& application)
+    : Wizard(kTraits, application), MacroMaker(*this, application, kOwnCommands) {}
+
+void MacroWizard::Turned() {
+  if (Page != kMacroPage) return Wizard::Turned();
+  PrepareMacro();
+}
+
+}  // namespace tarvik

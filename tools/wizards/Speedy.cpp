@@ -1,0 +1,26 @@
+#include "tools/wizards/Speedy.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int kMacroTab = 2;
+
+constexpr MacroMaker::Command kOwnCommands[] = {
+    {"OK", &MacroMaker::CloseForm},
+    {"New macro file please", &MacroMaker::CreateFile},
+    {"Insert a title please", &MacroMaker::InsertTitle},
+};
+
+}  // namespace
+
+Speedy::Speedy(Application& application)
+    : GuidedForm("Speedy", tables::kSpeedyPages), MacroMaker(*this, application, kOwnCommands) {
+  Caption = "Speedy - for fast macro files";
+  SSTab1.Click = [this] { SSTab1_Click(); };
+}
+
+void Speedy::SSTab1_Click() {
+  if (SSTab1.Tab == kMacroTab) PrepareMacro();
+}
+
+}  // namespace tarvik

@@ -1,0 +1,53 @@
+// What the Edit menu does to the selection of the file on top, by way of the clipboard, and which of its
+// entries can be chosen.
+#pragma once
+
+#include "controls/Menu.h"
+#include "workbench/ColouredInsertion.h"
+#include "workbench/Desk.h"
+
+namespace tarvik {
+
+/// Puts the pane's selection on the clipboard, as text and with its colours.
+void CopySelection(const Pane& pane, Clipboard& clipboard);
+
+/// What the clipboard holds for a pane: coloured text from a program that gives it, else plain text.
+class Clipping {
+ public:
+  explicit Clipping(Clipboard& clipboard);
+  [[nodiscard]] bool Empty() const { return rtf_.empty() && text_.empty(); }
+  void ReplaceSelectionOf(Pane& pane) const;
+
+ private:
+  std::string rtf_;
+  std::string text_;
+};
+
+class EditCommands {
+ public:
+  EditCommands(Desk& desk, ColouredInsertion& insertion, const Menus& menus, Toolbar& toolbar)
+      : desk_(desk), insertion_(insertion), menus_(menus), toolbar_(toolbar) {}
+
+  void Copy();
+  void Cut();
+  /// With its colours when it comes from a program that gives them; one step of undo.
+  void Paste();
+  void Delete();
+  void SelectAll();
+  /// Fits menus and toolbar to the selection of the file on top, and to the clipboard.
+  void UpdateCCPButtons();
+  /// In a text with no selection, puts the caret on a line of its own: a caret within a line goes behind a
+  /// new line end at the line's end.
+  void CheckAtLineBeginning();
+
+ private:
+  [[nodiscard]] bool Refuses() const;
+  void DeleteSelection(Document& document);
+
+  Desk& desk_;
+  ColouredInsertion& insertion_;
+  const Menus& menus_;
+  Toolbar& toolbar_;
+};
+
+}  // namespace tarvik

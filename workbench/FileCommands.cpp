@@ -1,0 +1,488 @@
+#include "workbench/FileCommands.h"
+
+#include <algorithm>
+
+#include "text/CodePage.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* kNoMacroFile = "No macro file analysed";
+constexpr const char* kRefusedTitle = "Hmmm...let me think...";
+constexpr const char* kExitRefusedTitle = "Ooops!";
+constexpr const char* kExitQuestion = " has changed and isn't saved. Do you want to save it before exiting?";
+constexpr const char* kExitRefused = " wasn't saved. Exit program aborted.";
+constexpr const char* kMacroRefused =
+    " wasn't saved, so I won't continue to load up a new macro file just in case you pressed the cancel "
+    "button by "
+    "accident.";
+
+/// Where the life of the two files differs in words.
+struct FileWords {
+  const char* newQuestion;
+  const char* loadQuestion;
+  const char* refused;
+  const char* created;
+  const char* opening;
+  const char* opened;  ///< null: nothing more is said
+  const char* loadTag;
+  const char* saveTag;
+  const char* kind;      ///< in the filters' first description
+  const char* allTypes;  ///< the filters' second entry
+  const char* saveTypes;
+};
+
+constexpr FileWords kJoystickWords = {
+    " has changed and isn't saved. Do you want to save it creating a different joystick file?",
+    " has changed and isn't saved. Do you want to save it before opening a different joystick file?",
+    " wasn't saved, so I won't continue to load up a new joystick file just in case you pressed the cancel "
+    "button by "
+    "accident.",
+    "New joystick file created",
+    "Opening joystick file",
+    nullptr,
+    "ED_mnuFileJoystickLoad_Click",
+    "ED_SaveJoystickText",
+    "Joystick",
+    "|All Joystick file types (*.f22,*.b50,*.adv) |*.f22;*.b50;*.adv |All files (*.*)|*.*",
+    "|F22 joystick file (*.f22) |*.f22|F16 joystick file (*.b50) |*.b50|FCS joystick file (*.adv) |*.adv|All "
+    "files "
+    "(*.*)|*.*",
+};
+
+constexpr FileWords kMacroWords = {
+    " has changed and isn't saved. Do you want to save it before creating a new macro file?",
+    " has changed and isn't saved. Do you want to save it before opening a different macro file?",
+    kMacroRefused,
+    "New macro file created",
+    "Opening file",
+    "Finished",
+    "ED_MnuFileMacroLoad_Click",
+    "ED_SaveMacroText",
+    "Macro",
+    "|All Macro file types (*.m22,*.m50,*.mdf) |*.m22;*.m50;*.mdf |All files (*.*)|*.*",
+    "|F22 macro file(*.m22) |*.m22|F16 macro file(*.m50) |*.m50|FCS macro file(*.mdf) |*.mdf|All files "
+    "(*.*)|*.*",
+};
+
+const FileWords& WordsOf(const Document& document) {
+  return document.IsJoystick() ? kJoystickWords : kMacroWords;
+}
+
+/// The extensions of one hardware's two files.
+struct Pair {
+  std::string_view joystick;
+  std::string_view macro;
+};
+constexpr Pair kPairs[] = {{"f22", "m22"}, {"b50", "m50"}, {"adv", "mdf"}};
+
+/// The file of a path in lower case; nothing where it names none.
+template <class File>
+std::optional<File> FileAt(const std::string& path) {
+  const std::string lower = LowerCase(path);
+  const auto name = FileName::Of(lower);
+  if (!name) return {};
+  return File{lower, *name};
+}
+
+/// The last three characters, whatever they are: how the program tells files apart.
+std::string_view Ending(std::string_view name) {
+  return name.substr(name.size() - std::min<std::size_t>(3, name.size()));
+}
+
+bool EndsAs(std::string_view name, std::string_view Pair::*half) {
+  return std::any_of(std::begin(kPairs), std::end(kPairs),
+                     [&](const Pair& pair) { return pair.*half == Ending(name); });
+}
+
+std::string WithEnding(std::string name, std::string_view ending) {
+  name.resize(name.size() - Ending(name).size());
+  return name + std::string(ending);
+}
+
+std::string Filter(const FileWords& words, const std::string& extension, const char* rest) {
+  return std::string(words.kind) + " file (*." + extension + ")|*." + extension + rest;
+}
+
+std::string PairFilter(const std::string& joystick, const std::string& macro) {
+  return "Thrustmaster files for your hardware |*." + joystick + ";*." + macro +
+         "|Joystick file for your hardware (*." + joystick + ")|*." + joystick +
+         "|Macro file for your hardware (*." + macro + ")|*." + macro +
+         "|All Thrustmaster files |*.f22;*.b50;*.adv;*.m22;*.m50;*.mdf|All files (*.*)|*.*";
+}
+
+constexpr const char* kNoJoystickFile =
+    "I couldn't find a joystick file associated with this macro file. Either this is because it has a "
+    "different name, "
+    "is located in a different directory,or it does not exist.";
+constexpr const char* kNoPartnerMacroFile =
+    "I couldn't find a macro file associated with this joystick file. Either this is because it has a "
+    "different name, "
+    "is located in a different directory, or it does not exist. If you know that this joystick file doesn't "
+    "use a "
+    "macro file, next time, open up the single file on its own. And whilst I've got your attention, how "
+    "'bout "
+    "spending some of that beer money on me for once. I want some RAM .... and a beer ...";
+
+}  // namespace
+
+// New.
+
+void FileCommands::NameUntitled(Document& document) {
+  const std::string extension = (desk_.settings.*document.traits.extension).Get();
+  // The settings file may hold anything, also an extension that is none.
+  document.Name = FileName::From("untitled." + extension).value_or(*FileName::From("untitled."));
+  // No separator between the two: an untitled file is never saved there by hand.
+  document.Path = desk_.settings.ProgramFilesPath.Get() + document.Name.Get().Text();
+  ShowName(document);
+}
+
+void FileCommands::ResetHistory(Document& document) {
+  document.Undo.Clear();
+  desk_.updateUndoRedoMenus();
+}
+
+void FileCommands::ShowName(const Document& document) {
+  desk_.TabOf(document).Caption = document.Name.Get().Text();
+}
+
+bool FileCommands::New(Document& document) {
+  if (!MayReplace(document, Question::New)) return false;
+  const Loading loading(desk_.values);
+  document.Dirty = saved::kNoText;
+  document.text.SetContent({});
+  desk_.ApplyLook(document);
+  NameUntitled(document);
+  if (!document.IsJoystick()) {
+    hooks_.showMacroFrame();
+    lists_.ClearAllForNewMacroFile();
+    desk_.status.Panels(8).Text = kNoMacroFile;
+  }
+  document.Caret = 0;
+  ResetHistory(document);
+  desk_.Select(document);
+  desk_.Say(WordsOf(document).created);
+  desk_.UpdateSavedIcon();
+  desk_.swatch.BackColor = document.text.SelColor;
+  lists_.ClearMacroTicks();
+  return true;
+}
+
+// Questions.
+
+bool FileCommands::AskToSave(Document& document, const SaveQuestion& question) {
+  if (document.Dirty != saved::kModified) return true;
+  return MayGo(desk_.platform.dialogs, document.Name.Get().Text(), question, [&] {
+    desk_.Select(document);
+    Save(document);
+    return document.Dirty != saved::kModified;
+  });
+}
+
+bool FileCommands::MayReplace(Document& document, Question question) {
+  const FileWords& words = WordsOf(document);
+  const char* const text = question == Question::New ? words.newQuestion : words.loadQuestion;
+  // Opening a pair refuses in the macro file's words for both files.
+  const char* const refused = question == Question::OpenPair ? kMacroRefused : words.refused;
+  return AskToSave(document, {text, kRefusedTitle, refused});
+}
+
+bool FileCommands::MayExit() {
+  const SaveQuestion question{kExitQuestion, kExitRefusedTitle, kExitRefused};
+  return AskToSave(desk_.macro, question) && AskToSave(desk_.joystick, question);
+}
+
+// Open.
+
+void FileCommands::OpenWithoutDialog(const std::string& path) {
+  toOpen_.path = path;
+  if (path.find('\\') == std::string::npos) return;
+  if (const auto name = FileName::Of(path)) toOpen_.name = *name;
+}
+
+FileCommands::File FileCommands::GivenFile() const {
+  return {LowerCase(toOpen_.path), FileName::From(LowerCase(toOpen_.name.Text())).value_or(FileName())};
+}
+
+std::optional<FileCommands::File> FileCommands::ChooseFile(const FileRequest& request) {
+  Ignore(desk_.platform.files.ChangeDrive(request.folder));
+  const auto chosen = desk_.platform.dialogs.AskForFile(request);
+  if (!chosen) return {};
+  lastFileName_ = *chosen;
+  return FileAt<File>(*chosen);
+}
+
+/// A file that cannot be read is told, and the document in its place stays.
+bool FileCommands::CanRead(const std::string& path, const Trap& trap) {
+  if (trap(desk_.platform.files.Read(path))) return true;
+  desk_.Say(path + " can't be opened");
+  return false;
+}
+
+void FileCommands::TakeFile(Document& document, const File& file) {
+  document.Path = file.path;
+  document.Name = file.name;
+  ShowName(document);
+  hooks_.remember(document);
+}
+
+/// The coloured copy when it is true to the file, else the file itself, coloured. A file that went bad since
+/// it was looked at gives an untitled document: the former text must not be saved in its place.
+void FileCommands::FillPane(Document& document, const Trap& trap) {
+  if (!copies_.Load(document)) {
+    if (!trap(document.text.LoadFile(document.Path.Get()))) {
+      document.text.SetContent({});
+      NameUntitled(document);
+    }
+    if (desk_.settings.ApplyColoursOnFileOpen == 1) highlighter_.Apply(document);
+  }
+  document.Caret = 0;
+  document.text.SelStart = 0;
+  document.Dirty = saved::kSaved;
+  ResetHistory(document);
+}
+
+void FileCommands::Load(Document& document) {
+  if (!MayReplace(document, Question::Load)) return;
+  const FileWords& words = WordsOf(document);
+  const Trap trap{desk_.errors, words.loadTag};
+  File file = GivenFile();
+  if (file.path.empty()) {
+    desk_.Say(words.opening);
+    const std::string extension = (desk_.settings.*document.traits.extension).Get();
+    const auto chosen = ChooseFile({FileDialogKind::Open,
+                                    {},
+                                    Filter(words, extension, words.allTypes),
+                                    desk_.settings.ProgramFilesPath,
+                                    {},
+                                    {}});
+    if (!chosen) return;
+    file = *chosen;
+  }
+  if (!CanRead(file.path, trap)) return;
+  const Loading loading(desk_.values);
+  if (document.IsJoystick()) {
+    TakeFile(document, file);
+    FillPane(document, trap);
+    lists_.ClearMacroTicks();
+  } else {
+    OpenMacro(file, trap);
+  }
+  desk_.Select(document);
+  desk_.UpdateSavedIcon();
+  desk_.updateUndoRedoMenus();
+  if (words.opened) desk_.Say(words.opened);
+}
+
+void FileCommands::AnalyseMacroFile() {
+  const Loading loading(desk_.values);
+  hooks_.showMacroFrame();
+  lists_.ClearAllForNewMacroFile();
+  desk_.status.Panels(8).Text = desk_.macro.Name.Get().Text();
+  lists_.GetEachLineFromMacroFile();
+  lists_.ExtractMacrosAndTitles();
+}
+
+void FileCommands::OpenMacro(const File& file, const Trap& trap) {
+  TakeFile(desk_.macro, file);
+  AnalyseMacroFile();
+  desk_.Say("Finished opening up macro file and extracting macros from it");
+  FillPane(desk_.macro, trap);
+}
+
+void FileCommands::OpenPair() {
+  const Trap trap{desk_.errors, "ED_mnuFileOpen_Click"};
+  if (!MayReplace(desk_.joystick, Question::OpenPair) || !MayReplace(desk_.macro, Question::OpenPair)) return;
+  desk_.Say("Opening joystick and associated macro file together ....");
+  File file = GivenFile();
+  if (file.path.empty()) {
+    const auto chosen =
+        ChooseFile({FileDialogKind::Open,
+                    "Select the joystick file or the macro file - I'll open both of them",
+                    PairFilter(desk_.settings.JoystickExtension, desk_.settings.MacroExtension),
+                    desk_.settings.ProgramFilesPath,
+                    {},
+                    {}});
+    if (!chosen) return;
+    file = *chosen;
+  }
+  const Loading loading(desk_.values);
+  if (EndsAs(file.name.Text(), &Pair::macro)) {
+    if (CanRead(file.path, trap)) OpenMacroThenJoystick(file, trap);
+  } else if (EndsAs(file.name.Text(), &Pair::joystick)) {
+    if (CanRead(file.path, trap)) OpenJoystickThenMacro(file, trap);
+  } else {
+    TellUnrecognised();
+  }
+}
+
+void FileCommands::OpenPairAmong(const std::vector<std::string>& paths) {
+  if (paths.empty()) return;
+  const auto ofAPair = std::find_if(paths.begin(), paths.end(), [](const std::string& path) {
+    const std::string name = LowerCase(path);
+    return EndsAs(name, &Pair::joystick) || EndsAs(name, &Pair::macro);
+  });
+  OpenWithoutDialog(ofAPair == paths.end() ? paths.front() : *ofAPair);
+  OpenPair();
+  OpenWithDialogs();
+}
+
+/// A macro file finds its joystick file by the same name beside it.
+void FileCommands::OpenMacroThenJoystick(const File& file, const Trap& trap) {
+  OpenMacro(file, trap);
+  desk_.Select(desk_.macro);
+  desk_.UpdateSavedIcon();
+  const auto pair = std::find_if(std::begin(kPairs), std::end(kPairs),
+                                 [&](const Pair& each) { return each.macro == Ending(file.name.Text()); });
+  const auto partner = FileAt<File>(WithEnding(file.path, pair->joystick));
+  if (!partner || !desk_.platform.files.FileExists(partner->path)) {
+    desk_.Say("Joystick file not opened");
+    desk_.platform.dialogs.Show(
+        {"Couldn't find associated joystick file", kNoJoystickFile, BoxIcon::Information, BoxButtons::Ok});
+    return;
+  }
+  if (!CanRead(partner->path, trap)) return;
+  TakeFile(desk_.joystick, *partner);
+  FillPane(desk_.joystick, trap);
+  FinishPair();
+}
+
+/// The word after the last "MDEF" in the joystick file, also one in a comment, names the macro file beside
+/// it, and nothing beyond its folder: a word that is no name of a file names none. Without the word the path
+/// ends in a point, and such a file does not normally exist.
+std::optional<FileCommands::File> FileCommands::MacroFileNamedIn(Document& joystick) const {
+  Pane& pane = joystick.text;
+  bool named = false;
+  joystick.Caret = 0;
+  while (pane.Find("MDEF", joystick.Caret, pane.Characters().size(), find::kWholeWord)) {
+    named = true;
+    joystick.Caret = pane.Selection().End();
+  }
+  const std::string path = joystick.Path;
+  if (!named) return FileAt<File>(WithEnding(path, ""));
+  const auto pair = std::find_if(std::begin(kPairs), std::end(kPairs), [&](const Pair& each) {
+    return each.joystick == Ending(joystick.Name.Get().Text());
+  });
+  joystick.Caret = joystick.Caret + 1;
+  pane.SelStart = joystick.Caret;
+  pane.Span(" \r\n");
+  const auto macro = FileName::From(LowerCase(pane.SelText.Get()) + "." + std::string(pair->macro));
+  if (!macro) return {};
+  return File{Folder(path.substr(0, path.rfind('\\') + 1)) / *macro, *macro};
+}
+
+void FileCommands::OpenJoystickThenMacro(const File& file, const Trap& trap) {
+  TakeFile(desk_.joystick, file);
+  FillPane(desk_.joystick, trap);
+  desk_.Select(desk_.joystick);
+  desk_.UpdateSavedIcon();
+  desk_.Say("Looking for associated macro file");
+  const auto partner = MacroFileNamedIn(desk_.joystick);
+  if (!partner || !desk_.platform.files.FileExists(partner->path)) {
+    desk_.Say("Macro file not opened");
+    desk_.platform.dialogs.Show(
+        {"Couldn't find associated macro file", kNoPartnerMacroFile, BoxIcon::Information, BoxButtons::Ok});
+    lists_.ClearMacroTicks();
+    return;
+  }
+  if (!CanRead(partner->path, trap)) return;
+  OpenMacro(*partner, trap);
+  FinishPair();
+}
+
+void FileCommands::FinishPair() {
+  for (Document* document : {&desk_.macro, &desk_.joystick}) {
+    document->Caret = 0;
+    document->text.SelStart = 0;
+  }
+  desk_.Select(desk_.joystick);
+  desk_.UpdateSavedIcon();
+  desk_.updateUndoRedoMenus();
+  desk_.Say("Done");
+  if (desk_.settings.CheckIdentifyOK == 1) {
+    lists_.IdentifyMacrosUsed();
+  } else {
+    lists_.ClearMacroTicks();
+  }
+}
+
+void FileCommands::TellUnrecognised() {
+  desk_.Say("Your file extensions may need adjusting in Preferences");
+  desk_.platform.dialogs.Show({"Tarvik",
+                               "The file you opened isn't recognised as either a ." +
+                                   desk_.settings.JoystickExtension.Get() + " or a ." +
+                                   desk_.settings.MacroExtension.Get() +
+                                   " file. This is probably because you need to set the preferences to "
+                                   "display what the default extensions you "
+                                   "will be using for your hardware. I'll take you there now. And don't "
+                                   "start on me ... I'm just the computer "
+                                   "... not the programmer.",
+                               BoxIcon::None, BoxButtons::Ok});
+  hooks_.showPreferences();
+  desk_.Say("Files not opened");
+}
+
+// Save.
+
+void FileCommands::Save(Document& document) {
+  if (document.IsUntitled()) {
+    SaveAs(document);
+  } else {
+    SaveText(document);
+  }
+}
+
+void FileCommands::SaveAs(Document& document) {
+  const FileWords& words = WordsOf(document);
+  const Document& other = document.IsJoystick() ? desk_.macro : desk_.joystick;
+  const std::string extension = (desk_.settings.*document.traits.extension).Get();
+  // The dialog may remember the other file: the pair must not share name and extension.
+  std::string suggestion = lastFileName_;
+  if (!suggestion.empty() && Ending(suggestion) == (desk_.settings.*other.traits.extension).Get()) {
+    suggestion = WithEnding(suggestion, extension);
+  }
+  const auto chosen = ChooseFile({FileDialogKind::Save,
+                                  {},
+                                  Filter(words, extension, words.saveTypes),
+                                  desk_.settings.ProgramFilesPath,
+                                  suggestion,
+                                  extension});
+  if (!chosen) return;
+  document.Path = chosen->path;
+  document.Name = chosen->name;
+  SaveText(document);
+  // Only now, so that the backup has gone under the caption before.
+  ShowName(document);
+}
+
+void FileCommands::SaveText(Document& document) {
+  WriteToDisk(document, WordsOf(document).saveTag);
+  if (desk_.settings.UndoClearOnSave == 1) ResetHistory(document);
+}
+
+void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
+  const Trap trap{desk_.errors, tag};
+  const Scratch scratch(desk_.scratch);
+  scratch->SetContent(RichText(std::string(document.text.Characters())));
+  trap(scratch->SaveFile(document.Path.Get(), FileFormat::Text));
+  const auto shown = FileName::From(desk_.TabOf(document).Caption.Get());
+  if (desk_.settings.CreateBackup == 1 && shown) {
+    trap(scratch->SaveFile(desk_.values.BackupDir.Get() / *shown, FileFormat::Text));
+  }
+  hooks_.remember(document);
+  desk_.Say(document.Path.Get() + " saved successfully.");
+  document.Dirty = saved::kSaved;
+  desk_.UpdateSavedIcon();
+  copies_.Save(document);
+}
+
+void FileCommands::SaveBoth() {
+  Document& before = desk_.Active();
+  for (Document* document : {&desk_.joystick, &desk_.macro}) {
+    desk_.Select(*document);
+    Save(*document);
+  }
+  desk_.Select(before);
+}
+
+}  // namespace tarvik

@@ -1,0 +1,88 @@
+// The life of the two files: new, open one or a pair, save, save as, and the questions before a document
+// goes.
+#pragma once
+
+#include "workbench/Highlighter.h"
+#include "workbench/MacroLists.h"
+#include "workbench/SaveQuestion.h"
+
+namespace tarvik {
+
+/// What the editor does for them.
+struct FileHooks {
+  std::function<void()> showMacroFrame;
+  std::function<void()> showPreferences;
+  std::function<void(const Document&)> remember;  ///< after a file was opened or saved
+};
+
+class FileCommands {
+ public:
+  FileCommands(Desk& desk, ColouredCopies& copies, Highlighter& highlighter, MacroLists& lists,
+               FileHooks hooks)
+      : desk_(desk), copies_(copies), highlighter_(highlighter), lists_(lists), hooks_(std::move(hooks)) {}
+
+  /// Name, path and tab of a file that has none yet.
+  void NameUntitled(Document& document);
+  /// Asks about unsaved work first. False: the user keeps the document.
+  bool New(Document& document);
+  void Load(Document& document);
+  /// A joystick file together with its macro file, from either of the two.
+  void OpenPair();
+  /// The same without a dialog, from the first of these files that belongs to a pair, else from the first
+  /// one.
+  void OpenPairAmong(const std::vector<std::string>& paths);
+  void Save(Document& document);
+  void SaveAs(Document& document);
+  void SaveBoth();
+  /// At the end of the program, the macro file first. False: the program goes on.
+  bool MayExit();
+  /// Reads the macro file and fills the macro lists.
+  void AnalyseMacroFile();
+
+  /// The next load or open takes this path and shows no dialog. A path without a folder leaves the name of
+  /// the file opened so before.
+  void OpenWithoutDialog(const std::string& path);
+  void OpenWithDialogs() { toOpen_.path.clear(); }
+  [[nodiscard]] const std::string& NameToOpen() const { return toOpen_.name.Text(); }
+
+  /// Empties the undo history: what the pane holds now is all there is.
+  void ResetHistory(Document& document);
+  /// Writes file, backup and coloured copy, wherever the document's path is, and shows it as saved. Failures
+  /// are recorded under `tag`.
+  void WriteToDisk(Document& document, std::string_view tag);
+
+ private:
+  enum class Question { New, Load, OpenPair };
+  struct File {
+    std::string path;
+    FileName name;
+  };
+
+  bool MayReplace(Document& document, Question question);
+  bool AskToSave(Document& document, const SaveQuestion& question);
+  /// What the user picks, in lower case; nothing when he cancels.
+  std::optional<File> ChooseFile(const FileRequest& request);
+  /// What is to be opened without a dialog, in lower case; its path is empty when there is to be one.
+  [[nodiscard]] File GivenFile() const;
+  void ShowName(const Document& document);
+  bool CanRead(const std::string& path, const Trap& trap);
+  void TakeFile(Document& document, const File& file);
+  void FillPane(Document& document, const Trap& trap);
+  void SaveText(Document& document);
+  void OpenMacroThenJoystick(const File& file, const Trap& trap);
+  void OpenJoystickThenMacro(const File& file, const Trap& trap);
+  void OpenMacro(const File& file, const Trap& trap);
+  [[nodiscard]] std::optional<File> MacroFileNamedIn(Document& joystick) const;
+  void TellUnrecognised();
+  void FinishPair();
+
+  Desk& desk_;
+  ColouredCopies& copies_;
+  Highlighter& highlighter_;
+  MacroLists& lists_;
+  FileHooks hooks_;
+  File toOpen_;               // without a dialog, when it has a path
+  std::string lastFileName_;  // what the file dialog shows next
+};
+
+}  // namespace tarvik

@@ -1,0 +1,43 @@
+// Colours a whole document by statement type, and takes its colours away again.
+#pragma once
+
+#include <array>
+
+#include "language/Painting.h"
+#include "workbench/ColouredCopies.h"
+
+namespace tarvik {
+
+/// The colours of the classes, as they are set.
+[[nodiscard]] std::array<Colour, kColourClasses> ColoursOf(const Settings& settings);
+
+/// Where passes tell how far they are.
+struct PassesShown {
+  Panel& panel;
+  ProgressBar& bar;
+  bool countsCommands;  ///< over commands the bar counts the passes; else it follows the hits there too
+};
+
+/// Makes the passes over a pane's text, one after another, and gives it their colours.
+void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settings, const PassesShown& shown);
+
+class Highlighter {
+ public:
+  Highlighter(Desk& desk, ColouredCopies& copies) : desk_(desk), copies_(copies) {}
+
+  /// Removes all colour and makes all passes of the document's language, with their progress on show. Never
+  /// marks a document as changed and is no undo step: it changes how the snapshot on show looks.
+  void Apply(Document& document);
+  /// Blackens the whole document.
+  void Remove(Document& document);
+  /// Blackens the selection, or gives it another colour, in the document of the selected tab.
+  void ColourSelection(Colour colour);
+
+ private:
+  void ApplyLookOfJoystick(const Document& coloured);
+
+  Desk& desk_;
+  ColouredCopies& copies_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,225 @@
+#include "workbench/MacroLists.h"
+
+#include <algorithm>
+
+#include "text/CodePage.h"
+
+namespace tarvik {
+namespace {
+
+constexpr const char* kAll = "All";
+
+constexpr const char* kNothingToAnalyseTitle = "You're kidding me...right?!";
+constexpr const char* kNothingToAnalyse =
+    "Oh come off it ... what's there to analyse? You think I'm some kind of slave that you can just push "
+    "around ... "
+    "well no .... computers have feelings you know ... you keep turning me on, and then turning me off ... "
+    "how would "
+    "you like it? !!! Next time I'm going to analyse you instead of these damn files ...";
+
+struct Starter {
+  std::string_view text;
+  int options;
+};
+
+// The statements that end the definition of a button before them.
+constexpr Starter kDefinitionStarters[] = {
+    {"BTN", find::kWholeWord},
+    {"RNG", find::kWholeWord | find::kMatchCase},
+    {"ANT", find::kWholeWord},
+    {"MDEF", find::kWholeWord},
+    {"JSX", find::kWholeWord},
+    {"JSY", find::kWholeWord},
+    {"PORTB", 0},
+    {"USE", find::kWholeWord},
+    {"RATE", find::kWholeWord},
+    {"SWAPTG", find::kWholeWord},
+    {"THR", find::kWholeWord},
+    {"RDDR", find::kWholeWord},
+};
+
+}  // namespace
+
+void MacroLists::ClearAllForNewMacroFile() {
+  headings_.clear();
+  categories_.Clear();
+  lists_(0).Clear();
+  for (int i = lists_.Count() - 1; i > 0; --i) lists_.Unload(i);
+  lists_(0).Visible = true;
+  desk_.values.SelectedCategoryList = 0;
+  PopupListIndex = 0;  // the list it was opened on may be gone
+  desk_.values.MacroListChanged = 1;
+}
+
+void MacroLists::GetEachLineFromMacroFile() {
+  const Trap trap{desk_.errors, "ED_GetEachLineFromMacroFile"};
+  const std::string path = desk_.macro.Path;
+  if (!desk_.platform.files.FileExists(path)) return;
+  desk_.Say("Opening " + desk_.macro.Name.Get().Text() + " file for analysis ");
+  records_.clear();
+  if (const auto content = trap(desk_.platform.files.Read(path))) records_ = ReadMacroRecords(*content);
+}
+
+void MacroLists::ExtractMacrosAndTitles() {
+  desk_.Say("Analysing " + desk_.macro.Name.Get().Text() + " for macros and sub-headings. Please wait ...");
+  Fill(AnalyseMacros(records_));
+  desk_.Say("Done");
+  ShowAll();
+  desk_.status.Panels(8).ToolTipText = "Contains " + TextOf(lists_(0).ListCount()) + " macros and " +
+                                       TextOf(headings_.size() - 1) + " macro headings";
+}
+
+void MacroLists::Fill(MacroAnalysis analysis) {
+  headings_ = {kAll};
+  lists_(0).Fill(std::move(analysis.macros));
+  for (MacroCategory& category : analysis.categories) {
+    headings_.push_back(std::move(category.heading));
+    ListBox& list = lists_.Load(lists_.Count());
+    list.Fill(std::move(category.macros));
+  }
+  categories_.Fill(headings_);
+}
+
+/// Selects "All". A list may bear that name too: each entry of the name is selected in turn.
+void MacroLists::ShowAll() {
+  for (int item = 0; item < categories_.ListCount(); ++item) {
+    if (categories_.List()[static_cast<std::size_t>(item)] != kAll) continue;
+    desk_.values.SelectedCategoryList = item;
+    categories_.Select(item);
+    lists_(item).ToFront();
+  }
+}
+
+void MacroLists::ShowMacroKeys() {
+  const std::string& name = desk_.values.SelectedMacro;
+  const auto record = std::find_if(records_.begin(), records_.end(), [&name](const std::string& line) {
+    return line.find(name) != std::string::npos && line.find('=') != std::string::npos;
+  });
+  if (record == records_.end()) return;
+  desk_.Say(*record);
+  if (!desk_.macro.text.Visible) return;
+  desk_.macro.text.Find(*record, 0, desk_.macro.text.Characters().size());
+  desk_.macro.SelLength = desk_.macro.text.SelLength;
+}
+
+void MacroLists::ShowCategory(const ComboBox& categories, const ControlArray<ListBox>& lists) {
+  const std::string wanted = LowerCase(categories.Text());
+  const int count = std::min(lists.Count(), static_cast<int>(headings_.size()));
+  for (int i = 0; i < count; ++i) {
+    ListBox& list = lists(i);
+    const bool chosen = LowerCase(headings_[static_cast<std::size_t>(i)]) == wanted;
+    list.Visible = chosen;
+    if (!chosen) continue;
+    desk_.values.SelectedCategoryList = i;
+    list.ToFront();
+  }
+  if (desk_.values.SelectedCategoryList >= lists.Count()) return;
+  ListBox& front = lists(desk_.values.SelectedCategoryList);
+  if (front.ListCount() == 0) return;
+  front.ListIndex = 0;
+  TakeFrom(front);
+  ShowMacroKeys();
+}
+
+void MacroLists::TakeUnder(const ListBox& list, const Mouse& mouse) {
+  constexpr int kLeft = 1;
+  if (list.ListCount() == 0 || mouse.button == 0) return;
+  TakeFrom(list);
+  ShowMacroKeys();
+  if (mouse.button == kLeft && mouse.shift == shift::kShift) FindMacroInJF();
+}
+
+void MacroLists::IdentifyMacrosUsed() {
+  const std::string_view text = desk_.joystick.text.Characters();
+  if (text.find('e') == std::string_view::npos || desk_.macro.text.Characters().empty()) {
+    desk_.platform.dialogs.Show(
+        {kNothingToAnalyseTitle, kNothingToAnalyse, BoxIcon::Exclamation, BoxButtons::Ok});
+    return;
+  }
+  desk_.Say("Analysing the macros you've already assigned in the " + desk_.joystick.Name.Get().Text() +
+            ". Please wait ...");
+  desk_.mousePointer = pointer::kHourglass;
+  TickNamesUsed(text);
+  ShowAll();
+  desk_.values.MacroListChanged = 1;
+  desk_.Say("Finished analysing the macros assigned in your joystick file...phew!...fancy a beer?");
+  desk_.mousePointer = pointer::kDefault;
+}
+
+/// The names of all lists are looked up at once: the text is read through once for all of them.
+void MacroLists::TickNamesUsed(std::string_view text) {
+  std::vector<std::string> names;
+  for (int i = 0; i < lists_.Count(); ++i) {
+    names.insert(names.end(), lists_(i).List().begin(), lists_(i).List().end());
+  }
+  const std::vector<bool> used = NamesUsed(text, names);
+  auto first = used.begin();
+  for (int i = 0; i < lists_.Count(); ++i) {
+    const auto last = first + lists_(i).ListCount();
+    lists_(i).Tick(std::vector<bool>(first, last));
+    first = last;
+  }
+}
+
+void MacroLists::ClearMacroTicks() {
+  for (int i = 0; i < lists_.Count(); ++i) lists_(i).Tick({});
+}
+
+void MacroLists::FindMacroInJF() {
+  Document& document = desk_.joystick;
+  desk_.Select(document);
+  document.text.Find(desk_.values.SelectedMacro.Get(), 0, document.text.Characters().size(),
+                     find::kWholeWord);
+  document.SelLength = document.text.SelLength;
+  document.Caret = document.text.SelStart;
+}
+
+void MacroLists::ExtractButtonDefinition(const std::string& name) {
+  Document& document = desk_.joystick;
+  Pane& pane = document.text;
+  const std::size_t length = pane.Characters().size();
+  if (length == 0) return;
+  desk_.Select(document);
+  const std::size_t keptCaret = document.Caret;
+  document.Caret = 0;
+  const auto hit = pane.Find(name, 0, length, find::kWholeWord);
+  if (!hit) {
+    pane.SelStart = keptCaret;
+    document.Caret = keptCaret;
+    desk_.Active().text.SetFocus();
+    return;
+  }
+  const std::size_t body = *hit + name.size();
+  std::size_t end = length;
+  for (const Starter& starter : kDefinitionStarters) {
+    const auto next = pane.Find(starter.text, body, length, starter.options | find::kKeepSelection);
+    // The first character of the next statement is taken in as well.
+    if (next) end = std::min(end, *next + 1);
+  }
+  // Four characters before the name belong to it when it is a port.
+  const std::size_t start = name.starts_with("PortB") ? *hit - std::min<std::size_t>(*hit, 4) : *hit;
+  pane.Select({start, end - *hit});
+  document.SelLength = pane.SelLength;
+  desk_.Active().text.SetFocus();
+}
+
+void MacroLists::Insert(const ListBox& list) {
+  if (list.ListIndex < 0) return;  // no macro is in hand
+  Document& document = desk_.joystick;
+  Pane& pane = document.text;
+  if (!pane.Visible) desk_.Select(document);
+  TakeFrom(list);
+  const std::string& name = desk_.values.SelectedMacro;
+  const std::size_t caret = std::min<std::size_t>(document.Caret, pane.Characters().size());
+  const bool joinsText = caret != 0 && pane.Characters()[caret - 1] != ' ';
+  document.Undo.BeginCommand(desk_.settings.UndoMax);
+  pane.SelStart = caret;
+  pane.SelColor = kBlack;
+  pane.SelText = (joinsText ? " " : "") + name + " ";
+  // With a blank before the name this is one short of its end.
+  document.Caret = caret + name.size() + 1;
+  pane.SelStart = document.Caret;
+  pane.SetFocus();
+}
+
+}  // namespace tarvik

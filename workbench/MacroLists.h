@@ -1,0 +1,60 @@
+// The macro frame's lists: filled from the macro file, ticked by use in the joystick file, and the ways from
+// a macro in a list to its keys, its definition and its use.
+#pragma once
+
+#include "language/MacroAnalysis.h"
+#include "workbench/Desk.h"
+
+namespace tarvik {
+
+class MacroLists {
+ public:
+  MacroLists(Desk& desk, ComboBox& categories, ControlArray<ListBox>& lists)
+      : desk_(desk), categories_(categories), lists_(lists) {}
+
+  /// Member of the "List1" array on which the pop-up menu was opened.
+  int PopupListIndex = 0;
+
+  // Analysis, in the order of its calls.
+  void ClearAllForNewMacroFile();
+  /// Reads the macro file from disk. A missing file leaves the records of the one before.
+  void GetEachLineFromMacroFile();
+  void ExtractMacrosAndTitles();
+
+  /// Shows the definition of SelectedMacro in status panel 1, and selects it in the macro file when that is
+  /// on show.
+  void ShowMacroKeys();
+  /// "All", then the headings of the macro file in its order; each has the list of its index.
+  [[nodiscard]] const std::vector<std::string>& MacroHeadings() const { return headings_; }
+  /// Brings the list of the selected category to the front and takes its first macro; `lists` are the
+  /// editor's or a tool's copies of them.
+  void ShowCategory() { ShowCategory(categories_, lists_); }
+  void ShowCategory(const ComboBox& categories, const ControlArray<ListBox>& lists);
+  /// Takes SelectedMacro from a list.
+  void TakeFrom(const ListBox& list) { desk_.values.SelectedMacro = list.Current(); }
+  /// Takes the macro that the mouse went down on or is dragged over, and with Shift goes to its first use.
+  void TakeUnder(const ListBox& list, const Mouse& mouse);
+
+  void IdentifyMacrosUsed();
+  void ClearMacroTicks();
+  /// Selects the first use of SelectedMacro in the joystick file.
+  void FindMacroInJF();
+  /// Selects the definition of a button in the joystick file, up to the next statement that begins another
+  /// one.
+  void ExtractButtonDefinition(const std::string& name);
+  /// Inserts the current macro of a list at the joystick file's remembered caret.
+  void Insert(const ListBox& list);
+
+ private:
+  void TickNamesUsed(std::string_view text);
+  void Fill(MacroAnalysis analysis);
+  void ShowAll();
+
+  Desk& desk_;
+  ComboBox& categories_;
+  ControlArray<ListBox>& lists_;
+  std::vector<std::string> records_;  // the macro file's, in order
+  std::vector<std::string> headings_;
+};
+
+}  // namespace tarvik

@@ -1,0 +1,189 @@
+#include "workbench/Settings.h"
+
+#include <charconv>
+#include <variant>
+
+namespace tarvik {
+namespace {
+
+constexpr const char* kFileLocations = "FileLocations";
+constexpr const char* kMiscellaneous = "Miscellaneous";
+constexpr const char* kApps = "Apps";
+constexpr const char* kColours = "Colours";
+
+// Strings come through buffers of these sizes, and longer ones are cut to one character less.
+constexpr std::size_t kOptionBuffer = 100;
+constexpr std::size_t kColourBuffer = 50;
+constexpr std::size_t kFontSizeBuffer = 10;
+
+enum class Saved { Yes, No };
+
+struct Option {
+  const char* section;
+  std::variant<Property<int> Settings::*, Property<std::string> Settings::*> member;
+  std::string_view fallback;
+  Saved saved = Saved::Yes;
+};
+
+// In the order in which they are written.
+constexpr Option kOptions[] = {
+    {kFileLocations, &Settings::B50LoadPath, ""},
+    {kFileLocations, &Settings::ProgramFilesPath, ""},
+    {kFileLocations, &Settings::JoystickExtension, "b50"},
+    {kFileLocations, &Settings::MacroExtension, "m50"},
+    {kFileLocations, &Settings::JoyName, "0"},
+    {kFileLocations, &Settings::ThrottleName, "0"},
+    {kFileLocations, &Settings::RudderName, "0"},
+    {kFileLocations, &Settings::ShowTips, "1", Saved::No},
+    {kFileLocations, &Settings::FirstTimeUsed, "1"},
+    {kFileLocations, &Settings::CandCCPath, ""},
+    {kMiscellaneous, &Settings::AutoSaveEnabled, "0"},
+    {kMiscellaneous, &Settings::AutoSaveTime, "10"},
+    {kMiscellaneous, &Settings::CreateBackup, "1"},
+    {kMiscellaneous, &Settings::DefaultDLYvalue, "60"},
+    {kMiscellaneous, &Settings::ComposerImages, "0"},
+    {kMiscellaneous, &Settings::AllowAggressiveFocus, "0"},
+    {kMiscellaneous, &Settings::UndoMax, "50"},
+    {kMiscellaneous, &Settings::UndoClearOnSave, "0"},
+    {kMiscellaneous, &Settings::HighlightLineOnUndo, "0"},
+    {kMiscellaneous, &Settings::ValidUser, "User unknown"},
+    {kMiscellaneous, &Settings::CheckIdentifyOK, "1"},
+    {kMiscellaneous, &Settings::GradientEffect, "1"},
+    {kMiscellaneous, &Settings::AddCRtoREM, "1"},
+    {kMiscellaneous, &Settings::FlatToolbar, "1"},
+    {kMiscellaneous, &Settings::CanWrapToolbar, "0"},
+    {kMiscellaneous, &Settings::OpenBothOnToolbar, "1"},
+    {kMiscellaneous, &Settings::SaveBothOnToolbar, "0"},
+    {kMiscellaneous, &Settings::CompOnTop, "1"},
+    {kMiscellaneous, &Settings::CompTabsAddCr, "1"},
+    {kMiscellaneous, &Settings::PimletOnTop, "1"},
+    {kMiscellaneous, &Settings::HighlightDefinitions, "0"},
+    {kMiscellaneous, &Settings::MacroFrameWidth, "185"},
+    {kApps, &Settings::ImageFilePath, ""},
+    {kApps, &Settings::TextFilePath, ""},
+    {kColours, &Settings::ApplyColoursOnFileOpen, "1"},
+};
+
+struct ColourOption {
+  Property<Colour> Settings::*member;
+  int factory;
+};
+
+// The default for a file without the key differs from the factory scheme on purpose.
+constexpr std::string_view kColourFallback = "16744448";
+constexpr ColourOption kColourOptions[] = {
+    {&Settings::BackgroundColour, 14285565},
+    {&Settings::BTNColour, 16711680},
+    {&Settings::SlashColour, 255},
+    {&Settings::RAWColour, 32768},
+    {&Settings::MiscellaneousColour, 12615680},
+    {&Settings::MacroBackgroundColour, 16645091},
+    {&Settings::RemStatements, 8421504},
+};
+
+constexpr const char* kFontFallback = "Arial";
+constexpr std::string_view kFontSizeFallback = "10";
+constexpr int kFactoryFontSize = 8;
+
+int Number(std::string_view text) {
+  int number = 0;
+  std::from_chars(text.data(), text.data() + text.size(), number);
+  return number;
+}
+
+std::string Decimal(int value) { return TextOf(value); }
+const std::string& Decimal(const std::string& value) { return value; }
+std::string Decimal(Colour value) { return TextOf(static_cast<int>(value)); }
+
+}  // namespace
+
+Outcome<int> ToLong(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return Failure{error::kTypeMismatch, "Type mismatch", 0};
+  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
+  int value = 0;
+  const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (status == std::errc::result_out_of_range) return Failure{error::kOverflow, "Overflow", 0};
+  if (status != std::errc{} || end != text.data() + text.size()) {
+    return Failure{error::kTypeMismatch, "Type mismatch", 0};
+  }
+  return value;
+}
+
+int To16Bits(int value) { return static_cast<std::int16_t>(value); }
+
+void Settings::GetOptions() {
+  const Profile profile = file_.Read();
+  for (const Option& option : kOptions) {
+    if (const auto* number = std::get_if<Property<int> Settings::*>(&option.member)) {
+      Property<int>& property = this->**number;
+      property = To16Bits(profile.GetInt(option.section, property.Name(), Number(option.fallback)));
+    } else {
+      Property<std::string>& property = this->*std::get<Property<std::string> Settings::*>(option.member);
+      property = profile.GetString(option.section, property.Name(), option.fallback, kOptionBuffer);
+    }
+  }
+  if (AllowAggressiveFocus == 1) PimletOnTop = CompOnTop = 1;
+}
+
+void Settings::SaveOptions() {
+  const Trap trap{errors_, "MODULE SaveOptions"};
+  std::vector<ProfileEntry> entries;
+  for (const Option& option : kOptions) {
+    if (option.saved == Saved::No) continue;
+    std::visit(
+        [&](auto member) {
+          const auto& property = this->*member;
+          entries.push_back({option.section, std::string(property.Name()), Decimal(property.Get())});
+        },
+        option.member);
+  }
+  trap(file_.WriteAll(entries));
+}
+
+void Settings::GetColours() {
+  const Trap trap{errors_, "MODULE GetColours"};
+  const Profile profile = file_.Read();
+  for (const ColourOption& option : kColourOptions) {
+    Property<Colour>& property = this->*option.member;
+    const std::string text = profile.GetString(kColours, property.Name(), kColourFallback, kColourBuffer);
+    if (const auto colour = trap(ToLong(text))) property = static_cast<Colour>(*colour);
+  }
+  TextFontName = profile.GetString(kColours, "TextFontName", kFontFallback, kColourBuffer);
+  const auto size =
+      trap(ToLong(profile.GetString(kColours, "TextFontSize", kFontSizeFallback, kFontSizeBuffer)));
+  if (size) TextFontSize = To16Bits(*size);
+  TextFontBold = To16Bits(profile.GetInt(kColours, "TextFontBold", 0));
+  ApplyColoursOnFileOpen = To16Bits(profile.GetInt(kColours, "ApplyColoursOnFileOpen", 1));
+  InsertWithColour = To16Bits(profile.GetInt(kColours, "InsertWithColour", 1));
+}
+
+void Settings::ColoursSortOut() {
+  for (const ColourOption& option : kColourOptions)
+    this->*option.member = static_cast<Colour>(option.factory);
+  TextFontName = kFontFallback;
+  TextFontSize = kFactoryFontSize;
+  TextFontBold = 0;
+  ApplyColoursOnFileOpen = 1;
+  InsertWithColour = 1;
+  Trap{errors_, "MUM ColoursSortOut"}(SaveColours());
+}
+
+Outcome<> Settings::SaveColours() {
+  std::vector<ProfileEntry> entries;
+  const auto add = [&entries](const auto& property) {
+    entries.push_back({kColours, std::string(property.Name()), Decimal(property.Get())});
+  };
+  for (const ColourOption& option : kColourOptions) add(this->*option.member);
+  add(TextFontName);
+  add(TextFontSize);
+  add(TextFontBold);
+  add(ApplyColoursOnFileOpen);
+  return file_.WriteAll(entries);
+}
+
+void Settings::Write(std::string_view section, std::string_view key, std::string_view value) {
+  Ignore(file_.Write(section, key, value));
+}
+
+}  // namespace tarvik

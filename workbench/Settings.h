@@ -1,0 +1,96 @@
+// Every setting of the program, under the name of its key in the settings file. Read once at start; from then
+// on the values here are the truth.
+#pragma once
+
+#include "platform/ProfileFile.h"
+#include "text/RichText.h"
+#include "workbench/Errors.h"
+
+namespace tarvik {
+
+class Settings : public Component {
+ public:
+  Settings(ProfileFile& file, Errors& errors) : Component("Settings"), file_(file), errors_(errors) {}
+
+  // FileLocations
+  Property<std::string> B50LoadPath{*this, "B50LoadPath"};
+  Property<std::string> ProgramFilesPath{*this, "ProgramFilesPath"};
+  Property<std::string> JoystickExtension{*this, "JoystickExtension"};
+  Property<std::string> MacroExtension{*this, "MacroExtension"};
+  Property<int> JoyName{*this, "JoyName"};            ///< 0 F22 Pro, 1 F16 FLCS, 2 P FCS, 3 Top Gun, 4 FCS
+  Property<int> ThrottleName{*this, "ThrottleName"};  ///< 0 none, 1 TQS, 2 WCS MkII, 3 WCS
+  Property<int> RudderName{*this, "RudderName"};      ///< 0 none, 1 Elite, 2 RCS
+  Property<int> ShowTips{*this, "ShowTips"};
+  Property<int> FirstTimeUsed{*this, "FirstTimeUsed"};
+  Property<std::string> CandCCPath{*this, "CandCCPath"};
+
+  // Miscellaneous
+  Property<int> AutoSaveEnabled{*this, "AutoSaveEnabled"};
+  Property<int> AutoSaveTime{*this, "AutoSaveTime"};  ///< minutes
+  Property<int> CreateBackup{*this, "CreateBackup"};
+  Property<int> GradientEffect{*this, "GradientEffect"};
+  Property<int> OpenBothOnToolbar{*this, "OpenBothOnToolbar"};
+  Property<int> SaveBothOnToolbar{*this, "SaveBothOnToolbar"};
+  Property<int> AddCRtoREM{*this, "AddCRtoREM"};
+  Property<int> CompOnTop{*this, "CompOnTop"};
+  Property<int> PimletOnTop{*this, "PimletOnTop"};
+  Property<int> AllowAggressiveFocus{*this, "AllowAggressiveFocus"};
+  Property<int> MacroFrameWidth{*this, "MacroFrameWidth"};  ///< pixels
+  Property<int> HighlightLineOnUndo{*this, "HighlightLineOnUndo"};
+  Property<int> HighlightDefinitions{*this, "HighlightDefinitions"};
+  Property<int> CheckIdentifyOK{*this, "CheckIdentifyOK"};
+  Property<int> FlatToolbar{*this, "FlatToolbar"};
+  Property<int> CanWrapToolbar{*this, "CanWrapToolbar"};
+  Property<int> DefaultDLYvalue{*this, "DefaultDLYvalue"};
+  Property<int> ComposerImages{*this, "ComposerImages"};
+  Property<int> UndoMax{*this, "UndoMax"};
+  Property<int> UndoClearOnSave{*this, "UndoClearOnSave"};
+  Property<int> CompTabsAddCr{*this, "CompTabsAddCr"};
+  Property<std::string> ValidUser{*this, "ValidUser"};
+
+  // Apps
+  Property<std::string> ImageFilePath{*this, "ImageFilePath"};
+  Property<std::string> TextFilePath{*this, "TextFilePath"};
+
+  // Colours
+  Property<Colour> BackgroundColour{*this, "BackgroundColour"};
+  Property<Colour> BTNColour{*this, "BTNColour"};
+  Property<Colour> SlashColour{*this, "SlashColour"};
+  Property<Colour> RAWColour{*this, "RAWColour"};
+  Property<Colour> MiscellaneousColour{*this, "MiscellaneousColour"};
+  Property<Colour> MacroBackgroundColour{*this, "MacroBackgroundColour"};
+  Property<Colour> RemStatements{*this, "RemStatements"};
+  Property<std::string> TextFontName{*this, "TextFontName"};
+  Property<int> TextFontSize{*this, "TextFontSize"};  ///< points
+  Property<int> TextFontBold{*this, "TextFontBold"};
+  Property<int> ApplyColoursOnFileOpen{*this, "ApplyColoursOnFileOpen"};
+  Property<int> InsertWithColour{*this, "InsertWithColour"};
+
+  /// Reads everything but the colour scheme; a missing file or key gives the default.
+  void GetOptions();
+  /// Writes what GetOptions reads, except ShowTips, which belongs to the tips window.
+  void SaveOptions();
+  /// Reads the colour scheme. A colour that is no number keeps its value.
+  void GetColours();
+  /// Writes the colour scheme, but for InsertWithColour.
+  Outcome<> SaveColours();
+  /// Sets the factory colour scheme and writes it; InsertWithColour is set but not written.
+  void ColoursSortOut();
+
+  /// For the few keys that forms write themselves, at once.
+  void Write(std::string_view section, std::string_view key, std::string_view value);
+  [[nodiscard]] ProfileFile& File() { return file_; }
+
+ private:
+  ProfileFile& file_;
+  Errors& errors_;
+};
+
+/// The whole number that `text` is, blanks around it left out; a failure (type mismatch) for anything else
+/// and for what does not fit 32 bits.
+Outcome<int> ToLong(std::string_view text);
+
+/// A number as the program's 16-bit values hold it: what is beyond them is cut off.
+[[nodiscard]] int To16Bits(int value);
+
+}  // namespace tarvik
