@@ -13,19 +13,9 @@ constexpr const char* kAlreadyRunning =
     "corrupted "
     "with both programs writing to it.";
 
-// The tools that end with the editor, in this order.
-constexpr const char* kToolsOfEditor[] = {
-    "FindAndReplace", "InsertOptions",      "Heading",       "RAWform",    "Title",
-    "SingleTextForm", "EnterFavouritename", "EnterGameName", "DrivesForm", "Preferences",
-    "MacroWizard",    "JoystickWiz",        "JoyPlot",       "Speedy"};
-
 }  // namespace
 
-Application::Application(Platform& services)
-    : platform(services),
-      profile(services.files, services.folder + "\\Tarvik.ini"),
-      settings(profile, errors),
-      lists(settings, errors) {}
+Application::Application(Platform& services) : Shell(workbench), platform(services), workbench(services) {}
 
 Application::~Application() {
   if (mum_) platform.clipboard.changed = nullptr;
@@ -37,7 +27,7 @@ bool Application::Start() {
     ended_ = true;
     return false;
   }
-  platform.clipboard.changed = [this] { ClipboardChanged(); };
+  platform.clipboard.changed = [this] { workbench.ClipboardChanged(); };
   mum_ = std::make_unique<Mum>(*this);
   editor_ = std::make_unique<Editor>(*this);
   mum_->MDIForm_Load();
@@ -48,6 +38,7 @@ bool Application::EditorIsLoaded() const { return editor_ && editor_->Visible; }
 
 void Application::ShowEditor(EditorBegins begins) {
   if (EditorIsLoaded()) return;
+  workbench.Reset();  // tools may have worked on while nobody saw it
   editor_->FillFrame();
   Loaded(*editor_);
   editor_->Form_Load(begins);
@@ -66,9 +57,10 @@ bool Application::CloseEditor() {
   if (!editor_->Form_QueryUnload()) return false;
   editor_->Form_Unload();
   editor_->Visible = false;
-  UnloadTools(kToolsOfEditor);
+  UnloadTools(EndsWith::Editor);
   Unloading(*editor_);
   if (active_ == editor_.get()) active_ = nullptr;
+  workbench.Reset();
   unloaded_.push_back(std::exchange(editor_, std::make_unique<Editor>(*this)));
   return true;
 }
@@ -86,17 +78,17 @@ bool Application::CloseMum() {
   }
   if (EditorIsLoaded()) {
     editor_->Form_Unload();
-    UnloadTools(kToolsOfEditor);
+    UnloadTools(EndsWith::Editor);
   }
   mum_->MDIForm_Unload();
-  UnloadTools(kToolsOfMum);
+  UnloadTools(EndsWith::Frame);
   while (!tools_.empty()) Unload(*tools_.back());
   ended_ = true;
   HasEnded();
   return true;
 }
 
-void Application::LoadTool(std::unique_ptr<Form> form) {
+void Application::Load(std::unique_ptr<Form> form) {
   if (waits_ == 0) unloaded_.clear();
   Form& loaded = *tools_.emplace_back(std::move(form));
   shown_.push_back(loaded.Visible.Changed.Connect([this, &loaded] {
@@ -114,6 +106,26 @@ void Application::Activated(Form& form) {
   if (left && toMain) left->Deactivate();
   now.Activate();
 }
+
+void Application::Show(ToolId tool) {
+  const auto rows = Tools();
+  const auto row =
+      std::find_if(rows.begin(), rows.end(), [tool](const ToolRow& each) { return each.id == tool; });
+  if (row->show) row->show(workbench, *this);
+}
+
+void Application::ShowPreferences(int page) {
+  workbench.values.PreferencesTab = page;
+  Show(ToolId::Preferences);
+}
+
+MenuItem& Application::Command(std::string_view entry) { return editor_->menus(entry); }
+
+void Application::ForwardKey(Key& key) { editor_->ForwardKey(key); }
+
+Form& Application::Frame() { return *mum_; }
+
+void Application::HideToolbar() { mum_->Toolbar1.Visible = false; }
 
 void Application::ShowModal(Form& form) {
   bool open = true;
@@ -142,9 +154,10 @@ void Application::Unload(Form& form) {
   unloaded_.push_back(std::move(last));
 }
 
-void Application::UnloadTools(std::span<const char* const> names) {
-  for (const char* const name : names) {
-    if (Form* const form = FindForm(name)) Unload(*form);
+void Application::UnloadTools(EndsWith end) {
+  for (const ToolRow& row : Tools()) {
+    Form* const form = row.end == end ? FindForm(row.form) : nullptr;
+    if (form) Unload(*form);
   }
 }
 
@@ -164,8 +177,9 @@ Form* Application::FindForm(std::string_view name) const {
 }
 
 PropertyBase* Application::FindValue(std::string_view name) const {
-  std::vector<const Component*> places = {&settings, &values, &errors, &lists};
-  if (EditorIsLoaded()) places.insert(places.end(), {&editor_->Joystick, &editor_->Macro});
+  std::vector<const Component*> places = {
+      &workbench.settings,           &workbench.values,         &workbench.errors, &workbench.lists,
+      &workbench.documents.joystick, &workbench.documents.macro};
   if (mum_) places.push_back(mum_.get());
   for (const Component* place : places) {
     if (PropertyBase* property = place->FindProperty(name)) return property;

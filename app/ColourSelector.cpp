@@ -1,11 +1,8 @@
 #include "app/ColourSelector.h"
 
-#include "app/Editor.h"
-#include "app/Mum.h"
-
 namespace tarvik {
 
-ColourSelector::ColourSelector(Application& application) : Form("ColourSelector"), application_(application) {
+ColourSelector::ColourSelector(Workbench& bench, Shell& /*shell*/) : Form("ColourSelector"), bench_(bench) {
   for (int i = 0; i < kColours; ++i) {
     Command1(i).Caption = kColourChoices[i].caption;
     Command1(i).Click = [this, i] { Command1_Click(i); };
@@ -15,13 +12,15 @@ ColourSelector::ColourSelector(Application& application) : Form("ColourSelector"
 }
 
 void ColourSelector::Form_Activate() {
-  for (int i = 0; i < kColours; ++i) Label1(i).BackColor = kColourChoices[i].In(application_.settings);
+  for (int i = 0; i < kColours; ++i) Label1(i).BackColor = kColourChoices[i].In(bench_.settings);
 }
 
 void ColourSelector::Command1_Click(int index) {
   const Colour colour = Label1(index).BackColor;
-  application_.mum().Picture1.BackColor = colour;
-  if (Editor& editor = application_.editor(); editor.Visible) editor.ColourSelection(colour);
+  bench_.documents.swatch.BackColor = colour;
+  bench_.highlighter.ColourSelection(colour);
+  bench_.documents.UpdateSavedIcon();
+  bench_.documents.Active().text.SetFocus();
   Visible = false;
 }
 

@@ -3,16 +3,16 @@
 #include <algorithm>
 
 #include "app/EditorTables.h"
-#include "tools/preferences/Preferences.h"
 
 namespace tarvik {
 namespace {
 
-constexpr int kAutoSaveInterval = 60000;  // milliseconds
-constexpr int kBlinkInterval = 200;
 constexpr int kNormalTabImage = 9;
 constexpr int kProtectedTabImage = 6;
 constexpr int kFirstFileButton = 2;
+constexpr int kCutButton = 7;
+constexpr int kCopyButton = 8;
+constexpr int kPasteButton = 9;
 constexpr int kUndoButton = 11;
 constexpr int kRedoButton = 12;
 constexpr int kFormatButton = 5;  // "/F" or "/A", by the joystick
@@ -41,54 +41,42 @@ constexpr const char* kEmergency =
 
 Editor::Editor(Application& application)
     : Form("Editor"),
-      JoystickText(*this, "JoystickText", application.platform.files),
-      MacroText(*this, "MacroText", application.platform.files),
-      TempRichTextBox(*this, "TempRichTextBox", application.platform.files),
-      CompareRTF(*this, "CompareRTF", application.platform.files),
+      JoystickText(application.workbench.documents.joystickText),
+      MacroText(application.workbench.documents.macroText),
+      TempRichTextBox(application.workbench.documents.scratch),
+      CompareRTF(application.workbench.documents.compare),
+      TabStrip1(application.workbench.documents.tabs),
+      Combo1(application.workbench.macros.categories),
+      List1(application.workbench.macros.lists),
+      Timer1(application.workbench.autoSave.timer),
+      TimerBlinkLine(application.workbench.blink.timer),
       menus(*this, tables::kMenus),
       popUps(*this, tables::kPopUps),
-      Joystick(*this, "Joystick", kJoystickTraits, JoystickText),
-      Macro(*this, "Macro", kMacroTraits, MacroText),
+      Joystick(application.workbench.documents.joystick),
+      Macro(application.workbench.documents.macro),
       application_(application),
+      bench_(application.workbench),
       mum_(application.mum()),
-      desk_{application.platform,
-            application.settings,
-            application.values,
-            application.errors,
-            mum_.StatusBar,
-            mum_.ProgressBar1,
-            mum_.Picture1,
-            mum_.MousePointer,
-            TabStrip1,
-            Joystick,
-            Macro,
-            TempRichTextBox,
-            CompareRTF,
-            [this] { UpdateUndoRedoMenus(); }},
-      savedStates_(desk_, mum_),
-      copies_(desk_),
-      highlighter_(desk_, copies_),
-      insertion_(desk_, [this](Document& document) { TextChanged(document); }),
-      lists_(desk_, Combo1, List1),
-      layout_(desk_, {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros, mnuViewTileVertically}),
-      blink_(desk_, TimerBlinkLine),
-      edit_(desk_, insertion_, menus, mum_.Toolbar1),
-      input_(desk_, menus, popUps,
-             {[this](Document& document) { TextChanged(document); },
-              [this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); },
+      savedStates_(bench_.documents, mum_),
+      layout_(bench_.documents,
+              {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros, mnuViewTileVertically}),
+      input_(bench_.documents, menus, popUps,
+             {[this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); },
               [this](const Document& document) { return FindNext(document); }}),
-      files_(desk_, copies_, highlighter_, lists_,
-             {[this] { layout_.ShowMacroFrame(); },
-              [this] { ShowPreferences(application_, Preferences::kFileLocations); },
-              [this](const Document& document) { Remember(document); }}),
-      autoSave_(desk_, files_, Timer1),
-      listMenus_(application.lists, menus) {
+      listMenus_(bench_.lists, menus) {
+  AdoptControls();
   SetUpControls();
 }
 
+void Editor::AdoptControls() {
+  const std::initializer_list<Component*> controls = {&JoystickText, &MacroText,     &TempRichTextBox,
+                                                      &CompareRTF,   &TabStrip1,     &Combo1,
+                                                      &Timer1,       &TimerBlinkLine};
+  for (Component* const control : controls) Adopt(*control);
+  List1.MoveTo(*this);
+}
+
 void Editor::SetUpControls() {
-  TempRichTextBox.Visible = false;
-  CompareRTF.Visible = false;
   TabStrip1.Tabs(1).ToolTipText =
       "Your joystick file: where you assign macros to joystick buttons, hats etc.";
   TabStrip1.Tabs(2).ToolTipText = "Your macro file: it contains your macro definitions";
@@ -112,9 +100,7 @@ void Editor::SetUpControls() {
     AttachList(list);
   };
   AttachList(List1(0));
-  Timer1.Interval = kAutoSaveInterval;
   Timer1.Elapsed = [this] { Timer1_Timer(); };
-  TimerBlinkLine.Interval = kBlinkInterval;
   TimerBlinkLine.Elapsed = [this] { TimerBlinkLine_Timer(); };
   input_.Attach(Joystick);
   input_.Attach(Macro);
@@ -153,20 +139,21 @@ void Editor::FillFrame() {
 }
 
 void Editor::Form_Load(EditorBegins begins) {
-  Values& values = application_.values;
-  const Settings& settings = application_.settings;
+  Values& values = bench_.values;
+  const Settings& settings = bench_.settings;
   values.LoadingFile = 1;
   SetUpToolbar();
   savedStates_.Follow();
-  mum_.MousePointer = pointer::kHourglass;
+  FollowWorkbench();
+  bench_.documents.Busy = true;
   values.PreferencesTab = 0;
-  application_.settings.GetColours();
+  bench_.settings.GetColours();
   values.FontChanged = 0;
   values.TemplateFontChanged = 0;
   values.HardwareChanged = 0;
   mnuInsertWithColour.Checked = settings.InsertWithColour != 0;
-  BeginUntitled();
-  PreviousFiles& lists = application_.lists;
+  bench_.files.BeginUntitled();
+  PreviousFiles& lists = bench_.lists;
   lists.GetPreviousFiles();
   lists.GetFavourites();
   lists.GetGames();
@@ -181,47 +168,53 @@ void Editor::Form_Load(EditorBegins begins) {
   values.LoadingFile = 0;
   Joystick.Caret = 0;
   Macro.Caret = 0;
-  desk_.ShowCaretLine();
-  desk_.UpdateSavedIcon();
+  bench_.documents.ShowCaretLine();
+  bench_.documents.UpdateSavedIcon();
   F22MenusUpdate();
-  autoSave_.Restart();
+  bench_.autoSave.Restart();
   UpdateCCPButtons();
-  clipboardChanged_ = application_.ClipboardChanged.Connect([this] { UpdateCCPButtons(); });
-  mum_.MousePointer = pointer::kDefault;
+  bench_.documents.Busy = false;
   if (settings.FirstTimeUsed == 1) FirstTimeFlow();
 }
 
-void Editor::BeginUntitled() {
-  desk_.status.Panels(8).Text = "No macro file analysed";
-  desk_.status.Panels(8).ToolTipText = "The macros in the macros list are from this file";
-  for (Document* document : {&Joystick, &Macro}) {
-    desk_.ApplyLook(*document);
-    files_.NameUntitled(*document);
-    document->Dirty = saved::kNoText;
-    files_.ResetHistory(*document);
-  }
+void Editor::FollowWorkbench() {
+  Documents& documents = bench_.documents;
+  connections_ = {
+      documents.HistoryChanged.Connect([this] { UpdateUndoRedoMenus(); }),
+      documents.RedoEnded.Connect([this] {
+        mnuEditRedo.Enabled = false;
+        mum_.Toolbar1.Buttons(kRedoButton).Enabled = false;
+      }),
+      bench_.edit.Copied.Connect([this] { UpdateCCPButtons(); }),
+      bench_.ClipboardChanged.Connect([this] { UpdateCCPButtons(); }),
+      bench_.files.ShowsMacros.Connect([this] { layout_.ShowMacroFrame(); }),
+      bench_.files.NeedsPreferences.Connect([this] { mnuPreferencesEdit_Click(); }),
+      bench_.ToolbarSettingsChanged.Connect([this] { UpdateToolBarOpenSaveTooltips(); }),
+      bench_.AutoSaveSettingsChanged.Connect([this] { AutoSaveHasChanged(); }),
+      bench_.HardwareSettingsChanged.Connect([this] { HardwareHasChanged(); }),
+      bench_.FontSettingsChanged.Connect([this] { DamnFontWasChanged(); }),
+  };
 }
 
 void Editor::FirstTimeFlow() {
-  application_.platform.dialogs.Show(
-      {"Tarvik initialising ...", kWelcome, BoxIcon::Information, BoxButtons::Ok});
-  application_.settings.SaveOptions();
-  ShowPreferences(application_, Preferences::kFileLocations);
+  bench_.platform.dialogs.Show({"Tarvik initialising ...", kWelcome, BoxIcon::Information, BoxButtons::Ok});
+  bench_.settings.SaveOptions();
+  mnuPreferencesEdit_Click();
 }
 
 void Editor::Form_Activate() {
   mum_.Toolbar1.Visible = true;
-  desk_.Active().text.SetFocus();
-  desk_.ShowCaretLine();
+  bench_.documents.Active().text.SetFocus();
+  bench_.documents.ShowCaretLine();
   UpdateToolBarOpenSaveTooltips();
-  if (application_.values.FontChanged == 1) DamnFontWasChanged();
+  if (bench_.values.FontChanged == 1) DamnFontWasChanged();
 }
 
 void Editor::Form_Unload() {
   SaveOpenSingleOnly();
   savedStates_.Stop();
   for (Timer* const timer : {&Timer1, &TimerBlinkLine}) timer->Enabled = false;
-  clipboardChanged_ = {};
+  connections_.clear();
   mum_.Toolbar1.Visible = false;
   for (const tables::ToolbarRow& row : tables::kToolbar) mum_.Toolbar1.Buttons(row.button).Click = nullptr;
 }
@@ -229,25 +222,25 @@ void Editor::Form_Unload() {
 /// The file of the command line, else the favourite that is to be loaded.
 void Editor::OpenFilesOfTheStart() {
   TestCommandLine();
-  const std::string line = application_.values.CommandLine;
+  const std::string line = bench_.values.CommandLine;
   if (!line.empty()) return OpenPreviouslySavedFiles(line);
-  const int favourite = application_.lists.FavouriteToLoad();
+  const int favourite = bench_.lists.FavouriteToLoad();
   if (favourite > 0) mnuFavArray_Click(favourite);
 }
 
 void Editor::TestCommandLine() {
-  Property<std::string>& line = application_.values.CommandLine;
-  if (!application_.platform.files.FileExists(line.Get())) line = std::string();
+  Property<std::string>& line = bench_.values.CommandLine;
+  if (!bench_.platform.files.FileExists(line.Get())) line = std::string();
 }
 
 void Editor::OpenPreviouslySavedFiles(const std::string& path) {
-  files_.OpenWithoutDialog(path);
+  bench_.files.OpenWithoutDialog(path);
   if (!mnuJoyPopUpSingleFile.Checked) {
     mnuFileOpen_Click();
   } else {
     // The ending is looked for anywhere in the joined extensions, so that "22m" counts as a macro file as
     // well.
-    const std::string& name = files_.NameToOpen();
+    const std::string& name = bench_.files.NameToOpen();
     const std::string ending = name.substr(name.size() - std::min<std::size_t>(3, name.size()));
     constexpr std::string_view kMacroExtensions = "m22m50mdf";
     if (kMacroExtensions.find(ending) != std::string_view::npos) {
@@ -256,21 +249,11 @@ void Editor::OpenPreviouslySavedFiles(const std::string& path) {
       mnuFileJoystickLoad_Click();
     }
   }
-  files_.OpenWithDialogs();
-}
-
-void Editor::OpenFavouriteFile(const std::string& path) {
-  constexpr std::string_view kMacroEndings[] = {"m22", "mdf", "m50"};
-  if (path.empty()) return;
-  files_.OpenWithoutDialog(path);
-  const bool macro = std::any_of(std::begin(kMacroEndings), std::end(kMacroEndings),
-                                 [&path](std::string_view ending) { return path.ends_with(ending); });
-  files_.Load(macro ? Macro : Joystick);
-  files_.OpenWithDialogs();
+  bench_.files.OpenWithDialogs();
 }
 
 void Editor::F22MenusUpdate() {
-  const bool f22 = application_.settings.JoyName == 0;
+  const bool f22 = bench_.settings.JoyName == 0;
   for (const char* entry : tables::kF22Entries) menus(entry).Visible = f22;
   Command1(kIgnoreDelayButton).Visible = f22;
   Command1(kFormatButton).Caption = f22 ? "/F" : "/A";
@@ -279,63 +262,59 @@ void Editor::F22MenusUpdate() {
 
 void Editor::HardwareHasChanged() {
   for (Document* document : {&Joystick, &Macro}) {
-    if (desk_.TabOf(*document).Caption.Get().starts_with("untitled")) files_.NameUntitled(*document);
+    if (bench_.documents.TabOf(*document).Caption.Get().starts_with("untitled"))
+      bench_.files.NameUntitled(*document);
   }
   F22MenusUpdate();
-  application_.values.HardwareChanged = 0;
+  bench_.values.HardwareChanged = 0;
 }
 
 /// No timer runs while nobody sees the editor.
-void Editor::AutoSaveHasChanged() { Timer1.Enabled = Visible && application_.settings.AutoSaveEnabled == 1; }
+void Editor::AutoSaveHasChanged() { Timer1.Enabled = Visible && bench_.settings.AutoSaveEnabled == 1; }
 
 /// An editor that nobody sees takes the new font when it is loaded.
 void Editor::DamnFontWasChanged() {
-  application_.values.FontChanged = 0;
+  bench_.values.FontChanged = 0;
   if (!Visible) return;
-  Document& before = desk_.Active();
+  Document& before = bench_.documents.Active();
   for (Document* document : {&Joystick, &Macro}) {
-    desk_.Select(*document);
-    document->text.BackColor = (application_.settings.*document->traits.background).Get();
+    bench_.documents.Select(*document);
+    document->text.BackColor = (bench_.settings.*document->traits.background).Get();
     mnuViewReformat_Click();
   }
-  desk_.Select(before);
+  bench_.documents.Select(before);
 }
 
 void Editor::GetOpenSingleOnly() {
-  mnuJoyPopUpSingleFile.Checked = application_.profile.GetInt("Miscellaneous", "OpenSingleFileOnly", 1) != 0;
+  mnuJoyPopUpSingleFile.Checked = bench_.profile.GetInt("Miscellaneous", "OpenSingleFileOnly", 1) != 0;
 }
 
 void Editor::SaveOpenSingleOnly() {
-  application_.settings.Write("Miscellaneous", "OpenSingleFileOnly",
-                              mnuJoyPopUpSingleFile.Checked ? "1" : "0");
+  bench_.settings.Write("Miscellaneous", "OpenSingleFileOnly", mnuJoyPopUpSingleFile.Checked ? "1" : "0");
 }
 
 // Documents.
 
-void Editor::NewFile(Document& document) {
-  if (files_.New(document)) autoSave_.Restart();
-}
-
 void Editor::mnuFileNewBoth_Click() {
   mnuFileNewJoystick_Click();
   mnuFileNewMacro_Click();
-  desk_.Say("Done .... now what?");
+  bench_.documents.Say("Done .... now what?");
 }
 
 void Editor::mnuFilePrintJoystick_Click() {
   RemoveHugeBlankStringJF();
-  PrintDocument(desk_, Joystick);
+  PrintDocument(bench_.documents, Joystick);
   AddHugeBlankStringJF();
 }
 
 void Editor::mnuFilePrintMacro_Click() {
   RemoveHugeBlankStringMF();
-  PrintDocument(desk_, Macro);
+  PrintDocument(bench_.documents, Macro);
   AddHugeBlankStringMF();
 }
 
 void Editor::mnuRHMPrint_Click() {
-  desk_.Active().IsJoystick() ? mnuFilePrintJoystick_Click() : mnuFilePrintMacro_Click();
+  bench_.documents.Active().IsJoystick() ? mnuFilePrintJoystick_Click() : mnuFilePrintMacro_Click();
 }
 
 void Editor::mnuPreferencesProtectMacroFile_Click() {
@@ -346,79 +325,65 @@ void Editor::mnuPreferencesProtectMacroFile_Click() {
   TabStrip1.Tabs(2).Image = protect ? kProtectedTabImage : kNormalTabImage;
 }
 
-void Editor::Remember(const Document& document) {
-  PreviousFiles& lists = application_.lists;
-  if (document.IsJoystick()) {
-    lists.RecentJFToAdd = document.Path;
-    lists.UpdateRecentJFMenuList();
-  } else {
-    lists.RecentMFToAdd = document.Path;
-    lists.UpdateRecentMFMenuList();
-  }
-}
-
 void Editor::OpenPrevious(std::string_view array, int index) {
   const std::string path = menus(array, index).Caption;
-  if (application_.platform.files.FileExists(path)) return OpenPreviouslySavedFiles(path);
-  application_.platform.dialogs.Show({"Can't find file",
-                                      "There's a problem here ... I couldn't find " + path +
-                                          " which probably means you've deleted it or moved it. Sorry!",
-                                      BoxIcon::Information, BoxButtons::Ok});
+  if (bench_.platform.files.FileExists(path)) return OpenPreviouslySavedFiles(path);
+  bench_.platform.dialogs.Show({"Can't find file",
+                                "There's a problem here ... I couldn't find " + path +
+                                    " which probably means you've deleted it or moved it. Sorry!",
+                                BoxIcon::Information, BoxButtons::Ok});
 }
 
-void Editor::mnuPreviousClearAllJ_Click() { application_.lists.ClearAll(application_.lists.JoystickFiles); }
+void Editor::mnuPreviousClearAllJ_Click() { bench_.lists.ClearAll(bench_.lists.JoystickFiles); }
 
 /// Closes the joystick files' menu as well, until the next of them is opened.
 void Editor::mnuPreviousClearAllM_Click() {
-  application_.lists.ClearAll(application_.lists.MacroFiles);
+  bench_.lists.ClearAll(bench_.lists.MacroFiles);
   menus("mnuFilePrevious").Enabled = false;
 }
 
 /// The tab that was selected is not selected again.
 void Editor::EmergencySaveFiles() {
   for (const Document* document : {&Joystick, &Macro}) {
-    desk_.Select(*document);
+    bench_.documents.Select(*document);
     mnuFileSave_Click();
   }
-  application_.platform.dialogs.Show(
+  bench_.platform.dialogs.Show(
       {"Tarvik - Emergency file save procedure executed", kEmergency, BoxIcon::Information, BoxButtons::Ok});
 }
 
-void Editor::TextChanged(Document& document) {
-  document.Dirty = saved::kModified;
-  desk_.UpdateSavedIcon();
-  if (document.Undo.Absorbs()) {
-    document.Undo.Absorb();
-    return;
+void Editor::UpdateCCPButtons() {
+  const bool selected = bench_.documents.Active().text.SelLength > 0;
+  for (const char* const entry : {"mnuEditCut", "mnuEditCopy", "mnuEditDelete"}) {
+    menus(entry).Enabled = selected;
   }
-  document.Undo.Open(application_.settings.UndoMax);
-  UpdateUndoRedoMenus();
-  document.Undo.GoToNewest();
-  mnuEditRedo.Enabled = false;
-  mum_.Toolbar1.Buttons(kRedoButton).Enabled = false;
+  for (const int button : {kCutButton, kCopyButton}) mum_.Toolbar1.Buttons(button).Enabled = selected;
+  const bool text = bench_.platform.clipboard.HasText();
+  menus("mnuEditPaste").Enabled = text;
+  mum_.Toolbar1.Buttons(kPasteButton).Enabled = text;
 }
 
 void Editor::mnuEditSelectAll_Click() {
-  desk_.Active().IsJoystick() ? RemoveHugeBlankStringJF() : RemoveHugeBlankStringMF();
-  edit_.SelectAll();
+  bench_.documents.Active().IsJoystick() ? RemoveHugeBlankStringJF() : RemoveHugeBlankStringMF();
+  bench_.edit.SelectAll();
 }
 
 // Undo.
 
 void Editor::StepThroughHistory(void (UndoHistory::*step)()) {
-  const Loading loading(application_.values);
-  Document& document = desk_.Active();
+  const Loading loading(bench_.values);
+  Document& document = bench_.documents.Active();
   (document.Undo.*step)();
   document.Caret = document.text.SelStart;
   UpdateUndoRedoMenus();
-  if (application_.settings.HighlightLineOnUndo == 1) blink_.Start();
+  if (bench_.settings.HighlightLineOnUndo == 1) bench_.blink.Start();
 }
 
 void Editor::mnuEditUndo_Click() { StepThroughHistory(&UndoHistory::Undo); }
 void Editor::mnuEditRedo_Click() { StepThroughHistory(&UndoHistory::Redo); }
 
 void Editor::UpdateUndoRedoMenus() {
-  const UndoHistory& history = desk_.Active().Undo;
+  const UndoHistory& history = bench_.documents.Active().Undo;
   const auto show = [this](MenuItem& item, const char* popUp, int button, const std::string& word,
                            int steps) {
     const std::string text = steps > 0 ? word + " (" + TextOf(steps) + ")" : word;
@@ -430,11 +395,6 @@ void Editor::UpdateUndoRedoMenus() {
   };
   show(mnuEditUndo, "mnuRHMUndo", kUndoButton, "Undo", history.UndoSteps());
   show(mnuEditRedo, "mnuRHMRedo", kRedoButton, "Redo", history.RedoSteps());
-}
-
-void Editor::DeleteUndosFromMemory() {
-  DeleteUndosOnSaveJ();
-  DeleteUndosOnSaveM();
 }
 
 // View.
@@ -454,29 +414,21 @@ void Editor::ShowQuickTip(bool show) {
 }
 
 void Editor::TabStrip1_Click() {
-  Document& document = desk_.Active();
-  const std::string caption = desk_.TabOf(document).Caption;
-  desk_.status.Panels(3).Enabled = true;
+  Document& document = bench_.documents.Active();
+  const std::string caption = bench_.documents.TabOf(document).Caption;
+  bench_.documents.status.Panels(3).Enabled = true;
   if (document.text.Locked) {
-    desk_.SayIsProtected(document);
+    bench_.documents.SayIsProtected(document);
   } else {
-    desk_.Say("Editing " + caption);
+    bench_.documents.Say("Editing " + caption);
   }
-  desk_.UpdateSavedIcon();
+  bench_.documents.UpdateSavedIcon();
   document.text.SelStart = document.Caret;
-  desk_.ShowCaretLine();
+  bench_.documents.ShowCaretLine();
   layout_.ShowPanes();
   document.text.SetFocus();
   UpdateUndoRedoMenus();
   UpdateCCPButtons();
-}
-
-void Editor::mnuViewReformat_Click() {
-  const Loading loading(application_.values);
-  desk_.Say("Reformatting layout. Please wait ...");
-  Document& document = desk_.Active();
-  tarvik::ApplyFont(document.text, desk_.settings);
-  document.text.SelStart = document.Caret;
 }
 
 void Editor::mnuViewWordWrap_Click() {
@@ -487,7 +439,7 @@ void Editor::mnuViewWordWrap_Click() {
 }
 
 void Editor::UpdateToolBarOpenSaveTooltips() {
-  const Settings& settings = application_.settings;
+  const Settings& settings = bench_.settings;
   Toolbar& toolbar = mum_.Toolbar1;
   toolbar.Buttons(kFirstFileButton).ToolTipText =
       settings.OpenBothOnToolbar == 1 ? "Open joystick file and its macro file (F8)" : "Open file";
@@ -496,10 +448,10 @@ void Editor::UpdateToolBarOpenSaveTooltips() {
 }
 
 void Editor::Toolbar1_ButtonClick(int button) {
-  const Settings& settings = application_.settings;
-  const bool joystick = desk_.Active().IsJoystick();
+  const Settings& settings = bench_.settings;
+  const bool joystick = bench_.documents.Active().IsJoystick();
   if (button == kFirstFileButton && settings.OpenBothOnToolbar != 1) {
-    files_.Load(desk_.Active());
+    bench_.files.Load(bench_.documents.Active());
     return;
   }
   if (button == kFirstFileButton + 1 && settings.SaveBothOnToolbar == 1) {
@@ -514,33 +466,27 @@ void Editor::Toolbar1_ButtonClick(int button) {
 // Colours.
 
 void Editor::mnuViewApplyColourBothFiles_Click() {
-  Document& before = desk_.Active();
+  Document& before = bench_.documents.Active();
   mnuViewColourJoystick_Click();
   mnuViewColourMacro_Click();
-  desk_.Select(before);
+  bench_.documents.Select(before);
 }
 
 void Editor::mnuRemoveColourSelectedText_Click() {
-  highlighter_.ColourSelection(kBlack);
-  desk_.Say("Done");
+  bench_.highlighter.ColourSelection(kBlack);
+  bench_.documents.Say("Done");
 }
 
 void Editor::mnuInsertWithColour_Click() {
   const bool colour = !mnuInsertWithColour.Checked;
   mnuInsertWithColour.Checked = colour;
-  application_.settings.InsertWithColour = colour ? 1 : 0;
-  const Trap trap{application_.errors, "mnuInsertWithColour_Click"};
-  trap(application_.profile.Write("Colours", "InsertWithColour", colour ? "1" : "0"));
-}
-
-void Editor::ColourSelection(Colour colour) {
-  highlighter_.ColourSelection(colour);
-  desk_.UpdateSavedIcon();
-  desk_.Active().text.SetFocus();
+  bench_.settings.InsertWithColour = colour ? 1 : 0;
+  const Trap trap{bench_.errors, "mnuInsertWithColour_Click"};
+  trap(bench_.profile.Write("Colours", "InsertWithColour", colour ? "1" : "0"));
 }
 
 void Editor::TextFromTempRichTextBox() {
-  desk_.Active().text.SetContent(TempRichTextBox.Content());
+  bench_.documents.Active().text.SetContent(TempRichTextBox.Content());
   TempRichTextBox.SetContent({});
 }
 

@@ -7,13 +7,9 @@
 #include "app/Mum.h"
 #include "app/PaneInput.h"
 #include "app/SavedStates.h"
-#include "tools/printing/PrintRTFWordWrap.h"
-#include "workbench/AutoSave.h"
-#include "workbench/ColouredInsertion.h"
-#include "workbench/EditCommands.h"
-#include "workbench/FileCommands.h"
 #include "workbench/HelpTopics.h"
-#include "workbench/LineBlink.h"
+#include "workbench/PrintRTFWordWrap.h"
+#include "workbench/Workbench.h"
 
 namespace tarvik {
 
@@ -23,18 +19,18 @@ class Editor : public Form {
 
   explicit Editor(Application& application);
 
-  // Controls.
-  Pane JoystickText;
-  Pane MacroText;
-  Pane TempRichTextBox;  ///< hidden, for work that must not show
-  Pane CompareRTF;       ///< hidden, for the comparison of a coloured copy with its file
-  TabStrip TabStrip1{*this, "TabStrip1", 2};
+  // Controls. What the files are edited in is the workbench's, and stands here.
+  Pane& JoystickText;
+  Pane& MacroText;
+  Pane& TempRichTextBox;
+  Pane& CompareRTF;
+  TabStrip& TabStrip1;
   Frame FrameMacros{*this, "FrameMacros"};
-  ComboBox Combo1{*this, "Combo1"};
-  ControlArray<ListBox> List1{*this, "List1", 1};
+  ComboBox& Combo1;
+  ControlArray<ListBox>& List1;
   ControlArray<CommandButton> Command1{*this, "Command1", kModifierButtons};
-  Timer Timer1{*this, "Timer1"};
-  Timer TimerBlinkLine{*this, "TimerBlinkLine"};
+  Timer& Timer1;
+  Timer& TimerBlinkLine;
   Menus menus;
   /// The pop-up menus: the panes', and the macro lists'.
   Menus popUps;
@@ -49,23 +45,22 @@ class Editor : public Form {
   MenuItem& mnuPreferencesProtectMacroFile = menus("mnuPreferencesProtectMacroFile");
 
   // The documents.
-  Document Joystick;
-  Document Macro;
+  Document& Joystick;
+  Document& Macro;
 
   // Life of the form.
   /// Takes the frame's size, until whatever shows the form tells it its own.
   void FillFrame();
   void Form_Load(EditorBegins begins);
   void Form_Activate();
-  bool Form_QueryUnload() override { return files_.MayExit(); }
+  bool Form_QueryUnload() override { return bench_.files.MayExit(); }
   void Form_Unload();
   void Form_Resize() { layout_.Place(); }
   void TestCommandLine();
   void OpenPreviouslySavedFiles(const std::string& path);
   /// Files that the user dropped: opens the first that is one of a pair, together with the other one.
-  void OpenDropped(const std::vector<std::string>& paths) { files_.OpenPairAmong(paths); }
-  /// Opens the one file, as a macro file or a joystick file by its ending; no path, no file.
-  void OpenFavouriteFile(const std::string& path);
+  void OpenDropped(const std::vector<std::string>& paths) { bench_.files.OpenPairAmong(paths); }
+  void OpenFavouriteFile(const std::string& path) { bench_.files.OpenFavourite(path); }
   void F22MenusUpdate();
   void HardwareHasChanged();
   void AutoSaveHasChanged();
@@ -74,6 +69,7 @@ class Editor : public Form {
   void SaveOpenSingleOnly();
 
   // Preferences.
+  void ShowPreferences(int page);
   void mnuPreferencesEdit_Click();
   void mnuViewEditColours_Click();
   void mnuAppsEdit_Click();
@@ -81,18 +77,18 @@ class Editor : public Form {
   void mnuGamesEdit_Click();
 
   // Documents.
-  void mnuFileNewJoystick_Click() { NewFile(Joystick); }
-  void mnuFileNewMacro_Click() { NewFile(Macro); }
+  void mnuFileNewJoystick_Click() { bench_.NewFile(Joystick); }
+  void mnuFileNewMacro_Click() { bench_.NewFile(Macro); }
   void mnuFileNewBoth_Click();
-  void mnuFileJoystickLoad_Click() { files_.Load(Joystick); }
-  void MnuFileMacroLoad_Click() { files_.Load(Macro); }
-  void mnuFileOpen_Click() { files_.OpenPair(); }
-  void mnuFileSave_Click() { files_.Save(desk_.Active()); }
-  void mnuFileSaveAs_Click() { files_.SaveAs(desk_.Active()); }
-  void mnuFileSaveBoth_Click() { files_.SaveBoth(); }
+  void mnuFileJoystickLoad_Click() { bench_.files.Load(Joystick); }
+  void MnuFileMacroLoad_Click() { bench_.files.Load(Macro); }
+  void mnuFileOpen_Click() { bench_.files.OpenPair(); }
+  void mnuFileSave_Click() { bench_.files.Save(bench_.documents.Active()); }
+  void mnuFileSaveAs_Click() { bench_.files.SaveAs(bench_.documents.Active()); }
+  void mnuFileSaveBoth_Click() { bench_.files.SaveBoth(); }
   void mnuFilePrintJoystick_Click();
   void mnuFilePrintMacro_Click();
-  void mnuFilePrinterSetup_Click() { SetUpPrinter(desk_); }
+  void mnuFilePrinterSetup_Click() { SetUpPrinter(bench_.documents); }
   void mnuRHMPrint_Click();
   void mnuJoyPopUpSingleFile_Click() { mnuJoyPopUpSingleFile.Checked = !mnuJoyPopUpSingleFile.Checked; }
   void mnuJFArray_Click(int index) { OpenPrevious("mnuJFArray", index); }
@@ -101,7 +97,7 @@ class Editor : public Form {
   void mnuPreviousClearAllM_Click();
   void mnuFileExit_Click() { application_.CloseMum(); }
   void mnuPreferencesProtectMacroFile_Click();
-  void Timer1_Timer() { autoSave_.Minute(); }
+  void Timer1_Timer() { bench_.autoSave.Minute(); }
   /// A last attempt to save both files when things have gone wrong. Ready for an active error report; nothing
   /// calls it yet.
   void EmergencySaveFiles();
@@ -119,21 +115,22 @@ class Editor : public Form {
   void mnuEditUndo_Click();
   void mnuEditRedo_Click();
   void UpdateUndoRedoMenus();
-  void DeleteUndosOnSaveJ() { files_.ResetHistory(Joystick); }
-  void DeleteUndosOnSaveM() { files_.ResetHistory(Macro); }
-  void DeleteUndosFromMemory();
+  void DeleteUndosOnSaveJ() { bench_.files.ResetHistory(Joystick); }
+  void DeleteUndosOnSaveM() { bench_.files.ResetHistory(Macro); }
+  void DeleteUndosFromMemory() { bench_.ForgetUndos(); }
 
   // Editing.
-  void mnuEditCut_Click() { edit_.Cut(); }
-  void mnuEditCopy_Click() { edit_.Copy(); }
-  void mnuEditPaste_Click() { edit_.Paste(); }
-  void mnuEditDelete_Click() { edit_.Delete(); }
+  void mnuEditCut_Click() { bench_.edit.Cut(); }
+  void mnuEditCopy_Click() { bench_.edit.Copy(); }
+  void mnuEditPaste_Click() { bench_.edit.Paste(); }
+  void mnuEditDelete_Click() { bench_.edit.Delete(); }
   void mnuEditSelectAll_Click();
   void mnuEditFind_Click();
   void mnuEditReplace_Click();
   void mnuEditGoto_Click();
-  void UpdateCCPButtons() { edit_.UpdateCCPButtons(); }
-  void CheckAtLineBeginning() { edit_.CheckAtLineBeginning(); }
+  /// Fits menus and toolbar to the selection of the file on top, and to the clipboard.
+  void UpdateCCPButtons();
+  void CheckAtLineBeginning() { bench_.edit.CheckAtLineBeginning(); }
 
   // The tools that write statements.
   void mnuShowInsertWindow_Click();
@@ -149,22 +146,22 @@ class Editor : public Form {
   // View.
   void mnuViewMacros_Click() { layout_.ToggleMacroFrame(); }
   void mnuViewTileVertically_Click() { layout_.ToggleTiled(); }
-  void mnuViewReformat_Click();
+  void mnuViewReformat_Click() { bench_.documents.Reformat(); }
   void mnuViewWordWrap_Click();
-  void mnuViewHighlightLine_Click() { blink_.Start(); }
+  void mnuViewHighlightLine_Click() { bench_.blink.Start(); }
   void FrameMacros_MouseDown() { HelpOnWhatsThis(topic::kMacroLists); }
   void FrameMacros_MouseMove(const Mouse& mouse) { layout_.FrameMouseMove(mouse); }
   void FrameMacros_DblClick() { mnuViewMacros_Click(); }
-  void TimerBlinkLine_Timer() { blink_.Step(); }
+  void TimerBlinkLine_Timer() { bench_.blink.Step(); }
   void TabStrip1_Click();
   void UpdateToolBarOpenSaveTooltips();
   void Toolbar1_ButtonClick(int button);
 
   // The scratch pane, for work on the file on top that must not show.
-  void TextToTempRichTextBox() { TempRichTextBox.SetContent(desk_.Active().text.Content()); }
+  void TextToTempRichTextBox() { TempRichTextBox.SetContent(bench_.documents.Active().text.Content()); }
   void TextFromTempRichTextBox();
   /// Gives all of the scratch pane the user's font.
-  void TempTextRefreshFont() { tarvik::ApplyFont(TempRichTextBox, desk_.settings); }
+  void TempTextRefreshFont() { tarvik::ApplyFont(TempRichTextBox, bench_.documents.settings); }
   // Where padding at the end of a file, or the colour of what is pasted, would be seen to. Nothing is ever
   // padded, and what is pasted keeps its colours.
   void AddHugeBlankStringJF() {}
@@ -174,33 +171,31 @@ class Editor : public Form {
   void ApplyPasteColour() {}
 
   // Colours.
-  void ApplyColourHighlighting() { highlighter_.Apply(Joystick); }
-  void ApplyMacroColourHighlighting() { highlighter_.Apply(Macro); }
+  void ApplyColourHighlighting() { bench_.highlighter.Apply(Joystick); }
+  void ApplyMacroColourHighlighting() { bench_.highlighter.Apply(Macro); }
   void mnuViewColourJoystick_Click() { ApplyColourHighlighting(); }
   void mnuViewColourMacro_Click() { ApplyMacroColourHighlighting(); }
   void mnuViewApplyColourBothFiles_Click();
-  void mnuRemoveColourJoystick_Click() { highlighter_.Remove(Joystick); }
-  void mnuRemoveColourMacro_Click() { highlighter_.Remove(Macro); }
+  void mnuRemoveColourJoystick_Click() { bench_.highlighter.Remove(Joystick); }
+  void mnuRemoveColourMacro_Click() { bench_.highlighter.Remove(Macro); }
   void mnuRemoveColourSelectedText_Click();
-  void mnuRHMColour_Click() { highlighter_.Apply(desk_.Active()); }
-  void mnuRHMColoursRemove_Click() { highlighter_.Remove(desk_.Active()); }
+  void mnuRHMColour_Click() { bench_.highlighter.Apply(bench_.documents.Active()); }
+  void mnuRHMColoursRemove_Click() { bench_.highlighter.Remove(bench_.documents.Active()); }
   void mnuInsertWithColour_Click();
-  /// Gives the selection of the pane on top a colour chosen by hand.
-  void ColourSelection(Colour colour);
 
   // Macros.
-  void mnuEditUpdateMacros_Click();
-  void mnuViewIdentify_Click() { lists_.IdentifyMacrosUsed(); }
-  void mnuRHListInsert_Click() { lists_.Insert(List1(lists_.PopupListIndex)); }
+  void mnuEditUpdateMacros_Click() { bench_.files.UpdateMacros(); }
+  void mnuViewIdentify_Click() { bench_.macros.IdentifyMacrosUsed(); }
+  void mnuRHListInsert_Click() { bench_.macros.Insert(List1(bench_.macros.PopupListIndex)); }
   void mnuFindInJF_Click();
-  void mnuRHListIdentify_Click() { lists_.IdentifyMacrosUsed(); }
+  void mnuRHListIdentify_Click() { bench_.macros.IdentifyMacrosUsed(); }
   void mnuRHListEdit_Click();
-  void ExtractButtonDefinition(const std::string& name) { lists_.ExtractButtonDefinition(name); }
+  void ExtractButtonDefinition(const std::string& name) { bench_.macros.ExtractButtonDefinition(name); }
   void Combo1_Click();
   void Combo1_GotFocus() { layout_.ResetFramePointer(); }
   void List1_MouseDown(int index, const Mouse& mouse);
   void List1_MouseMove(int index, const Mouse& mouse);
-  void List1_DblClick(int index) { lists_.Insert(List1(index)); }
+  void List1_DblClick(int index) { bench_.macros.Insert(List1(index)); }
   void List1_OLEStartDrag(int index);
   void Command1_Click(int index);
   void Command1_MouseDown() { HelpOnWhatsThis(topic::kSlashModifiers); }
@@ -237,22 +232,9 @@ class Editor : public Form {
   void mnuHelpOnWeb_Click();
   void mnuHelpAbout_Click();
 
-  // For the tools.
-  [[nodiscard]] Document& ActiveDocument() const { return desk_.Active(); }
-  [[nodiscard]] ColouredInsertion& insertion() { return insertion_; }
-  [[nodiscard]] MacroLists& macroLists() { return lists_; }
-  /// Gives the focus to the file on top.
-  void FocusActiveText() const { desk_.Active().text.SetFocus(); }
   /// Marks the document as modified and records the change for undo.
-  void TextChanged(Document& document);
-  /// Runs the menu entry of a key that a tool's window got: a function key, or a letter with Ctrl alone,
-  /// which is then swallowed. The entry must be enabled.
+  void TextChanged(Document& document) { bench_.documents.TextChanged(document); }
   void ForwardKey(Key& key) const;
-  /// Status panel 3, by the document's caret memory.
-  void ShowLineNumber(const Document& document) const { desk_.ShowLineNumber(document); }
-  /// Gives a tool's pane the font of the files.
-  void ApplyFont(Pane& pane) const { tarvik::ApplyFont(pane, desk_.settings); }
-  void SayIsProtected(const Document& document) const { desk_.SayIsProtected(document); }
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
   void PopUpClosed(std::string_view name) override;
@@ -260,12 +242,10 @@ class Editor : public Form {
  private:
   void SetUpControls();
   void AttachList(ListBox& list);
+  void AdoptControls();
   void SetUpToolbar();
-  void BeginUntitled();
   void OpenFilesOfTheStart();
-  void NewFile(Document& document);
   void OpenPrevious(std::string_view array, int index);
-  void Remember(const Document& document);
   void FirstTimeFlow();
   void ShowPopUp(std::string_view name);
   bool FindNext(const Document& document);
@@ -274,22 +254,16 @@ class Editor : public Form {
   void HelpOnWhatsThis(int topic);
   void StepThroughHistory(void (UndoHistory::*step)());
 
+  void FollowWorkbench();
+
   Application& application_;
+  Workbench& bench_;
   Mum& mum_;
-  Desk desk_;
   SavedStates savedStates_;
-  ColouredCopies copies_;
-  Highlighter highlighter_;
-  ColouredInsertion insertion_;
-  MacroLists lists_;
   Layout layout_;
-  LineBlink blink_;
-  EditCommands edit_;
   PaneInput input_;
-  FileCommands files_;
-  AutoSave autoSave_;
   ListMenus listMenus_;
-  Connection clipboardChanged_;
+  std::vector<Connection> connections_;
 };
 
 }  // namespace tarvik

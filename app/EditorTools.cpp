@@ -4,20 +4,9 @@
 #include "tools/composer/InsertOptions.h"
 #include "tools/favourites/Favourites.h"
 #include "tools/find/FindAndReplace.h"
-#include "tools/pimlet/RAWform.h"
-#include "tools/preferences/Preferences.h"
 #include "tools/programs/CustomApps.h"
 #include "tools/programs/Download.h"
 #include "tools/programs/Games.h"
-#include "tools/templates/TemplateForm.h"
-#include "tools/testing/JoyPlot.h"
-#include "tools/testing/KeyTestForm.h"
-#include "tools/viewers/Tips.h"
-#include "tools/viewers/ViewImage.h"
-#include "tools/wizards/JoystickWiz.h"
-#include "tools/wizards/MacroWizard.h"
-#include "tools/wizards/Speedy.h"
-#include "workbench/HelpTopics.h"
 
 namespace tarvik {
 namespace {
@@ -62,23 +51,29 @@ const MessageBox kQuickTip = {"Quick tip",
 
 // Preferences.
 
-void Editor::mnuPreferencesEdit_Click() { ShowPreferences(application_, Preferences::kFileLocations); }
-void Editor::mnuViewEditColours_Click() { ShowPreferences(application_, Preferences::kColours); }
-void Editor::mnuAppsEdit_Click() { ShowPreferences(application_, Preferences::kApps); }
-void Editor::mnuFavsEdit_Click() { ShowPreferences(application_, Preferences::kFavourites); }
-void Editor::mnuGamesEdit_Click() { ShowPreferences(application_, Preferences::kGames); }
+/// A new font is in force afterwards.
+void Editor::ShowPreferences(int page) {
+  application_.ShowPreferences(page);
+  bench_.TakeChosenFont();
+}
+
+void Editor::mnuPreferencesEdit_Click() { ShowPreferences(page::kFileLocations); }
+void Editor::mnuViewEditColours_Click() { ShowPreferences(page::kColours); }
+void Editor::mnuAppsEdit_Click() { ShowPreferences(page::kApps); }
+void Editor::mnuFavsEdit_Click() { ShowPreferences(page::kFavourites); }
+void Editor::mnuGamesEdit_Click() { ShowPreferences(page::kGames); }
 
 // Favourites, games, and the user's own programs.
 
-void Editor::mnuFavouritesAddCurrent_Click() { AddToFavourites(application_); }
-void Editor::mnuFavArray_Click(int index) { OpenFavourite(application_, index); }
-void Editor::mnuGamesAdd_Click() { AddGame(application_); }
-void Editor::mnuGameArray_Click(int index) { StartGame(application_, index); }
-void Editor::mnuCustomApp_Click(int index) { RunCustomApp(application_, index); }
+void Editor::mnuFavouritesAddCurrent_Click() { application_.Show(ToolId::Favourite); }
+void Editor::mnuFavArray_Click(int index) { OpenFavourite(bench_, index); }
+void Editor::mnuGamesAdd_Click() { application_.Show(ToolId::Game); }
+void Editor::mnuGameArray_Click(int index) { StartGame(bench_, application_, index); }
+void Editor::mnuCustomApp_Click(int index) { RunCustomApp(bench_, index); }
 
 // Editing.
 
-void Editor::mnuEditFind_Click() { application_.Tool<FindAndReplace>().ShowFind(); }
+void Editor::mnuEditFind_Click() { application_.Show(ToolId::Find); }
 void Editor::mnuEditReplace_Click() { application_.Tool<FindAndReplace>().ShowReplace(); }
 void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(); }
 
@@ -90,72 +85,64 @@ bool Editor::FindNext(const Document& document) {
 
 // The Composer.
 
-void Editor::mnuShowInsertWindow_Click() { application_.Tool<InsertOptions>().ShowComposer(); }
+void Editor::mnuShowInsertWindow_Click() { application_.Show(ToolId::Composer); }
 void Editor::mnuComposerPlugin_Click() { application_.Tool<InsertOptions>().ShowTemplates(); }
 
 // Pimlet.
 
-void Editor::mnuInsertRAW_Click() { application_.Tool<RAWform>().Show(); }
+void Editor::mnuInsertRAW_Click() { application_.Show(ToolId::Pimlet); }
 
 // Blocks.
 
-void Editor::mnuInsertTitle_Click() { InsertTitle(application_); }
-void Editor::mnuInsertHeading_Click() { InsertHeading(application_); }
-void Editor::mnuInsertRemStatement_Click() { InsertRemStatement(application_); }
+void Editor::mnuInsertTitle_Click() { application_.Show(ToolId::Title); }
+void Editor::mnuInsertHeading_Click() { application_.Show(ToolId::Heading); }
+void Editor::mnuInsertRemStatement_Click() { InsertRemStatement(bench_, application_); }
 
-void Editor::mnuInsertQuickTip_Click() { application_.platform.dialogs.Show(kQuickTip); }
+void Editor::mnuInsertQuickTip_Click() { bench_.platform.dialogs.Show(kQuickTip); }
 
 // Apps.
 
-void Editor::mnuSendToKeyTest_Click() {
-  auto& form = application_.Tool<KeyTestForm>();
-  form.Visible = true;
-  form.RTFKeysText.SetFocus();
-}
+void Editor::mnuSendToKeyTest_Click() { application_.Show(ToolId::KeyTest); }
 
-void Editor::mnuAppsImageViewer_Click() {
-  auto& form = application_.Tool<ViewImage>();
-  form.Show();
-  form.Image1.SetFocus();
-}
+void Editor::mnuAppsImageViewer_Click() { application_.Show(ToolId::ImageViewer); }
 
-void Editor::mnuAppsTemplate_Click() { application_.Tool<TemplateForm>().ShowText(); }
+void Editor::mnuAppsTemplate_Click() { application_.Show(ToolId::TemplateEditor); }
 
-void Editor::mnuAppsJoyAnalyser_Click() { application_.Tool<JoyPlot>().PicJoy.SetFocus(); }
+void Editor::mnuAppsJoyAnalyser_Click() { application_.Show(ToolId::JoystickAnalyser); }
 
-void Editor::mnuAppsTMScope_Click() { StartTMScope(application_); }
-void Editor::mnuAppsCandCC_Click() { StartControlCentre(application_); }
-void Editor::mnuF22Setup_Click() { StartF22Utility(application_, F22Utility::Setup); }
-void Editor::mnuF22Clear_Click() { StartF22Utility(application_, F22Utility::Clear); }
-void Editor::mnuF22Reset_Click() { StartF22Utility(application_, F22Utility::Reset); }
-void Editor::mnuF22Delay_Click() { StartF22Utility(application_, F22Utility::Delay); }
-void Editor::mnuSendToJoystick_Click() { SendToJoystick(application_); }
+void Editor::mnuAppsTMScope_Click() { StartTMScope(bench_); }
+void Editor::mnuAppsCandCC_Click() { StartControlCentre(bench_); }
+void Editor::mnuF22Setup_Click() { StartF22Utility(bench_, F22Utility::Setup); }
+void Editor::mnuF22Clear_Click() { StartF22Utility(bench_, F22Utility::Clear); }
+void Editor::mnuF22Reset_Click() { StartF22Utility(bench_, F22Utility::Reset); }
+void Editor::mnuF22Delay_Click() { StartF22Utility(bench_, F22Utility::Delay); }
+void Editor::mnuSendToJoystick_Click() { SendToJoystick(bench_, application_); }
 
 void Editor::mnuAppsQuiet_Click() {
   MenuItem& quiet = menus("mnuAppsQuiet");
   quiet.Checked = !quiet.Checked;
 }
 
-void Editor::mnuHelpContents_Click() { ShowHelp(application_.platform, topic::kContents); }
+void Editor::mnuHelpContents_Click() { ShowHelp(bench_.platform, topic::kContents); }
 
-void Editor::mnuHelpTips_Click() { application_.ShowModal(application_.Tool<frmTip>()); }
+void Editor::mnuHelpTips_Click() { application_.Show(ToolId::Tips); }
 
 void Editor::mnuHelpOnWeb_Click() {
-  const Trap trap{application_.errors, "ED_mnuHelpOnWeb_Click"};
-  if (trap(application_.platform.desktop.Open(application_.platform.folder + "\\guide\\index.html"))) return;
+  const Trap trap{bench_.errors, "ED_mnuHelpOnWeb_Click"};
+  if (trap(bench_.platform.desktop.Open(bench_.platform.folder + "\\guide\\index.html"))) return;
   mum_.StatusBar.Panels(1).Text = std::string("The user guide can't be opened.");
 }
 
-void Editor::mnuHelpAbout_Click() { application_.ShowModal(application_.Tool<frmAbout>()); }
+void Editor::mnuHelpAbout_Click() { application_.Show(ToolId::About); }
 
 // Wizards.
 
-void Editor::mnuhelpWizCreateMacroFile_Click() { application_.Tool<MacroWizard>().Show(); }
-void Editor::mnuhelpWizCreateJoyFile_Click() { application_.Tool<JoystickWiz>().Show(); }
-void Editor::mnuWizSpeedy_Click() { application_.Tool<Speedy>().Show(); }
-void Editor::mnuWizBeginnersAdvice_Click() { application_.platform.dialogs.Show(kBeginnersAdvice); }
-void Editor::mnuWizOrlanTip1_Click() { application_.platform.dialogs.Show(kOrlansTip); }
-void Editor::mnuWizLogic1_Click() { application_.platform.dialogs.Show(kLogicAdvice); }
+void Editor::mnuhelpWizCreateMacroFile_Click() { application_.Show(ToolId::MacroWizard); }
+void Editor::mnuhelpWizCreateJoyFile_Click() { application_.Show(ToolId::JoystickWizard); }
+void Editor::mnuWizSpeedy_Click() { application_.Show(ToolId::Speedy); }
+void Editor::mnuWizBeginnersAdvice_Click() { bench_.platform.dialogs.Show(kBeginnersAdvice); }
+void Editor::mnuWizOrlanTip1_Click() { bench_.platform.dialogs.Show(kOrlansTip); }
+void Editor::mnuWizLogic1_Click() { bench_.platform.dialogs.Show(kLogicAdvice); }
 
 // Keys that the tools pass on.
 

@@ -30,7 +30,7 @@ constexpr int kLastButton = 12;    // stands in the upper row
 
 }  // namespace
 
-Layout::Layout(Desk& desk, LayoutControls controls) : desk_(desk), controls_(controls) {
+Layout::Layout(Documents& documents, LayoutControls controls) : documents_(documents), controls_(controls) {
   controls_.categories.Move(kMargin, kComboTop, 0, kComboHeight);
   for (int i = 0; i <= kLastButton; ++i) {
     const bool upper = i < kUpperButtons || i == kLastButton;
@@ -53,7 +53,7 @@ void Layout::Place() {
 float Layout::FrameWidth() const {
   const auto narrowest = static_cast<float>(kNarrowestFrame);
   const float widest = std::max(narrowest, controls_.form.ScaleWidth - kNarrowestText);
-  return std::clamp(static_cast<float>(desk_.settings.MacroFrameWidth.Get()), narrowest, widest);
+  return std::clamp(static_cast<float>(documents_.settings.MacroFrameWidth.Get()), narrowest, widest);
 }
 
 void Layout::PlaceFrame() {
@@ -74,13 +74,13 @@ void Layout::PlaceFrame() {
 
 void Layout::PlaceTabStrip() {
   const float left = controls_.viewMacros.Checked ? FrameWidth() : 0;
-  desk_.tabs.Move(left, 0, controls_.form.ScaleWidth - left, controls_.form.ScaleHeight);
+  documents_.tabs.Move(left, 0, controls_.form.ScaleWidth - left, controls_.form.ScaleHeight);
 }
 
 void Layout::PositionControls() {
   PlaceTabStrip();
-  const TabStrip& strip = desk_.tabs;
-  for (Document* document : {&desk_.joystick, &desk_.macro}) {
+  const TabStrip& strip = documents_.tabs;
+  for (Document* document : {&documents_.joystick, &documents_.macro}) {
     document->text.Move(strip.Left + kPaneLeft, strip.Top + kPaneTop, strip.Width - kPaneLeft - kPaneRight,
                         strip.Height - kPaneBottom);
   }
@@ -89,19 +89,19 @@ void Layout::PositionControls() {
 
 void Layout::ShowBothFiles() {
   PlaceTabStrip();
-  const TabStrip& strip = desk_.tabs;
+  const TabStrip& strip = documents_.tabs;
   const float half = strip.Width / 2;
   const float top = strip.Top + kPaneTop;
   const float height = strip.Height - kPaneBottom;
-  desk_.joystick.text.Move(strip.Left + kPaneLeft, top, half - 4, height);
-  desk_.macro.text.Move(strip.Left + half, top, half - 4, height);
+  documents_.joystick.text.Move(strip.Left + kPaneLeft, top, half - 4, height);
+  documents_.macro.text.Move(strip.Left + half, top, half - 4, height);
   ShowPanes();
 }
 
 void Layout::ShowPanes() {
   const bool both = controls_.tile.Checked;
-  desk_.joystick.text.Visible = both || desk_.Active().IsJoystick();
-  desk_.macro.text.Visible = both || !desk_.Active().IsJoystick();
+  documents_.joystick.text.Visible = both || documents_.Active().IsJoystick();
+  documents_.macro.text.Visible = both || !documents_.Active().IsJoystick();
 }
 
 void Layout::ToggleMacroFrame() {
@@ -117,7 +117,7 @@ void Layout::ShowMacroFrame() {
 void Layout::ToggleTiled() {
   controls_.tile.Checked = !controls_.tile.Checked;
   Place();
-  desk_.Active().text.SetFocus();
+  documents_.Active().text.SetFocus();
 }
 
 void Layout::FrameMouseMove(const Mouse& mouse) {
@@ -129,10 +129,10 @@ void Layout::FrameMouseMove(const Mouse& mouse) {
     return;
   }
   const int width = std::max(x + 1, kNarrowestFrame);
-  if (width == desk_.settings.MacroFrameWidth) return;
-  desk_.settings.MacroFrameWidth = width;
+  if (width == documents_.settings.MacroFrameWidth) return;
+  documents_.settings.MacroFrameWidth = width;
   Place();
-  desk_.settings.Write("Miscellaneous", "MacroFrameWidth", TextOf(width));
+  documents_.settings.Write("Miscellaneous", "MacroFrameWidth", TextOf(width));
 }
 
 }  // namespace tarvik

@@ -3,11 +3,9 @@
 // twips.
 #pragma once
 
-#include "workbench/Desk.h"
+#include "workbench/Documents.h"
 
 namespace tarvik {
-
-inline constexpr float kTwipsPerPixel = 15;
 
 /// The controls that the layout places.
 struct LayoutControls {
@@ -22,7 +20,7 @@ struct LayoutControls {
 
 class Layout {
  public:
-  Layout(Desk& desk, LayoutControls controls);
+  Layout(Documents& documents, LayoutControls controls);
 
   /// Places everything for the form's present size.
   void Place();
@@ -43,7 +41,7 @@ class Layout {
   void PlaceFrame();
   [[nodiscard]] float FrameWidth() const;
 
-  Desk& desk_;
+  Documents& documents_;
   LayoutControls controls_;
 };
 

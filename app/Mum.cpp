@@ -4,9 +4,6 @@
 #include <charconv>
 #include <cmath>
 
-#include "app/ColourSelector.h"
-#include "tools/viewers/Tips.h"
-
 namespace tarvik {
 namespace {
 
@@ -66,7 +63,19 @@ float ToFloat(const std::string& text) {
 
 }  // namespace
 
-Mum::Mum(Application& application) : Form("Mum"), menus(*this, kMenus), application_(application) {
+Mum::Mum(Application& application)
+    : Form("Mum"),
+      StatusBar(application.workbench.documents.status),
+      ProgressBar1(application.workbench.documents.progress),
+      Picture1(application.workbench.documents.swatch),
+      menus(*this, kMenus),
+      application_(application),
+      bench_(application.workbench) {
+  for (Component* const control : std::initializer_list<Component*>{&StatusBar, &ProgressBar1, &Picture1}) {
+    Adopt(*control);
+  }
+  busy_ = bench_.documents.Busy.Changed.Connect(
+      [this] { MousePointer = bench_.documents.Busy ? pointer::kHourglass : pointer::kDefault; });
   Caption = "Tarvik";
   for (int i = 1; i <= kStatusPanels; ++i) {
     StatusBar.Panels(i).Text = kPanels[i - 1].text;
@@ -80,22 +89,22 @@ Mum::Mum(Application& application) : Form("Mum"), menus(*this, kMenus), applicat
 }
 
 void Mum::MDIForm_Load() {
-  const Trap trap{application_.errors, "MUM MDIForm_Load"};
-  Values& values = application_.values;
-  Settings& settings = application_.settings;
-  Files& files = application_.platform.files;
+  const Trap trap{bench_.errors, "MUM MDIForm_Load"};
+  Values& values = bench_.values;
+  Settings& settings = bench_.settings;
+  Files& files = bench_.platform.files;
   SetPaths();
   GetMumPosition();
   for (const Folder& made : {values.BackupDir.Get(), values.RtfDir.Get()}) {
     if (!files.FolderExists(made.Path())) trap(files.MakeFolder(made.Path()));
   }
   settings.GetOptions();
-  const std::string& folder = application_.platform.folder;
+  const std::string& folder = bench_.platform.folder;
   if (settings.ImageFilePath.Get().empty()) settings.ImageFilePath = folder + "\\tarvik.jpg";
   if (settings.TextFilePath.Get().empty()) settings.TextFilePath = folder + "\\readme.txt";
   settings.SaveOptions();
   if (settings.ProgramFilesPath.Get().empty()) AutoDetect();
-  values.CommandLine = application_.platform.commandLine;
+  values.CommandLine = bench_.platform.commandLine;
 
   application_.Loaded(*this);
   Visible = true;
@@ -103,14 +112,14 @@ void Mum::MDIForm_Load() {
   MDIForm_Resize();
   if (settings.FlatToolbar == 1) MakeFlat();
   application_.ShowEditor(EditorBegins::WithTheFilesOfTheStart);
-  if (settings.ShowTips == 1) application_.ShowModal(application_.Tool<frmTip>());
+  if (settings.ShowTips == 1) application_.Show(ToolId::Tips);
 }
 
 void Mum::SetPaths() {
-  const std::string& folder = application_.platform.folder;
-  application_.values.IniFile = folder + "\\Tarvik.ini";
-  application_.values.BackupDir = Folder(folder + "\\Backup\\");
-  application_.values.RtfDir = Folder(folder + "\\Rtf\\");
+  const std::string& folder = bench_.platform.folder;
+  bench_.values.IniFile = folder + "\\Tarvik.ini";
+  bench_.values.BackupDir = Folder(folder + "\\Backup\\");
+  bench_.values.RtfDir = Folder(folder + "\\Rtf\\");
 }
 
 /// The swatch stands where its button is.
@@ -121,7 +130,7 @@ void Mum::MakeFlat() { Toolbar1.Flat = !Toolbar1.Flat; }
 void Mum::MDIForm_Unload() { SaveMumPosition(); }
 
 void Mum::GetMumPosition() {
-  const Profile stored = application_.profile.Read();
+  const Profile stored = bench_.profile.Read();
   const auto read = [&stored](const char* key, const char* fallback) {
     return ToFloat(stored.GetString(kMiscellaneous, key, fallback, kPositionBuffer));
   };
@@ -135,7 +144,7 @@ void Mum::GetMumPosition() {
 
 void Mum::SaveMumPosition() {
   // A frame that is maximised or minimised keeps the size that it would be restored to.
-  const ScreenSize& screen = application_.platform.screen;
+  const ScreenSize& screen = bench_.platform.screen;
   if (WindowState != 1) {
     Top = std::max(0.0F, Top.Get());
     Left = std::max(0.0F, Left.Get());
@@ -143,7 +152,7 @@ void Mum::SaveMumPosition() {
     Height = std::min(screen.height, Height.Get());
     MumWindowstate = WindowState;
   }
-  Ignore(application_.profile.WriteAll(std::vector<ProfileEntry>{
+  Ignore(bench_.profile.WriteAll(std::vector<ProfileEntry>{
       {kMiscellaneous, "MumTopAtStartup", TextOf(Top.Get())},
       {kMiscellaneous, "MumLeftAtStartup", TextOf(Left.Get())},
       {kMiscellaneous, "MumWidthAtStartup", TextOf(Width.Get())},
@@ -154,8 +163,8 @@ void Mum::SaveMumPosition() {
 
 void Mum::AutoDetect() {
   ColoursSortOut();
-  Files& files = application_.platform.files;
-  Settings& settings = application_.settings;
+  Files& files = bench_.platform.files;
+  Settings& settings = bench_.settings;
   for (const Installation& row : kInstallations) {
     if (!files.FolderExists(row.folder) || (row.file && !files.FileExists(row.file))) continue;
     settings.ProgramFilesPath = row.programFiles;
@@ -170,6 +179,6 @@ void Mum::AutoDetect() {
   }
 }
 
-void Mum::Picture1_Click() { application_.Tool<ColourSelector>().Visible = true; }
+void Mum::Picture1_Click() { application_.Show(ToolId::ColourSelector); }
 
 }  // namespace tarvik

@@ -3,12 +3,10 @@
 #pragma once
 
 #include "app/Application.h"
-#include "controls/Menu.h"
 
 namespace tarvik {
 
 inline constexpr int kToolbarButtons = 42;
-inline constexpr int kStatusPanels = 8;
 /// The toolbar button that the colour swatch covers.
 inline constexpr int kSwatchButton = 29;
 
@@ -17,9 +15,10 @@ class Mum : public Form {
   explicit Mum(Application& application);
 
   Toolbar Toolbar1{*this, "Toolbar1", kToolbarButtons};
-  tarvik::StatusBar StatusBar{*this, "StatusBar", kStatusPanels};
-  ProgressBar ProgressBar1{*this, "ProgressBar1"};
-  PictureBox Picture1{*this, "Picture1"};
+  // The workbench's, which stand here.
+  tarvik::StatusBar& StatusBar;
+  ProgressBar& ProgressBar1;
+  PictureBox& Picture1;
   Menus menus;
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
@@ -33,13 +32,13 @@ class Mum : public Form {
   void GetMumPosition();
   void SaveMumPosition();
   void AutoDetect();
-  void ColoursSortOut() { application_.settings.ColoursSortOut(); }
+  void ColoursSortOut() { bench_.settings.ColoursSortOut(); }
   void Picture1_Click();
   /// Turns the toolbar's flat style over.
   void MakeFlat();
   // Ready for an active error report; nothing calls them yet.
   void LastAttemptToSaveToolbar() {}
-  void ReleaseGradientInEmergency() { application_.UnloadTools(kToolsOfMum); }
+  void ReleaseGradientInEmergency() { application_.UnloadTools(EndsWith::Frame); }
   void mnuMumAppsEditor_Click() { application_.ShowEditor(); }
   void mnuMumFileExit_Click() { application_.CloseMum(); }
 
@@ -47,6 +46,8 @@ class Mum : public Form {
   void SetPaths();
 
   Application& application_;
+  Workbench& bench_;
+  Connection busy_;
 };
 
 }  // namespace tarvik

@@ -44,7 +44,7 @@ void PaneInput::Attach(Document& document) {
 }
 
 void PaneInput::CaretMoved(const Document& document) const {
-  if (&document == &desk_.Active()) desk_.ShowCaretLine();
+  if (&document == &documents_.Active()) documents_.ShowCaretLine();
 }
 
 void PaneInput::KeyDown(Document& document, Key& key) {
@@ -67,13 +67,14 @@ void PaneInput::KeyDown(Document& document, Key& key) {
 }
 
 void PaneInput::TurnOvertypeOver() {
-  const bool overtype = !desk_.joystick.text.Overtype;
-  for (const Document* document : {&desk_.joystick, &desk_.macro}) document->text.Overtype = overtype;
-  desk_.status.Panels(kInsertPanel).Enabled = !overtype;
+  const bool overtype = !documents_.joystick.text.Overtype;
+  for (const Document* document : {&documents_.joystick, &documents_.macro})
+    document->text.Overtype = overtype;
+  documents_.status.Panels(kInsertPanel).Enabled = !overtype;
 }
 
 void PaneInput::ShowHelp(const std::string& keyword) const {
-  desk_.platform.help.ShowKeyword(HelpFilePath(desk_.platform), keyword);
+  documents_.platform.help.ShowKeyword(HelpFilePath(documents_.platform), keyword);
 }
 
 /// The right button's pop-up, with what can be done here and now.
@@ -118,21 +119,21 @@ void PaneInput::RememberCaret(Document& document) {
 void PaneInput::KeyUp(Document& document) {
   typing_ = false;
   RememberCaret(document);
-  if (document.SelLength == 0) desk_.swatch.BackColor = document.text.SelColor;
+  if (document.SelLength == 0) documents_.swatch.BackColor = document.text.SelColor;
 }
 
 void PaneInput::GotFocus(Document& document) {
   RememberCaret(document);
-  desk_.Select(document);
-  desk_.updateUndoRedoMenus();
+  documents_.Select(document);
+  documents_.HistoryChanged();
 }
 
 void PaneInput::Change(Document& document) {
   document.SelLength = 0;
-  if (desk_.values.LoadingFile == 1) return;
+  if (documents_.values.LoadingFile == 1) return;
   // What no key types is a step of its own: a drop, and whatever else comes from the desktop.
-  if (!std::exchange(typing_, false)) document.Undo.BeginCommandBehindItsChange(desk_.settings.UndoMax);
-  hooks_.changed(document);
+  if (!std::exchange(typing_, false)) document.Undo.BeginCommandBehindItsChange(documents_.settings.UndoMax);
+  documents_.TextChanged(document);
   document.Undo.Start = 1;
 }
 

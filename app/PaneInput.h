@@ -3,15 +3,13 @@
 #pragma once
 
 #include "controls/Menu.h"
-#include "workbench/Desk.h"
+#include "workbench/Documents.h"
 
 namespace tarvik {
 
 class PaneInput {
  public:
   struct Hooks {
-    /// Marks the document as modified and records the change.
-    std::function<void(Document&)> changed;
     /// Shows a pop-up menu at the pointer or the caret.
     std::function<void(std::string_view)> popUp;
     /// Fits the menus to the selection.
@@ -20,8 +18,8 @@ class PaneInput {
     std::function<bool(const Document&)> findNext;
   };
 
-  PaneInput(Desk& desk, const Menus& menus, const Menus& popUps, Hooks hooks)
-      : desk_(desk), menus_(menus), popUps_(popUps), hooks_(std::move(hooks)) {}
+  PaneInput(Documents& documents, const Menus& menus, const Menus& popUps, Hooks hooks)
+      : documents_(documents), menus_(menus), popUps_(popUps), hooks_(std::move(hooks)) {}
 
   /// Takes over the events of a document's pane.
   void Attach(Document& document);
@@ -40,7 +38,7 @@ class PaneInput {
   void TurnOvertypeOver();
   void ShowHelp(const std::string& keyword) const;
 
-  Desk& desk_;
+  Documents& documents_;
   const Menus& menus_;
   const Menus& popUps_;
   Hooks hooks_;

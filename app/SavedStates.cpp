@@ -11,11 +11,11 @@ void SavedStates::Follow() {
   const auto follow = [this](PropertyBase& property) {
     connections_.push_back(property.Changed.Connect([this] { Show(); }));
   };
-  for (Document* const document : {&desk_.joystick, &desk_.macro}) {
+  for (Document* const document : {&documents_.joystick, &documents_.macro}) {
     follow(document->Name);
     follow(document->Dirty);
   }
-  follow(desk_.tabs.SelectedItem);
+  follow(documents_.tabs.SelectedItem);
   Show();
 }
 
@@ -26,11 +26,11 @@ void SavedStates::Stop() {
 }
 
 void SavedStates::Show() {
-  for (const Document* const document : {&desk_.joystick, &desk_.macro}) {
-    desk_.TabOf(*document).Unsaved = IsModified(*document);
+  for (const Document* const document : {&documents_.joystick, &documents_.macro}) {
+    documents_.TabOf(*document).Unsaved = IsModified(*document);
   }
-  mum_.FileOnShow = desk_.Active().Name.Get().Text();
-  mum_.Unsaved = IsModified(desk_.Active());
+  mum_.FileOnShow = documents_.Active().Name.Get().Text();
+  mum_.Unsaved = IsModified(documents_.Active());
 }
 
 }  // namespace tarvik

@@ -3,13 +3,13 @@
 #pragma once
 
 #include "app/Mum.h"
-#include "workbench/Desk.h"
+#include "workbench/Documents.h"
 
 namespace tarvik {
 
 class SavedStates {
  public:
-  SavedStates(const Desk& desk, Mum& mum) : desk_(desk), mum_(mum) {}
+  SavedStates(Documents& documents, Mum& mum) : documents_(documents), mum_(mum) {}
 
   /// From now on; the editor is loaded.
   void Follow();
@@ -19,7 +19,7 @@ class SavedStates {
  private:
   void Show();
 
-  const Desk& desk_;
+  Documents& documents_;
   Mum& mum_;
   std::vector<Connection> connections_;
 };

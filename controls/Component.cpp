@@ -70,6 +70,12 @@ Component::~Component() {
   for (Component* child : children_) child->parent_ = nullptr;
 }
 
+void Component::Adopt(Component& child) {
+  if (child.parent_) std::erase(child.parent_->children_, &child);
+  child.parent_ = this;
+  children_.push_back(&child);
+}
+
 std::string Component::FullName() const { return index_ ? name_ + "(" + TextOf(*index_) + ")" : name_; }
 
 Component* Component::FindChild(std::string_view name, std::optional<int> index) const {

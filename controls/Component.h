@@ -157,6 +157,9 @@ class Component {
   [[nodiscard]] const std::vector<Component*>& Children() const { return children_; }
   [[nodiscard]] const std::vector<PropertyBase*>& Properties() const { return properties_; }
 
+  /// Takes a component that was made elsewhere among the children of this one, until another one takes it.
+  void Adopt(Component& child);
+
   /// As a person writes it: "Toolbar1", "List1(2)".
   [[nodiscard]] std::string FullName() const;
   [[nodiscard]] Component* FindChild(std::string_view name, std::optional<int> index) const;

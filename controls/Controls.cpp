@@ -67,12 +67,14 @@ void Control::Move(float left, float top, float width, float height) {
   Height = height;
 }
 
-void Control::SetFocus() { OwnForm().Focus(*this); }
+void Control::SetFocus() {
+  if (Form* const form = OwnForm()) form->Focus(*this);
+}
 
-Form& Control::OwnForm() const {
+Form* Control::OwnForm() const {
   Component* at = Parent();
-  while (at->Parent()) at = at->Parent();
-  return static_cast<Form&>(*at);
+  while (at && at->Parent()) at = at->Parent();
+  return dynamic_cast<Form*>(at);
 }
 
 std::string ListBox::Current() const {
@@ -136,7 +138,7 @@ void ComboBox::Select(int index) {
 }
 
 void CommandButton::MakeDefault() {
-  for (Component* const sibling : OwnForm().Children()) {
+  for (Component* const sibling : OwnForm()->Children()) {
     if (auto* const button = dynamic_cast<CommandButton*>(sibling)) button->Default = button == this;
   }
 }
@@ -228,10 +230,14 @@ TabStrip::TabStrip(Component& parent, std::string_view name, int count)
 
 void TabStrip::Select(int index) {
   if (index == SelectedItem) return;
+  Begin(index);
+  Click();
+}
+
+void TabStrip::Begin(int index) {
   Tabs(SelectedItem).Selected = false;
   Tabs(index).Selected = true;
   SelectedItem = index;
-  Click();
 }
 
 Toolbar::Toolbar(Component& parent, std::string_view name, int count)

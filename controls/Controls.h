@@ -10,6 +10,8 @@
 
 namespace tarvik {
 
+inline constexpr float kTwipsPerPixel = 15;
+
 /// Shift states of keys and the mouse, added up.
 namespace shift {
 inline constexpr int kShift = 1;
@@ -62,12 +64,14 @@ class Control : public Component {
   Event<const Mouse&> MouseUp{*this, "MouseUp"};
 
   void Move(float left, float top, float width, float height);
+  /// Gives it the focus of its form.
   void SetFocus();
   /// Brings the control in front of its siblings.
   void ToFront() { Raised(); }
   Signal<> Raised;
 
-  [[nodiscard]] Form& OwnForm() const;
+  /// The form that it stands in, or null.
+  [[nodiscard]] Form* OwnForm() const;
 };
 
 class MenuItem : public Component {
@@ -357,6 +361,8 @@ class TabStrip : public Control {
   [[nodiscard]] int SelectedIndex() const { return SelectedItem; }
   /// Selects a tab; fires Click when it was not the selected one.
   void Select(int index);
+  /// Selects a tab for a strip that is to begin anew, with no Click.
+  void Begin(int index);
 
   Property<int> SelectedItem{*this, "SelectedItem", 1};
   Event<> Click{*this, "Click"};
@@ -452,7 +458,7 @@ class NamedControls {
 template <class T>
 class ControlArray {
  public:
-  ControlArray(Form& form, std::string_view name, int count) : form_(form), name_(name) {
+  ControlArray(Component& parent, std::string_view name, int count) : parent_(&parent), name_(name) {
     for (int i = 0; i < count; ++i) Load(i);
   }
 
@@ -460,7 +466,7 @@ class ControlArray {
   [[nodiscard]] int Count() const { return static_cast<int>(members_.size()); }
   T& Load(int index) {
     auto& member = members_[index];
-    member = std::make_unique<T>(form_, name_, index);
+    member = std::make_unique<T>(*parent_, name_, index);
     if (Prepare) Prepare(*member);
     Loaded(*member);
     return *member;
@@ -470,13 +476,19 @@ class ControlArray {
     members_.erase(index);
   }
 
+  /// Puts the members, also those to come, among the children of another component.
+  void MoveTo(Component& parent) {
+    parent_ = &parent;
+    for (const auto& [index, member] : members_) parent.Adopt(*member);
+  }
+
   /// The form's own set-up of a member loaded while the program runs.
   std::function<void(T&)> Prepare;
   Signal<T&> Loaded;
   Signal<T&> Unloading;
 
  private:
-  Form& form_;
+  Component* parent_;
   std::string name_;
   std::map<int, std::unique_ptr<T>> members_;
 };

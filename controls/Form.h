@@ -56,6 +56,9 @@ class Form : public Component {
   /// Asks about unsaved work before the form goes. False: the user keeps it.
   virtual bool Form_QueryUnload() { return true; }
 
+  /// The path of the file that it has in hand and will save, or nothing.
+  [[nodiscard]] virtual std::string OpenPath() const { return {}; }
+
   /// The menus of the form's window, or null. Those whose entry is hidden only pop up.
   [[nodiscard]] virtual const Menus* MenuBar() const { return nullptr; }
   /// For whatever shows a pop-up menu at the pointer or the caret; it tells when the menu has closed.

@@ -12,8 +12,8 @@ void Apply(const PaneEdit& edit, RichText& content) {
   content.colours.Replace({edit.position, edit.removed.colours.size()}, edit.inserted.colours);
 }
 
-Pane::Pane(Form& form, std::string_view name, Files& files)
-    : Control(form, name),
+Pane::Pane(Component& parent, std::string_view name, Files& files)
+    : Control(parent, name),
       TextRTF(
           *this, "TextRTF",
           [this] {

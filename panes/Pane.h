@@ -35,7 +35,7 @@ enum class FileFormat { Rtf, Text };
 
 class Pane : public Control {
  public:
-  Pane(Form& form, std::string_view name, Files& files);
+  Pane(Component& parent, std::string_view name, Files& files);
 
   // The whole content.
 

@@ -149,7 +149,7 @@ void Bindings::BindControl(Control& control, QWidget& widget) {
     const QScopedValueRollback rollback(takingFocus_, true);
     control.SetFocus();
   });
-  Form& form = control.OwnForm();
+  Form& form = *control.OwnForm();
   Keep(form.ActiveControlChanged.Connect([this, &form, &control, &widget] {
     if (form.ActiveControl() != &control || (takingFocus_ && widget.hasFocus())) return;
     if (!widget.hasFocus()) widget.setFocus();

@@ -157,7 +157,7 @@ void ListStack::Add(ListBox& list) {
       if (front_ == &list) act();
     };
   };
-  Form& form = list.OwnForm();
+  Form& form = *list.OwnForm();
   shown.connections = {
       form.ActiveControlChanged.Connect([this, &form, &list] {
         if (front_ == &list && form.ActiveControl() == front_) TakeFocus();
@@ -221,7 +221,7 @@ void ListStack::TakeFocus() {
 void ListStack::Remove(ListBox& list) {
   std::erase_if(stack_, [&list](const Shown& shown) { return shown.list == &list; });
   bindings_.Forget(list);
-  if (list.OwnForm().ActiveControl() == &list) stack_.front().list->SetFocus();
+  if (list.OwnForm()->ActiveControl() == &list) stack_.front().list->SetFocus();
   BringUpToDate();
 }
 

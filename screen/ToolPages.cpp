@@ -300,7 +300,7 @@ QLayout* Page(TemplateForm& form, const FormLayout& in) {
   label->setBuddy(name);
   auto* const swatches = new QHBoxLayout;
   swatches->setSpacing(2);
-  for (int i = 0; i < ColourSelector::kColours; ++i) {
+  for (int i = 0; i < static_cast<int>(std::size(kColourChoices)); ++i) {
     swatches->addWidget(in.ShowSwatch(form.swatches("ColourLabel" + TextOf(i + 1))));
   }
   return Column({Row({label, name}), text,

@@ -4,6 +4,7 @@
 
 #include <QDialog>
 
+#include "app/Application.h"
 #include "screen/FormLayout.h"
 #include "screen/FormView.h"
 #include "screen/Keys.h"

@@ -124,7 +124,7 @@ int main(int argc, char* argv[]) {
                     CommandLine(QApplication::arguments().mid(1), drives)};
 
   Application application(platform);
-  help.look = [&application] { return LookOf(application.settings); };
+  help.look = [&application] { return LookOf(application.workbench.settings); };
   screen::Screen screen(application, screen::Clock::Real);
   const Connection ended = application.HasEnded.Connect([] {
     QMetaObject::invokeMethod(

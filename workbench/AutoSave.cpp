@@ -1,20 +1,29 @@
 #include "workbench/AutoSave.h"
 
 namespace tarvik {
+namespace {
+
+constexpr int kMinute = 60000;  // milliseconds
+
+}  // namespace
+
+AutoSave::AutoSave(Documents& documents, FileCommands& files) : documents_(documents), files_(files) {
+  timer.Interval = kMinute;
+}
 
 void AutoSave::Restart() {
   minutes_ = 0;
-  if (desk_.settings.AutoSaveEnabled == 1) timer_.Enabled = true;
+  if (documents_.settings.AutoSaveEnabled == 1) timer.Enabled = true;
 }
 
 void AutoSave::Minute() {
-  if (++minutes_ < desk_.settings.AutoSaveTime) return;
+  if (++minutes_ < documents_.settings.AutoSaveTime) return;
   minutes_ = 0;
   AutoSaveFile();
 }
 
 void AutoSave::AutoSaveFile() {
-  for (Document* document : {&desk_.joystick, &desk_.macro}) {
+  for (Document* document : {&documents_.joystick, &documents_.macro}) {
     // The history stays as it is, whatever is set for a save by hand.
     if (document->Dirty == saved::kModified) files_.WriteToDisk(*document, "ED_AutoSaveFile");
   }

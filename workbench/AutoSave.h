@@ -6,8 +6,12 @@
 namespace tarvik {
 
 class AutoSave {
+  Documents& documents_;  // the timer is made in it
+
  public:
-  AutoSave(Desk& desk, FileCommands& files, Timer& timer) : desk_(desk), files_(files), timer_(timer) {}
+  AutoSave(Documents& documents, FileCommands& files);
+
+  Timer timer{documents_, "Timer1"};
 
   /// Begins to count anew; the timer runs when the setting says so.
   void Restart();
@@ -17,9 +21,7 @@ class AutoSave {
   void AutoSaveFile();
 
  private:
-  Desk& desk_;
   FileCommands& files_;
-  Timer& timer_;
   int minutes_ = 0;
 };
 

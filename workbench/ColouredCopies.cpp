@@ -3,22 +3,22 @@
 namespace tarvik {
 
 std::string ColouredCopies::PathOf(const Document& document) const {
-  return desk_.values.RtfDir.Get() / document.Name;
+  return documents_.values.RtfDir.Get() / document.Name;
 }
 
 void ColouredCopies::Save(const Document& document) {
-  const Trap trap{desk_.errors, document.IsJoystick() ? "SaveColouredTextJF" : "SaveColouredTextMF"};
+  const Trap trap{documents_.errors, document.IsJoystick() ? "SaveColouredTextJF" : "SaveColouredTextMF"};
   trap(document.text.SaveFile(PathOf(document), FileFormat::Rtf));
 }
 
 bool ColouredCopies::Exists(const Document& document) const {
-  return desk_.platform.files.FileExists(PathOf(document));
+  return documents_.platform.files.FileExists(PathOf(document));
 }
 
 bool ColouredCopies::Load(Document& document) {
   if (!Exists(document)) return false;
-  const Scratch coloured(desk_.scratch);
-  const Scratch plain(desk_.compare);
+  const Scratch coloured(documents_.scratch);
+  const Scratch plain(documents_.compare);
   if (!Ignore(coloured->LoadFile(PathOf(document)))) return false;
   if (!Ignore(plain->LoadFile(document.Path.Get()))) return false;
   if (coloured->Characters() != plain->Characters()) return false;

@@ -2,13 +2,13 @@
 // files themselves stay plain text.
 #pragma once
 
-#include "workbench/Desk.h"
+#include "workbench/Documents.h"
 
 namespace tarvik {
 
 class ColouredCopies {
  public:
-  explicit ColouredCopies(Desk& desk) : desk_(desk) {}
+  explicit ColouredCopies(Documents& documents) : documents_(documents) {}
 
   /// Stores the document as it looks now.
   void Save(const Document& document);
@@ -20,7 +20,7 @@ class ColouredCopies {
  private:
   [[nodiscard]] std::string PathOf(const Document& document) const;
 
-  Desk& desk_;
+  Documents& documents_;
 };
 
 }  // namespace tarvik

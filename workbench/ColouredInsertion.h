@@ -2,7 +2,7 @@
 // closing of a group, which is one step of undo.
 #pragma once
 
-#include "workbench/Desk.h"
+#include "workbench/Documents.h"
 
 namespace tarvik {
 
@@ -12,7 +12,7 @@ using DocumentChanged = std::function<void(Document&)>;
 
 class ColouredInsertion {
  public:
-  ColouredInsertion(Desk& desk, DocumentChanged changed) : desk_(desk), changed_(std::move(changed)) {}
+  explicit ColouredInsertion(Documents& documents) : documents_(documents) {}
 
   void BeginColInsert();
   void EndColInsert();
@@ -34,8 +34,7 @@ class ColouredInsertion {
  private:
   void InsertBlack(const std::string& text);
 
-  Desk& desk_;
-  DocumentChanged changed_;
+  Documents& documents_;
 };
 
 }  // namespace tarvik

@@ -72,6 +72,21 @@ class Document : public Component {
   Property<std::size_t> SelLength{*this, traits.selLength};
   UndoHistory Undo{*this, traits.undoIndex, traits.undoStart, text};
 
+  /// Empty, and without anything of the file that it was.
+  void Reset() {
+    text.SetContent({});
+    text.Locked = false;
+    text.Overtype = false;
+    text.RightMargin = 0;
+    text.Visible = true;
+    Name = FileName();
+    Path = std::string();
+    Dirty = saved::kNoText;
+    Caret = 0;
+    SelLength = 0;
+    Undo.Clear();
+  }
+
   [[nodiscard]] bool IsJoystick() const { return traits.tab == 1; }
   [[nodiscard]] bool IsUntitled() const { return Name.Get().Text().starts_with("untitled"); }
 };

@@ -2,9 +2,8 @@
 // entries can be chosen.
 #pragma once
 
-#include "controls/Menu.h"
 #include "workbench/ColouredInsertion.h"
-#include "workbench/Desk.h"
+#include "workbench/Documents.h"
 
 namespace tarvik {
 
@@ -25,8 +24,8 @@ class Clipping {
 
 class EditCommands {
  public:
-  EditCommands(Desk& desk, ColouredInsertion& insertion, const Menus& menus, Toolbar& toolbar)
-      : desk_(desk), insertion_(insertion), menus_(menus), toolbar_(toolbar) {}
+  EditCommands(Documents& documents, ColouredInsertion& insertion)
+      : documents_(documents), insertion_(insertion) {}
 
   void Copy();
   void Cut();
@@ -34,20 +33,19 @@ class EditCommands {
   void Paste();
   void Delete();
   void SelectAll();
-  /// Fits menus and toolbar to the selection of the file on top, and to the clipboard.
-  void UpdateCCPButtons();
   /// In a text with no selection, puts the caret on a line of its own: a caret within a line goes behind a
   /// new line end at the line's end.
   void CheckAtLineBeginning();
+
+  /// What lies on the clipboard is the program's own now.
+  Signal<> Copied;
 
  private:
   [[nodiscard]] bool Refuses() const;
   void DeleteSelection(Document& document);
 
-  Desk& desk_;
+  Documents& documents_;
   ColouredInsertion& insertion_;
-  const Menus& menus_;
-  Toolbar& toolbar_;
 };
 
 }  // namespace tarvik

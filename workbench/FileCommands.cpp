@@ -128,42 +128,58 @@ constexpr const char* kNoPartnerMacroFile =
 
 // New.
 
+void FileCommands::Reset() {
+  toOpen_ = {};
+  lastFileName_.clear();
+}
+
+void FileCommands::BeginUntitled() {
+  documents_.status.Panels(8).Text = kNoMacroFile;
+  documents_.status.Panels(8).ToolTipText = "The macros in the macros list are from this file";
+  for (Document* const document : {&documents_.joystick, &documents_.macro}) {
+    documents_.ApplyLook(*document);
+    NameUntitled(*document);
+    document->Dirty = saved::kNoText;
+    ResetHistory(*document);
+  }
+}
+
 void FileCommands::NameUntitled(Document& document) {
-  const std::string extension = (desk_.settings.*document.traits.extension).Get();
+  const std::string extension = (documents_.settings.*document.traits.extension).Get();
   // The settings file may hold anything, also an extension that is none.
   document.Name = FileName::From("untitled." + extension).value_or(*FileName::From("untitled."));
   // No separator between the two: an untitled file is never saved there by hand.
-  document.Path = desk_.settings.ProgramFilesPath.Get() + document.Name.Get().Text();
+  document.Path = documents_.settings.ProgramFilesPath.Get() + document.Name.Get().Text();
   ShowName(document);
 }
 
 void FileCommands::ResetHistory(Document& document) {
   document.Undo.Clear();
-  desk_.updateUndoRedoMenus();
+  documents_.HistoryChanged();
 }
 
 void FileCommands::ShowName(const Document& document) {
-  desk_.TabOf(document).Caption = document.Name.Get().Text();
+  documents_.TabOf(document).Caption = document.Name.Get().Text();
 }
 
 bool FileCommands::New(Document& document) {
   if (!MayReplace(document, Question::New)) return false;
-  const Loading loading(desk_.values);
+  const Loading loading(documents_.values);
   document.Dirty = saved::kNoText;
   document.text.SetContent({});
-  desk_.ApplyLook(document);
+  documents_.ApplyLook(document);
   NameUntitled(document);
   if (!document.IsJoystick()) {
-    hooks_.showMacroFrame();
+    ShowsMacros();
     lists_.ClearAllForNewMacroFile();
-    desk_.status.Panels(8).Text = kNoMacroFile;
+    documents_.status.Panels(8).Text = kNoMacroFile;
   }
   document.Caret = 0;
   ResetHistory(document);
-  desk_.Select(document);
-  desk_.Say(WordsOf(document).created);
-  desk_.UpdateSavedIcon();
-  desk_.swatch.BackColor = document.text.SelColor;
+  documents_.Select(document);
+  documents_.Say(WordsOf(document).created);
+  documents_.UpdateSavedIcon();
+  documents_.swatch.BackColor = document.text.SelColor;
   lists_.ClearMacroTicks();
   return true;
 }
@@ -172,8 +188,8 @@ bool FileCommands::New(Document& document) {
 
 bool FileCommands::AskToSave(Document& document, const SaveQuestion& question) {
   if (document.Dirty != saved::kModified) return true;
-  return MayGo(desk_.platform.dialogs, document.Name.Get().Text(), question, [&] {
-    desk_.Select(document);
+  return MayGo(documents_.platform.dialogs, document.Name.Get().Text(), question, [&] {
+    documents_.Select(document);
     Save(document);
     return document.Dirty != saved::kModified;
   });
@@ -189,7 +205,7 @@ bool FileCommands::MayReplace(Document& document, Question question) {
 
 bool FileCommands::MayExit() {
   const SaveQuestion question{kExitQuestion, kExitRefusedTitle, kExitRefused};
-  return AskToSave(desk_.macro, question) && AskToSave(desk_.joystick, question);
+  return AskToSave(documents_.macro, question) && AskToSave(documents_.joystick, question);
 }
 
 // Open.
@@ -205,8 +221,8 @@ FileCommands::File FileCommands::GivenFile() const {
 }
 
 std::optional<FileCommands::File> FileCommands::ChooseFile(const FileRequest& request) {
-  Ignore(desk_.platform.files.ChangeDrive(request.folder));
-  const auto chosen = desk_.platform.dialogs.AskForFile(request);
+  Ignore(documents_.platform.files.ChangeDrive(request.folder));
+  const auto chosen = documents_.platform.dialogs.AskForFile(request);
   if (!chosen) return {};
   lastFileName_ = *chosen;
   return FileAt<File>(*chosen);
@@ -214,16 +230,26 @@ std::optional<FileCommands::File> FileCommands::ChooseFile(const FileRequest& re
 
 /// A file that cannot be read is told, and the document in its place stays.
 bool FileCommands::CanRead(const std::string& path, const Trap& trap) {
-  if (trap(desk_.platform.files.Read(path))) return true;
-  desk_.Say(path + " can't be opened");
+  if (trap(documents_.platform.files.Read(path))) return true;
+  documents_.Say(path + " can't be opened");
   return false;
+}
+
+void FileCommands::Remember(const Document& document) {
+  if (document.IsJoystick()) {
+    previous_.RecentJFToAdd = document.Path;
+    previous_.UpdateRecentJFMenuList();
+  } else {
+    previous_.RecentMFToAdd = document.Path;
+    previous_.UpdateRecentMFMenuList();
+  }
 }
 
 void FileCommands::TakeFile(Document& document, const File& file) {
   document.Path = file.path;
   document.Name = file.name;
   ShowName(document);
-  hooks_.remember(document);
+  Remember(document);
 }
 
 /// The coloured copy when it is true to the file, else the file itself, coloured. A file that went bad since
@@ -234,7 +260,7 @@ void FileCommands::FillPane(Document& document, const Trap& trap) {
       document.text.SetContent({});
       NameUntitled(document);
     }
-    if (desk_.settings.ApplyColoursOnFileOpen == 1) highlighter_.Apply(document);
+    if (documents_.settings.ApplyColoursOnFileOpen == 1) highlighter_.Apply(document);
   }
   document.Caret = 0;
   document.text.SelStart = 0;
@@ -245,22 +271,22 @@ void FileCommands::FillPane(Document& document, const Trap& trap) {
 void FileCommands::Load(Document& document) {
   if (!MayReplace(document, Question::Load)) return;
   const FileWords& words = WordsOf(document);
-  const Trap trap{desk_.errors, words.loadTag};
+  const Trap trap{documents_.errors, words.loadTag};
   File file = GivenFile();
   if (file.path.empty()) {
-    desk_.Say(words.opening);
-    const std::string extension = (desk_.settings.*document.traits.extension).Get();
+    documents_.Say(words.opening);
+    const std::string extension = (documents_.settings.*document.traits.extension).Get();
     const auto chosen = ChooseFile({FileDialogKind::Open,
                                     {},
                                     Filter(words, extension, words.allTypes),
-                                    desk_.settings.ProgramFilesPath,
+                                    documents_.settings.ProgramFilesPath,
                                     {},
                                     {}});
     if (!chosen) return;
     file = *chosen;
   }
   if (!CanRead(file.path, trap)) return;
-  const Loading loading(desk_.values);
+  const Loading loading(documents_.values);
   if (document.IsJoystick()) {
     TakeFile(document, file);
     FillPane(document, trap);
@@ -268,45 +294,74 @@ void FileCommands::Load(Document& document) {
   } else {
     OpenMacro(file, trap);
   }
-  desk_.Select(document);
-  desk_.UpdateSavedIcon();
-  desk_.updateUndoRedoMenus();
-  if (words.opened) desk_.Say(words.opened);
+  documents_.Select(document);
+  documents_.UpdateSavedIcon();
+  documents_.HistoryChanged();
+  if (words.opened) documents_.Say(words.opened);
 }
 
 void FileCommands::AnalyseMacroFile() {
-  const Loading loading(desk_.values);
-  hooks_.showMacroFrame();
+  const Loading loading(documents_.values);
+  ShowsMacros();
   lists_.ClearAllForNewMacroFile();
-  desk_.status.Panels(8).Text = desk_.macro.Name.Get().Text();
+  documents_.status.Panels(8).Text = documents_.macro.Name.Get().Text();
   lists_.GetEachLineFromMacroFile();
   lists_.ExtractMacrosAndTitles();
 }
 
-void FileCommands::OpenMacro(const File& file, const Trap& trap) {
-  TakeFile(desk_.macro, file);
+void FileCommands::UpdateMacros() {
+  Document& macro = documents_.macro;
+  const std::size_t equals = macro.text.Characters().find('=');
+  if (equals == std::string_view::npos || equals == 0) return;
+  documents_.Select(macro);
+  if (macro.Dirty == saved::kModified) {
+    Dialogs& dialogs = documents_.platform.dialogs;
+    const std::string name = macro.Name.Get().Text();
+    const Answer answer =
+        dialogs.Show({" Save " + name + " now?",
+                      name + " has changed and isn't saved. You must save it if you want to update "
+                             "your macros list. Shall I go ahead and save it?",
+                      BoxIcon::Question, BoxButtons::YesNo});
+    if (answer == Answer::Yes) {
+      documents_.Select(macro);
+      Save(macro);
+    }
+    if (answer != Answer::Yes || macro.Dirty == saved::kModified) {
+      dialogs.Show({"File not saved", name + " wasn't saved, so I won't continue to update your macros list.",
+                    BoxIcon::Exclamation, BoxButtons::Ok});
+      return;
+    }
+  }
+  documents_.values.MacroListChanged = 1;
   AnalyseMacroFile();
-  desk_.Say("Finished opening up macro file and extracting macros from it");
-  FillPane(desk_.macro, trap);
+}
+
+void FileCommands::OpenMacro(const File& file, const Trap& trap) {
+  TakeFile(documents_.macro, file);
+  AnalyseMacroFile();
+  documents_.Say("Finished opening up macro file and extracting macros from it");
+  FillPane(documents_.macro, trap);
 }
 
 void FileCommands::OpenPair() {
-  const Trap trap{desk_.errors, "ED_mnuFileOpen_Click"};
-  if (!MayReplace(desk_.joystick, Question::OpenPair) || !MayReplace(desk_.macro, Question::OpenPair)) return;
-  desk_.Say("Opening joystick and associated macro file together ....");
+  const Trap trap{documents_.errors, "ED_mnuFileOpen_Click"};
+  if (!MayReplace(documents_.joystick, Question::OpenPair) ||
+      !MayReplace(documents_.macro, Question::OpenPair))
+    return;
+  documents_.Say("Opening joystick and associated macro file together ....");
   File file = GivenFile();
   if (file.path.empty()) {
     const auto chosen =
         ChooseFile({FileDialogKind::Open,
                     "Select the joystick file or the macro file - I'll open both of them",
-                    PairFilter(desk_.settings.JoystickExtension, desk_.settings.MacroExtension),
-                    desk_.settings.ProgramFilesPath,
+                    PairFilter(documents_.settings.JoystickExtension, documents_.settings.MacroExtension),
+                    documents_.settings.ProgramFilesPath,
                     {},
                     {}});
     if (!chosen) return;
     file = *chosen;
   }
-  const Loading loading(desk_.values);
+  const Loading loading(documents_.values);
   if (EndsAs(file.name.Text(), &Pair::macro)) {
     if (CanRead(file.path, trap)) OpenMacroThenJoystick(file, trap);
   } else if (EndsAs(file.name.Text(), &Pair::joystick)) {
@@ -327,23 +382,32 @@ void FileCommands::OpenPairAmong(const std::vector<std::string>& paths) {
   OpenWithDialogs();
 }
 
+void FileCommands::OpenFavourite(const std::string& path) {
+  if (path.empty()) return;
+  OpenWithoutDialog(path);
+  const bool macro = std::any_of(std::begin(kPairs), std::end(kPairs),
+                                 [&path](const Pair& pair) { return path.ends_with(pair.macro); });
+  Load(macro ? documents_.macro : documents_.joystick);
+  OpenWithDialogs();
+}
+
 /// A macro file finds its joystick file by the same name beside it.
 void FileCommands::OpenMacroThenJoystick(const File& file, const Trap& trap) {
   OpenMacro(file, trap);
-  desk_.Select(desk_.macro);
-  desk_.UpdateSavedIcon();
+  documents_.Select(documents_.macro);
+  documents_.UpdateSavedIcon();
   const auto pair = std::find_if(std::begin(kPairs), std::end(kPairs),
                                  [&](const Pair& each) { return each.macro == Ending(file.name.Text()); });
   const auto partner = FileAt<File>(WithEnding(file.path, pair->joystick));
-  if (!partner || !desk_.platform.files.FileExists(partner->path)) {
-    desk_.Say("Joystick file not opened");
-    desk_.platform.dialogs.Show(
+  if (!partner || !documents_.platform.files.FileExists(partner->path)) {
+    documents_.Say("Joystick file not opened");
+    documents_.platform.dialogs.Show(
         {"Couldn't find associated joystick file", kNoJoystickFile, BoxIcon::Information, BoxButtons::Ok});
     return;
   }
   if (!CanRead(partner->path, trap)) return;
-  TakeFile(desk_.joystick, *partner);
-  FillPane(desk_.joystick, trap);
+  TakeFile(documents_.joystick, *partner);
+  FillPane(documents_.joystick, trap);
   FinishPair();
 }
 
@@ -372,15 +436,15 @@ std::optional<FileCommands::File> FileCommands::MacroFileNamedIn(Document& joyst
 }
 
 void FileCommands::OpenJoystickThenMacro(const File& file, const Trap& trap) {
-  TakeFile(desk_.joystick, file);
-  FillPane(desk_.joystick, trap);
-  desk_.Select(desk_.joystick);
-  desk_.UpdateSavedIcon();
-  desk_.Say("Looking for associated macro file");
-  const auto partner = MacroFileNamedIn(desk_.joystick);
-  if (!partner || !desk_.platform.files.FileExists(partner->path)) {
-    desk_.Say("Macro file not opened");
-    desk_.platform.dialogs.Show(
+  TakeFile(documents_.joystick, file);
+  FillPane(documents_.joystick, trap);
+  documents_.Select(documents_.joystick);
+  documents_.UpdateSavedIcon();
+  documents_.Say("Looking for associated macro file");
+  const auto partner = MacroFileNamedIn(documents_.joystick);
+  if (!partner || !documents_.platform.files.FileExists(partner->path)) {
+    documents_.Say("Macro file not opened");
+    documents_.platform.dialogs.Show(
         {"Couldn't find associated macro file", kNoPartnerMacroFile, BoxIcon::Information, BoxButtons::Ok});
     lists_.ClearMacroTicks();
     return;
@@ -391,15 +455,15 @@ void FileCommands::OpenJoystickThenMacro(const File& file, const Trap& trap) {
 }
 
 void FileCommands::FinishPair() {
-  for (Document* document : {&desk_.macro, &desk_.joystick}) {
+  for (Document* document : {&documents_.macro, &documents_.joystick}) {
     document->Caret = 0;
     document->text.SelStart = 0;
   }
-  desk_.Select(desk_.joystick);
-  desk_.UpdateSavedIcon();
-  desk_.updateUndoRedoMenus();
-  desk_.Say("Done");
-  if (desk_.settings.CheckIdentifyOK == 1) {
+  documents_.Select(documents_.joystick);
+  documents_.UpdateSavedIcon();
+  documents_.HistoryChanged();
+  documents_.Say("Done");
+  if (documents_.settings.CheckIdentifyOK == 1) {
     lists_.IdentifyMacrosUsed();
   } else {
     lists_.ClearMacroTicks();
@@ -407,19 +471,19 @@ void FileCommands::FinishPair() {
 }
 
 void FileCommands::TellUnrecognised() {
-  desk_.Say("Your file extensions may need adjusting in Preferences");
-  desk_.platform.dialogs.Show({"Tarvik",
-                               "The file you opened isn't recognised as either a ." +
-                                   desk_.settings.JoystickExtension.Get() + " or a ." +
-                                   desk_.settings.MacroExtension.Get() +
-                                   " file. This is probably because you need to set the preferences to "
-                                   "display what the default extensions you "
-                                   "will be using for your hardware. I'll take you there now. And don't "
-                                   "start on me ... I'm just the computer "
-                                   "... not the programmer.",
-                               BoxIcon::None, BoxButtons::Ok});
-  hooks_.showPreferences();
-  desk_.Say("Files not opened");
+  documents_.Say("Your file extensions may need adjusting in Preferences");
+  documents_.platform.dialogs.Show({"Tarvik",
+                                    "The file you opened isn't recognised as either a ." +
+                                        documents_.settings.JoystickExtension.Get() + " or a ." +
+                                        documents_.settings.MacroExtension.Get() +
+                                        " file. This is probably because you need to set the preferences to "
+                                        "display what the default extensions you "
+                                        "will be using for your hardware. I'll take you there now. And don't "
+                                        "start on me ... I'm just the computer "
+                                        "... not the programmer.",
+                                    BoxIcon::None, BoxButtons::Ok});
+  NeedsPreferences();
+  documents_.Say("Files not opened");
 }
 
 // Save.
@@ -434,17 +498,17 @@ void FileCommands::Save(Document& document) {
 
 void FileCommands::SaveAs(Document& document) {
   const FileWords& words = WordsOf(document);
-  const Document& other = document.IsJoystick() ? desk_.macro : desk_.joystick;
-  const std::string extension = (desk_.settings.*document.traits.extension).Get();
+  const Document& other = document.IsJoystick() ? documents_.macro : documents_.joystick;
+  const std::string extension = (documents_.settings.*document.traits.extension).Get();
   // The dialog may remember the other file: the pair must not share name and extension.
   std::string suggestion = lastFileName_;
-  if (!suggestion.empty() && Ending(suggestion) == (desk_.settings.*other.traits.extension).Get()) {
+  if (!suggestion.empty() && Ending(suggestion) == (documents_.settings.*other.traits.extension).Get()) {
     suggestion = WithEnding(suggestion, extension);
   }
   const auto chosen = ChooseFile({FileDialogKind::Save,
                                   {},
                                   Filter(words, extension, words.saveTypes),
-                                  desk_.settings.ProgramFilesPath,
+                                  documents_.settings.ProgramFilesPath,
                                   suggestion,
                                   extension});
   if (!chosen) return;
@@ -457,32 +521,32 @@ void FileCommands::SaveAs(Document& document) {
 
 void FileCommands::SaveText(Document& document) {
   WriteToDisk(document, WordsOf(document).saveTag);
-  if (desk_.settings.UndoClearOnSave == 1) ResetHistory(document);
+  if (documents_.settings.UndoClearOnSave == 1) ResetHistory(document);
 }
 
 void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
-  const Trap trap{desk_.errors, tag};
-  const Scratch scratch(desk_.scratch);
+  const Trap trap{documents_.errors, tag};
+  const Scratch scratch(documents_.scratch);
   scratch->SetContent(RichText(std::string(document.text.Characters())));
   trap(scratch->SaveFile(document.Path.Get(), FileFormat::Text));
-  const auto shown = FileName::From(desk_.TabOf(document).Caption.Get());
-  if (desk_.settings.CreateBackup == 1 && shown) {
-    trap(scratch->SaveFile(desk_.values.BackupDir.Get() / *shown, FileFormat::Text));
+  const auto shown = FileName::From(documents_.TabOf(document).Caption.Get());
+  if (documents_.settings.CreateBackup == 1 && shown) {
+    trap(scratch->SaveFile(documents_.values.BackupDir.Get() / *shown, FileFormat::Text));
   }
-  hooks_.remember(document);
-  desk_.Say(document.Path.Get() + " saved successfully.");
+  Remember(document);
+  documents_.Say(document.Path.Get() + " saved successfully.");
   document.Dirty = saved::kSaved;
-  desk_.UpdateSavedIcon();
+  documents_.UpdateSavedIcon();
   copies_.Save(document);
 }
 
 void FileCommands::SaveBoth() {
-  Document& before = desk_.Active();
-  for (Document* document : {&desk_.joystick, &desk_.macro}) {
-    desk_.Select(*document);
+  Document& before = documents_.Active();
+  for (Document* document : {&documents_.joystick, &documents_.macro}) {
+    documents_.Select(*document);
     Save(*document);
   }
-  desk_.Select(before);
+  documents_.Select(before);
 }
 
 }  // namespace tarvik

@@ -4,22 +4,20 @@
 
 #include "workbench/Highlighter.h"
 #include "workbench/MacroLists.h"
+#include "workbench/PreviousFiles.h"
 #include "workbench/SaveQuestion.h"
 
 namespace tarvik {
 
-/// What the editor does for them.
-struct FileHooks {
-  std::function<void()> showMacroFrame;
-  std::function<void()> showPreferences;
-  std::function<void(const Document&)> remember;  ///< after a file was opened or saved
-};
-
 class FileCommands {
  public:
-  FileCommands(Desk& desk, ColouredCopies& copies, Highlighter& highlighter, MacroLists& lists,
-               FileHooks hooks)
-      : desk_(desk), copies_(copies), highlighter_(highlighter), lists_(lists), hooks_(std::move(hooks)) {}
+  FileCommands(Documents& documents, ColouredCopies& copies, Highlighter& highlighter, MacroLists& lists,
+               PreviousFiles& previous)
+      : documents_(documents),
+        copies_(copies),
+        highlighter_(highlighter),
+        lists_(lists),
+        previous_(previous) {}
 
   /// Name, path and tab of a file that has none yet.
   void NameUntitled(Document& document);
@@ -38,10 +36,18 @@ class FileCommands {
   bool MayExit();
   /// Reads the macro file and fills the macro lists.
   void AnalyseMacroFile();
+  /// The same by the user's wish, from a file with macros that is saved.
+  void UpdateMacros();
+  /// Both files new and untitled, and nothing analysed: what the editor begins with.
+  void BeginUntitled();
+  /// Forgets what was opened last.
+  void Reset();
 
   /// The next load or open takes this path and shows no dialog. A path without a folder leaves the name of
   /// the file opened so before.
   void OpenWithoutDialog(const std::string& path);
+  /// Opens the one file, as a macro file or a joystick file by its ending; no path, no file.
+  void OpenFavourite(const std::string& path);
   void OpenWithDialogs() { toOpen_.path.clear(); }
   [[nodiscard]] const std::string& NameToOpen() const { return toOpen_.name.Text(); }
 
@@ -50,6 +56,11 @@ class FileCommands {
   /// Writes file, backup and coloured copy, wherever the document's path is, and shows it as saved. Failures
   /// are recorded under `tag`.
   void WriteToDisk(Document& document, std::string_view tag);
+
+  /// The macro lists are about to be made anew and want to be seen.
+  Signal<> ShowsMacros;
+  /// The settings of the files do not fit what the user opens, and who can change them is to be asked for.
+  Signal<> NeedsPreferences;
 
  private:
   enum class Question { New, Load, OpenPair };
@@ -65,6 +76,7 @@ class FileCommands {
   /// What is to be opened without a dialog, in lower case; its path is empty when there is to be one.
   [[nodiscard]] File GivenFile() const;
   void ShowName(const Document& document);
+  void Remember(const Document& document);
   bool CanRead(const std::string& path, const Trap& trap);
   void TakeFile(Document& document, const File& file);
   void FillPane(Document& document, const Trap& trap);
@@ -76,11 +88,11 @@ class FileCommands {
   void TellUnrecognised();
   void FinishPair();
 
-  Desk& desk_;
+  Documents& documents_;
   ColouredCopies& copies_;
   Highlighter& highlighter_;
   MacroLists& lists_;
-  FileHooks hooks_;
+  PreviousFiles& previous_;
   File toOpen_;               // without a dialog, when it has a path
   std::string lastFileName_;  // what the file dialog shows next
 };

@@ -24,33 +24,33 @@ int Clamped(std::size_t position) {
 }  // namespace
 
 void Highlighter::Apply(Document& document) {
-  const std::string caption = desk_.TabOf(document).Caption;
+  const std::string caption = documents_.TabOf(document).Caption;
   if (document.text.Characters().empty()) {
-    desk_.Say(caption + " has no text to highlight.");
+    documents_.Say(caption + " has no text to highlight.");
     return;
   }
-  const Loading loading(desk_.values);
+  const Loading loading(documents_.values);
   Remove(document);
-  desk_.Select(document);
-  desk_.Say("Applying colour highlighting to " + caption + ". Please wait ...");
-  desk_.ApplyLook(desk_.macro);
+  documents_.Select(document);
+  documents_.Say("Applying colour highlighting to " + caption + ". Please wait ...");
+  documents_.ApplyLook(documents_.macro);
   ApplyLookOfJoystick(document);
 
-  MakePasses(document.text, document.IsJoystick() ? JoystickPasses() : MacroPasses(), desk_.settings,
-             {desk_.status.Panels(1), desk_.progress, true});
+  MakePasses(document.text, document.IsJoystick() ? JoystickPasses() : MacroPasses(), documents_.settings,
+             {documents_.status.Panels(1), documents_.progress, true});
 
-  desk_.macro.text.SelStart = desk_.macro.Caret;
-  desk_.joystick.text.SelStart = desk_.joystick.Caret;
+  documents_.macro.text.SelStart = documents_.macro.Caret;
+  documents_.joystick.text.SelStart = documents_.joystick.Caret;
   document.Undo.StoreLook();
   if (document.Dirty == saved::kSaved || copies_.Exists(document)) copies_.Save(document);
-  desk_.Say("Done");
+  documents_.Say("Done");
 }
 
 /// Colouring the macro file leaves the joystick pane's indent alone.
 void Highlighter::ApplyLookOfJoystick(const Document& coloured) {
-  if (coloured.IsJoystick()) return desk_.ApplyLook(desk_.joystick);
-  desk_.ApplyBackground(desk_.joystick);
-  ApplyFontOnly(desk_.joystick.text, desk_.settings);
+  if (coloured.IsJoystick()) return documents_.ApplyLook(documents_.joystick);
+  documents_.ApplyBackground(documents_.joystick);
+  ApplyFontOnly(documents_.joystick.text, documents_.settings);
 }
 
 void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settings,
@@ -86,16 +86,17 @@ void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settin
 }
 
 void Highlighter::Remove(Document& document) {
-  const Loading loading(desk_.values);
-  desk_.Say("Removing colour highlighting from " + desk_.TabOf(document).Caption.Get() + ". Please wait ...");
+  const Loading loading(documents_.values);
+  documents_.Say("Removing colour highlighting from " + documents_.TabOf(document).Caption.Get() +
+                 ". Please wait ...");
   document.text.Recolour(0, ColourRuns(document.text.Characters().size(), kBlack));
   document.text.SelStart = document.Caret;
-  desk_.Say("Done");
+  documents_.Say("Done");
 }
 
 void Highlighter::ColourSelection(Colour colour) {
-  const Loading loading(desk_.values);
-  desk_.Active().text.SelColor = colour;
+  const Loading loading(documents_.values);
+  documents_.Active().text.SelColor = colour;
 }
 
 }  // namespace tarvik

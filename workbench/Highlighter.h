@@ -23,7 +23,7 @@ void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settin
 
 class Highlighter {
  public:
-  Highlighter(Desk& desk, ColouredCopies& copies) : desk_(desk), copies_(copies) {}
+  Highlighter(Documents& documents, ColouredCopies& copies) : documents_(documents), copies_(copies) {}
 
   /// Removes all colour and makes all passes of the document's language, with their progress on show. Never
   /// marks a document as changed and is no undo step: it changes how the snapshot on show looks.
@@ -36,7 +36,7 @@ class Highlighter {
  private:
   void ApplyLookOfJoystick(const Document& coloured);
 
-  Desk& desk_;
+  Documents& documents_;
   ColouredCopies& copies_;
 };
 

@@ -1,9 +1,16 @@
 #include "workbench/LineBlink.h"
 
 namespace tarvik {
+namespace {
+
+constexpr int kInterval = 200;  // milliseconds
+
+}  // namespace
+
+LineBlink::LineBlink(Documents& documents) : documents_(documents) { timer.Interval = kInterval; }
 
 void LineBlink::HighlightLineAtIP() {
-  Document& document = desk_.Active();
+  Document& document = documents_.Active();
   Pane& pane = document.text;
   const std::string_view text = pane.Characters();
   if (text.empty()) return;
@@ -22,7 +29,12 @@ void LineBlink::Start() {
   PutSelectionBack();
   HighlightLineAtIP();
   step_ = 0;
-  timer_.Enabled = true;
+  timer.Enabled = true;
+}
+
+void LineBlink::Stop() {
+  timer.Enabled = false;
+  document_ = nullptr;
 }
 
 /// The caret memory too: a key going up takes the highlight for what the user selected. Who has moved on
@@ -43,7 +55,7 @@ void LineBlink::Step() {
   } else {
     PutSelectionBack();
   }
-  if (++step_ > kLastStep) timer_.Enabled = false;
+  if (++step_ > kLastStep) timer.Enabled = false;
 }
 
 }  // namespace tarvik

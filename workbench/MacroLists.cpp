@@ -42,79 +42,87 @@ constexpr Starter kDefinitionStarters[] = {
 
 void MacroLists::ClearAllForNewMacroFile() {
   headings_.clear();
-  categories_.Clear();
-  lists_(0).Clear();
-  for (int i = lists_.Count() - 1; i > 0; --i) lists_.Unload(i);
-  lists_(0).Visible = true;
-  desk_.values.SelectedCategoryList = 0;
+  categories.Clear();
+  lists(0).Clear();
+  for (int i = lists.Count() - 1; i > 0; --i) lists.Unload(i);
+  lists(0).Visible = true;
+  documents_.values.SelectedCategoryList = 0;
   PopupListIndex = 0;  // the list it was opened on may be gone
-  desk_.values.MacroListChanged = 1;
+  documents_.values.MacroListChanged = 1;
+}
+
+void MacroLists::Reset() {
+  const int changed = documents_.values.MacroListChanged;
+  ClearAllForNewMacroFile();
+  documents_.values.MacroListChanged = changed;
+  records_.clear();
 }
 
 void MacroLists::GetEachLineFromMacroFile() {
-  const Trap trap{desk_.errors, "ED_GetEachLineFromMacroFile"};
-  const std::string path = desk_.macro.Path;
-  if (!desk_.platform.files.FileExists(path)) return;
-  desk_.Say("Opening " + desk_.macro.Name.Get().Text() + " file for analysis ");
+  const Trap trap{documents_.errors, "ED_GetEachLineFromMacroFile"};
+  const std::string path = documents_.macro.Path;
+  if (!documents_.platform.files.FileExists(path)) return;
+  documents_.Say("Opening " + documents_.macro.Name.Get().Text() + " file for analysis ");
   records_.clear();
-  if (const auto content = trap(desk_.platform.files.Read(path))) records_ = ReadMacroRecords(*content);
+  if (const auto content = trap(documents_.platform.files.Read(path))) records_ = ReadMacroRecords(*content);
 }
 
 void MacroLists::ExtractMacrosAndTitles() {
-  desk_.Say("Analysing " + desk_.macro.Name.Get().Text() + " for macros and sub-headings. Please wait ...");
+  documents_.Say("Analysing " + documents_.macro.Name.Get().Text() +
+                 " for macros and sub-headings. Please wait ...");
   Fill(AnalyseMacros(records_));
-  desk_.Say("Done");
+  documents_.Say("Done");
   ShowAll();
-  desk_.status.Panels(8).ToolTipText = "Contains " + TextOf(lists_(0).ListCount()) + " macros and " +
-                                       TextOf(headings_.size() - 1) + " macro headings";
+  documents_.status.Panels(8).ToolTipText = "Contains " + TextOf(lists(0).ListCount()) + " macros and " +
+                                            TextOf(headings_.size() - 1) + " macro headings";
 }
 
 void MacroLists::Fill(MacroAnalysis analysis) {
   headings_ = {kAll};
-  lists_(0).Fill(std::move(analysis.macros));
+  lists(0).Fill(std::move(analysis.macros));
   for (MacroCategory& category : analysis.categories) {
     headings_.push_back(std::move(category.heading));
-    ListBox& list = lists_.Load(lists_.Count());
+    ListBox& list = lists.Load(lists.Count());
     list.Fill(std::move(category.macros));
   }
-  categories_.Fill(headings_);
+  categories.Fill(headings_);
 }
 
 /// Selects "All". A list may bear that name too: each entry of the name is selected in turn.
 void MacroLists::ShowAll() {
-  for (int item = 0; item < categories_.ListCount(); ++item) {
-    if (categories_.List()[static_cast<std::size_t>(item)] != kAll) continue;
-    desk_.values.SelectedCategoryList = item;
-    categories_.Select(item);
-    lists_(item).ToFront();
+  for (int item = 0; item < categories.ListCount(); ++item) {
+    if (categories.List()[static_cast<std::size_t>(item)] != kAll) continue;
+    documents_.values.SelectedCategoryList = item;
+    categories.Select(item);
+    lists(item).ToFront();
   }
 }
 
 void MacroLists::ShowMacroKeys() {
-  const std::string& name = desk_.values.SelectedMacro;
+  const std::string& name = documents_.values.SelectedMacro;
   const auto record = std::find_if(records_.begin(), records_.end(), [&name](const std::string& line) {
     return line.find(name) != std::string::npos && line.find('=') != std::string::npos;
   });
   if (record == records_.end()) return;
-  desk_.Say(*record);
-  if (!desk_.macro.text.Visible) return;
-  desk_.macro.text.Find(*record, 0, desk_.macro.text.Characters().size());
-  desk_.macro.SelLength = desk_.macro.text.SelLength;
+  documents_.Say(*record);
+  if (!documents_.macro.text.Visible) return;
+  documents_.macro.text.Find(*record, 0, documents_.macro.text.Characters().size());
+  documents_.macro.SelLength = documents_.macro.text.SelLength;
 }
 
-void MacroLists::ShowCategory(const ComboBox& categories, const ControlArray<ListBox>& lists) {
-  const std::string wanted = LowerCase(categories.Text());
-  const int count = std::min(lists.Count(), static_cast<int>(headings_.size()));
+void MacroLists::ShowCategory(const ComboBox& chosen, const ControlArray<ListBox>& shown) {
+  const std::string wanted = LowerCase(chosen.Text());
+  const int count = std::min(shown.Count(), static_cast<int>(headings_.size()));
   for (int i = 0; i < count; ++i) {
-    ListBox& list = lists(i);
-    const bool chosen = LowerCase(headings_[static_cast<std::size_t>(i)]) == wanted;
-    list.Visible = chosen;
-    if (!chosen) continue;
-    desk_.values.SelectedCategoryList = i;
+    ListBox& list = shown(i);
+    const bool isWanted = LowerCase(headings_[static_cast<std::size_t>(i)]) == wanted;
+    list.Visible = isWanted;
+    if (!isWanted) continue;
+    documents_.values.SelectedCategoryList = i;
     list.ToFront();
   }
-  if (desk_.values.SelectedCategoryList >= lists.Count()) return;
-  ListBox& front = lists(desk_.values.SelectedCategoryList);
+  if (documents_.values.SelectedCategoryList >= shown.Count()) return;
+  ListBox& front = shown(documents_.values.SelectedCategoryList);
   if (front.ListCount() == 0) return;
   front.ListIndex = 0;
   TakeFrom(front);
@@ -130,63 +138,63 @@ void MacroLists::TakeUnder(const ListBox& list, const Mouse& mouse) {
 }
 
 void MacroLists::IdentifyMacrosUsed() {
-  const std::string_view text = desk_.joystick.text.Characters();
-  if (text.find('e') == std::string_view::npos || desk_.macro.text.Characters().empty()) {
-    desk_.platform.dialogs.Show(
+  const std::string_view text = documents_.joystick.text.Characters();
+  if (text.find('e') == std::string_view::npos || documents_.macro.text.Characters().empty()) {
+    documents_.platform.dialogs.Show(
         {kNothingToAnalyseTitle, kNothingToAnalyse, BoxIcon::Exclamation, BoxButtons::Ok});
     return;
   }
-  desk_.Say("Analysing the macros you've already assigned in the " + desk_.joystick.Name.Get().Text() +
-            ". Please wait ...");
-  desk_.mousePointer = pointer::kHourglass;
+  documents_.Say("Analysing the macros you've already assigned in the " +
+                 documents_.joystick.Name.Get().Text() + ". Please wait ...");
+  documents_.Busy = true;
   TickNamesUsed(text);
   ShowAll();
-  desk_.values.MacroListChanged = 1;
-  desk_.Say("Finished analysing the macros assigned in your joystick file...phew!...fancy a beer?");
-  desk_.mousePointer = pointer::kDefault;
+  documents_.values.MacroListChanged = 1;
+  documents_.Say("Finished analysing the macros assigned in your joystick file...phew!...fancy a beer?");
+  documents_.Busy = false;
 }
 
 /// The names of all lists are looked up at once: the text is read through once for all of them.
 void MacroLists::TickNamesUsed(std::string_view text) {
   std::vector<std::string> names;
-  for (int i = 0; i < lists_.Count(); ++i) {
-    names.insert(names.end(), lists_(i).List().begin(), lists_(i).List().end());
+  for (int i = 0; i < lists.Count(); ++i) {
+    names.insert(names.end(), lists(i).List().begin(), lists(i).List().end());
   }
   const std::vector<bool> used = NamesUsed(text, names);
   auto first = used.begin();
-  for (int i = 0; i < lists_.Count(); ++i) {
-    const auto last = first + lists_(i).ListCount();
-    lists_(i).Tick(std::vector<bool>(first, last));
+  for (int i = 0; i < lists.Count(); ++i) {
+    const auto last = first + lists(i).ListCount();
+    lists(i).Tick(std::vector<bool>(first, last));
     first = last;
   }
 }
 
 void MacroLists::ClearMacroTicks() {
-  for (int i = 0; i < lists_.Count(); ++i) lists_(i).Tick({});
+  for (int i = 0; i < lists.Count(); ++i) lists(i).Tick({});
 }
 
 void MacroLists::FindMacroInJF() {
-  Document& document = desk_.joystick;
-  desk_.Select(document);
-  document.text.Find(desk_.values.SelectedMacro.Get(), 0, document.text.Characters().size(),
+  Document& document = documents_.joystick;
+  documents_.Select(document);
+  document.text.Find(documents_.values.SelectedMacro.Get(), 0, document.text.Characters().size(),
                      find::kWholeWord);
   document.SelLength = document.text.SelLength;
   document.Caret = document.text.SelStart;
 }
 
 void MacroLists::ExtractButtonDefinition(const std::string& name) {
-  Document& document = desk_.joystick;
+  Document& document = documents_.joystick;
   Pane& pane = document.text;
   const std::size_t length = pane.Characters().size();
   if (length == 0) return;
-  desk_.Select(document);
+  documents_.Select(document);
   const std::size_t keptCaret = document.Caret;
   document.Caret = 0;
   const auto hit = pane.Find(name, 0, length, find::kWholeWord);
   if (!hit) {
     pane.SelStart = keptCaret;
     document.Caret = keptCaret;
-    desk_.Active().text.SetFocus();
+    documents_.Active().text.SetFocus();
     return;
   }
   const std::size_t body = *hit + name.size();
@@ -200,19 +208,19 @@ void MacroLists::ExtractButtonDefinition(const std::string& name) {
   const std::size_t start = name.starts_with("PortB") ? *hit - std::min<std::size_t>(*hit, 4) : *hit;
   pane.Select({start, end - *hit});
   document.SelLength = pane.SelLength;
-  desk_.Active().text.SetFocus();
+  documents_.Active().text.SetFocus();
 }
 
 void MacroLists::Insert(const ListBox& list) {
   if (list.ListIndex < 0) return;  // no macro is in hand
-  Document& document = desk_.joystick;
+  Document& document = documents_.joystick;
   Pane& pane = document.text;
-  if (!pane.Visible) desk_.Select(document);
+  if (!pane.Visible) documents_.Select(document);
   TakeFrom(list);
-  const std::string& name = desk_.values.SelectedMacro;
+  const std::string& name = documents_.values.SelectedMacro;
   const std::size_t caret = std::min<std::size_t>(document.Caret, pane.Characters().size());
   const bool joinsText = caret != 0 && pane.Characters()[caret - 1] != ' ';
-  document.Undo.BeginCommand(desk_.settings.UndoMax);
+  document.Undo.BeginCommand(documents_.settings.UndoMax);
   pane.SelStart = caret;
   pane.SelColor = kBlack;
   pane.SelText = (joinsText ? " " : "") + name + " ";

@@ -3,14 +3,18 @@
 #pragma once
 
 #include "language/MacroAnalysis.h"
-#include "workbench/Desk.h"
+#include "workbench/Documents.h"
 
 namespace tarvik {
 
 class MacroLists {
+  Documents& documents_;  // the controls are made in it
+
  public:
-  MacroLists(Desk& desk, ComboBox& categories, ControlArray<ListBox>& lists)
-      : desk_(desk), categories_(categories), lists_(lists) {}
+  explicit MacroLists(Documents& documents) : documents_(documents) {}
+
+  ComboBox categories{documents_, "Combo1"};
+  ControlArray<ListBox> lists{documents_, "List1", 1};
 
   /// Member of the "List1" array on which the pop-up menu was opened.
   int PopupListIndex = 0;
@@ -26,12 +30,12 @@ class MacroLists {
   void ShowMacroKeys();
   /// "All", then the headings of the macro file in its order; each has the list of its index.
   [[nodiscard]] const std::vector<std::string>& MacroHeadings() const { return headings_; }
-  /// Brings the list of the selected category to the front and takes its first macro; `lists` are the
-  /// editor's or a tool's copies of them.
-  void ShowCategory() { ShowCategory(categories_, lists_); }
-  void ShowCategory(const ComboBox& categories, const ControlArray<ListBox>& lists);
+  /// Brings the list of the selected category to the front and takes its first macro; what is shown are the
+  /// lists or a tool's copies of them.
+  void ShowCategory() { ShowCategory(categories, lists); }
+  void ShowCategory(const ComboBox& chosen, const ControlArray<ListBox>& shown);
   /// Takes SelectedMacro from a list.
-  void TakeFrom(const ListBox& list) { desk_.values.SelectedMacro = list.Current(); }
+  void TakeFrom(const ListBox& list) { documents_.values.SelectedMacro = list.Current(); }
   /// Takes the macro that the mouse went down on or is dragged over, and with Shift goes to its first use.
   void TakeUnder(const ListBox& list, const Mouse& mouse);
 
@@ -42,6 +46,8 @@ class MacroLists {
   /// Selects the definition of a button in the joystick file, up to the next statement that begins another
   /// one.
   void ExtractButtonDefinition(const std::string& name);
+  /// Forgets the macro file.
+  void Reset();
   /// Inserts the current macro of a list at the joystick file's remembered caret.
   void Insert(const ListBox& list);
 
@@ -50,9 +56,6 @@ class MacroLists {
   void Fill(MacroAnalysis analysis);
   void ShowAll();
 
-  Desk& desk_;
-  ComboBox& categories_;
-  ControlArray<ListBox>& lists_;
   std::vector<std::string> records_;  // the macro file's, in order
   std::vector<std::string> headings_;
 };

@@ -25,8 +25,8 @@ TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerTex
   session::ScriptedPlatform outside;
   Platform platform = outside.Process(files);
   Application application(platform);
-  application.settings.Write("FileLocations", "FirstTimeUsed", "0");
-  application.settings.Write("FileLocations", "ShowTips", "0");
+  application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+  application.workbench.settings.Write("FileLocations", "ShowTips", "0");
   application.Start();
   Editor& editor = application.editor();
 
@@ -39,7 +39,7 @@ TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerTex
 
   EXPECT_EQ(files.Content("c:\\my\\failing.b50"), "its own text\r\n");
   EXPECT_EQ(files.Content("c:\\my\\former.b50"), "the former text\r\n");
-  EXPECT_EQ(application.errors.ErrorText.Get(), "Input/output error");
+  EXPECT_EQ(application.workbench.errors.ErrorText.Get(), "Input/output error");
   EXPECT_EQ(editor.JoystickText.Text.Get(), "more ");
 }
 

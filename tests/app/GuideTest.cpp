@@ -60,7 +60,7 @@ TEST(Guide, IsMissedInTheStatusBar) {
   program.outside.desktop.opensFiles = false;
   program.editor().mnuHelpOnWeb_Click();
   EXPECT_EQ(program.application.mum().StatusBar.Panels(1).Text.Get(), "The user guide can't be opened.");
-  EXPECT_EQ(program.application.errors.ErrorTag.Get(), "ED_mnuHelpOnWeb_Click");
+  EXPECT_EQ(program.application.workbench.errors.ErrorTag.Get(), "ED_mnuHelpOnWeb_Click");
 }
 
 }  // namespace

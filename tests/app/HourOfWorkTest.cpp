@@ -41,7 +41,7 @@ struct Model {
 class HourOfWork : public testing::TestWithParam<unsigned> {
  protected:
   HourOfWork() {
-    program.application.settings.UndoMax = 10000;
+    program.application.workbench.settings.UndoMax = 10000;
     program.files().PutFolder("c:\\my");
     slots_.push_back(model_);
     editor.Joystick.Path = std::string("c:\\my\\work.b50");
@@ -203,11 +203,11 @@ class HourOfWork : public testing::TestWithParam<unsigned> {
   }
 
   void Heading() {
-    editor.insertion().BeginColInsert();
-    editor.CheckAtLineBeginning();
-    editor.insertion().InsertColouredStringNoSpace("Rem Weapons", 8421504);
-    editor.insertion().InsertCarriageReturn();
-    editor.insertion().EndColInsert();
+    bench.insertion.BeginColInsert();
+    bench.edit.CheckAtLineBeginning();
+    bench.insertion.InsertColouredStringNoSpace("Rem Weapons", 8421504);
+    bench.insertion.InsertCarriageReturn();
+    bench.insertion.EndColInsert();
     if (!model_.text.empty() && model_.length == 0 && model_.start > 0 &&
         model_.text[model_.start - 1] != '\n') {
       model_.start = std::min(model_.text.find('\r', model_.start), model_.text.size());
@@ -225,7 +225,7 @@ class HourOfWork : public testing::TestWithParam<unsigned> {
     editor.Command1_Click(1);
     model_.length = 0;
     const std::string blank = before == ' ' || before == '\n' ? "" : " ";
-    model_.Replace(blank + "/M ", program.application.settings.SlashColour);
+    model_.Replace(blank + "/M ", program.application.workbench.settings.SlashColour);
     next_ = kBlack;
     Record();
   }
@@ -289,6 +289,7 @@ class HourOfWork : public testing::TestWithParam<unsigned> {
 
   Program program;
   Editor& editor = program.editor();
+  Workbench& bench = program.application.workbench;
   Pane& pane = editor.JoystickText;
 
  private:

@@ -120,17 +120,17 @@ TEST_F(PaneInputTest, AChangeForgetsTheSelectionAlsoWhileAFileIsLoaded) {
   pane.Text = "abcd";
   for (const int loading : {0, 1}) {
     editor.Joystick.SelLength = 3;
-    program.application.values.LoadingFile = loading;
+    program.application.workbench.values.LoadingFile = loading;
     pane.SelText = "x";
     EXPECT_EQ(editor.Joystick.SelLength, 0U);
   }
-  program.application.values.LoadingFile = 0;
+  program.application.workbench.values.LoadingFile = 0;
 }
 
 TEST_F(PaneInputTest, WhatCodeWritesWhileAFileIsLoadedIsNoEdit) {
-  program.application.values.LoadingFile = 1;
+  program.application.workbench.values.LoadingFile = 1;
   pane.Text = "abcd";
-  program.application.values.LoadingFile = 0;
+  program.application.workbench.values.LoadingFile = 0;
   EXPECT_EQ(editor.Joystick.Dirty, saved::kNoText);
   EXPECT_FALSE(editor.mnuEditUndo.Enabled);
   pane.SelText = "x";

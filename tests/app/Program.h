@@ -13,8 +13,8 @@ class Program {
       : platform_(outside.Process(files_, outside.instance, printer ? *printer : outside.printer)),
         application(platform_) {
     files_.PutFolder("c:\\tarvik");
-    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
   }
 

@@ -15,7 +15,7 @@ class InsertOptionsTest : public testing::Test {
 
   Program program;
   Editor& editor = program.editor();
-  Settings& settings = program.application.settings;
+  Settings& settings = program.application.workbench.settings;
 };
 
 TEST_F(InsertOptionsTest, APlaceOutsideTheScreenIsLeftForTheCorner) {
@@ -30,8 +30,8 @@ TEST_F(InsertOptionsTest, APlaceOutsideTheScreenIsLeftForTheCorner) {
   EXPECT_EQ(placed("-5", "28801"), std::pair(10.F, 10.F));
   EXPECT_EQ(placed("21600", "0"), std::pair(21600.F, 0.F));
   EXPECT_EQ(placed("21601", "300"), std::pair(10.F, 300.F));
-  EXPECT_EQ(program.application.profile.GetInt("Miscellaneous", "ComposerTop", 0), 10);
-  EXPECT_EQ(program.application.profile.GetInt("Miscellaneous", "ComposerLeft", 0), 300);
+  EXPECT_EQ(program.application.workbench.profile.GetInt("Miscellaneous", "ComposerTop", 0), 10);
+  EXPECT_EQ(program.application.workbench.profile.GetInt("Miscellaneous", "ComposerLeft", 0), 300);
 }
 
 TEST_F(InsertOptionsTest, AMinimisedWindowHasNoPlaceToKeep) {
@@ -39,8 +39,8 @@ TEST_F(InsertOptionsTest, AMinimisedWindowHasNoPlaceToKeep) {
   composer.Top = 900;
   composer.WindowState = 1;
   program.application.Unload(composer);
-  EXPECT_EQ(program.application.profile.GetInt("Miscellaneous", "ComposerTop", -1), -1);
-  EXPECT_EQ(program.application.profile.GetInt("Miscellaneous", "NumberOfBlanks", -1), 5);
+  EXPECT_EQ(program.application.workbench.profile.GetInt("Miscellaneous", "ComposerTop", -1), -1);
+  EXPECT_EQ(program.application.workbench.profile.GetInt("Miscellaneous", "NumberOfBlanks", -1), 5);
 }
 
 TEST_F(InsertOptionsTest, TheMacroInHandIsFoundInTheJoystickFile) {

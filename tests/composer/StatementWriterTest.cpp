@@ -17,7 +17,7 @@ class StatementWriterTest : public testing::Test {
 
   Program program;
   Editor& editor = program.editor();
-  StatementWriter writer{program.application};
+  StatementWriter writer{program.application.workbench};
   StatementStyle coloured{true, false};
   StatementStyle black{false, false};
 };
@@ -25,7 +25,8 @@ class StatementWriterTest : public testing::Test {
 TEST_F(StatementWriterTest, TheFirstClickWritesAndTheSecondFinds) {
   EXPECT_TRUE(writer.FindOrWrite(ControlStatement("S1", false, coloured), false));
   EXPECT_EQ(Text(), "BTN S1 ");
-  EXPECT_EQ(editor.JoystickText.Content().colours.At(0), program.application.settings.BTNColour.Get());
+  EXPECT_EQ(editor.JoystickText.Content().colours.At(0),
+            program.application.workbench.settings.BTNColour.Get());
   editor.JoystickText.SelStart = 0;
   EXPECT_FALSE(writer.FindOrWrite(ControlStatement("S1", false, coloured), false));
   EXPECT_EQ(Text(), "BTN S1 ");
@@ -80,7 +81,7 @@ TEST_F(StatementWriterTest, APortIsPassedOverUpToItsControl) {
 }
 
 TEST_F(StatementWriterTest, ClicksChainOnALineEachPieceInItsColour) {
-  const Settings& settings = program.application.settings;
+  const Settings& settings = program.application.workbench.settings;
   writer.Write(ControlStatement("S1", false, coloured));
   writer.Write(SlashStatement("/U", coloured));
   writer.Write(BracketStatement(tables::kBrackets[0], "60", coloured));

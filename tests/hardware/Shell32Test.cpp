@@ -24,7 +24,7 @@ class Shell32Test : public testing::Test {
   }
   void End(ProgramState state) { program.outside.programs.state = state; }
   int Wait(std::optional<int> style = {}, std::optional<int> timeout = {}) {
-    return ShellAndWait(program.application, "c:\\x.exe", style, timeout);
+    return ShellAndWait(program.application.workbench, program.application, "c:\\x.exe", style, timeout);
   }
   [[nodiscard]] const std::deque<ProgramStart>& started() const { return program.outside.programs.started; }
 
@@ -99,14 +99,6 @@ TEST_F(Shell32Test, TheProgramEndsWithTarvik) {
   Meanwhile([this] { program.application.CloseMum(); });
   Wait();
   EXPECT_EQ(program.outside.programs.alive, 0);
-}
-
-TEST_F(Shell32Test, AForgottenProgramIsNotWaitedFor) {
-  End(ProgramState::Running);
-  EXPECT_TRUE(Shell(program.application, "c:\\y.exe", WindowStyle::Maximised));
-  EXPECT_FALSE(started().back().waited);
-  EXPECT_EQ(started().back().style, WindowStyle::Maximised);
-  EXPECT_FALSE(program.application.LoadedTool<ProgramWait>());
 }
 
 }  // namespace

@@ -20,9 +20,9 @@ class ColouredInsertionTest : public testing::Test {
   }
   std::string Spaced(const std::string& text, std::size_t caret) {
     Put(text, caret);
-    program.application.values.InsertionText = "x";
+    program.application.workbench.values.InsertionText = "x";
     insertion.AddSpaceToColouredText();
-    return program.application.values.InsertionText;
+    return program.application.workbench.values.InsertionText;
   }
   [[nodiscard]] Colour At(std::size_t position) const { return pane.Content().colours.At(position); }
 
@@ -30,27 +30,7 @@ class ColouredInsertionTest : public testing::Test {
   Editor& editor = program.editor();
   Mum& mum = program.application.mum();
   Pane& pane = editor.JoystickText;
-  Desk desk{program.application.platform,
-            program.application.settings,
-            program.application.values,
-            program.application.errors,
-            mum.StatusBar,
-            mum.ProgressBar1,
-            mum.Picture1,
-            mum.MousePointer,
-            editor.TabStrip1,
-            editor.Joystick,
-            editor.Macro,
-            editor.TempRichTextBox,
-            editor.CompareRTF,
-            [] {}};
-  ColouredInsertion insertion{desk, [this](Document& document) {
-                                if (document.IsJoystick()) {
-                                  editor.JoystickTextChanged();
-                                } else {
-                                  editor.MacroTextChanged();
-                                }
-                              }};
+  ColouredInsertion& insertion = program.application.workbench.insertion;
 };
 
 TEST_F(ColouredInsertionTest, ABlankGoesBeforeAPieceOnlyWhereItWouldJoinAWord) {
@@ -63,8 +43,8 @@ TEST_F(ColouredInsertionTest, ABlankGoesBeforeAPieceOnlyWhereItWouldJoinAWord) {
 }
 
 TEST_F(ColouredInsertionTest, APieceHasItsColourAndWhatIsTypedNextIsBlackInTheFontOfTheSettings) {
-  program.application.settings.TextFontName = "Liberation Sans";
-  program.application.settings.TextFontSize = 12;
+  program.application.workbench.settings.TextFontName = "Liberation Sans";
+  program.application.workbench.settings.TextFontSize = 12;
   Put("ab", 1);
   insertion.InsertColouredString("XY", 77);
   EXPECT_EQ(pane.Text.Get(), "aXYb");
@@ -91,7 +71,7 @@ TEST_F(ColouredInsertionTest, BothWaysOfInsertingDoTheSame) {
 
 TEST_F(ColouredInsertionTest, BlackTextTakesItsBlankAndBlackensTheSwatch) {
   Put("ab", 2);
-  program.application.values.InsertionText = "c ";
+  program.application.workbench.values.InsertionText = "c ";
   insertion.InsertBlackText();
   EXPECT_EQ(pane.Text.Get(), "ab c ");
   for (std::size_t i = 2; i < 5; ++i) EXPECT_EQ(At(i), kBlack);
@@ -134,7 +114,7 @@ TEST_F(ColouredInsertionTest, AGroupIsOneStepOfUndoHoweverManyPiecesItHas) {
   insertion.EndColInsert();
   EXPECT_EQ(editor.mnuEditUndo.Caption.Get(), "&Undo (1)");
   EXPECT_EQ(editor.Joystick.Dirty, saved::kModified);
-  EXPECT_EQ(program.application.values.LoadingFile, 0);
+  EXPECT_EQ(program.application.workbench.values.LoadingFile, 0);
   editor.mnuEditUndo_Click();
   EXPECT_EQ(pane.Text.Get(), "");
 }
@@ -142,7 +122,7 @@ TEST_F(ColouredInsertionTest, AGroupIsOneStepOfUndoHoweverManyPiecesItHas) {
 TEST_F(ColouredInsertionTest, UndoOfAGroupShowsThePaneAsTheGroupFoundIt) {
   pane.SelText = "abc";
   pane.Select({0, 3});
-  editor.ColourSelection(kRed);
+  program.application.workbench.highlighter.ColourSelection(kRed);
   pane.SelStart = 1;
   insertion.BeginColInsert();
   insertion.InsertColouredString("x", 77);

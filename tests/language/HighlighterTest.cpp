@@ -96,7 +96,8 @@ TEST_F(HighlighterTest, ColouringLeavesTheSavedStateWhateverItIs) {
 TEST_F(HighlighterTest, AFileBeyondThirtyTwoThousandCharactersIsColouredToItsEnd) {
   editor.JoystickText.SetContent(RichText(std::string(100000, 'x') + " BTN S1 "));
   editor.mnuViewColourJoystick_Click();
-  EXPECT_EQ(editor.JoystickText.Content().colours.At(100001), program.application.settings.BTNColour);
+  EXPECT_EQ(editor.JoystickText.Content().colours.At(100001),
+            program.application.workbench.settings.BTNColour);
 }
 
 }  // namespace

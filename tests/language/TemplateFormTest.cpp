@@ -48,7 +48,7 @@ TEST(TemplateForm, LeavesTheFilesAloneWhenItColours) {
   form.ColourTemplateText();
   EXPECT_EQ(editor.JoystickText.Content().colours.At(0), kBlack);
   EXPECT_EQ(editor.Joystick.Dirty, dirty);
-  EXPECT_EQ(program.application.values.LoadingFile, 0);
+  EXPECT_EQ(program.application.workbench.values.LoadingFile, 0);
   EXPECT_EQ(form.TemplateChanged, 1);
 }
 

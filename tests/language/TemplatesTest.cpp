@@ -26,7 +26,7 @@ std::string TextOf(const std::string& name) {
 
 TEST(Templates, AreWhatTheTemplateEditorMakesOfTheirText) {
   Program program;
-  program.application.settings.ColoursSortOut();
+  program.application.workbench.settings.ColoursSortOut();
   auto& form = program.application.Tool<TemplateForm>();
   int count = 0;
   for (const auto& entry : fs::directory_iterator(TARVIK_DATA "/Templates")) {

@@ -2,7 +2,7 @@
 
 #include "app/Program.h"
 #include "tools/favourites/Favourites.h"
-#include "tools/programs/CustomApps.h"
+#include "tools/preferences/CommandLines.h"
 #include "workbench/PreviousFiles.h"
 
 namespace tarvik {
@@ -23,7 +23,7 @@ TEST(Favourites, SuggestTheFilesNameInCapitalisedForm) {
 
 TEST(PreviousFiles, KnowWhatIsOnThem) {
   Program program;
-  PreviousFiles& lists = program.application.lists;
+  PreviousFiles& lists = program.application.workbench.lists;
   lists.RecentJFToAdd = "c:\\a.b50";
   lists.UpdateRecentJFMenuList();
   lists.RecentMFToAdd = "c:\\a.m50";
@@ -44,10 +44,10 @@ TEST(PreviousFiles, KnowWhatIsOnThem) {
 
 TEST(CustomApps, AreStoredWithTheFoldersOfTheViewersAndComeBackCut) {
   Program program;
-  PreviousFiles& lists = program.application.lists;
+  PreviousFiles& lists = program.application.workbench.lists;
   lists.CustomApps[0] = {"Not in use", "\"c:\\a b\\x.exe\"", 0};
   lists.CustomApps[3] = {std::string(120, 'n'), std::string(120, 'p'), 1};
-  program.application.settings.ImageFilePath = "c:\\images";
+  program.application.workbench.settings.ImageFilePath = "c:\\images";
   lists.SaveApps();
   lists.CustomApps = {};
   lists.GetCustomApps();
@@ -57,7 +57,7 @@ TEST(CustomApps, AreStoredWithTheFoldersOfTheViewersAndComeBackCut) {
   EXPECT_EQ(lists.CustomApps[3].name, std::string(99, 'n'));
   EXPECT_EQ(lists.CustomApps[3].path, std::string(99, 'p'));
   EXPECT_EQ(lists.CustomApps[3].use, 1);
-  const ProfileFile& file = program.application.profile;
+  const ProfileFile& file = program.application.workbench.profile;
   EXPECT_EQ(file.GetString("Apps", "ImageFilePath", "", 100), "c:\\images");
   EXPECT_EQ(file.GetString("Apps", "TextFilePath", "", 100), "c:\\tarvik\\readme.txt");
   EXPECT_EQ(file.GetString("Apps", "CustomAppUse2", "", 100), "0");

@@ -3,7 +3,7 @@
 
 #include "support/MemoryFiles.h"
 #include "support/ScriptedPrinter.h"
-#include "tools/printing/PrintRTFWordWrap.h"
+#include "workbench/PrintRTFWordWrap.h"
 
 namespace tarvik {
 namespace {

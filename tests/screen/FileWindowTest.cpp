@@ -29,8 +29,8 @@ class FileWindow : public testing::Test {
     files_.PutFolder("c:\\tarvik");
     files_.Put("c:\\my\\one.b50", "USE MDEF one\r\nBTN S1 Fire\r\n");
     files_.Put("c:\\my\\one.m50", "Fire = a\r\n");
-    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
     QApplication::processEvents();
   }

@@ -16,7 +16,7 @@ class GrowingMenus : public testing::Test {
  protected:
   GrowingMenus() {
     files_.PutFolder("c:\\tarvik");
-    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.Start();
   }
 
@@ -76,12 +76,12 @@ TEST_F(GrowingMenus, FitTheScreenAndTellAllInTheTip) {
 }
 
 TEST_F(GrowingMenus, RunTheMemberThatIsClicked) {
-  application.lists.FavName = "First";
-  application.lists.UpdateFavouritesMenu();
-  application.lists.FavName = "Second";
-  application.lists.UpdateFavouritesMenu();
+  application.workbench.lists.FavName = "First";
+  application.workbench.lists.UpdateFavouritesMenu();
+  application.workbench.lists.FavName = "Second";
+  application.workbench.lists.UpdateFavouritesMenu();
   Action(2)->trigger();
-  EXPECT_EQ(application.lists.FavName.Get(), "First");
+  EXPECT_EQ(application.workbench.lists.FavName.Get(), "First");
 }
 
 }  // namespace

@@ -23,8 +23,8 @@ class HardwareWindows : public testing::Test {
   explicit HardwareWindows(Clock clock = Clock::Scripted) : screen(application, clock) {
     files_.PutFolder("c:\\tarvik");
     outside.joystick.isThere = true;
-    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
   }
 

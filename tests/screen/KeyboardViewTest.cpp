@@ -19,8 +19,8 @@ class Keyboard : public testing::Test {
  protected:
   Keyboard() {
     files_.PutFolder("c:\\tarvik");
-    application_.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application_.settings.Write("FileLocations", "ShowTips", "0");
+    application_.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application_.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application_.Start();
     application_.editor().mnuInsertRAW_Click();
     QApplication::processEvents();

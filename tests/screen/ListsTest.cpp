@@ -27,8 +27,8 @@ class Lists : public testing::Test {
     files_.PutFolder("c:\\tarvik");
     files_.Put("c:\\tarvik\\a.png", "");
     files_.Put("c:\\tarvik\\b.png", "");
-    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
   }
 
@@ -85,7 +85,7 @@ TEST_F(Lists, HaveModelsThatAnswerEveryIndexWhileTheyChange) {
     for (const auto* const combo : window->findChildren<QComboBox*>()) watch(combo->model());
   }
   ASSERT_GE(testers.size(), 20U);
-  preferences.SSTab1.Tab = Preferences::kColours;
+  preferences.SSTab1.Tab = page::kColours;
   picker.File1.Fill({"a", "b", "c"});
   picker.File1.ListIndex = 2;
   picker.File1.Clear();
@@ -112,7 +112,7 @@ TEST_F(Lists, AnswerForAnItemThatIsNotThere) {
 TEST_F(Lists, CopyNothingWithoutAnItemInHand) {
   auto& picker = Shown<SelectPictureForm>();
   auto& preferences = Shown<Preferences>();
-  preferences.SSTab1.Tab = Preferences::kColours;
+  preferences.SSTab1.Tab = page::kColours;
   for (const ListBox* const list : {&picker.File1, &preferences.List1}) {
     QListView* const view = ViewOf(*list);
     ASSERT_FALSE(view->currentIndex().isValid());
@@ -123,14 +123,14 @@ TEST_F(Lists, CopyNothingWithoutAnItemInHand) {
 class ColourList : public Lists {
  protected:
   ColourList() {
-    preferences.SSTab1.Tab = Preferences::kColours;
+    preferences.SSTab1.Tab = page::kColours;
     view->setFocus();
   }
 
   Preferences& preferences = Shown<Preferences>();
   QListView* view = ViewOf(preferences.List1);
-  const Property<Colour>& background = application.settings.BackgroundColour;
-  const Property<Colour>& rem = application.settings.RemStatements;
+  const Property<Colour>& background = application.workbench.settings.BackgroundColour;
+  const Property<Colour>& rem = application.workbench.settings.RemStatements;
 };
 
 TEST_F(ColourList, IsWalkedByTheArrowKeysAndAsksForAColourByEnterSpaceAndClick) {

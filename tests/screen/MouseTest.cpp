@@ -19,8 +19,8 @@ class MouseTest : public testing::Test {
  protected:
   MouseTest() {
     files_.PutFolder("c:\\tarvik");
-    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
     QApplication::processEvents();
   }

@@ -120,7 +120,7 @@ class QtPrinterTest : public testing::Test {
     return file;
   }
 
-  [[nodiscard]] std::string ErrorTag() const { return program.application.errors.ErrorTag; }
+  [[nodiscard]] std::string ErrorTag() const { return program.application.workbench.errors.ErrorTag; }
 
   TemporaryFolder folder;
   QtPrinter printer;
@@ -196,7 +196,7 @@ TEST_F(QtPrinterTest, APageThatIsJustFullIsTheLastOne) {
 }
 
 TEST_F(QtPrinterTest, AStatementHasItsColourOnPaper) {
-  const Colour colour = program.application.settings.BTNColour;
+  const Colour colour = program.application.workbench.settings.BTNColour;
   ASSERT_NE(colour, kBlack);
   EXPECT_FALSE(ShowsColour(Print("BTN S1 Fire\r\nBTN S2 Eject\r\n"), colour));
   const fs::path file = ChooseFile("coloured.pdf");
@@ -251,7 +251,7 @@ TEST_F(QtPrinterTest, AFileThatCannotBeWrittenIsOnRecordAndTheNextOneIsPrinted) 
   editor.JoystickText.Text = "BTN";
   editor.mnuFilePrintJoystick_Click();
   EXPECT_EQ(ErrorTag(), "MODULE PrintRTF");
-  EXPECT_EQ(program.application.errors.ErrorNumber.Get(), 482);
+  EXPECT_EQ(program.application.workbench.errors.ErrorNumber.Get(), 482);
   EXPECT_EQ(TextOfWords(PagesOf(Print("next"))), "next");
 }
 
@@ -274,7 +274,7 @@ TEST_F(QtPrinterTest, WithoutAPrinterNothingIsPrintedOrShown) {
   editor.JoystickText.Text = "BTN";
   editor.mnuFilePrintJoystick_Click();
   EXPECT_EQ(ErrorTag(), "MODULE PrintRTF");
-  EXPECT_EQ(program.application.errors.ErrorText.Get(), "Printer error");
+  EXPECT_EQ(program.application.workbench.errors.ErrorText.Get(), "Printer error");
 }
 
 }  // namespace

@@ -62,8 +62,8 @@ class Afternoon {
   Afternoon(const Hands& hands, const Way& way)
       : hands_(hands), driver_(hands.makeDriver(application_)), way_(way) {
     files_.Put("c:\\tm\\a.b50", "BTN S1 Fire\r\n");
-    application_.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application_.settings.Write("FileLocations", "ShowTips", "0");
+    application_.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application_.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application_.Start();
     outside_.joystick.isThere = true;
     outside_.programs.state = ProgramState::Running;

@@ -64,8 +64,8 @@ class Uncovered : public testing::TestWithParam<int> {
  private:
   Pane& Joystick() {
     files_.PutFolder("c:\\tarvik");
-    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
     return application.editor().JoystickText;
   }

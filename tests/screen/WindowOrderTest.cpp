@@ -25,8 +25,8 @@ class WindowOrderTest : public testing::Test {
  protected:
   WindowOrderTest() {
     files_.PutFolder("c:\\tarvik");
-    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
     ShowPimlet(true);
   }

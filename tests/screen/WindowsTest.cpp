@@ -45,8 +45,8 @@ class Windows : public testing::Test {
  protected:
   Windows() {
     files_.PutFolder("c:\\tarvik");
-    application.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.settings.Write("FileLocations", "ShowTips", "0");
+    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
+    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
     ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
               ProgramWait, EnterFavouritename, EnterGameName, Preferences, DrivesForm, TemplateForm, frmTip,
@@ -369,7 +369,7 @@ TEST_F(Windows, KeepTheirSizeHoweverLongAPathIs) {
   auto& wait = application.Tool<ProgramWait>();
   const std::string path = "z:\\" + std::string(1000, 'x') + "\\last.bmp";
   for (Label* const label : {&pictures.Label1, &wait.Label1}) {
-    const QWidget* const window = WindowOf(screen, label->OwnForm());
+    const QWidget* const window = WindowOf(screen, *label->OwnForm());
     const QSize before = window->size();
     label->Caption = path;
     QApplication::processEvents();

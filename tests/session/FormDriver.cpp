@@ -343,7 +343,7 @@ class FormDriver : public Driver {
     pane.SetFocus();
   }
 
-  bool HasFocus(const Control& control) override { return control.OwnForm().ActiveControl() == &control; }
+  bool HasFocus(const Control& control) override { return control.OwnForm()->ActiveControl() == &control; }
   std::string Read(const PropertyBase& property) override { return property.ToText(); }
 
  private:

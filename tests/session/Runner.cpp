@@ -557,7 +557,7 @@ void Runner::Call(const Line& line) {
       {"Mum.ReleaseGradientInEmergency", [&] { application_->mum().ReleaseGradientInEmergency(); }},
       {"Mum.MakeFlat", [&] { application_->mum().MakeFlat(); }},
       {"Mum.ColoursSortOut", [&] { application_->mum().ColoursSortOut(); }},
-      {"Settings.SaveOptions", [&] { application_->settings.SaveOptions(); }},
+      {"Settings.SaveOptions", [&] { application_->workbench.settings.SaveOptions(); }},
   };
   const auto operation = operations.find(Word(line, 1));
   if (operation == operations.end()) throw Stop{"there is no such operation"};
@@ -757,7 +757,7 @@ void Runner::ExpectColour(const Line& line) {
 }
 
 std::string Runner::ColourLetters(const Pane& pane, std::size_t start, std::size_t length) const {
-  const Settings& settings = application_->settings;
+  const Settings& settings = application_->workbench.settings;
   const std::map<Colour, char> letters = {{settings.BTNColour, 'B'},     {settings.SlashColour, 'S'},
                                           {settings.RAWColour, 'R'},     {settings.MiscellaneousColour, 'M'},
                                           {settings.RemStatements, 'C'}, {kBlack, '.'}};

@@ -1,56 +1,9 @@
 #include "tools/blocks/TextBlocks.h"
 
-#include "app/Editor.h"
+#include "language/MacroHeadings.h"
 
 namespace tarvik {
 namespace {
-
-constexpr const char* kHeadings[] = {
-    "Game control",
-    "Communications",
-    "Avionics",
-    "Aircraft Control",
-    "Head Up Display",
-    "Cockpit Views",
-    "External views",
-    "Smart Views",
-    "Options",
-    "Mission Planning",
-    "Multiplayer",
-    "Movement",
-    "Weapons",
-    "Navigation",
-    "Engines",
-    "Autopilot",
-    "Damage",
-    "ASE Controls",
-    "IHADS",
-    "TADS",
-    "MFDs",
-    "Targeting",
-    "FCR",
-    "Systems",
-    "Virtual cockpit",
-    "Throttle",
-    "Flight controls",
-    "Combat controls",
-    "Lantirn",
-    "Countermeasures",
-    "Engagement",
-    "Formation",
-    "Refuel",
-    "Airfield",
-    "AWACS",
-    "Wingmen",
-    "Defence",
-    "Cameras",
-    "Display",
-    "Modes",
-    "Nozzles",
-    "Panning controls",
-    "Steering",
-    "Sonar",
-};
 
 constexpr const char* kJoysticks[] = {"F22 Pro", "F-16 FLCS", "P FCS", "Top Gun", "FCS"};
 constexpr const char* kThrottles[] = {", no throttle", ", TQS", ", WCS MkII", ", WCS"};
@@ -60,8 +13,6 @@ constexpr const char* kEmptyLine = "Rem";
 constexpr std::size_t kRuleSigns = 48;
 constexpr std::size_t kLineWidth = 52;      // of a title
 constexpr std::size_t kWidestCentred = 50;  // "Rem " and the text stay below it
-constexpr std::size_t kHeadingIndent = 10;
-constexpr std::size_t kHeadingOverhang = 20;
 
 /// Nothing for a number that is no row's.
 template <std::size_t N>
@@ -78,11 +29,11 @@ Colour RemarkColour(const Settings& settings) {
   return settings.InsertWithColour == 1 ? settings.RemStatements.Get() : kBlack;
 }
 
-void WriteLines(Application& application, const std::vector<std::string>& lines) {
-  ColouredInsertion& insertion = application.editor().insertion();
-  application.values.InsertionColour = RemarkColour(application.settings);
+void WriteLines(Workbench& bench, const std::vector<std::string>& lines) {
+  ColouredInsertion& insertion = bench.insertion;
+  bench.values.InsertionColour = RemarkColour(bench.settings);
   for (const std::string& line : lines) {
-    insertion.InsertColouredStringNoSpace(line, application.values.InsertionColour);
+    insertion.InsertColouredStringNoSpace(line, bench.values.InsertionColour);
     insertion.InsertCarriageReturn();
   }
 }
@@ -94,35 +45,26 @@ std::string GetHardwareNames(const Settings& settings) {
          Row(kRudders, settings.RudderName);
 }
 
-std::span<const char* const> MacroHeadings() { return kHeadings; }
-
-std::vector<std::string> HeadingBlock(const std::string& text) {
-  const std::string rule = "Rem " + std::string(text.size() + kHeadingOverhang, '-');
-  return {rule, "Rem " + std::string(kHeadingIndent, ' ') + text, rule};
-}
-
 // The title.
 
-Title::Title(Application& application)
-    : Form("Title"),
-      RichTextBox1(*this, "RichTextBox1", application.platform.files),
-      application_(application) {
+Title::Title(Workbench& bench, Shell& shell)
+    : Form("Title"), RichTextBox1(*this, "RichTextBox1", bench.platform.files), bench_(bench), shell_(shell) {
   Caption = "Insert title";
   Topmost = true;
   Command1.MakeDefault();
   Command1.Click = [this] { Command1_Click(); };
   Command2.Cancel = true;
-  Command2.Click = [this] { application_.Unload(*this); };
+  Command2.Click = [this] { shell_.Unload(*this); };
   Activate = [this] { Form_Activate(); };
   Unload = [this] { Form_Unload(); };
 }
 
 void Title::Form_Activate() {
-  const std::string hardware = GetHardwareNames(application_.settings);
-  Text1.Text = application_.editor().ActiveDocument().Name.Get().Text();
+  const std::string hardware = GetHardwareNames(bench_.settings);
+  Text1.Text = bench_.documents.Active().Name.Get().Text();
   if (Text2.Empty()) Text2.Text = std::string("eg. F22 ADF");
   Text3.Text = GetPersonsName();
-  Text4.Text = application_.platform.calendar.LongDate();
+  Text4.Text = bench_.platform.calendar.LongDate();
   Text5.Text = hardware.empty() ? "eg. F22 Pro and TQS" : hardware;
   Text2.SelectAll();
   Text2.SetFocus();
@@ -133,9 +75,9 @@ void Title::Form_Unload() {
 }
 
 void Title::SaveThePersonsName() {
-  application_.settings.ValidUser = Text3.Text.Get();
-  const Trap trap{application_.errors, "TITLE SaveThePersonsName"};
-  trap(application_.profile.Write("Miscellaneous", "ValidUser", application_.settings.ValidUser.Get()));
+  bench_.settings.ValidUser = Text3.Text.Get();
+  const Trap trap{bench_.errors, "TITLE SaveThePersonsName"};
+  trap(bench_.profile.Write("Miscellaneous", "ValidUser", bench_.settings.ValidUser.Get()));
 }
 
 std::vector<std::string> Title::Lines() const {
@@ -162,18 +104,18 @@ std::vector<std::string> Title::Lines() const {
 }
 
 void Title::Command1_Click() {
-  ColouredInsertion& insertion = application_.editor().insertion();
+  ColouredInsertion& insertion = bench_.insertion;
   insertion.BeginColInsert();
-  WriteLines(application_, Lines());
+  WriteLines(bench_, Lines());
   insertion.EndColInsert();
-  application_.Unload(*this);
+  shell_.Unload(*this);
 }
 
-void InsertTitle(Application& application) { application.ShowModal(application.Tool<Title>()); }
+void InsertTitle(Workbench& /*bench*/, Shell& shell) { shell.ShowModal(shell.Tool<Title>()); }
 
 // The heading.
 
-Heading::Heading(Application& application) : Form("Heading"), application_(application) {
+Heading::Heading(Workbench& bench, Shell& shell) : Form("Heading"), bench_(bench), shell_(shell) {
   Caption = " Insert heading";
   Topmost = true;
   Command1(0).Caption = "OK";
@@ -187,27 +129,28 @@ Heading::Heading(Application& application) : Form("Heading"), application_(appli
 }
 
 void Heading::Command1_Click(int index) {
-  application_.values.REMText = index == 0 ? Combo1.Text.Get() : "";
-  application_.Unload(*this);
+  bench_.values.REMText = index == 0 ? Combo1.Text.Get() : "";
+  shell_.Unload(*this);
 }
 
-void InsertHeading(Application& application) {
-  application.values.REMText = std::string();
-  auto& form = application.Tool<Heading>();
+void InsertHeading(Workbench& bench, Shell& shell) {
+  bench.values.REMText = std::string();
+  auto& form = shell.Tool<Heading>();
   form.Combo1.SetFocus();
-  application.ShowModal(form);
-  const std::string text = application.values.REMText;
+  shell.ShowModal(form);
+  const std::string text = bench.values.REMText;
   if (text.empty()) return;
-  ColouredInsertion& insertion = application.editor().insertion();
+  ColouredInsertion& insertion = bench.insertion;
   insertion.BeginColInsert();
-  application.editor().CheckAtLineBeginning();
-  WriteLines(application, HeadingBlock(text));
+  bench.edit.CheckAtLineBeginning();
+  WriteLines(bench, HeadingBlock(text));
   insertion.EndColInsert();
 }
 
 // The remark.
 
-SingleTextForm::SingleTextForm(Application& application) : Form("SingleTextForm"), application_(application) {
+SingleTextForm::SingleTextForm(Workbench& bench, Shell& shell)
+    : Form("SingleTextForm"), bench_(bench), shell_(shell) {
   Caption = "  Enter your text ... today ...";
   RichTextBox1.GotFocus = [this] { RichTextBox1.SelectAll(); };
   Command1.MakeDefault();
@@ -219,44 +162,44 @@ SingleTextForm::SingleTextForm(Application& application) : Form("SingleTextForm"
 
 void SingleTextForm::Form_Load() {
   Topmost = true;
-  CheckAddCR.Value = application_.settings.AddCRtoREM.Get();
+  CheckAddCR.Value = bench_.settings.AddCRtoREM.Get();
 }
 
 void SingleTextForm::Close(const std::string& text) {
-  application_.values.REMText = text;
+  bench_.values.REMText = text;
   SaveCRthang();
-  application_.Unload(*this);
+  shell_.Unload(*this);
 }
 
 void SingleTextForm::SaveCRthang() {
-  application_.settings.AddCRtoREM = CheckAddCR.Value;
-  const Trap trap{application_.errors, "TITLE SaveCRthang"};
-  trap(application_.profile.Write("Miscellaneous", "AddCRtoREM", TextOf(CheckAddCR.Value.Get())));
+  bench_.settings.AddCRtoREM = CheckAddCR.Value;
+  const Trap trap{bench_.errors, "TITLE SaveCRthang"};
+  trap(bench_.profile.Write("Miscellaneous", "AddCRtoREM", TextOf(CheckAddCR.Value.Get())));
 }
 
-std::string AskForRemark(Application& application) {
-  application.values.REMText = std::string();
-  auto& form = application.Tool<SingleTextForm>();
+void AskForRemark(Workbench& bench, Shell& shell) {
+  bench.values.REMText = std::string();
+  auto& form = shell.Tool<SingleTextForm>();
   form.RichTextBox1.SetFocus();
-  application.ShowModal(form);
-  return application.values.REMText;
+  shell.ShowModal(form);
 }
 
-void InsertRemStatement(Application& application) {
-  Values& values = application.values;
-  const std::string remark = AskForRemark(application);
+void InsertRemStatement(Workbench& bench, Shell& shell) {
+  Values& values = bench.values;
+  AskForRemark(bench, shell);
+  const std::string remark = values.REMText;
   if (remark.empty()) return;
   values.InsertionText = "Rem " + remark;
-  values.InsertionColour = application.settings.RemStatements;
-  ColouredInsertion& insertion = application.editor().insertion();
+  values.InsertionColour = bench.settings.RemStatements;
+  ColouredInsertion& insertion = bench.insertion;
   insertion.BeginColInsert();
-  if (application.settings.InsertWithColour == 1) {
+  if (bench.settings.InsertWithColour == 1) {
     insertion.AddSpaceToColouredText();
     insertion.InsertColouredStringNoSpace(values.InsertionText, values.InsertionColour);
   } else {
     insertion.InsertBlackText();
   }
-  if (application.settings.AddCRtoREM == 1) insertion.InsertCarriageReturn();
+  if (bench.settings.AddCRtoREM == 1) insertion.InsertCarriageReturn();
   insertion.EndColInsert();
 }
 

@@ -4,14 +4,14 @@
 
 #include <span>
 
-#include "app/Application.h"
 #include "panes/Pane.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 class Title : public Form {
  public:
-  explicit Title(Application& application);
+  explicit Title(Workbench& bench, Shell& shell);
 
   TextBox Text1{*this, "Text1"};  ///< file name
   TextBox Text2{*this, "Text2"};  ///< game
@@ -25,18 +25,19 @@ class Title : public Form {
   void Form_Activate();
   void Form_Unload();
   void Command1_Click();
-  [[nodiscard]] std::string GetPersonsName() const { return application_.settings.ValidUser; }
+  [[nodiscard]] std::string GetPersonsName() const { return bench_.settings.ValidUser; }
   void SaveThePersonsName();
 
  private:
   [[nodiscard]] std::vector<std::string> Lines() const;
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 class Heading : public Form {
  public:
-  explicit Heading(Application& application);
+  explicit Heading(Workbench& bench, Shell& shell);
 
   EntryBox Combo1{*this, "Combo1"};
   ControlArray<CommandButton> Command1{*this, "Command1", 2};
@@ -44,12 +45,13 @@ class Heading : public Form {
   void Command1_Click(int index);
 
  private:
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 class SingleTextForm : public Form {
  public:
-  explicit SingleTextForm(Application& application);
+  explicit SingleTextForm(Workbench& bench, Shell& shell);
 
   TextBox RichTextBox1{*this, "RichTextBox1"};
   CheckBox CheckAddCR{*this, "CheckAddCR", "Add carriage return"};
@@ -65,23 +67,19 @@ class SingleTextForm : public Form {
  private:
   void Close(const std::string& text);
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 /// The user's hardware in words, as "F-16 FLCS, TQS, RCS."
 [[nodiscard]] std::string GetHardwareNames(const Settings& settings);
 
-/// The usual headings of a macro file.
-[[nodiscard]] std::span<const char* const> MacroHeadings();
-/// The three lines that make a text a heading of the macro file.
-[[nodiscard]] std::vector<std::string> HeadingBlock(const std::string& text);
-
-/// Asks for a remark in a window: its text with a blank behind it, empty after Cancel.
-std::string AskForRemark(Application& application);
+/// Asks for a remark in a window. `REMText` is its text with a blank behind it, empty after Cancel.
+void AskForRemark(Workbench& bench, Shell& shell);
 
 /// Ask for the text in a window, and write the block at the caret of the file on top.
-void InsertTitle(Application& application);
-void InsertHeading(Application& application);
-void InsertRemStatement(Application& application);
+void InsertTitle(Workbench& bench, Shell& shell);
+void InsertHeading(Workbench& bench, Shell& shell);
+void InsertRemStatement(Workbench& bench, Shell& shell);
 
 }  // namespace tarvik

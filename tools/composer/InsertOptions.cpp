@@ -1,6 +1,5 @@
 #include "tools/composer/InsertOptions.h"
 
-#include "app/Editor.h"
 #include "text/CodePage.h"
 #include "workbench/HelpTopics.h"
 
@@ -64,12 +63,13 @@ float WithinScreen(float place, float extent) { return place < 0 || place > exte
 
 }  // namespace
 
-InsertOptions::InsertOptions(Application& application)
+InsertOptions::InsertOptions(Workbench& bench, Shell& shell)
     : Form("InsertOptions"),
-      TemplatesPreview(*this, "TemplatesPreview", application.platform.files),
+      TemplatesPreview(*this, "TemplatesPreview", bench.platform.files),
       menus(*this, kMenus),
-      application_(application),
-      writer_(application) {
+      bench_(bench),
+      shell_(shell),
+      writer_(bench) {
   Caption = "  Composer - to ease your programming somewhat !!!";
   for (const char* const menu : {"mnuRHList", "mnuHatPos", "mnuTrigger", "mnuPortAll", "mnuTemplates"}) {
     menus(menu).Visible = false;  // they only pop up
@@ -92,9 +92,9 @@ void InsertOptions::MakeFrame() {
   for (int i = 0; i < Command5.Count(); ++i) {
     Command5(i).Caption = kCaptions[i];
     Command5(i).ToolTipText = kTips[i];
-    Command5(i).Enabled = editor().menus(kEntries[i]).Enabled;
+    Command5(i).Enabled = shell_.Command(kEntries[i]).Enabled;
     Command5(i).Click = [this, entry = kEntries[i], i] {
-      editor().menus(entry).Click();
+      shell_.Command(entry).Click();
       Command5_Click(i);
     };
   }
@@ -129,11 +129,11 @@ void InsertOptions::ShowTemplates() {
 // Life of the form.
 
 void InsertOptions::Form_Load() {
-  const Settings& settings = application_.settings;
+  const Settings& settings = bench_.settings;
   PositionComposer();
   FillMiceListBoxes();
   boxes("Text1(4)").Text = MacroNameForMDEF();
-  TemplatePath = application_.platform.folder + "\\Templates\\";
+  TemplatePath = bench_.platform.folder + "\\Templates\\";
   FillTemplates();
   FillLogicLists();
   SSTab7.Tab = 0;
@@ -149,14 +149,14 @@ void InsertOptions::Form_Load() {
 
 void InsertOptions::Form_Activate() {
   ShowApproriateTabs();
-  if (application_.values.MacroListChanged == 1 || COMPMacrosTickedCopy == 1) CopyMacroList();
-  const std::string delay = TextOf(application_.settings.DefaultDLYvalue.Get());
+  if (bench_.values.MacroListChanged == 1 || COMPMacrosTickedCopy == 1) CopyMacroList();
+  const std::string delay = TextOf(bench_.settings.DefaultDLYvalue.Get());
   boxes("DLYText").Text = delay;
   TxtFlag(4).Text = delay;
 }
 
 void InsertOptions::Form_Deactivate() {
-  if (COMPreturnFocus != 0) editor().FocusActiveText();
+  if (COMPreturnFocus != 0) bench_.documents.Active().text.SetFocus();
 }
 
 /// Hidden by its own button, it is left for the file on top, whatever had the focus there before.
@@ -167,20 +167,20 @@ void InsertOptions::Command6_Click() {
 
 void InsertOptions::Form_KeyDown(Key& key) {
   const bool ctrlAmongOthers = (key.shift & shift::kCtrl) != 0 && key.shift != shift::kCtrl;
-  if (!ctrlAmongOthers) editor().ForwardKey(key);
+  if (!ctrlAmongOthers) shell_.ForwardKey(key);
 }
 
 void InsertOptions::PositionComposer() {
-  const Profile profile = application_.profile.Read();
+  const Profile profile = bench_.profile.Read();
   const auto place = [&profile](const char* key, float extent) {
     return WithinScreen(static_cast<float>(profile.GetInt(kSection, key, static_cast<int>(kPlace))), extent);
   };
-  const ScreenSize& screen = application_.platform.screen;
+  const ScreenSize& screen = bench_.platform.screen;
   MoveTo(place("ComposerLeft", screen.width), place("ComposerTop", screen.height));
 }
 
 void InsertOptions::GetSpaces() {
-  const Profile profile = application_.profile.Read();
+  const Profile profile = bench_.profile.Read();
   const auto text = [&profile](const char* key, int fallback) {
     return TextOf(To16Bits(profile.GetInt(kSection, key, fallback)));
   };
@@ -199,7 +199,7 @@ void InsertOptions::GetSpaces() {
 }
 
 void InsertOptions::SaveSpaces() {
-  Settings& settings = application_.settings;
+  Settings& settings = bench_.settings;
   std::vector<ProfileEntry> entries;
   for (const Property<int>* member :
        {&NumberOfBlanks, &DefaultRPTvalue, &settings.DefaultDLYvalue, &AlwaysInsert, &COMPaddCR,
@@ -207,15 +207,15 @@ void InsertOptions::SaveSpaces() {
     entries.push_back({kSection, std::string(member->Name()), member->ToText()});
   }
   if (WindowState != kMinimised) {
-    const ScreenSize& screen = application_.platform.screen;
+    const ScreenSize& screen = bench_.platform.screen;
     const auto place = [](float at, float extent) {
       return TextOf(static_cast<int>(WithinScreen(at, extent)));
     };
     entries.push_back({kSection, "ComposerTop", place(Top, screen.height)});
     entries.push_back({kSection, "ComposerLeft", place(Left, screen.width)});
   }
-  const Trap trap{application_.errors, "COMPOSER SaveSpaces"};
-  trap(application_.profile.WriteAll(entries));
+  const Trap trap{bench_.errors, "COMPOSER SaveSpaces"};
+  trap(bench_.profile.WriteAll(entries));
 }
 
 /// Each page that builds statements starts on its first page, ready for typing.
@@ -238,7 +238,7 @@ void InsertOptions::SSTab1_Click() {
 
 std::string InsertOptions::MacroNameForMDEF() const {
   constexpr std::size_t kExtension = 4;
-  const std::string& name = editor().Macro.Name.Get().Text();
+  const std::string& name = bench_.documents.macro.Name.Get().Text();
   return name.substr(0, name.size() - std::min(name.size(), kExtension));
 }
 
@@ -248,22 +248,22 @@ std::string InsertOptions::MacroNameForMDEF() const {
 void InsertOptions::Command5_Click(int index) {
   constexpr int kPreferences = 1;
   if (index != kPreferences) return;
-  if (application_.values.FontChanged == 1) editor().DamnFontWasChanged();
+  bench_.TakeChosenFont();
   LabelWCS();
 }
 
 void InsertOptions::Command14_Click() {
-  application_.platform.dialogs.Show({kTipTitle, kTip, BoxIcon::Information, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({kTipTitle, kTip, BoxIcon::Information, BoxButtons::Ok});
 }
 
 void InsertOptions::CommandHelp_Click() {
-  application_.platform.help.ShowContext(application_.platform.folder + "\\Tarvik.hlp",
-                                         topic::kComposerPages[SSTab1.Tab]);
+  bench_.platform.help.ShowContext(bench_.platform.folder + "\\Tarvik.hlp",
+                                   topic::kComposerPages[SSTab1.Tab]);
 }
 
 void InsertOptions::Check1_Click() {
-  application_.settings.CompOnTop = Check1.Value;
-  application_.settings.SaveOptions();
+  bench_.settings.CompOnTop = Check1.Value;
+  bench_.settings.SaveOptions();
   Topmost = Check1.Value == 1;
 }
 
@@ -286,26 +286,26 @@ void InsertOptions::ClearAllForNewMacroFile() {
 }
 
 void InsertOptions::CopyMacroList() {
-  const Editor& from = editor();
+  const MacroLists& from = bench_.macros;
   ClearAllForNewMacroFile();
-  Combo1.FillInOrder(from.Combo1.List());
-  for (int i = 0; i < from.List1.Count(); ++i) {
+  Combo1.FillInOrder(from.categories.List());
+  for (int i = 0; i < from.lists.Count(); ++i) {
     ListBox& list = i == 0 ? List1(0) : List1.Load(i);
     list.Visible = i == 0;
-    list.FillInOrder(from.List1(i).List());
-    list.Tick(from.List1(i).Ticks());
+    list.FillInOrder(from.lists(i).List());
+    list.Tick(from.lists(i).Ticks());
   }
   for (int item = 0; item < Combo1.ListCount(); ++item) {
     if (Combo1.List()[static_cast<std::size_t>(item)] != "All") continue;
-    application_.values.SelectedCategoryList = item;
+    bench_.values.SelectedCategoryList = item;
     Combo1.ListIndex = item;
     List1(0).ToFront();
   }
   if (List1(0).ListCount() > 0) List1(0).ListIndex = 0;
-  application_.values.MacroListChanged = 0;
+  bench_.values.MacroListChanged = 0;
 }
 
-void InsertOptions::Combo1_Click() { editor().macroLists().ShowCategory(Combo1, List1); }
+void InsertOptions::Combo1_Click() { bench_.macros.ShowCategory(Combo1, List1); }
 
 void InsertOptions::List1_MouseDown(int index, const Mouse& mouse) {
   constexpr int kLeft = 1;
@@ -318,35 +318,35 @@ void InsertOptions::List1_MouseDown(int index, const Mouse& mouse) {
 }
 
 void InsertOptions::List1_MouseMove(int index, const Mouse& mouse) {
-  editor().macroLists().TakeUnder(List1(index), mouse);
+  bench_.macros.TakeUnder(List1(index), mouse);
 }
 
 void InsertOptions::List1_DblClick(int index) {
-  editor().macroLists().Insert(List1(index));
-  if (COMPaddCR == 1) editor().insertion().InsertCarriageReturn();
+  bench_.macros.Insert(List1(index));
+  if (COMPaddCR == 1) bench_.insertion.InsertCarriageReturn();
 }
 
 void InsertOptions::List1_OLEStartDrag(int index) {
-  editor().macroLists().TakeFrom(List1(index));
-  List1(index).DragText = " " + application_.values.SelectedMacro.Get() + " ";
+  bench_.macros.TakeFrom(List1(index));
+  List1(index).DragText = " " + bench_.values.SelectedMacro.Get() + " ";
 }
 
 void InsertOptions::mnuFindInJoyFile_Click() {
-  editor().macroLists().TakeFrom(List1(PopupListIndex));
-  editor().Joystick.text.SetFocus();
-  editor().macroLists().FindMacroInJF();
+  bench_.macros.TakeFrom(List1(PopupListIndex));
+  bench_.documents.joystick.text.SetFocus();
+  bench_.macros.FindMacroInJF();
 }
 
 void InsertOptions::mnuRHListEdit_Click() {
-  editor().TabStrip1.Select(editor().Macro.traits.tab);
-  editor().macroLists().TakeFrom(List1(PopupListIndex));
-  editor().MacroText.SetFocus();
-  editor().macroLists().ShowMacroKeys();
+  bench_.documents.Select(bench_.documents.macro);
+  bench_.macros.TakeFrom(List1(PopupListIndex));
+  bench_.documents.macro.text.SetFocus();
+  bench_.macros.ShowMacroKeys();
 }
 
 void InsertOptions::FindMacriInJfile() {
-  editor().macroLists().TakeFrom(List1(PopupListIndex));
-  editor().macroLists().FindMacroInJF();
+  bench_.macros.TakeFrom(List1(PopupListIndex));
+  bench_.macros.FindMacroInJF();
 }
 
 }  // namespace tarvik

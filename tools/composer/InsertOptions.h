@@ -3,17 +3,17 @@
 // when it is hidden.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/Menu.h"
 #include "language/LogicLines.h"
 #include "tools/composer/StatementWriter.h"
 #include "workbench/Document.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 class InsertOptions : public Form {
  public:
-  explicit InsertOptions(Application& application);
+  explicit InsertOptions(Workbench& bench, Shell& shell);
 
   /// The pages of SSTab1.
   enum Page { kComposer, kRange, kAntenna, kThrottle, kAxes, kUse, kTemplates, kLogic };
@@ -207,7 +207,6 @@ class InsertOptions : public Form {
   /// The last three characters of the joystick file's name.
   [[nodiscard]] std::string EndingOfFile() const;
 
-  [[nodiscard]] Editor& editor() const { return application_.editor(); }
   [[nodiscard]] StatementStyle Style() const;
   [[nodiscard]] bool PortArmed() const;
   void FindOrWrite(const Statement& statement);
@@ -222,7 +221,8 @@ class InsertOptions : public Form {
   void AddToLogicLine(std::string_view token);
   [[nodiscard]] Outcome<std::string> LogicLine(int index);
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
   StatementWriter writer_;
   std::vector<Connection> connections_;
 };

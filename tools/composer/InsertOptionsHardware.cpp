@@ -1,7 +1,6 @@
 // The Composer's main page: which hardware it shows, and what a click on it does.
 #include <algorithm>
 
-#include "app/Editor.h"
 #include "tools/composer/InsertOptions.h"
 
 namespace tarvik {
@@ -84,7 +83,7 @@ void InsertOptions::MakeMainPage() {
     box.Change = [&box, &member, fallback] { member = AtLeastOne(box, fallback); };
     return &box;
   };
-  number("DLYText", application_.settings.DefaultDLYvalue, 60);
+  number("DLYText", bench_.settings.DefaultDLYvalue, 60);
   number("TextRPT", DefaultRPTvalue, 2);
   TextBox* const blanks = number("Text1(8)", NumberOfBlanks, 5);
   blanks->GotFocus = [this, blanks] {
@@ -104,7 +103,7 @@ void InsertOptions::MakeMainPage() {
 // What it shows.
 
 void InsertOptions::ShowApproriateTabs() {
-  const Settings& settings = application_.settings;
+  const Settings& settings = bench_.settings;
   if (settings.ComposerImages == kByPreferences) ShowForPreferences();
   if (settings.ComposerImages == kAll) ShowAllHardware();
   if (settings.ComposerImages == kByFile) ShowForFile();
@@ -155,7 +154,7 @@ void InsertOptions::ShowForJoystick(int joystick) {
 }
 
 void InsertOptions::ShowForPreferences() {
-  const Settings& settings = application_.settings;
+  const Settings& settings = bench_.settings;
   const int throttle = settings.ThrottleName;
   const bool plain = settings.JoyName > tables::kFlcs;
   const bool known = throttle <= tables::kLastWcs;
@@ -183,7 +182,7 @@ void InsertOptions::ShowForFile() {
   for (int i = 0; i < static_cast<int>(std::size(tables::kJoysticks)); ++i) {
     if (tables::kJoysticks[i].ending == ending) joystick = i;
   }
-  Pane& file = editor().JoystickText;
+  Pane& file = bench_.documents.joystick.text;
   const bool tqs = Holds(file, "TQS");
   const bool wcs = !tqs && Holds(file, "WCS");
   const bool plain = joystick > tables::kFlcs;
@@ -195,13 +194,13 @@ void InsertOptions::ShowForFile() {
 
 std::string InsertOptions::EndingOfFile() const {
   constexpr std::size_t kEnding = 3;
-  const std::string& name = editor().TabStrip1.Tabs(1).Caption;
+  const std::string& name = bench_.documents.tabs.Tabs(1).Caption;
   return name.substr(name.size() - std::min(name.size(), kEnding));
 }
 
 /// The throttle goes by the language of the joystick that it is programmed with.
 void InsertOptions::LabelWCS() {
-  const bool plain = EndingOfFile() == "adv" || application_.settings.JoyName > tables::kFlcs;
+  const bool plain = EndingOfFile() == "adv" || bench_.settings.JoyName > tables::kFlcs;
   for (const tables::WcsRow& row : tables::kWcsButtons) {
     Label& button = hardware("BTN(" + std::to_string(row.button) + ")");
     button.Caption = std::string(plain ? row.plain : row.numbered);
@@ -211,10 +210,10 @@ void InsertOptions::LabelWCS() {
 
 // Statements.
 
-void InsertOptions::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
+void InsertOptions::Say(const std::string& text) { bench_.documents.status.Panels(1).Text = text; }
 
 StatementStyle InsertOptions::Style() const {
-  const Settings& settings = application_.settings;
+  const Settings& settings = bench_.settings;
   return {settings.InsertWithColour != 0, settings.CompTabsAddCr == 1};
 }
 
@@ -290,7 +289,7 @@ void InsertOptions::DlyRptButtons_Click(int index) {
 void InsertOptions::CommandREM_Click() { writer_.Write(RemStatement(RemTextBox.Text, Style())); }
 
 void InsertOptions::Command7_Click(int index) {
-  ColouredInsertion& insertion = editor().insertion();
+  ColouredInsertion& insertion = bench_.insertion;
   if (index == 0) return insertion.InsertCarriageReturn();
   insertion.BeginColInsert();
   InsertComposerBlanks();
@@ -299,7 +298,7 @@ void InsertOptions::Command7_Click(int index) {
 
 void InsertOptions::InsertComposerBlanks() {
   NumberOfBlanks = AtLeastOne(boxes("Text1(8)"), 5);
-  editor().insertion().InsertBlackBlanks(static_cast<std::size_t>(NumberOfBlanks.Get()));
+  bench_.insertion.InsertBlackBlanks(static_cast<std::size_t>(NumberOfBlanks.Get()));
 }
 
 }  // namespace tarvik

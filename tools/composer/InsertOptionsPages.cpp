@@ -1,5 +1,4 @@
 // The Composer's pages beside the main one: statements built from fields, templates, and logic lines.
-#include "app/Editor.h"
 #include "tools/composer/InsertOptions.h"
 #include "workbench/Highlighter.h"
 
@@ -86,7 +85,7 @@ void InsertOptions::TabStatement_Click(const tables::TabRow& row) {
 
 void InsertOptions::CheckMultiAddCR_Click(int index) {
   const int value = CheckMultiAddCR(index).Value;
-  application_.settings.CompTabsAddCr = value;
+  bench_.settings.CompTabsAddCr = value;
   for (int i = 0; i < CheckMultiAddCR.Count(); ++i) CheckMultiAddCR(i).Value = value;
 }
 
@@ -181,7 +180,7 @@ void InsertOptions::MakeTemplatesPage() {
 void InsertOptions::FillTemplates() {
   std::vector<std::string> names;
   for (const char* const ending : {".rtf", ".txt"}) {
-    for (std::string& name : application_.platform.files.FilesIn(TemplatePath.Get(), ending)) {
+    for (std::string& name : bench_.platform.files.FilesIn(TemplatePath.Get(), ending)) {
       names.push_back(std::move(name));
     }
   }
@@ -200,7 +199,7 @@ void InsertOptions::MakeTemplateCurrent(int item) {
 }
 
 void InsertOptions::Templates_Click() {
-  const Trap trap{application_.errors, "PLUGIN Templates_Click"};
+  const Trap trap{bench_.errors, "PLUGIN Templates_Click"};
   TemplatesPreview.Text = std::string();
   trap(TemplatesPreview.LoadFile(TemplatePath.Get() + Templates.Current()));
   LastTemplateIndex = Templates.ListIndex;
@@ -216,27 +215,27 @@ void InsertOptions::Templates_MouseMove(const Mouse& mouse) {
 /// Over what is selected in the file, with its colours, as one step of undo. The caret goes behind it.
 void InsertOptions::InsertTemplate(Document& document) {
   if (TemplatesPreview.Characters().empty()) return;
-  document.Undo.BeginCommand(application_.settings.UndoMax);
+  document.Undo.BeginCommand(bench_.settings.UndoMax);
   document.text.ReplaceSelection(TemplatesPreview.Content());
   document.Caret = document.text.SelStart;
 }
 
-void InsertOptions::TemplatesPreview_DblClick() { InsertTemplate(editor().ActiveDocument()); }
+void InsertOptions::TemplatesPreview_DblClick() { InsertTemplate(bench_.documents.Active()); }
 
 void InsertOptions::Command11_Click(int index) {
   if (index == 2) return FillTemplates();
   if (TemplatesPreview.Characters().empty()) return;
-  Document& document = index == 0 ? editor().Joystick : editor().Macro;
-  editor().TabStrip1.Select(document.traits.tab);
+  Document& document = index == 0 ? bench_.documents.joystick : bench_.documents.macro;
+  bench_.documents.Select(document);
   InsertTemplate(document);
 }
 
 void InsertOptions::mnuJoystick_Click() { Command11_Click(0); }
 /// Whichever file is on top stays there.
-void InsertOptions::mnuMacrofile_Click() { InsertTemplate(editor().Macro); }
+void InsertOptions::mnuMacrofile_Click() { InsertTemplate(bench_.documents.macro); }
 
 void InsertOptions::mnuQuickie_Click() {
-  application_.platform.dialogs.Show({kQuickieTitle, kQuickie, BoxIcon::Information, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({kQuickieTitle, kQuickie, BoxIcon::Information, BoxButtons::Ok});
 }
 
 // Logic.
@@ -307,9 +306,9 @@ void InsertOptions::AddToLogicLine(std::string_view token) {
 }
 
 void InsertOptions::CMDFlagInsert_Click(int index) {
-  const Trap trap{application_.errors, "COMPOSER CMDFlagInsert_Click"};
+  const Trap trap{bench_.errors, "COMPOSER CMDFlagInsert_Click"};
   if (index == static_cast<int>(std::size(tables::kFlagInserts))) {
-    trap(application_.platform.desktop.Open(application_.platform.folder + "\\An0002a.txt"));
+    trap(bench_.platform.desktop.Open(bench_.platform.folder + "\\An0002a.txt"));
     return;
   }
   BoxTexts texts;
@@ -335,14 +334,14 @@ void InsertOptions::Command13_Click(int index) {
     if (!line.Empty()) writer_.Write(LogicStatement(line.Text));
     return;
   }
-  const Trap trap{application_.errors, "COMPOSER Command13_Click"};
-  ColouredInsertion& insertion = editor().insertion();
+  const Trap trap{bench_.errors, "COMPOSER Command13_Click"};
+  ColouredInsertion& insertion = bench_.insertion;
   insertion.BeginColInsert();
-  editor().CheckAtLineBeginning();
+  bench_.edit.CheckAtLineBeginning();
   for (int i = 0; i <= static_cast<int>(tables::kLogicLines); ++i) {  // the last pass finds no box
     const auto line = trap(LogicLine(i));
     if (!line || line->empty()) continue;
-    application_.values.InsertionText = *line;
+    bench_.values.InsertionText = *line;
     insertion.InsertBlackText();
     insertion.InsertCarriageReturn();
   }
@@ -350,12 +349,12 @@ void InsertOptions::Command13_Click(int index) {
 }
 
 void InsertOptions::FindLogicStatements() {
-  const std::string_view text = editor().JoystickText.Characters();
+  const std::string_view text = bench_.documents.joystick.text.Characters();
   if (text.empty()) return;
   for (int i = 0; i < RichTexFlag.Count(); ++i) RichTexFlag(i).Text = std::string();
   const std::vector<std::string> lines = LogicLinesOf(text);
   if (lines.empty()) {
-    application_.platform.dialogs.Show({kNoLogicTitle, kNoLogic, BoxIcon::Information, BoxButtons::Ok});
+    bench_.platform.dialogs.Show({kNoLogicTitle, kNoLogic, BoxIcon::Information, BoxButtons::Ok});
     return;
   }
   for (std::size_t i = 0; i < lines.size(); ++i) RichTexFlag(static_cast<int>(i)).Text = lines[i];

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "app/Editor.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -21,24 +20,23 @@ bool IsAxis(const std::string& text) {
 }  // namespace
 
 bool StatementWriter::FindButton(const std::string& text) {
-  Editor& editor = application_.editor();
-  Document& joystick = editor.Joystick;
+  Document& joystick = bench_.documents.joystick;
   Pane& pane = joystick.text;
   if (pane.Characters().empty()) return false;
-  editor.TabStrip1.Select(joystick.traits.tab);
+  bench_.documents.Select(joystick);
   const auto hit = pane.Find(text, 0, pane.Characters().size(), IsAxis(text) ? find::kWholeWord : 0);
   if (hit) {
     joystick.Caret = *hit + text.size();
     joystick.SelLength = 0;
   }
   pane.SelStart = joystick.Caret;
-  editor.FocusActiveText();
+  bench_.documents.Active().text.SetFocus();
   return hit.has_value();
 }
 
 bool StatementWriter::FindOrWrite(const Statement& statement, bool alwaysInsert) {
   if (!alwaysInsert && !statement.search.empty() && FindButton(statement.search)) {
-    Document& joystick = application_.editor().Joystick;
+    Document& joystick = bench_.documents.joystick;
     joystick.Caret = joystick.Caret + statement.pastHit;
     joystick.text.SelStart = joystick.Caret;
     return false;
@@ -48,19 +46,19 @@ bool StatementWriter::FindOrWrite(const Statement& statement, bool alwaysInsert)
 }
 
 void StatementWriter::Write(const Statement& statement) {
-  ColouredInsertion& insertion = application_.editor().insertion();
+  ColouredInsertion& insertion = bench_.insertion;
   insertion.BeginColInsert();
-  if (statement.ownLine) application_.editor().CheckAtLineBeginning();
+  if (statement.ownLine) bench_.edit.CheckAtLineBeginning();
   for (const Piece& piece : statement.pieces) WritePiece(piece);
   if (statement.endsLine) insertion.InsertCarriageReturn();
   insertion.EndColInsert();
 }
 
 void StatementWriter::WritePiece(const Piece& piece) {
-  ColouredInsertion& insertion = application_.editor().insertion();
-  Values& values = application_.values;
+  ColouredInsertion& insertion = bench_.insertion;
+  Values& values = bench_.values;
   values.InsertionText = piece.text;
-  values.InsertionColour = ColoursOf(application_.settings)[static_cast<std::size_t>(piece.colour)];
+  values.InsertionColour = ColoursOf(bench_.settings)[static_cast<std::size_t>(piece.colour)];
   if (piece.joins) {
     insertion.InsertColouredStringNoSpace(values.InsertionText, values.InsertionColour);
   } else if (piece.colour == ColourClass::Black) {

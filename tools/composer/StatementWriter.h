@@ -2,14 +2,14 @@
 // has it, or the statement is written.
 #pragma once
 
-#include "app/Application.h"
 #include "language/Statements.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 class StatementWriter {
  public:
-  explicit StatementWriter(Application& application) : application_(application) {}
+  explicit StatementWriter(Workbench& bench) : bench_(bench) {}
 
   /// Looks for the text in the joystick file, which comes to the top for it, and puts the caret behind the
   /// first hit. False: it is not there, or the file is empty.
@@ -23,7 +23,7 @@ class StatementWriter {
  private:
   void WritePiece(const Piece& piece);
 
-  Application& application_;
+  Workbench& bench_;
 };
 
 }  // namespace tarvik

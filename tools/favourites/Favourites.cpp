@@ -2,14 +2,13 @@
 
 #include <algorithm>
 
-#include "app/Editor.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
 
-EnterFavouritename::EnterFavouritename(Application& application)
-    : Form("EnterFavouritename"), application_(application) {
-  const PreviousFiles& lists = application.lists;
+EnterFavouritename::EnterFavouritename(Workbench& bench, Shell& shell)
+    : Form("EnterFavouritename"), bench_(bench), shell_(shell) {
+  const PreviousFiles& lists = bench.lists;
   Caption = "Enter a name to add to favourites";
   Topmost = true;
   Text1.ToolTipText = "This is what will appear in the favourites menu";
@@ -19,14 +18,14 @@ EnterFavouritename::EnterFavouritename(Application& application)
   Command1.MakeDefault();
   Command1.Click = [this] { Command1_Click(); };
   Command2.Cancel = true;
-  Command2.Click = [this] { application_.Unload(*this); };
+  Command2.Click = [this] { shell_.Unload(*this); };
   Text1.SelectAll();
   Text1.SetFocus();
 }
 
 void EnterFavouritename::Command1_Click() {
-  if (!Text1.Empty()) application_.lists.FavName = Text1.Text.Get();
-  application_.Unload(*this);
+  if (!Text1.Empty()) bench_.lists.FavName = Text1.Text.Get();
+  shell_.Unload(*this);
 }
 
 std::string SuggestedName(const std::string& path) {
@@ -37,15 +36,15 @@ std::string SuggestedName(const std::string& path) {
   return name;
 }
 
-void AddToFavourites(Application& application) {
-  const Editor& editor = application.editor();
-  Dialogs& dialogs = application.platform.dialogs;
-  PreviousFiles& lists = application.lists;
-  if (editor.Joystick.Dirty == saved::kNoText && editor.Macro.Dirty == saved::kNoText) {
+void AddToFavourites(Workbench& bench, Shell& shell) {
+  const Documents& files = bench.documents;
+  Dialogs& dialogs = bench.platform.dialogs;
+  PreviousFiles& lists = bench.lists;
+  if (files.joystick.Dirty == saved::kNoText && files.macro.Dirty == saved::kNoText) {
     dialogs.Show({"Nothing to add!", "Both files have no text!", BoxIcon::Information, BoxButtons::Ok});
     return;
   }
-  for (const auto& [document, kind] : {std::pair(&editor.Joystick, "joystick"), {&editor.Macro, "macro"}}) {
+  for (const auto& [document, kind] : {std::pair(&files.joystick, "joystick"), {&files.macro, "macro"}}) {
     if (!document->IsUntitled()) continue;
     const std::string file = std::string(kind) + " file";
     dialogs.Show({"Your " + file + " isn't saved",
@@ -53,23 +52,22 @@ void AddToFavourites(Application& application) {
                   BoxButtons::Ok});
     return;
   }
-  lists.FavJFPath = editor.Joystick.Path;
-  lists.FavMFPath = editor.Macro.Path;
+  lists.FavJFPath = files.joystick.Path;
+  lists.FavMFPath = files.macro.Path;
   lists.FavName = std::string();
-  application.ShowModal(application.Tool<EnterFavouritename>());
+  shell.ShowModal(shell.Tool<EnterFavouritename>());
   if (!lists.FavName.Get().empty()) lists.UpdateFavouritesMenu();
 }
 
-void OpenFavourite(Application& application, int index) {
-  Editor& editor = application.editor();
-  PreviousFiles& lists = application.lists;
+void OpenFavourite(Workbench& bench, int index) {
+  PreviousFiles& lists = bench.lists;
   lists.Favourites.Take(index);
-  const Files& files = application.platform.files;
+  const Files& files = bench.platform.files;
   const bool bothThere = files.FileExists(lists.FavMFPath.Get()) && files.FileExists(lists.FavJFPath.Get());
-  editor.OpenFavouriteFile(lists.FavMFPath);
-  editor.OpenFavouriteFile(lists.FavJFPath);
+  bench.files.OpenFavourite(lists.FavMFPath);
+  bench.files.OpenFavourite(lists.FavJFPath);
   // What could not be opened stays told in the status bar.
-  if (bothThere && application.settings.CheckIdentifyOK == 1) editor.mnuViewIdentify_Click();
+  if (bothThere && bench.settings.CheckIdentifyOK == 1) bench.macros.IdentifyMacrosUsed();
 }
 
 }  // namespace tarvik

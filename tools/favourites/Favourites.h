@@ -1,15 +1,15 @@
 // Favourites: pairs of a joystick file and a macro file under a name of the user's, opened by one click.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/Controls.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 /// Asks what the two files in hand are to be called in the menu.
 class EnterFavouritename : public Form {
  public:
-  explicit EnterFavouritename(Application& application);
+  explicit EnterFavouritename(Workbench& bench, Shell& shell);
 
   TextBox Text1{*this, "Text1"};
   Label Label1{*this, "Label1"};  ///< the joystick file
@@ -20,16 +20,17 @@ class EnterFavouritename : public Form {
   void Command1_Click();
 
  private:
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 /// What a file is called unless the user knows better: "c:\tm\MYFILE.f22" gives "Myfile".
 [[nodiscard]] std::string SuggestedName(const std::string& path);
 
 /// Asks for a name for the two files in hand, and puts them first in the list.
-void AddToFavourites(Application& application);
+void AddToFavourites(Workbench& bench, Shell& shell);
 
 /// Opens both files of the favourite; 1-based.
-void OpenFavourite(Application& application, int index);
+void OpenFavourite(Workbench& bench, int index);
 
 }  // namespace tarvik

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/Editor.h"
 #include "workbench/HelpTopics.h"
 
 namespace tarvik {
@@ -47,8 +46,8 @@ FindAndReplace::Page FindAndReplace::ReplacePage() {
   return {ComboTextReplaceFind, OptionJoystickR, OptionMacroR, MatchCaseR, WholeWordR, Command3, true};
 }
 
-FindAndReplace::FindAndReplace(Application& application)
-    : Form("FindAndReplace"), application_(application), editor_(application.editor()) {
+FindAndReplace::FindAndReplace(Workbench& bench, Shell& shell)
+    : Form("FindAndReplace"), bench_(bench), shell_(shell) {
   Caption = "Find and Replace";
   Command1.Caption = kFirst;
   Command3.Caption = kFirst;
@@ -80,7 +79,7 @@ void FindAndReplace::AttachHandlers() {
     option->Click = [this] { SearchTarget = 2; };
   }
   for (CommandButton* const button : {&Command2, &Command4, &Command8, &Command9}) {
-    button->Click = [this] { application_.Unload(*this); };
+    button->Click = [this] { shell_.Unload(*this); };
   }
   ComboTextFind.Change = [this] { Command1.Caption = kFirst; };
   ComboTextReplaceFind.Change = [this] { Command3.Caption = kFirst; };
@@ -106,7 +105,7 @@ void FindAndReplace::Form_Load() {
 void FindAndReplace::Form_KeyDown(Key& key) {
   if (key.code != kEscape) return;
   key = {};
-  application_.Unload(*this);
+  shell_.Unload(*this);
 }
 
 // Showing.
@@ -117,9 +116,9 @@ void FindAndReplace::ShowOn(int tab) {
 }
 
 void FindAndReplace::TakeSelection(const Page& page) {
-  const bool joystick = editor_.TabStrip1.SelectedIndex() == 1;
+  const bool joystick = bench_.documents.tabs.SelectedIndex() == 1;
   (joystick ? page.joystick : page.macro).Value = true;
-  page.text.Text = (joystick ? editor_.JoystickText : editor_.MacroText).SelText.Get();
+  page.text.Text = (joystick ? bench_.documents.joystick.text : bench_.documents.macro.text).SelText.Get();
   page.text.SelectAll();
   page.find.MakeDefault();
   page.text.SetFocus();
@@ -157,7 +156,7 @@ void FindAndReplace::SSTab1_Click() {
   page.find.MakeDefault();
 }
 
-void FindAndReplace::Command10_Click() { ShowHelp(application_.platform, topic::kFindPages[SSTab1.Tab]); }
+void FindAndReplace::Command10_Click() { ShowHelp(bench_.platform, topic::kFindPages[SSTab1.Tab]); }
 
 void FindAndReplace::AllowReplacing(bool allow) {
   Command5.Enabled = allow;
@@ -165,13 +164,13 @@ void FindAndReplace::AllowReplacing(bool allow) {
 }
 
 void FindAndReplace::Show(const char* title, const std::string& text, BoxIcon icon) const {
-  application_.platform.dialogs.Show({title, text, icon, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({title, text, icon, BoxButtons::Ok});
 }
 
 // Searching.
 
 Document& FindAndReplace::Target(const Page& page) const {
-  return page.joystick.Value ? editor_.Joystick : editor_.Macro;
+  return page.joystick.Value ? bench_.documents.joystick : bench_.documents.macro;
 }
 
 void FindAndReplace::TakeOptions(const Page& page) {
@@ -183,7 +182,7 @@ void FindAndReplace::TakeOptions(const Page& page) {
 /// Takes the text to look for. False, and says so, when there is none or no text to find it in.
 bool FindAndReplace::IsReady(const Page& page) {
   const Document& document = Target(page);
-  const std::string caption = editor_.TabStrip1.Tabs(document.traits.tab).Caption;
+  const std::string caption = bench_.documents.tabs.Tabs(document.traits.tab).Caption;
   if (page.text.Empty()) {
     Show("Please enter text to search", "You haven't specified the text to search for");
   } else if (SearchText = page.text.Text.Get(); document.text.Characters().empty()) {
@@ -203,7 +202,7 @@ void FindAndReplace::Search(const Page& page) {
   if (!page.text.Empty()) page.text.Remember(page.text.Text);
   if (!IsReady(page)) return;
   Document& document = Target(page);
-  editor_.TabStrip1.Select(document.traits.tab);
+  bench_.documents.Select(document);
   TakeOptions(page);
   const bool first = page.find.Caption.Get() == kFirst;
   if (first) document.Caret = 0;
@@ -236,7 +235,7 @@ bool FindAndReplace::GoOnFrom(const Document& document) {
 }
 
 void FindAndReplace::NotFound(const Page& page, Document& document, bool first) {
-  const std::string& caption = editor_.TabStrip1.Tabs(document.traits.tab).Caption;
+  const std::string& caption = bench_.documents.tabs.Tabs(document.traits.tab).Caption;
   const std::string text = Quoted(SearchText);
   if (first) {
     Show("Text not found", text + " not found in " + caption);
@@ -258,7 +257,7 @@ void FindAndReplace::NotFound(const Page& page, Document& document, bool first) 
 /// A protected file takes no edits of the user's, and says so.
 bool FindAndReplace::Refuses(const Document& document) const {
   if (!document.text.Locked) return false;
-  editor_.SayIsProtected(document);
+  bench_.documents.SayIsProtected(document);
   return true;
 }
 
@@ -282,7 +281,7 @@ void FindAndReplace::ReplaceText() {
   if (!SelectHit()) return;
   TakeReplacement();
   Document& document = *hit_->document;
-  document.Undo.BeginCommand(application_.settings.UndoMax);
+  document.Undo.BeginCommand(bench_.settings.UndoMax);
   document.text.SelText = ReplacementText.Get();
   document.Caret = hit_->range.start + ReplacementText.Get().size();
   hit_.reset();
@@ -299,11 +298,11 @@ void FindAndReplace::Command6_Click() {
   if (!IsReady(page) || Refuses(document)) return;
   std::size_t count = 0;
   {
-    const Loading loading(application_.values);
-    editor_.TabStrip1.Select(document.traits.tab);
-    document.Undo.BeginCommand(application_.settings.UndoMax);
+    const Loading loading(bench_.values);
+    bench_.documents.Select(document);
+    document.Undo.BeginCommand(bench_.settings.UndoMax);
     TakeOptions(page);
-    ProgressBar& bar = application_.mum().ProgressBar1;
+    ProgressBar& bar = bench_.documents.progress;
     bar.Min = 0;
     bar.Max = static_cast<int>(document.text.Characters().size());
     bar.Value = 0;
@@ -320,19 +319,19 @@ void FindAndReplace::Command6_Click() {
   }
   Show("Replaced 'em all for you. Now buy me a drink",
        TextOf(count) + " replacements were made in " +
-           editor_.TabStrip1.Tabs(document.traits.tab).Caption.Get(),
+           bench_.documents.tabs.Tabs(document.traits.tab).Caption.Get(),
        BoxIcon::Information);
   Command3.Caption = kFirst;
   document.text.SelStart = document.Caret;
   AllowReplacing(false);
   document.Undo.Start = 1;
-  editor_.TextChanged(document);
+  bench_.documents.TextChanged(document);
 }
 
 // Going to a line.
 
 void FindAndReplace::Command7_Click() {
-  Document& document = editor_.Joystick;
+  Document& document = bench_.documents.joystick;
   const std::string_view text = document.text.Characters();
   const double line = std::floor(NumberIn(LineToFind.Text.Get()));
   if (line < 1 || line > static_cast<double>(document.text.GetLineFromChar(text.size()) + 1)) {
@@ -347,7 +346,7 @@ void FindAndReplace::Command7_Click() {
   document.text.Select({*start, end - *start});
   document.SelLength = end - *start;
   document.Caret = *start;
-  editor_.ShowLineNumber(document);
+  bench_.documents.ShowLineNumber(document);
 }
 
 }  // namespace tarvik

@@ -1,14 +1,14 @@
 // The tool window that searches either file, replaces what it finds, and goes to a line.
 #pragma once
 
-#include "app/Application.h"
 #include "workbench/Document.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 class FindAndReplace : public Form {
  public:
-  explicit FindAndReplace(Application& application);
+  explicit FindAndReplace(Workbench& bench, Shell& shell);
 
   TabPages SSTab1{*this, "SSTab1", {"&Find", "Re&place", "&Go to"}};
 
@@ -104,8 +104,8 @@ class FindAndReplace : public Form {
     bool onReplacePage;
   };
 
-  Application& application_;
-  Editor& editor_;
+  Workbench& bench_;
+  Shell& shell_;
   std::optional<Hit> hit_;
 };
 

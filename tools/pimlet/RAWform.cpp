@@ -2,10 +2,6 @@
 
 #include <cmath>
 
-#include "app/Editor.h"
-#include "tools/blocks/TextBlocks.h"
-#include "tools/wizards/MacroWizard.h"
-#include "tools/wizards/Speedy.h"
 #include "workbench/HelpTopics.h"
 
 namespace tarvik {
@@ -102,12 +98,12 @@ void Attach(const ControlArray<CommandButton>& buttons, RAWform& form, void (RAW
 
 }  // namespace
 
-RAWform::RAWform(Application& application)
+RAWform::RAWform(Workbench& bench, Shell& shell)
     : Form("RAWform"),
-      TotalCombinedText(*this, "TotalCombinedText", application.platform.files),
+      TotalCombinedText(*this, "TotalCombinedText", bench.platform.files),
       menus(*this, kMenus),
-      application_(application),
-      editor_(application.editor()) {
+      bench_(bench),
+      shell_(shell) {
   Caption = "Pimlet - the Thrustmaster key syntax and RAW code generator";
   Width = kWidth;
   Height = kHeight;
@@ -170,7 +166,7 @@ void RAWform::AttachHandlers() {
   Form::Load = [this] { Form_Load(); };
   Form::Unload = [this] { Form_Unload(); };
   Form::Activate = [this] { Raise(); };
-  Form::KeyDown = [this](Key& key) { editor_.ForwardKey(key); };
+  Form::KeyDown = [this](Key& key) { shell_.ForwardKey(key); };
 }
 
 // Life of the form.
@@ -183,19 +179,19 @@ void RAWform::Form_Load() {
   LastAddKind = kNothing;
   menus("mnuDelay").Visible = false;
   menus("mnuColourPaste").Visible = false;
-  Check1.Value = application_.settings.PimletOnTop == 1 ? 1 : 0;
+  Check1.Value = bench_.settings.PimletOnTop == 1 ? 1 : 0;
   Topmost = Check1.Value == 1;
 }
 
 void RAWform::Check1_Click() {
   Topmost = Check1.Value == 1;
-  application_.settings.PimletOnTop = Check1.Value;
-  application_.settings.SaveOptions();
+  bench_.settings.PimletOnTop = Check1.Value;
+  bench_.settings.SaveOptions();
 }
 
 void RAWform::PositionPimlet() {
-  const ScreenSize& screen = application_.platform.screen;
-  const Profile stored = application_.profile.Read();
+  const ScreenSize& screen = bench_.platform.screen;
+  const Profile stored = bench_.profile.Read();
   const auto read = [&stored](const char* key, float size, float end) {
     const int centred = static_cast<int>((end - size) / 2);
     return static_cast<float>(OnScreen(stored.GetInt(kMiscellaneous, key, centred), end));
@@ -208,11 +204,11 @@ void RAWform::PositionPimlet() {
 
 void RAWform::SavePosition() {
   if (WindowState == kMinimised) return;
-  const ScreenSize& screen = application_.platform.screen;
+  const ScreenSize& screen = bench_.platform.screen;
   const auto place = [](float at, float end) {
     return TextOf(OnScreen(static_cast<int>(std::lround(at)), end));
   };
-  Ignore(application_.profile.WriteAll(std::vector<ProfileEntry>{
+  Ignore(bench_.profile.WriteAll(std::vector<ProfileEntry>{
       {kMiscellaneous, "PimletTop", place(Top, screen.height)},
       {kMiscellaneous, "PimletLeft", place(Left, screen.width)},
       {kMiscellaneous, "AddPimletCR", TextOf(AddCR.Get())},
@@ -220,8 +216,8 @@ void RAWform::SavePosition() {
 }
 
 void RAWform::FormatCombinedText() {
-  TotalCombinedText.BackColor = application_.settings.BackgroundColour.Get();
-  editor_.ApplyFont(TotalCombinedText);
+  TotalCombinedText.BackColor = bench_.settings.BackgroundColour.Get();
+  ApplyFont(TotalCombinedText, bench_.settings);
 }
 
 // Keys.
@@ -248,7 +244,7 @@ Keystrings RAWform::GetKeystrings() const {
   if (!row) return {};
   const Held held = {ToggleButton1.On(), ToggleButton2.On(), ToggleButton3.On(), ToggleButton4.On()};
   return tarvik::GetKeystrings(*row, Command1(row->key).Caption.Get(), held,
-                               {application_.settings.JoyName, CheckUseSHFUK.Value == 1});
+                               {bench_.settings.JoyName, CheckUseSHFUK.Value == 1});
 }
 
 void RAWform::Toggle(ToggleLabel& label, std::initializer_list<int> keys) {
@@ -313,7 +309,8 @@ void RAWform::mnuDelayValue_Click(int index) {
 }
 
 void RAWform::Command7_Click() {
-  const std::string remark = AskForRemark(application_);
+  shell_.Show(ToolId::Remark);
+  const std::string& remark = bench_.values.REMText;
   if (!remark.empty()) AddText("Rem " + remark);
 }
 
@@ -322,15 +319,8 @@ void RAWform::Command4_Click() {
   FormatCombinedText();
 }
 
-template <class F>
-void RAWform::CopyLineTo() const {
-  const F* const form = application_.LoadedTool<F>();
-  if (form && form->Visible) form->Text1(1).Text = Line();
-}
-
 void RAWform::TotalCombinedText_Change() {
-  CopyLineTo<Speedy>();
-  CopyLineTo<MacroWizard>();
+  bench_.KeysOffered(Line());
   for (const int i : {0, 1}) CommandINS(i).Enabled = !TotalCombinedText.Characters().empty();
 }
 
@@ -346,22 +336,22 @@ void RAWform::Command9_Click(int index) {
   const std::string text = index == kLine     ? Line()
                            : index == kSyntax ? SyntaxText.Text.Get()
                                               : Raw(CodeBox(index).Text);
-  application_.platform.clipboard.Put(text, "");
-  editor_.UpdateCCPButtons();
+  bench_.platform.clipboard.Put(text, "");
+  bench_.edit.Copied();
 }
 
 void RAWform::CommandINS_Click(int index) {
-  editor_.TabStrip1.Select(index + 1);
-  application_.values.InsertionText = Line() + " ";
-  ColouredInsertion& insertion = editor_.insertion();
+  bench_.documents.tabs.Select(index + 1);
+  bench_.values.InsertionText = Line() + " ";
+  ColouredInsertion& insertion = bench_.insertion;
   insertion.BeginColInsert();
   insertion.InsertBlackText();
   if (AddCR == 1) insertion.InsertCarriageReturn();
   insertion.EndColInsert();
 }
 
-void RAWform::mnuPasteJ_Click() { PasteInto(editor_.Joystick); }
-void RAWform::mnuPasteM_Click() { PasteInto(editor_.Macro); }
+void RAWform::mnuPasteJ_Click() { PasteInto(bench_.documents.joystick); }
+void RAWform::mnuPasteM_Click() { PasteInto(bench_.documents.macro); }
 
 void RAWform::PasteInto(Document& document) {
   const std::string line = Line();
@@ -370,21 +360,21 @@ void RAWform::PasteInto(Document& document) {
   document.text.SelText = line;
   document.Caret = place + line.size();
   document.text.SelStart = document.Caret;
-  editor_.mnuViewReformat_Click();
+  bench_.documents.Reformat();
 }
 
 // What else it offers.
 
-void RAWform::Command11_Click() { application_.platform.dialogs.Show(kLayoutWarning); }
+void RAWform::Command11_Click() { bench_.platform.dialogs.Show(kLayoutWarning); }
 
 void RAWform::Command14_Click(int index) {
-  if (index == 1) return editor_.mnuViewHighlightLine_Click();
-  application_.platform.dialogs.Show(kTip);
+  if (index == 1) return bench_.blink.Start();
+  bench_.platform.dialogs.Show(kTip);
 }
 
-void RAWform::mnuFileClose_Click() { application_.Unload(*this); }
+void RAWform::mnuFileClose_Click() { shell_.Unload(*this); }
 
-void RAWform::mnuRawOverview_Click() { ShowHelp(application_.platform, topic::kPimlet); }
-void RAWform::mnuHelpRawcodes_Click() { ShowHelp(application_.platform, topic::kRawCodes); }
+void RAWform::mnuRawOverview_Click() { ShowHelp(bench_.platform, topic::kPimlet); }
+void RAWform::mnuHelpRawcodes_Click() { ShowHelp(bench_.platform, topic::kRawCodes); }
 
 }  // namespace tarvik

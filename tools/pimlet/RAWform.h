@@ -2,11 +2,11 @@
 // and gathers both in a line to insert into either file.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/Menu.h"
 #include "language/Keystrings.h"
 #include "panes/Pane.h"
 #include "workbench/Document.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
@@ -14,7 +14,7 @@ class RAWform : public Form {
  public:
   static constexpr int kSwitches = 9;
 
-  explicit RAWform(Application& application);
+  explicit RAWform(Workbench& bench, Shell& shell);
 
   ControlArray<CommandButton> Command1{*this, "Command1", 0};  ///< a key each, by the number in the key table
   ToggleLabel ToggleButton1{*this, "ToggleButton1", "Shift held"};
@@ -95,17 +95,14 @@ class RAWform : public Form {
   void ShowKeystrings();
   [[nodiscard]] Keystrings GetKeystrings() const;
   void Toggle(ToggleLabel& label, std::initializer_list<int> keys);
-  /// To a form that makes macros while it is shown.
-  template <class F>
-  void CopyLineTo() const;
   [[nodiscard]] std::string Line() const { return TotalCombinedText.Text; }
   void SetLine(const std::string& line, int kind);
   void AddText(const std::string& text);
   [[nodiscard]] TextBox& CodeBox(int index);
   void PasteInto(Document& document);
 
-  Application& application_;
-  Editor& editor_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 }  // namespace tarvik

@@ -2,10 +2,7 @@
 
 #include <algorithm>
 
-#include "app/Editor.h"
-#include "app/Mum.h"
 #include "text/CodePage.h"
-#include "tools/templates/TemplateForm.h"
 #include "workbench/HelpTopics.h"
 
 namespace tarvik {
@@ -23,7 +20,7 @@ bool IsOn(char letter, const std::string& path) { return LowerCase(path).starts_
 
 }  // namespace
 
-DrivesForm::DrivesForm(Application& application) : Form("DrivesForm"), application_(application) {
+DrivesForm::DrivesForm(Workbench& bench, Shell& shell) : Form("DrivesForm"), bench_(bench), shell_(shell) {
   Caption = "Drives";
   Label1.Caption = kAbout;
   Label1.BackColor = ToggleLabel::kOff;
@@ -32,8 +29,8 @@ DrivesForm::DrivesForm(Application& application) : Form("DrivesForm"), applicati
   Command2.Click = [this] { Command2_Click(); };
   Command3.MakeDefault();
   Command3.Cancel = true;
-  Command3.Click = [this] { application_.Unload(*this); };
-  Command4.Click = [this] { ShowHelp(application_.platform, topic::kDrives); };
+  Command3.Click = [this] { shell_.Unload(*this); };
+  Command4.Click = [this] { ShowHelp(bench_.platform, topic::kDrives); };
   List1.DblClick = [this] {
     if (Command1.Enabled) Command1_Click();
   };
@@ -51,7 +48,7 @@ void DrivesForm::Form_Load() {
 void DrivesForm::ShowDrives() {
   std::vector<std::string> rows;
   for (char letter = 'a'; letter < 'a' + kLetters; ++letter) rows.push_back(DriveOf(letter));
-  for (const Drive& drive : application_.platform.drives.All()) {
+  for (const Drive& drive : bench_.platform.drives.All()) {
     rows[static_cast<std::size_t>(drive.letter - 'a')] +=
         "  " + FromUtf8(drive.folder) + (drive.isThere ? "" : "  (not there)");
   }
@@ -61,7 +58,7 @@ void DrivesForm::ShowDrives() {
 }
 
 std::string DrivesForm::FolderOf(char letter) const {
-  const std::vector<Drive> drives = application_.platform.drives.All();
+  const std::vector<Drive> drives = bench_.platform.drives.All();
   const auto found = std::find_if(drives.begin(), drives.end(),
                                   [letter](const Drive& drive) { return drive.letter == letter; });
   return found == drives.end() ? "" : found->folder;
@@ -81,20 +78,22 @@ void DrivesForm::List1_Click() {
 bool DrivesForm::MayChange(char letter) {
   const std::string drive = DriveOf(letter);
   const auto refuse = [&](const std::string& why) {
-    application_.platform.dialogs.Show(
+    bench_.platform.dialogs.Show(
         {"Drive " + drive + " is in use", why, BoxIcon::Exclamation, BoxButtons::Ok});
     return false;
   };
-  if (IsOn(letter, application_.platform.folder)) {
-    return refuse("I live there myself: " + application_.platform.folder +
+  if (IsOn(letter, bench_.platform.folder)) {
+    return refuse("I live there myself: " + bench_.platform.folder +
                   ". To change this drive, close me and edit the section [Drives] of Tarvik.ini.");
   }
   std::vector<std::string> open;
-  const Editor& files = application_.editor();
-  for (const Document* const document : {&files.Joystick, &files.Macro}) {
+  const Documents& files = bench_.documents;
+  for (const Document* const document : {&files.joystick, &files.macro}) {
     if (!document->IsUntitled()) open.push_back(document->Path);
   }
-  if (const auto* const editor = application_.LoadedTool<TemplateForm>()) open.push_back(editor->FileName);
+  for (const Form* const form : shell_.Forms()) {
+    if (const std::string path = form->OpenPath(); !path.empty()) open.push_back(path);
+  }
   for (const std::string& path : open) {
     if (IsOn(letter, path)) {
       return refuse(path +
@@ -109,7 +108,7 @@ void DrivesForm::Command1_Click() {
   const char letter = Letter();
   if (!MayChange(letter)) return;
   const std::string drive = DriveOf(letter);
-  Platform& platform = application_.platform;
+  Platform& platform = bench_.platform;
   const auto folder =
       Ignore(platform.dialogs.AskForHostFolder("Select the folder for drive " + drive, FolderOf(letter)));
   if (!folder) return;
@@ -123,18 +122,18 @@ void DrivesForm::Command1_Click() {
 void DrivesForm::Command2_Click() {
   const char letter = Letter();
   if (!MayChange(letter)) return;
-  application_.platform.drives.Remove(letter);
+  bench_.platform.drives.Remove(letter);
   Store(letter, "");
 }
 
 /// An empty text in the settings file is as good as none.
 void DrivesForm::Store(char letter, const std::string& folder) {
-  const Trap trap{application_.errors, "DRIVES Store"};
-  const bool stored = trap(application_.profile.Write("Drives", {&letter, 1}, Protected(folder))).has_value();
+  const Trap trap{bench_.errors, "DRIVES Store"};
+  const bool stored = trap(bench_.profile.Write("Drives", {&letter, 1}, Protected(folder))).has_value();
   const std::string now = FromUtf8(FolderOf(letter));
-  application_.mum().StatusBar.Panels(1).Text = "Drive " + DriveOf(letter) +
-                                                (now.empty() ? " is no more" : " is now " + now) +
-                                                (stored ? "" : ", until I end: Tarvik.ini can't be written");
+  bench_.documents.status.Panels(1).Text = "Drive " + DriveOf(letter) +
+                                           (now.empty() ? " is no more" : " is now " + now) +
+                                           (stored ? "" : ", until I end: Tarvik.ini can't be written");
   ShowDrives();
 }
 

@@ -2,14 +2,14 @@
 // The preferences show it.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/Controls.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 class DrivesForm : public Form {
  public:
-  explicit DrivesForm(Application& application);
+  explicit DrivesForm(Workbench& bench, Shell& shell);
 
   Label Label1{*this, "Label1"};
   ListBox List1{*this, "List1"};  ///< every letter, with its folder where it has one
@@ -32,7 +32,8 @@ class DrivesForm : public Form {
   bool MayChange(char letter);
   void Store(char letter, const std::string& folder);
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
   std::vector<Connection> connections_;
 };
 

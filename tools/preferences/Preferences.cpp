@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/Editor.h"
 #include "text/CodePage.h"
+#include "tools/preferences/CommandLines.h"
 #include "tools/preferences/DrivesForm.h"
-#include "tools/programs/CustomApps.h"
 #include "workbench/HelpTopics.h"
 
 namespace tarvik {
@@ -99,23 +98,24 @@ void NameEach(const Controls& controls, const char* const (&captions)[N]) {
 
 }  // namespace
 
-Preferences::Preferences(Application& application)
+Preferences::Preferences(Workbench& bench, Shell& shell)
     : Form("Preferences"),
-      ExampleJoystickText(*this, "ExampleJoystickText", application.platform.files),
-      application_(application),
-      settings_(application.settings),
-      favourites_{application.lists.Favourites,
+      ExampleJoystickText(*this, "ExampleJoystickText", bench.platform.files),
+      bench_(bench),
+      shell_(shell),
+      settings_(bench.settings),
+      favourites_{bench.lists.Favourites,
                   List2,
                   {&Text7, &Text8, &Text9},
                   {&Command9, &Command10, &Command13, &Command14},
                   "favourites",
-                  [this] { application_.lists.SaveFavourites(); }},
-      games_{application.lists.Games,
+                  [this] { bench_.lists.SaveFavourites(); }},
+      games_{bench.lists.Games,
              List3,
              {&Text12, &Text11, &Text4, &Text13},
              {&Check5, &Command16, &Command15, &Command4, &Command12},
              "games",
-             [this] { application_.lists.SaveGames(); }} {
+             [this] { bench_.lists.SaveGames(); }} {
   Caption = "Preferences";
   NameControls();
   AttachHandlers();
@@ -152,7 +152,7 @@ void Preferences::NameControls() {
 void Preferences::AttachHandlers() {
   Command3.MakeDefault();
   Command3.Cancel = true;  // Escape stores as well
-  Command3.Click = [this] { application_.Unload(*this); };
+  Command3.Click = [this] { shell_.Unload(*this); };
   Command6.Click = [this] { Command6_Click(); };
   SSTab1.Click = [this] { SSTab1_Click(); };
   Text1.Change = [this] { settings_.B50LoadPath = Text1.Text.Get(); };
@@ -160,8 +160,8 @@ void Preferences::AttachHandlers() {
   Browse(Command1, Text1, "Locate Thrustmaster file", "Executables (*.exe)|*.exe|All files (*.*)|*.*",
          &settings_.B50LoadPath);
   Command2.Click = [this] {
-    const auto folder = Ignore(application_.platform.dialogs.AskForFolder(
-        "Select your Thrustmaster programs directory", Text2.Text));
+    const auto folder = Ignore(
+        bench_.platform.dialogs.AskForFolder("Select your Thrustmaster programs directory", Text2.Text));
     if (folder) Text2.Text = WithBackslash(LowerCase(*folder));
   };
   Browse(Command8, Text10, "Locate Thrustmaster file",
@@ -170,7 +170,7 @@ void Preferences::AttachHandlers() {
          &settings_.ImageFilePath);
   Browse(Command7, Text6, "Locate text file", "Text files|*.txt;*.rtf;*.ini;*.bat|All files (*.*)|*.*",
          &settings_.TextFilePath);
-  CommandDrives.Click = [this] { application_.ShowModal(application_.Tool<DrivesForm>()); };
+  CommandDrives.Click = [this] { shell_.ShowModal(shell_.Tool<DrivesForm>()); };
   ComboJoystick.Click = [this] { ComboJoystick_Click(); };
   ComboThrottle.Click = [this] { settings_.ThrottleName = ComboThrottle.ListIndex; };
   ComboRudders.Click = [this] { settings_.RudderName = ComboRudders.ListIndex; };
@@ -190,7 +190,7 @@ void Preferences::AttachMiscellaneous() {
   const auto atOnce = [this](CheckBox& box, Property<int>& setting) {
     box.Click = [this, &box, &setting] {
       setting = box.Value;
-      application_.editor().UpdateToolBarOpenSaveTooltips();
+      bench_.ToolbarSettingsChanged();
     };
   };
   atOnce(OpenBothChk, settings_.OpenBothOnToolbar);
@@ -200,7 +200,7 @@ void Preferences::AttachMiscellaneous() {
   TxtUndoLevels.Change = [this] { TxtUndoLevels_Change(); };
   TxtUndoLevels.LostFocus = [this] { TxtUndoLevels_LostFocus(); };
   DLYText.Change = [this] { DLYtext_Change(); };
-  Command11.Click = [this] { application_.editor().DeleteUndosFromMemory(); };
+  Command11.Click = [this] { bench_.ForgetUndos(); };
   for (int i = 0; i < OptionImagesToShow.Count(); ++i) {
     OptionImagesToShow(i).Click = [this, i] { settings_.ComposerImages = i; };
   }
@@ -237,15 +237,15 @@ void Preferences::Form_Load() {
   DLYText.Text = TextOf(settings_.DefaultDLYvalue.Get());
   const int images = settings_.ComposerImages;
   if (images >= 0 && images < OptionImagesToShow.Count()) OptionImagesToShow(images).Value = true;
-  application_.values.FontChanged = 0;
+  bench_.values.FontChanged = 0;
   settings_.GetColours();
-  SSTab1.Tab = kFileLocations;
+  SSTab1.Tab = page::kFileLocations;
   Topmost = true;
 }
 
 void Preferences::Form_Activate() {
-  SSTab1.Tab = application_.values.PreferencesTab;
-  if (SSTab1.Tab == kFileLocations) Text1.SetFocus();
+  SSTab1.Tab = bench_.values.PreferencesTab;
+  if (SSTab1.Tab == page::kFileLocations) Text1.SetFocus();
 }
 
 /// The one place where the dialog's state becomes the program's.
@@ -261,32 +261,32 @@ void Preferences::Form_Unload() {
   settings_.FirstTimeUsed = 0;
   settings_.SaveOptions();
   SaveColourScheme();
-  application_.lists.SaveApps();
-  application_.lists.SaveFavourites();
-  application_.lists.SaveGames();
-  application_.editor().AutoSaveHasChanged();
-  if (application_.values.HardwareChanged == 1) application_.editor().HardwareHasChanged();
+  bench_.lists.SaveApps();
+  bench_.lists.SaveFavourites();
+  bench_.lists.SaveGames();
+  bench_.AutoSaveSettingsChanged();
+  if (bench_.values.HardwareChanged == 1) bench_.HardwareSettingsChanged();
 }
 
 void Preferences::SaveColourScheme() {
-  Trap{application_.errors, "PREFS SaveColourScheme"}(settings_.SaveColours());
+  Trap{bench_.errors, "PREFS SaveColourScheme"}(settings_.SaveColours());
 }
 
 void Preferences::SSTab1_Click() {
-  application_.values.PreferencesTab = SSTab1.Tab.Get();
-  if (SSTab1.Tab == kFileLocations) Text1.SetFocus();
-  if (SSTab1.Tab == kColours) {
+  bench_.values.PreferencesTab = SSTab1.Tab.Get();
+  if (SSTab1.Tab == page::kFileLocations) Text1.SetFocus();
+  if (SSTab1.Tab == page::kColours) {
     CheckBox1.Value = settings_.ApplyColoursOnFileOpen == 0 ? 0 : 1;
     FillColours();
     ShowExample();
   }
-  if (SSTab1.Tab == kFavourites) Show(favourites_, 0);
-  if (SSTab1.Tab == kGames) Show(games_, 0);
+  if (SSTab1.Tab == page::kFavourites) Show(favourites_, 0);
+  if (SSTab1.Tab == page::kGames) Show(games_, 0);
 }
 
-void Preferences::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
+void Preferences::Say(const std::string& text) { bench_.documents.status.Panels(1).Text = text; }
 
-void Preferences::Command6_Click() { ShowHelp(application_.platform, topic::kPreferencesPages[SSTab1.Tab]); }
+void Preferences::Command6_Click() { ShowHelp(bench_.platform, topic::kPreferencesPages[SSTab1.Tab]); }
 
 // File locations.
 
@@ -298,7 +298,7 @@ void Preferences::Browse(CommandButton& button, TextBox& box, const char* say, c
     request.title = say;
     request.filter = filter;
     request.folder = box.Text.Get().substr(0, box.Text.Get().rfind('\\') + 1);
-    const auto path = Ignore(application_.platform.dialogs.AskForFile(request));
+    const auto path = Ignore(bench_.platform.dialogs.AskForFile(request));
     if (!path) return;
     box.Text = LowerCase(*path);
     if (setting) *setting = box.Text.Get();
@@ -310,7 +310,7 @@ void Preferences::Text2_Change() { settings_.ProgramFilesPath = WithBackslash(Te
 void Preferences::ComboJoystick_Click() {
   const int joystick = ComboJoystick.ListIndex;
   if (joystick < 0) return;
-  if (joystick != settings_.JoyName) application_.values.HardwareChanged = 1;
+  if (joystick != settings_.JoyName) bench_.values.HardwareChanged = 1;
   settings_.JoyName = joystick;
   settings_.JoystickExtension = std::string(kEndings[joystick].joystick);
   settings_.MacroExtension = std::string(kEndings[joystick].macro);
@@ -320,7 +320,7 @@ void Preferences::ComboJoystick_Click() {
 
 void Preferences::AttachApps() {
   for (int row = 1; row <= PreviousFiles::kCustomApps; ++row) {
-    CustomApp& app = application_.lists.CustomApps[static_cast<std::size_t>(row - 1)];
+    CustomApp& app = bench_.lists.CustomApps[static_cast<std::size_t>(row - 1)];
     TextBox& name = CustomAppNameText.Load(row);
     TextBox& path = CustomAppPathText.Load(row);
     CheckBox& use = CustomAppPathUse.Load(row);
@@ -336,7 +336,7 @@ void Preferences::AttachApps() {
     const auto take = [this, &app, &name, &path] {
       app.name = name.Text.Get();
       app.path = path.Text.Get();
-      application_.lists.CustomAppsChanged();
+      bench_.lists.CustomAppsChanged();
     };
     name.Change = take;
     path.Change = take;
@@ -345,12 +345,12 @@ void Preferences::AttachApps() {
 }
 
 void Preferences::CustomAppPathUse_Click(int row) {
-  CustomApp& app = application_.lists.CustomApps[static_cast<std::size_t>(row - 1)];
+  CustomApp& app = bench_.lists.CustomApps[static_cast<std::size_t>(row - 1)];
   app.use = CustomAppPathUse(row).Value;
   if (app.use == 1) {
-    CustomAppPathText(row).Text = tarvik::CustomAppPathUse(application_.platform.dialogs, app.path);
+    CustomAppPathText(row).Text = tarvik::CustomAppPathUse(bench_.platform.dialogs, app.path);
   }
-  application_.lists.CustomAppsChanged();
+  bench_.lists.CustomAppsChanged();
 }
 
 // Favourites and games.
@@ -358,7 +358,7 @@ void Preferences::CustomAppPathUse_Click(int row) {
 void Preferences::AttachLists() {
   AttachList(favourites_, Command13);
   AttachList(games_, Command12);
-  PreviousFiles& lists = application_.lists;
+  PreviousFiles& lists = bench_.lists;
   const std::string all = "|All files (*.*)|*.*";
   const auto own = [all](const std::string& kind, const std::string& ending) {
     return kind + " (*." + ending + ")|*." + ending + all;
@@ -458,7 +458,7 @@ void Preferences::DisableGamesControls() { Disable(games_); }
 void Preferences::Choose(ListPage& page, std::size_t part, const std::string& filter) {
   const int row = page.rows.ListIndex;
   if (row < 0) return;
-  Dialogs& dialogs = application_.platform.dialogs;
+  Dialogs& dialogs = bench_.platform.dialogs;
   TextBox& box = *page.parts[part];
   const std::string folder = box.Text.Get().substr(0, box.Text.Get().rfind('\\') + 1);
   const std::string title = "Select the working directory for " + page.list.Part(row + 1, 0);
@@ -475,12 +475,12 @@ void Preferences::Remove(ListPage& page) {
   if (row < 0) return;
   const std::string name = page.list.Part(row + 1, 0);
   const std::string menu = page.menu;
-  const Answer answer = application_.platform.dialogs.Show(
+  const Answer answer = bench_.platform.dialogs.Show(
       {"Remove " + name + " from " + menu + "?",
        "Are you sure you want to remove " + name + " from the " + menu + " menu?", BoxIcon::Question,
        BoxButtons::YesNo});
   if (answer != Answer::Yes) return;
-  const Trap trap{application_.errors, &page == &games_ ? "PREFS Command12_Click" : "PREFS Command13_Click"};
+  const Trap trap{bench_.errors, &page == &games_ ? "PREFS Command12_Click" : "PREFS Command13_Click"};
   trap(page.list.Remove(row + 1));
   page.save();
   if (&page == &games_) return UpdateGamesControls();
@@ -517,7 +517,7 @@ void Preferences::List1_Click() {
   const int item = List1.ListIndex;
   if (item < 0) return;
   const Colour before = settings_.*kColourRows[item].colour;
-  if (const auto colour = Ignore(application_.platform.dialogs.AskForColour(before))) ApplyColour(*colour);
+  if (const auto colour = Ignore(bench_.platform.dialogs.AskForColour(before))) ApplyColour(*colour);
 }
 
 void Preferences::ApplyColour(Colour colour) {
@@ -547,18 +547,18 @@ void Preferences::PaintExample(std::string_view word, std::string_view end, Colo
 
 void Preferences::DoTheFonts() {
   const FontChoice before = {settings_.TextFontName, settings_.TextFontSize, settings_.TextFontBold == 1};
-  const auto font = Ignore(application_.platform.dialogs.AskForFont(before, CheckFixedPitch.Value == 1));
+  const auto font = Ignore(bench_.platform.dialogs.AskForFont(before, CheckFixedPitch.Value == 1));
   if (!font || *font == before) return;
   settings_.TextFontName = font->name;
   settings_.TextFontSize = font->size;
   settings_.TextFontBold = font->bold ? 1 : 0;
   ApplyFont(ExampleJoystickText, settings_);
-  application_.values.FontChanged = 1;
-  application_.values.TemplateFontChanged = 1;
+  bench_.values.FontChanged = 1;
+  bench_.values.TemplateFontChanged = 1;
 }
 
 void Preferences::Command17_Click() {
-  application_.platform.dialogs.Show({kFixedPitchTitle, kFixedPitch, BoxIcon::Information, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({kFixedPitchTitle, kFixedPitch, BoxIcon::Information, BoxButtons::Ok});
 }
 
 // Values with limits.
@@ -573,7 +573,7 @@ void Preferences::Text3_Change() {
   settings_.AutoSaveTime = std::max(minutes, 1);
   if (minutes >= 1) return;
   Text3.Text = std::string("1");
-  application_.platform.dialogs.Show({"Tarvik", kAutoSaveInvalid, BoxIcon::None, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({"Tarvik", kAutoSaveInvalid, BoxIcon::None, BoxButtons::Ok});
 }
 
 void Preferences::Text3_LostFocus() {
@@ -592,16 +592,6 @@ void Preferences::TxtUndoLevels_Change() {
 void Preferences::TxtUndoLevels_LostFocus() {
   TxtUndoLevels_Change();
   TxtUndoLevels.Text = TextOf(settings_.UndoMax.Get());
-}
-
-void WaitForPreferences(Application& application, int page) {
-  application.values.PreferencesTab = page;
-  application.ShowModal(application.Tool<Preferences>());
-}
-
-void ShowPreferences(Application& application, int page) {
-  WaitForPreferences(application, page);
-  if (application.values.FontChanged == 1) application.editor().DamnFontWasChanged();
 }
 
 }  // namespace tarvik

@@ -2,17 +2,14 @@
 // in any way stores everything: there is no way of leaving with the old values.
 #pragma once
 
-#include "app/Application.h"
 #include "panes/Pane.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 class Preferences : public Form {
  public:
-  explicit Preferences(Application& application);
-
-  /// The pages of SSTab1.
-  enum Page { kFileLocations, kColours, kApps, kFavourites, kMiscellaneous, kGames };
+  explicit Preferences(Workbench& bench, Shell& shell);
 
   TabPages SSTab1{*this,
                   "SSTab1",
@@ -159,18 +156,13 @@ class Preferences : public Form {
   void Say(const std::string& text);
   [[nodiscard]] std::vector<Tick> Ticks();
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
   Settings& settings_;
   ListPage favourites_;
   ListPage games_;
   bool filling_ = false;  // the form itself puts a record into the boxes
   std::vector<Connection> connections_;
 };
-
-/// Shows the preferences on one of their pages and waits. A new font reaches the files when the editor is
-/// activated.
-void WaitForPreferences(Application& application, int page);
-/// The same from within the editor, where the font is in force afterwards.
-void ShowPreferences(Application& application, int page);
 
 }  // namespace tarvik

@@ -1,7 +1,5 @@
 #include "tools/programs/Download.h"
 
-#include "app/Editor.h"
-#include "app/Mum.h"
 #include "tools/programs/Shell32.h"
 
 namespace tarvik {
@@ -42,15 +40,15 @@ constexpr F22Row kF22Utilities[] = {
 };
 
 /// Whether the Control Centre is known; the user is told where it is not.
-bool IsControlCentreKnown(Application& application, const std::string& text) {
-  if (!application.settings.CandCCPath.Get().empty()) return true;
-  application.platform.dialogs.Show({"Where is it?", text, BoxIcon::Information, BoxButtons::Ok});
+bool IsControlCentreKnown(Workbench& bench, const std::string& text) {
+  if (!bench.settings.CandCCPath.Get().empty()) return true;
+  bench.platform.dialogs.Show({"Where is it?", text, BoxIcon::Information, BoxButtons::Ok});
   return false;
 }
 
-bool MaySendAsSaved(Application& application) {
-  return application.platform.dialogs.Show({"Hang on a minute ...", kNotSaved, BoxIcon::Exclamation,
-                                            BoxButtons::YesNo, Answer::No}) == Answer::Yes;
+bool MaySendAsSaved(Workbench& bench) {
+  return bench.platform.dialogs.Show({"Hang on a minute ...", kNotSaved, BoxIcon::Exclamation,
+                                      BoxButtons::YesNo, Answer::No}) == Answer::Yes;
 }
 
 }  // namespace
@@ -60,70 +58,69 @@ std::string FolderOfControlCentre(const Settings& settings) {
   return path.substr(0, path.rfind('\\') + 1);
 }
 
-void ChangeToControlCentre(Application& application, const std::string& path, const Trap& trap) {
-  Files& files = application.platform.files;
+void ChangeToControlCentre(Workbench& bench, const std::string& path, const Trap& trap) {
+  Files& files = bench.platform.files;
   trap(files.ChangeDrive(path.substr(0, 1) + ":"));
-  trap(files.ChangeFolder(FolderOfControlCentre(application.settings)));
+  trap(files.ChangeFolder(FolderOfControlCentre(bench.settings)));
 }
 
-void ChangeToRootOf(Application& application, const std::string& path, const Trap& trap) {
-  Files& files = application.platform.files;
+void ChangeToRootOf(Workbench& bench, const std::string& path, const Trap& trap) {
+  Files& files = bench.platform.files;
   const std::string drive = path.substr(0, 1) + ":";
   trap(files.ChangeDrive(drive));
   trap(files.ChangeFolder(drive + "\\"));
 }
 
-std::string LoaderCommandLine(const Application& application, const std::string& file) {
-  const bool quiet = application.editor().menus("mnuAppsQuiet").Checked;
-  return application.settings.B50LoadPath.Get() + " " + file + (quiet ? " Q" : "");
+std::string LoaderCommandLine(const Workbench& bench, Shell& shell, const std::string& file) {
+  const bool quiet = shell.Command("mnuAppsQuiet").Checked;
+  return bench.settings.B50LoadPath.Get() + " " + file + (quiet ? " Q" : "");
 }
 
-std::string PrepareLoader(Application& application, const std::string& file, const Trap& trap) {
-  ChangeToRootOf(application, application.settings.B50LoadPath, trap);
-  trap(application.platform.files.ChangeFolder(FolderOfControlCentre(application.settings)));
-  return LoaderCommandLine(application, file);
+std::string PrepareLoader(Workbench& bench, Shell& shell, const std::string& file, const Trap& trap) {
+  ChangeToRootOf(bench, bench.settings.B50LoadPath, trap);
+  trap(bench.platform.files.ChangeFolder(FolderOfControlCentre(bench.settings)));
+  return LoaderCommandLine(bench, shell, file);
 }
 
-void SendToJoystick(Application& application) {
-  const Trap trap{application.errors, "ED_mnuSendToJoystick_Click"};
-  Editor& editor = application.editor();
-  const Document& joystick = editor.Joystick;
+void SendToJoystick(Workbench& bench, Shell& shell) {
+  const Trap trap{bench.errors, "ED_mnuSendToJoystick_Click"};
+  const Document& joystick = bench.documents.joystick;
   if (joystick.text.Characters().empty()) {
-    application.platform.dialogs.Show(
+    bench.platform.dialogs.Show(
         {"Nothing to transfer ...", kNothingToSend, BoxIcon::Information, BoxButtons::Ok});
     return;
   }
-  if (joystick.Dirty == saved::kModified) editor.mnuFileSave_Click();
-  if (joystick.Dirty == saved::kModified && !MaySendAsSaved(application)) return;
-  const std::string commandLine = PrepareLoader(application, joystick.Path, trap);
-  Mum& mum = application.mum();
-  const int before = mum.WindowState;
-  mum.WindowState = kMinimised;
-  ShellAndWait(application, commandLine, kMinimisedWithoutFocus, kNoLimit);
-  mum.WindowState = before;
-  editor.ActiveDocument().text.SetFocus();
+  if (joystick.Dirty == saved::kModified) bench.files.Save(bench.documents.Active());
+  if (joystick.Dirty == saved::kModified && !MaySendAsSaved(bench)) return;
+  const std::string commandLine = PrepareLoader(bench, shell, joystick.Path, trap);
+  Form& frame = shell.Frame();
+  const int before = frame.WindowState;
+  frame.WindowState = kMinimised;
+  ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit);
+  frame.WindowState = before;
+  bench.documents.Active().text.SetFocus();
 }
 
-void StartControlCentre(Application& application) {
-  if (!IsControlCentreKnown(application, kNoControlCentre)) return;
-  const Trap trap{application.errors, "ED_mnuAppsCandCC_Click"};
-  const std::string path = application.settings.CandCCPath;
-  ChangeToControlCentre(application, path, trap);
-  trap(Shell(application, path, WindowStyle::Normal));
+void StartControlCentre(Workbench& bench) {
+  if (!IsControlCentreKnown(bench, kNoControlCentre)) return;
+  const Trap trap{bench.errors, "ED_mnuAppsCandCC_Click"};
+  const std::string path = bench.settings.CandCCPath;
+  ChangeToControlCentre(bench, path, trap);
+  trap(bench.platform.programs.Start(path, WindowStyle::Normal));
 }
 
-void StartTMScope(Application& application) {
-  if (!IsControlCentreKnown(application, kNoControlCentre)) return;
-  const Trap trap{application.errors, "ED_mnuAppsTMScope_Click"};
-  const std::string path = application.settings.CandCCPath;
-  const std::string folder = FolderOfControlCentre(application.settings);
-  ChangeToControlCentre(application, path, trap);
+void StartTMScope(Workbench& bench) {
+  if (!IsControlCentreKnown(bench, kNoControlCentre)) return;
+  const Trap trap{bench.errors, "ED_mnuAppsTMScope_Click"};
+  const std::string path = bench.settings.CandCCPath;
+  const std::string folder = FolderOfControlCentre(bench.settings);
+  ChangeToControlCentre(bench, path, trap);
   for (const char* const name : {"tmscope.exe", "tms.exe"}) {
-    if (!application.platform.files.FileExists(folder + name)) continue;
-    trap(Shell(application, folder + name, WindowStyle::Maximised));
+    if (!bench.platform.files.FileExists(folder + name)) continue;
+    trap(bench.platform.programs.Start(folder + name, WindowStyle::Maximised));
     return;
   }
-  application.platform.dialogs.Show(
+  bench.platform.dialogs.Show(
       {"Couldn't find TMScope",
        "I couldn't find TMScope which should be located here: " + folder +
            ". Goto your preferences and make sure you've entered the correct path for the Thrustmaster "
@@ -132,13 +129,14 @@ void StartTMScope(Application& application) {
        BoxIcon::Exclamation, BoxButtons::Ok});
 }
 
-void StartF22Utility(Application& application, F22Utility utility) {
+void StartF22Utility(Workbench& bench, F22Utility utility) {
   const F22Row& row = kF22Utilities[static_cast<int>(utility)];
   const std::string text = std::string(kNoControlCentre) + ", as the " + row.nameInText + kWhyPath;
-  if (!IsControlCentreKnown(application, text)) return;
-  const Trap trap{application.errors, row.tag};
-  ChangeToControlCentre(application, application.settings.CandCCPath, trap);
-  trap(Shell(application, FolderOfControlCentre(application.settings) + row.program, WindowStyle::Normal));
+  if (!IsControlCentreKnown(bench, text)) return;
+  const Trap trap{bench.errors, row.tag};
+  ChangeToControlCentre(bench, bench.settings.CandCCPath, trap);
+  trap(bench.platform.programs.Start(FolderOfControlCentre(bench.settings) + row.program,
+                                     WindowStyle::Normal));
 }
 
 }  // namespace tarvik

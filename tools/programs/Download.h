@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "app/Application.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
@@ -13,23 +13,24 @@ namespace tarvik {
 
 /// Makes the drive of `path` the current one, and then the Control Centre's folder the current folder of its
 /// drive. Nothing puts them back. A change that fails is recorded by the trap.
-void ChangeToControlCentre(Application& application, const std::string& path, const Trap& trap);
+void ChangeToControlCentre(Workbench& bench, const std::string& path, const Trap& trap);
 
 /// Makes the drive that `path` begins with the current one, and its root the current folder there.
-void ChangeToRootOf(Application& application, const std::string& path, const Trap& trap);
+void ChangeToRootOf(Workbench& bench, const std::string& path, const Trap& trap);
 
 /// What sends the file: the loader's path, a blank, the file's path as it stands, and " Q" for quiet mode.
-[[nodiscard]] std::string LoaderCommandLine(const Application& application, const std::string& file);
+[[nodiscard]] std::string LoaderCommandLine(const Workbench& bench, Shell& shell, const std::string& file);
 
 /// Goes to the loader's drive and the Control Centre's folder, and gives what to start.
-[[nodiscard]] std::string PrepareLoader(Application& application, const std::string& file, const Trap& trap);
+[[nodiscard]] std::string PrepareLoader(Workbench& bench, Shell& shell, const std::string& file,
+                                        const Trap& trap);
 
 // The editor's entries.
-void SendToJoystick(Application& application);
-void StartControlCentre(Application& application);
-void StartTMScope(Application& application);
+void SendToJoystick(Workbench& bench, Shell& shell);
+void StartControlCentre(Workbench& bench);
+void StartTMScope(Workbench& bench);
 /// The F22 Pro's own utilities.
 enum class F22Utility { Setup, Clear, Reset, Delay };
-void StartF22Utility(Application& application, F22Utility utility);
+void StartF22Utility(Workbench& bench, F22Utility utility);
 
 }  // namespace tarvik

@@ -2,7 +2,6 @@
 
 #include <functional>
 
-#include "app/Editor.h"
 #include "tools/programs/Download.h"
 #include "tools/programs/Shell32.h"
 
@@ -47,31 +46,31 @@ Outcome<> InOrder(std::initializer_list<Step> steps) {
 
 /// Sends the game's joystick file to the stick, and waits until it is there. What the loader says of itself
 /// is not asked.
-Outcome<> Transfer(Application& application) {
-  Files& files = application.platform.files;
-  const std::string drive = application.settings.B50LoadPath.Get().substr(0, 1) + ":";
+Outcome<> Transfer(Workbench& bench, Shell& shell) {
+  Files& files = bench.platform.files;
+  const std::string drive = bench.settings.B50LoadPath.Get().substr(0, 1) + ":";
   return InOrder({
       [&] { return files.ChangeDrive(drive); },
       [&] { return files.ChangeFolder(drive + "\\"); },
-      [&] { return files.ChangeFolder(FolderOfControlCentre(application.settings)); },
+      [&] { return files.ChangeFolder(FolderOfControlCentre(bench.settings)); },
       [&]() -> Outcome<> {
-        const std::string commandLine = LoaderCommandLine(application, application.lists.GameJF);
-        application.mum().Visible = false;
-        ShellAndWait(application, commandLine, kMinimisedWithoutFocus, kNoLimit);
+        const std::string commandLine = LoaderCommandLine(bench, shell, bench.lists.GameJF);
+        shell.Frame().Visible = false;
+        ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit);
         return Done{};
       },
   });
 }
 
 /// Starts the game of the record in hand.
-Outcome<> Run(Application& application) {
-  Files& files = application.platform.files;
-  const PreviousFiles& lists = application.lists;
+Outcome<> Run(Workbench& bench, Shell& shell) {
+  Files& files = bench.platform.files;
+  const PreviousFiles& lists = bench.lists;
   return InOrder({
-      [&] { return lists.GameUseJF.Get() == "1" ? Transfer(application) : Done{}; },
+      [&] { return lists.GameUseJF.Get() == "1" ? Transfer(bench, shell) : Done{}; },
       [&] { return files.ChangeDrive(lists.GameDIRPath.Get()); },
       [&] { return files.ChangeFolder(lists.GameDIRPath.Get()); },
-      [&] { return Shell(application, lists.GamePath, WindowStyle::Normal); },
+      [&] { return bench.platform.programs.Start(lists.GamePath, WindowStyle::Normal); },
   });
 }
 
@@ -79,13 +78,13 @@ Outcome<> Run(Application& application) {
 /// asked at the end of the program. When the program goes on, what is not saved counts as modified again.
 class FilesForTheEnd {
  public:
-  explicit FilesForTheEnd(Editor& editor) {
-    for (Document* const document : {&editor.Joystick, &editor.Macro}) {
+  explicit FilesForTheEnd(Workbench& bench) {
+    for (Document* const document : {&bench.documents.joystick, &bench.documents.macro}) {
       if (document->Dirty != saved::kModified) continue;
-      editor.TabStrip1.Select(document->traits.tab);
-      editor.mnuFileSave_Click();
+      bench.documents.Select(*document);
+      bench.files.Save(*document);
     }
-    for (Document* const document : {&editor.Joystick, &editor.Macro}) {
+    for (Document* const document : {&bench.documents.joystick, &bench.documents.macro}) {
       before_.emplace_back(document, document->Dirty);
       document->Dirty = saved::kSaved;
     }
@@ -100,16 +99,17 @@ class FilesForTheEnd {
   std::vector<std::pair<Document*, int>> before_;
 };
 
-void SayWhyNot(Application& application, const Outcome<>& run) {
-  Trap{application.errors, "ED_mnuGameArray_Click"}(run);
+void SayWhyNot(Workbench& bench, const Outcome<>& run) {
+  Trap{bench.errors, "ED_mnuGameArray_Click"}(run);
   const bool notFound = run.failure().text.find("found") != std::string::npos;
-  application.platform.dialogs.Show(
+  bench.platform.dialogs.Show(
       {"Ooopps ! I'm confused buddy!", notFound ? kNotFound : kNotRun, BoxIcon::Exclamation, BoxButtons::Ok});
 }
 
 }  // namespace
 
-EnterGameName::EnterGameName(Application& application) : Form("EnterGameName"), application_(application) {
+EnterGameName::EnterGameName(Workbench& bench, Shell& shell)
+    : Form("EnterGameName"), bench_(bench), shell_(shell) {
   Caption = "Enter game details - click on the help buttons for information";
   Topmost = true;
   for (int i = 0; TextBox * box : {&Text1, &Text2, &Text3, &Text4}) {
@@ -145,7 +145,7 @@ void EnterGameName::AttachHandlers() {
 }
 
 void EnterGameName::CopyToRecord() {
-  PreviousFiles& lists = application_.lists;
+  PreviousFiles& lists = bench_.lists;
   lists.GameName = Text1.Text.Get();
   lists.GamePath = Text2.Text.Get();
   lists.GameDIRPath = Text3.Text.Get();
@@ -160,13 +160,13 @@ void EnterGameName::Text_Change() {
 
 void EnterGameName::Command1_Click(int index) {
   const bool game = index == 0;
-  const std::string extension = application_.settings.JoystickExtension;
+  const std::string extension = bench_.settings.JoystickExtension;
   const std::string joystickFiles = "Joystick file (*." + extension + ")|*." + extension;
-  const auto chosen = application_.platform.dialogs.AskForFile(
+  const auto chosen = bench_.platform.dialogs.AskForFile(
       {FileDialogKind::Open,
        {},
        (game ? "Executables (*.exe)|*.exe" : joystickFiles) + "|All files (*.*)|*.*",
-       game ? std::string() : application_.settings.ProgramFilesPath.Get(),
+       game ? std::string() : bench_.settings.ProgramFilesPath.Get(),
        {},
        {}});
   if (!chosen) return;
@@ -176,43 +176,43 @@ void EnterGameName::Command1_Click(int index) {
 
 void EnterGameName::Command2_Click() {
   const auto chosen =
-      application_.platform.dialogs.AskForFolder("Select your game's working directory", Text3.Text);
+      bench_.platform.dialogs.AskForFolder("Select your game's working directory", Text3.Text);
   if (chosen) Text3.Text = *chosen;
 }
 
 void EnterGameName::Command3_Click() {
-  application_.lists.GameDialogOK = 1;
+  bench_.lists.GameDialogOK = 1;
   CopyToRecord();
-  application_.Unload(*this);
+  shell_.Unload(*this);
 }
 
 void EnterGameName::Command5_Click() {
-  application_.platform.dialogs.Show(
+  bench_.platform.dialogs.Show(
       {"Important information ... ", kAboutSwitches, BoxIcon::Information, BoxButtons::Ok});
 }
 
 void EnterGameName::Command6_Click() {
-  application_.platform.dialogs.Show(
+  bench_.platform.dialogs.Show(
       {"About the working directory ... ", kAboutFolder, BoxIcon::Information, BoxButtons::Ok});
 }
 
-void AddGame(Application& application) {
-  PreviousFiles& lists = application.lists;
+void AddGame(Workbench& bench, Shell& shell) {
+  PreviousFiles& lists = bench.lists;
   lists.GameDialogOK = 0;
-  application.ShowModal(application.Tool<EnterGameName>());
+  shell.ShowModal(shell.Tool<EnterGameName>());
   if (lists.GameDialogOK == 1) lists.UpdateGamesMenu();
 }
 
-void StartGame(Application& application, int index) {
-  PreviousFiles& lists = application.lists;
-  const FilesForTheEnd files(application.editor());
+void StartGame(Workbench& bench, Shell& shell, int index) {
+  PreviousFiles& lists = bench.lists;
+  const FilesForTheEnd files(bench);
   lists.Games.Take(index);
   lists.UpdateGamesMenu();
-  const Outcome<> run = Run(application);
-  if (application.Ended() || (run && application.CloseMum())) return;
+  const Outcome<> run = Run(bench, shell);
+  if (shell.Ended() || (run && shell.CloseProgram())) return;
   files.GoOn();
-  if (!run) SayWhyNot(application, run);
-  application.mum().Visible = true;  // the transfer hid it
+  if (!run) SayWhyNot(bench, run);
+  shell.Frame().Visible = true;  // the transfer hid it
 }
 
 }  // namespace tarvik

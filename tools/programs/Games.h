@@ -2,15 +2,15 @@
 // the game, and closes the program.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/Controls.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 /// Asks for a game's details.
 class EnterGameName : public Form {
  public:
-  explicit EnterGameName(Application& application);
+  explicit EnterGameName(Workbench& bench, Shell& shell);
 
   TextBox Text1{*this, "Text1"};  ///< the name
   TextBox Text2{*this, "Text2"};  ///< the command line
@@ -25,11 +25,11 @@ class EnterGameName : public Form {
   CommandButton Command6{*this, "Command6"};
 
   void Text_Change();
-  void Check1_Click() { application_.lists.GameUseJF = Check1.Value.ToText(); }
+  void Check1_Click() { bench_.lists.GameUseJF = Check1.Value.ToText(); }
   void Command1_Click(int index);
   void Command2_Click();
   void Command3_Click();
-  void Command4_Click() { application_.Unload(*this); }
+  void Command4_Click() { shell_.Unload(*this); }
   void Command5_Click();
   void Command6_Click();
 
@@ -37,13 +37,14 @@ class EnterGameName : public Form {
   void AttachHandlers();
   void CopyToRecord();
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 /// Asks for a game, and puts it first in the list.
-void AddGame(Application& application);
+void AddGame(Workbench& bench, Shell& shell);
 
 /// 1-based.
-void StartGame(Application& application, int index);
+void StartGame(Workbench& bench, Shell& shell, int index);
 
 }  // namespace tarvik

@@ -2,7 +2,7 @@
 
 namespace tarvik {
 
-ProgramWait::ProgramWait(Application& application) : Form("ProgramWait"), application_(application) {
+ProgramWait::ProgramWait(Workbench& /*bench*/, Shell& shell) : Form("ProgramWait"), shell_(shell) {
   constexpr int kLook = 50;  // milliseconds
   Caption = "Please wait ...";
   Label1.BackColor = ToggleLabel::kOff;

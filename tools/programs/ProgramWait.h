@@ -1,14 +1,14 @@
 // The small window that stands while a program is waited for. Its button, or closing it, stops the program.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/Controls.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 class ProgramWait : public Form {
  public:
-  explicit ProgramWait(Application& application);
+  explicit ProgramWait(Workbench& bench, Shell& shell);
 
   Label Label1{*this, "Label1"};
   CommandButton Command1{*this, "Command1", "&Stop the program"};
@@ -18,11 +18,11 @@ class ProgramWait : public Form {
   /// Milliseconds that it has stood.
   Property<int> Waited{*this, "Waited", 0};
 
-  void Command1_Click() { application_.Unload(*this); }
+  void Command1_Click() { shell_.Unload(*this); }
   void Timer1_Timer() { Waited = Waited + Timer1.Interval; }
 
  private:
-  Application& application_;
+  Shell& shell_;
 };
 
 }  // namespace tarvik

@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "app/Mum.h"
 #include "tools/programs/ProgramWait.h"
 
 namespace tarvik {
@@ -16,8 +15,8 @@ int StartFailed(int number) { return static_cast<int>(0x80040000U + static_cast<
 /// The timers of all forms stand still meanwhile.
 class TimersHeld {
  public:
-  explicit TimersHeld(const Application& application) {
-    for (const Form* const form : application.Forms()) {
+  explicit TimersHeld(const Shell& shell) {
+    for (const Form* const form : shell.Forms()) {
       for (Component* const child : form->Children()) {
         auto* const timer = dynamic_cast<Timer*>(child);
         if (timer && timer->Enabled) held_.push_back(timer);
@@ -53,39 +52,35 @@ class Announced {
 };
 
 /// Stands in front until the program has ended, or the user or the time has had enough; true for the time.
-bool ShowWait(Application& application, RunningProgram& program, const std::string& commandLine,
+bool ShowWait(Workbench& bench, Shell& shell, RunningProgram& program, const std::string& commandLine,
               int timeout) {
-  const TimersHeld held(application);
+  const TimersHeld held(shell);
   const std::string waiting = "Waiting for " + commandLine + " to end ...";
-  const Announced announced(application.mum().StatusBar.Panels(1), waiting);
-  auto& window = application.Tool<ProgramWait>();
+  const Announced announced(bench.documents.status.Panels(1), waiting);
+  auto& window = shell.Tool<ProgramWait>();
   window.Label1.Caption = waiting;
   window.Modal = true;
   window.Visible = true;
   const auto timedOut = [&] { return timeout != kNoLimit && window.Waited >= timeout; };
-  application.WaitWhile([&] {
-    return program.State() == ProgramState::Running && window.Visible && !timedOut() && !application.Ended();
+  shell.WaitWhile([&] {
+    return program.State() == ProgramState::Running && window.Visible && !timedOut() && !shell.Ended();
   });
   if (!window.Visible) return false;
-  application.Unload(window);
+  shell.Unload(window);
   return timedOut();
 }
 
 }  // namespace
 
-int ShellAndWait(Application& application, const std::string& commandLine, std::optional<int> /*windowStyle*/,
-                 std::optional<int> timeout) {
-  if (application.LoadedTool<ProgramWait>()) return StartFailed(kBusy);
-  auto program = application.platform.programs.StartToWait(commandLine, WindowStyle::Normal);
+int ShellAndWait(Workbench& bench, Shell& shell, const std::string& commandLine,
+                 std::optional<int> /*windowStyle*/, std::optional<int> timeout) {
+  if (shell.LoadedTool<ProgramWait>()) return StartFailed(kBusy);
+  auto program = bench.platform.programs.StartToWait(commandLine, WindowStyle::Normal);
   if (!program) return StartFailed(program.failure().number);
   const bool running = (*program)->State() == ProgramState::Running;
-  const bool timedOut = running && ShowWait(application, **program, commandLine, timeout.value_or(kNoLimit));
+  const bool timedOut = running && ShowWait(bench, shell, **program, commandLine, timeout.value_or(kNoLimit));
   if ((*program)->State() == ProgramState::Ended) return wait::kEnded;
   return timedOut ? wait::kTimedOut : wait::kAbandoned;
-}
-
-Outcome<> Shell(Application& application, const std::string& commandLine, WindowStyle style) {
-  return application.platform.programs.Start(commandLine, style);
 }
 
 }  // namespace tarvik

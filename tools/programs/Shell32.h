@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "app/Application.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
@@ -20,10 +20,7 @@ inline constexpr int kTimedOut = 0x102;
 /// the windows are painted and take no input, no timer of another form runs, and the user can stop the
 /// program. A wait value, or the error number plus 0x80040000 when it could not be started, which is also so
 /// while another one is waited for. The window style has no effect: a program always appears normally.
-int ShellAndWait(Application& application, const std::string& commandLine,
+int ShellAndWait(Workbench& bench, Shell& shell, const std::string& commandLine,
                  std::optional<int> windowStyle = {}, std::optional<int> timeout = {});
-
-/// Starts a program and does not wait.
-Outcome<> Shell(Application& application, const std::string& commandLine, WindowStyle style);
 
 }  // namespace tarvik

@@ -1,12 +1,10 @@
 #include "tools/templates/TemplateForm.h"
 
-#include "app/Mum.h"
 #include "text/CodePage.h"
-#include "tools/preferences/Preferences.h"
-#include "tools/printing/PrintRTFWordWrap.h"
 #include "workbench/EditCommands.h"
 #include "workbench/HelpTopics.h"
 #include "workbench/Highlighter.h"
+#include "workbench/PrintRTFWordWrap.h"
 #include "workbench/SaveQuestion.h"
 
 namespace tarvik {
@@ -88,11 +86,12 @@ std::string NameIn(const std::string& path) { return path.substr(path.rfind('\\'
 
 }  // namespace
 
-TemplateForm::TemplateForm(Application& application)
+TemplateForm::TemplateForm(Workbench& bench, Shell& shell)
     : Form("TemplateForm"),
       menus(*this, kMenus),
-      TemplateText(*this, "TemplateText", application.platform.files),
-      application_(application) {
+      TemplateText(*this, "TemplateText", bench.platform.files),
+      bench_(bench),
+      shell_(shell) {
   Caption = "Template Editor";
   menus("mnuPopShow").Visible = false;
   Text1.ToolTipText = "The file's name; a name typed here is a template's";
@@ -103,7 +102,7 @@ TemplateForm::TemplateForm(Application& application)
     Command1(i).ToolTipText = kCommandRows[i].tip;
     Command1(i).Click = [this, i] { Command1_Click(i); };
   }
-  for (int i = 0; i < ColourSelector::kColours; ++i) {
+  for (int i = 0; i < static_cast<int>(std::size(kColourChoices)); ++i) {
     Label& swatch = swatches.Load("ColourLabel" + TextOf(i + 1));
     swatch.ToolTipText = kColourChoices[i].caption;
     swatch.Click = [this, &swatch] { ColourLabel_Click(swatch); };
@@ -131,14 +130,14 @@ void TemplateForm::AttachHandlers() {
   // Colours are part of a template.
   connections_ = {
       TemplateText.Edited.Connect([this](const PaneEdit&) { TemplateText_Change(); }),
-      application_.ClipboardChanged.Connect([this] { UpdateCopyItems(); }),
-      application_.settings.TextFilePath.Changed.Connect([this] { ShowDefault(); }),
+      bench_.ClipboardChanged.Connect([this] { UpdateCopyItems(); }),
+      bench_.settings.TextFilePath.Changed.Connect([this] { ShowDefault(); }),
       TemplateName.Changed.Connect([this] { FileOnShow = TemplateName; }),
       TemplateChanged.Changed.Connect([this] { Unsaved = TemplateChanged == 1; }),
   };
 }
 
-void TemplateForm::Say(const std::string& text) { application_.mum().StatusBar.Panels(1).Text = text; }
+void TemplateForm::Say(const std::string& text) { bench_.documents.status.Panels(1).Text = text; }
 
 // Life of the form.
 
@@ -148,30 +147,30 @@ void TemplateForm::ShowText() {
 }
 
 void TemplateForm::Form_Load() {
-  TemplateFolder = application_.platform.folder + "\\Templates\\";
+  TemplateFolder = bench_.platform.folder + "\\Templates\\";
   NameUntitled();
   UpdateLabelColours();
   mnuViewrefreshLayout_Click();
-  OpenDefault(Trap{application_.errors, "TEMPLATE Form_Load"});
+  OpenDefault(Trap{bench_.errors, "TEMPLATE Form_Load"});
   UpdateCopyItems();
 }
 
 void TemplateForm::Form_Activate() {
-  application_.mum().Toolbar1.Visible = false;
+  shell_.HideToolbar();
   UpdateLabelColours();
-  if (application_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
+  if (bench_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
   UpdateCopyItems();
 }
 
 void TemplateForm::UpdateLabelColours() {
-  for (int i = 0; i < ColourSelector::kColours; ++i) {
-    swatches("ColourLabel" + TextOf(i + 1)).BackColor = kColourChoices[i].In(application_.settings);
+  for (int i = 0; i < static_cast<int>(std::size(kColourChoices)); ++i) {
+    swatches("ColourLabel" + TextOf(i + 1)).BackColor = kColourChoices[i].In(bench_.settings);
   }
 }
 
 bool TemplateForm::MayLeave(const char* question, const char* refused) {
   if (TemplateChanged != 1) return true;
-  return MayGo(application_.platform.dialogs, TemplateName, {question, "Ooops!", refused},
+  return MayGo(bench_.platform.dialogs, TemplateName, {question, "Ooops!", refused},
                [this] { return Save(); });
 }
 
@@ -216,27 +215,27 @@ bool TemplateForm::LoadText(const std::string& path, const Trap& trap) {
 }
 
 void TemplateForm::ShowDefault() {
-  const std::string path = LowerCase(application_.settings.TextFilePath.Get());
-  Command2.Enabled = application_.platform.files.FileExists(path);
+  const std::string path = LowerCase(bench_.settings.TextFilePath.Get());
+  Command2.Enabled = bench_.platform.files.FileExists(path);
   Command2.ToolTipText = Command2.Enabled ? "Open " + path : kNoDefaultTip;
 }
 
 void TemplateForm::OpenDefault(const Trap& trap) {
   ShowDefault();
-  const std::string path = LowerCase(application_.settings.TextFilePath.Get());
-  if (Command2.Enabled && LoadText(path, trap)) ShowName(NameIn(application_.settings.TextFilePath));
+  const std::string path = LowerCase(bench_.settings.TextFilePath.Get());
+  if (Command2.Enabled && LoadText(path, trap)) ShowName(NameIn(bench_.settings.TextFilePath));
 }
 
 void TemplateForm::Command2_Click() {
   if (!MayOpen(" has changed and isn't saved. Do you want to save it before opening another file?")) return;
-  OpenDefault(Trap{application_.errors, "TEMPLATE Command2_Click"});
+  OpenDefault(Trap{bench_.errors, "TEMPLATE Command2_Click"});
 }
 
 void TemplateForm::Open() {
-  const Trap trap{application_.errors, "TEMPLATE Command1_Click"};
+  const Trap trap{bench_.errors, "TEMPLATE Command1_Click"};
   if (!MayOpen(" has changed and isn't saved. Do you want to save it before opening another file?")) return;
   const auto chosen =
-      application_.platform.dialogs.AskForFile({FileDialogKind::Open, {}, kFilter, kCurrentFolder, {}, {}});
+      bench_.platform.dialogs.AskForFile({FileDialogKind::Open, {}, kFilter, kCurrentFolder, {}, {}});
   if (!chosen || !LoadText(LowerCase(*chosen), trap)) return;
   Say(TemplatePath.Get() + " was opened successfully");
   ShowName(NameIn(*chosen));
@@ -245,13 +244,13 @@ void TemplateForm::Open() {
 
 /// False when the file could not be written: the text is then as unsaved as before.
 bool TemplateForm::Save() {
-  const Trap trap{application_.errors, "TEMPLATE Command1_Click"};
+  const Trap trap{bench_.errors, "TEMPLATE Command1_Click"};
   // The focus that is still there while a menu is used has a typed name to finish.
   if (Text1.Empty() || (ActiveControl() == &Text1 && Text1.Text.Get() != TemplateName.Get()))
     Text1_LostFocus();
   const std::string name = Text1.Text;
   const bool rich = LowerCase(name).ends_with("rtf");
-  Files& files = application_.platform.files;
+  Files& files = bench_.platform.files;
   if (rich && !files.FolderExists(TemplateFolder.Get())) trap(files.MakeFolder(TemplateFolder.Get()));
   const std::string path = rich || FileName.Get().empty() ? TemplateFolder.Get() + name : FileName.Get();
   if (!trap(TemplateText.SaveFile(path, rich ? FileFormat::Rtf : FileFormat::Text))) {
@@ -289,44 +288,43 @@ void TemplateForm::Text1_LostFocus() {
 
 void TemplateForm::mnuFileSetAsDefault_Click() {
   if (!Save()) return;
-  application_.settings.TextFilePath = TemplatePath;
-  application_.settings.SaveOptions();
+  bench_.settings.TextFilePath = TemplatePath;
+  bench_.settings.SaveOptions();
   ShowDefault();
 }
 
 void TemplateForm::mnuFileLoadDefault_Click() {
   if (Command2.Enabled) return Command2_Click();
-  application_.platform.dialogs.Show(
+  bench_.platform.dialogs.Show(
       {"Have a beer instead",
        "You don't have a default template to open. You can set one here or in Preferences.",
        BoxIcon::Information, BoxButtons::Ok});
 }
 
 void TemplateForm::mnuEditTarvikini_Click() {
-  const Trap trap{application_.errors, "TEMPLATE mnuEditTarvikini_Click"};
+  const Trap trap{bench_.errors, "TEMPLATE mnuEditTarvikini_Click"};
   if (!MayOpen(" has changed and isn't saved. Do you want to save it before opening up the ini file?")) {
     return;
   }
-  const std::string path = application_.platform.folder + "\\tarvik.ini";
-  if (!application_.platform.files.FileExists(path)) {
-    application_.platform.dialogs.Show(
-        {"Couldn't locate Tarvik.ini",
-         "Hmmm...I couldn't find your ini file - I was looking for it here: " + path, BoxIcon::Exclamation,
-         BoxButtons::Ok});
+  const std::string path = bench_.platform.folder + "\\tarvik.ini";
+  if (!bench_.platform.files.FileExists(path)) {
+    bench_.platform.dialogs.Show({"Couldn't locate Tarvik.ini",
+                                  "Hmmm...I couldn't find your ini file - I was looking for it here: " + path,
+                                  BoxIcon::Exclamation, BoxButtons::Ok});
     return;
   }
   if (LoadText(path, trap)) ShowName(kIniName);
 }
 
 void TemplateForm::mnuFilePrint_Click() {
-  PrintPane(TemplateText, TemplateName, "TEMPLATE mnuFilePrint_Click", application_.platform,
-            application_.errors, application_.mum().StatusBar.Panels(1));
+  PrintPane(TemplateText, TemplateName, "TEMPLATE mnuFilePrint_Click", bench_.platform, bench_.errors,
+            bench_.documents.status.Panels(1));
 }
 
 // The clipboard.
 
 void TemplateForm::mnuCopy_Click() {
-  CopySelection(TemplateText, application_.platform.clipboard);
+  CopySelection(TemplateText, bench_.platform.clipboard);
   UpdateCopyItems();
 }
 
@@ -340,9 +338,9 @@ void TemplateForm::mnuDelete_Click() {
 }
 
 void TemplateForm::mnuPaste_Click() {
-  const Clipping clipping(application_.platform.clipboard);
+  const Clipping clipping(bench_.platform.clipboard);
   if (clipping.Empty()) return;
-  ApplyFont(TemplateText, application_.settings);
+  ApplyFont(TemplateText, bench_.settings);
   clipping.ReplaceSelectionOf(TemplateText);
 }
 
@@ -351,7 +349,7 @@ void TemplateForm::UpdateCopyItems() {
   for (const char* const entry : {"mnuCut", "mnuCopy", "mnuDelete", "mnuPopitUpCut", "mnuPopitUpCopy"}) {
     menus(entry).Enabled = selected;
   }
-  const bool text = application_.platform.clipboard.HasText();
+  const bool text = bench_.platform.clipboard.HasText();
   for (const char* const entry : {"mnuPaste", "mnuPopitUpPaste"}) menus(entry).Enabled = text;
 }
 
@@ -373,20 +371,20 @@ void TemplateForm::ToggleButton1_Click() {
 }
 
 void TemplateForm::mnuViewrefreshLayout_Click() {
-  application_.values.TemplateFontChanged = 0;
-  TemplateText.BackColor = application_.settings.BackgroundColour;
-  ApplyFont(TemplateText, application_.settings);
+  bench_.values.TemplateFontChanged = 0;
+  TemplateText.BackColor = bench_.settings.BackgroundColour;
+  ApplyFont(TemplateText, bench_.settings);
 }
 
 // Colours.
 
 void TemplateForm::EditPreferences(int page) {
-  WaitForPreferences(application_, page);
-  if (application_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
+  shell_.ShowPreferences(page);
+  if (bench_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
 }
 
-void TemplateForm::mnuEdTmpPrefs_Click() { EditPreferences(Preferences::kApps); }
-void TemplateForm::mnuViewEditColours_Click() { EditPreferences(Preferences::kColours); }
+void TemplateForm::mnuEdTmpPrefs_Click() { EditPreferences(page::kApps); }
+void TemplateForm::mnuViewEditColours_Click() { EditPreferences(page::kColours); }
 
 void TemplateForm::mnuTextToBlack_Click() {
   const std::size_t start = TemplateText.SelStart;
@@ -405,13 +403,13 @@ void TemplateForm::ColourTemplateText() {
   mnuTextToBlack_Click();
   Say("Applying colour highlighting to " + Text1.Text.Get() + ". Please wait ...");
   mnuViewrefreshLayout_Click();
-  MakePasses(TemplateText, JoystickPasses(), application_.settings,
-             {application_.mum().StatusBar.Panels(1), application_.mum().ProgressBar1, false});
+  MakePasses(TemplateText, JoystickPasses(), bench_.settings,
+             {bench_.documents.status.Panels(1), bench_.documents.progress, false});
   TemplateText.SelStart = start;
   TemplateText_Change();
   Say("Done");
 }
 
-void TemplateForm::mnuOverview_Click() { ShowHelp(application_.platform, topic::kTemplateEditor); }
+void TemplateForm::mnuOverview_Click() { ShowHelp(bench_.platform, topic::kTemplateEditor); }
 
 }  // namespace tarvik

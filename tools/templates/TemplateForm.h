@@ -2,10 +2,10 @@
 // any other text file, which goes back as plain text to where it came from.
 #pragma once
 
-#include "app/Application.h"
-#include "app/ColourSelector.h"
 #include "controls/Menu.h"
 #include "panes/Pane.h"
+#include "workbench/ColourChoices.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
@@ -14,7 +14,7 @@ class TemplateForm : public Form {
   /// The members of Command1.
   enum Command { kOpen, kSave, kNew, kCommands };
 
-  explicit TemplateForm(Application& application);
+  explicit TemplateForm(Workbench& bench, Shell& shell);
 
   Menus menus;
   Pane TemplateText;
@@ -40,6 +40,7 @@ class TemplateForm : public Form {
   void Form_Load();
   void Form_Activate();
   bool Form_QueryUnload() override;
+  [[nodiscard]] std::string OpenPath() const override { return FileName; }
 
   void Command1_Click(int index);
   void Command2_Click();
@@ -57,7 +58,7 @@ class TemplateForm : public Form {
   void mnuFileSetAsDefault_Click();
   void mnuFileLoadDefault_Click();
   void mnuFilePrint_Click();
-  void mnuFileExit_Click() { application_.CloseTool(*this); }
+  void mnuFileExit_Click() { shell_.CloseTool(*this); }
   void mnuCut_Click();
   void mnuCopy_Click();
   void mnuPaste_Click();
@@ -95,7 +96,8 @@ class TemplateForm : public Form {
   void New();
   void UpdateCopyItems();
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
   std::vector<Connection> connections_;
 };
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "app/Mum.h"
 #include "tools/testing/JoystickTexts.h"
 #include "workbench/HelpTopics.h"
 
@@ -56,8 +55,8 @@ unsigned CentreColour(int position) {
 
 }  // namespace
 
-JoyPlot::JoyPlot(Application& application)
-    : Form("JoyPlot"), menus(*this, kMenus), application_(application) {
+JoyPlot::JoyPlot(Workbench& bench, Shell& shell)
+    : Form("JoyPlot"), menus(*this, kMenus), bench_(bench), shell_(shell) {
   Caption = "Joystick motion analayser";
   ScaleWidth = kInside;
   ScaleHeight = kInside;
@@ -80,13 +79,13 @@ void JoyPlot::Form_Load() {
 }
 
 /// The toolbar makes room.
-void JoyPlot::Form_Activate() { application_.mum().Toolbar1.Visible = false; }
+void JoyPlot::Form_Activate() { shell_.HideToolbar(); }
 
 void JoyPlot::JoyPlotSetup() {
   JoyTimer.Enabled = false;
   JoyCaps caps;
-  LastError = application_.platform.joystick.GetDevCaps(caps);
-  if (LastError != joystick::kNoError) application_.platform.dialogs.Show(NoJoystickBox());
+  LastError = bench_.platform.joystick.GetDevCaps(caps);
+  if (LastError != joystick::kNoError) bench_.platform.dialogs.Show(NoJoystickBox());
   PicJoy.Scale(0, static_cast<float>(kJoystickRange));
   PicJoy.Cls();
   DrawCentreLines(ScaleLow, kBlack, kBlack);
@@ -106,7 +105,7 @@ void JoyPlot::Form_Resize() {
 
 void JoyPlot::JoyTimer_Timer() {
   JoyInfo info;
-  LastError = application_.platform.joystick.GetPosEx(info);
+  LastError = bench_.platform.joystick.GetPosEx(info);
   if (LastError == joystick::kUnplugged) {
     StopWith(
         "I think your joystick is unplugged, or incorrectly set up under Windows. Please investigate "
@@ -124,7 +123,7 @@ void JoyPlot::JoyTimer_Timer() {
   PlotX = info.x;
   PlotY = info.y;
   DrawMarker(kBlack, PlotOn ? kBlue : kBlack);
-  application_.mum().StatusBar.Panels(1).Text =
+  bench_.documents.status.Panels(1).Text =
       "Joystick position: x = " + PlotX.ToText() + ", y = " + PlotY.ToText();
   // The marker and the trace have painted over the lines.
   DrawCentreLines(0, CentreColour(PlotX), CentreColour(PlotY));
@@ -134,7 +133,7 @@ void JoyPlot::JoyTimer_Timer() {
 /// The box stays open for as long as the user likes, and one of it is enough.
 void JoyPlot::StopWith(const char* text) {
   JoyTimer.Enabled = false;
-  application_.platform.dialogs.Show({"Tarvik", text, BoxIcon::None, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({"Tarvik", text, BoxIcon::None, BoxButtons::Ok});
 }
 
 void JoyPlot::DrawCentreLines(float low, unsigned vertical, unsigned horizontal) {
@@ -199,11 +198,11 @@ void JoyPlot::mnuZoom_Click() {
   Form_Resize();
 }
 
-void JoyPlot::mnuHelpOverview_Click() { ShowHelp(application_.platform, topic::kJoystickAnalyser); }
-void JoyPlot::mnuhelpSpiking_Click() { ShowHelp(application_.platform, topic::kSpiking); }
+void JoyPlot::mnuHelpOverview_Click() { ShowHelp(bench_.platform, topic::kJoystickAnalyser); }
+void JoyPlot::mnuhelpSpiking_Click() { ShowHelp(bench_.platform, topic::kSpiking); }
 
 void JoyPlot::mnuReadMe_Click() {
-  application_.platform.dialogs.Show(
+  bench_.platform.dialogs.Show(
       {"Be kind on your CPU",
        "Don't leave this running when you're using other parts of Tarvik, as it may slow down Tarvik becuase "
        "the program is constantly reading data from the joystick. The centre lines will change to green if "

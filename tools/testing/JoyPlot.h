@@ -1,15 +1,15 @@
 // The joystick analyser: plots where the stick goes, to show dead zones, drift of the centre and spikes.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/Menu.h"
 #include "controls/PlotBox.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 class JoyPlot : public Form {
  public:
-  explicit JoyPlot(Application& application);
+  explicit JoyPlot(Workbench& bench, Shell& shell);
 
   Menus menus;
   PlotBox PicJoy{*this, "PicJoy"};
@@ -33,7 +33,7 @@ class JoyPlot : public Form {
   /// Fits the picture to the form and begins it anew.
   void Form_Resize();
   void JoyTimer_Timer();
-  void mnuexit_Click() { application_.Unload(*this); }
+  void mnuexit_Click() { shell_.Unload(*this); }
   void mnuClear_Click() { PicJoy.Cls(); }
   void mnuPlot_Click();
   void mnuMaintain_Click();
@@ -56,7 +56,8 @@ class JoyPlot : public Form {
   void DrawDiagonals(unsigned colour);
   void DrawGrid();
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 }  // namespace tarvik

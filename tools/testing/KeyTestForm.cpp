@@ -71,13 +71,14 @@ int BarLength(int value, float longest) {
 
 }  // namespace
 
-KeyTestForm::KeyTestForm(Application& application)
+KeyTestForm::KeyTestForm(Workbench& bench, Shell& shell)
     : Form("KeyTestForm"),
       menus(*this, kMenus),
-      RTFKeysText(*this, "RTFKeysText", application.platform.files),
-      RTFKeysDownText(*this, "RTFKeysDownText", application.platform.files),
-      RTFKeysUpText(*this, "RTFKeysUpText", application.platform.files),
-      application_(application) {
+      RTFKeysText(*this, "RTFKeysText", bench.platform.files),
+      RTFKeysDownText(*this, "RTFKeysDownText", bench.platform.files),
+      RTFKeysUpText(*this, "RTFKeysUpText", bench.platform.files),
+      bench_(bench),
+      shell_(shell) {
   Caption = "Tarvik Keys and Joystick detector";
   OwnsKeys = true;
   for (Pane* const log : {&RTFKeysText, &RTFKeysDownText, &RTFKeysUpText}) log->Locked = true;
@@ -108,14 +109,14 @@ void KeyTestForm::AttachHandlers() {
 }
 
 void KeyTestForm::Form_Load() {
-  const Settings& settings = application_.settings;
+  const Settings& settings = bench_.settings;
   Topmost = true;
   ClearTextBoxes();
   RTFKeysDownText.BackColor = settings.BackgroundColour;
   RTFKeysUpText.BackColor = settings.MacroBackgroundColour;
   KeyColour = settings.MiscellaneousColour;
   ShowNumLock();
-  if (application_.platform.keyboard.GetKeyState(kCapsLock) == 1) TurnOffCapsLOCK();
+  if (bench_.platform.keyboard.GetKeyState(kCapsLock) == 1) TurnOffCapsLOCK();
   RTFKeysText.SetFocus();
   JoystickStuff();
 }
@@ -147,7 +148,7 @@ void KeyTestForm::Form_KeyDown(Key& key) {
 
 /// Each event stands out from its neighbours, and a press and its release look alike.
 void KeyTestForm::NextColour() {
-  const Settings& settings = application_.settings;
+  const Settings& settings = bench_.settings;
   const Colour colours[] = {settings.BTNColour, settings.SlashColour, settings.RAWColour,
                             settings.MiscellaneousColour, settings.RemStatements};
   KeyColour = colours[ColourStep];
@@ -207,7 +208,7 @@ std::string KeyTestForm::GetKeyUpEvent(int keyCode, int shift) {
 }
 
 void KeyTestForm::ShowNumLock() {
-  const std::optional<int> state = application_.platform.keyboard.GetKeyState(kNumLock);
+  const std::optional<int> state = bench_.platform.keyboard.GetKeyState(kNumLock);
   LabelNUMLOCK.Visible = state.has_value();
   LabelNUMLOCK.Turn(state == 1);
 }
@@ -236,9 +237,9 @@ void KeyTestForm::mnuClear500_Click(int index) {
 
 void KeyTestForm::JoystickStuff() {
   JoystickTimer.Enabled = false;
-  LastError = application_.platform.joystick.GetDevCaps(caps_);
+  LastError = bench_.platform.joystick.GetDevCaps(caps_);
   ShowWhetherThere();
-  if (LastError != joystick::kNoError) application_.platform.dialogs.Show(NoJoystickBox());
+  if (LastError != joystick::kNoError) bench_.platform.dialogs.Show(NoJoystickBox());
   PictureJoystick.Scale(0, kJoystickRange);
   FrameTHR.Height = PictureJoystick.Height + kFrameTop;
   FrameTHR.Top = PictureJoystick.Top - kFrameTop;
@@ -264,7 +265,7 @@ void KeyTestForm::ShowWhetherThere() {
 }
 
 void KeyTestForm::JoystickTimer_Timer() {
-  LastError = application_.platform.joystick.GetPosEx(info_);
+  LastError = bench_.platform.joystick.GetPosEx(info_);
   if (LastError != joystick::kNoError && LastError != joystick::kUnplugged) {
     status.Caption = std::string("Status: Joystick error");
     return;

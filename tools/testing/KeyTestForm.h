@@ -2,10 +2,10 @@
 // code and modifiers, and the stick's position, throttle, rudder and first buttons are shown as they move.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/Menu.h"
 #include "controls/PlotBox.h"
 #include "panes/Pane.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
@@ -14,7 +14,7 @@ class KeyTestForm : public Form {
   static constexpr int kClearTimes = 5;
   static constexpr int kButtons = 4;
 
-  explicit KeyTestForm(Application& application);
+  explicit KeyTestForm(Workbench& bench, Shell& shell);
 
   Menus menus;
   // The logs: the keys by name, their presses, and their releases.
@@ -63,8 +63,8 @@ class KeyTestForm : public Form {
   void Form_KeyUp(const Key& key);
   void Form_Unload() { JoystickTimer.Enabled = false; }
   void RTFKeysText_LostFocus() { RTFKeysText.SetFocus(); }
-  void Command1_Click() { application_.Unload(*this); }
-  void mnuClose_Click() { application_.Unload(*this); }
+  void Command1_Click() { shell_.Unload(*this); }
+  void mnuClose_Click() { shell_.Unload(*this); }
   void mnuClearAll_Click() { ClearTextBoxes(); }
   void mnuClear500_Click(int index);
   void Timer1_Timer();
@@ -76,7 +76,7 @@ class KeyTestForm : public Form {
   /// Each turns lamps of modifiers on, or off, and gives the modifiers in a word.
   std::string GetKeyDownEvent(int keyCode, int shift);
   std::string GetKeyUpEvent(int keyCode, int shift);
-  void TurnOffCapsLOCK() { application_.platform.keyboard.TurnOff(kCapsLock); }
+  void TurnOffCapsLOCK() { bench_.platform.keyboard.TurnOff(kCapsLock); }
   /// Looks for the joystick, and starts reading it.
   void JoystickStuff();
 
@@ -91,7 +91,8 @@ class KeyTestForm : public Form {
   void ShowThrottle();
   void ShowRudder();
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
   JoyInfo info_;
   JoyCaps caps_;
 };

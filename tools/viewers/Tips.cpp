@@ -25,9 +25,10 @@ std::string InCodePage(std::string text) {
 
 }  // namespace
 
-frmTip::frmTip(Application& application)
+frmTip::frmTip(Workbench& bench, Shell& shell)
     : Form("frmTip"),
-      application_(application),
+      bench_(bench),
+      shell_(shell),
       random_(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count())) {
   Caption = "Tip of the Day";
   Label1.Caption = "Did you know...";
@@ -40,14 +41,14 @@ frmTip::frmTip(Application& application)
 
 void frmTip::Form_Load() {
   Topmost = true;
-  chkLoadTipsAtStartup.Value = application_.settings.ShowTips == 1 ? 1 : 0;
-  LoadTips(application_.platform.folder + "\\Tips.txt");
+  chkLoadTipsAtStartup.Value = bench_.settings.ShowTips == 1 ? 1 : 0;
+  LoadTips(bench_.platform.folder + "\\Tips.txt");
   DisplayCurrentTip();
   cmdOK.SetFocus();
 }
 
 void frmTip::LoadTips(const std::string& path) {
-  const auto read = Ignore(application_.platform.files.Read(path));
+  const auto read = Ignore(bench_.platform.files.Read(path));
   if (!read) return;
   const std::string text = WithPaneLineBreaks(InCodePage(*read));
   for (std::size_t from = 0; from < text.size();) {
@@ -69,27 +70,27 @@ void frmTip::DisplayCurrentTip() {
 }
 
 void frmTip::cmdOK_Click() {
-  application_.settings.ShowTips = chkLoadTipsAtStartup.Value;
-  const Trap trap{application_.errors, "TIPS cmdOK_Click"};
-  trap(application_.profile.Write("FileLocations", "ShowTips", TextOf(application_.settings.ShowTips.Get())));
-  application_.Unload(*this);
+  bench_.settings.ShowTips = chkLoadTipsAtStartup.Value;
+  const Trap trap{bench_.errors, "TIPS cmdOK_Click"};
+  trap(bench_.profile.Write("FileLocations", "ShowTips", TextOf(bench_.settings.ShowTips.Get())));
+  shell_.Unload(*this);
 }
 
-frmAbout::frmAbout(Application& application) : Form("frmAbout"), application_(application) {
+frmAbout::frmAbout(Workbench& bench, Shell& shell) : Form("frmAbout"), bench_(bench), shell_(shell) {
   Caption = "About Tarvik";
   lblVersion.Caption = kVersion;
   lblDescription.Caption = kDescription;
   for (Label* const label : {&lblVersion, &lblDescription}) label->BackColor = ToggleLabel::kOff;
   cmdOK.MakeDefault();
   cmdOK.Cancel = true;
-  cmdOK.Click = [this] { application_.Unload(*this); };
+  cmdOK.Click = [this] { shell_.Unload(*this); };
   cmdSysInfo.Click = [this] { cmdSysInfo_Click(); };
   Load = [this] { Form_Load(); };
 }
 
 void frmAbout::cmdSysInfo_Click() {
-  if (Ignore(application_.platform.desktop.ShowSystemInformation())) return;
-  application_.platform.dialogs.Show(
+  if (Ignore(bench_.platform.desktop.ShowSystemInformation())) return;
+  bench_.platform.dialogs.Show(
       {"Tarvik", "System Information Is Unavailable At This Time", BoxIcon::None, BoxButtons::Ok});
 }
 

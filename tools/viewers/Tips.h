@@ -3,15 +3,15 @@
 
 #include <random>
 
-#include "app/Application.h"
 #include "controls/Controls.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 /// Shows a line of the tips file, drawn at random, and says whether tips come at the start.
 class frmTip : public Form {
  public:
-  explicit frmTip(Application& application);
+  explicit frmTip(Workbench& bench, Shell& shell);
 
   Label Label1{*this, "Label1"};
   Label lblTipText{*this, "lblTipText"};
@@ -31,14 +31,15 @@ class frmTip : public Form {
   void DisplayCurrentTip();
 
  private:
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
   std::vector<std::string> tips_;
   std::minstd_rand random_;
 };
 
 class frmAbout : public Form {
  public:
-  explicit frmAbout(Application& application);
+  explicit frmAbout(Workbench& bench, Shell& shell);
 
   Label lblVersion{*this, "lblVersion"};
   Label lblDescription{*this, "lblDescription"};
@@ -49,7 +50,8 @@ class frmAbout : public Form {
   void cmdSysInfo_Click();
 
  private:
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 }  // namespace tarvik

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "app/Mum.h"
 #include "platform/LogicalPath.h"
 #include "text/CodePage.h"
 #include "workbench/HelpTopics.h"
@@ -43,8 +42,8 @@ void LoadInto(ImageBox& image, const std::string& path, const Files& files) {
 
 }  // namespace
 
-ViewImage::ViewImage(Application& application)
-    : Form("ViewImage"), menus(*this, kMenus), application_(application) {
+ViewImage::ViewImage(Workbench& bench, Shell& shell)
+    : Form("ViewImage"), menus(*this, kMenus), bench_(bench), shell_(shell) {
   Caption = "Image viewer";
   ScaleWidth = kInside;
   ScaleHeight = kInside;
@@ -56,49 +55,49 @@ ViewImage::ViewImage(Application& application)
 }
 
 void ViewImage::Form_Load() {
-  const std::string& path = application_.settings.ImageFilePath;
-  if (application_.platform.files.FileExists(path)) LoadInto(Image1, path, application_.platform.files);
+  const std::string& path = bench_.settings.ImageFilePath;
+  if (bench_.platform.files.FileExists(path)) LoadInto(Image1, path, bench_.platform.files);
   Form_Resize();
 }
 
-void ViewImage::Form_Activate() { application_.mum().Toolbar1.Visible = false; }
+void ViewImage::Form_Activate() { shell_.HideToolbar(); }
 
 bool ViewImage::ShowPicture() {
-  const std::string& path = application_.settings.ImageFilePath;
-  if (application_.platform.files.FileExists(path)) {
-    LoadInto(Image1, path, application_.platform.files);
+  const std::string& path = bench_.settings.ImageFilePath;
+  if (bench_.platform.files.FileExists(path)) {
+    LoadInto(Image1, path, bench_.platform.files);
     return true;
   }
-  application_.platform.dialogs.Show({"Image file not found",
-                                      path + " does not exist. Select Open from the Image menu to ensure the "
-                                             "correct path to the image file.",
-                                      BoxIcon::Exclamation, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({"Image file not found",
+                                path + " does not exist. Select Open from the Image menu to ensure the "
+                                       "correct path to the image file.",
+                                BoxIcon::Exclamation, BoxButtons::Ok});
   return false;
 }
 
 void ViewImage::mnuImageLoad_Click() {
-  application_.ShowModal(application_.Tool<SelectPictureForm>());
+  shell_.ShowModal(shell_.Tool<SelectPictureForm>());
   if (!ShowPicture()) return;
-  application_.lists.SaveApps();
+  bench_.lists.SaveApps();
 }
 
 void ViewImage::mnuImageEdit_Click() {
-  const Trap trap{application_.errors, "VIEWIMAGE mnuImageEdit_Click"};
-  trap(application_.platform.desktop.Open(application_.settings.ImageFilePath));
+  const Trap trap{bench_.errors, "VIEWIMAGE mnuImageEdit_Click"};
+  trap(bench_.platform.desktop.Open(bench_.settings.ImageFilePath));
 }
 
-void ViewImage::mnuHelpViewer_Click() { ShowHelp(application_.platform, topic::kImageViewer); }
+void ViewImage::mnuHelpViewer_Click() { ShowHelp(bench_.platform, topic::kImageViewer); }
 
 // The picker.
 
-SelectPictureForm::SelectPictureForm(Application& application)
-    : Form("SelectPictureForm"), application_(application) {
+SelectPictureForm::SelectPictureForm(Workbench& bench, Shell& shell)
+    : Form("SelectPictureForm"), bench_(bench), shell_(shell) {
   Caption = "Select a picture";
   Drive1.ToolTipText = "Drive";
   Dir1.ToolTipText = "Double click a folder to open it";
   Label1.BackColor = ToggleLabel::kOff;
   Command1.Cancel = true;
-  Command1.Click = [this] { application_.Unload(*this); };
+  Command1.Click = [this] { shell_.Unload(*this); };
   Command2.MakeDefault();
   Command2.Click = [this] { Command2_Click(); };
   Drive1.Click = [this] { Drive1_Change(); };
@@ -109,19 +108,19 @@ SelectPictureForm::SelectPictureForm(Application& application)
 }
 
 void SelectPictureForm::Form_Load() {
-  const Files& files = application_.platform.files;
-  const std::string& shown = application_.settings.ImageFilePath;
+  const Files& files = bench_.platform.files;
+  const std::string& shown = bench_.settings.ImageFilePath;
   const std::string folder = shown.substr(0, std::min(shown.rfind('\\') + 1, shown.size()));
   std::vector<std::string> drives;
   for (const char letter : files.DriveLetters()) drives.push_back({letter, ':'});
   Drive1.FillInOrder(std::move(drives));
-  ShowFolder(files.FolderExists(folder) ? folder : application_.platform.folder);
+  ShowFolder(files.FolderExists(folder) ? folder : bench_.platform.folder);
 }
 
 void SelectPictureForm::ShowFolder(const std::string& path) {
   const auto whole = CurrentFolders().Complete(path);
   if (!whole) return;
-  const Files& files = application_.platform.files;
+  const Files& files = bench_.platform.files;
   Path = whole->Text();
   const auto drive = std::find(Drive1.List().begin(), Drive1.List().end(), Path.Get().substr(0, 2));
   Drive1.ListIndex = drive == Drive1.List().end() ? -1 : static_cast<int>(drive - Drive1.List().begin());
@@ -163,13 +162,13 @@ void SelectPictureForm::file1_Click() {
   if (File1.Current().empty()) return;
   const std::string path = LowerCase(Joined(Path, File1.Current()));
   Label1.Caption = path;
-  LoadInto(ImagePreview, path, application_.platform.files);
+  LoadInto(ImagePreview, path, bench_.platform.files);
 }
 
 /// Without a picked file the picture stays the one it was.
 void SelectPictureForm::Command2_Click() {
-  if (!Label1.Caption.Get().empty()) application_.settings.ImageFilePath = Label1.Caption;
-  application_.Unload(*this);
+  if (!Label1.Caption.Get().empty()) bench_.settings.ImageFilePath = Label1.Caption;
+  shell_.Unload(*this);
 }
 
 }  // namespace tarvik

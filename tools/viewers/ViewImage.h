@@ -1,15 +1,15 @@
 // The image viewer, for the picture of a game's key layout, and the window in which its picture is picked.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/ImageBox.h"
 #include "controls/Menu.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
 class ViewImage : public Form {
  public:
-  explicit ViewImage(Application& application);
+  explicit ViewImage(Workbench& bench, Shell& shell);
 
   Menus menus;
   ImageBox Image1{*this, "Image1"};
@@ -18,8 +18,8 @@ class ViewImage : public Form {
   void Form_Activate();
   void Form_Resize() { Image1.Move(0, 0, ScaleWidth, ScaleHeight); }
   void Image1_DblClick() { mnuImageEdit_Click(); }
-  void mnuFileClose_Click() { application_.CloseTool(*this); }
-  void mnuFileExit_Click() { application_.CloseMum(); }
+  void mnuFileClose_Click() { shell_.CloseTool(*this); }
+  void mnuFileExit_Click() { shell_.CloseProgram(); }
   void mnuImageLoad_Click();
   void mnuImageRefresh_Click() { ShowPicture(); }
   void mnuImageEdit_Click();
@@ -31,12 +31,13 @@ class ViewImage : public Form {
   /// Shows the picture that is set, or says that it is missing: false.
   bool ShowPicture();
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 class SelectPictureForm : public Form {
  public:
-  explicit SelectPictureForm(Application& application);
+  explicit SelectPictureForm(Workbench& bench, Shell& shell);
 
   ComboBox Drive1{*this, "Drive1"};
   /// The folder on show below the ones it lies in, and its own folders below it.
@@ -59,7 +60,8 @@ class SelectPictureForm : public Form {
  private:
   void ShowFolder(const std::string& path);
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
   std::vector<std::string> folders_;  // of the rows of Dir1
   std::vector<Connection> connections_;
 };

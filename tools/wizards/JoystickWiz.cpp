@@ -1,6 +1,5 @@
 #include "tools/wizards/JoystickWiz.h"
 
-#include "app/Editor.h"
 #include "tools/composer/InsertOptions.h"
 
 namespace tarvik {
@@ -30,10 +29,11 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-JoystickWiz::JoystickWiz(Application& application)
-    : Wizard(kTraits, application),
+JoystickWiz::JoystickWiz(Workbench& bench, Shell& shell)
+    : Wizard(kTraits, shell),
       BTNinFrame(*this, "BTNinFrame", std::size(kCommands)),
-      application_(application) {
+      bench_(bench),
+      shell_(shell) {
   for (int i = 0; i < BTNinFrame.Count(); ++i) {
     BTNinFrame(i).Caption = std::string(kCommands[i].toolTip);
     BTNinFrame(i).ToolTipText = std::string(kCommands[i].toolTip);
@@ -43,28 +43,28 @@ JoystickWiz::JoystickWiz(Application& application)
 
 void JoystickWiz::BTNinFrame_Click(int index) { (this->*kCommands[index].run)(); }
 
-void JoystickWiz::OpenMacroFile() { editor().MnuFileMacroLoad_Click(); }
-void JoystickWiz::CreateFile() { editor().mnuFileNewJoystick_Click(); }
-void JoystickWiz::SaveFile() { editor().mnuFileSave_Click(); }
+void JoystickWiz::OpenMacroFile() { bench_.files.Load(bench_.documents.macro); }
+void JoystickWiz::CreateFile() { bench_.NewFile(bench_.documents.joystick); }
+void JoystickWiz::SaveFile() { bench_.files.Save(bench_.documents.Active()); }
 
 void JoystickWiz::GoToStart() {
-  editor().TabStrip1.Select(1);
-  editor().JoystickText.SelStart = 0;
-  editor().Joystick.Caret = 0;
-  editor().JoystickText.SetFocus();
+  bench_.documents.tabs.Select(1);
+  bench_.documents.joystick.text.SelStart = 0;
+  bench_.documents.joystick.Caret = 0;
+  bench_.documents.joystick.text.SetFocus();
 }
 
 /// One undo brings the text back.
 void JoystickWiz::StartOver() {
-  editor().Joystick.Undo.BeginCommand(application_.settings.UndoMax);
-  editor().JoystickText.Text = std::string();
+  bench_.documents.joystick.Undo.BeginCommand(bench_.settings.UndoMax);
+  bench_.documents.joystick.text.Text = std::string();
   GoToStart();
-  editor().mnuInsertTitle_Click();
+  shell_.Show(ToolId::Title);
 }
 
 InsertOptions& JoystickWiz::ComposerAt(int page) {
-  editor().mnuShowInsertWindow_Click();
-  auto& composer = application_.Tool<InsertOptions>();
+  shell_.Show(ToolId::Composer);
+  auto& composer = shell_.Tool<InsertOptions>();
   composer.SSTab1.Tab = page;
   return composer;
 }
@@ -92,7 +92,7 @@ void JoystickWiz::InsertPortB() {
   composer.mnuTrig_Click(0);
   composer.Command7_Click(0);
   composer.Command6_Click();
-  editor().JoystickText.SetFocus();
+  bench_.documents.joystick.text.SetFocus();
 }
 
 }  // namespace tarvik

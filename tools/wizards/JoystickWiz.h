@@ -9,7 +9,7 @@ class InsertOptions;
 
 class JoystickWiz : public Wizard {
  public:
-  explicit JoystickWiz(Application& application);
+  explicit JoystickWiz(Workbench& bench, Shell& shell);
 
   ControlArray<Frame>& JoyWizFrame = frames;
   ControlArray<CommandButton>& Command1 = buttons;
@@ -30,9 +30,9 @@ class JoystickWiz : public Wizard {
 
  private:
   InsertOptions& ComposerAt(int page);
-  [[nodiscard]] Editor& editor() const { return application_.editor(); }
 
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
 };
 
 }  // namespace tarvik

@@ -1,7 +1,6 @@
 #include "tools/wizards/MacroMaker.h"
 
-#include "app/Editor.h"
-#include "tools/blocks/TextBlocks.h"
+#include "language/MacroHeadings.h"
 
 namespace tarvik {
 namespace {
@@ -24,13 +23,14 @@ const MessageBox kBlankInName = {"Ooops!", "You can't have spaces in a macro nam
 
 }  // namespace
 
-MacroMaker::MacroMaker(Form& form, Application& application, std::span<const Command, kOwn> own)
+MacroMaker::MacroMaker(Form& form, Workbench& bench, Shell& shell, std::span<const Command, kOwn> own)
     : Command1(form, "Command1", static_cast<int>(own.size() + std::size(kShared))),
       Text1(form, "Text1", 2),
       Preview(form, "Label1", kPreviewIndex),
       List1(form, "List1"),
       form_(form),
-      application_(application),
+      bench_(bench),
+      shell_(shell),
       commands_(own.begin(), own.end()) {
   commands_.insert(commands_.end(), std::begin(kShared), std::end(kShared));
   for (int i = 0; i < Command1.Count(); ++i) {
@@ -44,6 +44,9 @@ MacroMaker::MacroMaker(Form& form, Application& application, std::span<const Com
   List1.ToolTipText = "Double click to insert macro heading";
   List1.DblClick = [this] { List1_DblClick(); };
   AddHeadingsToList();
+  keysOffered_ = bench.KeysOffered.Connect([this](const std::string& keys) {
+    if (form_.Visible) Text1(kKeys).Text = keys;
+  });
 }
 
 void MacroMaker::AddHeadingsToList() {
@@ -63,7 +66,7 @@ void MacroMaker::PrepareMacro() {
 void MacroMaker::Text1_Change() {
   const std::string name = Text1(kName).Text;
   if (name.find(' ') != std::string::npos) {
-    application_.platform.dialogs.Show(kBlankInName);
+    bench_.platform.dialogs.Show(kBlankInName);
     return;
   }
   Command1(kInsert).Enabled = !name.empty() && !Text1(kKeys).Empty();
@@ -81,19 +84,19 @@ void MacroMaker::Text1_KeyDown(Key& key) {
 /// The line goes into the macro file whatever is on top; its end goes where the editor's insertions go, in
 /// the same step of undo.
 void MacroMaker::InsertMacro() {
-  const bool onTop = &editor().ActiveDocument() == &editor().Macro;
-  editor().Macro.Undo.BeginCommand(application_.settings.UndoMax);
+  const bool onTop = &bench_.documents.Active() == &bench_.documents.macro;
+  bench_.documents.macro.Undo.BeginCommand(bench_.settings.UndoMax);
   WriteBlack(Preview.Caption.Get() + (onTop ? "\r\n" : ""));
-  if (!onTop) editor().insertion().InsertCarriageReturn();
-  application_.mum().Picture1.BackColor = kBlack;
+  if (!onTop) bench_.insertion.InsertCarriageReturn();
+  bench_.documents.swatch.BackColor = kBlack;
   ClearTexts();
 }
 
 void MacroMaker::WriteBlack(const std::string& text) {
-  Pane& pane = editor().MacroText;
+  Pane& pane = bench_.documents.macro.text;
   pane.SelColor = kBlack;
   pane.SelText = text;
-  editor().Macro.Caret = pane.SelStart;
+  bench_.documents.macro.Caret = pane.SelStart;
 }
 
 void MacroMaker::ClearTexts() {
@@ -104,41 +107,41 @@ void MacroMaker::ClearTexts() {
 
 // Headings.
 
-void MacroMaker::InsertHeading() { editor().mnuInsertHeading_Click(); }
+void MacroMaker::InsertHeading() { shell_.Show(ToolId::Heading); }
 
 void MacroMaker::List1_DblClick() {
   const std::string heading = List1.Current();
   if (heading.empty()) return;
-  const bool colour = application_.settings.InsertWithColour == 1;
-  ColouredInsertion& insertion = editor().insertion();
+  const bool colour = bench_.settings.InsertWithColour == 1;
+  ColouredInsertion& insertion = bench_.insertion;
   insertion.BeginColInsert();
   insertion.InsertCarriageReturn();
   for (const std::string& line : HeadingBlock(heading)) {
     if (colour) {
-      insertion.InsertColouredStringNoSpace(line, application_.settings.RemStatements);
+      insertion.InsertColouredStringNoSpace(line, bench_.settings.RemStatements);
     } else {
       WriteBlack(line);
     }
     insertion.InsertCarriageReturn();
   }
   insertion.EndColInsert();
-  const bool elsewhere = !colour && &editor().ActiveDocument() != &editor().Macro;
-  if (elsewhere) editor().TextChanged(editor().Macro);  // the group was the other file's
+  const bool elsewhere = !colour && &bench_.documents.Active() != &bench_.documents.macro;
+  if (elsewhere) bench_.documents.TextChanged(bench_.documents.macro);  // the group was the other file's
 }
 
 // The editor's commands.
 
-void MacroMaker::CreateFile() { editor().mnuFileNewMacro_Click(); }
+void MacroMaker::CreateFile() { bench_.NewFile(bench_.documents.macro); }
 
 void MacroMaker::CreateAndSaveFile() {
   CreateFile();
   SaveFile();
 }
 
-void MacroMaker::InsertTitle() { editor().mnuInsertTitle_Click(); }
-void MacroMaker::ShowPimlet() { editor().mnuInsertRAW_Click(); }
-void MacroMaker::SaveFile() { editor().mnuFileSave_Click(); }
-void MacroMaker::UpdateMacros() { editor().mnuEditUpdateMacros_Click(); }
-void MacroMaker::CloseForm() { application_.Unload(form_); }
+void MacroMaker::InsertTitle() { shell_.Show(ToolId::Title); }
+void MacroMaker::ShowPimlet() { shell_.Show(ToolId::Pimlet); }
+void MacroMaker::SaveFile() { bench_.files.Save(bench_.documents.Active()); }
+void MacroMaker::UpdateMacros() { bench_.files.UpdateMacros(); }
+void MacroMaker::CloseForm() { shell_.Unload(form_); }
 
 }  // namespace tarvik

@@ -2,8 +2,8 @@
 // editor's own commands.
 #pragma once
 
-#include "app/Application.h"
 #include "controls/Controls.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
@@ -17,7 +17,7 @@ class MacroMaker {
   static constexpr std::size_t kOwn = 3;  ///< buttons that each form has for itself; they come first
   static constexpr int kInsert = 4;
 
-  MacroMaker(Form& form, Application& application, std::span<const Command, kOwn> own);
+  MacroMaker(Form& form, Workbench& bench, Shell& shell, std::span<const Command, kOwn> own);
 
   ControlArray<CommandButton> Command1;
   ControlArray<TextBox> Text1;  ///< the macro's name and its keys
@@ -49,11 +49,12 @@ class MacroMaker {
  private:
   void AddHeadingsToList();
   void WriteBlack(const std::string& text);
-  [[nodiscard]] Editor& editor() const { return application_.editor(); }
 
   Form& form_;
-  Application& application_;
+  Workbench& bench_;
+  Shell& shell_;
   std::vector<Command> commands_;
+  Connection keysOffered_;
 };
 
 }  // namespace tarvik

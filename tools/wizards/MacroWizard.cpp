@@ -17,8 +17,8 @@ constexpr MacroMaker::Command kOwnCommands[] = {
 
 }  // namespace
 
-MacroWizard::MacroWizard(Application& application)
-    : Wizard(kTraits, application), MacroMaker(*this, application, kOwnCommands) {}
+MacroWizard::MacroWizard(Workbench& bench, Shell& shell)
+    : Wizard(kTraits, shell), MacroMaker(*this, bench, shell, kOwnCommands) {}
 
 void MacroWizard::Turned() {
   if (Page != kMacroPage) return Wizard::Turned();

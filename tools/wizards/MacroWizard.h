@@ -8,7 +8,7 @@ namespace tarvik {
 
 class MacroWizard : public Wizard, public MacroMaker {
  public:
-  explicit MacroWizard(Application& application);
+  explicit MacroWizard(Workbench& bench, Shell& shell);
 
   ControlArray<Frame>& MacroWizFrame = frames;
   ControlArray<CommandButton>& CommandAll = buttons;

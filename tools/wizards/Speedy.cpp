@@ -13,8 +13,8 @@ constexpr MacroMaker::Command kOwnCommands[] = {
 
 }  // namespace
 
-Speedy::Speedy(Application& application)
-    : GuidedForm("Speedy", tables::kSpeedyPages), MacroMaker(*this, application, kOwnCommands) {
+Speedy::Speedy(Workbench& bench, Shell& shell)
+    : GuidedForm("Speedy", tables::kSpeedyPages), MacroMaker(*this, bench, shell, kOwnCommands) {
   Caption = "Speedy - for fast macro files";
   SSTab1.Click = [this] { SSTab1_Click(); };
 }

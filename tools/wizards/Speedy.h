@@ -8,7 +8,7 @@ namespace tarvik {
 
 class Speedy : public GuidedForm, public MacroMaker {
  public:
-  explicit Speedy(Application& application);
+  explicit Speedy(Workbench& bench, Shell& shell);
 
   TabPages SSTab1{*this, "SSTab1", {"Toolbox", "Macro heading", "Create macro"}};
 

@@ -2,12 +2,12 @@
 
 namespace tarvik {
 
-Wizard::Wizard(const Traits& traits, Application& application)
+Wizard::Wizard(const Traits& traits, Shell& shell)
     : GuidedForm(traits.name, traits.pages),
       frames(*this, traits.frames, static_cast<int>(traits.pages.size())),
       buttons(*this, traits.buttons, 4),
       traits_(traits),
-      application_(application) {
+      shell_(shell) {
   constexpr float kMargin = 5;
   Caption = std::string(traits.caption);
   for (int i = 0; i < frames.Count(); ++i) {
@@ -39,7 +39,7 @@ void Wizard::Button_Click(int index) {
   if (index == kNext) return TurnTo(std::min(Page + 1, last));
   if (index == kBack) return TurnTo(std::max(Page - 1, 0));
   if (index == kFinish && Page < last) return TurnTo(last);
-  application_.Unload(*this);
+  shell_.Unload(*this);
 }
 
 }  // namespace tarvik

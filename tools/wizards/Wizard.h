@@ -2,8 +2,8 @@
 // common.
 #pragma once
 
-#include "app/Application.h"
 #include "tools/wizards/GuidedForm.h"
+#include "workbench/Shell.h"
 
 namespace tarvik {
 
@@ -21,7 +21,7 @@ class Wizard : public GuidedForm {
 
   enum Button { kFinish, kNext, kBack, kCancel };
 
-  Wizard(const Traits& traits, Application& application);
+  Wizard(const Traits& traits, Shell& shell);
 
   /// The number of the page on show, from 0.
   Property<int> Page{*this, "Page", 0};
@@ -40,7 +40,7 @@ class Wizard : public GuidedForm {
   void TurnTo(int page);
 
   const Traits traits_;
-  Application& application_;
+  Shell& shell_;
 };
 
 }  // namespace tarvik

@@ -1,6 +1,4 @@
-#include "tools/printing/PrintRTFWordWrap.h"
-
-#include "app/Layout.h"
+#include "workbench/PrintRTFWordWrap.h"
 
 namespace tarvik {
 namespace {
@@ -54,16 +52,16 @@ void PrintPane(const Pane& pane, const std::string& title, std::string_view tag,
   panel.Text = "Finished printing " + title;
 }
 
-void PrintDocument(const Desk& desk, const Document& document) {
-  PrintPane(document.text, desk.TabOf(document).Caption,
+void PrintDocument(const Documents& documents, const Document& document) {
+  PrintPane(document.text, documents.TabOf(document).Caption,
             document.IsJoystick() ? "ED_mnuFilePrintJoystick_Click" : "ED_mnuFilePrintMacro_Click",
-            desk.platform, desk.errors, desk.status.Panels(1));
+            documents.platform, documents.errors, documents.status.Panels(1));
 }
 
-void SetUpPrinter(const Desk& desk) {
-  const Outcome<> chosen = desk.platform.printer.SetUp();
+void SetUpPrinter(const Documents& documents) {
+  const Outcome<> chosen = documents.platform.printer.SetUp();
   if (!chosen && chosen.failure().number == error::kDialogCancelled) return;
-  Trap{desk.errors, "ED_mnuFilePrinterSetup_Click"}(chosen);
+  Trap{documents.errors, "ED_mnuFilePrinterSetup_Click"}(chosen);
 }
 
 }  // namespace tarvik

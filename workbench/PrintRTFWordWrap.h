@@ -2,7 +2,7 @@
 // editor's printing entries run this.
 #pragma once
 
-#include "workbench/Desk.h"
+#include "workbench/Documents.h"
 
 namespace tarvik {
 
@@ -16,9 +16,9 @@ void PrintPane(const Pane& pane, const std::string& title, std::string_view tag,
                Errors& errors, Panel& panel);
 
 /// Prints the document under its name and today's date; status panel 1 tells.
-void PrintDocument(const Desk& desk, const Document& document);
+void PrintDocument(const Documents& documents, const Document& document);
 
 /// Lets the user choose where everything is printed from now on.
-void SetUpPrinter(const Desk& desk);
+void SetUpPrinter(const Documents& documents);
 
 }  // namespace tarvik

@@ -1,0 +1,93 @@
+#include "workbench/Documents.h"
+
+namespace tarvik {
+namespace {
+
+constexpr int kPaneIndent = 20;  // pixels
+
+constexpr const char* kSavedStateTips[] = {
+    " has no text and isn't saved",
+    " is saved",
+    " has been modified and isn't saved",
+};
+
+}  // namespace
+
+Documents::Documents(Platform& services, Settings& theSettings, Values& theValues, Errors& theErrors)
+    : Component("Documents"),
+      platform(services),
+      settings(theSettings),
+      values(theValues),
+      errors(theErrors) {
+  for (Pane* const hidden : {&scratch, &compare}) hidden->Visible = false;
+}
+
+void Documents::Say(const std::string& text) const { status.Panels(1).Text = text; }
+
+void Documents::SayIsProtected(const Document& document) const {
+  Say(TabOf(document).Caption.Get() + " is protected and can't be edited.");
+}
+
+void Documents::ShowLineNumber(const Document& document) { ShowLine(document, document.Caret); }
+
+void Documents::ShowCaretLine() { ShowLine(Active(), Active().text.SelStart); }
+
+/// A key mostly stays in its line.
+void Documents::ShowLine(const Document& document, std::size_t position) {
+  const std::size_t line = 1 + document.text.GetLineFromChar(position);
+  if (std::exchange(shownLine_, line) != line) status.Panels(3).Text = "Line no: " + TextOf(line);
+}
+
+void Documents::UpdateSavedIcon() const {
+  const Document& document = Active();
+  const int image = document.Dirty + 2;
+  status.Panels(2).Picture = image;
+  status.Panels(2).ToolTipText = document.Name.Get().Text() + kSavedStateTips[image - 1];
+}
+
+void ApplyFont(Pane& pane, const Settings& settings) {
+  pane.SelIndent = kPaneIndent;
+  ApplyFontOnly(pane, settings);
+}
+
+void ApplyFontOnly(Pane& pane, const Settings& settings) {
+  pane.SelFontName = settings.TextFontName;
+  pane.SelBold = settings.TextFontBold != 0;
+  pane.SelFontSize = static_cast<float>(settings.TextFontSize);
+}
+
+void Documents::ApplyLook(const Document& document) const {
+  ApplyBackground(document);
+  ApplyFont(document.text, settings);
+}
+
+void Documents::ApplyBackground(const Document& document) const {
+  document.text.BackColor = (settings.*document.traits.background).Get();
+}
+
+void Documents::Reformat() {
+  const Loading loading(values);
+  Say("Reformatting layout. Please wait ...");
+  const Document& document = Active();
+  ApplyFont(document.text, settings);
+  document.text.SelStart = document.Caret;
+}
+
+void Documents::TextChanged(Document& document) {
+  document.Dirty = saved::kModified;
+  UpdateSavedIcon();
+  if (document.Undo.Absorbs()) return document.Undo.Absorb();
+  document.Undo.Open(settings.UndoMax);
+  HistoryChanged();
+  document.Undo.GoToNewest();
+  RedoEnded();
+}
+
+void Documents::Reset() {
+  const Loading loading(values);
+  for (Document* const document : {&joystick, &macro}) document->Reset();
+  tabs.Begin(1);
+  shownLine_.reset();
+}
+
+}  // namespace tarvik

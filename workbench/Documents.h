@@ -1,0 +1,110 @@
+// The two documents in hand, the controls in which they are edited and in which the program speaks, and the
+// services from outside: what everything works on that edits a file. They have no window; the forms give the
+// controls their places.
+#pragma once
+
+#include "platform/Platform.h"
+#include "workbench/Document.h"
+#include "workbench/Values.h"
+
+namespace tarvik {
+
+inline constexpr int kStatusPanels = 8;
+
+class Documents : public Component {
+ public:
+  Documents(Platform& services, Settings& theSettings, Values& theValues, Errors& theErrors);
+
+  Platform& platform;
+  Settings& settings;
+  Values& values;
+  Errors& errors;
+
+  // Of the frame.
+  StatusBar status{*this, "StatusBar", kStatusPanels};
+  ProgressBar progress{*this, "ProgressBar1"};
+  PictureBox swatch{*this, "Picture1"};
+  /// Something takes its time.
+  Property<bool> Busy{*this, "Busy", false};
+
+  // Of the editor.
+  TabStrip tabs{*this, "TabStrip1", 2};
+  Pane joystickText{*this, "JoystickText", platform.files};
+  Pane macroText{*this, "MacroText", platform.files};
+  Pane scratch{*this, "TempRichTextBox", platform.files};  ///< hidden, for work that must not show
+  Pane compare{*this, "CompareRTF", platform.files};  ///< hidden, to compare a coloured copy with its file
+
+  Document joystick{*this, "Joystick", kJoystickTraits, joystickText};
+  Document macro{*this, "Macro", kMacroTraits, macroText};
+
+  /// The document of the selected tab.
+  [[nodiscard]] Document& Active() { return tabs.SelectedIndex() == 1 ? joystick : macro; }
+  [[nodiscard]] const Document& Active() const { return tabs.SelectedIndex() == 1 ? joystick : macro; }
+  [[nodiscard]] Tab& TabOf(const Document& document) const { return tabs.Tabs(document.traits.tab); }
+  void Select(const Document& document) { tabs.Select(document.traits.tab); }
+  /// Status panel 1.
+  void Say(const std::string& text) const;
+  /// Status panel 1, when the user would edit a protected file.
+  void SayIsProtected(const Document& document) const;
+  /// Status panel 3: the line of the document's caret memory.
+  void ShowLineNumber(const Document& document);
+  /// The same of the caret in the document of the selected tab. Its pane announces each move, so that no
+  /// command has to think of it; only a change of the tab asks for it by hand.
+  void ShowCaretLine();
+  /// Status panel 2: the saved state of the document of the selected tab.
+  void UpdateSavedIcon() const;
+  /// Gives the pane the user's font, indent and the document's background.
+  void ApplyLook(const Document& document) const;
+  void ApplyBackground(const Document& document) const;
+  /// Gives the font to the document on top once more.
+  void Reformat();
+  /// Marks the document as modified and records the change for undo.
+  void TextChanged(Document& document);
+  /// Both documents empty and without anything of the files that they were.
+  void Reset();
+
+  /// What undo and redo can do in the document on top has changed.
+  Signal<> HistoryChanged;
+  /// A change of the text ended what could be redone; the counts are shown as they were.
+  Signal<> RedoEnded;
+
+ private:
+  void ShowLine(const Document& document, std::size_t position);
+
+  std::optional<std::size_t> shownLine_;  // in status panel 3
+};
+
+/// Gives a pane the user's font, and the indent of all panes.
+void ApplyFont(Pane& pane, const Settings& settings);
+/// The same without the indent.
+void ApplyFontOnly(Pane& pane, const Settings& settings);
+
+/// Keeps the change handlers from counting what program code does to a pane as an edit.
+class Loading {
+ public:
+  explicit Loading(Values& values) : values_(values), before_(values.LoadingFile) { values_.LoadingFile = 1; }
+  ~Loading() { values_.LoadingFile = before_; }
+  Loading(const Loading&) = delete;
+  Loading& operator=(const Loading&) = delete;
+
+ private:
+  Values& values_;
+  int before_;
+};
+
+/// Work in a hidden pane, which is left empty whatever happens.
+class Scratch {
+ public:
+  explicit Scratch(Pane& pane) : pane_(pane) {}
+  ~Scratch() { pane_.SetContent({}); }
+  Scratch(const Scratch&) = delete;
+  Scratch& operator=(const Scratch&) = delete;
+
+  Pane* operator->() const { return &pane_; }
+  Pane& operator*() const { return pane_; }
+
+ private:
+  Pane& pane_;
+};
+
+}  // namespace tarvik

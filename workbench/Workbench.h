@@ -1,0 +1,54 @@
+// Everything that edits the two files, and what it keeps: one for the program, as long as the program. It has
+// no window. Tools are handed it, and may hold on to it.
+#pragma once
+
+#include "workbench/AutoSave.h"
+#include "workbench/EditCommands.h"
+#include "workbench/LineBlink.h"
+
+namespace tarvik {
+
+class Workbench {
+ public:
+  explicit Workbench(Platform& services);
+  Workbench(const Workbench&) = delete;
+  Workbench& operator=(const Workbench&) = delete;
+
+  Platform& platform;
+  Errors errors;
+  Values values;
+  ProfileFile profile;
+  Settings settings;
+  PreviousFiles lists;
+
+  Documents documents;
+  ColouredCopies copies{documents};
+  Highlighter highlighter{documents, copies};
+  ColouredInsertion insertion{documents};
+  MacroLists macros{documents};
+  LineBlink blink{documents};
+  EditCommands edit{documents, insertion};
+  FileCommands files{documents, copies, highlighter, macros, lists};
+  AutoSave autoSave{documents, files};
+
+  /// The editor was closed: what was open is forgotten, and no timer runs.
+  void Reset();
+  /// A new file in place of the document, unless the user keeps that one.
+  void NewFile(Document& document);
+  /// Empties the history of both documents.
+  void ForgetUndos();
+  /// Has a font that the user has chosen meanwhile taken into use.
+  void TakeChosenFont();
+
+  /// Another program changed what is on the clipboard.
+  Signal<> ClipboardChanged;
+  // The user has changed settings that something on show follows.
+  Signal<> ToolbarSettingsChanged;
+  Signal<> AutoSaveSettingsChanged;
+  Signal<> HardwareSettingsChanged;
+  Signal<> FontSettingsChanged;
+  /// A tool has put a line of keys together, for whoever makes macros of such lines.
+  Signal<const std::string&> KeysOffered;
+};
+
+}  // namespace tarvik
