@@ -1,23 +1,12 @@
 #include "screen/LockKeys.h"
 
-#include <QGuiApplication>
+#include "screen/X11.h"
 
 #ifdef TARVIK_X11
 #include <X11/XKBlib.h>
 #endif
 
 namespace tarvik::screen {
-namespace {
-
-#ifdef TARVIK_X11
-/// Null under another window system.
-Display* X11() {
-  const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
-  return x11 ? x11->display() : nullptr;
-}
-#endif
-
-}  // namespace
 
 std::optional<LockKeys> ReadLockKeys() {
 #ifdef TARVIK_X11

@@ -95,15 +95,12 @@ void ToolWindow::ShowMinimised(bool minimised) {
   if (minimised != isMinimized()) setWindowState(windowState() ^ Qt::WindowMinimized);
 }
 
-/// A modal window stays in front of the one that asked, whatever is clicked, unless that one is out of sight
-/// and would take it along. Any other is minimised by itself, and the frame may cover it unless it is
-/// topmost.
+/// One that is modal belongs to a modal one that asked for it, if any. Any other is minimised by itself, and
+/// the frame may cover it unless it is topmost.
 void ToolWindow::ChooseOwner() {
   create();
-  const QWidget* const asking = QApplication::activeWindow();
-  const QWidget* const owner = asking && asking != this ? asking : &frame_;
-  const bool inSight = owner->isVisible() && !owner->isMinimized();
-  windowHandle()->setTransientParent(form().Modal && inSight ? owner->windowHandle() : nullptr);
+  const QWidget* const asking = form().Modal ? QApplication::activeModalWidget() : nullptr;
+  windowHandle()->setTransientParent(asking && asking != this ? asking->windowHandle() : nullptr);
 }
 
 /// At the frame's right, where it covers little of the text.

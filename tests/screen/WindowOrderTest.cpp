@@ -113,6 +113,45 @@ TEST_F(WindowOrderTest, MinimisedHelpComesBack) {
   EXPECT_FALSE(window.isMinimized());
 }
 
+/// Then the window manager keeps it in front of every window of the program, whichever is clicked.
+TEST_F(WindowOrderTest, ABoxBelongsToTheWholeProgram) {
+  const QWindow* owner = WindowOf(application.mum()).windowHandle();
+  QTimer::singleShot(0, [&owner] {
+    auto* const box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    owner = box->windowHandle()->transientParent();
+    box->reject();
+  });
+  dialogs.Show({"a", "b"});
+  EXPECT_FALSE(owner);
+}
+
+TEST_F(WindowOrderTest, ABoxBelongsToTheModalWindowThatAsked) {
+  auto& pictures = application.Tool<SelectPictureForm>();
+  pictures.Modal = true;
+  pictures.Visible = true;
+  const QWidget& asking = WindowOf(pictures);
+  EXPECT_FALSE(asking.windowHandle()->transientParent());
+  QMessageBox box(&WindowOf(pictures));
+  box.setModal(true);
+  box.show();
+  EXPECT_EQ(box.windowHandle()->transientParent(), asking.windowHandle());
+}
+
+TEST_F(WindowOrderTest, WhatAToolHasCoveredIsRaised) {
+  QWidget& frame = WindowOf(application.mum());
+  QWidget& pimlet = WindowOf(application.Tool<RAWform>());
+  QWidget& read = ShowHelp();
+  QMessageBox box;
+  box.setModal(true);
+  using Windows = QList<QWidget*>;
+  EXPECT_EQ(WronglyCovered({&frame, &pimlet, &read, &box}), Windows());
+  EXPECT_EQ(WronglyCovered({&frame, &read, &pimlet, &box}), Windows({&read}));
+  EXPECT_EQ(WronglyCovered({&frame, &pimlet, &box, &read}), Windows({&box}));
+  EXPECT_EQ(WronglyCovered({&pimlet, &box, &read, &frame}), Windows({&box}));
+  EXPECT_EQ(WronglyCovered({&pimlet, &read, &frame, &box}), Windows());
+  EXPECT_EQ(WronglyCovered({&box, &read, &pimlet}), Windows({&read, &box}));
+}
+
 TEST_F(WindowOrderTest, WithoutSuchAToolNothingIsOnTop) {
   ShowPimlet(false);
   EXPECT_FALSE(ComesUpOnTop<QMessageBox>([&] { dialogs.Show({"a", "b"}); }));
