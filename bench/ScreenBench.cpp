@@ -78,7 +78,7 @@ int main(int count, char** arguments) {
   MemoryFiles files;
   files.PutFolder("c:\\tarvik");
   files.Put("c:\\my\\large.b50", JoystickFile(1'000'000));
-  files.Put("c:\\tarvik\\Tarvik.ini", "[FileLocations]\r\nShowTips=0\r\n");
+  files.Put("c:\\tarvik\\Tarvik.ini", "[FileLocations]\r\nShowTips=0\r\nFirstTimeUsed=0\r\n");
   session::ScriptedPlatform outside;
   Platform platform = outside.Process(files, "c:\\my\\large.b50");
   Application application(platform);
