@@ -66,7 +66,7 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   if (clock == Clock::Real) KeepPanels();
   settling_.setSingleShot(true);
   settling_.setInterval(clock == Clock::Real ? kSettlingTime : 0);
-  connect(&settling_, &QTimer::timeout, this, [this] { TakePlace(); });
+  connect(&settling_, &QTimer::timeout, this, [this] { Settle(); });
   BindWindow();
 }
 
@@ -80,10 +80,7 @@ void MumWindow::BindWindow() {
   BindTitle(mum_, *this, bindings_);
   bindings_.Bind(mum_.MousePointer, [this] { ShowPointer(); });
   bindings_.Bind(
-      mum_.WindowState,
-      [this] {
-        if (isVisible() && mum_.WindowState != StateOnScreen()) ShowWindow();
-      },
+      mum_.WindowState, [this] { TakeState(); },
       [this] { return isVisible() ? TextOf(StateOnScreen()) : mum_.WindowState.ToText(); });
   bindings_.Bind(
       mum_.Visible,
@@ -183,6 +180,19 @@ void MumWindow::ShowWindow() {
   }
 }
 
+/// The window manager would hear nothing of a change back to what it still shows: that waits until it has
+/// made the change before.
+void MumWindow::TakeState() {
+  const bool differs = isVisible() && mum_.WindowState != StateOnScreen();
+  stateWaits_ = differs && settling_.isActive();
+  if (differs && !stateWaits_) ShowWindow();
+}
+
+void MumWindow::Settle() {
+  TakeState();
+  TakePlace();
+}
+
 /// The stored size is that of the whole frame, whose edges are known only once the window stands. A window
 /// that fills the screen gets it when it does so no more. What it has until then is not worth keeping.
 bool MumWindow::FitFrame() {
@@ -216,7 +226,7 @@ void MumWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::ActivationChange) TakePlace();
   if (event->type() != QEvent::WindowStateChange) return;
-  mum_.WindowState = StateOnScreen();
+  if (!stateWaits_) mum_.WindowState = StateOnScreen();
   settling_.start();
 }
 

@@ -36,6 +36,8 @@ class MumWindow : public QMainWindow, public FormView {
  private:
   void BindWindow();
   void ShowWindow();
+  void TakeState();
+  void Settle();
   void PlaceWindow();
   void TakePlace();
   bool FitFrame();
@@ -50,7 +52,8 @@ class MumWindow : public QMainWindow, public FormView {
   QMdiSubWindow* child_ = nullptr;
   QToolButton* closeChild_;
   std::vector<std::unique_ptr<QMenu>> menus_;
-  QTimer settling_;
+  QTimer settling_;             // runs while the window manager changes the window's state
+  bool stateWaits_ = false;     // the form's state, which was set meanwhile
   std::optional<QRect> toFit_;  // where the whole frame belongs, until it stands there
   bool waiting_ = false;
 };

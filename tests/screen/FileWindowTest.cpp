@@ -185,6 +185,28 @@ TEST_F(FileWindow, TheFrameHasTheStoredPlaceOnceItFillsTheScreenNoMore) {
   EXPECT_EQ(ToPixels(application.mum().Width, kTwips), stored.boundedTo(screen).width());
 }
 
+/// The window manager makes the first change when the second one has been asked for already.
+TEST_F(FileWindow, AFrameThatIsMinimisedForAMomentComesBack) {
+  for (const int state : {0, 2}) {
+    application.mum().WindowState = state;
+    for (int turn = 0; turn < 3; ++turn) QApplication::processEvents();
+    application.mum().WindowState = 1;
+    application.mum().WindowState = state;
+    Frame().setWindowState(Frame().windowState() | Qt::WindowMinimized);
+    QApplication::processEvents();
+    EXPECT_FALSE(Frame().isMinimized());
+    EXPECT_EQ(Frame().isMaximized(), state == 2);
+    EXPECT_EQ(application.mum().WindowState, state);
+  }
+}
+
+TEST_F(FileWindow, AFrameThatTheUserMinimisesStaysSo) {
+  Frame().showMinimized();
+  QApplication::processEvents();
+  EXPECT_TRUE(Frame().isMinimized());
+  EXPECT_EQ(application.mum().WindowState, 1);
+}
+
 TEST_F(FileWindow, AButtonDoesNotStayLitBehindAWindow) {
   auto& button = *dynamic_cast<QToolButton*>(screen.Find(application.mum().Toolbar1.Buttons(1)));
   const auto hover = [&button] {
