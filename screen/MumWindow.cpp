@@ -78,6 +78,7 @@ void MumWindow::BindWindow() {
   bindings_.Shows(mum_, *this);
   PlaceWindow();
   BindTitle(mum_, *this, bindings_);
+  bindings_.Bind(mum_.Unsaved, [this] { MarkChild(); });
   bindings_.Bind(mum_.MousePointer, [this] { ShowPointer(); });
   bindings_.Bind(
       mum_.WindowState, [this] { TakeState(); },
@@ -119,8 +120,14 @@ void MumWindow::ShowChild(QWidget& view, const std::vector<std::unique_ptr<QMenu
   menuBar()->setCornerWidget(closeChild_);
   closeChild_->show();
   child_ = area_->addSubWindow(&view, Qt::FramelessWindowHint);
-  child_->setWindowTitle(view.objectName());  // for those who have the screen read out
+  child_->setWindowTitle(view.objectName() + QLatin1String("[*]"));  // for those who have the screen read out
+  MarkChild();
   child_->showMaximized();
+}
+
+/// A child that fills the area passes its mark for unsaved work on to the frame whenever that is shown.
+void MumWindow::MarkChild() {
+  if (child_) child_->setWindowModified(mum_.Unsaved);
 }
 
 void MumWindow::RemoveChild() {

@@ -35,6 +35,7 @@ class MumWindow : public QMainWindow, public FormView {
 
  private:
   void BindWindow();
+  void MarkChild();
   void ShowWindow();
   void TakeState();
   void Settle();

@@ -10,6 +10,7 @@
 #include <QTabBar>
 #include <QToolButton>
 #include <QUrl>
+#include <QWindow>
 
 #include "app/Editor.h"
 #include "screen/MumWindow.h"
@@ -155,6 +156,16 @@ TEST_F(FileWindow, TheTitleNamesTheFileOnShowAndMarksUnsavedWork) {
   application.CloseEditor();
   EXPECT_EQ(title(), "Tarvik[*]");
   EXPECT_FALSE(Frame().isWindowModified());
+}
+
+TEST_F(FileWindow, TheTitleOfAFrameThatWasHiddenMarksUnsavedWork) {
+  const auto title = [this] { return Frame().windowHandle()->title().toStdString(); };
+  for (const bool unsaved : {true, false}) {
+    application.mum().Visible = false;
+    application.mum().Unsaved = unsaved;
+    application.mum().Visible = true;
+    EXPECT_EQ(title(), unsaved ? "untitled.b50* - Tarvik" : "untitled.b50 - Tarvik");
+  }
 }
 
 TEST_F(FileWindow, TheTemplateEditorNamesItsFileAndMarksUnsavedWork) {
