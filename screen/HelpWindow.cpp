@@ -12,6 +12,7 @@
 #include "screen/Icons.h"
 #include "screen/ListStack.h"
 #include "screen/Text.h"
+#include "screen/WindowRoom.h"
 #include "workbench/HelpTopics.h"
 
 namespace tarvik::screen {
@@ -88,7 +89,7 @@ HelpWindow::HelpWindow()
       topics_(new QListWidget),
       text_(new QTextBrowser) {
   setWindowTitle(tr("Tarvik help"));
-  resize(kSize);
+  resize(kSize.boundedTo(RoomOnScreen(*this)));
   auto* const tools = new QToolBar;
   back_ = AddAction("go-previous", tr("Back"), QKeySequence::Back, &HelpWindow::GoBack);
   forward_ = AddAction("go-next", tr("Forward"), QKeySequence::Forward, &HelpWindow::GoForward);

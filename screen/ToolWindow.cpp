@@ -3,14 +3,19 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
 #include <QStackedWidget>
+#include <QStyle>
 #include <QTabWidget>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
 
 #include "screen/Text.h"
 #include "screen/WindowFocus.h"
+#include "screen/WindowRoom.h"
 #include "screen/WindowTitle.h"
 
 namespace tarvik::screen {
@@ -31,13 +36,28 @@ bool Grows(const QWidget& window) {
   });
 }
 
+/// Moves all that lies in the window to where it can be scrolled, in as much of the room as it has a use for.
+void ScrollPage(QWidget& window, const QSize& room) {
+  auto* const page = new QWidget;
+  page->setLayout(window.layout());
+  auto* const area = new QScrollArea;
+  area->setWidget(page);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  const int bar = area->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  area->setMinimumSize((page->sizeHint() + QSize(bar, bar)).boundedTo(room));
+  auto* const all = new QVBoxLayout(&window);
+  all->setContentsMargins({});
+  all->addWidget(area);
+}
+
 }  // namespace
 
 ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame,
                        Clock clock)
     : QDialog(&frame), FormView(form), application_(application), frame_(frame) {
-  setLayout(makePage(FormLayout(bindings_)));
-  if (!Grows(*this)) layout()->setSizeConstraint(QLayout::SetFixedSize);
+  LayOut(makePage(FormLayout(bindings_)));
   if (const Menus* const menus = form.MenuBar()) MakeMenuBar(*menus);
   if (!form.OwnsKeys) GiveMnemonics(*this);
   for (QWidget* const child : findChildren<QWidget*>()) child->installEventFilter(this);
@@ -59,6 +79,19 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   }));
   bindings_.Bind(
       form.Visible, [this] { ShowWindow(); }, [this] { return TextOf(isVisible()); });
+}
+
+/// A page that is larger than the screen is scrolled.
+void ToolWindow::LayOut(QLayout* page) {
+  setLayout(page);
+  const bool grows = Grows(*this);
+  const QSize needed = grows ? page->totalMinimumSize() : page->totalSizeHint();
+  const QSize room = RoomOnScreen(frame_);
+  if (needed.boundedTo(room) != needed) {
+    ScrollPage(*this, room);
+  } else if (!grows) {
+    page->setSizeConstraint(QLayout::SetFixedSize);
+  }
 }
 
 void ToolWindow::MakeMenuBar(const Menus& menus) {
@@ -103,11 +136,14 @@ void ToolWindow::ChooseOwner() {
   windowHandle()->setTransientParent(asking && asking != this ? asking->windowHandle() : nullptr);
 }
 
-/// At the frame's right, where it covers little of the text.
+/// At the frame's right, where it covers little of the text, but all of it on the screen.
 QPoint ToolWindow::PlaceBeside() {
   adjustSize();
   const QRect frame = frame_.geometry();
-  return {std::max(frame.left(), frame.right() - width() - kFromTheRight), frame.top() + kFromTheTop};
+  const QRect screen = frame_.screen()->availableGeometry();
+  const int lowest = screen.top() + std::max(0, RoomOnScreen(frame_).height() - height());
+  return {std::max(frame.left(), frame.right() - width() - kFromTheRight),
+          std::min(frame.top() + kFromTheTop, lowest)};
 }
 
 /// Of a frame that fills the screen, or is about to: at the start it has not grown yet.

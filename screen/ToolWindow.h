@@ -39,6 +39,7 @@ class ToolWindow : public QDialog, public FormView, public CanBeOnTop {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void LayOut(QLayout* page);
   void MakeMenuBar(const Menus& menus);
   void ShowWindow();
   void ShowMinimised(bool minimised);

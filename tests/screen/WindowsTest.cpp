@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTextBlock>
@@ -347,6 +348,14 @@ QWidget* WindowOf(const Screen& screen, const Form& form) {
 }
 
 /// Such a window can't be made as large as the screen either.
+/// What is larger is scrolled.
+TEST_F(Windows, AreNoLargerThanTheScreen) {
+  for (const QWidget* const window : Shown()) {
+    const QSize room = window->screen()->availableGeometry().size();
+    EXPECT_EQ(window->size().boundedTo(room), window->size()) << window->objectName().toStdString();
+  }
+}
+
 TEST_F(Windows, HaveOneSizeWhereNothingMakesUseOfMoreRoom) {
   const auto isFixed = [this](const Form& form) {
     const QWidget* const window = WindowOf(screen, form);
