@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QShortcut>
 #include <QTextBlock>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -126,6 +127,9 @@ HelpWindow::HelpWindow()
   rows->addLayout(columns);
   EnableWays();
   connect(words_, &QLineEdit::textChanged, this, [this] { Search(); });
+  connect(words_, &QLineEdit::returnPressed, this, [this] { GoToTopics(); });
+  connect(new QShortcut(Qt::Key_Down, words_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+          this, [this] { GoToTopics(); });
   connect(topics_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
     if (item && (item->flags() & Qt::ItemIsSelectable)) Visit(TopicOf(*item));
   });
@@ -153,14 +157,18 @@ void HelpWindow::Open(HelpFile file, const FileLook& look) {
   ListTopics();
 }
 
-/// The page stays as long as the words are on it, when there are none, and when no topic has them.
+/// The page stays until a topic is chosen.
 void HelpWindow::Search() {
-  const bool found = ListTopics();
-  none_->setVisible(!found);
+  none_->setVisible(!ListTopics());
   MarkHits();
-  if (!found || topics_->currentItem()) return;
-  for (int row = 0; row < topics_->count(); ++row) {
-    if (topics_->item(row)->flags() & Qt::ItemIsSelectable) return Show(TopicOf(*topics_->item(row)));
+}
+
+/// From the field of the search: to the topic that is read, else to the first one.
+void HelpWindow::GoToTopics() {
+  topics_->setFocus();
+  for (int row = 0; row < topics_->count() && !topics_->currentItem(); ++row) {
+    QListWidgetItem& item = *topics_->item(row);
+    if (item.flags() & Qt::ItemIsSelectable) topics_->setCurrentItem(&item);
   }
 }
 
@@ -230,7 +238,7 @@ void HelpWindow::EnableWays() {
   forward_->setEnabled(at_ + 1 < read_.size());
 }
 
-/// What was ahead is forgotten, as in every browser. What a search has shown is on the way too.
+/// What was ahead is forgotten, as in every browser.
 void HelpWindow::Visit(std::size_t topic) {
   if (shown_ == topic && !read_.empty() && read_[at_] == topic) return;
   read_.resize(std::min(read_.size(), at_ + 1));

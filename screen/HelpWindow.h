@@ -37,6 +37,7 @@ class HelpWindow : public QDialog {
   QAction* AddAction(const char* icon, const QString& text, const QKeySequence& key,
                      void (HelpWindow::*run)());
   void Search();
+  void GoToTopics();
   /// True when a topic has the words.
   bool ListTopics();
   void MarkHits();

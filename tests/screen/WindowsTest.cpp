@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QStackedWidget>
 #include <QTabBar>
+#include <QTest>
 #include <QTextBlock>
 #include <QWindow>
 #include <map>
@@ -141,6 +142,7 @@ TEST_F(Windows, ShowAHelpTopicAsItIsMeant) {
   EXPECT_EQ(text->toPlainText(), QStringLiteral("Second\nBack"));
   help.findChild<QLineEdit*>()->setText(QStringLiteral("fir"));
   EXPECT_EQ(help.findChild<QListWidget*>()->count(), 1);
+  help.findChild<QListWidget*>()->setCurrentRow(0);
   EXPECT_EQ(text->toPlainText(), QStringLiteral("First\nSome words of text."));
   help.ShowContext(12);
   EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("12")));
@@ -205,6 +207,11 @@ TEST_F(HelpWindowTest, GoesBackAndForwardOnTheWayThatWasRead) {
 TEST_F(HelpWindowTest, SearchesTheTextsToo) {
   words->setText(QStringLiteral("SILV"));
   EXPECT_EQ(topics->count(), 1);
+  EXPECT_EQ(Title(), QStringLiteral("One")) << "it changes when a topic is chosen";
+  words->setFocus();
+  QApplication::processEvents();
+  QTest::keyClick(words, Qt::Key_Down);
+  EXPECT_EQ(help.focusWidget(), topics);
   EXPECT_EQ(Title(), QStringLiteral("Two"));
   words->setText(QStringLiteral("silvery"));
   EXPECT_EQ(topics->count(), 0);
@@ -214,7 +221,7 @@ TEST_F(HelpWindowTest, SearchesTheTextsToo) {
   EXPECT_EQ(topics->currentRow(), 2);
   help.ShowContext(3);
   Action("Back")->trigger();
-  EXPECT_EQ(Title(), QStringLiteral("Two")) << "what the search found was on the way";
+  EXPECT_EQ(Title(), QStringLiteral("Two")) << "what was chosen from the search was on the way";
 }
 
 TEST_F(HelpWindowTest, SaysThatNothingWasFoundAndKeepsThePage) {
@@ -231,6 +238,7 @@ TEST_F(HelpWindowTest, SaysThatNothingWasFoundAndKeepsThePage) {
 
 TEST_F(HelpWindowTest, MarksWhatWasSearchedFor) {
   words->setText(QStringLiteral("gun btn"));
+  QTest::keyClick(words, Qt::Key_Return);
   ASSERT_EQ(Title(), QStringLiteral("Three"));
   QStringList marked;
   for (const auto& mark : text->extraSelections()) marked += mark.cursor.selectedText();
