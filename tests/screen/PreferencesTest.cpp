@@ -146,7 +146,7 @@ std::string ScriptFor(const SettingRow& row, const std::string& closing) {
       "start\nclick Editor.mnuPreferencesEdit\npick Preferences.SSTab1 " + Word(row.page) + "\n";
   const std::string stored = Word(row.stored);
   const std::string value = row.value ? row.value : row.key;
-  return "ini FileLocations FirstTimeUsed 0\nini FileLocations ProgramFilesPath c:\\own\\\n"
+  return "ini FileLocations ProgramFilesPath c:\\own\\\n"
          "ini Favourites FavArrayNum 1\nini Favourites FavName1 Own\nini Favourites FavJFPath1 c:\\a.b50\n"
          "ini Games GameArrayNum 1\nini Games GameName1 Own\nini Games GamePath1 c:\\g.exe\n" +
          show + row.does + "\n" + closing + "\nexpect no form Preferences\nexpect ini " + row.section + " " +

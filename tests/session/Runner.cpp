@@ -64,23 +64,43 @@ Runner::~Runner() {
 
 std::vector<std::string> Runner::Run(std::string_view script) {
   lines_ = ParseScript(script);
+  if (lines_.empty()) return {"1: the session is empty"};
   if (!ReadsWell()) return failures_;
   outside_.dialogs.next = [this] { return Next(); };
   while (Next()) {
     if (application_ && application_->Ended()) Killed(*line_);
   }
+  TellWhatIsLeft();
+  return failures_;
+}
+
+/// Tells what the session did not expect, by its last line, and what it prepared and nothing took, by the
+/// line that prepared it.
+void Runner::TellWhatIsLeft() {
   if (application_) {
     for (const Form* form : application_->Forms()) {
       if (form->Modal && form->Visible) Fail("the session ends in a modal form");
     }
   }
-  for (const MessageBox& box : outside_.dialogs.boxes)
+  const ScriptedDialogs& dialogs = outside_.dialogs;
+  const ScriptedPrograms& programs = outside_.programs;
+  for (const MessageBox& box : dialogs.boxes)
     Fail("an unexpected box: \"" + box.title + "\" \"" + box.text + "\"");
-  for (const ProgramStart& run : outside_.programs.started) Fail("an unexpected program: " + run.commandLine);
-  if (outside_.programs.alive) Fail("a program that is waited for outlives the session");
-  if (!outside_.dialogs.answers.empty()) Fail("an answer that no box took");
-  if (!outside_.dialogs.choices.empty()) Fail("a choice that no dialog took");
-  return failures_;
+  for (const ProgramStart& run : programs.started) Fail("an unexpected program: " + run.commandLine);
+  for (const std::string& path : outside_.desktop.opened) Fail("unexpectedly opened: " + path);
+  if (programs.alive) Fail("a program that is waited for outlives the session");
+  const auto failLast = [this](const Prepared& prepared, std::size_t count, const std::string& what) {
+    for (std::size_t i = prepared.size() - std::min(count, prepared.size()); i < prepared.size(); ++i) {
+      line_ = prepared[i];
+      Fail(what);
+    }
+  };
+  failLast(answered_, dialogs.answers.size(), "an answer that no box took");
+  failLast(chosen_, dialogs.choices.size(), "a choice that no dialog took");
+  failLast(heldBoxes_, dialogs.holdBox ? 1 : 0, "no box came");
+  failLast(heldDialogs_, dialogs.holdDialog ? 1 : 0, "no dialog came");
+  const bool isSet = programs.fails != 0 || programs.state != ProgramState::Ended;
+  failLast(programs_, isSet && !programs.alive ? 1 : 0, "no such program was started");
 }
 
 /// Walks one line, and the lines that follow while a modal form or a box is open.
@@ -123,11 +143,11 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"program fails NUMBER", &Runner::SetProgram},
       {"sysinfo none", &Runner::SetSystemInformation},
       {"hostfolder TEXT", &Runner::HostFolder},
-      {"tips", &Runner::WantTips},
+      {"without FirstTimeUsed|ShowTips", &Runner::LeaveOut},
       {"start [TEXT]", &Runner::Start},
       {"close FORM", &Runner::Close, Needs::Program},
-      {"killed", &Runner::Killed},
-      {"wait TIME", &Runner::Wait},
+      {"killed", &Runner::Killed, Needs::Start},
+      {"wait TIME", &Runner::Wait, Needs::Start},
       {"click CONTROL", &Runner::Click, Needs::Program},
       {"dblclick CONTROL [TEXT]", &Runner::DoubleClick, Needs::Program},
       {"rightclick CONTROL [TEXT]", &Runner::RightClick, Needs::Program},
@@ -142,41 +162,43 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"mouse down|move|up CONTROL COUNT NUMBER NUMBER [COUNT]", &Runner::Mouse, Needs::Program},
       {"set value TEXT TEXT|:", &Runner::SetValue, Needs::Program},
       {"set PROPERTY TEXT|:", &Runner::Set, Needs::Program},
-      {"call TEXT [TEXT]", &Runner::Call, Needs::Program},
+      {"call Editor.ExtractButtonDefinition TEXT", &Runner::Call, Needs::Program},
+      {"call TEXT", &Runner::Call, Needs::Program},
       {"choose TEXT", &Runner::Choose},
       {"answer OK|Yes|No|Cancel|later", &Runner::AnswerBox},
       {"clipboard empty", &Runner::FillClipboard},
       {"clipboard text|rtf TEXT|:", &Runner::FillClipboard},
       {"expect value TEXT TEXT|:", &Runner::ExpectValue, Needs::Program},
-      {"expect box TEXT [none|information|question|exclamation] [No] :", &Runner::ExpectBox},
-      {"expect box TEXT [TEXT] [none|information|question|exclamation] [No]", &Runner::ExpectBox},
-      {"expect dialog title|filter|folder|fileName TEXT", &Runner::ExpectDialog},
-      {"expect file TEXT [empty]", &Runner::ExpectFile},
-      {"expect file TEXT [open] :", &Runner::ExpectFile},
-      {"expect bytes TEXT HEX...", &Runner::ExpectBytes},
-      {"expect same TEXT TEXT", &Runner::ExpectSame},
-      {"expect no file TEXT", &Runner::ExpectNoFile},
+      {"expect box TEXT [none|information|question|exclamation] [No] :", &Runner::ExpectBox, Needs::Start},
+      {"expect box TEXT [TEXT] [none|information|question|exclamation] [No]", &Runner::ExpectBox,
+       Needs::Start},
+      {"expect dialog title|filter|folder|fileName TEXT", &Runner::ExpectDialog, Needs::Start},
+      {"expect file TEXT [empty]", &Runner::ExpectFile, Needs::Start},
+      {"expect file TEXT [open] :", &Runner::ExpectFile, Needs::Start},
+      {"expect bytes TEXT HEX...", &Runner::ExpectBytes, Needs::Start},
+      {"expect same TEXT TEXT", &Runner::ExpectSame, Needs::Start},
+      {"expect no file TEXT", &Runner::ExpectNoFile, Needs::Start},
       {"expect no form FORM", &Runner::ExpectNoForm, Needs::Program},
       {"expect no list NAME", &Runner::ExpectNoList, Needs::Program},
-      {"expect no box", &Runner::ExpectNoBox},
-      {"expect no dialog", &Runner::ExpectNoDialog},
-      {"expect no printing", &Runner::ExpectNoPrinting},
-      {"expect folder TEXT", &Runner::ExpectFolder},
-      {"expect ini TEXT TEXT TEXT", &Runner::ExpectIni},
+      {"expect no box", &Runner::ExpectNoBox, Needs::Start},
+      {"expect no dialog", &Runner::ExpectNoDialog, Needs::Start},
+      {"expect no printing", &Runner::ExpectNoPrinting, Needs::Start},
+      {"expect folder TEXT", &Runner::ExpectFolder, Needs::Start},
+      {"expect ini TEXT TEXT TEXT", &Runner::ExpectIni, Needs::Start},
       {"expect colour CONTROL COUNT COUNT COUNT", &Runner::ExpectColour, Needs::Program},
       {"expect colours CONTROL :", &Runner::ExpectColours, Needs::Program},
-      {"expect ended", &Runner::ExpectEnded},
-      {"expect running", &Runner::ExpectRunning},
-      {"expect printed :", &Runner::ExpectPrinted},
-      {"expect clipboard TEXT|:", &Runner::ExpectClipboard},
-      {"expect help TEXT", &Runner::ExpectHelp},
-      {"expect opened TEXT", &Runner::ExpectOpened},
-      {"expect popup TEXT", &Runner::ExpectPopUp},
+      {"expect ended", &Runner::ExpectEnded, Needs::Start},
+      {"expect running", &Runner::ExpectRunning, Needs::Start},
+      {"expect printed :", &Runner::ExpectPrinted, Needs::Start},
+      {"expect clipboard TEXT|:", &Runner::ExpectClipboard, Needs::Start},
+      {"expect help TEXT", &Runner::ExpectHelp, Needs::Start},
+      {"expect opened TEXT", &Runner::ExpectOpened, Needs::Start},
+      {"expect popup TEXT", &Runner::ExpectPopUp, Needs::Start},
       {"expect focus CONTROL", &Runner::ExpectFocus, Needs::Program},
       {"expect form FORM", &Runner::ExpectForm, Needs::Program},
       {"expect point CONTROL NUMBER NUMBER COUNT", &Runner::ExpectPoint, Needs::Program},
-      {"expect lock caps|num NUMBER", &Runner::ExpectLock},
-      {"expect run TEXT [TEXT] [waited|normal|maximised]", &Runner::ExpectRun},
+      {"expect lock caps|num NUMBER", &Runner::ExpectLock, Needs::Start},
+      {"expect run TEXT [TEXT] [waited|normal|maximised]", &Runner::ExpectRun, Needs::Start},
       {"expect PROPERTY TEXT|:", &Runner::ExpectProperty, Needs::Program},
   };
   return sentences;
@@ -205,6 +227,10 @@ bool Runner::ReadsWell() {
 
 void Runner::Step(const Line& line) {
   const Sentence& sentence = *SentenceOf(line);
+  if (!platform_ && sentence.needs != Needs::Nothing) {
+    --nextLine_;  // it comes next, which may be inside a modal form that the start shows
+    return StartProgram("");
+  }
   if (!application_ && sentence.needs == Needs::Program) throw Stop{"no program runs"};
   if (IsBlocked(line, sentence)) throw Stop{"a modal form is in front"};
   (this->*sentence.command)(line);
@@ -312,6 +338,9 @@ void Runner::Ini(const Line& line) {
     throw Stop{"the settings file can't be written"};
 }
 
+/// without FirstTimeUsed|ShowTips: the settings file says nothing of it.
+void Runner::LeaveOut(const Line& line) { defaults_.erase(Word(line, 1)); }
+
 void Runner::DiskRoom(const Line& line) {
   if (Word(line, 1) == "enough") return files_.StopFailing();
   files_.FailAfter(static_cast<std::size_t>(std::stoul(Word(line, 1))));
@@ -376,6 +405,7 @@ void Runner::SetProgram(const Line& line) {
   const std::map<std::string, ProgramState> states = {
       {"runs", ProgramState::Running}, {"ends", ProgramState::Ended}, {"abandoned", ProgramState::Abandoned}};
   ScriptedPrograms& programs = outside_.programs;
+  programs_.push_back(&line);
   const auto state = states.find(Word(line, 1));
   if (state != states.end()) {
     programs.state = state->second;
@@ -402,9 +432,16 @@ void Runner::Start(const Line& line) {
     Application(second).Start();
     return;
   }
+  StartProgram(commandLine);
+}
+
+/// The settings file says what the runner has for it, unless it says something of its own.
+void Runner::StartProgram(const std::string& commandLine) {
   ProfileFile profile(files_, std::string(kFolder) + "\\tarvik.ini");
-  const bool saysNothing = profile.GetString("FileLocations", "ShowTips", "", 2).empty();
-  if (saysNothing && !tips_) Ignore(profile.Write("FileLocations", "ShowTips", "0"));
+  for (const auto& [key, value] : defaults_) {
+    if (profile.GetString("FileLocations", key, "", 2).empty())
+      Ignore(profile.Write("FileLocations", key, value));
+  }
   platform_ = std::make_unique<Platform>(outside_.Process(files_, commandLine));
   application_ = std::make_unique<Application>(*platform_);
   driver_ = makeDriver_(*application_);
@@ -566,19 +603,21 @@ void Runner::Call(const Line& line) {
 
 /// choose PATH | cancel | later: the next file dialog stays open until a choice comes.
 void Runner::Choose(const Line& line) {
-  if (Word(line, 1) == "later") {
-    outside_.dialogs.holdDialog = true;
-  } else {
-    outside_.dialogs.choices.push_back(line.words[1]);
-  }
+  if (Word(line, 1) == "later") return Hold(outside_.dialogs.holdDialog, heldDialogs_, line);
+  chosen_.push_back(&line);
+  outside_.dialogs.choices.push_back(line.words[1]);
+}
+
+void Runner::Hold(bool& hold, Prepared& held, const Line& line) {
+  if (hold) throw Stop{"what was held before has not come yet"};
+  hold = true;
+  held.push_back(&line);
 }
 
 /// answer OK | Yes | No | Cancel | later: the next box stays open until an answer comes.
 void Runner::AnswerBox(const Line& line) {
-  if (Word(line, 1) == "later") {
-    outside_.dialogs.holdBox = true;
-    return;
-  }
+  if (Word(line, 1) == "later") return Hold(outside_.dialogs.holdBox, heldBoxes_, line);
+  answered_.push_back(&line);
   const std::map<std::string, Answer> answers = {
       {"OK", Answer::Ok}, {"Yes", Answer::Yes}, {"No", Answer::No}, {"Cancel", Answer::Cancel}};
   outside_.dialogs.answers.push_back(answers.at(Word(line, 1)));

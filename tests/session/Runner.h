@@ -26,7 +26,9 @@ class Runner {
 
  private:
   using Command = void (Runner::*)(const Line&);
-  enum class Needs { Nothing, Program };
+  /// A line that needs a start makes one where there was none; one that needs the program wants it to run
+  /// still.
+  enum class Needs { Nothing, Start, Program };
   struct Sentence {
     const char* shape;
     Command command;
@@ -35,8 +37,11 @@ class Runner {
   static const std::vector<Sentence>& Sentences();
   static const Sentence* SentenceOf(const Line& line);
 
+  using Prepared = std::vector<const Line*>;
+
   bool ReadsWell();
   bool Next();
+  void TellWhatIsLeft();
   void Step(const Line& line);
   [[nodiscard]] bool IsBlocked(const Line& line, const Sentence& sentence) const;
   void Fail(const std::string& what);
@@ -60,9 +65,10 @@ class Runner {
   void SetProgram(const Line& line);
   void SetSystemInformation(const Line& line);
   void HostFolder(const Line& line);
-  void WantTips(const Line& /*line*/) { tips_ = true; }
+  void LeaveOut(const Line& line);
   // The process.
   void Start(const Line& line);
+  void StartProgram(const std::string& commandLine);
   void Close(const Line& line);
   void Killed(const Line& line);
   void Wait(const Line& line);
@@ -83,6 +89,7 @@ class Runner {
   void SetValue(const Line& line);
   void Call(const Line& line);
   void Choose(const Line& line);
+  static void Hold(bool& hold, Prepared& held, const Line& line);
   void AnswerBox(const Line& line);
   void FillClipboard(const Line& line);
   // What is seen.
@@ -136,12 +143,19 @@ class Runner {
   Connection formLoaded_;
   std::vector<Connection> poppedUp_;
   std::string popUp_;
-  bool tips_ = false;  // where the settings file says nothing of them
+  /// What [FileLocations] holds at a start where the settings file says nothing of it: an ordinary day.
+  std::map<std::string, std::string> defaults_{{"FirstTimeUsed", "0"}, {"ShowTips", "0"}};
   std::vector<std::string> failures_;
   std::vector<Line> lines_;
   std::size_t nextLine_ = 0;
   int depth_ = 0;  // of lines inside the handlers of lines
   const Line* line_ = nullptr;
+  /// The lines that prepared something for later, in their order.
+  Prepared answered_;
+  Prepared chosen_;
+  Prepared heldBoxes_;
+  Prepared heldDialogs_;
+  Prepared programs_;
 };
 
 }  // namespace tarvik::session
