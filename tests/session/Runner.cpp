@@ -62,10 +62,16 @@ Runner::~Runner() {
   application_.reset();
 }
 
-std::vector<std::string> Runner::Run(std::string_view script) {
+std::vector<std::string> Runner::Check(std::string_view script) {
   lines_ = ParseScript(script);
   if (lines_.empty()) return {"1: the session is empty"};
-  if (!ReadsWell()) return failures_;
+  HoldAgainstShapes();
+  return failures_;
+}
+
+std::vector<std::string> Runner::Run(std::string_view script) {
+  const std::vector<std::string> mistakes = Check(script);
+  if (!mistakes.empty()) return mistakes;
   outside_.dialogs.next = [this] { return Next(); };
   while (Next()) {
     if (application_ && application_->Ended()) Killed(*line_);
@@ -211,7 +217,7 @@ const Runner::Sentence* Runner::SentenceOf(const Line& line) {
 }
 
 /// Holds every line against the shapes, and tells those that fit none.
-bool Runner::ReadsWell() {
+void Runner::HoldAgainstShapes() {
   for (const Line& line : lines_) {
     line_ = &line;
     if (line.isOpen) Fail("a quotation mark has no other");
@@ -222,7 +228,6 @@ bool Runner::ReadsWell() {
     }
     Fail(shapes.empty() ? "no line begins so" : "it reads otherwise:" + shapes);
   }
-  return failures_.empty();
 }
 
 void Runner::Step(const Line& line) {

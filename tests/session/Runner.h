@@ -21,6 +21,8 @@ class Runner {
   Runner(MakeDriver makeDriver, const std::string& dataFolder);
   ~Runner();
 
+  /// What reads wrong, one text a line, before anything of it runs.
+  std::vector<std::string> Check(std::string_view script);
   /// What did not hold, one text a line; empty when the session passed.
   std::vector<std::string> Run(std::string_view script);
 
@@ -39,7 +41,7 @@ class Runner {
 
   using Prepared = std::vector<const Line*>;
 
-  bool ReadsWell();
+  void HoldAgainstShapes();
   bool Next();
   void TellWhatIsLeft();
   void Step(const Line& line);

@@ -1,5 +1,7 @@
-// tarvik_session [--screen] FILE...: runs session scripts against the whole program, on its forms or on real
-// widgets, and prints each line that does not hold.
+// tarvik_session [--screen|--check] FILE...: runs session scripts against the whole program, on its forms or
+// on real widgets, and prints each line that does not hold. With --check it only prints each line that reads
+// wrong.
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 
@@ -9,16 +11,31 @@
 
 namespace {
 
+namespace session = tarvik::session;
+
+using Way = std::vector<std::string> (*)(std::string_view script);
+
+std::vector<std::string> OnForms(std::string_view script) {
+  return session::Runner(session::MakeFormDriver, TARVIK_DATA).Run(script);
+}
+
+std::vector<std::string> OnScreen(std::string_view script) {
+  return session::Runner(session::MakeScreenDriver, TARVIK_DATA).Run(script);
+}
+
+std::vector<std::string> Check(std::string_view script) {
+  return session::Runner(session::MakeFormDriver, TARVIK_DATA).Check(script);
+}
+
 /// True when the session passed.
-bool RunFile(const std::string& path, const tarvik::session::MakeDriver& makeDriver) {
+bool PassesFile(const std::string& path, Way way) {
   std::ifstream in(path, std::ios::binary);
   if (!in) {
     std::cout << path << ": can't be read\n";
     return false;
   }
   const std::string script{std::istreambuf_iterator<char>(in), {}};
-  tarvik::session::Runner runner(makeDriver, TARVIK_DATA);
-  const auto failures = runner.Run(script);
+  const auto failures = way(script);
   for (const std::string& failure : failures) std::cout << path << ":" << failure << "\n";
   return failures.empty();
 }
@@ -29,14 +46,13 @@ int main(int count, char** arguments) {
   if (const auto decoded = tarvik::screen::RunAsDecoder(count, arguments)) return *decoded;
   std::vector<std::string> files(arguments + 1, arguments + count);
   const bool screen = !files.empty() && files.front() == "--screen";
-  if (screen) files.erase(files.begin());
-  const tarvik::session::ScreenSession widgets(screen, count, arguments);
+  const bool check = !files.empty() && files.front() == "--check";
+  if (screen || check) files.erase(files.begin());
+  const session::ScreenSession widgets(screen, count, arguments);
+  const Way way = screen ? OnScreen : check ? Check : OnForms;
 
-  int failed = 0;
-  for (const std::string& file : files) {
-    if (!RunFile(file, screen ? tarvik::session::MakeScreenDriver : tarvik::session::MakeFormDriver))
-      ++failed;
-  }
-  std::cout << files.size() - static_cast<std::size_t>(failed) << " passed, " << failed << " failed\n";
+  const auto failed = std::count_if(files.begin(), files.end(),
+                                    [way](const std::string& file) { return !PassesFile(file, way); });
+  std::cout << static_cast<long>(files.size()) - failed << " passed, " << failed << " failed\n";
   return failed == 0 ? 0 : 1;
 }
