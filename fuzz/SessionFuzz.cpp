@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "app/Editor.h"
+#include "app/Program.h"
 #include "session/Driver.h"
-#include "support/ScriptedPlatform.h"
 #include "support/SoundDocument.h"
+#include "support/UserFiles.h"
 #include "text/CodePage.h"
 
 namespace {
@@ -49,35 +49,25 @@ class FuzzDialogs : public session::ScriptedDialogs {
 class User {
  public:
   explicit User(Bytes& bytes) : bytes_(bytes), dialogs_(bytes) {
-    outside_.drives.files = &files_;
-    outside_.programs.files = &files_;
     // A modal form: what comes next happens inside it.
     dialogs_.next = [this] {
       if (bytes_.Empty()) return false;
       Act();
       return true;
     };
-    files_.Put("c:\\my\\a.b50", "USE MDEF a\r\nBTN S1 Fire /U Gear RAW (1C) Rem c\r\n~ d");
-    files_.Put("c:\\my\\a.m50",
-               "Gear = g\r\nrem ----\r\nrem guns\r\nrem ----\r\nFire = SPC\r\nBomb = b, x = 1");
-    files_.Put("c:\\my\\b.b50", std::string("\0\r\x80 RAW (\n\xFF", 10));
-    files_.Put("c:\\my\\b.m50", "");
-    files_.Put("c:\\tarvik\\rtf\\b.m50", "{\\rtf1 x}");
-    files_.Put("c:\\tarvik\\tarvik.ini",
-               "[FileLocations]\r\nFirstTimeUsed=0\r\nShowTips=0\r\nProgramFilesPath=c:\\my\r\n["
-               "Miscellaneous]\r\nUndoMax=" +
-                   TextOf(bytes_.Below(6)) + "\r\nAutoSaveEnabled=1\r\nAutoSaveTime=1\r\n");
+    PutUserFiles(program_.files());
+    program_.files().Put("c:\\tarvik\\rtf\\b.m50", "{\\rtf1 x}");
+    program_.files().Put("c:\\tarvik\\tarvik.ini",
+                         kUserSettings + ("[Miscellaneous]\r\nUndoMax=" + TextOf(bytes_.Below(6))) +
+                             "\r\nAutoSaveEnabled=1\r\nAutoSaveTime=1\r\n");
     application_.Start();
   }
 
   [[nodiscard]] bool HasEnded() const { return application_.Ended(); }
 
   void Act() {
-    constexpr const char* kChoices[] = {"c:\\my\\a.b50", "c:\\my\\a.m50",   "c:\\my\\b.b50", "c:\\my\\b.m50",
-                                        "c:\\my\\new",   "c:\\none\\a.b50", "c:\\my",        "cancel"};
-    constexpr Answer kAnswers[] = {Answer::Yes, Answer::No, Answer::Cancel};
-    dialogs_.choices = {bytes_.OneOf(kChoices), "cancel"};
-    dialogs_.answers = {bytes_.OneOf(kAnswers), bytes_.OneOf(kAnswers)};
+    dialogs_.choices = {bytes_.Below(8) == 0 ? "cancel" : bytes_.OneOf(kUserPaths), "cancel"};
+    dialogs_.answers = {bytes_.OneOf(kUserAnswers), bytes_.OneOf(kUserAnswers)};
     if (Form* const modal = ModalForm()) {
       UseTool(*modal);
     } else if (!application_.editor().Visible && bytes_.Below(8) == 0) {
@@ -212,25 +202,9 @@ class User {
   }
 
   Bytes& bytes_;
-  MemoryFiles files_;
-  session::ScriptedPlatform outside_;
   FuzzDialogs dialogs_;
-  Platform platform_{files_,
-                     dialogs_,
-                     outside_.instance,
-                     outside_.clipboard,
-                     outside_.help,
-                     outside_.calendar,
-                     outside_.printer,
-                     outside_.desktop,
-                     outside_.joystick,
-                     outside_.keyboard,
-                     outside_.programs,
-                     outside_.drives,
-                     {28800, 21600},
-                     "c:\\tarvik",
-                     ""};
-  Application application_{platform_};
+  UnstartedProgram program_{"", {.dialogs = &dialogs_}};
+  Application& application_ = program_.application;
   std::unique_ptr<session::Driver> driver_ = session::MakeFormDriver(application_);
 };
 

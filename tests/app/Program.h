@@ -2,17 +2,24 @@
 // its boxes.
 #pragma once
 
+#include <string>
+
 #include "app/Editor.h"
 #include "support/ScriptedPlatform.h"
 
 namespace tarvik {
 
-class Program {
+/// Its disk holds its empty folder, and it has not started, so that a test can still put files there, or a
+/// screen in front of it.
+class UnstartedProgram {
  public:
-  explicit Program(Printer* printer = nullptr)
-      : platform_(outside.Process(files_, outside.instance, printer ? *printer : outside.printer)),
-        application(platform_) {
+  explicit UnstartedProgram(std::string commandLine = "", const session::Instead& instead = {})
+      : platform_(outside.Process(files_, std::move(commandLine), instead)), application(platform_) {
     files_.PutFolder("c:\\tarvik");
+  }
+
+  /// On an ordinary day: it is not the first one, and no tip comes.
+  void Start() {
     application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
     application.workbench.settings.Write("FileLocations", "ShowTips", "0");
     application.Start();
@@ -28,6 +35,12 @@ class Program {
   Application application;
   [[nodiscard]] MemoryFiles& files() { return files_; }
   [[nodiscard]] Editor& editor() const { return application.editor(); }
+};
+
+/// It has started.
+class Program : public UnstartedProgram {
+ public:
+  explicit Program(Printer* printer = nullptr) : UnstartedProgram("", {.printer = printer}) { Start(); }
 };
 
 }  // namespace tarvik

@@ -5,15 +5,12 @@
 #include <fstream>
 #include <iterator>
 
+#include "support/UserFiles.h"
+
 namespace tarvik::events {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr const char* kPaths[] = {"c:\\my\\a.b50", "c:\\my\\a.m50", "c:\\my\\b.b50",
-                                  "c:\\my\\b.m50", "c:\\my\\new",   "c:\\none\\a.b50",
-                                  "c:\\my",        "c:\\my\\a.bmp", "c:\\tarvik\\templates\\title.rtf"};
-constexpr Answer kAnswers[] = {Answer::Yes, Answer::No, Answer::Cancel};
 
 /// The menu entries that lead to the tools.
 constexpr const char* kWays[] = {"mnuEditFind",         "mnuEditReplace",     "mnuEditGoto",
@@ -37,12 +34,12 @@ std::string BytesOf(const fs::path& path) {
 
 Answer ChanceDialogs::Show(const MessageBox& box) {
   if (box.buttons == BoxButtons::Ok) return Answer::Ok;
-  const Answer answer = chance_.OneOf(kAnswers);
+  const Answer answer = chance_.OneOf(kUserAnswers);
   return answer == Answer::Cancel && box.buttons == BoxButtons::YesNo ? Answer::No : answer;
 }
 
 Outcome<std::string> ChanceDialogs::AskForFile(const FileRequest& request) {
-  choices = {chance_.OneIn(3) ? "cancel" : chance_.OneOf(kPaths)};
+  choices = {chance_.OneIn(3) ? "cancel" : chance_.OneOf(kUserPaths)};
   Outcome<std::string> chosen = ScriptedDialogs::AskForFile(request);
   requests.clear();
   return chosen;
@@ -91,70 +88,49 @@ World::World(Chance& chance, const std::string& data)
     : chance_(chance),
       dialogs_(chance),
       help_(BytesOf(fs::path(data) / "tarvik.hlp")),
-      platform_{files_,
-                dialogs_,
-                outside_.instance,
-                outside_.clipboard,
-                help_,
-                outside_.calendar,
-                outside_.printer,
-                outside_.desktop,
-                outside_.joystick,
-                outside_.keyboard,
-                outside_.programs,
-                outside_.drives,
-                {28800, 21600},
-                "c:\\tarvik",
-                chance.OneIn(2) ? "c:\\my\\a.b50" : ""},
-      application(platform_),
-      screen(application, screen::Clock::Scripted) {
-  outside_.drives.files = &files_;
-  outside_.programs.files = &files_;
+      program_(chance.OneIn(2) ? "c:\\my\\a.b50" : "", {.dialogs = &dialogs_, .help = &help_}),
+      screen_(program_.application, screen::Clock::Scripted) {
   PutFiles(data);
-  application.Start();
+  program_.application.Start();
 }
 
 void World::PutFiles(const std::string& data) {
   const auto put = [this](const fs::path& from, const std::string& to) {
     for (const auto& entry : fs::directory_iterator(from)) {
-      if (entry.is_regular_file()) files_.Put(to + entry.path().filename().string(), BytesOf(entry.path()));
+      if (entry.is_regular_file())
+        program_.files().Put(to + entry.path().filename().string(), BytesOf(entry.path()));
     }
   };
   put(data, "c:\\tarvik\\");
   put(fs::path(data) / "Templates", "c:\\tarvik\\Templates\\");
-  files_.Put("c:\\my\\a.b50", "USE MDEF a\r\nBTN S1 Fire /U Gear RAW (1C) Rem c\r\n~ d");
-  files_.Put("c:\\my\\a.m50",
-             "Gear = g\r\nrem ----\r\nrem guns\r\nrem ----\r\nFire = SPC\r\nBomb = b, x = 1");
-  files_.Put("c:\\my\\b.b50", std::string("\0\r\x80 RAW (\n\xFF", 10));
-  files_.Put("c:\\my\\b.m50", "");
-  files_.Put("c:\\my\\a.bmp", "BM no picture");
-  files_.Put(
+  PutUserFiles(program_.files());
+  program_.files().Put(
       "c:\\tarvik\\tarvik.ini",
-      "[FileLocations]\r\nFirstTimeUsed=0\r\nShowTips=0\r\nProgramFilesPath=c:\\my\r\n"
-      "[Miscellaneous]\r\nUndoMax=12\r\nAutoSaveEnabled=1\r\nAutoSaveTime=1\r\nOpenSingleFileOnly=0\r\n"
-      "[Favourites]\r\nFavArrayNum=2\r\nFavName1=One\r\nFavJFPath1=c:\\my\\a.b50\r\n"
-      "FavMFPath1=c:\\my\\a.m50\r\nFavName2=Two\r\n"
-      "[Games]\r\nGameArrayNum=1\r\nGameName1=Game\r\nGamePath1=c:\\game.exe\r\nGameDIRPath1=c:\\my\r\n"
-      "[Apps]\r\nCustomAppName1=App\r\nCustomAppPath1=c:\\app.cpl\r\nCustomAppUse1=1\r\n");
+      std::string(kUserSettings) +
+          "[Miscellaneous]\r\nUndoMax=12\r\nAutoSaveEnabled=1\r\nAutoSaveTime=1\r\nOpenSingleFileOnly=0\r\n"
+          "[Favourites]\r\nFavArrayNum=2\r\nFavName1=One\r\nFavJFPath1=c:\\my\\a.b50\r\n"
+          "FavMFPath1=c:\\my\\a.m50\r\nFavName2=Two\r\n"
+          "[Games]\r\nGameArrayNum=1\r\nGameName1=Game\r\nGamePath1=c:\\game.exe\r\nGameDIRPath1=c:\\my\r\n"
+          "[Apps]\r\nCustomAppName1=App\r\nCustomAppPath1=c:\\app.cpl\r\nCustomAppUse1=1\r\n");
 }
 
 std::size_t World::Ways() { return std::size(kWays); }
 const char* World::NameOf(std::size_t way) { return kWays[way]; }
 
 void World::Open(std::size_t way) {
-  if (!application.editor().Visible) return;
-  MenuItem& entry = application.editor().menus(kWays[way]);
+  if (!application().editor().Visible) return;
+  MenuItem& entry = application().editor().menus(kWays[way]);
   if (entry.Enabled && entry.Visible) entry.Click();
 }
 
 void World::Happen() {
-  outside_.joystick.isThere = !chance_.OneIn(4);
-  outside_.joystick.info = {static_cast<int>(chance_.Below(65536)), 32768, 32768, 32768,
-                            static_cast<unsigned>(chance_.Below(16))};
-  outside_.programs.state = chance_.OneIn(2) ? ProgramState::Running : ProgramState::Ended;
-  if (chance_.OneIn(8)) outside_.clipboard.PutFromOutside("BTN S2 Gear\r\n", "");
+  program_.outside.joystick.isThere = !chance_.OneIn(4);
+  program_.outside.joystick.info = {static_cast<int>(chance_.Below(65536)), 32768, 32768, 32768,
+                                    static_cast<unsigned>(chance_.Below(16))};
+  program_.outside.programs.state = chance_.OneIn(2) ? ProgramState::Running : ProgramState::Ended;
+  if (chance_.OneIn(8)) program_.outside.clipboard.PutFromOutside("BTN S2 Gear\r\n", "");
   std::vector<Timer*> running;
-  for (Form* const form : application.Forms()) {
+  for (Form* const form : application().Forms()) {
     for (Component* const child : form->Children()) {
       auto* const timer = dynamic_cast<Timer*>(child);
       if (timer && timer->Enabled && timer->Interval > 0) running.push_back(timer);

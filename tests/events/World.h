@@ -2,11 +2,10 @@
 // answered by chance, and the real help window.
 #pragma once
 
-#include "app/Editor.h"
+#include "app/Program.h"
 #include "events/Chance.h"
 #include "screen/HelpWindow.h"
 #include "screen/Screen.h"
-#include "support/ScriptedPlatform.h"
 
 namespace tarvik::events {
 
@@ -45,6 +44,8 @@ class World {
   /// `data` is the folder of what lies beside the program.
   World(Chance& chance, const std::string& data);
 
+  [[nodiscard]] Application& application() { return program_.application; }
+  [[nodiscard]] const Editor& editor() const { return program_.editor(); }
   /// How many ways there are to a tool.
   [[nodiscard]] static std::size_t Ways();
   [[nodiscard]] static const char* NameOf(std::size_t way);
@@ -59,15 +60,10 @@ class World {
   void PutFiles(const std::string& data);
 
   Chance& chance_;
-  MemoryFiles files_;
-  session::ScriptedPlatform outside_;
   ChanceDialogs dialogs_;
   WindowHelp help_;
-  Platform platform_;
-
- public:
-  Application application;
-  screen::Screen screen;
+  UnstartedProgram program_;
+  screen::Screen screen_;
 };
 
 }  // namespace tarvik::events

@@ -97,7 +97,7 @@ class Round {
   void Next() {
     QueueNext();
     const bool waits = depth_ > 0 || world_.Waits();
-    over_ = !waits && (count_ >= kRoundLength || world_.application.Ended());
+    over_ = !waits && (count_ >= kRoundLength || world_.application().Ended());
     if (over_) return;
     ++count_;
     alarm(kPatience);
@@ -118,7 +118,7 @@ class Round {
     if (losesEditor_ && count_ >= kRoundLength / 3 && !blocked) {
       losesEditor_ = false;
       Note("the editor is closed");
-      world_.application.CloseEditor();
+      world_.application().CloseEditor();
     } else if (chance_.OneIn(8)) {
       Note("something happens");
       world_.Happen();
@@ -128,7 +128,7 @@ class Round {
   }
 
   void CheckDocuments() const {
-    const Editor& editor = world_.application.editor();
+    const Editor& editor = world_.editor();
     RequireSound(editor.Joystick);
     RequireSound(editor.Macro);
   }

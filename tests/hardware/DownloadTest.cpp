@@ -34,21 +34,7 @@ TEST(Download, TheLoaderInDosBoxReceivesTheSavedFileByteForByte) {
   HostFiles files(drives);
   HostPrograms programs(drives);
   session::ScriptedPlatform outside;
-  Platform platform{files,
-                    outside.dialogs,
-                    outside.instance,
-                    outside.clipboard,
-                    outside.help,
-                    outside.calendar,
-                    outside.printer,
-                    outside.desktop,
-                    outside.joystick,
-                    outside.keyboard,
-                    programs,
-                    outside.drives,
-                    {28800, 21600},
-                    "c:\\tarvik",
-                    "c:\\tm\\strike.b50"};
+  Platform platform = outside.Process(files, "c:\\tm\\strike.b50", {.programs = &programs});
   outside.dialogs.next = [end = std::chrono::steady_clock::now() + 30s] {
     std::this_thread::sleep_for(10ms);
     return std::chrono::steady_clock::now() < end;

@@ -23,14 +23,10 @@ TEST(Tips, AreDrawnFromAllLines) {
 }
 
 TEST(Tips, ComeAtTheVeryFirstStart) {
-  session::ScriptedPlatform outside;
-  MemoryFiles files;
-  files.PutFolder("c:\\tarvik");
-  Platform platform = outside.Process(files);
-  Application application(platform);
-  application.Start();
-  ASSERT_NE(application.LoadedTool<frmTip>(), nullptr);
-  EXPECT_TRUE(application.LoadedTool<frmTip>()->Modal);
+  UnstartedProgram program;
+  program.application.Start();
+  ASSERT_NE(program.application.LoadedTool<frmTip>(), nullptr);
+  EXPECT_TRUE(program.application.LoadedTool<frmTip>()->Modal);
 }
 
 TEST(Tips, OfTheProgramAreShortAndMany) {

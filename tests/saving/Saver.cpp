@@ -70,7 +70,7 @@ int main(int count, char** arguments) {
   HostFiles files(drives);
   session::ScriptedPlatform outside;
   InstanceLock lock(fs::path(given[0]) / "tarvik" / "tarvik.lock");
-  Platform platform = outside.Process(files, lock, outside.printer);
+  Platform platform = outside.Process(files, "", {.instance = &lock});
   Application application(platform);
   if (!application.Start()) return kStuck;
 

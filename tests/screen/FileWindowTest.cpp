@@ -15,8 +15,7 @@
 #include "app/Editor.h"
 #include "screen/MumWindow.h"
 #include "screen/PaneView.h"
-#include "screen/Screen.h"
-#include "support/ScriptedPlatform.h"
+#include "screen/ProgramOnScreen.h"
 #include "tools/pimlet/RAWform.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/viewers/Tips.h"
@@ -24,21 +23,15 @@
 namespace tarvik::screen {
 namespace {
 
-class FileWindow : public testing::Test {
+class FileWindow : public testing::Test, public ProgramOnScreen {
  protected:
   FileWindow() {
-    files_.PutFolder("c:\\tarvik");
-    files_.Put("c:\\my\\one.b50", "USE MDEF one\r\nBTN S1 Fire\r\n");
-    files_.Put("c:\\my\\one.m50", "Fire = a\r\n");
-    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
-    application.Start();
-    QApplication::processEvents();
+    files().Put("c:\\my\\one.b50", "USE MDEF one\r\nBTN S1 Fire\r\n");
+    files().Put("c:\\my\\one.m50", "Fire = a\r\n");
   }
 
-  Editor& Files() { return application.editor(); }
-  MumWindow& Frame() { return *dynamic_cast<MumWindow*>(screen.ViewOf(application.mum())); }
-  PaneView& JoystickPane() { return *dynamic_cast<PaneView*>(screen.Find(Files().JoystickText)); }
+  MumWindow& Frame() { return WindowOf<MumWindow>(application.mum()); }
+  PaneView& JoystickPane() { return Find<PaneView>(editor().JoystickText); }
 
   void Press(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
     QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
@@ -68,41 +61,31 @@ class FileWindow : public testing::Test {
     data->setText(urls.constFirst().toString());
     return data;
   }
-
-  session::ScriptedPlatform outside;
-
- private:
-  MemoryFiles files_;
-  Platform platform_ = outside.Process(files_);
-
- public:
-  Application application{platform_};
-  Screen screen{application, Clock::Scripted};
 };
 
 TEST_F(FileWindow, AltWithALetterThatLeadsNowhereTypesNothing) {
   Press(Qt::Key_J, Qt::AltModifier, QStringLiteral("j"));
   Press(Qt::Key_Return, Qt::AltModifier, QStringLiteral("\r"));
   Press(Qt::Key_J, Qt::MetaModifier, QStringLiteral("j"));
-  EXPECT_EQ(Files().JoystickText.Text.Get(), "");
+  EXPECT_EQ(editor().JoystickText.Text.Get(), "");
   Press(Qt::Key_J, Qt::NoModifier, QStringLiteral("j"));
-  EXPECT_EQ(Files().JoystickText.Text.Get(), "j");
+  EXPECT_EQ(editor().JoystickText.Text.Get(), "j");
 }
 
 TEST_F(FileWindow, AFileThatIsDroppedOpensItsPair) {
   EXPECT_TRUE(Drop(*JoystickPane().viewport(),
                    *DraggedFiles({QStringLiteral("readme.txt"), QStringLiteral("one.m50")})));
-  EXPECT_EQ(Files().Joystick.Path.Get(), "c:\\my\\one.b50");
-  EXPECT_EQ(Files().Macro.Path.Get(), "c:\\my\\one.m50");
-  EXPECT_EQ(Files().JoystickText.Text.Get(), "USE MDEF one\r\nBTN S1 Fire\r\n");
-  EXPECT_EQ(Files().Joystick.Dirty, 0);
+  EXPECT_EQ(editor().Joystick.Path.Get(), "c:\\my\\one.b50");
+  EXPECT_EQ(editor().Macro.Path.Get(), "c:\\my\\one.m50");
+  EXPECT_EQ(editor().JoystickText.Text.Get(), "USE MDEF one\r\nBTN S1 Fire\r\n");
+  EXPECT_EQ(editor().Joystick.Dirty, 0);
 }
 
 TEST_F(FileWindow, DroppedFilesLeaveUnsavedWorkToTheUser) {
   Press(Qt::Key_J, Qt::NoModifier, QStringLiteral("j"));
   outside.dialogs.answers = {Answer::Cancel};
   EXPECT_TRUE(Drop(Frame(), *DraggedFiles({QStringLiteral("one.b50")})));
-  EXPECT_EQ(Files().JoystickText.Text.Get(), "j");
+  EXPECT_EQ(editor().JoystickText.Text.Get(), "j");
   EXPECT_EQ(outside.dialogs.boxes.size(), 1U);
 }
 
@@ -110,14 +93,14 @@ TEST_F(FileWindow, AFileOpensInTheEmptyFrame) {
   application.CloseEditor();
   EXPECT_TRUE(Drop(Frame(), *DraggedFiles({QStringLiteral("one.b50")})));
   ASSERT_TRUE(application.editor().Visible);
-  EXPECT_EQ(Files().Joystick.Name.Get().Text(), "one.b50");
+  EXPECT_EQ(editor().Joystick.Name.Get().Text(), "one.b50");
 }
 
 TEST_F(FileWindow, TextThatIsDroppedIsText) {
   QMimeData text;
   text.setText(QStringLiteral("BTN"));
   EXPECT_TRUE(Drop(*JoystickPane().viewport(), text));
-  EXPECT_EQ(Files().JoystickText.Text.Get(), "BTN");
+  EXPECT_EQ(editor().JoystickText.Text.Get(), "BTN");
   QMimeData link;
   link.setText(QStringLiteral(" https://a.b/"));
   link.setUrls({QUrl(QStringLiteral("https://a.b/"))});
@@ -134,23 +117,23 @@ TEST_F(FileWindow, NothingIsDroppedBehindAModalWindow) {
   text.setText(QStringLiteral("BTN"));
   EXPECT_FALSE(Drop(*JoystickPane().viewport(), text));
   EXPECT_FALSE(Drop(Frame(), *DraggedFiles({QStringLiteral("one.b50")})));
-  EXPECT_EQ(Files().JoystickText.Text.Get(), "");
+  EXPECT_EQ(editor().JoystickText.Text.Get(), "");
 }
 
 TEST_F(FileWindow, TheTitleNamesTheFileOnShowAndMarksUnsavedWork) {
   const auto title = [this] { return Frame().windowTitle().toStdString(); };
-  const auto* const tabs = dynamic_cast<QTabBar*>(screen.Find(Files().TabStrip1));
+  const auto* const tabs = dynamic_cast<QTabBar*>(screen.Find(editor().TabStrip1));
   EXPECT_EQ(title(), "untitled.b50[*] - Tarvik");
   EXPECT_FALSE(Frame().isWindowModified());
   EXPECT_EQ(application.mum().Caption.Get(), "Tarvik");
   Press(Qt::Key_J, Qt::NoModifier, QStringLiteral("j"));
   EXPECT_TRUE(Frame().isWindowModified());
   EXPECT_EQ(tabs->tabText(0), QStringLiteral("untitled.b50*"));
-  EXPECT_EQ(Files().TabStrip1.Tabs(1).Caption.Get(), "untitled.b50");
-  Files().TabStrip1.Select(2);
+  EXPECT_EQ(editor().TabStrip1.Tabs(1).Caption.Get(), "untitled.b50");
+  editor().TabStrip1.Select(2);
   EXPECT_EQ(title(), "untitled.m50[*] - Tarvik");
   EXPECT_FALSE(Frame().isWindowModified());
-  Files().Macro.Name = *FileName::From("a[*].m50");
+  editor().Macro.Name = *FileName::From("a[*].m50");
   EXPECT_EQ(title(), "a[*][*].m50[*] - Tarvik");
   outside.dialogs.answers = {Answer::No};
   application.CloseEditor();

@@ -6,20 +6,13 @@
 #include <QScreen>
 
 #include "app/Editor.h"
-#include "screen/Screen.h"
-#include "support/ScriptedPlatform.h"
+#include "screen/ProgramOnScreen.h"
 
 namespace tarvik::screen {
 namespace {
 
-class GrowingMenus : public testing::Test {
+class GrowingMenus : public testing::Test, public ProgramOnScreen {
  protected:
-  GrowingMenus() {
-    files_.PutFolder("c:\\tarvik");
-    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.Start();
-  }
-
   /// A favourite; 0 is the hidden first member.
   [[nodiscard]] QAction* Action(int index) const {
     return qobject_cast<QAction*>(screen.Find(Menu()("mnuFavArray", index)));
@@ -34,15 +27,6 @@ class GrowingMenus : public testing::Test {
 
   [[nodiscard]] Menus& Menu() const { return application.editor().menus; }
   void Fill(const std::vector<std::string>& captions) const { Menu().Fill("mnuFavArray", captions); }
-
- private:
-  session::ScriptedPlatform outside_;
-  MemoryFiles files_;
-  Platform platform_ = outside_.Process(files_);
-
- public:
-  Application application{platform_};
-  Screen screen{application, Clock::Scripted};
 };
 
 TEST_F(GrowingMenus, GrowAndShrinkInTheirPlace) {

@@ -10,27 +10,17 @@
 
 #include "app/Editor.h"
 #include "screen/PlotView.h"
-#include "screen/Screen.h"
-#include "support/ScriptedPlatform.h"
+#include "screen/ProgramOnScreen.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
 
 namespace tarvik::screen {
 namespace {
 
-class HardwareWindows : public testing::Test {
+class HardwareWindows : public testing::Test, public ProgramOnScreen {
  protected:
-  explicit HardwareWindows(Clock clock = Clock::Scripted) : screen(application, clock) {
-    files_.PutFolder("c:\\tarvik");
+  explicit HardwareWindows(Clock clock = Clock::Scripted) : ProgramOnScreen(clock) {
     outside.joystick.isThere = true;
-    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
-    application.Start();
-  }
-
-  template <class Widget>
-  Widget& Shown(const Component& component) {
-    return *dynamic_cast<Widget*>(screen.Find(component));
   }
 
   static void Send(QWidget& widget, QEvent::Type type, int key, const QString& text = {},
@@ -39,16 +29,6 @@ class HardwareWindows : public testing::Test {
     if (type == QEvent::ShortcutOverride) event.ignore();
     QApplication::sendEvent(&widget, &event);
   }
-
-  session::ScriptedPlatform outside;
-
- private:
-  MemoryFiles files_;
-  Platform platform_ = outside.Process(files_);
-
- public:
-  Application application{platform_};
-  Screen screen;
 };
 
 class KeyTestWindow : public HardwareWindows {
@@ -59,7 +39,7 @@ class KeyTestWindow : public HardwareWindows {
   }
 
   KeyTestForm& form = application.Tool<KeyTestForm>();
-  QWidget& log = Shown<QWidget>(form.RTFKeysText);
+  QWidget& log = Find<QWidget>(form.RTFKeysText);
 };
 
 TEST_F(KeyTestWindow, AKeyThatIsHeldRepeatsItsPressAlone) {
@@ -123,7 +103,7 @@ TEST_F(KeyTestWindow, LogsShowTheirEnds) {
   }
   QApplication::processEvents();
   for (const Pane* const each : {&form.RTFKeysText, &form.RTFKeysDownText, &form.RTFKeysUpText}) {
-    const QScrollBar* const bar = Shown<QPlainTextEdit>(*each).verticalScrollBar();
+    const QScrollBar* const bar = Find<QPlainTextEdit>(*each).verticalScrollBar();
     EXPECT_GT(bar->maximum(), 0);
     EXPECT_EQ(bar->value(), bar->maximum()) << each->Name();
   }
@@ -157,7 +137,7 @@ class AnalyserWindow : public HardwareWindows {
 
   static constexpr unsigned kBlue = 0xFF0000;
   JoyPlot& form = application.Tool<JoyPlot>();
-  PlotView& plot = Shown<PlotView>(form.PicJoy);
+  PlotView& plot = Find<PlotView>(form.PicJoy);
 };
 
 TEST_F(AnalyserWindow, OnlyWhatComesOutDifferentlyIsPainted) {
@@ -192,7 +172,7 @@ TEST_F(AnalyserWindow, TheToolbarIsBackWithTheEditor) {
   EXPECT_FALSE(toolbar.Visible);
   Q_EMIT qApp->focusWindowChanged(nullptr);  // another program
   EXPECT_FALSE(toolbar.Visible);
-  auto& frame = Shown<QWidget>(application.mum());
+  auto& frame = Find<QWidget>(application.mum());
   goTo(frame);
   EXPECT_TRUE(toolbar.Visible);
   goTo(*plot.window());
@@ -209,7 +189,7 @@ class RunningAnalyser : public HardwareWindows {
 
 TEST_F(RunningAnalyser, PlotsAtThePaceOfTheScreen) {
   const auto& form = application.Tool<JoyPlot>();
-  const auto& timer = Shown<QTimer>(form.JoyTimer);
+  const auto& timer = Find<QTimer>(form.JoyTimer);
   EXPECT_TRUE(timer.isActive());
   EXPECT_EQ(form.JoyTimer.Interval, 1);
   EXPECT_EQ(timer.interval(), 17);

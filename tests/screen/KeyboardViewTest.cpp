@@ -8,26 +8,21 @@
 
 #include "app/Editor.h"
 #include "screen/KeyboardView.h"
-#include "screen/Screen.h"
-#include "support/ScriptedPlatform.h"
+#include "screen/ProgramOnScreen.h"
 #include "tools/blocks/TextBlocks.h"
 
 namespace tarvik::screen {
 namespace {
 
-class Keyboard : public testing::Test {
+class Keyboard : public testing::Test, public ProgramOnScreen {
  protected:
   Keyboard() {
-    files_.PutFolder("c:\\tarvik");
-    application_.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application_.workbench.settings.Write("FileLocations", "ShowTips", "0");
-    application_.Start();
-    application_.editor().mnuInsertRAW_Click();
+    editor().mnuInsertRAW_Click();
     QApplication::processEvents();
   }
 
-  KeyCap& Cap(int key) { return *static_cast<KeyCap*>(screen_.Find(Form().Command1(key))); }
-  RAWform& Form() { return application_.Tool<RAWform>(); }
+  KeyCap& Cap(int key) { return Find<KeyCap>(Form().Command1(key)); }
+  RAWform& Form() { return application.Tool<RAWform>(); }
   std::string NameOf(int key) { return Cap(key).accessibleName().toStdString(); }
 
   static void Press(int key) {
@@ -46,15 +41,6 @@ class Keyboard : public testing::Test {
     }
     return stops;
   }
-
- private:
-  session::ScriptedPlatform outside_;
-  MemoryFiles files_;
-  Platform platform_ = outside_.Process(files_);
-
- protected:
-  Application application_{platform_};
-  Screen screen_{application_, Clock::Scripted};
 };
 
 TEST_F(Keyboard, IsOneStopThatTheArrowKeysMove) {
@@ -142,11 +128,11 @@ TEST_F(Keyboard, KeepsItsProportionsAtAnySize) {
 /// The window that Pimlet waits for is kept in front of all the program's, whatever is clicked, and he is
 /// minimised alone.
 TEST_F(Keyboard, HasTheWindowForARemarkAboveItAndIsAboveNone) {
-  auto& remark = application_.Tool<SingleTextForm>();
+  auto& remark = application.Tool<SingleTextForm>();
   remark.Modal = true;
   remark.Visible = true;
   const auto windowOf = [this](class Form& form) {
-    return qobject_cast<QWidget*>(screen_.Find(form))->windowHandle();
+    return qobject_cast<QWidget*>(screen.Find(form))->windowHandle();
   };
   EXPECT_FALSE(windowOf(remark)->transientParent());
   EXPECT_FALSE(windowOf(Form())->transientParent());

@@ -9,8 +9,7 @@
 
 #include "app/Editor.h"
 #include "screen/ListStack.h"
-#include "screen/Screen.h"
-#include "support/ScriptedPlatform.h"
+#include "screen/ProgramOnScreen.h"
 #include "tools/composer/InsertOptions.h"
 #include "tools/find/FindAndReplace.h"
 #include "tools/pimlet/RAWform.h"
@@ -21,33 +20,13 @@
 namespace tarvik::screen {
 namespace {
 
-class Lists : public testing::Test {
+class Lists : public testing::Test, public ProgramOnScreen {
  protected:
   Lists() {
-    files_.PutFolder("c:\\tarvik");
-    files_.Put("c:\\tarvik\\a.png", "");
-    files_.Put("c:\\tarvik\\b.png", "");
-    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
-    application.Start();
-  }
-
-  template <class Tool>
-  Tool& Shown() {
-    auto& tool = application.Tool<Tool>();
-    tool.Visible = true;
-    QApplication::processEvents();
-    return tool;
+    files().Put("c:\\tarvik\\a.png", "");
+    files().Put("c:\\tarvik\\b.png", "");
   }
   QListView* ViewOf(const ListBox& list) const { return qobject_cast<QListView*>(screen.Find(list)); }
-
-  session::ScriptedPlatform outside_;
-  MemoryFiles files_;
-  Platform platform_ = outside_.Process(files_);
-
- public:
-  Application application{platform_};
-  Screen screen{application, Clock::Scripted};
 };
 
 /// What the toolkit complains of while it stands.
@@ -68,12 +47,12 @@ class Complaints {
 };
 
 TEST_F(Lists, HaveModelsThatAnswerEveryIndexWhileTheyChange) {
-  auto& preferences = Shown<Preferences>();
-  Shown<InsertOptions>();
-  Shown<RAWform>();
-  Shown<FindAndReplace>();
-  Shown<DrivesForm>();
-  auto& picker = Shown<SelectPictureForm>();
+  auto& preferences = Show<Preferences>();
+  Show<InsertOptions>();
+  Show<RAWform>();
+  Show<FindAndReplace>();
+  Show<DrivesForm>();
+  auto& picker = Show<SelectPictureForm>();
   const Complaints complaints;
   std::vector<std::unique_ptr<QAbstractItemModelTester>> testers;
   const auto watch = [&testers](QAbstractItemModel* model) {
@@ -110,8 +89,8 @@ TEST_F(Lists, AnswerForAnItemThatIsNotThere) {
 }
 
 TEST_F(Lists, CopyNothingWithoutAnItemInHand) {
-  auto& picker = Shown<SelectPictureForm>();
-  auto& preferences = Shown<Preferences>();
+  auto& picker = Show<SelectPictureForm>();
+  auto& preferences = Show<Preferences>();
   preferences.SSTab1.Tab = page::kColours;
   for (const ListBox* const list : {&picker.File1, &preferences.List1}) {
     QListView* const view = ViewOf(*list);
@@ -127,18 +106,18 @@ class ColourList : public Lists {
     view->setFocus();
   }
 
-  Preferences& preferences = Shown<Preferences>();
+  Preferences& preferences = Show<Preferences>();
   QListView* view = ViewOf(preferences.List1);
   const Property<Colour>& background = application.workbench.settings.BackgroundColour;
   const Property<Colour>& rem = application.workbench.settings.RemStatements;
 };
 
 TEST_F(ColourList, IsWalkedByTheArrowKeysAndAsksForAColourByEnterSpaceAndClick) {
-  outside_.dialogs.choices = {"17", "18", "19", "20"};
+  outside.dialogs.choices = {"17", "18", "19", "20"};
   QTest::keyClick(view, Qt::Key_Down);
   QTest::keyClick(view, Qt::Key_Up);
   EXPECT_EQ(preferences.List1.ListIndex, 0);
-  EXPECT_EQ(outside_.dialogs.choices.size(), 4U) << "the arrow keys only select";
+  EXPECT_EQ(outside.dialogs.choices.size(), 4U) << "the arrow keys only select";
   QTest::keyClick(view, Qt::Key_Space);
   EXPECT_EQ(background, 17U);
   QTest::keyClick(view, Qt::Key_Return);
@@ -157,7 +136,7 @@ TEST_F(ColourList, IsWalkedByTheArrowKeysAndAsksForAColourByEnterSpaceAndClick) 
 }
 
 TEST_F(ColourList, ShowsEachColourBesideItsName) {
-  outside_.dialogs.choices = {"255"};
+  outside.dialogs.choices = {"255"};
   preferences.List1.ListIndex = 2;
   QTest::keyClick(view, Qt::Key_Space);
   const QRect row = view->visualRect(view->model()->index(2, 0));
@@ -170,7 +149,7 @@ TEST_F(ColourList, ShowsEachColourBesideItsName) {
 }
 
 TEST_F(Lists, PaintTheirSelectionPalerWithoutTheFocus) {
-  auto& picker = Shown<SelectPictureForm>();
+  auto& picker = Show<SelectPictureForm>();
   auto* const window = dynamic_cast<QWidget*>(screen.ViewOf(picker));
   QListView* const view = ViewOf(picker.Dir1);
   window->activateWindow();

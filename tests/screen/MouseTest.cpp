@@ -7,32 +7,14 @@
 
 #include "app/Editor.h"
 #include "screen/PaneView.h"
-#include "screen/Screen.h"
-#include "support/ScriptedPlatform.h"
+#include "screen/ProgramOnScreen.h"
 #include "tools/preferences/Preferences.h"
 #include "tools/testing/KeyTestForm.h"
 
 namespace tarvik::screen {
 namespace {
 
-class MouseTest : public testing::Test {
- protected:
-  MouseTest() {
-    files_.PutFolder("c:\\tarvik");
-    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
-    application.Start();
-    QApplication::processEvents();
-  }
-
-  session::ScriptedPlatform outside_;
-  MemoryFiles files_;
-  Platform platform_ = outside_.Process(files_);
-
- public:
-  Application application{platform_};
-  Screen screen{application, Clock::Scripted};
-};
+class MouseTest : public testing::Test, public ProgramOnScreen {};
 
 /// The text makes nothing of most of them; beside it, in the indent, they came back to it for ever.
 TEST_F(MouseTest, ADoubleClickOfAnyButtonEndsInAnyPane) {
@@ -53,7 +35,7 @@ TEST_F(MouseTest, ADoubleClickOfAnyButtonEndsInAnyPane) {
 
 /// It ends when it closes, and must not do so under its own feet while what was chosen waits for its end.
 TEST_F(MouseTest, TheMenuOfHiddenToolbarButtonsIsThroughBeforeWhatIsChosen) {
-  auto* const frame = dynamic_cast<QWidget*>(screen.ViewOf(application.mum()));
+  QWidget* const frame = &WindowOf(application.mum());
   frame->resize(500, 400);
   QApplication::processEvents();
   QTest::mouseClick(frame->findChild<QWidget*>(QStringLiteral("MoreButtons")), Qt::LeftButton);

@@ -4,8 +4,8 @@
 
 #include "app/Editor.h"
 #include "app/Mum.h"
+#include "app/Program.h"
 #include "session/Driver.h"
-#include "support/ScriptedPlatform.h"
 
 namespace tarvik {
 namespace {
@@ -57,37 +57,35 @@ constexpr Way kWays[] = {
 };
 
 /// One program, in which one way is gone, the editor closed, and one thing done in what is left.
-class Afternoon {
+class Afternoon : private UnstartedProgram {
  public:
   Afternoon(const Hands& hands, const Way& way)
-      : hands_(hands), driver_(hands.makeDriver(application_)), way_(way) {
-    files_.Put("c:\\tm\\a.b50", "BTN S1 Fire\r\n");
-    application_.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application_.workbench.settings.Write("FileLocations", "ShowTips", "0");
-    application_.Start();
-    outside_.joystick.isThere = true;
-    outside_.programs.state = ProgramState::Running;
-    application_.editor().OpenFavouriteFile("c:\\tm\\a.b50");
+      : hands_(hands), driver_(hands.makeDriver(application)), way_(way) {
+    files().Put("c:\\tm\\a.b50", "BTN S1 Fire\r\n");
+    Start();
+    outside.joystick.isThere = true;
+    outside.programs.state = ProgramState::Running;
+    editor().OpenFavouriteFile("c:\\tm\\a.b50");
   }
 
   /// False when there is no deed of this number.
   bool Do(std::size_t deed) {
     bool done = false;
     bool toDo = true;
-    outside_.dialogs.next = [&] {
+    outside.dialogs.next = [&] {
       if (hands_.reachBehindModal && std::exchange(toDo, false)) done = CloseEditorAndDo(deed);
       return false;
     };
-    driver_->Click(*application_.FindForm(way_.form)->Resolve(way_.control));
+    driver_->Click(*application.FindForm(way_.form)->Resolve(way_.control));
     if (toDo) done = CloseEditorAndDo(deed);
-    outside_.dialogs.next = nullptr;
+    outside.dialogs.next = nullptr;
     return done;
   }
 
   void ExpectFilesUntouched() {
-    EXPECT_EQ(files_.Content("c:\\tm\\a.b50"), "BTN S1 Fire\r\n");
-    application_.ShowEditor();
-    for (const Document* const file : {&application_.editor().Joystick, &application_.editor().Macro}) {
+    EXPECT_EQ(files().Content("c:\\tm\\a.b50"), "BTN S1 Fire\r\n");
+    application.ShowEditor();
+    for (const Document* const file : {&editor().Joystick, &editor().Macro}) {
       EXPECT_EQ(file->text.Text.Get(), "");
       EXPECT_EQ(file->Dirty, saved::kNoText);
     }
@@ -98,8 +96,8 @@ class Afternoon {
 
   [[nodiscard]] std::vector<Place> Places() const {
     std::vector<Place> places;
-    for (Form* const form : application_.Forms()) {
-      if (form == &application_.mum()) continue;
+    for (Form* const form : application.Forms()) {
+      if (form == &application.mum()) continue;
       for (const Component* const child : form->Children())
         places.emplace_back(form->Name(), child->FullName());
     }
@@ -107,11 +105,11 @@ class Afternoon {
   }
 
   bool CloseEditorAndDo(std::size_t deed) {
-    driver_->Close(application_.editor());
+    driver_->Close(editor());
     const std::vector<Place> places = Places();
     if (places.empty()) return false;
-    outside_.dialogs.next = [this] { return UseAllInside(); };
-    outside_.dialogs.choices = {"c:\\tm\\a.b50"};
+    outside.dialogs.next = [this] { return UseAllInside(); };
+    outside.dialogs.choices = {"c:\\tm\\a.b50"};
     if (deed < places.size()) {
       Use(places[deed]);
       return true;
@@ -126,7 +124,7 @@ class Afternoon {
 
   /// Where a form waits for the user, all in it is used that does not close it.
   bool UseAllInside() {
-    outside_.dialogs.next = nullptr;
+    outside.dialogs.next = nullptr;
     for (const Place& place : Places()) {
       const auto* const button = dynamic_cast<CommandButton*>(Find(place));
       if (!button || (!button->Cancel && !button->Default)) Use(place);
@@ -135,7 +133,7 @@ class Afternoon {
   }
 
   [[nodiscard]] Component* Find(const Place& place) const {
-    Form* const form = application_.FindForm(place.first);
+    Form* const form = application.FindForm(place.first);
     return form ? form->Resolve(place.second) : nullptr;
   }
 
@@ -156,14 +154,6 @@ class Afternoon {
     }
   }
 
-  session::ScriptedPlatform outside_;
-  MemoryFiles files_ = [] {
-    MemoryFiles files;
-    files.PutFolder("c:\\tarvik");
-    return files;
-  }();
-  Platform platform_ = outside_.Process(files_);
-  Application application_{platform_};
   const Hands& hands_;
   std::unique_ptr<session::Driver> driver_;
   const Way& way_;

@@ -8,9 +8,8 @@
 #include <QScrollBar>
 
 #include "app/Editor.h"
-#include "screen/Screen.h"
+#include "screen/ProgramOnScreen.h"
 #include "screen/WindowOrder.h"
-#include "support/ScriptedPlatform.h"
 
 namespace tarvik::screen {
 namespace {
@@ -23,13 +22,12 @@ class Tool : public QDialog, public CanBeOnTop {
   [[nodiscard]] bool IsOnTop() const override { return true; }
 };
 
-class Uncovered : public testing::TestWithParam<int> {
+class Uncovered : public testing::TestWithParam<int>, public ProgramOnScreen {
  protected:
   Uncovered() {
     std::string text;
     for (int i = 0; i < kLines; ++i) text += "BTN S1 Fire\r\n";
     pane.Text = text;
-    view = qobject_cast<QPlainTextEdit*>(screen.Find(pane));
     QApplication::processEvents();
     const QRect seen(view->viewport()->mapToGlobal(QPoint()), view->viewport()->size());
     tool.setGeometry(seen.adjusted(-20, -20, 0, -seen.height() / 2));
@@ -49,26 +47,9 @@ class Uncovered : public testing::TestWithParam<int> {
   }
   [[nodiscard]] QRect Seen() const { return {view->mapToGlobal(QPoint()), view->size()}; }
 
- private:
-  session::ScriptedPlatform outside_;
-  MemoryFiles files_;
-  Platform platform_ = outside_.Process(files_);
-
- public:
-  Application application{platform_};
-  Screen screen{application, Clock::Scripted};
-  Pane& pane = Joystick();
-  QPlainTextEdit* view = nullptr;
+  Pane& pane = editor().JoystickText;
+  QPlainTextEdit* view = &Find<QPlainTextEdit>(pane);
   Tool tool;
-
- private:
-  Pane& Joystick() {
-    files_.PutFolder("c:\\tarvik");
-    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
-    application.Start();
-    return application.editor().JoystickText;
-  }
 };
 
 TEST_P(Uncovered, TheLineOfTheCaretIsInSight) {

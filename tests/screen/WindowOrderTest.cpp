@@ -11,25 +11,18 @@
 
 #include "app/Editor.h"
 #include "screen/FontDialog.h"
+#include "screen/ProgramOnScreen.h"
 #include "screen/QtDesktop.h"
 #include "screen/QtDialogs.h"
-#include "screen/Screen.h"
-#include "support/ScriptedPlatform.h"
 #include "tools/pimlet/RAWform.h"
 #include "tools/viewers/ViewImage.h"
 
 namespace tarvik::screen {
 namespace {
 
-class WindowOrderTest : public testing::Test {
+class WindowOrderTest : public testing::Test, public ProgramOnScreen {
  protected:
-  WindowOrderTest() {
-    files_.PutFolder("c:\\tarvik");
-    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
-    application.Start();
-    ShowPimlet(true);
-  }
+  WindowOrderTest() { ShowPimlet(true); }
 
   void ShowPimlet(bool onTop) {
     auto& pimlet = application.Tool<RAWform>();
@@ -65,19 +58,9 @@ class WindowOrderTest : public testing::Test {
     throw std::logic_error("no help");
   }
 
-  QWidget& WindowOf(const Form& form) { return *dynamic_cast<QWidget*>(screen.ViewOf(form)); }
-
- private:
-  session::ScriptedPlatform outside_;
-  MemoryFiles files_;
-  Platform platform_ = outside_.Process(files_);
-  Drives drives_{{}};
-
- public:
-  Application application{platform_};
-  Screen screen{application, Clock::Scripted};
-  QtDialogs dialogs{drives_};
-  QtHelp help{files_};
+  Drives drives{{}};
+  QtDialogs dialogs{drives};
+  QtHelp help{files()};
 };
 
 TEST_F(WindowOrderTest, EveryBoxAndDialogLiesAboveIt) {

@@ -19,9 +19,8 @@
 #include "app/Editor.h"
 #include "screen/HelpWindow.h"
 #include "screen/PathLabel.h"
-#include "screen/Screen.h"
+#include "screen/ProgramOnScreen.h"
 #include "screen/Text.h"
-#include "support/ScriptedPlatform.h"
 #include "tools/blocks/TextBlocks.h"
 #include "tools/composer/InsertOptions.h"
 #include "tools/favourites/Favourites.h"
@@ -43,13 +42,9 @@
 namespace tarvik::screen {
 namespace {
 
-class Windows : public testing::Test {
+class Windows : public testing::Test, public ProgramOnScreen {
  protected:
   Windows() {
-    files_.PutFolder("c:\\tarvik");
-    application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-    application.workbench.settings.Write("FileLocations", "ShowTips", "0");
-    application.Start();
     ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
               ProgramWait, EnterFavouritename, EnterGameName, Preferences, DrivesForm, TemplateForm, frmTip,
               frmAbout, ViewImage, SelectPictureForm, MacroWizard, JoystickWiz, Speedy>();
@@ -72,14 +67,6 @@ class Windows : public testing::Test {
     (void(application.Tool<Tools>().Visible = true), ...);
   }
 
- private:
-  session::ScriptedPlatform outside_;
-  MemoryFiles files_;
-  Platform platform_ = outside_.Process(files_);
-
- public:
-  Application application{platform_};
-  Screen screen{application, Clock::Scripted};
   HelpWindow help;
 };
 
@@ -351,10 +338,6 @@ TEST_F(Windows, ShowEveryPageOfThePreferencesWhole) {
   }
 }
 
-QWidget* WindowOf(const Screen& screen, const Form& form) {
-  return dynamic_cast<QWidget*>(screen.ViewOf(form));
-}
-
 /// Such a window can't be made as large as the screen either.
 /// What is larger is scrolled.
 TEST_F(Windows, AreNoLargerThanTheScreen) {
@@ -366,8 +349,8 @@ TEST_F(Windows, AreNoLargerThanTheScreen) {
 
 TEST_F(Windows, HaveOneSizeWhereNothingMakesUseOfMoreRoom) {
   const auto isFixed = [this](const Form& form) {
-    const QWidget* const window = WindowOf(screen, form);
-    return window->minimumSize() == window->maximumSize();
+    const QWidget& window = WindowOf(form);
+    return window.minimumSize() == window.maximumSize();
   };
   EXPECT_TRUE(isFixed(application.Tool<frmAbout>()));
   EXPECT_TRUE(isFixed(application.Tool<ProgramWait>()));
@@ -386,11 +369,11 @@ TEST_F(Windows, KeepTheirSizeHoweverLongAPathIs) {
   auto& wait = application.Tool<ProgramWait>();
   const std::string path = "z:\\" + std::string(1000, 'x') + "\\last.bmp";
   for (Label* const label : {&pictures.Label1, &wait.Label1}) {
-    const QWidget* const window = WindowOf(screen, *label->OwnForm());
-    const QSize before = window->size();
+    const QWidget& window = WindowOf(*label->OwnForm());
+    const QSize before = window.size();
     label->Caption = path;
     QApplication::processEvents();
-    EXPECT_EQ(window->size(), before);
+    EXPECT_EQ(window.size(), before);
     EXPECT_EQ(screen.Read(label->Caption), path);
     const QString shown = dynamic_cast<PathLabel*>(screen.Find(*label))->Shown();
     EXPECT_TRUE(shown.startsWith(QStringLiteral("z:")) && shown.endsWith(QStringLiteral("last.bmp")));

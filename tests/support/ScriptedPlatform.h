@@ -173,7 +173,16 @@ class ScriptedDrives : public DriveFolders {
   std::map<char, std::string> folders_{{'c', kOwnFolder}, {'z', "/"}};
 };
 
-/// All of it. The forms of `Process` leave out what the scripted one is good for.
+/// What a process has instead of the scripted ones; they are good enough where nothing is said.
+struct Instead {
+  Dialogs* dialogs = nullptr;
+  SingleInstance* instance = nullptr;
+  Help* help = nullptr;
+  Printer* printer = nullptr;
+  Programs* programs = nullptr;
+};
+
+/// All of it.
 struct ScriptedPlatform {
   ScriptedDialogs dialogs;
   ScriptedInstance instance;
@@ -188,16 +197,25 @@ struct ScriptedPlatform {
   ScriptedDrives drives;
 
   /// A process on this disk, beside any other.
-  [[nodiscard]] Platform Process(Files& files, std::string commandLine = "") {
-    return Process(files, instance, printer, std::move(commandLine));
-  }
-  [[nodiscard]] Platform Process(Files& files, SingleInstance& lock, Printer& paper,
-                                 std::string commandLine = "") {
+  [[nodiscard]] Platform Process(Files& files, std::string commandLine = "", const Instead& instead = {}) {
     drives.files = dynamic_cast<MemoryFiles*>(&files);
     programs.files = drives.files;
-    return {files,    dialogs, lock,           clipboard,    help,
-            calendar, paper,   desktop,        joystick,     keyboard,
-            programs, drives,  {28800, 21600}, "c:\\tarvik", std::move(commandLine)};
+    const auto given = [](auto* other, auto& own) -> auto& { return other ? *other : own; };
+    return {files,
+            given(instead.dialogs, static_cast<Dialogs&>(dialogs)),
+            given(instead.instance, static_cast<SingleInstance&>(instance)),
+            clipboard,
+            given(instead.help, static_cast<Help&>(help)),
+            calendar,
+            given(instead.printer, static_cast<Printer&>(printer)),
+            desktop,
+            joystick,
+            keyboard,
+            given(instead.programs, static_cast<Programs&>(programs)),
+            drives,
+            {28800, 21600},
+            "c:\\tarvik",
+            std::move(commandLine)};
   }
 };
 
