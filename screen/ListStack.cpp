@@ -337,6 +337,15 @@ void ListStack::focusInEvent(QFocusEvent* event) {
   if (front_) front_->SetFocus();
 }
 
+/// Without an item in hand, whose selection would show it, the focus is a frame around all.
+void ListStack::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  if (!hasFocus() || currentIndex().isValid()) return;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
 void ListStack::startDrag(Qt::DropActions) {
   if (!front_ || !front_->OLEStartDrag) return;
   front_->OLEStartDrag();

@@ -148,6 +148,19 @@ TEST_F(ColourList, ShowsEachColourBesideItsName) {
   EXPECT_GE(red, 8) << "also in a row that is selected";
 }
 
+TEST_F(ColourList, ShowsItsFocusWithoutAnItemInHand) {
+  const auto picture = [this] {
+    QApplication::processEvents();
+    return view->viewport()->grab().toImage();
+  };
+  view->window()->activateWindow();
+  const QImage focused = picture();
+  ASSERT_FALSE(view->currentIndex().isValid());
+  ASSERT_TRUE(view->hasFocus());
+  view->clearFocus();
+  EXPECT_NE(picture(), focused);
+}
+
 TEST_F(Lists, PaintTheirSelectionPalerWithoutTheFocus) {
   auto& picker = Show<SelectPictureForm>();
   auto* const window = dynamic_cast<QWidget*>(screen.ViewOf(picker));
