@@ -1,7 +1,8 @@
 // The X server, where the program runs on one.
 #pragma once
 
-using Display = struct _XDisplay;
+// By the name that Xlib gives it.
+using Display = struct _XDisplay;  // NOLINT(bugprone-reserved-identifier)
 
 namespace tarvik::screen {
 
