@@ -3,6 +3,7 @@
 #include <random>
 
 #include "support/MemoryFiles.h"
+#include "support/Printers.h"
 #include "workbench/UndoHistory.h"
 
 namespace tarvik {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "composer/StatementPrinters.h"
 #include "language/LogicLines.h"
 
 namespace tarvik {

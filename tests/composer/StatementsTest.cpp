@@ -4,6 +4,7 @@
 #include <map>
 #include <set>
 
+#include "composer/StatementPrinters.h"
 #include "language/Statements.h"
 
 namespace tarvik {

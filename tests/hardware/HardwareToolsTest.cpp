@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
+#include "support/Printers.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
 

@@ -2,6 +2,7 @@
 
 #include "app/Mum.h"
 #include "app/Program.h"
+#include "support/Printers.h"
 #include "tools/programs/ProgramWait.h"
 #include "tools/programs/Shell32.h"
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
+#include "support/Printers.h"
 #include "workbench/ColouredInsertion.h"
 
 namespace tarvik {

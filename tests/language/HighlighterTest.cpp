@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
+#include "support/Printers.h"
 #include "workbench/Highlighter.h"
 
 namespace tarvik {

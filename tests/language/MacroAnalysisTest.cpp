@@ -4,6 +4,7 @@
 #include <random>
 
 #include "language/MacroAnalysis.h"
+#include "support/Printers.h"
 #include "text/CodePage.h"
 #include "text/Search.h"
 

@@ -4,6 +4,7 @@
 
 #include "language/Painting.h"
 #include "support/LiteralPasses.h"
+#include "support/Printers.h"
 
 namespace tarvik {
 namespace {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
+#include "support/Printers.h"
 #include "tools/favourites/Favourites.h"
 #include "tools/preferences/CommandLines.h"
 #include "workbench/PreviousFiles.h"

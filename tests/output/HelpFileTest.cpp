@@ -14,6 +14,9 @@
 #include "workbench/HelpTopics.h"
 
 namespace tarvik {
+
+static void PrintTo(const HelpTopic& topic, std::ostream* out) { *out << "the topic " << topic.title; }
+
 namespace {
 
 using testing::ElementsAre;

@@ -140,7 +140,10 @@ TEST_F(HostFilesTest, AFileOfSomebodyElseStaysInTheGroupThroughWhichItIsWritten)
 TEST_F(HostFilesTest, ANewFileHasTheModeOfAnyNewFile) {
   temporary.Put("dos/other", "");
   ASSERT_TRUE(files.Write("c:\\a.b50", "new"));
-  EXPECT_EQ(fs::status(Host("a.b50")).permissions(), fs::status(Host("other")).permissions());
+  const auto mode = [this](const char* name) {
+    return static_cast<int>(fs::status(Host(name)).permissions());
+  };
+  EXPECT_EQ(mode("a.b50"), mode("other"));
 }
 
 TEST_F(HostFilesTest, ALinkStaysALink) {

@@ -130,7 +130,7 @@ TEST_F(ProgramFolderTest, CopiesCanBeWrittenAndNothingElseIsLeftBehind) {
   const fs::perms readOnly = fs::perms::owner_read;
   fs::permissions(temporary.path() / "usr/share/tarvik/tarvik.hlp", readOnly);
   Start();
-  EXPECT_NE(fs::status(own / "tarvik.hlp").permissions() & fs::perms::owner_write, fs::perms::none);
+  EXPECT_TRUE((fs::status(own / "tarvik.hlp").permissions() & fs::perms::owner_write) != fs::perms::none);
   const auto entries =
       std::distance(fs::recursive_directory_iterator(own), fs::recursive_directory_iterator());
   EXPECT_EQ(entries, 4) << "the help, the templates with one file, and the record of them";

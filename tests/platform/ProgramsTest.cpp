@@ -10,6 +10,7 @@
 
 #include "platform/HostPrograms.h"
 #include "platform/TemporaryFolder.h"
+#include "support/Printers.h"
 
 namespace tarvik {
 namespace {

@@ -16,6 +16,7 @@
 #include "screen/MumWindow.h"
 #include "screen/PaneView.h"
 #include "screen/ProgramOnScreen.h"
+#include "screen/QtPrinters.h"
 #include "tools/pimlet/RAWform.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/viewers/Tips.h"

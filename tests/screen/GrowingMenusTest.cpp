@@ -7,6 +7,7 @@
 
 #include "app/Editor.h"
 #include "screen/ProgramOnScreen.h"
+#include "screen/QtPrinters.h"
 
 namespace tarvik::screen {
 namespace {

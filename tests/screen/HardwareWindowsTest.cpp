@@ -11,6 +11,7 @@
 #include "app/Editor.h"
 #include "screen/PlotView.h"
 #include "screen/ProgramOnScreen.h"
+#include "screen/QtPrinters.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
 

@@ -10,6 +10,7 @@
 #include "controls/Form.h"
 #include "screen/ImageView.h"
 #include "screen/Picture.h"
+#include "screen/QtPrinters.h"
 
 namespace tarvik::screen {
 namespace {

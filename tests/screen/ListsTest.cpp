@@ -10,6 +10,7 @@
 #include "app/Editor.h"
 #include "screen/ListStack.h"
 #include "screen/ProgramOnScreen.h"
+#include "screen/QtPrinters.h"
 #include "tools/composer/InsertOptions.h"
 #include "tools/find/FindAndReplace.h"
 #include "tools/pimlet/RAWform.h"

@@ -158,6 +158,8 @@ std::string ScriptFor(const SettingRow& row, const std::string& closing) {
 struct Way {
   const char* closing;
   std::unique_ptr<Driver> (*makeDriver)(Application&);
+
+  friend void PrintTo(const Way& way, std::ostream* out) { *out << way.closing; }
 };
 
 class PreferencesSettings : public testing::TestWithParam<Way> {};

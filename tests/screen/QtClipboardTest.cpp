@@ -6,6 +6,7 @@
 #include <QMimeData>
 
 #include "screen/QtDesktop.h"
+#include "screen/QtPrinters.h"
 
 namespace tarvik::screen {
 namespace {

@@ -11,6 +11,7 @@
 #include "screen/FontDialog.h"
 #include "screen/QtDialogs.h"
 #include "screen/Text.h"
+#include "support/Printers.h"
 
 namespace tarvik::screen {
 namespace {

@@ -16,6 +16,8 @@ struct Hands {
   const char* name;
   std::unique_ptr<session::Driver> (*makeDriver)(Application&);
   bool reachBehindModal;
+
+  friend void PrintTo(const Hands& hands, std::ostream* out) { *out << hands.name; }
 };
 
 constexpr Hands kHands[] = {{"OnTheForms", session::MakeFormDriver, true},

@@ -20,6 +20,7 @@
 #include "screen/HelpWindow.h"
 #include "screen/PathLabel.h"
 #include "screen/ProgramOnScreen.h"
+#include "screen/QtPrinters.h"
 #include "screen/Text.h"
 #include "tools/blocks/TextBlocks.h"
 #include "tools/composer/InsertOptions.h"
