@@ -42,6 +42,43 @@ std::string FileContent(const Line& line) {
   return line.block.empty() ? "" : Joined(line.block) + (open ? "" : "\r\n");
 }
 
+/// "click TEXT in FORM": the place of the form.
+constexpr std::size_t kFormOfCaption = 3;
+
+bool IsByCaption(const Line& line) { return line.words.size() > kFormOfCaption && line.words[2] == "in"; }
+
+/// What a user reads of a caption: no mnemonic, and no blanks around it.
+std::string Legible(const std::string& caption) {
+  std::string text;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption[i] == '&' && i + 1 < caption.size()) ++i;
+    text += caption[i];
+  }
+  const std::size_t first = std::min(text.find_first_not_of(' '), text.size());
+  return text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
+bool IsVisible(Component& component) {
+  const PropertyBase* const visible = component.FindProperty("Visible");
+  return !visible || visible->ToText() == "True";
+}
+
+bool IsClickable(Component& component) {
+  return dynamic_cast<Control*>(&component) || dynamic_cast<MenuItem*>(&component);
+}
+
+/// The controls and menu entries below `parent` that have the caption.
+std::vector<Component*> WithCaption(Component& parent, const std::string& caption) {
+  std::vector<Component*> found;
+  for (Component* const child : parent.Children()) {
+    const PropertyBase* const own = child->FindProperty("Caption");
+    if (own && IsClickable(*child) && Legible(own->ToText()) == caption) found.push_back(child);
+    const std::vector<Component*> below = WithCaption(*child, caption);
+    found.insert(found.end(), below.begin(), below.end());
+  }
+  return found;
+}
+
 }  // namespace
 
 Runner::Runner(MakeDriver makeDriver, const std::string& dataFolder) : makeDriver_(std::move(makeDriver)) {
@@ -155,6 +192,7 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"killed", &Runner::Killed, Needs::Start},
       {"wait TIME", &Runner::Wait, Needs::Start},
       {"click CONTROL", &Runner::Click, Needs::Program},
+      {"click TEXT in FORM", &Runner::Click, Needs::Program},
       {"dblclick CONTROL [TEXT]", &Runner::DoubleClick, Needs::Program},
       {"rightclick CONTROL [TEXT]", &Runner::RightClick, Needs::Program},
       {"focus CONTROL", &Runner::Focus, Needs::Program},
@@ -206,6 +244,7 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"expect lock caps|num NUMBER", &Runner::ExpectLock, Needs::Start},
       {"expect run TEXT [TEXT] [waited|normal|maximised]", &Runner::ExpectRun, Needs::Start},
       {"expect PROPERTY TEXT|:", &Runner::ExpectProperty, Needs::Program},
+      {"expect TEXT in FORM NAME TEXT|:", &Runner::ExpectPropertyOf, Needs::Program},
   };
   return sentences;
 }
@@ -250,6 +289,7 @@ bool Runner::IsBlocked(const Line& line, const Sentence& sentence) const {
   const auto modal = std::find_if(forms.rbegin(), forms.rend(),
                                   [](const Form* form) { return form->Modal && form->Visible; });
   if (modal == forms.rend()) return false;
+  if (IsByCaption(line)) return line.words[kFormOfCaption] != (*modal)->Name();
   const std::string& control = line.words[line.words[0] == "mouse" ? 2 : 1];
   return control != "value" && control.substr(0, control.find('.')) != (*modal)->Name();
 }
@@ -296,6 +336,19 @@ Component* Runner::Find(const std::string& path) {
   Component* found = dot < path.size() ? form->Resolve(std::string_view(path).substr(dot + 1)) : form;
   if (!found) throw Stop{"there is no " + path};
   return found;
+}
+
+/// The one control with the caption. Of several that one is meant which is not hidden.
+Component* Runner::FindByCaption(const std::string& form, const std::string& caption) {
+  std::vector<Component*> found = WithCaption(*Find(form), caption);
+  const auto hidden =
+      std::stable_partition(found.begin(), found.end(), [](Component* each) { return IsVisible(*each); });
+  if (hidden != found.begin()) found.erase(hidden, found.end());
+  if (found.empty()) throw Stop{"there is no \"" + caption + "\" in " + form};
+  if (found.size() == 1) return found.front();
+  std::string names;
+  for (const Component* const each : found) names += " " + each->FullName();
+  throw Stop{"it is not the only one of that name:" + names};
 }
 
 template <class T>
@@ -498,7 +551,9 @@ void Runner::Wait(const Line& line) {
 // The user.
 
 void Runner::Click(const Line& line) {
-  if (!driver_->Click(*Find(Word(line, 1)))) throw Stop{"it is disabled or hidden"};
+  Component* const control =
+      IsByCaption(line) ? FindByCaption(Word(line, kFormOfCaption), Word(line, 1)) : Find(Word(line, 1));
+  if (!driver_->Click(*control)) throw Stop{"it is disabled or hidden"};
 }
 void Runner::DoubleClick(const Line& line) {
   Component* control = Find(Word(line, 1));
@@ -701,6 +756,14 @@ void Runner::ExpectForm(const Line& line) {
 void Runner::ExpectProperty(const Line& line) {
   const PropertyBase* property = FindProperty(line.words[1]);
   Compare(Wanted(line, 2), driver_->Read(*property));
+}
+
+/// expect CAPTION in FORM PROPERTY TEXT
+void Runner::ExpectPropertyOf(const Line& line) {
+  const PropertyBase* const property =
+      FindByCaption(Word(line, kFormOfCaption), Word(line, 1))->FindProperty(Word(line, kFormOfCaption + 1));
+  if (!property) throw Stop{"it has no property " + Word(line, kFormOfCaption + 1)};
+  Compare(Wanted(line, kFormOfCaption + 2), driver_->Read(*property));
 }
 
 void Runner::ExpectValue(const Line& line) {

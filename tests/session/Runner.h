@@ -96,6 +96,7 @@ class Runner {
   void FillClipboard(const Line& line);
   // What is seen.
   void ExpectProperty(const Line& line);
+  void ExpectPropertyOf(const Line& line);
   void ExpectValue(const Line& line);
   void ExpectBox(const Line& line);
   void ExpectDialog(const Line& line);
@@ -129,6 +130,7 @@ class Runner {
   [[nodiscard]] int Number(const Line& line, std::size_t index);
   [[nodiscard]] std::string Wanted(const Line& line, std::size_t index);
   Component* Find(const std::string& path);
+  Component* FindByCaption(const std::string& form, const std::string& caption);
   template <class T>
   T* FindAs(const std::string& path);
   PropertyBase* FindProperty(const std::string& path);

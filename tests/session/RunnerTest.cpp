@@ -57,7 +57,8 @@ INSTANTIATE_TEST_SUITE_P(
                       "type Editor.JoystickText \"no end", "click Editor.JoystickText\n  a block",
                       "repeat c:\\a.b50 3", "expect printed", "set value InsertionText",
                       "call Editor.Form_Activate now", "call Editor.ExtractButtonDefinition S1 S2",
-                      "without Colours", "drag Editor.List1(0) Gear Editor.JoystickText end"));
+                      "without Colours", "click OK in Composer", "click OK on Editor",
+                      "expect OK in Editor Enabled", "drag Editor.List1(0) Gear Editor.JoystickText end"));
 
 class Impossible : public ::testing::TestWithParam<const char*> {};
 
@@ -77,7 +78,9 @@ INSTANTIATE_TEST_SUITE_P(
                       "call Editor.Explode", "key Editor.JoystickText a 9999999999",
                       "expect focus Editor.MacroTxt", "drag Editor.List1(0) Gear Editor.List1(0) 0",
                       "type Editor.Combo1 abc", "expect popup mnuRHMouse", "expect help anything",
-                      "call KeyTestForm.TurnOffCapsLOCK", "call Editor.ExtractButtonDefinition",
+                      "click \"Push me\" in Editor", "click \"Save\" in Editor", "click OK in Preferences",
+                      "expect /U in Editor Colour 3", "call KeyTestForm.TurnOffCapsLOCK",
+                      "call Editor.ExtractButtonDefinition",
                       "expect colour Editor.JoystickText 0 999999999 0"));
 
 class Leftover : public ::testing::TestWithParam<const char*> {};
@@ -105,6 +108,24 @@ TEST(Runner, KnowsWhichOfTwoAnswersIsLeft) {
   EXPECT_THAT(Failures(std::string(kStarted) + "answer OK\nanswer Yes\nclick Editor.mnuViewIdentify\n"
                                                "expect box \"You're kidding me...right?!\"\n"),
               ElementsAre(StartsWith("6: ")));
+}
+
+/// A caption as a user reads it, without its mnemonic, names a control; of several the one that is not
+/// hidden.
+TEST(Runner, FindsAControlByItsCaption) {
+  EXPECT_THAT(Failures("click Editor.mnuInsertTitle\nexpect OK in Title Enabled True\n"
+                       "click Cancel in Title\nexpect no form Title\n"),
+              IsEmpty());
+  EXPECT_THAT(Failures("set Editor.Command1(0).Caption Twice\nset Editor.Command1(1).Caption &Twice\n"
+                       "set Editor.Command1(0).Visible False\nexpect Twice in Editor Caption &Twice\n"
+                       "set Editor.Command1(1).Visible False\nexpect Twice in Editor Visible False\n"),
+              ElementsAre(StartsWith("6: ")))
+      << "of two hidden ones neither is meant";
+}
+
+TEST(Runner, TellsTheNamesOfControlsOfOneCaption) {
+  EXPECT_THAT(Failures("click \"Tile vertically\" in Editor\n"),
+              ElementsAre(HasSubstr("mnuViewTileVertically mnuWindowCascade(2)")));
 }
 
 TEST(Runner, TellsAnEmptySession) { EXPECT_THAT(Failures("# Nothing but a word.\n"), SizeIs(1)); }
