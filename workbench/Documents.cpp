@@ -38,11 +38,18 @@ void Documents::ShowLine(const Document& document, std::size_t position) {
   if (std::exchange(shownLine_, line) != line) status.Panels(3).Text = "Line no: " + TextOf(line);
 }
 
+/// At every key, mostly with nothing new.
 void Documents::UpdateSavedIcon() const {
   const Document& document = Active();
   const int image = document.Dirty + 2;
-  status.Panels(2).Picture = image;
-  status.Panels(2).ToolTipText = document.Name.Get().Text() + kSavedStateTips[image - 1];
+  const std::string& name = document.Name.Get().Text();
+  const std::string_view state = kSavedStateTips[image - 1];
+  Panel& panel = status.Panels(2);
+  panel.Picture = image;
+  const std::string& shown = panel.ToolTipText;
+  const bool isShown =
+      shown.size() == name.size() + state.size() && shown.starts_with(name) && shown.ends_with(state);
+  if (!isShown) panel.ToolTipText = name + std::string(state);
 }
 
 void ApplyFont(Pane& pane, const Settings& settings) {

@@ -113,10 +113,10 @@ Edits UndoHistory::WayToShown() {
 
 void UndoHistory::Open(int undoMax) {
   // The way from slot 1, which becomes slot 2, to the slot on show, and on to what the pane holds now.
-  const Edits made = std::exchange(unrecorded_, {});
+  Edits made = std::exchange(unrecorded_, {});
   Edits path = Index > 1 ? WayToShown() : Edits();
   if (path.empty()) {
-    path = made;
+    path = std::move(made);
   } else {
     Add(path, made);
   }
