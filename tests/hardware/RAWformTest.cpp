@@ -1,4 +1,9 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
 
 #include "app/Program.h"
 #include "tools/pimlet/RAWform.h"
@@ -12,15 +17,41 @@ class Pimlet : public testing::Test {
   RAWform& form = program.application.Tool<RAWform>();
 };
 
-TEST_F(Pimlet, GivesEveryKeyOfTheTableAButtonOnItsPlace) {
-  for (const KeyRow& row : kKeys) {
-    const CommandButton& key = form.Command1(row.key);
-    EXPECT_EQ(key.Caption.Get(), row.caption);
-    EXPECT_EQ(key.Left, static_cast<float>(row.place.left));
-    EXPECT_EQ(key.Height, static_cast<float>(row.place.height));
-  }
+TEST_F(Pimlet, HasAButtonForEachOfAHundredAndOneKeys) {
   EXPECT_EQ(form.Command1.Count(), 101);
-  EXPECT_FALSE(form.FindChild("Command1", 54));
+  EXPECT_EQ(kKeys.size(), 101U);
+  for (const KeyRow& row : kKeys) EXPECT_TRUE(form.FindChild("Command1", row.key)) << row.key;
+  EXPECT_FALSE(form.FindChild("Command1", 54)) << "no key has this number";
+}
+
+/// Two may share the pixel of their borders.
+TEST_F(Pimlet, LaysItsKeysSideBySide) {
+  constexpr float kBorder = 15;  // twips
+  const auto overlap = [](const CommandButton& one, const CommandButton& other) {
+    const float width =
+        std::min(one.Left + one.Width, other.Left + other.Width) - std::max<float>(one.Left, other.Left);
+    const float height =
+        std::min(one.Top + one.Height, other.Top + other.Height) - std::max<float>(one.Top, other.Top);
+    return width > kBorder && height > kBorder;
+  };
+  for (const KeyRow& row : kKeys) {
+    for (const KeyRow& other : kKeys) {
+      if (row.key >= other.key) continue;
+      EXPECT_FALSE(overlap(form.Command1(row.key), form.Command1(other.key)))
+          << row.name << " and " << other.name;
+    }
+  }
+}
+
+/// A key that comes up sends what it sent going down, behind F0. These differ, and Pause has no break.
+TEST_F(Pimlet, SendsABreakThatFitsTheMake) {
+  std::set<std::string_view> odd;
+  for (const KeyRow& row : kKeys) {
+    std::string fitting(row.make);
+    fitting.insert(fitting.rfind('#'), "#F0 ");
+    if (row.breaks != fitting) odd.insert(row.name);
+  }
+  EXPECT_THAT(odd, testing::UnorderedElementsAre("m", "KP*", "F2", kNotSupported));
 }
 
 TEST_F(Pimlet, ShowsOnEachKeyWhatTheTableSaysOfIt) {
