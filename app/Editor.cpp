@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/EditorTables.h"
+#include "language/Controllers.h"
 
 namespace tarvik {
 namespace {
@@ -46,8 +47,8 @@ Editor::Editor(Application& application)
       TempRichTextBox(application.workbench.documents.scratch),
       CompareRTF(application.workbench.documents.compare),
       TabStrip1(application.workbench.documents.tabs),
-      Combo1(application.workbench.macros.categories),
-      List1(application.workbench.macros.lists),
+      Combo1(application.workbench.macros.panel.Combo1),
+      List1(application.workbench.macros.panel.List1),
       Timer1(application.workbench.autoSave.timer),
       TimerBlinkLine(application.workbench.blink.timer),
       menus(*this, tables::kMenus),
@@ -86,8 +87,6 @@ void Editor::SetUpControls() {
   FrameMacros.MouseDown = [this](const Mouse&) { FrameMacros_MouseDown(); };
   FrameMacros.MouseMove = [this](const Mouse& mouse) { FrameMacros_MouseMove(mouse); };
   FrameMacros.DblClick = [this] { FrameMacros_DblClick(); };
-  Combo1.ToolTipText = "Macro categories";
-  Combo1.Click = [this] { Combo1_Click(); };
   Combo1.GotFocus = [this] { Combo1_GotFocus(); };
   for (int i = 0; i < kModifierButtons; ++i) {
     Command1(i).Caption = tables::kModifierCaptions[i];
@@ -95,11 +94,7 @@ void Editor::SetUpControls() {
     Command1(i).MouseDown = [this](const Mouse&) { Command1_MouseDown(); };
     Command1(i).MouseMove = [this](const Mouse&) { Command1_MouseMove(); };
   }
-  List1.Prepare = [this](ListBox& list) {
-    list.Visible = false;  // until its category is chosen: nothing is shown of it while it is filled
-    AttachList(list);
-  };
-  AttachList(List1(0));
+  bench_.macros.panel.Serve({[this] { layout_.ResetFramePointer(); }, [this] { ShowPopUp("mnuRHList"); }});
   Timer1.Elapsed = [this] { Timer1_Timer(); };
   TimerBlinkLine.Elapsed = [this] { TimerBlinkLine_Timer(); };
   input_.Attach(Joystick);
@@ -108,17 +103,6 @@ void Editor::SetUpControls() {
   mnuViewWordWrap.Checked = true;
   Form::Resize = [this] { Form_Resize(); };
   Form::Activate = [this] { Form_Activate(); };
-}
-
-void Editor::AttachList(ListBox& list) {
-  const int index = *list.Index();
-  list.ToolTipText = "Double click macro to insert into Joystick file, or use drag and drop";
-  list.MouseDown = [this, index](const Mouse& mouse) { List1_MouseDown(index, mouse); };
-  list.MouseMove = [this, index](const Mouse& mouse) { List1_MouseMove(index, mouse); };
-  list.DblClick = [this, index] { List1_DblClick(index); };
-  list.OLEStartDrag = [this, index] { List1_OLEStartDrag(index); };
-  const ListBox& first = List1(0);
-  list.Move(first.Left, first.Top, first.Width, first.Height);
 }
 
 void Editor::SetUpToolbar() {
@@ -242,8 +226,9 @@ void Editor::OpenPreviouslySavedFiles(const std::string& path) {
     // well.
     const std::string& name = bench_.files.NameToOpen();
     const std::string ending = name.substr(name.size() - std::min<std::size_t>(3, name.size()));
-    constexpr std::string_view kMacroExtensions = "m22m50mdf";
-    if (kMacroExtensions.find(ending) != std::string_view::npos) {
+    std::string macroEndings;
+    for (const Endings& endings : kEndings) macroEndings += endings.macro;
+    if (macroEndings.find(ending) != std::string::npos) {
       MnuFileMacroLoad_Click();
     } else {
       mnuFileJoystickLoad_Click();
@@ -253,7 +238,7 @@ void Editor::OpenPreviouslySavedFiles(const std::string& path) {
 }
 
 void Editor::F22MenusUpdate() {
-  const bool f22 = bench_.settings.JoyName == 0;
+  const bool f22 = bench_.settings.JoyName == kF22Pro;
   for (const char* entry : tables::kF22Entries) menus(entry).Visible = f22;
   Command1(kIgnoreDelayButton).Visible = f22;
   Command1(kFormatButton).Caption = f22 ? "/F" : "/A";

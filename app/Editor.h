@@ -186,17 +186,12 @@ class Editor : public Form {
   // Macros.
   void mnuEditUpdateMacros_Click() { bench_.files.UpdateMacros(); }
   void mnuViewIdentify_Click() { bench_.macros.IdentifyMacrosUsed(); }
-  void mnuRHListInsert_Click() { bench_.macros.Insert(List1(bench_.macros.PopupListIndex)); }
-  void mnuFindInJF_Click();
+  void mnuRHListInsert_Click() { bench_.macros.panel.mnuRHListInsert_Click(); }
+  void mnuFindInJF_Click() { bench_.macros.panel.FindMacriInJfile(); }
   void mnuRHListIdentify_Click() { bench_.macros.IdentifyMacrosUsed(); }
-  void mnuRHListEdit_Click();
+  void mnuRHListEdit_Click() { bench_.macros.panel.mnuRHListEdit_Click(); }
   void ExtractButtonDefinition(const std::string& name) { bench_.macros.ExtractButtonDefinition(name); }
-  void Combo1_Click();
   void Combo1_GotFocus() { layout_.ResetFramePointer(); }
-  void List1_MouseDown(int index, const Mouse& mouse);
-  void List1_MouseMove(int index, const Mouse& mouse);
-  void List1_DblClick(int index) { bench_.macros.Insert(List1(index)); }
-  void List1_OLEStartDrag(int index);
   void Command1_Click(int index);
   void Command1_MouseDown() { HelpOnWhatsThis(topic::kSlashModifiers); }
   void Command1_MouseMove() { layout_.ResetFramePointer(); }
@@ -241,7 +236,6 @@ class Editor : public Form {
 
  private:
   void SetUpControls();
-  void AttachList(ListBox& list);
   void AdoptControls();
   void SetUpToolbar();
   void OpenFilesOfTheStart();

@@ -14,41 +14,6 @@ void Editor::HelpOnWhatsThis(int topic) {
   mum_.MousePointer = pointer::kDefault;
 }
 
-void Editor::mnuFindInJF_Click() {
-  bench_.macros.TakeFrom(List1(bench_.macros.PopupListIndex));
-  bench_.macros.FindMacroInJF();
-}
-
-void Editor::mnuRHListEdit_Click() {
-  bench_.documents.Select(Macro);
-  bench_.macros.TakeFrom(List1(bench_.macros.PopupListIndex));
-  MacroText.SetFocus();
-  bench_.macros.ShowMacroKeys();
-}
-
-void Editor::Combo1_Click() {
-  layout_.ResetFramePointer();
-  bench_.macros.ShowCategory();
-}
-
-void Editor::List1_MouseDown(int index, const Mouse& mouse) {
-  constexpr int kRight = 2;
-  bench_.macros.TakeUnder(List1(index), mouse);
-  if (mouse.button != kRight || List1(index).ListCount() == 0) return;
-  bench_.macros.PopupListIndex = index;
-  ShowPopUp("mnuRHList");
-}
-
-void Editor::List1_MouseMove(int index, const Mouse& mouse) {
-  layout_.ResetFramePointer();
-  bench_.macros.TakeUnder(List1(index), mouse);
-}
-
-void Editor::List1_OLEStartDrag(int index) {
-  bench_.macros.TakeFrom(List1(index));
-  List1(index).DragText = " " + bench_.values.SelectedMacro.Get() + " ";
-}
-
 void Editor::Command1_Click(int index) {
   Values& values = bench_.values;
   const Settings& settings = bench_.settings;

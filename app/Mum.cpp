@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "language/Controllers.h"
+
 namespace tarvik {
 namespace {
 
@@ -39,20 +41,23 @@ struct Installation {
   const char* file;  ///< that must be there too, or null
   const char* programFiles;
   const char* loader;  ///< null: unchanged
-  const char* joystickExtension;
-  const char* macroExtension;
   const char* controlCentre;
-  int joystick;
-  int throttle;  ///< -1: unchanged
+  JoystickNumber joystick;
+  std::optional<ThrottleNumber> throttle;  ///< nothing: unchanged
 };
 
 constexpr Installation kInstallations[] = {
-    {"c:\\tm\\f22", nullptr, "c:\\tm\\f22\\f22progs", "c:\\tm\\f22\\f22load.exe", "f22", "m22",
-     "c:\\tm\\f22\\f22.bat", 0, -1},
-    {"c:\\tqs", nullptr, "c:\\tqs\\programs", "c:\\tqs\\b50load.exe", "b50", "m50", "c:\\tqs\\tm.bat", 1, 1},
-    {"c:\\tm", "c:\\tm\\b50load.exe", "c:\\tm\\b50progs", "c:\\tm\\b50load.exe", "b50", "m50",
-     "c:\\tm\\tm.bat", 1, 0},
-    {"c:\\tm", nullptr, "c:\\tm\\programs", nullptr, "adv", "mdf", "c:\\tm\\tm.bat", 2, 0},
+    {"c:\\tm\\f22",
+     nullptr,
+     "c:\\tm\\f22\\f22progs",
+     "c:\\tm\\f22\\f22load.exe",
+     "c:\\tm\\f22\\f22.bat",
+     kF22Pro,
+     {}},
+    {"c:\\tqs", nullptr, "c:\\tqs\\programs", "c:\\tqs\\b50load.exe", "c:\\tqs\\tm.bat", kFlcs, kTqs},
+    {"c:\\tm", "c:\\tm\\b50load.exe", "c:\\tm\\b50progs", "c:\\tm\\b50load.exe", "c:\\tm\\tm.bat", kFlcs,
+     kNoThrottle},
+    {"c:\\tm", nullptr, "c:\\tm\\programs", nullptr, "c:\\tm\\tm.bat", kPfcs, kNoThrottle},
 };
 
 float ToFloat(const std::string& text) {
@@ -169,11 +174,12 @@ void Mum::AutoDetect() {
     if (!files.FolderExists(row.folder) || (row.file && !files.FileExists(row.file))) continue;
     settings.ProgramFilesPath = row.programFiles;
     if (row.loader) settings.B50LoadPath = row.loader;
-    settings.JoystickExtension = row.joystickExtension;
-    settings.MacroExtension = row.macroExtension;
+    const Endings& endings = kJoysticks[row.joystick].endings;
+    settings.JoystickExtension = std::string(endings.joystick);
+    settings.MacroExtension = std::string(endings.macro);
     settings.CandCCPath = row.controlCentre;
     settings.JoyName = row.joystick;
-    if (row.throttle >= 0) settings.ThrottleName = row.throttle;
+    if (row.throttle) settings.ThrottleName = *row.throttle;
     settings.SaveOptions();
     return;
   }

@@ -23,19 +23,6 @@ inline constexpr std::string_view kHatTip = "Insert or find this hat statement";
 inline constexpr std::string_view kThrottleTip =
     "Set up for digital throttle use as opposed to normal analogue";
 
-/// What a joystick of JoyName is to the Composer.
-struct JoystickRow {
-  std::string_view model;
-  std::string_view ending;  ///< of its files, where a file tells the model
-};
-
-inline constexpr JoystickRow kJoysticks[] = {
-    {"F-22 Pro", "f22"}, {"F-16 FLCS", "b50"}, {"PFCS", "adv"}, {"Top Gun", ""}, {"FCS", ""}};
-inline constexpr int kF22Pro = 0;
-inline constexpr int kFlcs = 1;  ///< the last one that is programmed in the language of the F-22 Pro
-inline constexpr int kTqs = 1;   ///< ThrottleName
-inline constexpr int kLastWcs = 3;
-
 // The buttons of the WCS are named by kWcsButtons.
 inline constexpr HardwareRow kHardware[] = {
     {"HAT", 0, Picture::Stick, " H1", kHatTip},
@@ -120,7 +107,7 @@ struct RotaryRow {
 inline constexpr int kSwapTriggers = 4;
 inline constexpr int kPortLatch = 7;
 /// The rotaries that go without rudders.
-inline constexpr int kRudders[] = {2, 8};
+inline constexpr int kRudderLabels[] = {2, 8};
 
 inline constexpr RotaryRow kRotaries[] = {
     {"RNG", 1, -1}, {"ANT", 2, -1}, {"RDDR", 4, 2}, {"JSX", 4, 0},  {"SWAPTG ", 0, -1},

@@ -1,10 +1,11 @@
 #include "language/Keystrings.h"
 
+#include "language/Controllers.h"
+
 namespace tarvik {
 namespace {
 
 constexpr int kSeven = 7;
-constexpr int kF22Pro = 0;
 
 // By Shift 1, Ctrl 2 and Alt 4 added up. Alt with Shift has no blank behind it.
 constexpr std::string_view kAltShift = "ALT SHF";

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "language/Controllers.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -69,13 +70,6 @@ const FileWords& WordsOf(const Document& document) {
   return document.IsJoystick() ? kJoystickWords : kMacroWords;
 }
 
-/// The extensions of one hardware's two files.
-struct Pair {
-  std::string_view joystick;
-  std::string_view macro;
-};
-constexpr Pair kPairs[] = {{"f22", "m22"}, {"b50", "m50"}, {"adv", "mdf"}};
-
 /// The file of a path in lower case; nothing where it names none.
 template <class File>
 std::optional<File> FileAt(const std::string& path) {
@@ -90,9 +84,9 @@ std::string_view Ending(std::string_view name) {
   return name.substr(name.size() - std::min<std::size_t>(3, name.size()));
 }
 
-bool EndsAs(std::string_view name, std::string_view Pair::*half) {
-  return std::any_of(std::begin(kPairs), std::end(kPairs),
-                     [&](const Pair& pair) { return pair.*half == Ending(name); });
+bool EndsAs(std::string_view name, std::string_view Endings::*half) {
+  return std::any_of(std::begin(kEndings), std::end(kEndings),
+                     [&](const Endings& pair) { return pair.*half == Ending(name); });
 }
 
 std::string WithEnding(std::string name, std::string_view ending) {
@@ -362,9 +356,9 @@ void FileCommands::OpenPair() {
     file = *chosen;
   }
   const Loading loading(documents_.values);
-  if (EndsAs(file.name.Text(), &Pair::macro)) {
+  if (EndsAs(file.name.Text(), &Endings::macro)) {
     if (CanRead(file.path, trap)) OpenMacroThenJoystick(file, trap);
-  } else if (EndsAs(file.name.Text(), &Pair::joystick)) {
+  } else if (EndsAs(file.name.Text(), &Endings::joystick)) {
     if (CanRead(file.path, trap)) OpenJoystickThenMacro(file, trap);
   } else {
     TellUnrecognised();
@@ -375,7 +369,7 @@ void FileCommands::OpenPairAmong(const std::vector<std::string>& paths) {
   if (paths.empty()) return;
   const auto ofAPair = std::find_if(paths.begin(), paths.end(), [](const std::string& path) {
     const std::string name = LowerCase(path);
-    return EndsAs(name, &Pair::joystick) || EndsAs(name, &Pair::macro);
+    return EndsAs(name, &Endings::joystick) || EndsAs(name, &Endings::macro);
   });
   OpenWithoutDialog(ofAPair == paths.end() ? paths.front() : *ofAPair);
   OpenPair();
@@ -385,8 +379,8 @@ void FileCommands::OpenPairAmong(const std::vector<std::string>& paths) {
 void FileCommands::OpenFavourite(const std::string& path) {
   if (path.empty()) return;
   OpenWithoutDialog(path);
-  const bool macro = std::any_of(std::begin(kPairs), std::end(kPairs),
-                                 [&path](const Pair& pair) { return path.ends_with(pair.macro); });
+  const bool macro = std::any_of(std::begin(kEndings), std::end(kEndings),
+                                 [&path](const Endings& pair) { return path.ends_with(pair.macro); });
   Load(macro ? documents_.macro : documents_.joystick);
   OpenWithDialogs();
 }
@@ -396,8 +390,8 @@ void FileCommands::OpenMacroThenJoystick(const File& file, const Trap& trap) {
   OpenMacro(file, trap);
   documents_.Select(documents_.macro);
   documents_.UpdateSavedIcon();
-  const auto pair = std::find_if(std::begin(kPairs), std::end(kPairs),
-                                 [&](const Pair& each) { return each.macro == Ending(file.name.Text()); });
+  const auto pair = std::find_if(std::begin(kEndings), std::end(kEndings),
+                                 [&](const Endings& each) { return each.macro == Ending(file.name.Text()); });
   const auto partner = FileAt<File>(WithEnding(file.path, pair->joystick));
   if (!partner || !documents_.platform.files.FileExists(partner->path)) {
     documents_.Say("Joystick file not opened");
@@ -424,7 +418,7 @@ std::optional<FileCommands::File> FileCommands::MacroFileNamedIn(Document& joyst
   }
   const std::string path = joystick.Path;
   if (!named) return FileAt<File>(WithEnding(path, ""));
-  const auto pair = std::find_if(std::begin(kPairs), std::end(kPairs), [&](const Pair& each) {
+  const auto pair = std::find_if(std::begin(kEndings), std::end(kEndings), [&](const Endings& each) {
     return each.joystick == Ending(joystick.Name.Get().Text());
   });
   joystick.Caret = joystick.Caret + 1;

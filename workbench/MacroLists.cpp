@@ -42,12 +42,9 @@ constexpr Starter kDefinitionStarters[] = {
 
 void MacroLists::ClearAllForNewMacroFile() {
   headings_.clear();
-  categories.Clear();
-  lists(0).Clear();
-  for (int i = lists.Count() - 1; i > 0; --i) lists.Unload(i);
-  lists(0).Visible = true;
+  panel.ClearAllForNewMacroFile();
+  panel.List1(0).Visible = true;
   documents_.values.SelectedCategoryList = 0;
-  PopupListIndex = 0;  // the list it was opened on may be gone
   documents_.values.MacroListChanged = 1;
 }
 
@@ -73,28 +70,28 @@ void MacroLists::ExtractMacrosAndTitles() {
   Fill(AnalyseMacros(records_));
   documents_.Say("Done");
   ShowAll();
-  documents_.status.Panels(8).ToolTipText = "Contains " + TextOf(lists(0).ListCount()) + " macros and " +
-                                            TextOf(headings_.size() - 1) + " macro headings";
+  documents_.status.Panels(8).ToolTipText = "Contains " + TextOf(panel.List1(0).ListCount()) +
+                                            " macros and " + TextOf(headings_.size() - 1) + " macro headings";
 }
 
 void MacroLists::Fill(MacroAnalysis analysis) {
   headings_ = {kAll};
-  lists(0).Fill(std::move(analysis.macros));
+  panel.List1(0).Fill(std::move(analysis.macros));
   for (MacroCategory& category : analysis.categories) {
     headings_.push_back(std::move(category.heading));
-    ListBox& list = lists.Load(lists.Count());
+    ListBox& list = panel.List1.Load(panel.List1.Count());
     list.Fill(std::move(category.macros));
   }
-  categories.Fill(headings_);
+  panel.Combo1.Fill(headings_);
 }
 
 /// Selects "All". A list may bear that name too: each entry of the name is selected in turn.
 void MacroLists::ShowAll() {
-  for (int item = 0; item < categories.ListCount(); ++item) {
-    if (categories.List()[static_cast<std::size_t>(item)] != kAll) continue;
+  for (int item = 0; item < panel.Combo1.ListCount(); ++item) {
+    if (panel.Combo1.List()[static_cast<std::size_t>(item)] != kAll) continue;
     documents_.values.SelectedCategoryList = item;
-    categories.Select(item);
-    lists(item).ToFront();
+    panel.Combo1.Select(item);
+    panel.List1(item).ToFront();
   }
 }
 
@@ -110,19 +107,25 @@ void MacroLists::ShowMacroKeys() {
   documents_.macro.SelLength = documents_.macro.text.SelLength;
 }
 
-void MacroLists::ShowCategory(const ComboBox& chosen, const ControlArray<ListBox>& shown) {
-  const std::string wanted = LowerCase(chosen.Text());
-  const int count = std::min(shown.Count(), static_cast<int>(headings_.size()));
+void MacroLists::ShowInMacroFile() {
+  documents_.Select(documents_.macro);
+  documents_.macro.text.SetFocus();
+  ShowMacroKeys();
+}
+
+void MacroLists::ShowCategory(const MacroListPanel& shown) {
+  const std::string wanted = LowerCase(shown.Combo1.Text());
+  const int count = std::min(shown.List1.Count(), static_cast<int>(headings_.size()));
   for (int i = 0; i < count; ++i) {
-    ListBox& list = shown(i);
+    ListBox& list = shown.List1(i);
     const bool isWanted = LowerCase(headings_[static_cast<std::size_t>(i)]) == wanted;
     list.Visible = isWanted;
     if (!isWanted) continue;
     documents_.values.SelectedCategoryList = i;
     list.ToFront();
   }
-  if (documents_.values.SelectedCategoryList >= shown.Count()) return;
-  ListBox& front = shown(documents_.values.SelectedCategoryList);
+  if (documents_.values.SelectedCategoryList >= shown.List1.Count()) return;
+  ListBox& front = shown.List1(documents_.values.SelectedCategoryList);
   if (front.ListCount() == 0) return;
   front.ListIndex = 0;
   TakeFrom(front);
@@ -157,20 +160,20 @@ void MacroLists::IdentifyMacrosUsed() {
 /// The names of all lists are looked up at once: the text is read through once for all of them.
 void MacroLists::TickNamesUsed(std::string_view text) {
   std::vector<std::string> names;
-  for (int i = 0; i < lists.Count(); ++i) {
-    names.insert(names.end(), lists(i).List().begin(), lists(i).List().end());
+  for (int i = 0; i < panel.List1.Count(); ++i) {
+    names.insert(names.end(), panel.List1(i).List().begin(), panel.List1(i).List().end());
   }
   const std::vector<bool> used = NamesUsed(text, names);
   auto first = used.begin();
-  for (int i = 0; i < lists.Count(); ++i) {
-    const auto last = first + lists(i).ListCount();
-    lists(i).Tick(std::vector<bool>(first, last));
+  for (int i = 0; i < panel.List1.Count(); ++i) {
+    const auto last = first + panel.List1(i).ListCount();
+    panel.List1(i).Tick(std::vector<bool>(first, last));
     first = last;
   }
 }
 
 void MacroLists::ClearMacroTicks() {
-  for (int i = 0; i < lists.Count(); ++i) lists(i).Tick({});
+  for (int i = 0; i < panel.List1.Count(); ++i) panel.List1(i).Tick({});
 }
 
 void MacroLists::FindMacroInJF() {

@@ -4,6 +4,7 @@
 
 #include "language/MacroAnalysis.h"
 #include "workbench/Documents.h"
+#include "workbench/MacroListPanel.h"
 
 namespace tarvik {
 
@@ -13,11 +14,8 @@ class MacroLists {
  public:
   explicit MacroLists(Documents& documents) : documents_(documents) {}
 
-  ComboBox categories{documents_, "Combo1"};
-  ControlArray<ListBox> lists{documents_, "List1", 1};
-
-  /// Member of the "List1" array on which the pop-up menu was opened.
-  int PopupListIndex = 0;
+  /// The lists as they are, for the editor to show.
+  MacroListPanel panel{documents_, *this};
 
   // Analysis, in the order of its calls.
   void ClearAllForNewMacroFile();
@@ -28,12 +26,15 @@ class MacroLists {
   /// Shows the definition of SelectedMacro in status panel 1, and selects it in the macro file when that is
   /// on show.
   void ShowMacroKeys();
+  /// The same with the macro file on top.
+  void ShowInMacroFile();
   /// "All", then the headings of the macro file in its order; each has the list of its index.
   [[nodiscard]] const std::vector<std::string>& MacroHeadings() const { return headings_; }
   /// Brings the list of the selected category to the front and takes its first macro; what is shown are the
   /// lists or a tool's copies of them.
-  void ShowCategory() { ShowCategory(categories, lists); }
-  void ShowCategory(const ComboBox& chosen, const ControlArray<ListBox>& shown);
+  void ShowCategory(const MacroListPanel& shown);
+  /// The macro last taken from a list.
+  [[nodiscard]] const std::string& Selected() const { return documents_.values.SelectedMacro; }
   /// Takes SelectedMacro from a list.
   void TakeFrom(const ListBox& list) { documents_.values.SelectedMacro = list.Current(); }
   /// Takes the macro that the mouse went down on or is dragged over, and with Shift goes to its first use.

@@ -49,7 +49,7 @@ TEST_F(InsertOptionsTest, TheMacroInHandIsFoundInTheJoystickFile) {
   composer.List1(0).Fill({"Fire"});
   composer.List1(0).ListIndex = 0;
   editor.TabStrip1.Select(2);
-  composer.FindMacriInJfile();
+  composer.macros.FindMacriInJfile();
   EXPECT_EQ(editor.TabStrip1.SelectedIndex(), 1);
   EXPECT_EQ(editor.JoystickText.SelStart, 21U);
   EXPECT_EQ(editor.Joystick.Caret, 21U);

@@ -1,13 +1,10 @@
 #include "tools/blocks/TextBlocks.h"
 
+#include "language/Controllers.h"
 #include "language/MacroHeadings.h"
 
 namespace tarvik {
 namespace {
-
-constexpr const char* kJoysticks[] = {"F22 Pro", "F-16 FLCS", "P FCS", "Top Gun", "FCS"};
-constexpr const char* kThrottles[] = {", no throttle", ", TQS", ", WCS MkII", ", WCS"};
-constexpr const char* kRudders[] = {", no rudders.", ", Elite rudders.", ", RCS."};
 
 constexpr const char* kEmptyLine = "Rem";
 constexpr std::size_t kRuleSigns = 48;
@@ -15,9 +12,10 @@ constexpr std::size_t kLineWidth = 52;      // of a title
 constexpr std::size_t kWidestCentred = 50;  // "Rem " and the text stay below it
 
 /// Nothing for a number that is no row's.
-template <std::size_t N>
-std::string Row(const char* const (&rows)[N], int index) {
-  return index >= 0 && index < static_cast<int>(N) ? rows[index] : "";
+template <class Rows>
+std::string InTitle(const Rows& rows, int number) {
+  const auto* const row = RowOf(rows, number);
+  return row ? std::string(row->inTitle) : std::string();
 }
 
 std::string Centred(const std::string& text) {
@@ -41,8 +39,8 @@ void WriteLines(Workbench& bench, const std::vector<std::string>& lines) {
 }  // namespace
 
 std::string GetHardwareNames(const Settings& settings) {
-  return Row(kJoysticks, settings.JoyName) + Row(kThrottles, settings.ThrottleName) +
-         Row(kRudders, settings.RudderName);
+  return InTitle(kJoysticks, settings.JoyName) + InTitle(kThrottles, settings.ThrottleName) +
+         InTitle(kRudders, settings.RudderName);
 }
 
 // The title.

@@ -65,6 +65,7 @@ float WithinScreen(float place, float extent) { return place < 0 || place > exte
 
 InsertOptions::InsertOptions(Workbench& bench, Shell& shell)
     : Form("InsertOptions"),
+      macros(*this, bench.macros),
       TemplatesPreview(*this, "TemplatesPreview", bench.platform.files),
       menus(*this, kMenus),
       bench_(bench),
@@ -269,84 +270,20 @@ void InsertOptions::Check1_Click() {
 
 // The copy of the editor's macro lists.
 
-void InsertOptions::AttachList(ListBox& list) {
-  const int index = *list.Index();
-  list.ToolTipText = "Double click macro to insert into Joystick file, or use drag and drop";
-  list.MouseDown = [this, index](const Mouse& mouse) { List1_MouseDown(index, mouse); };
-  list.MouseMove = [this, index](const Mouse& mouse) { List1_MouseMove(index, mouse); };
-  list.DblClick = [this, index] { List1_DblClick(index); };
-  list.OLEStartDrag = [this, index] { List1_OLEStartDrag(index); };
-}
-
-void InsertOptions::ClearAllForNewMacroFile() {
-  Combo1.Clear();
-  List1(0).Clear();
-  for (int i = List1.Count() - 1; i > 0; --i) List1.Unload(i);
-  PopupListIndex = 0;  // the list it was opened on may be gone
-}
-
 void InsertOptions::CopyMacroList() {
-  const MacroLists& from = bench_.macros;
-  ClearAllForNewMacroFile();
-  Combo1.FillInOrder(from.categories.List());
-  for (int i = 0; i < from.lists.Count(); ++i) {
-    ListBox& list = i == 0 ? List1(0) : List1.Load(i);
-    list.Visible = i == 0;
-    list.FillInOrder(from.lists(i).List());
-    list.Tick(from.lists(i).Ticks());
-  }
+  macros.CopyMacroList(bench_.macros.panel);
   for (int item = 0; item < Combo1.ListCount(); ++item) {
     if (Combo1.List()[static_cast<std::size_t>(item)] != "All") continue;
     bench_.values.SelectedCategoryList = item;
     Combo1.ListIndex = item;
     List1(0).ToFront();
   }
-  if (List1(0).ListCount() > 0) List1(0).ListIndex = 0;
   bench_.values.MacroListChanged = 0;
 }
 
-void InsertOptions::Combo1_Click() { bench_.macros.ShowCategory(Combo1, List1); }
-
-void InsertOptions::List1_MouseDown(int index, const Mouse& mouse) {
-  constexpr int kLeft = 1;
-  constexpr int kRight = 2;
-  List1_MouseMove(index, mouse);
-  const bool finds = mouse.button == kLeft && mouse.shift == shift::kShift;
-  if (List1(index).ListCount() == 0 || (!finds && mouse.button != kRight)) return;
-  PopupListIndex = index;
-  if (mouse.button == kRight) PopUp("mnuRHList");
-}
-
-void InsertOptions::List1_MouseMove(int index, const Mouse& mouse) {
-  bench_.macros.TakeUnder(List1(index), mouse);
-}
-
-void InsertOptions::List1_DblClick(int index) {
-  bench_.macros.Insert(List1(index));
-  if (COMPaddCR == 1) bench_.insertion.InsertCarriageReturn();
-}
-
-void InsertOptions::List1_OLEStartDrag(int index) {
-  bench_.macros.TakeFrom(List1(index));
-  List1(index).DragText = " " + bench_.values.SelectedMacro.Get() + " ";
-}
-
 void InsertOptions::mnuFindInJoyFile_Click() {
-  bench_.macros.TakeFrom(List1(PopupListIndex));
   bench_.documents.joystick.text.SetFocus();
-  bench_.macros.FindMacroInJF();
-}
-
-void InsertOptions::mnuRHListEdit_Click() {
-  bench_.documents.Select(bench_.documents.macro);
-  bench_.macros.TakeFrom(List1(PopupListIndex));
-  bench_.documents.macro.text.SetFocus();
-  bench_.macros.ShowMacroKeys();
-}
-
-void InsertOptions::FindMacriInJfile() {
-  bench_.macros.TakeFrom(List1(PopupListIndex));
-  bench_.macros.FindMacroInJF();
+  macros.FindMacriInJfile();
 }
 
 }  // namespace tarvik

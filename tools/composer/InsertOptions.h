@@ -26,8 +26,9 @@ class InsertOptions : public Form {
   // The main page.
   TabPages SSTabHardware{*this, "SSTabHardware", {"F22 and F16 ", "PFCS and FCS", "TQS", "WCS"}};
   NamedControls<Label> hardware{*this};  ///< HAT, BTN, TRIG and ROTARY
-  ComboBox Combo1{*this, "Combo1"};
-  ControlArray<ListBox> List1{*this, "List1", 1};
+  MacroListPanel macros;                 ///< a copy of the editor's
+  ComboBox& Combo1 = macros.Combo1;
+  ControlArray<ListBox>& List1 = macros.List1;
   CheckBox CheckCopyTicks{*this, "CheckCopyTicks", "Refresh macro list on focus"};
   CheckBox CheckAddCR{*this, "CheckAddCR", "Add carriage return on insert"};
   ControlArray<CommandButton> SlashButton{*this, "SlashButton", std::size(tables::kSlashes)};
@@ -92,7 +93,6 @@ class InsertOptions : public Form {
   Property<int> COMPMacrosTickedCopy{*this, "COMPMacrosTickedCopy", 0};
   Property<int> LastTemplateIndex{*this, "LastTemplateIndex", -1};
   Property<int> CurrentLogicLine{*this, "CurrentLogicLine", 0};
-  Property<int> PopupListIndex{*this, "PopupListIndex", 0};
   Property<std::string> TemplatePath{*this, "TemplatePath"};
 
   /// Shows the Composer on its main page, or its templates.
@@ -115,18 +115,10 @@ class InsertOptions : public Form {
   void LabelWCS();
 
   // The copy of the editor's macro lists.
-  void ClearAllForNewMacroFile();
   void CopyMacroList();
-  void Combo1_Click();
-  void List1_MouseDown(int index, const Mouse& mouse);
-  void List1_MouseMove(int index, const Mouse& mouse);
-  void List1_DblClick(int index);
-  void List1_OLEStartDrag(int index);
-  void mnuRHListInsert_Click() { List1_DblClick(PopupListIndex); }
+  void mnuRHListInsert_Click() { macros.mnuRHListInsert_Click(); }
   void mnuFindInJoyFile_Click();
-  void mnuRHListEdit_Click();
-  /// Goes to the first use of the macro in hand.
-  void FindMacriInJfile();
+  void mnuRHListEdit_Click() { macros.mnuRHListEdit_Click(); }
 
   // Statements.
   void BTN_Click(int index);
@@ -193,7 +185,6 @@ class InsertOptions : public Form {
   void MakeTemplatesPage();
   void MakeLogicPage();
   void MakeFrame();
-  void AttachList(ListBox& list);
   void PreparePage(const tables::StatementTabRow& row);
 
   void ShowPictures(const bool (&shown)[4]);

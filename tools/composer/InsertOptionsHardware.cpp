@@ -1,6 +1,7 @@
 // The Composer's main page: which hardware it shows, and what a click on it does.
 #include <algorithm>
 
+#include "language/Controllers.h"
 #include "tools/composer/InsertOptions.h"
 
 namespace tarvik {
@@ -53,13 +54,10 @@ void InsertOptions::MakeHardware() {
 }
 
 void InsertOptions::MakeMainPage() {
-  Combo1.ToolTipText = "Macro categories";
-  Combo1.Click = [this] { Combo1_Click(); };
-  List1.Prepare = [this](ListBox& list) {
-    list.Visible = false;  // as in the editor
-    AttachList(list);
-  };
-  AttachList(List1(0));
+  macros.Serve({[] {}, [this] { PopUp("mnuRHList"); },
+                [this] {
+                  if (COMPaddCR == 1) bench_.insertion.InsertCarriageReturn();
+                }});
   CheckCopyTicks.ToolTipText = "Use only if you're changing the ticks in the Editor's macro list regularly";
   CheckCopyTicks.Click = [this] { COMPMacrosTickedCopy = CheckCopyTicks.Value; };
   CheckAddCR.ToolTipText = "Doesn't apply if you're using drag and drop";
@@ -107,7 +105,7 @@ void InsertOptions::ShowApproriateTabs() {
   if (settings.ComposerImages == kByPreferences) ShowForPreferences();
   if (settings.ComposerImages == kAll) ShowAllHardware();
   if (settings.ComposerImages == kByFile) ShowForFile();
-  for (const int rudder : tables::kRudders) {
+  for (const int rudder : tables::kRudderLabels) {
     hardware("ROTARY(" + std::to_string(rudder) + ")").Visible =
         settings.RudderName != 0 || settings.ComposerImages == kAll;
   }
@@ -146,25 +144,26 @@ void InsertOptions::ShowIgnoreSlash(bool f22) {
 }
 
 void InsertOptions::ShowForJoystick(int joystick) {
-  const int picture = joystick <= tables::kFlcs ? 0 : 1;
-  const bool known = joystick >= 0 && joystick < static_cast<int>(std::size(tables::kJoysticks));
-  if (known) SSTabHardware.Pages(picture).Caption = std::string(tables::kJoysticks[joystick].model);
-  ShowIgnoreSlash(joystick == tables::kF22Pro);
+  const int picture = IsPlain(joystick) ? 1 : 0;
+  if (const JoystickRow* const row = RowOf(kJoysticks, joystick)) {
+    SSTabHardware.Pages(picture).Caption = std::string(row->inComposer);
+  }
+  ShowIgnoreSlash(joystick == kF22Pro);
   ShowCorners(picture == 0);
 }
 
 void InsertOptions::ShowForPreferences() {
   const Settings& settings = bench_.settings;
   const int throttle = settings.ThrottleName;
-  const bool plain = settings.JoyName > tables::kFlcs;
-  const bool known = throttle <= tables::kLastWcs;
-  const bool tqs = known ? throttle == tables::kTqs : SSTabHardware.Pages(2).Visible.Get();
-  const bool wcs = known ? throttle > tables::kTqs : SSTabHardware.Pages(3).Visible.Get();
+  const bool plain = IsPlain(settings.JoyName);
+  const bool known = throttle <= kWcs;
+  const bool tqs = known ? throttle == kTqs : SSTabHardware.Pages(2).Visible.Get();
+  const bool wcs = known ? throttle > kTqs : SSTabHardware.Pages(3).Visible.Get();
   ShowPictures({!plain, plain, tqs, wcs});
   if (known) ShowPorts(!wcs);
   if (known && wcs) LabelWCS();
   ShowForJoystick(settings.JoyName);
-  hardware("ROTARY(7)").Visible = settings.JoyName == tables::kF22Pro;
+  hardware("ROTARY(7)").Visible = settings.JoyName == kF22Pro;
 }
 
 void InsertOptions::ShowAllHardware() {
@@ -178,14 +177,11 @@ void InsertOptions::ShowAllHardware() {
 
 void InsertOptions::ShowForFile() {
   const std::string ending = EndingOfFile();
-  int joystick = tables::kF22Pro;
-  for (int i = 0; i < static_cast<int>(std::size(tables::kJoysticks)); ++i) {
-    if (tables::kJoysticks[i].ending == ending) joystick = i;
-  }
+  const int joystick = JoystickOf(ending);
   Pane& file = bench_.documents.joystick.text;
   const bool tqs = Holds(file, "TQS");
   const bool wcs = !tqs && Holds(file, "WCS");
-  const bool plain = joystick > tables::kFlcs;
+  const bool plain = IsPlain(joystick);
   ShowPictures({!plain, plain, tqs, wcs});
   ShowForJoystick(joystick);
   ShowPorts(!wcs);
@@ -200,7 +196,7 @@ std::string InsertOptions::EndingOfFile() const {
 
 /// The throttle goes by the language of the joystick that it is programmed with.
 void InsertOptions::LabelWCS() {
-  const bool plain = EndingOfFile() == "adv" || bench_.settings.JoyName > tables::kFlcs;
+  const bool plain = EndingOfFile() == "adv" || IsPlain(bench_.settings.JoyName);
   for (const tables::WcsRow& row : tables::kWcsButtons) {
     Label& button = hardware("BTN(" + std::to_string(row.button) + ")");
     button.Caption = std::string(plain ? row.plain : row.numbered);

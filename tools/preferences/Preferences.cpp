@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "language/Controllers.h"
 #include "text/CodePage.h"
 #include "tools/preferences/CommandLines.h"
 #include "tools/preferences/DrivesForm.h"
@@ -10,18 +11,6 @@
 
 namespace tarvik {
 namespace {
-
-constexpr const char* kJoysticks[] = {"F22 Pro", "F16 FLCS", "P FCS", "Top Gun", "FCS"};
-constexpr const char* kThrottles[] = {"None", "TQS", "WCS MkII", "WCS"};
-constexpr const char* kRudders[] = {"None", "Elite", "RCS"};
-
-/// The endings of the files for a joystick, by its number.
-struct Endings {
-  const char* joystick;
-  const char* macro;
-};
-constexpr Endings kEndings[] = {
-    {"f22", "m22"}, {"b50", "m50"}, {"adv", "mdf"}, {"adv", "mdf"}, {"adv", "mdf"}};
 
 /// What bears a colour in the example: each word, up to and with an end where there is one.
 struct ColouredWord {
@@ -85,10 +74,12 @@ std::string WithBackslash(const std::string& path) {
   return path.empty() || path.back() == '\\' ? path : path + "\\";
 }
 
-template <std::size_t N>
-void FillCombo(ComboBox& combo, const char* const (&items)[N], int index) {
-  combo.FillInOrder({std::begin(items), std::end(items)});
-  combo.ListIndex = index >= 0 && index < static_cast<int>(N) ? index : -1;
+template <class Row, std::size_t N>
+void FillCombo(ComboBox& combo, const Row (&rows)[N], int number) {
+  std::vector<std::string> names;
+  for (const Row& row : rows) names.emplace_back(row.name);
+  combo.FillInOrder(std::move(names));
+  combo.ListIndex = RowOf(rows, number) ? number : -1;
 }
 
 template <class Controls, std::size_t N>
@@ -312,8 +303,9 @@ void Preferences::ComboJoystick_Click() {
   if (joystick < 0) return;
   if (joystick != settings_.JoyName) bench_.values.HardwareChanged = 1;
   settings_.JoyName = joystick;
-  settings_.JoystickExtension = std::string(kEndings[joystick].joystick);
-  settings_.MacroExtension = std::string(kEndings[joystick].macro);
+  const Endings& endings = kJoysticks[joystick].endings;
+  settings_.JoystickExtension = std::string(endings.joystick);
+  settings_.MacroExtension = std::string(endings.macro);
 }
 
 // Apps.
