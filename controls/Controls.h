@@ -7,6 +7,7 @@
 
 #include "controls/Component.h"
 #include "controls/Form.h"
+#include "controls/Require.h"
 
 namespace tarvik {
 
@@ -207,7 +208,7 @@ class TabPages : public Control {
   TabPages(Component& parent, std::string_view name, const std::vector<std::string>& captions);
 
   /// 0-based.
-  [[nodiscard]] Page& Pages(int index) const { return *pages_[static_cast<std::size_t>(index)]; }
+  [[nodiscard]] Page& Pages(int index) const { return Require(pages_, index, *this, "Pages"); }
   [[nodiscard]] int Count() const { return static_cast<int>(pages_.size()); }
   /// The page on show, 0-based.
   Attribute<int> Tab{*this, "Tab", [this] { return tab_; }, [this](int tab) { Set(tab); }};
@@ -356,7 +357,7 @@ class TabStrip : public Control {
   TabStrip(Component& parent, std::string_view name, int count);
 
   /// 1-based.
-  [[nodiscard]] Tab& Tabs(int index) const { return *tabs_[static_cast<std::size_t>(index - 1)]; }
+  [[nodiscard]] Tab& Tabs(int index) const { return Require(tabs_, index, *this, "Tabs", 1); }
   [[nodiscard]] int Count() const { return static_cast<int>(tabs_.size()); }
   [[nodiscard]] int SelectedIndex() const { return SelectedItem; }
   /// Selects a tab; fires Click when it was not the selected one.
@@ -387,7 +388,7 @@ class Toolbar : public Control {
 
   /// 1-based.
   [[nodiscard]] ToolbarButton& Buttons(int index) const {
-    return *buttons_[static_cast<std::size_t>(index - 1)];
+    return Require(buttons_, index, *this, "Buttons", 1);
   }
   [[nodiscard]] int Count() const { return static_cast<int>(buttons_.size()); }
 
@@ -412,7 +413,7 @@ class StatusBar : public Control {
   StatusBar(Component& parent, std::string_view name, int count);
 
   /// 1-based.
-  [[nodiscard]] Panel& Panels(int index) const { return *panels_[static_cast<std::size_t>(index - 1)]; }
+  [[nodiscard]] Panel& Panels(int index) const { return Require(panels_, index, *this, "Panels", 1); }
   [[nodiscard]] int Count() const { return static_cast<int>(panels_.size()); }
 
  private:
@@ -434,7 +435,10 @@ class NamedControls {
  public:
   explicit NamedControls(Form& form) : form_(form) {}
 
-  T& operator()(std::string_view fullName) const { return *members_.find(fullName)->second; }
+  T& operator()(std::string_view fullName) const {
+    const auto at = members_.find(fullName);
+    return Require(at == members_.end() ? nullptr : at->second.get(), form_, fullName);
+  }
   template <class... Args>
   T& Load(std::string_view fullName, Args&&... args) {
     const std::size_t bracket = fullName.find('(');
@@ -462,7 +466,10 @@ class ControlArray {
     for (int i = 0; i < count; ++i) Load(i);
   }
 
-  T& operator()(int index) const { return *members_.at(index); }
+  T& operator()(int index) const {
+    const auto at = members_.find(index);
+    return Require(at == members_.end() ? nullptr : at->second.get(), *parent_, name_, index);
+  }
   [[nodiscard]] int Count() const { return static_cast<int>(members_.size()); }
   T& Load(int index) {
     auto& member = members_[index];
@@ -472,7 +479,7 @@ class ControlArray {
     return *member;
   }
   void Unload(int index) {
-    Unloading(*members_.at(index));
+    Unloading((*this)(index));
     members_.erase(index);
   }
 

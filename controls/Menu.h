@@ -1,7 +1,6 @@
 // The menus of a form: a table of rows becomes menu items, which are found by name like every control.
 #pragma once
 
-#include <cassert>
 #include <list>
 #include <span>
 
@@ -31,7 +30,7 @@ struct MenuEntry {
 class Menus {
  public:
   template <class F, std::size_t N>
-  Menus(F& form, const MenuRow<F> (&rows)[N]) {
+  Menus(F& form, const MenuRow<F> (&rows)[N]) : form_(&form) {
     for (std::size_t i = 0; i < N; ++i) {
       const MenuRow<F>& row = rows[i];
       const auto index = row.index < 0 ? std::optional<int>() : row.index;
@@ -58,8 +57,7 @@ class Menus {
     for (const MenuEntry& entry : entries_) {
       if (entry.item->Name() == name && entry.item->Index() == index) return *entry.item;
     }
-    assert(false && "no such menu item");
-    std::abort();
+    TellWrongLookup(*form_, name, index);
   }
   /// The entry with this shortcut, null when there is none that does anything.
   [[nodiscard]] MenuItem* WithShortcut(std::string_view shortcut) const {
@@ -95,6 +93,7 @@ class Menus {
     return false;
   }
 
+  const Component* form_;
   std::list<MenuItem> items_;
   std::vector<MenuEntry> entries_;
 };

@@ -1,5 +1,5 @@
-// The result of everything that can fail. Nothing in the program throws: a fallible operation returns an
-// Outcome, and the compiler complains when nobody looks at it.
+// The result of everything that can fail. A fallible operation returns an Outcome, and the compiler complains
+// when nobody looks at it; what throws is a mistake of the program itself.
 #pragma once
 
 #include <optional>
@@ -19,6 +19,7 @@ struct Failure {
 namespace error {
 inline constexpr int kInvalidCall = 5;
 inline constexpr int kOverflow = 6;
+inline constexpr int kOutOfMemory = 7;
 inline constexpr int kTypeMismatch = 13;
 inline constexpr int kPathNotFound = 76;
 inline constexpr int kFileNotFound = 53;

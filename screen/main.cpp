@@ -20,6 +20,7 @@
 #include "screen/QtPrinter.h"
 #include "screen/Screen.h"
 #include "screen/SdlJoystick.h"
+#include "screen/Toolkit.h"
 #include "text/CodePage.h"
 #include "workbench/Highlighter.h"
 
@@ -84,7 +85,7 @@ class FirstInFolder : public SingleInstance {
 
 int main(int argc, char* argv[]) {
   if (const auto decoded = screen::RunAsDecoder(argc, argv)) return *decoded;
-  QApplication toolkit(argc, argv);
+  screen::Toolkit toolkit(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Tarvik"));
   QApplication::setDesktopFileName(QStringLiteral("tarvik"));
   QApplication::setQuitOnLastWindowClosed(false);
@@ -124,6 +125,9 @@ int main(int argc, char* argv[]) {
                     CommandLine(QApplication::arguments().mid(1), drives)};
 
   Application application(platform);
+  toolkit.failed = [&application](const Failure& failure) {
+    application.workbench.errors.Record("TARVIK Event", failure);
+  };
   help.look = [&application] { return LookOf(application.workbench.settings); };
   screen::Screen screen(application, screen::Clock::Real);
   const Connection ended = application.HasEnded.Connect([] {
