@@ -5,9 +5,9 @@
 
 #include "app/Editor.h"
 #include "screen/FormView.h"
-#include "screen/ListStack.h"
-#include "screen/MenuBuilder.h"
-#include "screen/PaneView.h"
+#include "screen/widgets/ListStack.h"
+#include "screen/widgets/MenuBuilder.h"
+#include "screen/widgets/PaneView.h"
 
 namespace tarvik::screen {
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "controls/Form.h"
-#include "screen/Binding.h"
+#include "screen/widgets/Binding.h"
 
 namespace tarvik::screen {
 

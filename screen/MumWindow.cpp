@@ -9,13 +9,13 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include "screen/FileDrop.h"
-#include "screen/Icons.h"
-#include "screen/LockKeys.h"
-#include "screen/MenuBuilder.h"
-#include "screen/StatusBarView.h"
-#include "screen/Text.h"
 #include "screen/WindowTitle.h"
+#include "screen/services/LockKeys.h"
+#include "screen/widgets/FileDrop.h"
+#include "screen/widgets/Icons.h"
+#include "screen/widgets/MenuBuilder.h"
+#include "screen/widgets/StatusBarView.h"
+#include "screen/widgets/Text.h"
 
 namespace tarvik::screen {
 namespace {

@@ -9,7 +9,7 @@
 
 #include "app/Mum.h"
 #include "screen/FormView.h"
-#include "screen/ToolbarView.h"
+#include "screen/widgets/ToolbarView.h"
 
 namespace tarvik::screen {
 

@@ -8,7 +8,7 @@
 #include "screen/EditorView.h"
 #include "screen/MumWindow.h"
 #include "screen/ToolWindow.h"
-#include "screen/WindowFocus.h"
+#include "screen/windows/WindowFocus.h"
 
 namespace tarvik::screen {
 

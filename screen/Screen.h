@@ -7,7 +7,7 @@
 
 #include "app/Application.h"
 #include "screen/FormView.h"
-#include "screen/WindowOrder.h"
+#include "screen/windows/WindowOrder.h"
 
 class QWindow;
 

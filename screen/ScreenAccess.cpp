@@ -9,9 +9,9 @@
 #include <QTabBar>
 #include <cstring>
 
-#include "screen/PaneView.h"
-#include "screen/PlotView.h"
-#include "screen/Text.h"
+#include "screen/widgets/PaneView.h"
+#include "screen/widgets/PlotView.h"
+#include "screen/widgets/Text.h"
 
 namespace tarvik::screen {
 namespace {

@@ -13,10 +13,10 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "screen/Text.h"
-#include "screen/WindowFocus.h"
-#include "screen/WindowRoom.h"
 #include "screen/WindowTitle.h"
+#include "screen/widgets/Text.h"
+#include "screen/windows/WindowFocus.h"
+#include "screen/windows/WindowRoom.h"
 
 namespace tarvik::screen {
 namespace {

@@ -5,22 +5,16 @@
 #include <QDialog>
 
 #include "app/Application.h"
-#include "screen/FormLayout.h"
 #include "screen/FormView.h"
-#include "screen/Keys.h"
-#include "screen/MenuBuilder.h"
-#include "screen/WindowOrder.h"
-#include "tools/composer/InsertOptions.h"
-#include "tools/preferences/Preferences.h"
-#include "tools/wizards/Speedy.h"
-#include "tools/wizards/Wizard.h"
+#include "screen/pages/Pages.h"
+#include "screen/widgets/Keys.h"
+#include "screen/widgets/MenuBuilder.h"
+#include "screen/windows/WindowOrder.h"
 
 namespace tarvik::screen {
 
 class ToolWindow : public QDialog, public FormView, public CanBeOnTop {
  public:
-  using MakePage = std::function<QLayout*(const FormLayout&)>;
-
   /// `frame` is the window that it belongs to.
   ToolWindow(Application& application, Form& form, const MakePage& makePage, QWidget& frame, Clock clock);
 
@@ -61,14 +55,5 @@ class ToolWindow : public QDialog, public FormView, public CanBeOnTop {
   std::optional<KeysFromElsewhere> others_;  // where every key is the form's
   bool retired_ = false;
 };
-
-/// The pages that are large enough for a file of their own.
-[[nodiscard]] QLayout* Page(InsertOptions& form, const FormLayout& in);
-[[nodiscard]] QLayout* Page(Preferences& form, const FormLayout& in);
-[[nodiscard]] QLayout* Page(Wizard& form, const FormLayout& in);
-[[nodiscard]] QLayout* Page(Speedy& form, const FormLayout& in);
-
-/// The page of the form's window, or nothing for a form that is shown in another way.
-[[nodiscard]] ToolWindow::MakePage PageOf(Form& form);
 
 }  // namespace tarvik::screen

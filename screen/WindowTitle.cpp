@@ -1,6 +1,6 @@
 #include "screen/WindowTitle.h"
 
-#include "screen/Text.h"
+#include "screen/widgets/Text.h"
 
 namespace tarvik::screen {
 namespace {

@@ -59,7 +59,7 @@ std::set<std::string> FileNames() {
   return names;
 }
 
-/// `panes/Pane.h`, `docs/guide/`, `screen/DeviceView` for the header of that name.
+/// `panes/Pane.h`, `docs/guide/`, `screen/widgets/DeviceView` for the header of that name.
 bool IsThere(const std::string& path) {
   return fs::exists(kRoot / path) || fs::exists(kRoot / (path + ".h"));
 }

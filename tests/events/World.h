@@ -4,8 +4,8 @@
 
 #include "app/Program.h"
 #include "events/Chance.h"
-#include "screen/HelpWindow.h"
 #include "screen/Screen.h"
+#include "screen/services/HelpWindow.h"
 
 namespace tarvik::events {
 

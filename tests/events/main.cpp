@@ -12,7 +12,7 @@
 
 #include "events/Hands.h"
 #include "events/World.h"
-#include "screen/Picture.h"
+#include "screen/widgets/Picture.h"
 #include "support/SoundDocument.h"
 
 namespace tarvik::events {

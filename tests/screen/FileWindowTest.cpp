@@ -14,9 +14,9 @@
 
 #include "app/Editor.h"
 #include "screen/MumWindow.h"
-#include "screen/PaneView.h"
 #include "screen/ProgramOnScreen.h"
 #include "screen/QtPrinters.h"
+#include "screen/widgets/PaneView.h"
 #include "tools/pimlet/RAWform.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/viewers/Tips.h"

@@ -9,9 +9,9 @@
 #include <QWindow>
 
 #include "app/Editor.h"
-#include "screen/PlotView.h"
 #include "screen/ProgramOnScreen.h"
 #include "screen/QtPrinters.h"
+#include "screen/widgets/PlotView.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
 

@@ -8,9 +8,9 @@
 #include <iterator>
 
 #include "controls/Form.h"
-#include "screen/ImageView.h"
-#include "screen/Picture.h"
 #include "screen/QtPrinters.h"
+#include "screen/widgets/ImageView.h"
+#include "screen/widgets/Picture.h"
 
 namespace tarvik::screen {
 namespace {

@@ -7,8 +7,8 @@
 #include <set>
 
 #include "app/Editor.h"
-#include "screen/KeyboardView.h"
 #include "screen/ProgramOnScreen.h"
+#include "screen/pages/KeyboardView.h"
 #include "tools/blocks/TextBlocks.h"
 
 namespace tarvik::screen {

@@ -1,7 +1,7 @@
 // Keys as X11 and Wayland tell of them, on keyboards of several countries.
 #include <gtest/gtest.h>
 
-#include "screen/Keys.h"
+#include "screen/widgets/Keys.h"
 
 namespace tarvik::screen {
 namespace {

@@ -8,9 +8,9 @@
 #include <QTest>
 
 #include "app/Editor.h"
-#include "screen/ListStack.h"
 #include "screen/ProgramOnScreen.h"
 #include "screen/QtPrinters.h"
+#include "screen/widgets/ListStack.h"
 #include "tools/composer/InsertOptions.h"
 #include "tools/find/FindAndReplace.h"
 #include "tools/pimlet/RAWform.h"

@@ -6,8 +6,8 @@
 #include <QTest>
 
 #include "app/Editor.h"
-#include "screen/PaneView.h"
 #include "screen/ProgramOnScreen.h"
+#include "screen/widgets/PaneView.h"
 #include "tools/preferences/Preferences.h"
 #include "tools/testing/KeyTestForm.h"
 

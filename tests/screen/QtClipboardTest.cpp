@@ -5,8 +5,8 @@
 #include <QGuiApplication>
 #include <QMimeData>
 
-#include "screen/QtDesktop.h"
 #include "screen/QtPrinters.h"
+#include "screen/services/QtDesktop.h"
 
 namespace tarvik::screen {
 namespace {

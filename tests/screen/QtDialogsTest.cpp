@@ -8,9 +8,9 @@
 #include <QTimer>
 
 #include "platform/TemporaryFolder.h"
-#include "screen/FontDialog.h"
-#include "screen/QtDialogs.h"
-#include "screen/Text.h"
+#include "screen/services/FontDialog.h"
+#include "screen/services/QtDialogs.h"
+#include "screen/widgets/Text.h"
 #include "support/Printers.h"
 
 namespace tarvik::screen {

@@ -15,7 +15,7 @@
 
 #include "app/Program.h"
 #include "platform/TemporaryFolder.h"
-#include "screen/QtPrinter.h"
+#include "screen/services/QtPrinter.h"
 
 namespace tarvik::screen {
 namespace {

@@ -3,7 +3,7 @@
 #include <SDL.h>
 #include <gtest/gtest.h>
 
-#include "screen/SdlJoystick.h"
+#include "screen/services/SdlJoystick.h"
 
 namespace tarvik::screen {
 namespace {

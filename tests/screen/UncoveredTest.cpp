@@ -9,7 +9,7 @@
 
 #include "app/Editor.h"
 #include "screen/ProgramOnScreen.h"
-#include "screen/WindowOrder.h"
+#include "screen/windows/WindowOrder.h"
 
 namespace tarvik::screen {
 namespace {

@@ -10,10 +10,10 @@
 #include <stdexcept>
 
 #include "app/Editor.h"
-#include "screen/FontDialog.h"
 #include "screen/ProgramOnScreen.h"
-#include "screen/QtDesktop.h"
-#include "screen/QtDialogs.h"
+#include "screen/services/FontDialog.h"
+#include "screen/services/QtDesktop.h"
+#include "screen/services/QtDialogs.h"
 #include "tools/pimlet/RAWform.h"
 #include "tools/viewers/ViewImage.h"
 

@@ -1,8 +1,8 @@
 // The tests of what the toolkit shows, with no display.
 #include <gtest/gtest.h>
 
-#include "screen/Picture.h"
 #include "screen/Toolkit.h"
+#include "screen/widgets/Picture.h"
 
 int main(int count, char** arguments) {
   if (const auto decoded = tarvik::screen::RunAsDecoder(count, arguments)) return *decoded;

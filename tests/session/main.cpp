@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iostream>
 
-#include "screen/Picture.h"
+#include "screen/widgets/Picture.h"
 #include "session/Runner.h"
 #include "session/ScreenSession.h"
 

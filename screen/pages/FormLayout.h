@@ -1,0 +1,86 @@
+// The words in which a window's page is laid out: controls shown by their kind, in columns, rows and fields.
+#pragma once
+
+#include <QBoxLayout>
+#include <QFormLayout>
+#include <QLabel>
+#include <variant>
+
+#include "controls/ImageBox.h"
+#include "controls/PlotBox.h"
+#include "panes/Pane.h"
+#include "screen/widgets/Binding.h"
+
+namespace tarvik::screen {
+
+/// One thing in a column or row: a widget, a layout, or room that stretches.
+struct Stretch {};
+using Piece = std::variant<QWidget*, QLayout*, Stretch>;
+
+/// Makes the widgets of a form's controls, each bound to its control.
+class FormLayout {
+ public:
+  explicit FormLayout(Bindings& bindings) : bindings_(bindings) {}
+
+  QWidget* Show(TextBox& box) const;
+  QWidget* Show(EntryBox& box) const;
+  QWidget* Show(CheckBox& box) const;
+  QWidget* Show(OptionButton& button) const;
+  QWidget* Show(CommandButton& button) const;
+  QWidget* Show(ToggleLabel& label) const;
+  QWidget* Show(Label& label) const;
+  /// A label whose text is a path, or has one in it.
+  QWidget* ShowPath(Label& label) const;
+  QWidget* Show(Pane& pane) const;
+  QWidget* Show(ComboBox& box) const;
+  QWidget* Show(ListBox& list) const;
+  /// Lists that stand on one another.
+  QWidget* Show(ControlArray<ListBox>& lists, const char* name, bool ticks = false) const;
+  /// A drawing of a device, with its labels.
+  QWidget* Show(const char* drawing, const std::vector<Label*>& labels) const;
+  QWidget* Show(PlotBox& box) const;
+  QWidget* Show(ImageBox& box) const;
+  QWidget* Show(Frame& frame) const;
+  /// A label that is pressed to take its colour.
+  QWidget* ShowSwatch(Label& swatch) const;
+  /// A label that only lights up.
+  QWidget* ShowLamp(ToggleLabel& lamp) const;
+  /// Lets a control that is shown stand in `area` where its own properties say, in twips.
+  QWidget* Place(Control& control, QWidget* shown, QWidget* area) const;
+  /// The pages in the order of the tabs.
+  QWidget* Show(TabPages& pages, const std::vector<QLayout*>& layouts) const;
+
+  /// For widgets that bind their controls themselves.
+  [[nodiscard]] Bindings& bindings() const { return bindings_; }
+
+ private:
+  Bindings& bindings_;
+};
+
+[[nodiscard]] QLayout* Column(std::initializer_list<Piece> pieces);
+[[nodiscard]] QLayout* Row(std::initializer_list<Piece> pieces);
+
+/// A box with a title around it.
+[[nodiscard]] QWidget* Group(const char* title, QLayout* layout);
+
+/// The control, which is to be read out under the name.
+QWidget* Named(QWidget* control, const QString& name);
+
+/// A label with a title's letters.
+QWidget* AsTitle(QWidget* label);
+/// A label whose text is a paragraph, word for word.
+QLabel* Wrapped(QWidget* label);
+
+/// A label with the control that it names; its mnemonic leads there.
+struct Field {
+  const char* label;
+  QWidget* control;
+};
+[[nodiscard]] QLayout* Fields(const std::vector<Field>& fields);
+/// The same with the label above the control.
+[[nodiscard]] QLayout* Above(const char* label, QWidget* control);
+
+/// Gives each button, label and tab of a window that has no mnemonic one that no other on show has.
+void GiveMnemonics(QWidget& window);
+
+}  // namespace tarvik::screen

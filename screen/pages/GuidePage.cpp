@@ -1,0 +1,144 @@
+// The pages of the wizards and of Speedy, made from the rows that say what stands on them.
+#include <QFontDatabase>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <algorithm>
+
+#include "screen/pages/Pages.h"
+#include "screen/widgets/Text.h"
+#include "tools/wizards/Speedy.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr int kTextWidth = 520;
+constexpr int kListLines = 9;
+
+/// Makes the layout of one page after the other, since the words of all are one array.
+class GuidePages {
+ public:
+  GuidePages(GuidedForm& form, const FormLayout& in) : form_(form), in_(in) {}
+
+  QVBoxLayout* Next() {
+    auto* const page = new QVBoxLayout;
+    QFormLayout* fields = nullptr;  // rows with words and a control below one another are aligned
+    for (const tables::GuideRow& row : form_.pages[page_++].rows) {
+      const bool field = !row.text.empty() && !row.control.empty();
+      if (!field) fields = nullptr;
+      if (field && !fields) page->addLayout(fields = new QFormLayout);
+      if (field) {
+        Add(row, *fields);
+      } else if (row.control.empty()) {
+        page->addWidget(Words(row));
+      } else {
+        page->addLayout(Controls(row.control));
+      }
+    }
+    page->addStretch();
+    return page;
+  }
+
+ private:
+  QLabel* NextWords() { return OnTheWindow(form_.Texts(text_++)); }
+
+  /// Without a ground of its own.
+  QLabel* OnTheWindow(Label& label) {
+    auto* const shown = qobject_cast<QLabel*>(in_.Show(label));
+    shown->setAutoFillBackground(false);
+    return shown;
+  }
+
+  QWidget* Words(const tables::GuideRow& row) {
+    QLabel* const words = Wrapped(NextWords());
+    words->setMinimumWidth(kTextWidth);
+    if (row.example) {
+      words->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+      words->setIndent(2 * words->fontMetrics().height());
+    }
+    return words;
+  }
+
+  void Add(const tables::GuideRow& row, QFormLayout& fields) {
+    QLabel* const label = NextWords();
+    QWidget* const control = ShowNamed(row.control);
+    if (qobject_cast<QLineEdit*>(control)) Named(control, label->text());
+    fields.addRow(label, control);
+  }
+
+  QLayout* Controls(std::string_view names) {
+    auto* const row = new QHBoxLayout;
+    bool stretch = true;
+    while (!names.empty()) {
+      const std::size_t blank = std::min(names.find(' '), names.size());
+      QWidget* const widget = ShowNamed(names.substr(0, blank));
+      row->addWidget(widget);
+      stretch = stretch && qobject_cast<QPushButton*>(widget);
+      names.remove_prefix(std::min(blank + 1, names.size()));
+    }
+    if (stretch) row->addStretch();
+    return row;
+  }
+
+  QWidget* ShowNamed(std::string_view name) {
+    Component* const found = form_.Resolve(name);
+    if (auto* const button = dynamic_cast<CommandButton*>(found)) return in_.Show(*button);
+    if (auto* const box = dynamic_cast<TextBox*>(found)) return in_.Show(*box);
+    if (auto* const list = dynamic_cast<ListBox*>(found)) return Headings(*list);
+    return Preview(dynamic_cast<Label&>(*found));
+  }
+
+  QWidget* Headings(ListBox& list) {
+    QWidget* const view = Named(in_.Show(list), QStringLiteral("Headings"));
+    view->setMinimumHeight(kListLines * view->fontMetrics().lineSpacing());
+    return view;
+  }
+
+  QWidget* Preview(Label& preview) {
+    QLabel* const label = OnTheWindow(preview);
+    label->setTextFormat(Qt::PlainText);
+    label->setFrameShape(QFrame::StyledPanel);
+    label->setMargin(label->fontMetrics().height() / 3);
+    label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    label->setMinimumWidth(1);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return label;
+  }
+
+  GuidedForm& form_;
+  const FormLayout& in_;
+  std::size_t page_ = 0;
+  int text_ = 0;
+};
+
+}  // namespace
+
+/// The frame in front is the page on show. All pages are there at once, so that the window keeps its size.
+QLayout* Page(Wizard& form, const FormLayout& in) {
+  auto* const stack = new QStackedWidget;
+  GuidePages pages(form, in);
+  for (int i = 0; i < form.frames.Count(); ++i) {
+    auto* const page = new QWidget;
+    QVBoxLayout* const rows = pages.Next();
+    rows->insertWidget(0, AsTitle(Wrapped(new QLabel(ToScreen(form.frames(i).Caption.Get())))));
+    rows->setSpacing(page->fontMetrics().height() * 2 / 3);
+    page->setLayout(rows);
+    stack->addWidget(page);
+    in.bindings().Shows(form.frames(i), *page);
+    in.bindings().Keep(form.frames(i).Raised.Connect([stack, i] { stack->setCurrentIndex(i); }));
+  }
+  in.bindings().Bind(
+      form.Page, [] {}, [stack] { return TextOf(stack->currentIndex()); });
+  return Column(
+      {stack, Row({in.Show(form.buttons(Wizard::kCancel)), Stretch(), in.Show(form.buttons(Wizard::kBack)),
+                   in.Show(form.buttons(Wizard::kNext)), in.Show(form.buttons(Wizard::kFinish))})});
+}
+
+QLayout* Page(Speedy& form, const FormLayout& in) {
+  GuidePages pages(form, in);
+  std::vector<QLayout*> tabs(form.pages.size());
+  std::generate(tabs.begin(), tabs.end(), [&pages] { return pages.Next(); });
+  return Column({in.Show(form.SSTab1, tabs), Row({Stretch(), in.Show(form.Command1(0))})});
+}
+
+}  // namespace tarvik::screen

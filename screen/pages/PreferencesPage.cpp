@@ -1,0 +1,137 @@
+// The page of the preferences' window.
+#include <QGridLayout>
+
+#include "screen/pages/Pages.h"
+#include "tools/preferences/Preferences.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr int kNumberWidth = 64;
+constexpr int kKerning = 4;  // of a label, which its underlined letter breaks
+
+/// A path in a row of its own: what it is, the box, the button that looks for it.
+struct PathRow {
+  const char* label;
+  TextBox& box;
+  CommandButton& browse;
+};
+
+QLayout* Paths(const FormLayout& in, std::initializer_list<PathRow> rows) {
+  auto* const grid = new QGridLayout;
+  for (const PathRow& row : rows) {
+    const int line = grid->rowCount();
+    auto* const label = new QLabel(QString::fromUtf8(row.label));
+    QWidget* const box = Named(in.Show(row.box), label->text());
+    label->setBuddy(box);
+    label->setMinimumWidth(label->sizeHint().width() + kKerning);
+    grid->addWidget(label, line, 0);
+    grid->addWidget(box, line, 1);
+    grid->addWidget(Named(in.Show(row.browse), QLatin1String("Browse: ") + label->text()), line, 2);
+  }
+  return grid;
+}
+
+QLayout* FileLocations(Preferences& form, const FormLayout& in) {
+  QLayout* const paths = Paths(in, {{"Loader", form.Text1, form.Command1},
+                                    {"Joystick and macro files", form.Text2, form.Command2},
+                                    {"Control Centre", form.Text10, form.Command8}});
+  return Column({Group("Files", Column({paths, Row({Stretch(), in.Show(form.CommandDrives)})})),
+                 Group("Hardware", Fields({{"Joystick", in.Show(form.ComboJoystick)},
+                                           {"Throttle", in.Show(form.ComboThrottle)},
+                                           {"Rudders", in.Show(form.ComboRudders)}})),
+                 Stretch()});
+}
+
+QLayout* Colours(Preferences& form, const FormLayout& in) {
+  QWidget* const list = Named(in.Show(form.List1), QStringLiteral("Colours"));
+  list->setFixedWidth(170);
+  QWidget* const example = Named(in.Show(form.ExampleJoystickText), QStringLiteral("Example"));
+  example->setMinimumSize(360, 200);
+  return Column({Row({list, example}), in.Show(form.CheckBox1),
+                 Group("Font", Row({in.Show(form.Command18), in.Show(form.CheckFixedPitch), Stretch(),
+                                    in.Show(form.Command17)}))});
+}
+
+QLayout* Apps(Preferences& form, const FormLayout& in) {
+  constexpr int kNameWidth = 150;
+  auto* const apps = new QGridLayout;
+  for (int row = 1; row <= PreviousFiles::kCustomApps; ++row) {
+    const auto named = [row](QWidget* shown, const char* name) {
+      return Named(shown, QString::fromUtf8(name) + QString::number(row));
+    };
+    QWidget* const name = named(in.Show(form.CustomAppNameText(row)), "Name ");
+    name->setFixedWidth(kNameWidth);
+    apps->addWidget(name, row, 0);
+    apps->addWidget(named(in.Show(form.CustomAppPathText(row)), "Command line "), row, 1);
+    apps->addWidget(named(in.Show(form.CustomAppPathBrowse(row)), "Browse "), row, 2);
+    apps->addWidget(named(in.Show(form.CustomAppPathUse(row)), "In the menu "), row, 3);
+  }
+  return Column(
+      {Group("What the tools start with", Paths(in, {{"Image Viewer", form.Text5, form.Command5},
+                                                     {"Template Editor", form.Text6, form.Command7}})),
+       Group("Custom apps: name and command line", apps), Stretch()});
+}
+
+/// The names beside the record in hand.
+QLayout* ListPage(const FormLayout& in, ListBox& rows, const char* name, TextBox& first, QLayout* record) {
+  constexpr int kListWidth = 190;
+  QWidget* const list = Named(in.Show(rows), QString::fromUtf8(name));
+  list->setFixedWidth(kListWidth);
+  return Row({list, Column({Above("Name for menu", in.Show(first)), record})});
+}
+
+QLayout* Favourites(Preferences& form, const FormLayout& in) {
+  QWidget* const toLoad = in.Show(form.Label11);
+  toLoad->setAutoFillBackground(false);
+  return ListPage(in, form.List2, "Favourites", form.Text7,
+                  Column({Paths(in, {{"Joystick file", form.Text8, form.Command9},
+                                     {"Macro file", form.Text9, form.Command10}}),
+                          Row({Stretch(), in.Show(form.Command13)}), Stretch(),
+                          Row({in.Show(form.LoadAppCheckBox), toLoad, Stretch(), in.Show(form.Command14)})}));
+}
+
+QLayout* Games(Preferences& form, const FormLayout& in) {
+  return ListPage(in, form.List3, "Games", form.Text12,
+                  Column({Paths(in, {{"File that runs game", form.Text11, form.Command16},
+                                     {"Working directory", form.Text4, form.Command15},
+                                     {"Joystick file", form.Text13, form.Command4}}),
+                          in.Show(form.Check5), Row({Stretch(), in.Show(form.Command12)}), Stretch()}));
+}
+
+QLayout* Miscellaneous(Preferences& form, const FormLayout& in) {
+  const auto number = [&in](TextBox& box, const char* name) {
+    QWidget* const shown = Named(in.Show(box), QString::fromUtf8(name));
+    shown->setFixedWidth(kNumberWidth);
+    return shown;
+  };
+  QLayout* const left = Column(
+      {Group("Saving", Column({Row({in.Show(form.Check3(0)), number(form.Text3, "Minutes"),
+                                    new QLabel(QStringLiteral("minutes")), Stretch()}),
+                               in.Show(form.Check3(1))})),
+       Group("Undo", Column({Row({new QLabel(QStringLiteral("Maximum:")),
+                                  number(form.TxtUndoLevels, "Maximum"), Stretch(), in.Show(form.Command11)}),
+                             in.Show(form.CheckUndoSave), in.Show(form.CheckHighlightOnUndo)})),
+       Group("Composer", Column({in.Show(form.OptionImagesToShow(0)), in.Show(form.OptionImagesToShow(1)),
+                                 in.Show(form.OptionImagesToShow(2))})),
+       Stretch()});
+  QLayout* const right = Column(
+      {Group("Toolbar", Column({in.Show(form.OpenBothChk), in.Show(form.SaveBothChk),
+                                in.Show(form.CheckFlattenToolbar(0)), in.Show(form.CheckFlattenToolbar(1)),
+                                in.Show(form.CheckFlattenToolbar(2)), in.Show(form.CheckShowTooltips)})),
+       Group("Other",
+             Column({in.Show(form.CheckAggressive), in.Show(form.CheckIdentify),
+                     Row({new QLabel(QStringLiteral("DLY")), number(form.DLYText, "DLY"), Stretch()})})),
+       Stretch()});
+  return Row({left, right});
+}
+
+}  // namespace
+
+QLayout* Page(Preferences& form, const FormLayout& in) {
+  return Column({in.Show(form.SSTab1, {FileLocations(form, in), Colours(form, in), Apps(form, in),
+                                       Favourites(form, in), Miscellaneous(form, in), Games(form, in)}),
+                 Row({Stretch(), in.Show(form.Command6), in.Show(form.Command3)})});
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,299 @@
+#include "screen/services/HelpWindow.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QShortcut>
+#include <QTextBlock>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include "screen/widgets/Icons.h"
+#include "screen/widgets/ListStack.h"
+#include "screen/widgets/Text.h"
+#include "screen/windows/WindowRoom.h"
+#include "workbench/HelpTopics.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr QSize kSize(860, 600);
+constexpr int kListWidth = 240;
+constexpr int kExampleMargin = 12;
+constexpr int kTextMargin = 14;
+constexpr int kIcon = 16;
+constexpr QColor kMarked(0xFF, 0xE0, 0x66);
+
+/// A stretch of lines of one file, as the help file marks it: ```joystick or ```macro.
+struct Example {
+  std::vector<QTextBlock> lines;
+  QString text;
+};
+
+Example TakeExample(QTextBlock& block) {
+  Example example;
+  const QString language = block.blockFormat().stringProperty(QTextFormat::BlockCodeLanguage);
+  for (; block.isValid(); block = block.next()) {
+    if (block.blockFormat().stringProperty(QTextFormat::BlockCodeLanguage) != language) break;
+    if (!example.lines.empty()) example.text += QLatin1String("\r\n");
+    example.text += block.text();
+    example.lines.push_back(block);
+  }
+  return example;
+}
+
+void Paint(const Example& example, const ColourRuns& colours, const QColor& paper) {
+  std::size_t start = 0;
+  for (const QTextBlock& line : example.lines) {
+    QTextCursor cursor(line);
+    QTextBlockFormat format = line.blockFormat();
+    format.setBackground(paper);
+    format.setLeftMargin(kExampleMargin);
+    cursor.setBlockFormat(format);
+    for (int i = 0; i < line.text().size(); ++i) {
+      QTextCharFormat letter;
+      letter.setForeground(ToScreenColour(colours.At(start + static_cast<std::size_t>(i))));
+      letter.setFontFixedPitch(true);
+      cursor.setPosition(line.position() + i);
+      cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+      cursor.mergeCharFormat(letter);
+    }
+    start += static_cast<std::size_t>(line.text().size()) + 2;
+  }
+}
+
+void ColourExamples(QTextDocument& document, const FileLook& look) {
+  for (QTextBlock block = document.begin(); block.isValid();) {
+    const QString language = block.blockFormat().stringProperty(QTextFormat::BlockCodeLanguage);
+    const bool macro = language == QLatin1String("macro");
+    if (!macro && language != QLatin1String("joystick")) {
+      block = block.next();
+      continue;
+    }
+    const Example example = TakeExample(block);
+    const std::string text = FromText(example.text);
+    Painting painting(text, macro ? MacroPasses() : JoystickPasses());
+    painting.Run();
+    Paint(example, painting.Colours(look.colours), ToScreenColour(macro ? look.macro : look.joystick));
+  }
+}
+
+std::size_t TopicOf(const QListWidgetItem& item) { return item.data(Qt::UserRole).toUInt(); }
+
+}  // namespace
+
+HelpWindow::HelpWindow()
+    : words_(new QLineEdit),
+      none_(new QLabel(tr("No topic has these words."))),
+      topics_(new QListWidget),
+      text_(new QTextBrowser) {
+  setWindowTitle(tr("Tarvik help"));
+  resize(kSize.boundedTo(RoomOnScreen(*this)));
+  auto* const tools = new QToolBar;
+  back_ = AddAction("go-previous", tr("Back"), QKeySequence::Back, &HelpWindow::GoBack);
+  forward_ = AddAction("go-next", tr("Forward"), QKeySequence::Forward, &HelpWindow::GoForward);
+  QAction* const contents =
+      AddAction("go-home", tr("Contents"), Qt::ALT | Qt::Key_Home, &HelpWindow::GoToContents);
+  QAction* const print = AddAction("document-print", tr("Print"), QKeySequence::Print, &HelpWindow::Print);
+  tools->addActions({back_, forward_, contents, print});
+  tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  tools->setIconSize({kIcon, kIcon});
+  topics_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  words_->setClearButtonEnabled(true);
+  words_->setAccessibleName(tr("Search"));
+  topics_->setAccessibleName(tr("Topics"));
+  text_->setAccessibleName(tr("Topic"));
+  text_->setOpenLinks(false);
+  auto* const label = new QLabel(tr("&Search:"));
+  label->setBuddy(words_);
+  auto* const search = new QHBoxLayout;
+  search->addWidget(label);
+  search->addWidget(words_);
+  auto* const left = new QVBoxLayout;
+  left->addLayout(search);
+  left->addWidget(none_);
+  left->addWidget(topics_);
+  none_->setObjectName(QStringLiteral("NothingFound"));
+  none_->hide();
+  topics_->setFixedWidth(kListWidth);
+  ShowFocusInSelection(*topics_);
+  auto* const columns = new QHBoxLayout;
+  columns->addLayout(left);
+  columns->addWidget(text_, 1);
+  auto* const rows = new QVBoxLayout(this);
+  rows->setMenuBar(tools);
+  rows->addLayout(columns);
+  EnableWays();
+  connect(words_, &QLineEdit::textChanged, this, [this] { Search(); });
+  connect(words_, &QLineEdit::returnPressed, this, [this] { GoToTopics(); });
+  connect(new QShortcut(Qt::Key_Down, words_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+          this, [this] { GoToTopics(); });
+  connect(topics_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
+    if (item && (item->flags() & Qt::ItemIsSelectable)) Visit(TopicOf(*item));
+  });
+  connect(text_, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { FollowLink(link); });
+}
+
+QAction* HelpWindow::AddAction(const char* icon, const QString& text, const QKeySequence& key,
+                               void (HelpWindow::*run)()) {
+  auto* const action = new QAction(Icon(icon), text, this);
+  action->setShortcut(key);
+  connect(action, &QAction::triggered, this, run);
+  addAction(action);
+  return action;
+}
+
+void HelpWindow::Open(HelpFile file, const FileLook& look) {
+  file_ = std::move(file);
+  look_ = look;
+  read_.clear();
+  at_ = 0;
+  shown_.reset();
+  EnableWays();
+  const QSignalBlocker quiet(words_);
+  words_->clear();
+  ListTopics();
+}
+
+/// The page stays until a topic is chosen.
+void HelpWindow::Search() {
+  none_->setVisible(!ListTopics());
+  MarkHits();
+}
+
+/// From the field of the search: to the topic that is read, else to the first one.
+void HelpWindow::GoToTopics() {
+  topics_->setFocus();
+  for (int row = 0; row < topics_->count() && !topics_->currentItem(); ++row) {
+    QListWidgetItem& item = *topics_->item(row);
+    if (item.flags() & Qt::ItemIsSelectable) topics_->setCurrentItem(&item);
+  }
+}
+
+/// Without a search the topics stand under their headings.
+bool HelpWindow::ListTopics() {
+  const std::string words = FromText(words_->text());
+  const QSignalBlocker quiet(topics_);
+  topics_->clear();
+  std::string group;
+  for (const HelpTopic* const topic : file_.Search(words)) {
+    if (words.empty() && topic->group != group) AddHeading(group = topic->group);
+    auto* const item = new QListWidgetItem(ToScreen(topic->title), topics_);
+    item->setData(Qt::UserRole, static_cast<unsigned>(topic - file_.Topics().data()));
+  }
+  SelectShown();
+  return topics_->count() > 0;
+}
+
+/// In the text, what was searched for.
+void HelpWindow::MarkHits() {
+  const std::string words = FromText(words_->text());
+  QTextCharFormat marked;
+  marked.setBackground(kMarked);
+  marked.setForeground(Qt::black);
+  QList<QTextEdit::ExtraSelection> marks;
+  for (QTextBlock line = text_->document()->begin(); line.isValid(); line = line.next()) {
+    for (const SearchHit& hit : HitsIn(FromText(line.text()), words)) {
+      QTextCursor cursor(line);
+      cursor.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, static_cast<int>(hit.start));
+      cursor.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor, static_cast<int>(hit.length));
+      marks.push_back({cursor, marked});
+    }
+  }
+  text_->setExtraSelections(marks);
+}
+
+void HelpWindow::AddHeading(const std::string& group) {
+  auto* const heading = new QListWidgetItem(ToScreen(group), topics_);
+  heading->setFlags(Qt::ItemIsEnabled);
+  QFont font = topics_->font();
+  font.setBold(true);
+  heading->setFont(font);
+}
+
+void HelpWindow::SelectShown() {
+  const QSignalBlocker quiet(topics_);
+  topics_->setCurrentItem(nullptr);
+  for (int row = 0; row < topics_->count() && shown_; ++row) {
+    QListWidgetItem& item = *topics_->item(row);
+    if ((item.flags() & Qt::ItemIsSelectable) && TopicOf(item) == *shown_) topics_->setCurrentItem(&item);
+  }
+}
+
+void HelpWindow::Show(std::size_t topic) {
+  shown_ = topic;
+  EnableWays();
+  text_->setMarkdown(AsText(file_.Topics()[topic].text));
+  ColourExamples(*text_->document(), look_);
+  text_->document()->setDocumentMargin(kTextMargin);
+  text_->moveCursor(QTextCursor::Start);
+  MarkHits();
+  SelectShown();
+}
+
+void HelpWindow::EnableWays() {
+  back_->setEnabled(at_ > 0);
+  forward_->setEnabled(at_ + 1 < read_.size());
+}
+
+/// What was ahead is forgotten, as in every browser.
+void HelpWindow::Visit(std::size_t topic) {
+  if (shown_ == topic && !read_.empty() && read_[at_] == topic) return;
+  read_.resize(std::min(read_.size(), at_ + 1));
+  if (shown_ && (read_.empty() || read_.back() != *shown_)) read_.push_back(*shown_);
+  if (read_.empty() || read_.back() != topic) read_.push_back(topic);
+  at_ = read_.size() - 1;
+  Show(topic);
+}
+
+void HelpWindow::Step(int by) {
+  at_ += static_cast<std::size_t>(by);
+  Show(read_[at_]);
+}
+
+void HelpWindow::GoBack() { Step(-1); }
+void HelpWindow::GoForward() { Step(+1); }
+void HelpWindow::GoToContents() { ShowContext(topic::kContents); }
+
+void HelpWindow::Print() {
+  QPrinter printer;
+  QPrintDialog dialog(&printer, this);
+  if (dialog.exec() == QDialog::Accepted) text_->document()->print(&printer);
+}
+
+void HelpWindow::ShowTopic(const HelpTopic* topic, const QString& asked) {
+  if (topic) {
+    Visit(static_cast<std::size_t>(topic - file_.Topics().data()));
+  } else if (file_.Topics().empty()) {
+    text_->setMarkdown(tr("The help file *tarvik.hlp* is not beside the program."));
+  } else {
+    text_->setMarkdown(tr("There is no topic for *%1*. Pick one from the list.").arg(asked));
+  }
+  ChooseOwner();
+  show();
+  raise();
+  activateWindow();
+}
+
+/// A modal window lets only those through that belong to it.
+void HelpWindow::ChooseOwner() {
+  create();
+  const QWidget* const modal = QApplication::activeModalWidget();
+  QWindow* const owner = modal ? modal->windowHandle() : nullptr;
+  if (windowHandle()->transientParent() == owner) return;
+  hide();
+  windowHandle()->setTransientParent(owner);
+}
+
+void HelpWindow::ShowContext(int context) { ShowTopic(file_.WithContext(context), QString::number(context)); }
+
+void HelpWindow::ShowKeyword(const std::string& keyword) {
+  ShowTopic(file_.WithKeyword(keyword), ToScreen(keyword));
+}
+
+/// A link to a topic is its number behind a "#".
+void HelpWindow::FollowLink(const QUrl& link) { ShowContext(link.fragment().toInt()); }
+
+}  // namespace tarvik::screen

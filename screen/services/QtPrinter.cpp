@@ -1,0 +1,205 @@
+#include "screen/services/QtPrinter.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QFile>
+#include <QFileInfo>
+#include <QPrintDialog>
+#include <QPushButton>
+#include <QTextLayout>
+#include <algorithm>
+
+#include "screen/widgets/Text.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr qreal kTwipsPerInch = 1440;
+constexpr qreal kTwipsPerPoint = 20;
+constexpr qreal kTabWidth = 720;             // twips, as the panes have it
+constexpr std::size_t kLongestPiece = 4096;  // characters of one line laid out at a time
+
+Failure Broken() { return {error::kPrinter, "Printer error", 0}; }
+
+/// Without any printer the toolkit offers a file that has no name.
+bool HasTarget(const QPrinter& device) {
+  return device.outputFormat() == QPrinter::NativeFormat ? device.isValid()
+                                                         : !device.outputFileName().isEmpty();
+}
+
+/// A name that no file has, made of the given one.
+QString FreeName(const QString& path) {
+  const qsizetype ending = QFileInfo(path).suffix().size();
+  const qsizetype place = path.size() - (ending > 0 ? ending + 1 : 0);
+  QString free = path;
+  for (int i = 2; QFileInfo::exists(free); ++i)
+    free = QString(path).insert(place, QStringLiteral(" (%1)").arg(i));
+  return free;
+}
+
+/// Whether a file was written to its end: where the disk was full the toolkit does not tell.
+bool IsWhole(const QString& path) {
+  constexpr qint64 kEnd = 16;
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(0, file.size() - kEnd)) &&
+         file.readAll().contains("%%EOF");
+}
+
+/// Letters too large for a page are the caller's to notice.
+QFont FontOf(const std::string& name, float points, bool bold) {
+  QFont font(ToScreen(name));
+  font.setPixelSize(qRound((points < 1 ? ToScreenSize(points) : points) * kTwipsPerPoint));
+  font.setBold(bold);
+  font.setHintingPreference(QFont::PreferNoHinting);
+  return font;
+}
+
+/// Characters of one line of the text: all that are left of it, or of a very long one the next ones.
+struct Piece {
+  std::size_t start;
+  std::size_t length;
+  bool cut;
+
+  Piece(std::string_view text, std::size_t at) : start(at) {
+    const std::string_view window = text.substr(at, kLongestPiece + 1);
+    const std::size_t end = window.find("\r\n");
+    length = std::min({end, window.size(), kLongestPiece});
+    cut = end == std::string_view::npos && start + length < text.size();
+  }
+};
+
+QList<QTextLayout::FormatRange> Colours(const FormattedText& text, const Piece& piece) {
+  QList<QTextLayout::FormatRange> colours;
+  const std::size_t end = piece.start + piece.length;
+  auto run = std::upper_bound(text.colours.begin(), text.colours.end(), piece.start,
+                              [](std::size_t at, const FormattedText::Run& each) { return at < each.start; });
+  if (run != text.colours.begin()) --run;
+  for (; run != text.colours.end() && run->start < end; ++run) {
+    const std::size_t from = std::max(run->start, piece.start);
+    const std::size_t to = run + 1 == text.colours.end() ? end : std::min((run + 1)->start, end);
+    QTextCharFormat format;
+    format.setForeground(ToScreenColour(run->colour));
+    colours.push_back({static_cast<int>(from - piece.start), static_cast<int>(to - from), format});
+  }
+  return colours;
+}
+
+/// Wraps a piece at `width`. The last visual line of a piece that is cut may not be whole: it belongs to the
+/// next piece.
+int LayOut(QTextLayout& layout, const Piece& piece, qreal width) {
+  QTextOption option;
+  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+  option.setTabStopDistance(kTabWidth);
+  layout.setTextOption(option);
+  layout.beginLayout();
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLeadingIncluded(true);
+    line.setLineWidth(width);
+  }
+  layout.endLayout();
+  return piece.cut && layout.lineCount() > 1 ? layout.lineCount() - 1 : layout.lineCount();
+}
+
+}  // namespace
+
+QPrinter& QtPrinter::Device() {
+  if (!device_ || !HasTarget(*device_)) device_.emplace(QPrinter::HighResolution);
+  return *device_;
+}
+
+bool QtPrinter::Works() const {
+  return painter_.isActive() && device_->printerState() != QPrinter::Error &&
+         device_->printerState() != QPrinter::Aborted;
+}
+
+Outcome<> QtPrinter::SetUp() {
+  QPrintDialog dialog(&Device(), QApplication::activeWindow());
+  dialog.setWindowTitle(QStringLiteral("Printer set-up"));
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
+                    QAbstractPrintDialog::PrintCollateCopies);
+  if (auto* buttons = dialog.findChild<QDialogButtonBox*>()) {
+    if (auto* accept = buttons->button(QDialogButtonBox::Ok)) accept->setText(QStringLiteral("OK"));
+  }
+  if (dialog.exec() != QDialog::Accepted) {
+    return Failure{error::kDialogCancelled, "Cancel was selected.", 0};
+  }
+  file_.clear();
+  return Done{};
+}
+
+/// The second document that goes to a file would take the place of the first: it gets a name of its own.
+Outcome<> QtPrinter::Begin() {
+  QPrinter& device = Device();
+  if (!HasTarget(device)) return Broken();
+  if (!file_.isEmpty()) {
+    device.setOutputFileName(FreeName(file_));
+  } else if (device.outputFormat() == QPrinter::PdfFormat) {
+    file_ = device.outputFileName();
+  }
+  device.setDocName(QApplication::applicationName());
+  if (!painter_.begin(&device)) return Broken();
+  painter_.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
+  lineTop_ = 0;
+  return Done{};
+}
+
+Outcome<> QtPrinter::Print(const std::string& line, bool bold) {
+  if (!painter_.isActive()) {
+    if (auto begun = Begin(); !begun) return begun;
+  }
+  if (!Works()) return Broken();
+  const QFont font = FontOf("Arial", 10, bold);
+  const QFontMetricsF metrics(font);
+  painter_.setFont(font);
+  painter_.drawText(QPointF(0, lineTop_ + metrics.ascent()), ToScreen(line));
+  lineTop_ += metrics.lineSpacing();
+  return Done{};
+}
+
+Outcome<Paper> QtPrinter::Sheet() {
+  if (!Works()) return Broken();
+  const QPageLayout layout = device_->pageLayout();
+  const QRectF sheet = layout.fullRect(QPageLayout::Point);
+  const QRectF printable = layout.paintRect(QPageLayout::Point);
+  const auto twips = [](qreal points) { return qRound(points * kTwipsPerPoint); };
+  return Paper{twips(sheet.width()), twips(sheet.height()), twips(printable.x()), twips(printable.y())};
+}
+
+Outcome<std::size_t> QtPrinter::FormatRange(const FormattedText& text, std::size_t from,
+                                            const PrintArea& area) {
+  if (!Works()) return Broken();
+  const QFont font = FontOf(text.font, text.size, text.bold);
+  const qreal left = area.left + text.indent;
+  qreal y = area.top;
+  while (from < text.text.size()) {
+    const Piece piece(text.text, from);
+    QTextLayout layout(ToScreen(text.text.substr(piece.start, piece.length)), font);
+    layout.setFormats(Colours(text, piece));
+    const int lines = LayOut(layout, piece, area.right - left);
+    for (int i = 0; i < lines; ++i) {
+      const QTextLine line = layout.lineAt(i);
+      if (y + line.height() > area.bottom) return from;
+      line.draw(&painter_, QPointF(left, y - line.y()));
+      y += line.height();
+      from = piece.start + static_cast<std::size_t>(line.textStart() + line.textLength());
+    }
+    if (!piece.cut) from = std::min(from + 2, text.text.size());  // the line break
+  }
+  return from;
+}
+
+Outcome<> QtPrinter::NewPage() {
+  if (!Works() || !device_->newPage()) return Broken();
+  lineTop_ = 0;
+  return Done{};
+}
+
+Outcome<> QtPrinter::EndDocument() {
+  if (!painter_.isActive()) return Broken();
+  const bool worked = Works();
+  if (!painter_.end() || !worked || device_->printerState() == QPrinter::Error) return Broken();
+  if (device_->outputFormat() == QPrinter::PdfFormat && !IsWhole(device_->outputFileName())) return Broken();
+  return Done{};
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,524 @@
+#include "screen/widgets/Binding.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <cmath>
+
+#include "screen/widgets/Icons.h"
+#include "screen/widgets/Text.h"
+#include "screen/windows/WindowFocus.h"
+
+namespace tarvik::screen {
+namespace {
+
+// Numbers of the tab strip's images.
+constexpr int kFileImage = 9;
+constexpr int kProtectedImage = 6;
+
+/// No timer shows anything more often than the screen does, 60 times a second.
+constexpr int kScreenPace = 17;  // milliseconds
+
+/// A user's text as a menu shows it: letter by letter, and short enough for the screen. What is cut stands
+/// whole in the tool tip.
+void ShowUsersText(const std::string& text, QAction& action) {
+  const int widest = QGuiApplication::primaryScreen()->availableGeometry().width() / 2;
+  const QString whole = ToScreen(text).replace(u'\t', u' ');
+  QString shown = QFontMetrics(QApplication::font("QMenu")).elidedText(whole, Qt::ElideMiddle, widest);
+  action.setToolTip(shown == whole ? QString() : whole);
+  action.setText(shown.replace(u'&', QLatin1String("&&")));
+}
+
+std::string UsersTextOn(const QAction& action) {
+  const QString shown = action.text().replace(QLatin1String("&&"), QLatin1String("&"));
+  return FromScreen(action.toolTip().size() > shown.size() ? action.toolTip() : shown);
+}
+
+Qt::CursorShape CursorOf(int mousePointer) {
+  switch (mousePointer) {
+    case pointer::kWestEast:
+      return Qt::SizeHorCursor;
+    case pointer::kHourglass:
+      return Qt::WaitCursor;
+    case pointer::kWhatsThis:
+      return Qt::WhatsThisCursor;
+    default:
+      return Qt::ArrowCursor;
+  }
+}
+
+int ButtonNumber(Qt::MouseButtons buttons) {
+  return (buttons & Qt::LeftButton ? 1 : 0) + (buttons & Qt::RightButton ? 2 : 0) +
+         (buttons & Qt::MiddleButton ? 4 : 0);
+}
+
+/// Behind the caption of a tab, as desktops have it in the titles of windows.
+const QLatin1String kUnsavedMark("*");
+
+QString Escaped(QString text) { return text.replace(u'&', QLatin1String("&&")); }
+QString Unescaped(QString text) { return text.replace(QLatin1String("&&"), QLatin1String("&")); }
+
+/// Hands a widget's events on without taking them.
+class Watcher : public QObject {
+ public:
+  Watcher(QWidget& widget, std::function<void(QEvent&)> watch) : QObject(&widget), watch_(std::move(watch)) {
+    widget.installEventFilter(this);
+  }
+  bool eventFilter(QObject*, QEvent* event) override {
+    watch_(*event);
+    return false;
+  }
+
+ private:
+  std::function<void(QEvent&)> watch_;
+};
+
+}  // namespace
+
+int ToPixels(float value, float unitsPerPixel) {
+  return static_cast<int>(std::lround(value / unitsPerPixel));
+}
+
+int ShiftState(Qt::KeyboardModifiers modifiers) {
+  return (modifiers & Qt::ShiftModifier ? shift::kShift : 0) +
+         (modifiers & Qt::ControlModifier ? shift::kCtrl : 0) +
+         (modifiers & Qt::AltModifier ? shift::kAlt : 0);
+}
+
+Mouse ToMouse(const QMouseEvent& event) {
+  const bool moving = event.type() == QEvent::MouseMove;
+  return {ButtonNumber(moving ? event.buttons() : event.button()), ShiftState(event.modifiers()),
+          static_cast<float>(event.position().x()) * kTwips,
+          static_cast<float>(event.position().y()) * kTwips};
+}
+
+void Bindings::Bind(PropertyBase& property, std::function<void()> show, Reader read) {
+  show();
+  connections_.push_back(property.Changed.Connect(std::move(show)));
+  if (read) readers_[&property] = std::move(read);
+}
+
+void Bindings::Shows(const Component& component, QObject& shown) {
+  shown.setObjectName(ToScreen(component.FullName()));
+  shown_[&component] = &shown;
+}
+
+void Bindings::Forget(const Component& component) {
+  shown_.erase(&component);
+  for (const PropertyBase* property : component.Properties()) readers_.erase(property);
+}
+
+void Bindings::Release() {
+  readers_.clear();
+  shown_.clear();
+  connections_.clear();
+}
+
+QObject* Bindings::Find(const Component& component) const {
+  const auto found = shown_.find(&component);
+  return found == shown_.end() ? nullptr : found->second;
+}
+
+std::optional<std::string> Bindings::Read(const PropertyBase& property) const {
+  const auto found = readers_.find(&property);
+  return found == readers_.end() ? std::nullopt : found->second();
+}
+
+void Bindings::BindControl(Control& control, QWidget& widget) {
+  Shows(control, widget);
+  Bind(
+      control.Visible,
+      [&] {
+        // Otherwise the toolkit hands the focus to whatever comes next.
+        if (!control.Visible && widget.hasFocus()) widget.clearFocus();
+        // Without a place yet it would come up as a window of its own; it shows with its parent.
+        if (widget.parentWidget() || !control.Visible) widget.setVisible(control.Visible);
+      },
+      [&] { return TextOf(!widget.isHidden()); });
+  Bind(
+      control.Enabled, [&] { widget.setEnabled(control.Enabled); },
+      [&] { return TextOf(widget.isEnabled()); });
+  Bind(
+      control.ToolTipText, [&] { widget.setToolTip(ToScreen(control.ToolTipText.Get())); },
+      [&] { return FromScreen(widget.toolTip()); });
+  Bind(control.MousePointer, [&] { widget.setCursor(CursorOf(control.MousePointer)); });
+  if (widget.focusPolicy() == Qt::NoFocus) return;
+  new Watcher(widget, [this, &control](QEvent& event) {
+    if (event.type() != QEvent::FocusIn) return;
+    const QScopedValueRollback rollback(takingFocus_, true);
+    control.SetFocus();
+  });
+  Form& form = *control.OwnForm();
+  Keep(form.ActiveControlChanged.Connect([this, &form, &control, &widget] {
+    if (form.ActiveControl() != &control || (takingFocus_ && widget.hasFocus())) return;
+    if (!widget.hasFocus()) widget.setFocus();
+    AskForWindow(widget);
+  }));
+}
+
+void Bindings::BindMouse(Control& control, QWidget& widget) {
+  widget.setMouseTracking(true);
+  new Watcher(widget, [&control](QEvent& event) {
+    if (event.type() == QEvent::MouseButtonPress)
+      control.MouseDown(ToMouse(static_cast<QMouseEvent&>(event)));
+    if (event.type() == QEvent::MouseMove) control.MouseMove(ToMouse(static_cast<QMouseEvent&>(event)));
+    if (event.type() == QEvent::MouseButtonRelease)
+      control.MouseUp(ToMouse(static_cast<QMouseEvent&>(event)));
+  });
+}
+
+void Bindings::Place(Control& control, QWidget& widget, float unitsPerPixel) {
+  const auto place = [&control, &widget, unitsPerPixel] {
+    widget.setGeometry(ToPixels(control.Left, unitsPerPixel), ToPixels(control.Top, unitsPerPixel),
+                       ToPixels(control.Width, unitsPerPixel), ToPixels(control.Height, unitsPerPixel));
+  };
+  const auto read = [unitsPerPixel](Property<float>& property, auto pixels) {
+    // A place between two pixels is shown on the nearer one.
+    return [=, &property]() -> std::optional<std::string> {
+      const bool there = pixels() == ToPixels(property, unitsPerPixel);
+      return there ? property.ToText() : TextOf(static_cast<float>(pixels()) * unitsPerPixel);
+    };
+  };
+  Bind(control.Left, place, read(control.Left, [&widget] { return widget.x(); }));
+  Bind(control.Top, place, read(control.Top, [&widget] { return widget.y(); }));
+  Bind(control.Width, place, read(control.Width, [&widget] { return widget.width(); }));
+  Bind(control.Height, place, read(control.Height, [&widget] { return widget.height(); }));
+}
+
+void Bindings::Bind(MenuItem& item, QAction& action) {
+  Shows(item, action);
+  action.setShortcut(QKeySequence(ToScreen(item.Shortcut.Get())));
+  Bind(
+      item.Caption,
+      [&] {
+        if (item.isUsersText) return ShowUsersText(item.Caption, action);
+        action.setSeparator(item.Caption.Get() == MenuItem::kDivider);
+        action.setText(action.isSeparator() ? QString() : ToScreen(item.Caption.Get()));
+      },
+      [&] {
+        if (item.isUsersText) return UsersTextOn(action);
+        return action.isSeparator() ? std::string(MenuItem::kDivider) : FromScreen(action.text());
+      });
+  Bind(
+      item.Enabled, [&] { action.setEnabled(item.Enabled); }, [&] { return TextOf(action.isEnabled()); });
+  Bind(
+      item.Visible, [&] { action.setVisible(item.Visible); }, [&] { return TextOf(action.isVisible()); });
+  const auto showCheck = [&] {
+    action.setCheckable(item.Checked);
+    action.setChecked(item.Checked);
+  };
+  Bind(item.Checked, showCheck, [&] { return TextOf(action.isChecked()); });
+  QObject::connect(&action, &QAction::triggered, &action, [&item, showCheck] {
+    item.Click();
+    showCheck();  // the toolkit has turned the check mark over by itself
+  });
+}
+
+QString WithMnemonic(QString caption, const QWidget& widget) {
+  const QVariant letter = widget.property(kMnemonic);
+  const qsizetype at = letter.isValid() ? caption.indexOf(letter.toChar(), 0, Qt::CaseInsensitive) : -1;
+  return at < 0 ? caption : caption.insert(at, u'&');
+}
+
+template <class Captioned, class Widget>
+void Bindings::BindCaption(Captioned& control, Widget& widget) {
+  Bind(
+      control.Caption, [&] { widget.setText(WithMnemonic(ToScreen(control.Caption.Get()), widget)); },
+      [&] {
+        QString caption = widget.text();
+        if (widget.property(kMnemonic).isValid()) caption.remove(u'&');
+        return FromScreen(caption);
+      });
+}
+
+void Bindings::Bind(CommandButton& button, QAbstractButton& widget) {
+  BindControl(button, widget);
+  BindCaption(button, widget);
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Click(); });
+}
+
+void Bindings::Bind(ToolbarButton& button, QToolButton& widget) {
+  Shows(button, widget);
+  Bind(
+      button.ToolTipText,
+      [&] {
+        widget.setToolTip(ToScreen(button.ToolTipText.Get()));
+        widget.setAccessibleName(widget.toolTip());
+      },
+      [&] { return FromScreen(widget.toolTip()); });
+  Bind(button.Image, [&] { widget.setIcon(Icon(button.Image.Get())); });
+  Bind(
+      button.Enabled, [&] { widget.setEnabled(button.Enabled); }, [&] { return TextOf(widget.isEnabled()); });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Click(); });
+}
+
+void Bindings::Bind(Label& label, QLabel& widget) {
+  BindControl(label, widget);
+  BindCaption(label, widget);
+  widget.setAutoFillBackground(true);
+  BindBackColour(label, widget);
+}
+
+void Bindings::Bind(ToggleLabel& label, QAbstractButton& widget) {
+  BindControl(label, widget);
+  BindCaption(label, widget);
+  BindBackColour(label, widget);
+  widget.setCheckable(true);
+  const auto show = [&] { widget.setChecked(label.On()); };
+  Bind(label.BackColor, show);
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&label, show] {
+    label.Click();
+    show();  // the toolkit has turned it over by itself
+  });
+}
+
+void Bindings::Bind(Label& label, QAbstractButton& widget) {
+  BindControl(label, widget);
+  BindCaption(label, widget);
+  const auto show = [&] {
+    widget.setCheckable(label.BorderStyle == 1);
+    widget.setChecked(label.BorderStyle == 1);
+  };
+  Bind(label.BorderStyle, show, [&] { return TextOf(widget.isChecked() ? 1 : 0); });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&label, show] {
+    label.Click();
+    show();  // the toolkit has turned it over by itself
+  });
+}
+
+/// A colour of the system is that of the desktop.
+void Bindings::BindBackColour(Label& label, QWidget& widget) {
+  const auto meant = [&label, &widget] {
+    constexpr Colour kSystem = 0x80000000;
+    const bool system = (label.BackColor & kSystem) != 0;
+    return system ? QApplication::palette(&widget).color(widget.backgroundRole())
+                  : ToScreenColour(label.BackColor);
+  };
+  Bind(
+      label.BackColor,
+      [&label, &widget, meant] {
+        QPalette palette = QApplication::palette(&widget);
+        if (label.BackColor == ToggleLabel::kOn) palette.setColor(widget.foregroundRole(), Qt::black);
+        palette.setColor(widget.backgroundRole(), meant());
+        widget.setPalette(palette);
+      },
+      [&label, &widget, meant] {
+        const QColor shown = widget.palette().color(widget.backgroundRole());
+        return shown == meant() ? label.BackColor.ToText() : TextOf(FromScreenColour(shown));
+      });
+}
+
+void Bindings::Bind(ComboBox& combo, QComboBox& widget) {
+  BindControl(combo, widget);
+  widget.setAccessibleName(widget.toolTip());
+  const auto showItem = [&] { widget.setCurrentIndex(combo.ListIndex); };
+  const auto showItems = [&combo, &widget, showItem] {
+    widget.clear();
+    for (const std::string& item : combo.List()) widget.addItem(ToScreen(item));
+    showItem();
+  };
+  showItems();
+  Keep(combo.ItemsChanged.Connect(showItems));
+  Bind(combo.ListIndex, showItem, [&] { return TextOf(widget.currentIndex()); });
+  const auto read = [&] { return FromScreen(widget.currentText()); };
+  Bind(
+      combo.TextProperty, [] {}, read);
+  Bind(
+      combo.Items, [] {},
+      [&] {
+        QStringList items;
+        for (int i = 0; i < widget.count(); ++i) items += widget.itemText(i);
+        return FromScreen(items.join(u'\n'));
+      });
+  QObject::connect(&widget, &QComboBox::activated, &widget, [&](int index) { combo.Select(index); });
+}
+
+void Bindings::BindTab(Tab& tab, QTabBar& widget, int index) {
+  widget.addTab(QString());
+  const auto show = [&tab, &widget, index] {
+    const QString caption = Escaped(ToScreen(tab.Caption.Get()));
+    widget.setTabText(index, tab.Unsaved ? caption + kUnsavedMark : caption);
+  };
+  const auto isMarked = [&tab, &widget, index] {
+    return tab.Unsaved && widget.tabText(index).endsWith(kUnsavedMark);
+  };
+  Bind(tab.Caption, show, [&widget, index, isMarked] {
+    const QString text = Unescaped(widget.tabText(index));
+    return FromScreen(text.chopped(isMarked() ? kUnsavedMark.size() : 0));
+  });
+  Bind(tab.Unsaved, show, [isMarked] { return TextOf(isMarked()); });
+  Bind(
+      tab.ToolTipText,
+      [&tab, &widget, index] { widget.setTabToolTip(index, ToScreen(tab.ToolTipText.Get())); },
+      [&widget, index] { return FromScreen(widget.tabToolTip(index)); });
+  Bind(tab.Image, [&tab, &widget, index] {
+    const char* const name = tab.Image == kProtectedImage ? "object-locked" : "tab-file";
+    const bool any = tab.Image == kProtectedImage || tab.Image == kFileImage;
+    widget.setTabIcon(index, any ? Icon(name) : QIcon());
+  });
+  Bind(
+      tab.Selected, [] {}, [&widget, index] { return TextOf(widget.currentIndex() == index); });
+}
+
+void Bindings::BindText(TextBox& box, QLineEdit& line) {
+  const auto place = [&line](qsizetype position) { return FromScreen(line.text().left(position)).size(); };
+  const auto start = [&line, place] {
+    return place(line.hasSelectedText() ? line.selectionStart() : line.cursorPosition());
+  };
+  const auto length = [&line] { return FromScreen(line.selectedText()).size(); };
+  const auto busy = std::make_shared<bool>(false);  // one of the two is taking over from the other
+  const auto showSelection = [&box, &line, busy] {
+    if (*busy) return;
+    const QScopedValueRollback rollback(*busy, true);
+    const std::string text = box.Text;
+    const auto shown = [&text](std::size_t position) {
+      return static_cast<int>(ToScreen(std::string_view(text).substr(0, position)).size());
+    };
+    const int from = shown(box.SelStart);
+    const int to = shown(box.SelStart + box.SelLength);
+    line.setCursorPosition(from);
+    if (to > from) line.setSelection(from, to - from);
+  };
+  // The toolkit drops the selection of a line that the focus leaves; the box keeps it for what is inserted
+  // next.
+  const auto takeSelection = [&box, &line, busy, start, length] {
+    if (*busy || !line.hasFocus()) return;
+    const QScopedValueRollback rollback(*busy, true);
+    box.SelStart = start();
+    box.SelLength = length();
+  };
+  Bind(
+      box.Text,
+      [&box, &line, busy, showSelection] {
+        const QString text = ToScreen(box.Text.Get());
+        if (text == line.text()) return;
+        {
+          const QScopedValueRollback rollback(*busy, true);
+          line.setText(text);
+        }
+        showSelection();
+      },
+      [&] { return FromScreen(line.text()); });
+  Bind(box.SelStart, showSelection, [start] { return TextOf(start()); });
+  Bind(box.SelLength, showSelection, [length] { return TextOf(length()); });
+  Bind(box.BackColor, [&] {
+    constexpr Colour kWhite = 0xFFFFFF;
+    QPalette palette = QApplication::palette(&line);
+    if (box.BackColor != kWhite) {
+      palette.setColor(QPalette::Base, ToScreenColour(box.BackColor.Get()));
+      palette.setColor(QPalette::Text, Qt::black);
+    }
+    line.setPalette(palette);
+  });
+  QObject::connect(&line, &QLineEdit::cursorPositionChanged, &line, takeSelection);
+  QObject::connect(&line, &QLineEdit::selectionChanged, &line, takeSelection);
+  QObject::connect(&line, &QLineEdit::textEdited, &line, [&box, &line, place] {
+    box.SetText(FromScreen(line.text()), place(line.cursorPosition()));
+  });
+}
+
+void Bindings::Bind(TextBox& box, QLineEdit& widget) {
+  BindControl(box, widget);
+  BindText(box, widget);
+}
+
+void Bindings::Bind(EntryBox& box, QComboBox& widget) {
+  BindControl(box, widget);
+  const auto showItems = [&] {
+    const QString text = widget.currentText();
+    widget.clear();
+    for (const std::string& item : box.List()) widget.addItem(ToScreen(item));
+    widget.setCurrentIndex(-1);
+    widget.setEditText(text);
+  };
+  showItems();
+  Keep(box.ItemsChanged.Connect(showItems));
+  Bind(
+      box.Items, [] {},
+      [&] {
+        std::vector<std::string> items;
+        items.reserve(static_cast<std::size_t>(widget.count()));
+        for (int i = 0; i < widget.count(); ++i) items.push_back(FromScreen(widget.itemText(i)));
+        return Lines(items);
+      });
+  QObject::connect(&widget, &QComboBox::activated, &widget, [&](int index) { box.Pick(index); });
+  BindText(box, *widget.lineEdit());
+}
+
+void Bindings::Bind(CheckBox& box, QAbstractButton& widget) {
+  BindControl(box, widget);
+  BindCaption(box, widget);
+  Bind(
+      box.Value, [&] { widget.setChecked(box.Value == 1); },
+      [&] { return TextOf(widget.isChecked() ? 1 : 0); });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget,
+                   [&](bool checked) { box.Value = checked ? 1 : 0; });
+}
+
+void Bindings::Bind(OptionButton& button, QAbstractButton& widget) {
+  BindControl(button, widget);
+  BindCaption(button, widget);
+  Bind(
+      button.Value,
+      [&] {
+        // The toolkit keeps a mark that is the last one among the buttons beside it; the others may be
+        // elsewhere.
+        widget.setAutoExclusive(false);
+        widget.setChecked(button.Value);
+        widget.setAutoExclusive(true);
+      },
+      [&] { return TextOf(widget.isChecked()); });
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Value = true; });
+}
+
+void Bindings::Bind(TabPages& pages, QTabWidget& widget) {
+  BindControl(pages, widget);
+  for (int i = 0; i < pages.Count(); ++i) {
+    TabPages::Page& page = pages.Pages(i);
+    Bind(
+        page.Caption, [&page, &widget, i] { widget.setTabText(i, ToScreen(page.Caption.Get())); },
+        [&widget, i] { return FromScreen(widget.tabText(i)); });
+    Bind(
+        page.Visible, [&page, &widget, i] { widget.setTabVisible(i, page.Visible); },
+        [&widget, i] { return TextOf(widget.isTabVisible(i)); });
+  }
+  Bind(
+      pages.Tab, [&] { widget.setCurrentIndex(pages.Tab); }, [&] { return TextOf(widget.currentIndex()); });
+  QObject::connect(&widget, &QTabWidget::currentChanged, &widget, [&](int index) { pages.Tab = index; });
+}
+
+void Bindings::Bind(TabStrip& strip, QTabBar& widget) {
+  BindControl(strip, widget);
+  for (int i = 1; i <= strip.Count(); ++i) BindTab(strip.Tabs(i), widget, i - 1);
+  Bind(
+      strip.SelectedItem, [&] { widget.setCurrentIndex(strip.SelectedIndex() - 1); },
+      [&] { return TextOf(widget.currentIndex() + 1); });
+  QObject::connect(&widget, &QTabBar::currentChanged, &widget, [&](int index) { strip.Select(index + 1); });
+}
+
+void Bindings::Bind(ProgressBar& bar, QProgressBar& widget) {
+  BindControl(bar, widget);
+  Bind(
+      bar.Min, [&] { widget.setMinimum(bar.Min); }, [&] { return TextOf(widget.minimum()); });
+  Bind(
+      bar.Max, [&] { widget.setMaximum(bar.Max); }, [&] { return TextOf(widget.maximum()); });
+  Bind(
+      bar.Value, [&] { widget.setValue(bar.Value); }, [&] { return TextOf(widget.value()); });
+}
+
+void Bindings::Bind(Timer& timer, QTimer& clock) {
+  Shows(timer, clock);
+  const auto show = [&] {
+    if (timer.Enabled && timer.Interval > 0) {
+      clock.start(std::max(timer.Interval.Get(), kScreenPace));
+    } else {
+      clock.stop();
+    }
+  };
+  Bind(timer.Interval, show);
+  Bind(timer.Enabled, show);
+  QObject::connect(&clock, &QTimer::timeout, &clock, [&] { timer.Elapsed(); });
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,265 @@
+#include "screen/widgets/DeviceView.h"
+
+#include <QFile>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <cmath>
+
+#include "screen/widgets/Text.h"
+
+// A static library's resources are linked only when they are asked for, from outside any namespace.
+static void InitialiseDevices() { Q_INIT_RESOURCE(devices); }
+
+namespace tarvik::screen {
+namespace {
+
+constexpr QSizeF kDrawing(900, 1000);
+constexpr qreal kCaptionHeight = 30;  // in the drawing's units
+constexpr qreal kSmallestCaption = 9;
+constexpr QColor kLight(0x1F, 0x66, 0xA8);
+constexpr QColor kDark(0x7C, 0xBC, 0xF0);
+constexpr const char* kHint = "Click on a hat/switch to insert into your file";
+
+QByteArray Content(const QString& name) {
+  QFile file(QLatin1String(":/devices/") + name);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool IsDark(const QWidget& widget) {
+  return widget.palette().color(QPalette::Window).lightness() <
+         widget.palette().color(QPalette::WindowText).lightness();
+}
+
+QColor Accent(const QWidget& widget, int alpha = 255) {
+  QColor colour = IsDark(widget) ? kDark : kLight;
+  colour.setAlpha(alpha);
+  return colour;
+}
+
+QFont CaptionFont(const QWidget& widget, qreal scale) {
+  QFont font = widget.font();
+  font.setPixelSize(static_cast<int>(std::lround(std::max(kSmallestCaption, kCaptionHeight * scale))));
+  return font;
+}
+
+}  // namespace
+
+// A label.
+
+DeviceLabel::DeviceLabel(DeviceView& device) : QAbstractButton(&device), device_(device) {
+  setFocusPolicy(Qt::ClickFocus);
+  setAttribute(Qt::WA_Hover);
+}
+
+void DeviceLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const bool lit = isCheckable() && isChecked();
+  const bool hot = underMouse() || device_.Pointed() == this;
+  const qreal line = hasFocus() ? 3 : 1.5;
+  const QRectF box = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
+  painter.setPen(hasFocus() || lit ? QPen(Accent(*this), line) : QPen(Qt::NoPen));
+  painter.setBrush(lit ? QColor(0xFF, 0xC0, 0x80) : Accent(*this, isDown() ? 110 : hot ? 55 : 0));
+  painter.drawRoundedRect(box, box.height() / 6, box.height() / 6);
+  painter.setPen(lit ? QColor(Qt::black) : palette().color(QPalette::WindowText));
+  painter.setFont(CaptionFont(*this, height() / 50.0));
+  painter.drawText(rect(), Qt::AlignCenter | Qt::TextHideMnemonic, text().trimmed());
+}
+
+void DeviceLabel::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return click();
+    case Qt::Key_Left:
+      return device_.MoveFocus(*this, {-1, 0});
+    case Qt::Key_Right:
+      return device_.MoveFocus(*this, {1, 0});
+    case Qt::Key_Up:
+      return device_.MoveFocus(*this, {0, -1});
+    case Qt::Key_Down:
+      return device_.MoveFocus(*this, {0, 1});
+    default:
+      QAbstractButton::keyPressEvent(event);
+  }
+}
+
+void DeviceLabel::focusInEvent(QFocusEvent* event) {
+  QAbstractButton::focusInEvent(event);
+  device_.MakeTabStop(*this);
+  device_.update();
+}
+
+void DeviceLabel::focusOutEvent(QFocusEvent* event) {
+  QAbstractButton::focusOutEvent(event);
+  device_.update();
+}
+
+void DeviceLabel::enterEvent(QEnterEvent* event) {
+  QAbstractButton::enterEvent(event);
+  device_.Point(this);
+}
+
+void DeviceLabel::leaveEvent(QEvent* event) {
+  QAbstractButton::leaveEvent(event);
+  device_.Point(nullptr);
+}
+
+// The drawing.
+
+DeviceView::DeviceView(const QString& drawing, Bindings& bindings) : bindings_(bindings) {
+  InitialiseDevices();
+  drawing_ = Content(drawing);
+  setMouseTracking(true);
+  setMinimumSize(300, 330);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize DeviceView::sizeHint() const { return {450, 500}; }
+
+void DeviceView::Add(Label& label) {
+  auto* const button = new DeviceLabel(*this);
+  QString id = ToScreen(label.FullName());
+  id.replace(u'(', u'-').remove(u')');
+  spots_.push_back({button, id});
+  bindings_.Bind(label, *button);
+  bindings_.Keep(label.Visible.Changed.Connect([this] { Draw(); }));
+  if (spots_.size() == 1) button->setFocusPolicy(Qt::StrongFocus);
+}
+
+void DeviceView::MakeTabStop(DeviceLabel& label) {
+  for (const Spot& spot : spots_) spot.label->setFocusPolicy(Qt::ClickFocus);
+  label.setFocusPolicy(Qt::StrongFocus);
+}
+
+/// In the colours of the desktop, without the labels that are hidden.
+void DeviceView::Draw() {
+  QByteArray svg = drawing_;
+  const qsizetype from = svg.indexOf("<style>") + 7;
+  const qsizetype to = svg.indexOf("</style>");
+  QByteArray rules = IsDark(*this) ? Content(QStringLiteral("dark.css")) : svg.mid(from, to - from);
+  for (const Spot& spot : spots_) {
+    if (spot.label->isHidden()) rules += "#" + spot.id.toLatin1() + " { display: none }\n";
+  }
+  svg.replace(from, to - from, rules);
+  renderer_.load(svg);
+  picture_ = QPixmap();
+  PlaceLabels();
+  update();
+}
+
+QTransform DeviceView::ToWidget() const {
+  const qreal scale = std::min(width() / kDrawing.width(), height() / kDrawing.height());
+  QTransform transform;
+  transform.translate((width() - kDrawing.width() * scale) / 2, (height() - kDrawing.height() * scale) / 2);
+  return transform.scale(scale, scale);
+}
+
+QRectF DeviceView::RectOf(const QString& element) const {
+  const QRectF place = renderer_.transformForElement(element).mapRect(renderer_.boundsOnElement(element));
+  return ToWidget().mapRect(place);
+}
+
+QRectF DeviceView::ControlOf(const Spot& spot) const {
+  const QString control = spot.id + QLatin1String("-control");
+  return renderer_.elementExists(control) ? RectOf(control) : QRectF();
+}
+
+void DeviceView::PlaceLabels() {
+  for (const Spot& spot : spots_)
+    spot.label->setGeometry(RectOf(spot.id + QLatin1String("-box")).toAlignedRect());
+}
+
+void DeviceView::paintEvent(QPaintEvent*) {
+  const qreal ratio = devicePixelRatioF();
+  const QSize pixels = size() * ratio;
+  if (picture_.size() != pixels) {
+    picture_ = QPixmap(pixels);
+    picture_.setDevicePixelRatio(ratio);
+    picture_.fill(Qt::transparent);
+    QPainter painter(&picture_);
+    renderer_.render(&painter, ToWidget().mapRect(QRectF({}, kDrawing)));
+  }
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.drawPixmap(0, 0, picture_);
+  for (const Spot& spot : spots_) {
+    const bool shown = spot.label == pointed_ || (spot.label->hasFocus() && !spot.label->isHidden());
+    if (!shown) continue;
+    painter.setPen(QPen(Accent(*this, 200), 2));
+    painter.setBrush(Accent(*this, 70));
+    painter.drawEllipse(ControlOf(spot));
+  }
+  painter.setPen(palette().color(QPalette::WindowText));
+  const QRectF hint = RectOf(QStringLiteral("hint"));
+  painter.setFont(CaptionFont(*this, hint.height() / 40.0 * 0.85));
+  painter.drawText(hint, Qt::AlignCenter, QString::fromLatin1(kHint));
+}
+
+void DeviceView::resizeEvent(QResizeEvent*) {
+  if (!renderer_.isValid()) Draw();
+  PlaceLabels();
+}
+
+void DeviceView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange && renderer_.isValid()) Draw();
+}
+
+// The mouse on a control.
+
+DeviceLabel* DeviceView::LabelAt(const QPointF& place) const {
+  const Spot* nearest = nullptr;
+  for (const Spot& spot : spots_) {
+    const QRectF control = ControlOf(spot);
+    if (spot.label->isHidden() || !control.contains(place)) continue;
+    const auto area = [](const QRectF& rect) { return rect.width() * rect.height(); };
+    if (!nearest || area(control) < area(ControlOf(*nearest))) nearest = &spot;
+  }
+  return nearest ? nearest->label : nullptr;
+}
+
+void DeviceView::Point(DeviceLabel* label) {
+  if (pointed_ == label) return;
+  for (DeviceLabel* const changed : {pointed_, label}) {
+    if (changed) changed->update();
+  }
+  pointed_ = label;
+  update();
+}
+
+void DeviceView::mouseMoveEvent(QMouseEvent* event) {
+  Point(LabelAt(event->position()));
+  setCursor(pointed_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  setToolTip(pointed_ ? pointed_->toolTip() : QString());
+}
+
+void DeviceView::mousePressEvent(QMouseEvent* event) {
+  DeviceLabel* const label = LabelAt(event->position());
+  if (!label || event->button() != Qt::LeftButton) return;
+  label->setFocus(Qt::MouseFocusReason);
+  label->click();
+}
+
+void DeviceView::leaveEvent(QEvent*) { Point(nullptr); }
+
+// The keyboard.
+
+void DeviceView::MoveFocus(const DeviceLabel& from, QPoint direction) {
+  DeviceLabel* nearest = nullptr;
+  int least = 0;
+  for (const Spot& spot : spots_) {
+    const QPoint way = spot.label->geometry().center() - from.geometry().center();
+    const int ahead = QPoint::dotProduct(way, direction);
+    const int aside = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
+    if (spot.label->isHidden() || ahead <= 0 || aside > 2 * ahead) continue;
+    const int distance = ahead + 2 * aside;
+    if (!nearest || distance < least) {
+      nearest = spot.label;
+      least = distance;
+    }
+  }
+  if (nearest) nearest->setFocus(Qt::TabFocusReason);
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,87 @@
+// Lists that stand on one another, as the macro lists do: one view that shows the one in front, with its
+// ticks, and lets its items be dragged out as text.
+#pragma once
+
+#include <QAbstractListModel>
+#include <QListView>
+
+#include "screen/widgets/Binding.h"
+
+namespace tarvik::screen {
+
+/// The items of whichever list is in front. It holds them itself, so that it has an answer for every index at
+/// any time, also while the list changes and after it has gone.
+class ListModel : public QAbstractListModel {
+ public:
+  /// `ticks`: an item may bear one.
+  explicit ListModel(bool ticks) : canTick_(ticks) {}
+  void SetItems(const std::vector<std::string>& items, std::vector<bool> ticks);
+  void SetTicks(std::vector<bool> ticks);
+  /// None, or one beside each item.
+  void SetColours(const std::vector<unsigned>& colours);
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+ private:
+  [[nodiscard]] bool Has(const QModelIndex& index) const;
+  void Changed(int role);
+
+  QStringList items_;
+  std::vector<bool> ticks_;  // one for each item
+  std::vector<QColor> colours_;
+  bool canTick_;
+};
+
+/// Lets the selection of a list without the focus look paler, where the desktop makes no difference.
+void ShowFocusInSelection(QAbstractItemView& view);
+
+class ListStack : public QListView {
+ public:
+  /// `ticks`: there is room for ticks before the items.
+  ListStack(Bindings& bindings, const QString& name, bool ticks);
+
+  /// Puts a list on the stack.
+  void Add(ListBox& list);
+  /// The lists of the array, also those that come later.
+  void Add(ControlArray<ListBox>& lists);
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void startDrag(Qt::DropActions actions) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  struct Shown {
+    ListBox* list;
+    std::vector<Connection> connections;
+  };
+
+  void TakeFocus();
+  /// What a click does to the item in hand, and the Space key as well.
+  void ClickItem();
+  void Remove(ListBox& list);
+  void Raise(ListBox& list);
+  void BringUpToDate();
+  void ShowItems();
+  void ShowIndex();
+  /// Whether the pointer, which went down in the list, has gone where a drag begins.
+  [[nodiscard]] bool BeginsDrag(const QPoint& place) const;
+
+  Bindings& bindings_;
+  ListModel model_;
+  std::vector<Shown> stack_;  // the last one is on top
+  ListBox* front_ = nullptr;
+  bool showing_ = false;
+  std::optional<QPoint> press_;  // where the left button went down
+};
+
+}  // namespace tarvik::screen

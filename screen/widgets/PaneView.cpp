@@ -1,0 +1,279 @@
+#include "screen/widgets/PaneView.h"
+
+#include <QMimeData>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <algorithm>
+
+#include "screen/widgets/Text.h"
+#include "screen/widgets/Uncovered.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr qreal kTabWidth = 48;  // pixels
+constexpr int kTextMargin = 4;
+
+struct Trimmed {
+  std::size_t front;  ///< equal characters at the front of both texts
+  std::size_t back;   ///< and at their back
+};
+
+bool Parts(std::string_view text, std::size_t at) {
+  return at > 0 && at < text.size() && text[at - 1] == '\r' && text[at] == '\n';
+}
+
+/// What two texts have alike at either end, line breaks kept whole.
+Trimmed CommonEnds(std::string_view left, std::string_view right) {
+  const std::size_t shorter = std::min(left.size(), right.size());
+  std::size_t front = 0;
+  while (front < shorter && left[front] == right[front]) ++front;
+  if (Parts(left, front) || Parts(right, front)) --front;
+  std::size_t back = 0;
+  while (back < shorter - front && left[left.size() - 1 - back] == right[right.size() - 1 - back]) ++back;
+  if (Parts(left, left.size() - back) || Parts(right, right.size() - back)) --back;
+  return {front, back};
+}
+
+}  // namespace
+
+PaneView::PaneView(Pane& pane, Bindings& bindings, QWidget* parent) : QPlainTextEdit(parent), pane_(pane) {
+  setUndoRedoEnabled(false);
+  setFrameShape(QFrame::NoFrame);
+  setAutoFillBackground(true);
+  setBackgroundRole(QPalette::Base);
+  setTabStopDistance(kTabWidth);
+  document()->setDocumentMargin(kTextMargin);
+  // What the text makes nothing of would come back from the indent for ever, see `event`.
+  viewport()->setAttribute(Qt::WA_NoMousePropagation);
+  ShowAll();
+  BindLook(bindings);
+  ListenToPane(bindings);
+  ListenToUser();
+}
+
+void PaneView::BindLook(Bindings& bindings) {
+  bindings.BindControl(pane_, *this);
+  bindings.Bind(
+      pane_.BackColor,
+      [this] {
+        QPalette palette = this->palette();
+        palette.setColor(QPalette::Base, ToScreenColour(pane_.BackColor.Get()));
+        palette.setColor(QPalette::Text, Qt::black);
+        setPalette(palette);
+      },
+      [this] { return TextOf(FromScreenColour(palette().color(QPalette::Base))); });
+  for (PropertyBase* part :
+       std::initializer_list<PropertyBase*>{&pane_.SelFontName, &pane_.SelFontSize, &pane_.SelBold}) {
+    bindings.Bind(*part, [this] { ShowFont(); });
+  }
+  bindings.Bind(pane_.SelIndent,
+                [this] { setViewportMargins(std::max(0, pane_.SelIndent - kTextMargin), 0, 0, 0); });
+  bindings.Bind(
+      pane_.RightMargin, [this] { setLineWrapMode(pane_.RightMargin == 0 ? WidgetWidth : NoWrap); },
+      [this] { return lineWrapMode() == NoWrap ? pane_.RightMargin.ToText() : "0"; });
+  bindings.Bind(
+      pane_.Overtype, [this] { setOverwriteMode(pane_.Overtype); },
+      [this] { return TextOf(overwriteMode()); });
+  bindings.Bind(
+      pane_.Locked,
+      [this] {
+        setTextInteractionFlags(pane_.Locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                             : Qt::TextEditorInteraction);
+      },
+      [this] { return TextOf(isReadOnly()); });
+}
+
+void PaneView::ShowFont() {
+  QFont font(ToScreen(pane_.SelFontName.Get()));
+  font.setPointSizeF(ToScreenSize(pane_.SelFontSize));
+  font.setBold(pane_.SelBold);
+  setFont(font);
+}
+
+void PaneView::ListenToPane(Bindings& bindings) {
+  bindings.Keep(pane_.Edited.Connect([this](const PaneEdit& edit) { ShowEdit(edit); }));
+  bindings.Keep(pane_.SelectionChanged.Connect([this] { ShowSelection(); }));
+  bindings.Bind(
+      pane_.Text, [] {}, [this] { return DocumentText(0, document()->characterCount() - 1); });
+  bindings.Bind(
+      pane_.SelStart, [] {}, [this] { return TextOf(SelectionOnScreen().start); });
+  bindings.Bind(
+      pane_.SelLength, [] {}, [this] { return TextOf(SelectionOnScreen().length); });
+  bindings.Bind(
+      pane_.SelText, [] {},
+      [this] { return DocumentText(textCursor().selectionStart(), textCursor().selectionEnd()); });
+}
+
+void PaneView::ListenToUser() {
+  connect(document(), &QTextDocument::contentsChange, this, [this](int position, int, int added) {
+    if (!showing_) native_ = NativeChange{position, added};
+  });
+  // Only now is the document ready to be changed again by what the pane answers.
+  connect(document(), &QTextDocument::contentsChanged, this, [this] {
+    if (const auto change = std::exchange(native_, {})) TakeOver(*change);
+  });
+  connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { TakeSelection(); });
+  connect(this, &QPlainTextEdit::selectionChanged, this, [this] { TakeSelection(); });
+}
+
+// Positions.
+
+std::size_t PaneView::PanePosition(int documentPosition) const {
+  return static_cast<std::size_t>(documentPosition + document()->findBlock(documentPosition).blockNumber());
+}
+
+int PaneView::DocumentPosition(std::size_t panePosition) const {
+  const int wanted = static_cast<int>(panePosition);
+  int low = 0;  // the last line that begins at or before the position
+  int high = document()->blockCount() - 1;
+  while (low < high) {
+    const int middle = (low + high + 1) / 2;
+    if (document()->findBlockByNumber(middle).position() + middle <= wanted) {
+      low = middle;
+    } else {
+      high = middle - 1;
+    }
+  }
+  return std::min(wanted - low, document()->characterCount() - 1);
+}
+
+QRect PaneView::CaretAt(std::size_t panePosition) const {
+  QTextCursor cursor(document());
+  cursor.setPosition(DocumentPosition(panePosition));
+  return cursorRect(cursor);
+}
+
+std::string PaneView::DocumentText(int from, int to) const {
+  std::string text;
+  for (QTextBlock block = document()->findBlock(from); block.isValid() && block.position() <= to;
+       block = block.next()) {
+    if (block.position() > from) text += "\r\n";
+    const QString line = block.text();
+    const int end = std::min(static_cast<int>(line.size()), to - block.position());
+    for (int i = std::max(0, from - block.position()); i < end; ++i) text += FromScreen(line[i]);
+  }
+  return text;
+}
+
+Range PaneView::SelectionOnScreen() const {
+  const QTextCursor cursor = textCursor();
+  const std::size_t start = PanePosition(cursor.selectionStart());
+  return {start, PanePosition(cursor.selectionEnd()) - start};
+}
+
+// From the pane to the document.
+
+void PaneView::ShowEdit(const PaneEdit& edit) {
+  if (const auto expected = std::exchange(expected_, {})) {
+    if (edit.position == expected->position && edit.removed.text == expected->removed.text &&
+        edit.inserted.text == expected->inserted.text) {
+      return;
+    }
+    ShowAll();
+  } else if (edit.OnlyColours()) {
+    viewport()->update();
+    return;
+  } else if (CutsLineBreak(edit) || edit.removed.size() + edit.inserted.size() > pane_.Content().size()) {
+    ShowAll();
+  } else {
+    const QScopedValueRollback showing(showing_, true);
+    QTextCursor cursor(document());
+    cursor.setPosition(DocumentPosition(edit.position));
+    cursor.setPosition(DocumentPosition(edit.position + edit.removed.size()), QTextCursor::KeepAnchor);
+    cursor.insertText(ToScreen(edit.inserted.text));
+  }
+  viewport()->update();
+  ShowSelection();
+  AskForSight();
+}
+
+/// Such an edit makes or breaks a line beyond its own characters.
+bool PaneView::CutsLineBreak(const PaneEdit& edit) const {
+  const std::string_view text = pane_.Characters();
+  const std::size_t end = edit.position + edit.inserted.size();
+  return (edit.position > 0 && text[edit.position - 1] == '\r') || (end < text.size() && text[end] == '\n');
+}
+
+void PaneView::ShowAll() {
+  const QScopedValueRollback showing(showing_, true);
+  setPlainText(ToScreen(pane_.Characters()));
+}
+
+void PaneView::ShowSelection() {
+  if (native_ || SelectionOnScreen() == pane_.Selection()) return;
+  const QScopedValueRollback showing(showing_, true);
+  const int scrolled = verticalScrollBar()->value();
+  QTextCursor cursor = textCursor();
+  cursor.setPosition(DocumentPosition(pane_.Selection().start));
+  cursor.setPosition(DocumentPosition(pane_.Selection().End()), QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+  verticalScrollBar()->setValue(scrolled);
+  AskForSight();
+}
+
+/// Many a command moves the caret through the text before it rests: only where it rests is scrolled to.
+void PaneView::AskForSight() {
+  if (std::exchange(scrollAsked_, true)) return;
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        scrollAsked_ = false;
+        BringCaretIntoSight();
+      },
+      Qt::QueuedConnection);
+}
+
+/// Where tools are kept above the text, the caret's line goes to where none of them covers it. What can't be
+/// scrolled down that far begins lower.
+void PaneView::BringCaretIntoSight() {
+  if (!viewport()->rect().contains(cursorRect())) centerCursor();
+  const QRect line = cursorRect()
+                         .united(CaretAt(PanePosition(textCursor().block().position())))
+                         .translated(viewport()->pos());
+  const QRect free = UncoveredPart(*this, line);
+  if (free.height() >= height()) return ShowFrom(0);
+  if (free.contains(line)) return;
+  const int lineHeight = std::max(1, cursorRect().height());
+  const int wanted = verticalScrollBar()->value() + (line.center().y() - free.center().y()) / lineHeight;
+  verticalScrollBar()->setValue(wanted);
+  if (wanted < 0) ShowFrom(viewportMargins().top() - wanted * lineHeight);
+}
+
+void PaneView::ShowFrom(int top) {
+  QMargins margins = viewportMargins();
+  if (margins.top() == top) return;
+  margins.setTop(top);
+  setViewportMargins(margins);
+}
+
+// From the document to the pane.
+
+void PaneView::TakeSelection() {
+  if (!showing_ && !native_) pane_.Select(SelectionOnScreen());
+}
+
+/// The toolkit may report more than was changed; what is the same as before is left alone.
+void PaneView::TakeOver(const NativeChange& change) {
+  const int length = document()->characterCount() - 1;
+  const int end = std::min(change.position + change.added, length);
+  const std::size_t behind = PanePosition(length) - PanePosition(end);
+  const std::size_t start = PanePosition(change.position);
+  const std::string_view before = pane_.Characters();
+  const std::string_view old =
+      before.substr(start, before.size() - std::min(before.size() - start, behind) - start);
+  const std::string now = DocumentText(change.position, end);
+  const Trimmed same = CommonEnds(old, now);
+  const std::string inserted = now.substr(same.front, now.size() - same.front - same.back);
+  const Range range{start + same.front, old.size() - same.front - same.back};
+  if (range.length > 0 || !inserted.empty()) {
+    expected_ = {range.start, RichText(std::string(before.substr(range.start, range.length))),
+                 RichText(inserted)};
+    pane_.UserReplaced(range, inserted);
+    viewport()->update();
+  }
+  TakeSelection();
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,81 @@
+// A text pane on screen. The document mirrors the pane's text, colours are painted straight from the pane,
+// and what the user does natively (typing, input methods, dropping, pasting) goes back to the pane.
+#pragma once
+
+#include <QPlainTextEdit>
+#include <optional>
+
+#include "panes/Pane.h"
+#include "screen/widgets/Binding.h"
+
+namespace tarvik::screen {
+
+/// A line break is one position in the document and two in the pane, so that the two kinds of position differ
+/// by the number of the line.
+class PaneView : public QPlainTextEdit {
+ public:
+  PaneView(Pane& pane, Bindings& bindings, QWidget* parent);
+
+  [[nodiscard]] std::size_t PanePosition(int documentPosition) const;
+  [[nodiscard]] int DocumentPosition(std::size_t panePosition) const;
+  /// In the widget's viewport.
+  [[nodiscard]] QRect CaretAt(std::size_t panePosition) const;
+
+ protected:
+  bool event(QEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  [[nodiscard]] bool canInsertFromMimeData(const QMimeData* data) const override;
+  void insertFromMimeData(const QMimeData* data) override;
+  void dropEvent(QDropEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  struct NativeChange {
+    int position;
+    int added;
+  };
+
+  void BindLook(Bindings& bindings);
+  void ShowFont();
+  void ListenToPane(Bindings& bindings);
+  void ListenToUser();
+
+  // From the pane to the document.
+  void ShowEdit(const PaneEdit& edit);
+  void ShowAll();
+  void ShowSelection();
+  void AskForSight();
+  void BringCaretIntoSight();
+  void ShowFrom(int top);
+  [[nodiscard]] bool CutsLineBreak(const PaneEdit& edit) const;
+
+  // From the document to the pane.
+  void TakeOver(const NativeChange& change);
+  void TakeSelection();
+  [[nodiscard]] std::string DocumentText(int from, int to) const;
+  [[nodiscard]] Range SelectionOnScreen() const;
+  [[nodiscard]] QString PressKeys(const QString& text);
+  void MoveSelectionTo(const QPoint& place);
+
+  void PaintBlock(QPainter& painter, const QTextBlock& block, const QPointF& offset, int caret) const;
+  /// `selected` counts from the start of the block, whose text has `textLength` characters.
+  void PaintLine(QPainter& painter, const QTextLine& line, const QPointF& offset, std::size_t blockStart,
+                 std::size_t textLength, Range selected) const;
+
+  Pane& pane_;
+  bool showing_ = false;              // the pane's change is being put into the document
+  std::optional<PaneEdit> expected_;  // what the pane is about to announce of the document's own change
+  std::optional<NativeChange> native_;
+  bool scrollAsked_ = false;
+  bool keyIsDown_ = false;  // the key was pressed here, and not in a window that has gone
+};
+
+}  // namespace tarvik::screen
