@@ -32,18 +32,15 @@ ColourSelectorView::ColourSelectorView(ColourSelector& selector, QWidget& swatch
     bindings_.Bind(selector.Command1(i), *button);
   }
   bindings_.Shows(selector, *this);
-  bindings_.Bind(
-      selector.Visible,
-      [this] {
-        if (!selector_.Visible) {
-          hide();
-          return;
-        }
-        adjustSize();
-        move(PlaceToOpen());
-        show();
-      },
-      [this] { return TextOf(isVisible()); });
+  bindings_.Bind(selector.Visible, [this] {
+    if (!selector_.Visible) {
+      hide();
+      return;
+    }
+    adjustSize();
+    move(PlaceToOpen());
+    show();
+  });
 }
 
 /// Under the swatch, or at the end of the toolbar when the swatch has no room there.

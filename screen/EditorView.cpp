@@ -25,13 +25,10 @@ class FrameView : public QWidget {
     bindings.BindControl(frame, *this);
     bindings.Place(frame, *this, 1);
     bindings.BindMouse(frame, *this);
-    bindings.Bind(
-        frame.Caption,
-        [this] {
-          setAccessibleName(ToScreen(frame_.Caption.Get()));
-          update();
-        },
-        [this] { return FromScreen(accessibleName()); });
+    bindings.Bind(frame.Caption, [this] {
+      setAccessibleName(ToScreen(frame_.Caption.Get()));
+      update();
+    });
   }
 
  protected:
@@ -64,11 +61,7 @@ EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(
   MakePanes();
   OrderFocus();
   bindings_.Shows(editor, *this);
-  bindings_.Bind(
-      editor.Caption, [this] { setWindowTitle(ToScreen(editor_.Caption.Get())); },
-      [this] { return FromScreen(windowTitle()); });
-  bindings_.Bind(
-      editor.Visible, [] {}, [this] { return TextOf(isVisible()); });
+  bindings_.Bind(editor.Caption, [this] { setWindowTitle(ToScreen(editor_.Caption.Get())); });
   for (const auto* const menus : {&menus_, &popUps_}) PopUpOnDemand(*menus, editor, *this, bindings_);
   if (clock == Clock::Scripted) return;
   for (Timer* timer : {&editor.Timer1, &editor.TimerBlinkLine}) bindings_.Bind(*timer, *new QTimer(this));

@@ -1,5 +1,4 @@
-// What the view of a form has, whatever the form: its bindings, for those who look for a widget or read what
-// is on screen.
+// What the view of a form has, whatever the form: its bindings, for those who look for a widget.
 #pragma once
 
 #include "controls/Form.h"

@@ -80,19 +80,14 @@ void MumWindow::BindWindow() {
   BindTitle(mum_, *this, bindings_);
   bindings_.Bind(mum_.Unsaved, [this] { MarkChild(); });
   bindings_.Bind(mum_.MousePointer, [this] { ShowPointer(); });
-  bindings_.Bind(
-      mum_.WindowState, [this] { TakeState(); },
-      [this] { return isVisible() ? TextOf(StateOnScreen()) : mum_.WindowState.ToText(); });
-  bindings_.Bind(
-      mum_.Visible,
-      [this] {
-        if (mum_.Visible) {
-          ShowWindow();
-        } else {
-          hide();
-        }
-      },
-      [this] { return TextOf(isVisible()); });
+  bindings_.Bind(mum_.WindowState, [this] { TakeState(); });
+  bindings_.Bind(mum_.Visible, [this] {
+    if (mum_.Visible) {
+      ShowWindow();
+    } else {
+      hide();
+    }
+  });
 }
 
 /// The time, and the keys that light up.

@@ -77,11 +77,4 @@ QObject* Screen::Find(const Component& component) const {
   return nullptr;
 }
 
-std::optional<std::string> Screen::Read(const PropertyBase& property) const {
-  for (const FormView* const view : views_) {
-    if (auto text = view->bindings().Read(property)) return text;
-  }
-  return {};
-}
-
 }  // namespace tarvik::screen

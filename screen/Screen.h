@@ -27,8 +27,6 @@ class Screen {
   [[nodiscard]] FormView* ViewOf(const Form& form) const;
   /// The widget or action that shows a component, or null.
   [[nodiscard]] QObject* Find(const Component& component) const;
-  /// What the screen shows of a property, as its text; nothing for what is not to be seen.
-  [[nodiscard]] std::optional<std::string> Read(const PropertyBase& property) const;
 
  private:
   void Show(Form& form);

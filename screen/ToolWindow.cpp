@@ -65,9 +65,7 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   if (form.OwnsKeys) others_.emplace(*this);
   bindings_.Shows(form, *this);
   BindTitle(form, *this, bindings_);
-  bindings_.Bind(
-      form.WindowState, [this] { ShowMinimised(this->form().WindowState == kMinimised); },
-      [this] { return TextOf(isMinimized() ? kMinimised : kNormal); });
+  bindings_.Bind(form.WindowState, [this] { ShowMinimised(this->form().WindowState == kMinimised); });
   bindings_.Bind(form.Topmost, [] { ArrangeWindows(); });
   bindings_.Keep(form.Moved.Connect([this] {
     placed_ = true;
@@ -77,8 +75,7 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
     raise();
     AskForWindow(*this);
   }));
-  bindings_.Bind(
-      form.Visible, [this] { ShowWindow(); }, [this] { return TextOf(isVisible()); });
+  bindings_.Bind(form.Visible, [this] { ShowWindow(); });
 }
 
 /// A page that is larger than the screen is scrolled.

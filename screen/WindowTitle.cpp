@@ -20,17 +20,9 @@ QString TitleOf(const Form& form) {
 
 void BindTitle(Form& form, QWidget& window, Bindings& bindings) {
   const auto show = [&form, &window] { window.setWindowTitle(TitleOf(form)); };
-  const auto read = [&form, &window](const Property<std::string>& part) {
-    return [&form, &window, &part]() -> std::optional<std::string> {
-      const QString title = window.windowTitle();
-      return title == TitleOf(form) ? part.ToText() : FromScreen(title);
-    };
-  };
-  bindings.Bind(form.Caption, show, read(form.Caption));
-  bindings.Bind(form.FileOnShow, show, read(form.FileOnShow));
-  bindings.Bind(
-      form.Unsaved, [&form, &window] { window.setWindowModified(form.Unsaved); },
-      [&window] { return TextOf(window.isWindowModified()); });
+  bindings.Bind(form.Caption, show);
+  bindings.Bind(form.FileOnShow, show);
+  bindings.Bind(form.Unsaved, [&form, &window] { window.setWindowModified(form.Unsaved); });
 }
 
 }  // namespace tarvik::screen

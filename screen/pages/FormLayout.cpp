@@ -174,14 +174,11 @@ QWidget* FormLayout::ShowSwatch(Label& swatch) const {
   button->setProperty(kNoMnemonic, true);
   bindings_.Bind(swatch, static_cast<QAbstractButton&>(*button));
   button->setAccessibleName(button->toolTip());
-  bindings_.Bind(
-      swatch.BackColor,
-      [button, &swatch] {
-        QPixmap colour(kSide, kSide);
-        colour.fill(ToScreenColour(swatch.BackColor.Get()));
-        button->setIcon(colour);
-      },
-      [button] { return TextOf(FromScreenColour(button->icon().pixmap(kSide).toImage().pixelColor(0, 0))); });
+  bindings_.Bind(swatch.BackColor, [button, &swatch] {
+    QPixmap colour(kSide, kSide);
+    colour.fill(ToScreenColour(swatch.BackColor.Get()));
+    button->setIcon(colour);
+  });
   return button;
 }
 

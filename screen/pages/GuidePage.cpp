@@ -127,8 +127,6 @@ QLayout* Page(Wizard& form, const FormLayout& in) {
     in.bindings().Shows(form.frames(i), *page);
     in.bindings().Keep(form.frames(i).Raised.Connect([stack, i] { stack->setCurrentIndex(i); }));
   }
-  in.bindings().Bind(
-      form.Page, [] {}, [stack] { return TextOf(stack->currentIndex()); });
   return Column(
       {stack, Row({in.Show(form.buttons(Wizard::kCancel)), Stretch(), in.Show(form.buttons(Wizard::kBack)),
                    in.Show(form.buttons(Wizard::kNext)), in.Show(form.buttons(Wizard::kFinish))})});

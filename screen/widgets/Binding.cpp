@@ -30,11 +30,6 @@ void ShowUsersText(const std::string& text, QAction& action) {
   action.setText(shown.replace(u'&', QLatin1String("&&")));
 }
 
-std::string UsersTextOn(const QAction& action) {
-  const QString shown = action.text().replace(QLatin1String("&&"), QLatin1String("&"));
-  return FromScreen(action.toolTip().size() > shown.size() ? action.toolTip() : shown);
-}
-
 Qt::CursorShape CursorOf(int mousePointer) {
   switch (mousePointer) {
     case pointer::kWestEast:
@@ -57,7 +52,6 @@ int ButtonNumber(Qt::MouseButtons buttons) {
 const QLatin1String kUnsavedMark("*");
 
 QString Escaped(QString text) { return text.replace(u'&', QLatin1String("&&")); }
-QString Unescaped(QString text) { return text.replace(QLatin1String("&&"), QLatin1String("&")); }
 
 /// Hands a widget's events on without taking them.
 class Watcher : public QObject {
@@ -93,10 +87,9 @@ Mouse ToMouse(const QMouseEvent& event) {
           static_cast<float>(event.position().y()) * kTwips};
 }
 
-void Bindings::Bind(PropertyBase& property, std::function<void()> show, Reader read) {
+void Bindings::Bind(PropertyBase& property, std::function<void()> show) {
   show();
   connections_.push_back(property.Changed.Connect(std::move(show)));
-  if (read) readers_[&property] = std::move(read);
 }
 
 void Bindings::Shows(const Component& component, QObject& shown) {
@@ -104,13 +97,9 @@ void Bindings::Shows(const Component& component, QObject& shown) {
   shown_[&component] = &shown;
 }
 
-void Bindings::Forget(const Component& component) {
-  shown_.erase(&component);
-  for (const PropertyBase* property : component.Properties()) readers_.erase(property);
-}
+void Bindings::Forget(const Component& component) { shown_.erase(&component); }
 
 void Bindings::Release() {
-  readers_.clear();
   shown_.clear();
   connections_.clear();
 }
@@ -120,28 +109,16 @@ QObject* Bindings::Find(const Component& component) const {
   return found == shown_.end() ? nullptr : found->second;
 }
 
-std::optional<std::string> Bindings::Read(const PropertyBase& property) const {
-  const auto found = readers_.find(&property);
-  return found == readers_.end() ? std::nullopt : found->second();
-}
-
 void Bindings::BindControl(Control& control, QWidget& widget) {
   Shows(control, widget);
-  Bind(
-      control.Visible,
-      [&] {
-        // Otherwise the toolkit hands the focus to whatever comes next.
-        if (!control.Visible && widget.hasFocus()) widget.clearFocus();
-        // Without a place yet it would come up as a window of its own; it shows with its parent.
-        if (widget.parentWidget() || !control.Visible) widget.setVisible(control.Visible);
-      },
-      [&] { return TextOf(!widget.isHidden()); });
-  Bind(
-      control.Enabled, [&] { widget.setEnabled(control.Enabled); },
-      [&] { return TextOf(widget.isEnabled()); });
-  Bind(
-      control.ToolTipText, [&] { widget.setToolTip(ToScreen(control.ToolTipText.Get())); },
-      [&] { return FromScreen(widget.toolTip()); });
+  Bind(control.Visible, [&] {
+    // Otherwise the toolkit hands the focus to whatever comes next.
+    if (!control.Visible && widget.hasFocus()) widget.clearFocus();
+    // Without a place yet it would come up as a window of its own; it shows with its parent.
+    if (widget.parentWidget() || !control.Visible) widget.setVisible(control.Visible);
+  });
+  Bind(control.Enabled, [&] { widget.setEnabled(control.Enabled); });
+  Bind(control.ToolTipText, [&] { widget.setToolTip(ToScreen(control.ToolTipText.Get())); });
   Bind(control.MousePointer, [&] { widget.setCursor(CursorOf(control.MousePointer)); });
   if (widget.focusPolicy() == Qt::NoFocus) return;
   new Watcher(widget, [this, &control](QEvent& event) {
@@ -173,42 +150,26 @@ void Bindings::Place(Control& control, QWidget& widget, float unitsPerPixel) {
     widget.setGeometry(ToPixels(control.Left, unitsPerPixel), ToPixels(control.Top, unitsPerPixel),
                        ToPixels(control.Width, unitsPerPixel), ToPixels(control.Height, unitsPerPixel));
   };
-  const auto read = [unitsPerPixel](Property<float>& property, auto pixels) {
-    // A place between two pixels is shown on the nearer one.
-    return [=, &property]() -> std::optional<std::string> {
-      const bool there = pixels() == ToPixels(property, unitsPerPixel);
-      return there ? property.ToText() : TextOf(static_cast<float>(pixels()) * unitsPerPixel);
-    };
-  };
-  Bind(control.Left, place, read(control.Left, [&widget] { return widget.x(); }));
-  Bind(control.Top, place, read(control.Top, [&widget] { return widget.y(); }));
-  Bind(control.Width, place, read(control.Width, [&widget] { return widget.width(); }));
-  Bind(control.Height, place, read(control.Height, [&widget] { return widget.height(); }));
+  for (Property<float>* const side : {&control.Left, &control.Top, &control.Width, &control.Height}) {
+    Bind(*side, place);
+  }
 }
 
 void Bindings::Bind(MenuItem& item, QAction& action) {
   Shows(item, action);
   action.setShortcut(QKeySequence(ToScreen(item.Shortcut.Get())));
-  Bind(
-      item.Caption,
-      [&] {
-        if (item.isUsersText) return ShowUsersText(item.Caption, action);
-        action.setSeparator(item.Caption.Get() == MenuItem::kDivider);
-        action.setText(action.isSeparator() ? QString() : ToScreen(item.Caption.Get()));
-      },
-      [&] {
-        if (item.isUsersText) return UsersTextOn(action);
-        return action.isSeparator() ? std::string(MenuItem::kDivider) : FromScreen(action.text());
-      });
-  Bind(
-      item.Enabled, [&] { action.setEnabled(item.Enabled); }, [&] { return TextOf(action.isEnabled()); });
-  Bind(
-      item.Visible, [&] { action.setVisible(item.Visible); }, [&] { return TextOf(action.isVisible()); });
+  Bind(item.Caption, [&] {
+    if (item.isUsersText) return ShowUsersText(item.Caption, action);
+    action.setSeparator(item.Caption.Get() == MenuItem::kDivider);
+    action.setText(action.isSeparator() ? QString() : ToScreen(item.Caption.Get()));
+  });
+  Bind(item.Enabled, [&] { action.setEnabled(item.Enabled); });
+  Bind(item.Visible, [&] { action.setVisible(item.Visible); });
   const auto showCheck = [&] {
     action.setCheckable(item.Checked);
     action.setChecked(item.Checked);
   };
-  Bind(item.Checked, showCheck, [&] { return TextOf(action.isChecked()); });
+  Bind(item.Checked, showCheck);
   QObject::connect(&action, &QAction::triggered, &action, [&item, showCheck] {
     item.Click();
     showCheck();  // the toolkit has turned the check mark over by itself
@@ -223,13 +184,7 @@ QString WithMnemonic(QString caption, const QWidget& widget) {
 
 template <class Captioned, class Widget>
 void Bindings::BindCaption(Captioned& control, Widget& widget) {
-  Bind(
-      control.Caption, [&] { widget.setText(WithMnemonic(ToScreen(control.Caption.Get()), widget)); },
-      [&] {
-        QString caption = widget.text();
-        if (widget.property(kMnemonic).isValid()) caption.remove(u'&');
-        return FromScreen(caption);
-      });
+  Bind(control.Caption, [&] { widget.setText(WithMnemonic(ToScreen(control.Caption.Get()), widget)); });
 }
 
 void Bindings::Bind(CommandButton& button, QAbstractButton& widget) {
@@ -240,16 +195,12 @@ void Bindings::Bind(CommandButton& button, QAbstractButton& widget) {
 
 void Bindings::Bind(ToolbarButton& button, QToolButton& widget) {
   Shows(button, widget);
-  Bind(
-      button.ToolTipText,
-      [&] {
-        widget.setToolTip(ToScreen(button.ToolTipText.Get()));
-        widget.setAccessibleName(widget.toolTip());
-      },
-      [&] { return FromScreen(widget.toolTip()); });
+  Bind(button.ToolTipText, [&] {
+    widget.setToolTip(ToScreen(button.ToolTipText.Get()));
+    widget.setAccessibleName(widget.toolTip());
+  });
   Bind(button.Image, [&] { widget.setIcon(Icon(button.Image.Get())); });
-  Bind(
-      button.Enabled, [&] { widget.setEnabled(button.Enabled); }, [&] { return TextOf(widget.isEnabled()); });
+  Bind(button.Enabled, [&] { widget.setEnabled(button.Enabled); });
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Click(); });
 }
 
@@ -280,7 +231,7 @@ void Bindings::Bind(Label& label, QAbstractButton& widget) {
     widget.setCheckable(label.BorderStyle == 1);
     widget.setChecked(label.BorderStyle == 1);
   };
-  Bind(label.BorderStyle, show, [&] { return TextOf(widget.isChecked() ? 1 : 0); });
+  Bind(label.BorderStyle, show);
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&label, show] {
     label.Click();
     show();  // the toolkit has turned it over by itself
@@ -289,24 +240,15 @@ void Bindings::Bind(Label& label, QAbstractButton& widget) {
 
 /// A colour of the system is that of the desktop.
 void Bindings::BindBackColour(Label& label, QWidget& widget) {
-  const auto meant = [&label, &widget] {
+  Bind(label.BackColor, [&label, &widget] {
     constexpr Colour kSystem = 0x80000000;
+    QPalette palette = QApplication::palette(&widget);
+    if (label.BackColor == ToggleLabel::kOn) palette.setColor(widget.foregroundRole(), Qt::black);
     const bool system = (label.BackColor & kSystem) != 0;
-    return system ? QApplication::palette(&widget).color(widget.backgroundRole())
-                  : ToScreenColour(label.BackColor);
-  };
-  Bind(
-      label.BackColor,
-      [&label, &widget, meant] {
-        QPalette palette = QApplication::palette(&widget);
-        if (label.BackColor == ToggleLabel::kOn) palette.setColor(widget.foregroundRole(), Qt::black);
-        palette.setColor(widget.backgroundRole(), meant());
-        widget.setPalette(palette);
-      },
-      [&label, &widget, meant] {
-        const QColor shown = widget.palette().color(widget.backgroundRole());
-        return shown == meant() ? label.BackColor.ToText() : TextOf(FromScreenColour(shown));
-      });
+    const QColor own = palette.color(widget.backgroundRole());
+    palette.setColor(widget.backgroundRole(), system ? own : ToScreenColour(label.BackColor));
+    widget.setPalette(palette);
+  });
 }
 
 void Bindings::Bind(ComboBox& combo, QComboBox& widget) {
@@ -320,17 +262,7 @@ void Bindings::Bind(ComboBox& combo, QComboBox& widget) {
   };
   showItems();
   Keep(combo.ItemsChanged.Connect(showItems));
-  Bind(combo.ListIndex, showItem, [&] { return TextOf(widget.currentIndex()); });
-  const auto read = [&] { return FromScreen(widget.currentText()); };
-  Bind(
-      combo.TextProperty, [] {}, read);
-  Bind(
-      combo.Items, [] {},
-      [&] {
-        QStringList items;
-        for (int i = 0; i < widget.count(); ++i) items += widget.itemText(i);
-        return FromScreen(items.join(u'\n'));
-      });
+  Bind(combo.ListIndex, showItem);
   QObject::connect(&widget, &QComboBox::activated, &widget, [&](int index) { combo.Select(index); });
 }
 
@@ -340,25 +272,15 @@ void Bindings::BindTab(Tab& tab, QTabBar& widget, int index) {
     const QString caption = Escaped(ToScreen(tab.Caption.Get()));
     widget.setTabText(index, tab.Unsaved ? caption + kUnsavedMark : caption);
   };
-  const auto isMarked = [&tab, &widget, index] {
-    return tab.Unsaved && widget.tabText(index).endsWith(kUnsavedMark);
-  };
-  Bind(tab.Caption, show, [&widget, index, isMarked] {
-    const QString text = Unescaped(widget.tabText(index));
-    return FromScreen(text.chopped(isMarked() ? kUnsavedMark.size() : 0));
-  });
-  Bind(tab.Unsaved, show, [isMarked] { return TextOf(isMarked()); });
-  Bind(
-      tab.ToolTipText,
-      [&tab, &widget, index] { widget.setTabToolTip(index, ToScreen(tab.ToolTipText.Get())); },
-      [&widget, index] { return FromScreen(widget.tabToolTip(index)); });
+  Bind(tab.Caption, show);
+  Bind(tab.Unsaved, show);
+  Bind(tab.ToolTipText,
+       [&tab, &widget, index] { widget.setTabToolTip(index, ToScreen(tab.ToolTipText.Get())); });
   Bind(tab.Image, [&tab, &widget, index] {
     const char* const name = tab.Image == kProtectedImage ? "object-locked" : "tab-file";
     const bool any = tab.Image == kProtectedImage || tab.Image == kFileImage;
     widget.setTabIcon(index, any ? Icon(name) : QIcon());
   });
-  Bind(
-      tab.Selected, [] {}, [&widget, index] { return TextOf(widget.currentIndex() == index); });
 }
 
 void Bindings::BindText(TextBox& box, QLineEdit& line) {
@@ -388,20 +310,17 @@ void Bindings::BindText(TextBox& box, QLineEdit& line) {
     box.SelStart = start();
     box.SelLength = length();
   };
-  Bind(
-      box.Text,
-      [&box, &line, busy, showSelection] {
-        const QString text = ToScreen(box.Text.Get());
-        if (text == line.text()) return;
-        {
-          const QScopedValueRollback rollback(*busy, true);
-          line.setText(text);
-        }
-        showSelection();
-      },
-      [&] { return FromScreen(line.text()); });
-  Bind(box.SelStart, showSelection, [start] { return TextOf(start()); });
-  Bind(box.SelLength, showSelection, [length] { return TextOf(length()); });
+  Bind(box.Text, [&box, &line, busy, showSelection] {
+    const QString text = ToScreen(box.Text.Get());
+    if (text == line.text()) return;
+    {
+      const QScopedValueRollback rollback(*busy, true);
+      line.setText(text);
+    }
+    showSelection();
+  });
+  Bind(box.SelStart, showSelection);
+  Bind(box.SelLength, showSelection);
   Bind(box.BackColor, [&] {
     constexpr Colour kWhite = 0xFFFFFF;
     QPalette palette = QApplication::palette(&line);
@@ -434,14 +353,6 @@ void Bindings::Bind(EntryBox& box, QComboBox& widget) {
   };
   showItems();
   Keep(box.ItemsChanged.Connect(showItems));
-  Bind(
-      box.Items, [] {},
-      [&] {
-        std::vector<std::string> items;
-        items.reserve(static_cast<std::size_t>(widget.count()));
-        for (int i = 0; i < widget.count(); ++i) items.push_back(FromScreen(widget.itemText(i)));
-        return Lines(items);
-      });
   QObject::connect(&widget, &QComboBox::activated, &widget, [&](int index) { box.Pick(index); });
   BindText(box, *widget.lineEdit());
 }
@@ -449,9 +360,7 @@ void Bindings::Bind(EntryBox& box, QComboBox& widget) {
 void Bindings::Bind(CheckBox& box, QAbstractButton& widget) {
   BindControl(box, widget);
   BindCaption(box, widget);
-  Bind(
-      box.Value, [&] { widget.setChecked(box.Value == 1); },
-      [&] { return TextOf(widget.isChecked() ? 1 : 0); });
+  Bind(box.Value, [&] { widget.setChecked(box.Value == 1); });
   QObject::connect(&widget, &QAbstractButton::clicked, &widget,
                    [&](bool checked) { box.Value = checked ? 1 : 0; });
 }
@@ -459,16 +368,13 @@ void Bindings::Bind(CheckBox& box, QAbstractButton& widget) {
 void Bindings::Bind(OptionButton& button, QAbstractButton& widget) {
   BindControl(button, widget);
   BindCaption(button, widget);
-  Bind(
-      button.Value,
-      [&] {
-        // The toolkit keeps a mark that is the last one among the buttons beside it; the others may be
-        // elsewhere.
-        widget.setAutoExclusive(false);
-        widget.setChecked(button.Value);
-        widget.setAutoExclusive(true);
-      },
-      [&] { return TextOf(widget.isChecked()); });
+  Bind(button.Value, [&] {
+    // The toolkit keeps a mark that is the last one among the buttons beside it; the others may be
+    // elsewhere.
+    widget.setAutoExclusive(false);
+    widget.setChecked(button.Value);
+    widget.setAutoExclusive(true);
+  });
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Value = true; });
 }
 
@@ -476,35 +382,25 @@ void Bindings::Bind(TabPages& pages, QTabWidget& widget) {
   BindControl(pages, widget);
   for (int i = 0; i < pages.Count(); ++i) {
     TabPages::Page& page = pages.Pages(i);
-    Bind(
-        page.Caption, [&page, &widget, i] { widget.setTabText(i, ToScreen(page.Caption.Get())); },
-        [&widget, i] { return FromScreen(widget.tabText(i)); });
-    Bind(
-        page.Visible, [&page, &widget, i] { widget.setTabVisible(i, page.Visible); },
-        [&widget, i] { return TextOf(widget.isTabVisible(i)); });
+    Bind(page.Caption, [&page, &widget, i] { widget.setTabText(i, ToScreen(page.Caption.Get())); });
+    Bind(page.Visible, [&page, &widget, i] { widget.setTabVisible(i, page.Visible); });
   }
-  Bind(
-      pages.Tab, [&] { widget.setCurrentIndex(pages.Tab); }, [&] { return TextOf(widget.currentIndex()); });
+  Bind(pages.Tab, [&] { widget.setCurrentIndex(pages.Tab); });
   QObject::connect(&widget, &QTabWidget::currentChanged, &widget, [&](int index) { pages.Tab = index; });
 }
 
 void Bindings::Bind(TabStrip& strip, QTabBar& widget) {
   BindControl(strip, widget);
   for (int i = 1; i <= strip.Count(); ++i) BindTab(strip.Tabs(i), widget, i - 1);
-  Bind(
-      strip.SelectedItem, [&] { widget.setCurrentIndex(strip.SelectedIndex() - 1); },
-      [&] { return TextOf(widget.currentIndex() + 1); });
+  Bind(strip.SelectedItem, [&] { widget.setCurrentIndex(strip.SelectedIndex() - 1); });
   QObject::connect(&widget, &QTabBar::currentChanged, &widget, [&](int index) { strip.Select(index + 1); });
 }
 
 void Bindings::Bind(ProgressBar& bar, QProgressBar& widget) {
   BindControl(bar, widget);
-  Bind(
-      bar.Min, [&] { widget.setMinimum(bar.Min); }, [&] { return TextOf(widget.minimum()); });
-  Bind(
-      bar.Max, [&] { widget.setMaximum(bar.Max); }, [&] { return TextOf(widget.maximum()); });
-  Bind(
-      bar.Value, [&] { widget.setValue(bar.Value); }, [&] { return TextOf(widget.value()); });
+  Bind(bar.Min, [&] { widget.setMinimum(bar.Min); });
+  Bind(bar.Max, [&] { widget.setMaximum(bar.Max); });
+  Bind(bar.Value, [&] { widget.setValue(bar.Value); });
 }
 
 void Bindings::Bind(Timer& timer, QTimer& clock) {

@@ -1,5 +1,5 @@
 // How each kind of control is shown: both directions of its properties, its events, its name and tool tip,
-// written once per kind. Every view holds one `Bindings` for its form; tests ask it what the screen shows.
+// written once per kind. Every view holds one `Bindings` for its form.
 #pragma once
 
 #include <QAction>
@@ -14,7 +14,6 @@
 #include <QWidget>
 #include <functional>
 #include <map>
-#include <optional>
 
 #include "controls/Controls.h"
 
@@ -40,15 +39,12 @@ inline constexpr const char* kNoMnemonic = "noMnemonic";
 
 class Bindings {
  public:
-  /// What the screen shows, as the property's text; nothing while it does not show it.
-  using Reader = std::function<std::optional<std::string>()>;
-
   Bindings() = default;
   Bindings(const Bindings&) = delete;
   Bindings& operator=(const Bindings&) = delete;
 
   /// `show` runs now and after every change of the property.
-  void Bind(PropertyBase& property, std::function<void()> show, Reader read = {});
+  void Bind(PropertyBase& property, std::function<void()> show);
   void Keep(Connection connection) { connections_.push_back(std::move(connection)); }
   /// The widget or action that shows the component, which gets the component's name.
   void Shows(const Component& component, QObject& shown);
@@ -58,7 +54,6 @@ class Bindings {
   void Release();
 
   [[nodiscard]] QObject* Find(const Component& component) const;
-  [[nodiscard]] std::optional<std::string> Read(const PropertyBase& property) const;
 
   /// What all controls have: visibility, tool tip, pointer, focus.
   void BindControl(Control& control, QWidget& widget);
@@ -91,7 +86,6 @@ class Bindings {
   void BindCaption(Captioned& control, Widget& widget);
   void BindTab(Tab& tab, QTabBar& widget, int index);
 
-  std::map<const PropertyBase*, Reader> readers_;
   std::map<const Component*, QObject*> shown_;
   std::vector<Connection> connections_;
   bool takingFocus_ = false;  // from the user

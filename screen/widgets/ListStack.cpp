@@ -169,45 +169,6 @@ void ListStack::Add(ListBox& list) {
       list.ColoursChanged.Connect(inFront([this, &list] { model_.SetColours(list.Colours()); })),
       list.ListIndex.Changed.Connect(inFront([this] { ShowIndex(); })),
   };
-  const auto read = [this, &list](auto what) -> Bindings::Reader {
-    return [this, &list, what]() -> std::optional<std::string> {
-      return front_ == &list ? std::optional<std::string>(what()) : std::nullopt;
-    };
-  };
-  const auto lines = [this](bool tickedOnly) {
-    QStringList texts;
-    for (int row = 0; row < model_.rowCount(); ++row) {
-      const QModelIndex index = model_.index(row);
-      const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-      if (ticked || !tickedOnly) texts += index.data().toString();
-    }
-    return FromScreen(texts.join(u'\n'));
-  };
-  bindings_.Bind(
-      list.Items, [] {}, read([lines] { return lines(false); }));
-  bindings_.Bind(
-      list.Ticked, [] {}, read([lines] { return lines(true); }));
-  bindings_.Bind(
-      list.Count, [] {}, read([this] { return TextOf(model_.rowCount()); }));
-  bindings_.Bind(
-      list.Swatches, [] {}, read([this] {
-        QStringList colours;
-        for (int row = 0; row < model_.rowCount(); ++row) {
-          const auto colour = model_.index(row).data(Qt::DecorationRole).value<QColor>();
-          if (colour.isValid()) colours += QString::number(FromScreenColour(colour));
-        }
-        return FromScreen(colours.join(u'\n'));
-      }));
-  bindings_.Bind(
-      list.ListIndex, [] {}, read([this] { return TextOf(currentIndex().row()); }));
-  bindings_.Bind(
-      list.ToolTipText, [] {}, read([this] { return FromScreen(toolTip()); }));
-  bindings_.Bind(
-      list.Visible, [] {},
-      [this, &list]() -> std::optional<std::string> {
-        if (front_ == &list) return TextOf(true);
-        return list.Visible ? std::nullopt : std::optional(TextOf(false));  // it may be behind another one
-      });
   stack_.push_back(std::move(shown));
   BringUpToDate();
 }

@@ -46,6 +46,8 @@ class ListStack : public QListView {
   void Add(ListBox& list);
   /// The lists of the array, also those that come later.
   void Add(ControlArray<ListBox>& lists);
+  /// The list that is in front, or null.
+  [[nodiscard]] const ListBox* Front() const { return front_; }
 
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

@@ -55,34 +55,25 @@ PaneView::PaneView(Pane& pane, Bindings& bindings, QWidget* parent) : QPlainText
 
 void PaneView::BindLook(Bindings& bindings) {
   bindings.BindControl(pane_, *this);
-  bindings.Bind(
-      pane_.BackColor,
-      [this] {
-        QPalette palette = this->palette();
-        palette.setColor(QPalette::Base, ToScreenColour(pane_.BackColor.Get()));
-        palette.setColor(QPalette::Text, Qt::black);
-        setPalette(palette);
-      },
-      [this] { return TextOf(FromScreenColour(palette().color(QPalette::Base))); });
+  bindings.Bind(pane_.BackColor, [this] {
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Base, ToScreenColour(pane_.BackColor.Get()));
+    palette.setColor(QPalette::Text, Qt::black);
+    setPalette(palette);
+  });
   for (PropertyBase* part :
        std::initializer_list<PropertyBase*>{&pane_.SelFontName, &pane_.SelFontSize, &pane_.SelBold}) {
     bindings.Bind(*part, [this] { ShowFont(); });
   }
   bindings.Bind(pane_.SelIndent,
                 [this] { setViewportMargins(std::max(0, pane_.SelIndent - kTextMargin), 0, 0, 0); });
-  bindings.Bind(
-      pane_.RightMargin, [this] { setLineWrapMode(pane_.RightMargin == 0 ? WidgetWidth : NoWrap); },
-      [this] { return lineWrapMode() == NoWrap ? pane_.RightMargin.ToText() : "0"; });
-  bindings.Bind(
-      pane_.Overtype, [this] { setOverwriteMode(pane_.Overtype); },
-      [this] { return TextOf(overwriteMode()); });
-  bindings.Bind(
-      pane_.Locked,
-      [this] {
-        setTextInteractionFlags(pane_.Locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
-                                             : Qt::TextEditorInteraction);
-      },
-      [this] { return TextOf(isReadOnly()); });
+  bindings.Bind(pane_.RightMargin,
+                [this] { setLineWrapMode(pane_.RightMargin == 0 ? WidgetWidth : NoWrap); });
+  bindings.Bind(pane_.Overtype, [this] { setOverwriteMode(pane_.Overtype); });
+  bindings.Bind(pane_.Locked, [this] {
+    setTextInteractionFlags(pane_.Locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
+                                         : Qt::TextEditorInteraction);
+  });
 }
 
 void PaneView::ShowFont() {
@@ -95,15 +86,6 @@ void PaneView::ShowFont() {
 void PaneView::ListenToPane(Bindings& bindings) {
   bindings.Keep(pane_.Edited.Connect([this](const PaneEdit& edit) { ShowEdit(edit); }));
   bindings.Keep(pane_.SelectionChanged.Connect([this] { ShowSelection(); }));
-  bindings.Bind(
-      pane_.Text, [] {}, [this] { return DocumentText(0, document()->characterCount() - 1); });
-  bindings.Bind(
-      pane_.SelStart, [] {}, [this] { return TextOf(SelectionOnScreen().start); });
-  bindings.Bind(
-      pane_.SelLength, [] {}, [this] { return TextOf(SelectionOnScreen().length); });
-  bindings.Bind(
-      pane_.SelText, [] {},
-      [this] { return DocumentText(textCursor().selectionStart(), textCursor().selectionEnd()); });
 }
 
 void PaneView::ListenToUser() {

@@ -31,23 +31,17 @@ const PanelRow& RowOf(const Panel& panel) { return kPanels[*panel.Index() - 1]; 
 
 PanelView::PanelView(Panel& panel, Bindings& bindings, QWidget* parent) : QWidget(parent), panel_(panel) {
   bindings.Shows(panel, *this);
-  bindings.Bind(
-      panel.Text,
-      [this] {
-        text_ = ToScreen(panel_.Text.Get());
-        setAccessibleName(text_);
-        repaint();  // long work tells how far it is within one event
-      },
-      [this] { return FromScreen(text_); });
-  bindings.Bind(
-      panel.ToolTipText, [this] { setToolTip(ToScreen(panel_.ToolTipText.Get())); },
-      [this] { return FromScreen(toolTip()); });
+  bindings.Bind(panel.Text, [this] {
+    text_ = ToScreen(panel_.Text.Get());
+    setAccessibleName(text_);
+    repaint();  // long work tells how far it is within one event
+  });
+  bindings.Bind(panel.ToolTipText, [this] { setToolTip(ToScreen(panel_.ToolTipText.Get())); });
   bindings.Bind(panel.Picture, [this] {
     picture_ = Icon(kPictures[panel_.Picture]);
     update();
   });
-  bindings.Bind(
-      panel.Enabled, [this] { setEnabled(panel_.Enabled); }, [this] { return TextOf(isEnabled()); });
+  bindings.Bind(panel.Enabled, [this] { setEnabled(panel_.Enabled); });
 }
 
 QSize PanelView::sizeHint() const {

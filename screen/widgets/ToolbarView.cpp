@@ -25,8 +25,7 @@ SwatchView::SwatchView(PictureBox& swatch, Bindings& bindings, QWidget* parent)
   setAutoRaise(true);
   bindings.BindControl(swatch, *this);
   setAccessibleName(toolTip());
-  bindings.Bind(
-      swatch.BackColor, [this] { update(); }, [this] { return swatch_.BackColor.ToText(); });
+  bindings.Bind(swatch.BackColor, [this] { update(); });
   connect(this, &QAbstractButton::clicked, this, [this] { swatch_.Click(); });
 }
 
@@ -66,12 +65,9 @@ ToolbarView::ToolbarView(Toolbar& toolbar, PictureBox& swatch, int swatchButton,
   overflow_->setAutoRaise(true);
   connect(overflow_, &QAbstractButton::clicked, this, [this] { ShowOverflow(); });
   bindings.BindControl(toolbar, *this);
-  bindings.Bind(
-      toolbar.Flat,
-      [this] {
-        for (const Position& position : positions_) position.widget->setAutoRaise(toolbar_.Flat);
-      },
-      [this] { return TextOf(positions_.front().widget->autoRaise()); });
+  bindings.Bind(toolbar.Flat, [this] {
+    for (const Position& position : positions_) position.widget->setAutoRaise(toolbar_.Flat);
+  });
   bindings.Bind(toolbar.Wrappable, rearrange);
 }
 

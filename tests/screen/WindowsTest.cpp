@@ -22,6 +22,7 @@
 #include "screen/services/HelpWindow.h"
 #include "screen/widgets/PathLabel.h"
 #include "screen/widgets/Text.h"
+#include "session/WidgetReader.h"
 #include "tools/blocks/TextBlocks.h"
 #include "tools/composer/InsertOptions.h"
 #include "tools/favourites/Favourites.h"
@@ -375,7 +376,7 @@ TEST_F(Windows, KeepTheirSizeHoweverLongAPathIs) {
     label->Caption = path;
     QApplication::processEvents();
     EXPECT_EQ(window.size(), before);
-    EXPECT_EQ(screen.Read(label->Caption), path);
+    EXPECT_EQ(ReadOff(screen, *label, "Caption"), path);
     const QString shown = dynamic_cast<PathLabel*>(screen.Find(*label))->Shown();
     EXPECT_TRUE(shown.startsWith(QStringLiteral("z:")) && shown.endsWith(QStringLiteral("last.bmp")));
   }

@@ -40,8 +40,8 @@ class Driver {
   virtual void Drop(ListBox& from, Pane& pane, std::size_t position) = 0;
   /// Whether the control has its window's focus.
   virtual bool HasFocus(const Control& control) = 0;
-  /// What is on show of the property, as its text.
-  virtual std::string Read(const PropertyBase& property) = 0;
+  /// What is on show of the component's property, as its text.
+  virtual std::string Read(const Component& component, const PropertyBase& property) = 0;
   /// Lets what is pending happen, before something is expected.
   virtual void Settle() {}
 };

@@ -344,7 +344,9 @@ class FormDriver : public Driver {
   }
 
   bool HasFocus(const Control& control) override { return control.OwnForm()->ActiveControl() == &control; }
-  std::string Read(const PropertyBase& property) override { return property.ToText(); }
+  std::string Read(const Component& /*component*/, const PropertyBase& property) override {
+    return property.ToText();
+  }
 
  private:
   template <class T>

@@ -358,12 +358,13 @@ T* Runner::FindAs(const std::string& path) {
   return found;
 }
 
-PropertyBase* Runner::FindProperty(const std::string& path) {
+Runner::Found Runner::FindProperty(const std::string& path) {
   const std::size_t dot = path.rfind('.');
   if (dot == std::string::npos) throw Stop{"a property is missing"};
-  PropertyBase* property = Find(path.substr(0, dot))->FindProperty(path.substr(dot + 1));
+  Component& component = *Find(path.substr(0, dot));
+  PropertyBase* const property = component.FindProperty(path.substr(dot + 1));
   if (!property) throw Stop{"there is no property " + path};
-  return property;
+  return {component, *property};
 }
 
 // Before the start.
@@ -630,7 +631,7 @@ void Runner::Mouse(const Line& line) {
 }
 
 void Runner::Set(const Line& line) {
-  if (!FindProperty(Word(line, 1))->FromText(Wanted(line, 2))) throw Stop{"it can't be set to that"};
+  if (!FindProperty(Word(line, 1)).property.FromText(Wanted(line, 2))) throw Stop{"it can't be set to that"};
 }
 
 void Runner::SetValue(const Line& line) {
@@ -754,16 +755,16 @@ void Runner::ExpectForm(const Line& line) {
 }
 
 void Runner::ExpectProperty(const Line& line) {
-  const PropertyBase* property = FindProperty(line.words[1]);
-  Compare(Wanted(line, 2), driver_->Read(*property));
+  const Found found = FindProperty(line.words[1]);
+  Compare(Wanted(line, 2), driver_->Read(found.component, found.property));
 }
 
 /// expect CAPTION in FORM PROPERTY TEXT
 void Runner::ExpectPropertyOf(const Line& line) {
-  const PropertyBase* const property =
-      FindByCaption(Word(line, kFormOfCaption), Word(line, 1))->FindProperty(Word(line, kFormOfCaption + 1));
+  const Component& component = *FindByCaption(Word(line, kFormOfCaption), Word(line, 1));
+  const PropertyBase* const property = component.FindProperty(Word(line, kFormOfCaption + 1));
   if (!property) throw Stop{"it has no property " + Word(line, kFormOfCaption + 1)};
-  Compare(Wanted(line, kFormOfCaption + 2), driver_->Read(*property));
+  Compare(Wanted(line, kFormOfCaption + 2), driver_->Read(component, *property));
 }
 
 void Runner::ExpectValue(const Line& line) {

@@ -133,7 +133,12 @@ class Runner {
   Component* FindByCaption(const std::string& form, const std::string& caption);
   template <class T>
   T* FindAs(const std::string& path);
-  PropertyBase* FindProperty(const std::string& path);
+  /// A component's property by its path.
+  struct Found {
+    Component& component;
+    PropertyBase& property;
+  };
+  Found FindProperty(const std::string& path);
   int ItemIndex(Component& control, const std::string& item);
   [[nodiscard]] std::string ColourLetters(const Pane& pane, std::size_t start, std::size_t length) const;
 

@@ -3,8 +3,8 @@
 #include <QApplication>
 
 #include "screen/Screen.h"
-#include "screen/ScreenAccess.h"
 #include "session/Driver.h"
+#include "session/ScreenAccess.h"
 
 namespace tarvik::session {
 namespace {
@@ -47,8 +47,8 @@ class ScreenDriver : public Driver {
     access_.Settle();
     return access_.HasFocus(control);
   }
-  std::string Read(const PropertyBase& property) override {
-    return access_.Read(property).value_or(property.ToText());
+  std::string Read(const Component& component, const PropertyBase& property) override {
+    return access_.Read(component, property);
   }
   void Settle() override { access_.Settle(); }
 
@@ -57,7 +57,7 @@ class ScreenDriver : public Driver {
   [[nodiscard]] bool Usable(const Component& control) {
     for (const char* name : {"Visible", "Enabled"}) {
       const PropertyBase* property = control.FindProperty(name);
-      if (property && Read(*property) == "False") return false;
+      if (property && Read(control, *property) == "False") return false;
     }
     return access_.IsOnShow(control);
   }

@@ -1,4 +1,4 @@
-#include "screen/ScreenAccess.h"
+#include "session/ScreenAccess.h"
 
 #include <QApplication>
 #include <QComboBox>

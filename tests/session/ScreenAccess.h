@@ -3,13 +3,13 @@
 #pragma once
 
 #include <QKeyEvent>
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "controls/PlotBox.h"
 #include "panes/Pane.h"
 #include "screen/Screen.h"
+#include "session/WidgetReader.h"
 
 namespace tarvik::screen {
 
@@ -50,8 +50,9 @@ class ScreenAccess {
 
   /// What is drawn at a place of a picture, in its units.
   [[nodiscard]] unsigned ColourAt(const PlotBox& picture, float x, float y) const;
-  [[nodiscard]] std::optional<std::string> Read(const PropertyBase& property) const {
-    return screen_.Read(property);
+  /// What is on show of a property, or what it holds where the screen does not tell.
+  [[nodiscard]] std::string Read(const Component& component, const PropertyBase& property) const {
+    return ReadOff(screen_, component, property.Name()).value_or(property.ToText());
   }
 
  private:
