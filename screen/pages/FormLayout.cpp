@@ -12,6 +12,9 @@
 #include <QTabWidget>
 #include <map>
 
+#include "controls/ImageBox.h"
+#include "controls/PlotBox.h"
+#include "panes/Pane.h"
 #include "screen/widgets/DeviceView.h"
 #include "screen/widgets/ImageView.h"
 #include "screen/widgets/ListStack.h"
@@ -58,12 +61,91 @@ class Button : public QPushButton {
   }
 };
 
-template <class Widget, class Component>
-QWidget* Shown(Bindings& bindings, Component& component) {
+/// A frame without a caption, whose border begins where the caption's middle would be.
+class BorderView : public QWidget {
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    constexpr int kAbove = 6;
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, kAbove, -1, -1));
+  }
+};
+
+// How each kind of control is shown.
+
+template <class Widget>
+QWidget* ShowOn(auto& control, Bindings& bindings) {
   auto* const widget = new Widget;
-  bindings.Bind(component, *widget);
+  bindings.Bind(control, *widget);
   return widget;
 }
+
+QWidget* ShowEntry(EntryBox& box, Bindings& bindings) {
+  auto* const widget = new QComboBox;
+  widget->setEditable(true);
+  widget->setInsertPolicy(QComboBox::NoInsert);
+  widget->setCompleter(nullptr);  // it would put another text in the place of what is typed
+  widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  widget->setMinimumContentsLength(28);
+  bindings.Bind(box, *widget);
+  return widget;
+}
+
+QWidget* ShowButton(CommandButton& button, Bindings& bindings) {
+  auto* const widget = new Button;
+  bindings.Bind(button, *widget);
+  bindings.Bind(button.Default, [widget, &button] { widget->setDefault(button.Default); });
+  return widget;
+}
+
+QWidget* ShowList(ListBox& list, Bindings& bindings) {
+  auto* const view = new ListStack(bindings, ToScreen(list.FullName()), false);
+  view->Add(list);
+  return view;
+}
+
+QWidget* ShowPane(Pane& pane, Bindings& bindings) {
+  auto* const view = new PaneView(pane, bindings, nullptr);
+  view->setFrameShape(QFrame::StyledPanel);
+  view->setTabChangesFocus(true);
+  return view;
+}
+
+QWidget* ShowPlot(PlotBox& box, Bindings& bindings) { return new PlotView(box, bindings); }
+QWidget* ShowImage(ImageBox& box, Bindings& bindings) { return new ImageView(box, bindings); }
+
+QWidget* ShowFrame(Frame& frame, Bindings& bindings) {
+  auto* const view = new BorderView;
+  bindings.BindControl(frame, *view);
+  return view;
+}
+
+/// Shows a control of its kind; null for any other.
+using ShowKind = QWidget* (*)(Control& control, Bindings& bindings);
+
+template <class Kind, QWidget* (*show)(Kind&, Bindings&)>
+QWidget* Only(Control& control, Bindings& bindings) {
+  auto* const own = dynamic_cast<Kind*>(&control);
+  return own ? show(*own, bindings) : nullptr;
+}
+
+/// The kinds of controls that a page can show. One that is made from another stands in front of it.
+constexpr ShowKind kKinds[] = {
+    Only<EntryBox, ShowEntry>,
+    Only<TextBox, ShowOn<QLineEdit>>,
+    Only<CheckBox, ShowOn<QCheckBox>>,
+    Only<OptionButton, ShowOn<QRadioButton>>,
+    Only<CommandButton, ShowButton>,
+    Only<ToggleLabel, ShowOn<Button>>,
+    Only<Label, ShowOn<QLabel>>,
+    Only<ComboBox, ShowOn<QComboBox>>,
+    Only<ListBox, ShowList>,
+    Only<Pane, ShowPane>,
+    Only<PlotBox, ShowPlot>,
+    Only<ImageBox, ShowImage>,
+    Only<Frame, ShowFrame>,
+};
 
 /// The letters that are taken, and the giving of one more.
 class Mnemonics {
@@ -96,17 +178,6 @@ QWidget* PageOf(QWidget* widget) {
   return widget;
 }
 
-/// A frame without a caption, whose border begins where the caption's middle would be.
-class BorderView : public QWidget {
- protected:
-  void paintEvent(QPaintEvent*) override {
-    constexpr int kAbove = 6;
-    QPainter painter(this);
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, kAbove, -1, -1));
-  }
-};
-
 /// Enter and Escape press these two, and a code such as "/U" is no word with a letter to spare.
 bool NeedsNone(const QString& caption) {
   return caption == caption.toUpper() || caption.size() == 1 || caption == QLatin1String("Cancel");
@@ -136,26 +207,19 @@ void GiveOn(QWidget& window, const QWidget* page, Mnemonics& mnemonics) {
 
 }  // namespace
 
-QWidget* FormLayout::Show(TextBox& box) const { return Shown<QLineEdit>(bindings_, box); }
-QWidget* FormLayout::Show(CheckBox& box) const { return Shown<QCheckBox>(bindings_, box); }
-QWidget* FormLayout::Show(OptionButton& button) const { return Shown<QRadioButton>(bindings_, button); }
-
-QWidget* FormLayout::Show(ToggleLabel& label) const { return Shown<Button>(bindings_, label); }
-QWidget* FormLayout::Show(Label& label) const { return Shown<QLabel>(bindings_, label); }
-
-QWidget* FormLayout::ShowPath(Label& label) const {
-  QWidget* const path = Shown<PathLabel>(bindings_, label);
-  path->setAutoFillBackground(false);
-  return path;
+QWidget* FormLayout::Show(Control& control) const {
+  QWidget* shown = nullptr;
+  for (const ShowKind show : kKinds) {
+    if (!shown) shown = show(control, bindings_);
+  }
+  if (!shown) qFatal("no view shows a control such as %s", control.FullName().c_str());
+  return shown;
 }
 
-QWidget* FormLayout::Show(PlotBox& box) const { return new PlotView(box, bindings_); }
-QWidget* FormLayout::Show(ImageBox& box) const { return new ImageView(box, bindings_); }
-
-QWidget* FormLayout::Show(Frame& frame) const {
-  auto* const view = new BorderView;
-  bindings_.BindControl(frame, *view);
-  return view;
+QWidget* FormLayout::ShowPath(Label& label) const {
+  QWidget* const path = ShowOn<PathLabel>(label, bindings_);
+  path->setAutoFillBackground(false);
+  return path;
 }
 
 QWidget* FormLayout::ShowLamp(ToggleLabel& lamp) const {
@@ -186,39 +250,6 @@ QWidget* FormLayout::Place(Control& control, QWidget* shown, QWidget* area) cons
   shown->setParent(area);
   bindings_.Place(control, *shown, kTwips);
   return shown;
-}
-
-QWidget* FormLayout::Show(CommandButton& button) const {
-  auto* const widget = new Button;
-  bindings_.Bind(button, *widget);
-  bindings_.Bind(button.Default, [widget, &button] { widget->setDefault(button.Default); });
-  return widget;
-}
-
-QWidget* FormLayout::Show(EntryBox& box) const {
-  auto* const widget = new QComboBox;
-  widget->setEditable(true);
-  widget->setInsertPolicy(QComboBox::NoInsert);
-  widget->setCompleter(nullptr);  // it would put another text in the place of what is typed
-  widget->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  widget->setMinimumContentsLength(28);
-  bindings_.Bind(box, *widget);
-  return widget;
-}
-
-QWidget* FormLayout::Show(Pane& pane) const {
-  auto* const view = new PaneView(pane, bindings_, nullptr);
-  view->setFrameShape(QFrame::StyledPanel);
-  view->setTabChangesFocus(true);
-  return view;
-}
-
-QWidget* FormLayout::Show(ComboBox& box) const { return Shown<QComboBox>(bindings_, box); }
-
-QWidget* FormLayout::Show(ListBox& list) const {
-  auto* const view = new ListStack(bindings_, ToScreen(list.FullName()), false);
-  view->Add(list);
-  return view;
 }
 
 QWidget* FormLayout::Show(ControlArray<ListBox>& lists, const char* name, bool ticks) const {

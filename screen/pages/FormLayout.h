@@ -6,9 +6,6 @@
 #include <QLabel>
 #include <variant>
 
-#include "controls/ImageBox.h"
-#include "controls/PlotBox.h"
-#include "panes/Pane.h"
 #include "screen/widgets/Binding.h"
 
 namespace tarvik::screen {
@@ -22,25 +19,14 @@ class FormLayout {
  public:
   explicit FormLayout(Bindings& bindings) : bindings_(bindings) {}
 
-  QWidget* Show(TextBox& box) const;
-  QWidget* Show(EntryBox& box) const;
-  QWidget* Show(CheckBox& box) const;
-  QWidget* Show(OptionButton& button) const;
-  QWidget* Show(CommandButton& button) const;
-  QWidget* Show(ToggleLabel& label) const;
-  QWidget* Show(Label& label) const;
+  /// By the control's kind.
+  QWidget* Show(Control& control) const;
   /// A label whose text is a path, or has one in it.
   QWidget* ShowPath(Label& label) const;
-  QWidget* Show(Pane& pane) const;
-  QWidget* Show(ComboBox& box) const;
-  QWidget* Show(ListBox& list) const;
   /// Lists that stand on one another.
   QWidget* Show(ControlArray<ListBox>& lists, const char* name, bool ticks = false) const;
   /// A drawing of a device, with its labels.
   QWidget* Show(const char* drawing, const std::vector<Label*>& labels) const;
-  QWidget* Show(PlotBox& box) const;
-  QWidget* Show(ImageBox& box) const;
-  QWidget* Show(Frame& frame) const;
   /// A label that is pressed to take its colour.
   QWidget* ShowSwatch(Label& swatch) const;
   /// A label that only lights up.

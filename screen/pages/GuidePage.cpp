@@ -81,21 +81,18 @@ class GuidePages {
   }
 
   QWidget* ShowNamed(std::string_view name) {
-    Component* const found = form_.Resolve(name);
-    if (auto* const button = dynamic_cast<CommandButton*>(found)) return in_.Show(*button);
-    if (auto* const box = dynamic_cast<TextBox*>(found)) return in_.Show(*box);
-    if (auto* const list = dynamic_cast<ListBox*>(found)) return Headings(*list);
-    return Preview(dynamic_cast<Label&>(*found));
+    auto& control = dynamic_cast<Control&>(*form_.Resolve(name));
+    if (auto* const preview = dynamic_cast<Label*>(&control)) return Preview(OnTheWindow(*preview));
+    QWidget* const shown = in_.Show(control);
+    return dynamic_cast<ListBox*>(&control) ? Headings(shown) : shown;
   }
 
-  QWidget* Headings(ListBox& list) {
-    QWidget* const view = Named(in_.Show(list), QStringLiteral("Headings"));
-    view->setMinimumHeight(kListLines * view->fontMetrics().lineSpacing());
-    return view;
+  static QWidget* Headings(QWidget* list) {
+    list->setMinimumHeight(kListLines * list->fontMetrics().lineSpacing());
+    return Named(list, QStringLiteral("Headings"));
   }
 
-  QWidget* Preview(Label& preview) {
-    QLabel* const label = OnTheWindow(preview);
+  static QWidget* Preview(QLabel* label) {
     label->setTextFormat(Qt::PlainText);
     label->setFrameShape(QFrame::StyledPanel);
     label->setMargin(label->fontMetrics().height() / 3);
