@@ -81,33 +81,24 @@ class FirstInFolder : public SingleInstance {
   InstanceLock lock_;
 };
 
-}  // namespace
+/// All that the program has from outside.
+struct Services {
+  explicit Services(const ProgramFolder& programFolder) : folder(programFolder) {}
 
-int main(int argc, char* argv[]) {
-  if (const auto decoded = screen::RunAsDecoder(argc, argv)) return *decoded;
-  screen::Toolkit toolkit(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("Tarvik"));
-  QApplication::setDesktopFileName(QStringLiteral("tarvik"));
-  QApplication::setQuitOnLastWindowClosed(false);
-  screen::ChooseIconTheme();
-  QApplication::setWindowIcon(screen::Icon("tarvik"));
-
-  const ProgramFolder folder(Host(QApplication::applicationFilePath()), ProgramFolder::UsersOwn());
-  TellIfNothingLasts(folder);
-  const fs::path& home = folder.Path();
-  HostDrives driveFolders(home);
+  const ProgramFolder& folder;
+  HostDrives driveFolders{folder.Path()};
   Drives& drives = driveFolders.Paths();
-  HostFiles files(drives);
-  screen::QtDialogs dialogs(drives);
-  FirstInFolder lock(folder, driveFolders);
+  HostFiles files{drives};
+  screen::QtDialogs dialogs{drives};
+  FirstInFolder lock{folder, driveFolders};
   screen::QtClipboard clipboard;
-  screen::QtHelp help(files);
+  screen::QtHelp help{files};
   screen::QtPrinter printer;
   screen::QtCalendar calendar;
-  screen::QtDesktop desktop(drives);
+  screen::QtDesktop desktop{drives};
   screen::SdlJoystick joystick;
   screen::QtKeyboard keyboard;
-  HostPrograms programs(drives);
+  HostPrograms programs{drives};
   Platform platform{files,
                     dialogs,
                     lock,
@@ -121,14 +112,32 @@ int main(int argc, char* argv[]) {
                     programs,
                     driveFolders,
                     SizeOfScreen(),
-                    drives.FromHost(home),
+                    drives.FromHost(folder.Path()),
                     CommandLine(QApplication::arguments().mid(1), drives)};
+};
 
-  Application application(platform);
+void NameProgram() {
+  QApplication::setApplicationName(QStringLiteral("Tarvik"));
+  QApplication::setDesktopFileName(QStringLiteral("tarvik"));
+  QApplication::setQuitOnLastWindowClosed(false);
+  screen::ChooseIconTheme();
+  QApplication::setWindowIcon(screen::Icon("tarvik"));
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  if (const auto decoded = screen::RunAsDecoder(argc, argv)) return *decoded;
+  screen::Toolkit toolkit(argc, argv);
+  NameProgram();
+  const ProgramFolder folder(Host(QApplication::applicationFilePath()), ProgramFolder::UsersOwn());
+  TellIfNothingLasts(folder);
+  Services services(folder);
+  Application application(services.platform);
   toolkit.failed = [&application](const Failure& failure) {
     application.workbench.errors.Record("TARVIK Event", failure);
   };
-  help.look = [&application] { return LookOf(application.workbench.settings); };
+  services.help.look = [&application] { return LookOf(application.workbench.settings); };
   screen::Screen screen(application, screen::Clock::Real);
   const Connection ended = application.HasEnded.Connect([] {
     QMetaObject::invokeMethod(

@@ -68,6 +68,58 @@ class Watcher : public QObject {
   std::function<void(QEvent&)> watch_;
 };
 
+/// The text of a box and what is selected in it, on their way to the line and back. It goes with the line.
+class TypedText : public QObject {
+ public:
+  TypedText(TextBox& box, QLineEdit& line) : QObject(&line), box_(box), line_(line) {
+    connect(&line, &QLineEdit::cursorPositionChanged, this, &TypedText::TakeSelection);
+    connect(&line, &QLineEdit::selectionChanged, this, &TypedText::TakeSelection);
+    connect(&line, &QLineEdit::textEdited, this,
+            [this] { box_.SetText(FromScreen(line_.text()), PlaceOf(line_.cursorPosition())); });
+  }
+
+  void ShowText() {
+    const QString text = ToScreen(box_.Text.Get());
+    if (text == line_.text()) return;
+    {
+      const QScopedValueRollback rollback(busy_, true);
+      line_.setText(text);
+    }
+    ShowSelection();
+  }
+
+  void ShowSelection() {
+    if (busy_) return;
+    const QScopedValueRollback rollback(busy_, true);
+    const std::string text = box_.Text;
+    const auto shown = [&text](std::size_t position) {
+      return static_cast<int>(ToScreen(std::string_view(text).substr(0, position)).size());
+    };
+    const int from = shown(box_.SelStart);
+    const int to = shown(box_.SelStart + box_.SelLength);
+    line_.setCursorPosition(from);
+    if (to > from) line_.setSelection(from, to - from);
+  }
+
+ private:
+  [[nodiscard]] std::size_t PlaceOf(int position) const {
+    return FromScreen(line_.text().left(position)).size();
+  }
+
+  /// The toolkit drops the selection of a line that the focus leaves; the box keeps it for what is inserted
+  /// next.
+  void TakeSelection() {
+    if (busy_ || !line_.hasFocus()) return;
+    const QScopedValueRollback rollback(busy_, true);
+    box_.SelStart = PlaceOf(line_.hasSelectedText() ? line_.selectionStart() : line_.cursorPosition());
+    box_.SelLength = FromScreen(line_.selectedText()).size();
+  }
+
+  TextBox& box_;
+  QLineEdit& line_;
+  bool busy_ = false;  // one of the two is taking over from the other
+};
+
 }  // namespace
 
 int ToPixels(float value, float unitsPerPixel) {
@@ -284,41 +336,9 @@ void Bindings::BindTab(Tab& tab, QTabBar& widget, int index) {
 }
 
 void Bindings::BindText(TextBox& box, QLineEdit& line) {
-  const auto place = [&line](qsizetype position) { return FromScreen(line.text().left(position)).size(); };
-  const auto start = [&line, place] {
-    return place(line.hasSelectedText() ? line.selectionStart() : line.cursorPosition());
-  };
-  const auto length = [&line] { return FromScreen(line.selectedText()).size(); };
-  const auto busy = std::make_shared<bool>(false);  // one of the two is taking over from the other
-  const auto showSelection = [&box, &line, busy] {
-    if (*busy) return;
-    const QScopedValueRollback rollback(*busy, true);
-    const std::string text = box.Text;
-    const auto shown = [&text](std::size_t position) {
-      return static_cast<int>(ToScreen(std::string_view(text).substr(0, position)).size());
-    };
-    const int from = shown(box.SelStart);
-    const int to = shown(box.SelStart + box.SelLength);
-    line.setCursorPosition(from);
-    if (to > from) line.setSelection(from, to - from);
-  };
-  // The toolkit drops the selection of a line that the focus leaves; the box keeps it for what is inserted
-  // next.
-  const auto takeSelection = [&box, &line, busy, start, length] {
-    if (*busy || !line.hasFocus()) return;
-    const QScopedValueRollback rollback(*busy, true);
-    box.SelStart = start();
-    box.SelLength = length();
-  };
-  Bind(box.Text, [&box, &line, busy, showSelection] {
-    const QString text = ToScreen(box.Text.Get());
-    if (text == line.text()) return;
-    {
-      const QScopedValueRollback rollback(*busy, true);
-      line.setText(text);
-    }
-    showSelection();
-  });
+  auto* const typed = new TypedText(box, line);
+  const auto showSelection = [typed] { typed->ShowSelection(); };
+  Bind(box.Text, [typed] { typed->ShowText(); });
   Bind(box.SelStart, showSelection);
   Bind(box.SelLength, showSelection);
   Bind(box.BackColor, [&] {
@@ -329,11 +349,6 @@ void Bindings::BindText(TextBox& box, QLineEdit& line) {
       palette.setColor(QPalette::Text, Qt::black);
     }
     line.setPalette(palette);
-  });
-  QObject::connect(&line, &QLineEdit::cursorPositionChanged, &line, takeSelection);
-  QObject::connect(&line, &QLineEdit::selectionChanged, &line, takeSelection);
-  QObject::connect(&line, &QLineEdit::textEdited, &line, [&box, &line, place] {
-    box.SetText(FromScreen(line.text()), place(line.cursorPosition()));
   });
 }
 
