@@ -1,6 +1,4 @@
 // The page of the Composer's window.
-#include <QGridLayout>
-
 #include "screen/pages/Pages.h"
 
 namespace tarvik::screen {
@@ -17,21 +15,21 @@ QWidget* Narrow(QWidget* box) {
 }
 
 QLabel* Note(const char* text) {
-  auto* const label = new QLabel(QString::fromUtf8(text));
+  QLabel* const label = Words(text);
   label->setWordWrap(true);
   return label;
 }
 
 /// The members of an array, so many to a row.
 template <class T>
-QLayout* Grid(const FormLayout& in, const ControlArray<T>& array, int columns) {
-  auto* const grid = new QGridLayout;
-  grid->setSpacing(4);
+QLayout* Buttons(const FormLayout& in, const ControlArray<T>& array, int columns) {
+  std::vector<QWidget*> cells;
   for (int i = 0; i < array.Count(); ++i) {
-    QWidget* const button = in.Show(array(i));
-    button->setMinimumWidth(40);
-    grid->addWidget(button, i / columns, i % columns);
+    cells.push_back(in.Show(array(i)));
+    cells.back()->setMinimumWidth(40);
   }
+  auto* const grid = Grid(cells, columns);
+  grid->setSpacing(4);
   return grid;
 }
 
@@ -64,7 +62,7 @@ QLayout* MainPage(InsertOptions& form, const FormLayout& in) {
   auto* const side = new QWidget;
   side->setFixedWidth(kSideWidth);
   side->setLayout(Column(
-      {Group("Macros", Macros(form, in)), Group("Slash modifiers", Grid(in, form.SlashButton, 6)),
+      {Group("Macros", Macros(form, in)), Group("Slash modifiers", Buttons(in, form.SlashButton, 6)),
        Group("Delay, Repeat",
              Row({in.Show(form.DlyRptButtons(0)), delay, Stretch(), in.Show(form.DlyRptButtons(1)), repeat})),
        Group("Notes  (Rem)",
@@ -122,36 +120,29 @@ QLayout* AxesPage(InsertOptions& form, const FormLayout& in) {
 }
 
 QLayout* UsePage(InsertOptions& form, const FormLayout& in) {
-  auto* const use = new QGridLayout;
-  int at = 0;
-  for (const int i : {0, 1, 7, 2, 3, 8, 4}) {
-    use->addWidget(in.Show(form.Command1(i)), at / 3, at % 3);
-    ++at;
-  }
+  std::vector<QWidget*> uses;
+  for (const int i : {0, 1, 7, 2, 3, 8, 4}) uses.push_back(in.Show(form.Command1(i)));
   QWidget* const types = in.Show(form.MouseList, "Mouse types");
   types->setMaximumSize(90, 150);
-  auto* const mouse = new QGridLayout;
   constexpr const char* kMouseButtons[] = {"Left", "Middle", "Right"};
+  std::vector<QWidget*> mouse;
   for (int i = 0; i < form.Label5.Count(); ++i) {
-    mouse->addWidget(new QLabel(QString::fromUtf8(kMouseButtons[i])), i, 0);
-    mouse->addWidget(in.Show(form.Label5(i)), i, 1);
+    mouse.insert(mouse.end(), {Words(kMouseButtons[i]), in.Show(form.Label5(i))});
   }
   QLayout* const options =
       Column({in.Show(form.Option1(0)), in.Show(form.Option1(1)), in.Show(form.Option1(2)), Stretch()});
-  auto* const values = new QGridLayout;
+  std::vector<QWidget*> values;
   for (int i = 0; i < form.Command2.Count(); ++i) {
     const tables::ValueRow& row = tables::kValues[i];
-    auto* const label = new QLabel(QString::fromUtf8(row.label.data()));
-    QWidget* const box = Named(in.Show(form.boxes(row.box)), label->text());
-    label->setBuddy(box);
-    values->addWidget(label, i, 0);
-    values->addWidget(box, i, 1);
-    values->addWidget(Named(in.Show(form.Command2(i)), QLatin1String("Insert ") + label->text()), i, 2);
+    QWidget* const box = in.Show(form.boxes(row.box));
+    QLabel* const label = LabelOf(row.label.data(), box);
+    QWidget* const insert = Named(in.Show(form.Command2(i)), QLatin1String("Insert ") + label->text());
+    values.insert(values.end(), {label, box, insert});
   }
-  return Column({Group("Use", use),
-                 Group("Mice type", Row({options, types, Column({mouse, Stretch()}), Stretch(),
+  return Column({Group("Use", Grid(uses, 3)),
+                 Group("Mice type", Row({options, types, Column({Grid(mouse, 2), Stretch()}), Stretch(),
                                          Column({in.Show(form.Command9), Stretch()})})),
-                 Group("Miscellaneous", values), Stretch(), in.Show(form.CheckMultiAddCR(4))});
+                 Group("Miscellaneous", Grid(values, 3)), Stretch(), in.Show(form.CheckMultiAddCR(4))});
 }
 
 // Templates.
@@ -167,12 +158,13 @@ QLayout* TemplatesPage(InsertOptions& form, const FormLayout& in) {
 // Logic.
 
 QLayout* LogicLines(InsertOptions& form, const FormLayout& in, int first, int count) {
-  auto* const grid = new QGridLayout;
+  std::vector<QWidget*> cells;
   for (int i = 0; i < count; ++i) {
     const QString name = QStringLiteral("Logic line %1").arg(first + i + 1);
-    grid->addWidget(Named(in.Show(form.OptionFlag(first + i)), name), i, 0);
-    grid->addWidget(Named(in.Show(form.RichTexFlag(first + i)), name), i, 1);
+    cells.insert(cells.end(), {Named(in.Show(form.OptionFlag(first + i)), name),
+                               Named(in.Show(form.RichTexFlag(first + i)), name)});
   }
+  auto* const grid = Grid(cells, 2);
   grid->setRowStretch(count, 1);
   return grid;
 }
@@ -185,16 +177,16 @@ struct TokenRow {
 };
 
 QLayout* Tokens(InsertOptions& form, const FormLayout& in, std::initializer_list<TokenRow> rows) {
-  auto* const grid = new QGridLayout;
-  int line = 0;
+  constexpr std::size_t kMostParts = 3;
+  std::vector<QWidget*> cells;
   for (const TokenRow& row : rows) {
-    grid->addWidget(new QLabel(QString::fromUtf8(row.label)), line, 0);
-    int column = 1;
-    for (QWidget* const part : row.parts) grid->addWidget(part, line, column++);
-    QWidget* const insert = in.Show(form.CMDFlagInsert(row.button));
-    grid->addWidget(Named(insert, QStringLiteral("Insert ") + QString::fromUtf8(row.label)), line, 4);
-    ++line;
+    cells.push_back(Words(row.label));
+    cells.insert(cells.end(), row.parts);
+    cells.insert(cells.end(), kMostParts - row.parts.size(), nullptr);
+    const QString name = QLatin1String("Insert ") + QString::fromUtf8(row.label);
+    cells.push_back(Named(in.Show(form.CMDFlagInsert(row.button)), name));
   }
+  auto* const grid = Grid(cells, 5);
   grid->setColumnStretch(3, 1);
   return grid;
 }
@@ -206,7 +198,7 @@ QLayout* LogicPage(InsertOptions& form, const FormLayout& in) {
   const auto box = [&](int i, const char* name) {
     return Named(Narrow(in.Show(form.TxtFlag(i))), QString::fromUtf8(name));
   };
-  QLayout* const toolbox = Column({Grid(in, form.CMDCompare, 5), Grid(in, form.CMDFlagSlash, 6),
+  QLayout* const toolbox = Column({Buttons(in, form.CMDCompare, 5), Buttons(in, form.CMDFlagSlash, 6),
                                    Tokens(form, in,
                                           {{"Flag", {list(0, "Flag")}, 0},
                                            {"Hat", {list(1, "Hat"), list(5, "Position of the hat")}, 1},

@@ -26,7 +26,7 @@
 namespace tarvik::screen {
 namespace {
 
-QLayout* Fill(QBoxLayout* layout, std::initializer_list<Piece> pieces) {
+QLayout* Fill(QBoxLayout* layout, const std::vector<Piece>& pieces) {
   for (const Piece& piece : pieces) {
     if (auto* const* const widget = std::get_if<QWidget*>(&piece)) {
       layout->addWidget(*widget);
@@ -276,8 +276,18 @@ QWidget* FormLayout::Show(TabPages& pages, const std::vector<QLayout*>& layouts)
   return tabs;
 }
 
-QLayout* Column(std::initializer_list<Piece> pieces) { return Fill(new QVBoxLayout, pieces); }
-QLayout* Row(std::initializer_list<Piece> pieces) { return Fill(new QHBoxLayout, pieces); }
+QLayout* Column(const std::vector<Piece>& pieces) { return Fill(new QVBoxLayout, pieces); }
+QLayout* Row(const std::vector<Piece>& pieces) { return Fill(new QHBoxLayout, pieces); }
+
+QGridLayout* Grid(const std::vector<QWidget*>& cells, int columns) {
+  auto* const grid = new QGridLayout;
+  int at = 0;
+  for (QWidget* const cell : cells) {
+    if (cell) grid->addWidget(cell, at / columns, at % columns);
+    ++at;
+  }
+  return grid;
+}
 
 QWidget* Group(const char* title, QLayout* layout) {
   auto* const box = new QGroupBox(QString::fromUtf8(title));
@@ -290,6 +300,14 @@ QWidget* Named(QWidget* control, const QString& name) {
   const auto* const combo = qobject_cast<QComboBox*>(control);
   if (combo && combo->lineEdit()) combo->lineEdit()->setAccessibleName(name);
   return control;
+}
+
+QLabel* Words(const char* text) { return new QLabel(QString::fromUtf8(text)); }
+
+QLabel* LabelOf(const char* text, QWidget* control) {
+  QLabel* const label = Words(text);
+  label->setBuddy(Named(control, label->text()));
+  return label;
 }
 
 QWidget* AsTitle(QWidget* label) {
@@ -319,11 +337,7 @@ QLayout* Fields(const std::vector<Field>& fields) {
   return layout;
 }
 
-QLayout* Above(const char* label, QWidget* control) {
-  auto* const text = new QLabel(QString::fromUtf8(label));
-  text->setBuddy(control);
-  return Column({text, Named(control, text->text())});
-}
+QLayout* Above(const char* label, QWidget* control) { return Column({LabelOf(label, control), control}); }
 
 void GiveMnemonics(QWidget& window) {
   Mnemonics shared;

@@ -1,8 +1,10 @@
-// The words in which a window's page is laid out: controls shown by their kind, in columns, rows and fields.
+// The words in which a window's page is laid out: controls shown by their kind, in columns, rows, grids and
+// fields.
 #pragma once
 
 #include <QBoxLayout>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <variant>
 
@@ -43,14 +45,22 @@ class FormLayout {
   Bindings& bindings_;
 };
 
-[[nodiscard]] QLayout* Column(std::initializer_list<Piece> pieces);
-[[nodiscard]] QLayout* Row(std::initializer_list<Piece> pieces);
+[[nodiscard]] QLayout* Column(const std::vector<Piece>& pieces);
+[[nodiscard]] QLayout* Row(const std::vector<Piece>& pieces);
+
+/// Cells in rows of so many columns; a null is an empty cell.
+[[nodiscard]] QGridLayout* Grid(const std::vector<QWidget*>& cells, int columns);
 
 /// A box with a title around it.
 [[nodiscard]] QWidget* Group(const char* title, QLayout* layout);
 
 /// The control, which is to be read out under the name.
 QWidget* Named(QWidget* control, const QString& name);
+
+/// Words by themselves.
+[[nodiscard]] QLabel* Words(const char* text);
+/// A label whose mnemonic leads to the control, which is read out under the same name.
+[[nodiscard]] QLabel* LabelOf(const char* text, QWidget* control);
 
 /// A label with a title's letters.
 QWidget* AsTitle(QWidget* label);

@@ -67,17 +67,17 @@ class GuidePages {
   }
 
   QLayout* Controls(std::string_view names) {
-    auto* const row = new QHBoxLayout;
+    std::vector<Piece> row;
     bool stretch = true;
     while (!names.empty()) {
       const std::size_t blank = std::min(names.find(' '), names.size());
       QWidget* const widget = ShowNamed(names.substr(0, blank));
-      row->addWidget(widget);
+      row.emplace_back(widget);
       stretch = stretch && qobject_cast<QPushButton*>(widget);
       names.remove_prefix(std::min(blank + 1, names.size()));
     }
-    if (stretch) row->addStretch();
-    return row;
+    if (stretch) row.emplace_back(Stretch());
+    return Row(row);
   }
 
   QWidget* ShowNamed(std::string_view name) {

@@ -1,6 +1,4 @@
 // The page of the preferences' window.
-#include <QGridLayout>
-
 #include "screen/pages/Pages.h"
 #include "tools/preferences/Preferences.h"
 
@@ -18,18 +16,15 @@ struct PathRow {
 };
 
 QLayout* Paths(const FormLayout& in, std::initializer_list<PathRow> rows) {
-  auto* const grid = new QGridLayout;
+  std::vector<QWidget*> cells;
   for (const PathRow& row : rows) {
-    const int line = grid->rowCount();
-    auto* const label = new QLabel(QString::fromUtf8(row.label));
-    QWidget* const box = Named(in.Show(row.box), label->text());
-    label->setBuddy(box);
+    QWidget* const box = in.Show(row.box);
+    QLabel* const label = LabelOf(row.label, box);
     label->setMinimumWidth(label->sizeHint().width() + kKerning);
-    grid->addWidget(label, line, 0);
-    grid->addWidget(box, line, 1);
-    grid->addWidget(Named(in.Show(row.browse), QLatin1String("Browse: ") + label->text()), line, 2);
+    QWidget* const browse = Named(in.Show(row.browse), QLatin1String("Browse: ") + label->text());
+    cells.insert(cells.end(), {label, box, browse});
   }
-  return grid;
+  return Grid(cells, 3);
 }
 
 QLayout* FileLocations(Preferences& form, const FormLayout& in) {
@@ -55,22 +50,21 @@ QLayout* Colours(Preferences& form, const FormLayout& in) {
 
 QLayout* Apps(Preferences& form, const FormLayout& in) {
   constexpr int kNameWidth = 150;
-  auto* const apps = new QGridLayout;
+  std::vector<QWidget*> cells;
   for (int row = 1; row <= PreviousFiles::kCustomApps; ++row) {
     const auto named = [row](QWidget* shown, const char* name) {
       return Named(shown, QString::fromUtf8(name) + QString::number(row));
     };
     QWidget* const name = named(in.Show(form.CustomAppNameText(row)), "Name ");
     name->setFixedWidth(kNameWidth);
-    apps->addWidget(name, row, 0);
-    apps->addWidget(named(in.Show(form.CustomAppPathText(row)), "Command line "), row, 1);
-    apps->addWidget(named(in.Show(form.CustomAppPathBrowse(row)), "Browse "), row, 2);
-    apps->addWidget(named(in.Show(form.CustomAppPathUse(row)), "In the menu "), row, 3);
+    cells.insert(cells.end(), {name, named(in.Show(form.CustomAppPathText(row)), "Command line "),
+                               named(in.Show(form.CustomAppPathBrowse(row)), "Browse "),
+                               named(in.Show(form.CustomAppPathUse(row)), "In the menu ")});
   }
   return Column(
       {Group("What the tools start with", Paths(in, {{"Image Viewer", form.Text5, form.Command5},
                                                      {"Template Editor", form.Text6, form.Command7}})),
-       Group("Custom apps: name and command line", apps), Stretch()});
+       Group("Custom apps: name and command line", Grid(cells, 4)), Stretch()});
 }
 
 /// The names beside the record in hand.
@@ -106,11 +100,11 @@ QLayout* Miscellaneous(Preferences& form, const FormLayout& in) {
     return shown;
   };
   QLayout* const left = Column(
-      {Group("Saving", Column({Row({in.Show(form.Check3(0)), number(form.Text3, "Minutes"),
-                                    new QLabel(QStringLiteral("minutes")), Stretch()}),
+      {Group("Saving", Column({Row({in.Show(form.Check3(0)), number(form.Text3, "Minutes"), Words("minutes"),
+                                    Stretch()}),
                                in.Show(form.Check3(1))})),
-       Group("Undo", Column({Row({new QLabel(QStringLiteral("Maximum:")),
-                                  number(form.TxtUndoLevels, "Maximum"), Stretch(), in.Show(form.Command11)}),
+       Group("Undo", Column({Row({Words("Maximum:"), number(form.TxtUndoLevels, "Maximum"), Stretch(),
+                                  in.Show(form.Command11)}),
                              in.Show(form.CheckUndoSave), in.Show(form.CheckHighlightOnUndo)})),
        Group("Composer", Column({in.Show(form.OptionImagesToShow(0)), in.Show(form.OptionImagesToShow(1)),
                                  in.Show(form.OptionImagesToShow(2))})),
@@ -119,9 +113,8 @@ QLayout* Miscellaneous(Preferences& form, const FormLayout& in) {
       {Group("Toolbar", Column({in.Show(form.OpenBothChk), in.Show(form.SaveBothChk),
                                 in.Show(form.CheckFlattenToolbar(0)), in.Show(form.CheckFlattenToolbar(1)),
                                 in.Show(form.CheckFlattenToolbar(2)), in.Show(form.CheckShowTooltips)})),
-       Group("Other",
-             Column({in.Show(form.CheckAggressive), in.Show(form.CheckIdentify),
-                     Row({new QLabel(QStringLiteral("DLY")), number(form.DLYText, "DLY"), Stretch()})})),
+       Group("Other", Column({in.Show(form.CheckAggressive), in.Show(form.CheckIdentify),
+                              Row({Words("DLY"), number(form.DLYText, "DLY"), Stretch()})})),
        Stretch()});
   return Row({left, right});
 }

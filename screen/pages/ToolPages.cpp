@@ -1,5 +1,4 @@
 // The pages of the tools' windows, as layouts that name the controls of their forms.
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -72,8 +71,7 @@ QLayout* Page(Heading& form, const FormLayout& in) {
 QLayout* Page(SingleTextForm& form, const FormLayout& in) {
   QWidget* const text = Named(in.Show(form.RichTextBox1), QStringLiteral("Text"));
   text->setMinimumWidth(360);
-  return Column({text, in.Show(form.CheckAddCR),
-                 new QLabel(QStringLiteral("Note: This is ignored by Pimlet")), Stretch(),
+  return Column({text, in.Show(form.CheckAddCR), Words("Note: This is ignored by Pimlet"), Stretch(),
                  Row({Stretch(), in.Show(form.Command1), in.Show(form.Command2)})});
 }
 
@@ -94,20 +92,18 @@ struct ReadOut {
 };
 
 QLayout* ReadOuts(std::initializer_list<ReadOut> readOuts, const FormLayout& in) {
-  auto* const grid = new QGridLayout;
+  std::vector<QWidget*> cells;
   for (const ReadOut& readOut : readOuts) {
-    const int row = grid->rowCount();
-    const QString name = QString::fromUtf8(readOut.label);
-    auto* const label = new QLabel(name);
-    QWidget* const box = Named(in.Show(readOut.box), name);
-    label->setBuddy(box);
-    grid->addWidget(label, row, 0);
-    if (readOut.codes) grid->addWidget(new QLabel(QStringLiteral("RAW(")), row, 1, Qt::AlignRight);
-    grid->addWidget(box, row, 2);
-    if (readOut.codes) grid->addWidget(new QLabel(QStringLiteral(")")), row, 3);
-    grid->addWidget(WithIcon(in.Show(readOut.add), "list-add", QStringLiteral("Add: ") + name), row, 4);
-    grid->addWidget(WithIcon(in.Show(readOut.copy), "edit-copy", QStringLiteral("Copy: ") + name), row, 5);
+    QWidget* const box = in.Show(readOut.box);
+    QLabel* const label = LabelOf(readOut.label, box);
+    QLabel* const opens = readOut.codes ? Words("RAW(") : nullptr;
+    if (opens) opens->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    cells.insert(cells.end(),
+                 {label, opens, box, readOut.codes ? Words(")") : nullptr,
+                  WithIcon(in.Show(readOut.add), "list-add", QLatin1String("Add: ") + label->text()),
+                  WithIcon(in.Show(readOut.copy), "edit-copy", QLatin1String("Copy: ") + label->text())});
   }
+  auto* const grid = Grid(cells, 6);
   grid->setColumnStretch(2, 1);
   return grid;
 }
@@ -125,18 +121,17 @@ QLayout* Page(RAWform& form, const FormLayout& in) {
                 {"Raw Break code", form.RBreakText, form.Command10(1), form.Command9(1), true},
                 {"Combined Raw Codes", form.RCombinedText, form.Command10(2), form.Command9(2), true}},
                in);
-  auto* const pieces = new QHBoxLayout;
+  std::vector<Piece> pieces;
   for (const int i : {0, 1, 2, 3, 4, 5, 6, 8}) {
     QWidget* const button = in.Show(form.Command3(i));
     button->setMinimumWidth(1);
-    pieces->addWidget(button);
+    pieces.emplace_back(button);
   }
-  pieces->addWidget(in.Show(form.Command6));
-  pieces->addWidget(in.Show(form.Command7));
+  pieces.insert(pieces.end(), {in.Show(form.Command6), in.Show(form.Command7)});
   QWidget* const text = in.Show(form.TotalCombinedText);
   text->setFixedHeight(kLinesOfText * text->fontMetrics().lineSpacing());
   return Column(
-      {toggles, keyboard, readOuts, pieces,
+      {toggles, keyboard, readOuts, Row(pieces),
        Row({Above("Combined selection", text),
             Column({Stretch(),
                     WithIcon(in.Show(form.Command9(3)), "edit-copy", QStringLiteral("Copy: ") + line),
@@ -145,12 +140,6 @@ QLayout* Page(RAWform& form, const FormLayout& in) {
             Stretch(), in.Show(form.Command3(7))}),
        Row({in.Show(form.Check1), in.Show(form.Command14(0)), in.Show(form.Command14(1)), Stretch(),
             in.Show(form.Command2)})});
-}
-
-QWidget* Grouped(const QString& title, QLayout* layout) {
-  auto* const group = new QGroupBox(title);
-  group->setLayout(layout);
-  return group;
 }
 
 QLayout* LogColumn(Pane& log, const char* title, const FormLayout& in) {
@@ -190,10 +179,9 @@ QLayout* Page(KeyTestForm& form, const FormLayout& in) {
   exit->setFocusPolicy(Qt::NoFocus);
   QWidget* const status = in.Show(form.status);
   status->setAutoFillBackground(false);
-  QWidget* const keyboard = Grouped(QStringLiteral("Keyboard events"), Column({logs, modifiers}));
+  QWidget* const keyboard = Group("Keyboard events", Column({logs, modifiers}));
   keyboard->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  QWidget* const stick =
-      Grouped(QStringLiteral("Joystick"), Column({JoystickPicture(form, in), buttons, status, Stretch()}));
+  QWidget* const stick = Group("Joystick", Column({JoystickPicture(form, in), buttons, status, Stretch()}));
   return Column({Row({keyboard, stick}), Row({Stretch(), exit})});
 }
 
@@ -237,8 +225,8 @@ QLayout* Page(ProgramWait& form, const FormLayout& in) {
 QLayout* Page(EnterFavouritename& form, const FormLayout& in) {
   auto* const fields = new QFormLayout;
   fields->addRow(QStringLiteral("Name:"), in.Show(form.Text1));
-  fields->addRow(new QLabel(QStringLiteral("Joystick file:")), in.ShowPath(form.Label1));
-  fields->addRow(new QLabel(QStringLiteral("Macro file:")), in.ShowPath(form.Label2));
+  fields->addRow(Words("Joystick file:"), in.ShowPath(form.Label1));
+  fields->addRow(Words("Macro file:"), in.ShowPath(form.Label2));
   return Column({fields, Stretch(), Row({Stretch(), in.Show(form.Command1), in.Show(form.Command2)})});
 }
 
@@ -249,32 +237,25 @@ QLayout* Page(EnterGameName& form, const FormLayout& in) {
     CommandButton* choose;
     CommandButton* help;
   };
-  auto* const grid = new QGridLayout;
+  std::vector<QWidget*> cells;
   for (const FieldRow& field : {FieldRow{"Name of Game", form.Text1, nullptr, nullptr},
                                 {"Game path and name", form.Text2, &form.Command1(0), &form.Command5},
                                 {"Working directory", form.Text3, &form.Command2, &form.Command6},
                                 {"Associated joystick file", form.Text4, &form.Command1(1), nullptr}}) {
-    const int row = grid->rowCount();
-    const QString name = QString::fromUtf8(field.label);
-    auto* const label = new QLabel(name);
-    QWidget* const box = Named(in.Show(field.box), name);
+    QWidget* const box = in.Show(field.box);
     box->setMinimumWidth(300);
-    label->setBuddy(box);
-    grid->addWidget(label, row, 0);
-    grid->addWidget(box, row, 1);
-    if (field.choose) {
-      // Two of them have the same caption.
-      const QString said = ToScreen(field.choose->Caption.Get()) + QLatin1String(": ") + name;
-      grid->addWidget(Named(in.Show(*field.choose), said), row, 2);
-    }
-    if (!field.help) continue;
-    QWidget* const help = WithIcon(in.Show(*field.help), "help-contents", QLatin1String("Help: ") + name);
-    grid->addWidget(help, row, 3);
+    QLabel* const label = LabelOf(field.label, box);
+    QWidget* const choose = field.choose ? in.Show(*field.choose) : nullptr;
+    // Two of them have the same caption.
+    if (choose) Named(choose, ToScreen(field.choose->Caption.Get()) + QLatin1String(": ") + label->text());
+    QWidget* const help = field.help ? in.Show(*field.help) : nullptr;
+    if (help) WithIcon(help, "help-contents", QLatin1String("Help: ") + label->text());
+    cells.insert(cells.end(), {label, box, choose, help});
   }
+  auto* const grid = Grid(cells, 4);
   grid->setColumnStretch(1, 1);
-  return Column({grid, in.Show(form.Check1),
-                 new QLabel(QStringLiteral("Note: you can edit these later in Preferences")), Stretch(),
-                 Row({Stretch(), in.Show(form.Command3), in.Show(form.Command4)})});
+  return Column({grid, in.Show(form.Check1), Words("Note: you can edit these later in Preferences"),
+                 Stretch(), Row({Stretch(), in.Show(form.Command3), in.Show(form.Command4)})});
 }
 
 QLayout* Page(JoyPlot& form, const FormLayout& in) {
@@ -295,15 +276,14 @@ QLayout* Page(TemplateForm& form, const FormLayout& in) {
   qobject_cast<QPlainTextEdit*>(text)->setTabChangesFocus(false);  // as in the files
   text->setMinimumSize(480, 320);
   text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  QWidget* const name = Named(in.Show(form.Text1), QStringLiteral("File name"));
-  auto* const label = new QLabel(QStringLiteral("File name"));
-  label->setBuddy(name);
-  auto* const swatches = new QHBoxLayout;
-  swatches->setSpacing(2);
+  QWidget* const name = in.Show(form.Text1);
+  std::vector<Piece> choices;
   for (int i = 0; i < static_cast<int>(std::size(kColourChoices)); ++i) {
-    swatches->addWidget(in.ShowSwatch(form.swatches("ColourLabel" + TextOf(i + 1))));
+    choices.emplace_back(in.ShowSwatch(form.swatches("ColourLabel" + TextOf(i + 1))));
   }
-  return Column({Row({label, name}), text,
+  QLayout* const swatches = Row(choices);
+  swatches->setSpacing(2);
+  return Column({Row({LabelOf("File name", name), name}), text,
                  Row({in.Show(form.Label1), swatches, Stretch(), in.Show(form.ToggleButton1)}),
                  Row({in.Show(form.Command1(0)), in.Show(form.Command1(1)), in.Show(form.Command1(2)),
                       in.Show(form.Command2), Stretch(), in.Show(form.CmndPrint)})});
@@ -327,7 +307,7 @@ QLayout* Page(frmAbout& form, const FormLayout& in) {
   auto* const picture = new QLabel;
   constexpr int kPicture = 64;
   picture->setPixmap(Icon("tarvik").pixmap(kPicture));
-  auto* const name = AsTitle(new QLabel(QStringLiteral("Tarvik")));
+  auto* const name = AsTitle(Words("Tarvik"));
   QLabel* const description = Wrapped(in.Show(form.lblDescription));
   description->setMinimumWidth(380);
   QLayout* const words = Column({name, in.Show(form.lblVersion), description, Stretch()});
