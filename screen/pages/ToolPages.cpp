@@ -278,6 +278,7 @@ QLayout* Page(TemplateForm& form, const FormLayout& in) {
   text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   QWidget* const name = in.Show(form.Text1);
   std::vector<Piece> choices;
+  choices.reserve(std::size(kColourChoices));
   for (int i = 0; i < static_cast<int>(std::size(kColourChoices)); ++i) {
     choices.emplace_back(in.ShowSwatch(form.swatches("ColourLabel" + TextOf(i + 1))));
   }
