@@ -10,7 +10,7 @@
 #include "app/EditorTables.h"
 #include "app/Mum.h"
 #include "app/Program.h"
-#include "platform/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarvik {
 namespace {

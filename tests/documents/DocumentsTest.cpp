@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarvik {
 namespace {

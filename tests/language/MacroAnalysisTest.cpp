@@ -4,7 +4,7 @@
 #include <random>
 
 #include "language/MacroAnalysis.h"
-#include "support/Printers.h"
+#include "support/LanguagePrinters.h"
 #include "text/CodePage.h"
 #include "text/Search.h"
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <random>
 
@@ -25,11 +26,7 @@ std::string LettersOf(const ColourRuns& colours) {
 }
 
 std::string Paint(const std::string& text, std::span<const Pass> passes) {
-  MemoryFiles files;
-  Form form("Form");
-  Pane pane(form, "Text", files);
-  pane.Text = text;
-  Painting painting(pane.Characters(), passes);
+  Painting painting(text, passes);
   painting.Run();
   constexpr std::array<Colour, kColourClasses> kColours = {0, 1, 2, 3, 4, 5};
   return LettersOf(painting.Colours(kColours));
@@ -277,7 +274,7 @@ std::string AnyText(std::mt19937& random) {
   return text;
 }
 
-TEST(PassesTest, TheColoursAreThoseOfSearchingAndSelectingInAPane) {
+TEST(PassesTest, TheColoursAreThoseOfSearchingAndSelecting) {
   std::mt19937 random(7);
   LiteralPasses literal;
   for (int i = 0; i < 4000; ++i) {

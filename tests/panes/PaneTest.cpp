@@ -6,7 +6,7 @@
 #include "panes/Pane.h"
 #include "support/LiteralReplaceAll.h"
 #include "support/MemoryFiles.h"
-#include "support/Printers.h"
+#include "support/PanePrinters.h"
 #include "text/Rtf.h"
 
 namespace tarvik {

@@ -1,7 +1,8 @@
 // A failing expectation is read by people.
 #include <gtest/gtest.h>
 
-#include "support/Printers.h"
+#include "support/PanePrinters.h"
+#include "support/PlatformPrinters.h"
 
 namespace tarvik {
 namespace {

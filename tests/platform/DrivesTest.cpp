@@ -3,7 +3,7 @@
 #include <string>
 
 #include "platform/Drives.h"
-#include "platform/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 #include "text/CodePage.h"
 
 namespace tarvik {

@@ -2,7 +2,7 @@
 
 #include "platform/HostDrives.h"
 #include "platform/HostFiles.h"
-#include "platform/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarvik {
 namespace {

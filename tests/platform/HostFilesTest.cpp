@@ -14,7 +14,7 @@
 
 #include "platform/HostFiles.h"
 #include "platform/InstanceLock.h"
-#include "platform/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarvik {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "platform/ProgramFolder.h"
-#include "platform/TemporaryFolder.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarvik {
 namespace {

@@ -9,8 +9,8 @@
 #include <thread>
 
 #include "platform/HostPrograms.h"
-#include "platform/TemporaryFolder.h"
-#include "support/Printers.h"
+#include "support/PlatformPrinters.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarvik {
 namespace {

@@ -7,11 +7,11 @@
 #include <QLineEdit>
 #include <QTimer>
 
-#include "platform/TemporaryFolder.h"
 #include "screen/services/FontDialog.h"
 #include "screen/services/QtDialogs.h"
 #include "screen/widgets/Text.h"
 #include "support/Printers.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarvik::screen {
 namespace {

@@ -14,8 +14,8 @@
 #include <regex>
 
 #include "app/Program.h"
-#include "platform/TemporaryFolder.h"
 #include "screen/services/QtPrinter.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarvik::screen {
 namespace {

@@ -8,8 +8,8 @@
 #include "app/Editor.h"
 #include "platform/HostFiles.h"
 #include "platform/HostPrograms.h"
-#include "platform/TemporaryFolder.h"
 #include "support/ScriptedPlatform.h"
+#include "support/TemporaryFolder.h"
 
 namespace tarvik {
 namespace {

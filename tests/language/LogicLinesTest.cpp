@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "composer/StatementPrinters.h"
 #include "language/LogicLines.h"
+#include "support/LanguagePrinters.h"
 
 namespace tarvik {
 namespace {

@@ -1,18 +1,26 @@
-// How a failing expectation shows a statement of the Composer.
-#pragma once
-
-#include "language/Statements.h"
-#include "support/Printers.h"
+#include "support/LanguagePrinters.h"
 
 namespace tarvik {
 
-inline void PrintTo(const Piece& piece, std::ostream* out) {
+void PrintTo(PassKind kind, std::ostream* out) {
+  PrintName(
+      kind,
+      std::array{"WordAndOperand", "Modifier", "Bracket", "FollowedWord", "PlainWord", "Port", "Comment"},
+      out);
+}
+
+void PrintTo(const MacroCategory& category, std::ostream* out) {
+  *out << Quoted(category.heading) << ":";
+  for (const std::string& macro : category.macros) *out << " " << Quoted(macro);
+}
+
+void PrintTo(const Piece& piece, std::ostream* out) {
   constexpr const char* kClasses[] = {"black", "button", "slash", "raw", "miscellaneous", "comment"};
   *out << Quoted(piece.text) << " " << kClasses[static_cast<std::size_t>(piece.colour)]
        << (piece.joins ? " joins" : "");
 }
 
-inline void PrintTo(const Statement& statement, std::ostream* out) {
+void PrintTo(const Statement& statement, std::ostream* out) {
   for (const Piece& piece : statement.pieces) {
     PrintTo(piece, out);
     *out << "; ";

@@ -4,8 +4,8 @@
 #include <map>
 #include <set>
 
-#include "composer/StatementPrinters.h"
 #include "language/Statements.h"
+#include "support/LanguagePrinters.h"
 
 namespace tarvik {
 namespace {

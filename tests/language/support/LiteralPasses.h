@@ -1,12 +1,13 @@
-// The passes made literally, one after another by searching and selecting in a pane: slow, and what the
+// The passes made literally, one after another by searching and selecting as a user would: slow, and what the
 // painting of whole files is held against.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 
 #include "language/Passes.h"
-#include "panes/Pane.h"
-#include "support/MemoryFiles.h"
+#include "text/CodePage.h"
+#include "text/Search.h"
 
 namespace tarvik {
 
@@ -14,9 +15,10 @@ namespace tarvik {
 class LiteralPasses {
  public:
   const ColourRuns& Paint(const std::string& text, std::span<const Pass> passes) {
-    pane_.Text = text;
+    content_ = RichText(WithPaneLineBreaks(text));
+    folded_ = LowerCase(content_.text);
     for (const Pass& pass : passes) Make(pass);
-    return pane_.Content().colours;
+    return content_.colours;
   }
 
  private:
@@ -30,18 +32,32 @@ class LiteralPasses {
     }
   }
 
+  /// What is found from the caret on is selected.
   std::optional<std::size_t> Search(std::string_view text, int options) {
-    return pane_.Find(text, caret_, pane_.Characters().size(), options);
+    const auto hit = FindText({content_.text, folded_}, text, caret_, content_.size(), options);
+    if (hit) Select({*hit, text.size()});
+    return hit;
   }
 
-  void Widen() { pane_.SelLength = pane_.SelLength + 1; }
-  void Colour(ColourClass colour) {
-    if (pane_.SelLength > 0) pane_.SelColor = static_cast<tarvik::Colour>(colour);
+  void Select(Range range) {
+    const std::size_t start = std::min(range.start, content_.size());
+    selection_ = {start, std::min(range.length, content_.size() - start)};
   }
-  void GoBehind(std::size_t hit) { caret_ = hit + pane_.SelLength; }
+  void Widen() { Select({selection_.start, selection_.length + 1}); }
+  /// Selects from `start` up to the first character of `set`, or to the end.
+  void Span(std::size_t start, std::string_view set) {
+    Select({start, 0});
+    const std::size_t stop = content_.text.find_first_of(set, selection_.start);
+    Select({selection_.start, std::min(stop, content_.size()) - selection_.start});
+  }
+  void Colour(ColourClass colour) {
+    const ColourRuns colours(selection_.length, static_cast<tarvik::Colour>(colour));
+    content_.colours.Replace(selection_, colours);
+  }
+  void GoBehind(std::size_t hit) { caret_ = hit + selection_.length; }
   /// The character at `position`, nothing behind the end.
   [[nodiscard]] std::string CharacterAt(std::size_t position) const {
-    return std::string(pane_.Characters().substr(std::min(position, pane_.Characters().size())).substr(0, 1));
+    return content_.text.substr(std::min(position, content_.size()), 1);
   }
 
   /// False: the pass ends.
@@ -51,8 +67,7 @@ class LiteralPasses {
         Widen();
         Colour(pass.colour);
         GoBehind(hit);
-        pane_.SelStart = caret_;
-        pane_.Span(" ");
+        Span(caret_, " ");
         Colour(pass.colour);
         return true;
       case PassKind::Modifier: {
@@ -67,7 +82,6 @@ class LiteralPasses {
       case PassKind::Bracket: {
         Colour(pass.colour);
         GoBehind(hit);
-        pane_.SelStart = caret_;
         const auto closing = Search(")", 0);
         if (!closing) return false;
         Colour(pass.colour);
@@ -75,7 +89,7 @@ class LiteralPasses {
         return true;
       }
       case PassKind::FollowedWord:
-        if (CharacterAt(hit + pane_.SelLength) == std::string(1, pass.follow)) Colour(pass.colour);
+        if (CharacterAt(hit + selection_.length) == std::string(1, pass.follow)) Colour(pass.colour);
         GoBehind(hit);
         return true;
       case PassKind::PlainWord:
@@ -83,29 +97,26 @@ class LiteralPasses {
         GoBehind(hit);
         return true;
       case PassKind::Port:
-        pane_.Span("S");
+        Span(hit, "S");
         Widen();
         Colour(pass.colour);
         GoBehind(hit);
-        pane_.SelStart = caret_;
-        pane_.SelLength = 1;
-        pane_.Span("\r\n");
+        Span(caret_, "\r\n");
         Colour(ColourClass::Button);
         return true;
       case PassKind::Comment:
         Colour(pass.colour);
         GoBehind(hit);
-        pane_.SelStart = caret_;
-        pane_.Span("\r\n");
+        Span(caret_, "\r\n");
         Colour(pass.colour);
         return true;
     }
     return false;
   }
 
-  MemoryFiles files_;
-  Form form_{"Form"};
-  Pane pane_{form_, "Text", files_};
+  RichText content_;
+  std::string folded_;
+  Range selection_;
   std::size_t caret_ = 0;
 };
 

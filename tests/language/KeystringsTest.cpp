@@ -14,7 +14,7 @@ void PrintTo(const Keystrings& keys, std::ostream* out) {
 
 namespace {
 
-constexpr const char* kGolden = TARVIK_DATA "/../tests/hardware/keystrings.txt";
+constexpr const char* kGolden = TARVIK_DATA "/../tests/language/keystrings.txt";
 constexpr Held kNothing = {};
 constexpr Held kShift = {.shift = true};
 constexpr Held kAltShift = {.shift = true, .alt = true};

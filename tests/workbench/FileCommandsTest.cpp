@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "app/Editor.h"
-#include "support/ScriptedPlatform.h"
+#include "support/BareWorkbench.h"
 
 namespace tarvik {
 namespace {
@@ -19,28 +18,28 @@ class FailingFiles : public MemoryFiles {
 
 TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerText) {
   FailingFiles files;
-  files.PutFolder("c:\\tarvik");
   files.Put("c:\\my\\former.b50", "the former text\r\n");
   files.Put("c:\\my\\failing.b50", "its own text\r\n");
-  session::ScriptedPlatform outside;
-  Platform platform = outside.Process(files);
-  Application application(platform);
-  application.workbench.settings.Write("FileLocations", "FirstTimeUsed", "0");
-  application.workbench.settings.Write("FileLocations", "ShowTips", "0");
-  application.Start();
-  Editor& editor = application.editor();
+  BareWorkbench bare(&files);
+  FileCommands& commands = bare.workbench.files;
+  const Document& joystick = bare.joystick;
+  const auto open = [&commands](const std::string& path) {
+    commands.OpenWithoutDialog(path);
+    commands.OpenPair();
+  };
 
-  editor.OpenPreviouslySavedFiles("c:\\my\\former.b50");
-  ASSERT_EQ(editor.JoystickText.Text.Get(), "the former text\r\n");
+  open("c:\\my\\former.b50");
+  ASSERT_EQ(joystick.text.Text.Get(), "the former text\r\n");
   files.failing = "c:\\my\\failing.b50";
-  editor.OpenPreviouslySavedFiles(files.failing);
-  editor.JoystickText.UserReplaced({0, 0}, "more ");
-  editor.mnuFileSave_Click();
+  open(files.failing);
+  joystick.text.UserReplaced({0, 0}, "more ");
+  bare.workbench.documents.TextChanged(bare.joystick);
+  commands.Save(bare.joystick);
 
   EXPECT_EQ(files.Content("c:\\my\\failing.b50"), "its own text\r\n");
   EXPECT_EQ(files.Content("c:\\my\\former.b50"), "the former text\r\n");
-  EXPECT_EQ(application.workbench.errors.ErrorText.Get(), "Input/output error");
-  EXPECT_EQ(editor.JoystickText.Text.Get(), "more ");
+  EXPECT_EQ(bare.workbench.errors.ErrorText.Get(), "Input/output error");
+  EXPECT_EQ(joystick.text.Text.Get(), "more ");
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include <random>
 
 #include "support/MemoryFiles.h"
-#include "support/Printers.h"
+#include "support/PanePrinters.h"
 #include "workbench/UndoHistory.h"
 
 namespace tarvik {

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "app/Program.h"
+#include "support/BareWorkbench.h"
 #include "support/Printers.h"
-#include "workbench/ColouredInsertion.h"
 
 namespace tarvik {
 namespace {
@@ -11,27 +10,26 @@ constexpr Colour kRed = 255;
 
 class ColouredInsertionTest : public testing::Test {
  protected:
-  void SetUp() override {
-    mum.Picture1.BackColor = kRed;
-    pane.SetFocus();
-  }
+  ColouredInsertionTest() { swatch.BackColor = kRed; }
   void Put(const std::string& text, std::size_t caret) {
     pane.SetContent(RichText(text, kRed));
     pane.SelStart = caret;
   }
   std::string Spaced(const std::string& text, std::size_t caret) {
     Put(text, caret);
-    program.application.workbench.values.InsertionText = "x";
+    workbench.values.InsertionText = "x";
     insertion.AddSpaceToColouredText();
-    return program.application.workbench.values.InsertionText;
+    return workbench.values.InsertionText;
   }
   [[nodiscard]] Colour At(std::size_t position) const { return pane.Content().colours.At(position); }
 
-  Program program;
-  Editor& editor = program.editor();
-  Mum& mum = program.application.mum();
-  Pane& pane = editor.JoystickText;
-  ColouredInsertion& insertion = program.application.workbench.insertion;
+  BareWorkbench bare;
+  Workbench& workbench = bare.workbench;
+  Document& joystick = bare.joystick;
+  Document& macro = bare.macro;
+  Pane& pane = joystick.text;
+  PictureBox& swatch = workbench.documents.swatch;
+  ColouredInsertion& insertion = workbench.insertion;
 };
 
 TEST_F(ColouredInsertionTest, ABlankGoesBeforeAPieceOnlyWhereItWouldJoinAWord) {
@@ -44,15 +42,15 @@ TEST_F(ColouredInsertionTest, ABlankGoesBeforeAPieceOnlyWhereItWouldJoinAWord) {
 }
 
 TEST_F(ColouredInsertionTest, APieceHasItsColourAndWhatIsTypedNextIsBlackInTheFontOfTheSettings) {
-  program.application.workbench.settings.TextFontName = "Liberation Sans";
-  program.application.workbench.settings.TextFontSize = 12;
+  workbench.settings.TextFontName = "Liberation Sans";
+  workbench.settings.TextFontSize = 12;
   Put("ab", 1);
   insertion.InsertColouredString("XY", 77);
   EXPECT_EQ(pane.Text.Get(), "aXYb");
   EXPECT_EQ(At(1), 77U);
   EXPECT_EQ(At(2), 77U);
   EXPECT_EQ(pane.SelStart.Get(), 3U);
-  EXPECT_EQ(editor.Joystick.Caret, 3U);
+  EXPECT_EQ(joystick.Caret, 3U);
   pane.UserReplaced({3, 0}, "z");
   EXPECT_EQ(At(3), kBlack);
   EXPECT_EQ(At(4), kRed);
@@ -72,11 +70,11 @@ TEST_F(ColouredInsertionTest, BothWaysOfInsertingDoTheSame) {
 
 TEST_F(ColouredInsertionTest, BlackTextTakesItsBlankAndBlackensTheSwatch) {
   Put("ab", 2);
-  program.application.workbench.values.InsertionText = "c ";
+  workbench.values.InsertionText = "c ";
   insertion.InsertBlackText();
   EXPECT_EQ(pane.Text.Get(), "ab c ");
   for (std::size_t i = 2; i < 5; ++i) EXPECT_EQ(At(i), kBlack);
-  EXPECT_EQ(mum.Picture1.BackColor, kBlack);
+  EXPECT_EQ(swatch.BackColor, kBlack);
 }
 
 TEST_F(ColouredInsertionTest, BlanksAreFiveAndBlack) {
@@ -84,26 +82,26 @@ TEST_F(ColouredInsertionTest, BlanksAreFiveAndBlack) {
   insertion.InsertBlackBlanks();
   EXPECT_EQ(pane.Text.Get(), "a     b");
   EXPECT_EQ(At(1), kBlack);
-  EXPECT_EQ(editor.Joystick.Caret, 6U);
+  EXPECT_EQ(joystick.Caret, 6U);
   EXPECT_EQ(pane.SelStart.Get(), 6U);
-  EXPECT_EQ(mum.Picture1.BackColor, kBlack);
+  EXPECT_EQ(swatch.BackColor, kBlack);
 }
 
 TEST_F(ColouredInsertionTest, ALineEndIsTwoCharacters) {
   Put("ab", 1);
   insertion.InsertCarriageReturn();
   EXPECT_EQ(pane.Text.Get(), "a\r\nb");
-  EXPECT_EQ(editor.Joystick.Caret, 3U);
-  EXPECT_EQ(mum.Picture1.BackColor, kBlack);
+  EXPECT_EQ(joystick.Caret, 3U);
+  EXPECT_EQ(swatch.BackColor, kBlack);
 }
 
 TEST_F(ColouredInsertionTest, TextGoesIntoTheFileOfTheSelectedTab) {
   Put("ab", 2);
-  editor.TabStrip1.Select(2);
+  workbench.documents.Select(macro);
   insertion.InsertColouredString("c", kBlack);
   EXPECT_EQ(pane.Text.Get(), "ab");
-  EXPECT_EQ(editor.MacroText.Text.Get(), "c");
-  EXPECT_EQ(editor.Macro.Caret, 1U);
+  EXPECT_EQ(macro.text.Text.Get(), "c");
+  EXPECT_EQ(macro.Caret, 1U);
 }
 
 TEST_F(ColouredInsertionTest, AGroupIsOneStepOfUndoHoweverManyPiecesItHas) {
@@ -111,34 +109,39 @@ TEST_F(ColouredInsertionTest, AGroupIsOneStepOfUndoHoweverManyPiecesItHas) {
   insertion.InsertColouredString("a", 77);
   insertion.InsertBlackBlanks();
   insertion.InsertCarriageReturn();
-  EXPECT_EQ(editor.Joystick.Dirty, saved::kNoText) << "not before the group is closed";
+  EXPECT_EQ(joystick.Dirty, saved::kNoText) << "not before the group is closed";
   insertion.EndColInsert();
-  EXPECT_EQ(editor.mnuEditUndo.Caption.Get(), "&Undo (1)");
-  EXPECT_EQ(editor.Joystick.Dirty, saved::kModified);
-  EXPECT_EQ(program.application.workbench.values.LoadingFile, 0);
-  editor.mnuEditUndo_Click();
+  EXPECT_EQ(joystick.Undo.UndoSteps(), 1);
+  EXPECT_EQ(joystick.Dirty, saved::kModified);
+  EXPECT_EQ(workbench.values.LoadingFile, 0);
+  joystick.Undo.Undo();
   EXPECT_EQ(pane.Text.Get(), "");
 }
 
 TEST_F(ColouredInsertionTest, UndoOfAGroupShowsThePaneAsTheGroupFoundIt) {
-  pane.SelText = "abc";
+  insertion.BeginColInsert();
+  insertion.InsertColouredString("abc", kBlack);
+  insertion.EndColInsert();
   pane.Select({0, 3});
-  program.application.workbench.highlighter.ColourSelection(kRed);
+  workbench.highlighter.ColourSelection(kRed);
   pane.SelStart = 1;
   insertion.BeginColInsert();
   insertion.InsertColouredString("x", 77);
   insertion.EndColInsert();
-  editor.mnuEditUndo_Click();
+  joystick.Undo.Undo();
   EXPECT_EQ(pane.Content(), RichText("abc", kRed));
   EXPECT_EQ(pane.SelStart.Get(), 1U);
 }
 
 TEST_F(ColouredInsertionTest, ClosingAGroupGivesThePaneOnTopTheFocus) {
-  editor.TabStrip1.Select(2);
-  editor.Combo1.SetFocus();
+  Form form("Editor");
+  form.Adopt(pane);
+  form.Adopt(macro.text);
+  workbench.documents.Select(macro);
+  pane.SetFocus();
   insertion.BeginColInsert();
   insertion.EndColInsert();
-  EXPECT_EQ(editor.ActiveControl(), &editor.MacroText);
+  EXPECT_EQ(form.ActiveControl(), &macro.text);
 }
 
 }  // namespace

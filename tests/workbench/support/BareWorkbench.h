@@ -1,0 +1,31 @@
+// A workbench without a form, for tests of what edits the two files: over a disk in memory, and nobody
+// answers its boxes.
+#pragma once
+
+#include "support/ScriptedPlatform.h"
+#include "workbench/Workbench.h"
+
+namespace tarvik {
+
+/// Two untitled files, and a disk that holds the program's folder.
+class BareWorkbench {
+  MemoryFiles own_;
+
+ public:
+  /// `disk` takes the place of the disk in memory.
+  explicit BareWorkbench(MemoryFiles* disk = nullptr) : files(disk ? *disk : own_) {
+    files.PutFolder("c:\\tarvik");
+    workbench.settings.GetOptions();
+    workbench.settings.GetColours();
+    workbench.files.BeginUntitled();
+  }
+
+  MemoryFiles& files;
+  session::ScriptedPlatform outside;
+  Platform platform = outside.Process(files);
+  Workbench workbench{platform};
+  Document& joystick = workbench.documents.joystick;
+  Document& macro = workbench.documents.macro;
+};
+
+}  // namespace tarvik
