@@ -6,6 +6,7 @@
 
 #include "app/Program.h"
 #include "language/ComposerTables.h"
+#include "language/Controllers.h"
 #include "language/Statements.h"
 #include "tools/templates/TemplateForm.h"
 
@@ -170,10 +171,9 @@ const Template kTexts[] = {
 
 std::vector<Template> Templates() {
   std::vector<Template> all(std::begin(kTexts), std::end(kTexts));
-  for (int i = 0; i < static_cast<int>(std::size(tables::kJoysticks)); ++i) {
-    const std::string_view model = tables::kJoysticks[i].model;
-    all.push_back(
-        {std::string(model), Stick(model, i <= tables::kFlcs ? Picture::Stick : Picture::PlainStick)});
+  for (const JoystickRow& joystick : kJoysticks) {
+    const Picture picture = joystick.dialect == Dialect::Plain ? Picture::PlainStick : Picture::Stick;
+    all.push_back({std::string(joystick.inComposer), Stick(joystick.inComposer, picture)});
   }
   all.push_back({"TQS", std::string("Rem Each button of the TQS.\n") + kHowTo + Heading("Throttle") +
                             "USE TQS\n" + Controls(Picture::Tqs, "BTN")});
