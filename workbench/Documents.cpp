@@ -4,6 +4,7 @@ namespace tarvik {
 namespace {
 
 constexpr int kPaneIndent = 20;  // pixels
+constexpr int kInsertPanel = 5;
 
 constexpr const char* kSavedStateTips[] = {
     " has no text and isn't saved",
@@ -94,7 +95,9 @@ void Documents::Reset() {
   const Loading loading(values);
   for (Document* const document : {&joystick, &macro}) document->Reset();
   tabs.Begin(1);
+  status.Panels(kInsertPanel).Enabled = true;
   shownLine_.reset();
+  UpdateSavedIcon();
 }
 
 }  // namespace tarvik

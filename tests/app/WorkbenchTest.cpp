@@ -44,6 +44,9 @@ TEST(Workbench, IsAsAtTheStartWhenTheEditorIsShownAgain) {
   ASSERT_NE(StateOf(program), atFirst);
 
   ASSERT_TRUE(program.application.CloseEditor());
+  const StatusBar& status = program.application.mum().StatusBar;
+  EXPECT_EQ(status.Panels(2).Picture, 1);  // nothing is there to be saved
+  EXPECT_TRUE(status.Panels(5).Enabled);
   program.application.ShowEditor();
   const auto again = StateOf(program);
   for (const auto& [property, value] : atFirst) {

@@ -151,7 +151,7 @@ bool IsFlat(const ToolbarView& toolbar) {
 /// characters themselves.
 std::pair<QString, QString> AroundMark(QString title) {
   const QLatin1String mark("[*]");
-  constexpr QChar kStandIn(1);
+  static constexpr QChar kStandIn(1);
   const QStringList parts = title.replace(mark + mark, kStandIn).split(mark);
   const auto plain = [mark](QString part) { return part.replace(kStandIn, mark); };
   return {plain(parts.value(0)), plain(parts.value(1))};
