@@ -96,15 +96,24 @@ void GiveBackFocus(const QDialog& answered) {
   if (answered.isModal() && !isTool && answered.parentWidget()) AskForWindow(*answered.parentWidget());
 }
 
+/// A modal window that is minimised would leave the user with windows that do not answer.
+void KeepInSight(QDialog& dialog) {
+  if (!dialog.isModal() || !dialog.isMinimized()) return;
+  QMetaObject::invokeMethod(
+      &dialog, [&dialog] { dialog.setWindowState(dialog.windowState() & ~Qt::WindowMinimized); },
+      Qt::QueuedConnection);
+}
+
 }  // namespace
 
 /// Its window does not stand on the screen yet while a widget hears that it is shown.
 bool WindowOrder::eventFilter(QObject* watched, QEvent* event) {
-  const bool hides = event->type() == QEvent::Hide;
-  if (!hides && event->type() != QEvent::Show) return false;
-  const auto* const dialog = qobject_cast<QDialog*>(watched);
-  if (dialog) ArrangeWindows();
-  if (dialog && hides) GiveBackFocus(*dialog);
+  auto* const dialog = qobject_cast<QDialog*>(watched);
+  if (!dialog) return false;
+  const QEvent::Type type = event->type();
+  if (type == QEvent::WindowStateChange) KeepInSight(*dialog);
+  if (type == QEvent::Show || type == QEvent::Hide) ArrangeWindows();
+  if (type == QEvent::Hide) GiveBackFocus(*dialog);
   return false;
 }
 

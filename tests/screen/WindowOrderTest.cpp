@@ -135,6 +135,16 @@ TEST_F(WindowOrderTest, WhatAToolHasCoveredIsRaised) {
   EXPECT_EQ(WronglyCovered({&box, &read, &pimlet}), Windows({&read, &box}));
 }
 
+TEST_F(WindowOrderTest, ABoxDoesNotStayMinimised) {
+  QMessageBox box;
+  box.setModal(true);
+  box.show();
+  box.showMinimized();
+  QApplication::processEvents();
+  EXPECT_FALSE(box.isMinimized());
+  EXPECT_TRUE(box.isVisible());
+}
+
 TEST_F(WindowOrderTest, WithoutSuchAToolNothingIsOnTop) {
   ShowPimlet(false);
   EXPECT_FALSE(ComesUpOnTop<QMessageBox>([&] { dialogs.Show({"a", "b"}); }));
