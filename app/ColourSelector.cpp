@@ -20,7 +20,7 @@ void ColourSelector::Command1_Click(int index) {
   bench_.documents.swatch.BackColor = colour;
   bench_.highlighter.ColourSelection(colour);
   bench_.documents.UpdateSavedIcon();
-  bench_.documents.Active().text.SetFocus();
+  bench_.documents.FocusActiveText();
   Visible = false;
 }
 

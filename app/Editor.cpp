@@ -188,7 +188,7 @@ void Editor::FirstTimeFlow() {
 
 void Editor::Form_Activate() {
   mum_.Toolbar1.Visible = true;
-  bench_.documents.Active().text.SetFocus();
+  bench_.documents.FocusActiveText();
   bench_.documents.ShowCaretLine();
   UpdateToolBarOpenSaveTooltips();
   if (bench_.values.FontChanged == 1) DamnFontWasChanged();

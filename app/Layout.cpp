@@ -117,7 +117,7 @@ void Layout::ShowMacroFrame() {
 void Layout::ToggleTiled() {
   controls_.tile.Checked = !controls_.tile.Checked;
   Place();
-  documents_.Active().text.SetFocus();
+  documents_.FocusActiveText();
 }
 
 void Layout::FrameMouseMove(const Mouse& mouse) {

@@ -42,6 +42,8 @@ class Documents : public Component {
   [[nodiscard]] const Document& Active() const { return tabs.SelectedIndex() == 1 ? joystick : macro; }
   [[nodiscard]] Tab& TabOf(const Document& document) const { return tabs.Tabs(document.traits.tab); }
   void Select(const Document& document) { tabs.Select(document.traits.tab); }
+  /// Gives the focus to the file on top.
+  void FocusActiveText() { Active().text.SetFocus(); }
   /// Status panel 1.
   void Say(const std::string& text) const;
   /// Status panel 1, when the user would edit a protected file.

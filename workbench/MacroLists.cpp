@@ -197,7 +197,7 @@ void MacroLists::ExtractButtonDefinition(const std::string& name) {
   if (!hit) {
     pane.SelStart = keptCaret;
     document.Caret = keptCaret;
-    documents_.Active().text.SetFocus();
+    documents_.FocusActiveText();
     return;
   }
   const std::size_t body = *hit + name.size();
@@ -211,7 +211,7 @@ void MacroLists::ExtractButtonDefinition(const std::string& name) {
   const std::size_t start = name.starts_with("PortB") ? *hit - std::min<std::size_t>(*hit, 4) : *hit;
   pane.Select({start, end - *hit});
   document.SelLength = pane.SelLength;
-  documents_.Active().text.SetFocus();
+  documents_.FocusActiveText();
 }
 
 void MacroLists::Insert(const ListBox& list) {

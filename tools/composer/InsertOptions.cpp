@@ -157,7 +157,7 @@ void InsertOptions::Form_Activate() {
 }
 
 void InsertOptions::Form_Deactivate() {
-  if (COMPreturnFocus != 0) bench_.documents.Active().text.SetFocus();
+  if (COMPreturnFocus != 0) bench_.documents.FocusActiveText();
 }
 
 /// Hidden by its own button, it is left for the file on top, whatever had the focus there before.

@@ -30,7 +30,7 @@ bool StatementWriter::FindButton(const std::string& text) {
     joystick.SelLength = 0;
   }
   pane.SelStart = joystick.Caret;
-  bench_.documents.Active().text.SetFocus();
+  bench_.documents.FocusActiveText();
   return hit.has_value();
 }
 

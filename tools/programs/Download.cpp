@@ -98,7 +98,7 @@ void SendToJoystick(Workbench& bench, Shell& shell) {
   frame.WindowState = kMinimised;
   ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit);
   frame.WindowState = before;
-  bench.documents.Active().text.SetFocus();
+  bench.documents.FocusActiveText();
 }
 
 void StartControlCentre(Workbench& bench) {
