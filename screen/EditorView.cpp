@@ -53,6 +53,8 @@ class FrameView : public QWidget {
 
 EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(editor) {
   setObjectName(QStringLiteral("Editor"));
+  setBackgroundRole(QPalette::Window);
+  setAutoFillBackground(true);
   menus_ = MakeMenus(editor.menus, bindings_);
   popUps_ = MakeMenus(editor.popUps, bindings_);
   FollowArrays(editor.menus, bindings_);
@@ -129,19 +131,6 @@ void EditorView::OrderFocus() {
   setTabOrder(button(kLastLowerButton), tabs_);
   setTabOrder(tabs_, panes_[0]);
   setTabOrder(panes_[0], panes_[1]);
-}
-
-/// The toolkit keeps the focus inside a child window; before the first control the toolbar is next.
-bool EditorView::focusNextPrevChild(bool next) {
-  if (!next && focusWidget() == bindings_.Find(editor_.Combo1)) {
-    for (const char* const name : {"Picture1", "MoreButtons"}) {
-      auto* const stop = window()->findChild<QWidget*>(QLatin1String(name));
-      if (!stop || !stop->isVisible()) continue;
-      stop->setFocus(Qt::BacktabFocusReason);
-      return true;
-    }
-  }
-  return QWidget::focusNextPrevChild(next);
 }
 
 void EditorView::PlaceTabs() {

@@ -20,7 +20,6 @@ class EditorView : public QWidget, public FormView {
   void Retire() override;
 
  protected:
-  bool focusNextPrevChild(bool next) override;
   void resizeEvent(QResizeEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QScreen>
 #include <QTime>
@@ -38,7 +37,7 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
     : FormView(mum),
       application_(application),
       mum_(mum),
-      area_(new QMdiArea),
+      area_(new QWidget),
       closeChild_(new QToolButton(this)) {
   setMinimumSize(kSmallest);
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -49,8 +48,10 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   column->setSpacing(0);
   column->addWidget(new ToolbarView(mum.Toolbar1, mum.Picture1, kSwatchButton, bindings_, centre));
   column->addWidget(area_, 1);
-  area_->setFrameShape(QFrame::NoFrame);
-  area_->setBackground(palette().color(QPalette::Window).darker(110));
+  auto* const filled = new QVBoxLayout(area_);
+  filled->setContentsMargins(0, 0, 0, 0);
+  area_->setBackgroundRole(QPalette::Mid);
+  area_->setAutoFillBackground(true);
   setCentralWidget(centre);
   setStatusBar(new StatusBarView(mum.StatusBar, mum.ProgressBar1, bindings_, this));
   closeChild_->setIcon(Icon("close"));
@@ -78,7 +79,6 @@ void MumWindow::BindWindow() {
   bindings_.Shows(mum_, *this);
   PlaceWindow();
   BindTitle(mum_, *this, bindings_);
-  bindings_.Bind(mum_.Unsaved, [this] { MarkChild(); });
   bindings_.Bind(mum_.MousePointer, [this] { ShowPointer(); });
   bindings_.Bind(mum_.WindowState, [this] { TakeState(); });
   bindings_.Bind(mum_.Visible, [this] {
@@ -114,15 +114,9 @@ void MumWindow::ShowChild(QWidget& view, const std::vector<std::unique_ptr<QMenu
   for (const auto& menu : menus) menuBar()->addMenu(menu.get());
   menuBar()->setCornerWidget(closeChild_);
   closeChild_->show();
-  child_ = area_->addSubWindow(&view, Qt::FramelessWindowHint);
-  child_->setWindowTitle(view.objectName() + QLatin1String("[*]"));  // for those who have the screen read out
-  MarkChild();
-  child_->showMaximized();
-}
-
-/// A child that fills the area passes its mark for unsaved work on to the frame whenever that is shown.
-void MumWindow::MarkChild() {
-  if (child_) child_->setWindowModified(mum_.Unsaved);
+  child_ = &view;
+  area_->layout()->addWidget(child_);
+  child_->show();
 }
 
 void MumWindow::RemoveChild() {
@@ -130,16 +124,15 @@ void MumWindow::RemoveChild() {
   for (const auto& menu : menus_) menuBar()->addMenu(menu.get());
   closeChild_->hide();
   if (!child_) return;
-  child_->setWidget(nullptr);
-  area_->removeSubWindow(child_);
-  std::exchange(child_, nullptr)->deleteLater();
+  child_->hide();
+  std::exchange(child_, nullptr)->setParent(nullptr);
 }
 
 // Files from a file manager.
 
 /// Whatever the file manager has in mind, the files stay where they are.
 void MumWindow::dragEnterEvent(QDragEnterEvent* event) {
-  if (FilesIn(*event->mimeData()).empty() || !TakesDrops(*this)) return;
+  if (FilesIn(*event->mimeData()).empty()) return;
   event->setDropAction(Qt::CopyAction);
   event->accept();
 }
@@ -147,7 +140,7 @@ void MumWindow::dragEnterEvent(QDragEnterEvent* event) {
 /// The file manager waits until this returns, and there may be questions to answer first.
 void MumWindow::dropEvent(QDropEvent* event) {
   const std::vector<std::string> files = FilesIn(*event->mimeData());
-  if (files.empty() || !TakesDrops(*this)) return;
+  if (files.empty()) return;
   event->setDropAction(Qt::CopyAction);
   event->accept();
   QMetaObject::invokeMethod(

@@ -1,8 +1,7 @@
-// The frame window on screen: menu bar, toolbar, the area of the child windows and the status bar.
+// The frame window on screen: menu bar, toolbar, the area that the editor fills and the status bar.
 #pragma once
 
 #include <QMainWindow>
-#include <QMdiArea>
 #include <QMenu>
 #include <memory>
 #include <optional>
@@ -35,7 +34,6 @@ class MumWindow : public QMainWindow, public FormView {
 
  private:
   void BindWindow();
-  void MarkChild();
   void ShowWindow();
   void TakeState();
   void Settle();
@@ -49,8 +47,8 @@ class MumWindow : public QMainWindow, public FormView {
 
   Application& application_;
   Mum& mum_;
-  QMdiArea* area_;
-  QMdiSubWindow* child_ = nullptr;
+  QWidget* area_;
+  QWidget* child_ = nullptr;
   QToolButton* closeChild_;
   std::vector<std::unique_ptr<QMenu>> menus_;
   QTimer settling_;             // runs while the window manager changes the window's state

@@ -7,6 +7,7 @@
 
 #include "app/Application.h"
 #include "screen/FormView.h"
+#include "screen/widgets/FileDrop.h"
 #include "screen/windows/WindowOrder.h"
 
 class QWindow;
@@ -39,6 +40,7 @@ class Screen {
   std::vector<FormView*> views_;  // each ends itself when it retires
   std::vector<Connection> connections_;
   WindowOrder order_;
+  DropGuard dropGuard_;
   QObject context_;
 };
 

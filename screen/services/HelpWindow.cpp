@@ -163,7 +163,7 @@ void HelpWindow::Search() {
   MarkHits();
 }
 
-/// From the field of the search: to the topic that is read, else to the first one.
+/// From the field of the search: to the topic that is read, or to the first that was found.
 void HelpWindow::GoToTopics() {
   topics_->setFocus();
   for (int row = 0; row < topics_->count() && !topics_->currentItem(); ++row) {
@@ -172,7 +172,8 @@ void HelpWindow::GoToTopics() {
   }
 }
 
-/// Without a search the topics stand under their headings.
+/// Without a search the topics stand under their headings, with the one that is read among them; what was
+/// found stands best first.
 bool HelpWindow::ListTopics() {
   const std::string words = FromText(words_->text());
   const QSignalBlocker quiet(topics_);
@@ -183,7 +184,7 @@ bool HelpWindow::ListTopics() {
     auto* const item = new QListWidgetItem(ToScreen(topic->title), topics_);
     item->setData(Qt::UserRole, static_cast<unsigned>(topic - file_.Topics().data()));
   }
-  SelectShown();
+  if (words.empty()) SelectShown();
   return topics_->count() > 0;
 }
 

@@ -28,7 +28,6 @@ class PaneView : public QPlainTextEdit {
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
-  [[nodiscard]] bool canInsertFromMimeData(const QMimeData* data) const override;
   void insertFromMimeData(const QMimeData* data) override;
   void dropEvent(QDropEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;

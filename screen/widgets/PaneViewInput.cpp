@@ -3,7 +3,6 @@
 #include <QMimeData>
 #include <QMouseEvent>
 
-#include "screen/widgets/FileDrop.h"
 #include "screen/widgets/Keys.h"
 #include "screen/widgets/PaneView.h"
 #include "screen/widgets/Text.h"
@@ -99,11 +98,6 @@ void PaneView::inputMethodEvent(QInputMethodEvent* event) {
   }
   QPlainTextEdit::inputMethodEvent(&pressed);
   event->accept();
-}
-
-/// A file is none of the text that it is written in.
-bool PaneView::canInsertFromMimeData(const QMimeData* data) const {
-  return FilesIn(*data).empty() && TakesDrops(*this) && QPlainTextEdit::canInsertFromMimeData(data);
 }
 
 void PaneView::insertFromMimeData(const QMimeData* data) {

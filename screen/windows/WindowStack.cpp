@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHash>
 #include <QWindow>
+#include <chrono>
 #include <utility>
 
 #include "screen/windows/X11.h"
@@ -19,6 +20,9 @@ namespace tarvik::screen {
 
 namespace {
 
+constexpr std::chrono::milliseconds kSettlingTime(50);
+constexpr int kAttempts = 3;
+
 QHash<WId, QWidget*> OpenWindows() {
   QHash<WId, QWidget*> open;
   for (QWidget* const window : QApplication::topLevelWidgets()) {
@@ -33,17 +37,22 @@ WindowStack::WindowStack(Restacked restacked) : restacked_(restacked) {
   if (!X11()) return;
   stacking_ = XInternAtom(X11(), "_NET_CLIENT_LIST_STACKING", False);
   qApp->installNativeEventFilter(this);
+  settling_.setSingleShot(true);
+  settling_.setInterval(kSettlingTime);
+  QObject::connect(&settling_, &QTimer::timeout, &settling_, [this] { Look(); });
 }
 
 bool WindowStack::nativeEventFilter(const QByteArray& /*type*/, void* message, qintptr* /*result*/) {
   constexpr unsigned kSentByAnother = 0x80;
   const auto& event = *static_cast<const xcb_generic_event_t*>(message);
   const bool changed = (event.response_type & ~kSentByAnother) == XCB_PROPERTY_NOTIFY;
-  if (changed && static_cast<const xcb_property_notify_event_t*>(message)->atom == stacking_) Look();
+  if (changed && static_cast<const xcb_property_notify_event_t*>(message)->atom == stacking_)
+    settling_.start();
   return false;
 }
 
-/// A window manager that refuses a change may tell of it all the same.
+/// A window manager that has put a window back where it was, and so undone what its stacking brought about,
+/// is asked again; one that refuses may tell of a change all the same, and is left in peace.
 void WindowStack::Look() {
   constexpr long kMost = 10'000;
   constexpr int kLong = 32;  // bits, whatever the machine makes of them
@@ -63,7 +72,8 @@ void WindowStack::Look() {
     }
   }
   if (data) XFree(data);
-  if (windows != std::exchange(windows_, windows)) restacked_(windows);
+  if (windows != std::exchange(windows_, windows)) told_ = 0;
+  if (told_++ < kAttempts) restacked_(windows);
 }
 
 #else

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <QAbstractNativeEventFilter>
+#include <QTimer>
 #include <QWidget>
 
 namespace tarvik::screen {
 
-/// Tells whenever the windows on the screen are stacked anew, where the window system lets one know.
+/// Tells how the windows on the screen lie once they were stacked anew, where the window system lets one
+/// know.
 class WindowStack : public QAbstractNativeEventFilter {
  public:
   /// The program's own windows, from the back to the front.
@@ -23,7 +25,9 @@ class WindowStack : public QAbstractNativeEventFilter {
   void Look();
 
   Restacked restacked_;
+  QTimer settling_;             // runs while the window manager may be stacking on
   QList<QWidget*> windows_;     // as they were stacked last
+  int told_ = 0;                // how often in a row they lay so
   unsigned long stacking_ = 0;  // the root window's property that has the stack
 };
 

@@ -5,9 +5,11 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QScreen>
 #include <QTabBar>
+#include <QTest>
 #include <QToolButton>
 #include <QUrl>
 #include <QWindow>
@@ -17,7 +19,9 @@
 #include "screen/ProgramOnScreen.h"
 #include "screen/QtPrinters.h"
 #include "screen/widgets/PaneView.h"
+#include "tools/composer/InsertOptions.h"
 #include "tools/pimlet/RAWform.h"
+#include "tools/preferences/Preferences.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/viewers/Tips.h"
 
@@ -73,6 +77,17 @@ TEST_F(FileWindow, AltWithALetterThatLeadsNowhereTypesNothing) {
   EXPECT_EQ(editor().JoystickText.Text.Get(), "j");
 }
 
+TEST_F(FileWindow, TheKeyboardReachesTheToolbarBeforeTheLists) {
+  auto& categories = Find<QWidget>(editor().Combo1);
+  categories.setFocus();
+  QTest::keyClick(&categories, Qt::Key_Backtab);
+  const QWidget* const reached = Frame().focusWidget();
+  ASSERT_TRUE(reached);
+  EXPECT_TRUE(reached == screen.Find(application.mum().Picture1) ||
+              reached->objectName() == QLatin1String("MoreButtons"))
+      << reached->metaObject()->className();
+}
+
 TEST_F(FileWindow, AFileThatIsDroppedOpensItsPair) {
   EXPECT_TRUE(Drop(*JoystickPane().viewport(),
                    *DraggedFiles({QStringLiteral("readme.txt"), QStringLiteral("one.m50")})));
@@ -80,6 +95,25 @@ TEST_F(FileWindow, AFileThatIsDroppedOpensItsPair) {
   EXPECT_EQ(editor().Macro.Path.Get(), "c:\\my\\one.m50");
   EXPECT_EQ(editor().JoystickText.Text.Get(), "USE MDEF one\r\nBTN S1 Fire\r\n");
   EXPECT_EQ(editor().Joystick.Dirty, 0);
+}
+
+TEST_F(FileWindow, NoBoxTakesAFileForText) {
+  application.Tool<RAWform>().Visible = true;
+  application.Tool<InsertOptions>().Visible = true;
+  application.Tool<Preferences>().Visible = true;
+  const auto dragged = DraggedFiles({QStringLiteral("one.b50")});
+  QMimeData text;
+  text.setText(QStringLiteral("a"));
+  int boxes = 0;
+  for (QWidget* const widget : QApplication::allWidgets()) {
+    auto* const box = qobject_cast<QLineEdit*>(widget);
+    if (!box || box->isReadOnly() || !box->isEnabled()) continue;
+    const QString before = box->text();
+    EXPECT_FALSE(Drop(*box, *dragged)) << box->accessibleName().toStdString();
+    EXPECT_EQ(box->text(), before);
+    boxes += Drop(*box, text) ? 1 : 0;
+  }
+  EXPECT_GT(boxes, 10) << "text is taken";
 }
 
 TEST_F(FileWindow, DroppedFilesLeaveUnsavedWorkToTheUser) {
@@ -145,10 +179,14 @@ TEST_F(FileWindow, TheTitleNamesTheFileOnShowAndMarksUnsavedWork) {
 TEST_F(FileWindow, TheTitleOfAFrameThatWasHiddenMarksUnsavedWork) {
   const auto title = [this] { return Frame().windowHandle()->title().toStdString(); };
   for (const bool unsaved : {true, false}) {
+    const char* const told = unsaved ? "untitled.b50* - Tarvik" : "untitled.b50 - Tarvik";
     application.mum().Visible = false;
     application.mum().Unsaved = unsaved;
+    EXPECT_EQ(title(), told) << "the task bar shows it";
     application.mum().Visible = true;
-    EXPECT_EQ(title(), unsaved ? "untitled.b50* - Tarvik" : "untitled.b50 - Tarvik");
+    EXPECT_EQ(title(), told);
+    application.mum().Visible = false;
+    EXPECT_EQ(title(), told);
   }
 }
 

@@ -213,6 +213,18 @@ TEST_F(HelpWindowTest, SearchesTheTextsToo) {
   EXPECT_EQ(Title(), QStringLiteral("Two")) << "what was chosen from the search was on the way";
 }
 
+TEST_F(HelpWindowTest, GoesFromTheSearchToWhatFitsBest) {
+  help.ShowContext(3);
+  words->setText(QStringLiteral("t"));
+  ASSERT_EQ(topics->count(), 2);
+  EXPECT_EQ(Title(), QStringLiteral("Three"));
+  words->setFocus();
+  QApplication::processEvents();
+  QTest::keyClick(words, Qt::Key_Down);
+  EXPECT_EQ(topics->currentRow(), 0);
+  EXPECT_EQ(Title(), QStringLiteral("Two"));
+}
+
 TEST_F(HelpWindowTest, SaysThatNothingWasFoundAndKeepsThePage) {
   auto* const none = help.findChild<QLabel*>(QStringLiteral("NothingFound"));
   ASSERT_NE(none, nullptr);
