@@ -12,50 +12,6 @@
 namespace tarvik {
 namespace {
 
-/// What bears a colour in the example: each word, up to and with an end where there is one.
-struct ColouredWord {
-  std::string_view word;
-  std::string_view end = {};
-};
-
-struct ColourRow {
-  const char* item;
-  Property<Colour> Settings::*colour;
-  ColouredWord words[8] = {};
-};
-
-constexpr std::string_view kLineEnd = "\r";
-
-constexpr ColourRow kColourRows[] = {
-    {"Background", &Settings::BackgroundColour},
-    {"Rem statements", &Settings::RemStatements, {{"Rem", kLineEnd}, {"~", kLineEnd}}},
-    {"Buttons", &Settings::BTNColour, {{"BTN"}}},
-    {"Slash modifiers", &Settings::SlashColour, {{"/"}}},
-    {"Raw statements", &Settings::RAWColour, {{"RAW (", ")"}}},
-    {"Miscellaneous",
-     &Settings::MiscellaneousColour,
-     {{"ANT"}, {"RNG"}, {"USE"}, {"MT"}, {"MDEF"}, {"MTYPE"}, {"DLY"}, {"RATE"}}},
-    {"Macro Background", &Settings::MacroBackgroundColour},
-};
-constexpr int kBackground = 0;
-
-constexpr const char* kExample =
-    "Rem -----------------------------------------\r\n"
-    "Rem         My joystick file\r\n"
-    "Rem -----------------------------------------\r\n"
-    "USE TQS\r\n"
-    "MDEF Longbow2\r\n"
-    "ANT 1 5 SensorZoom- SensorZoom+ N\r\n"
-    "Rem -----------------------------------------\r\n"
-    "BTN T2 /I Chaff /O Flare\r\n"
-    "BTN T4 /P RAW (#5B) /R RAW (#F0 #5B)    rem tail right\r\n"
-    "BTN H1U  /T /N FrontNoCockpit  /T /N Front\r\n"
-    "Rate 20";
-
-constexpr const char* kFixedPitchTitle = "Lining up slash modifiers";
-constexpr const char* kFixedPitch =
-    "If you want all your slash modifiers to line up as they do in Notepad, choose a fixed pitch font, like "
-    "Courier New.";
 constexpr const char* kAutoSaveInvalid =
     "The value you entered isn't valid. I'm changing it to 10 minutes to prevent an error ocurring.";
 
@@ -95,18 +51,24 @@ Preferences::Preferences(Workbench& bench, Shell& shell)
       bench_(bench),
       shell_(shell),
       settings_(bench.settings),
-      favourites_{bench.lists.Favourites,
-                  List2,
-                  {&Text7, &Text8, &Text9},
-                  {&Command9, &Command10, &Command13, &Command14},
-                  "favourites",
-                  [this] { bench_.lists.SaveFavourites(); }},
-      games_{bench.lists.Games,
-             List3,
-             {&Text12, &Text11, &Text4, &Text13},
-             {&Check5, &Command16, &Command15, &Command4, &Command12},
-             "games",
-             [this] { bench_.lists.SaveGames(); }} {
+      favourites_(bench, {.list = bench.lists.Favourites,
+                          .rows = List2,
+                          .save = [this] { bench_.lists.SaveFavourites(); },
+                          .parts = {&Text7, &Text8, &Text9},
+                          .tick = nullptr,
+                          .remove = Command13,
+                          .others = {&Command9, &Command10, &Command14},
+                          .menu = "favourites",
+                          .removal = "PREFS Command13_Click"}),
+      games_(bench, {.list = bench.lists.Games,
+                     .rows = List3,
+                     .save = [this] { bench_.lists.SaveGames(); },
+                     .parts = {&Text12, &Text11, &Text4, &Text13},
+                     .tick = &Check5,
+                     .remove = Command12,
+                     .others = {&Command16, &Command15, &Command4},
+                     .menu = "games",
+                     .removal = "PREFS Command12_Click"}) {
   Caption = "Preferences";
   NameControls();
   AttachHandlers();
@@ -259,10 +221,6 @@ void Preferences::Form_Unload() {
   if (bench_.values.HardwareChanged == 1) bench_.HardwareSettingsChanged();
 }
 
-void Preferences::SaveColourScheme() {
-  Trap{bench_.errors, "PREFS SaveColourScheme"}(settings_.SaveColours());
-}
-
 void Preferences::SSTab1_Click() {
   bench_.values.PreferencesTab = SSTab1.Tab.Get();
   if (SSTab1.Tab == page::kFileLocations) Text1.SetFocus();
@@ -271,8 +229,12 @@ void Preferences::SSTab1_Click() {
     FillColours();
     ShowExample();
   }
-  if (SSTab1.Tab == page::kFavourites) Show(favourites_, 0);
-  if (SSTab1.Tab == page::kGames) Show(games_, 0);
+  if (SSTab1.Tab == page::kFavourites) {
+    bench_.lists.Favourites.Count() > 0 ? UpdateFavouritesControls() : DisableFavouritesControls();
+  }
+  if (SSTab1.Tab == page::kGames) {
+    bench_.lists.Games.Count() > 0 ? UpdateGamesControls() : DisableGamesControls();
+  }
 }
 
 void Preferences::Say(const std::string& text) { bench_.documents.status.Panels(1).Text = text; }
@@ -348,23 +310,21 @@ void Preferences::CustomAppPathUse_Click(int row) {
 // Favourites and games.
 
 void Preferences::AttachLists() {
-  AttachList(favourites_, Command13);
-  AttachList(games_, Command12);
   PreviousFiles& lists = bench_.lists;
   const std::string all = "|All files (*.*)|*.*";
   const auto own = [all](const std::string& kind, const std::string& ending) {
     return kind + " (*." + ending + ")|*." + ending + all;
   };
-  Command9.Click = [this, own] { Choose(favourites_, 1, own("Joystick file", settings_.JoystickExtension)); };
-  Command10.Click = [this, own] { Choose(favourites_, 2, own("Macro file", settings_.MacroExtension)); };
+  Command9.Click = [this, own] { favourites_.Choose(1, own("Joystick file", settings_.JoystickExtension)); };
+  Command10.Click = [this, own] { favourites_.Choose(2, own("Macro file", settings_.MacroExtension)); };
   Command16.Click = [this, all] {
-    Choose(games_, 1, "Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat" + all);
+    games_.Choose(1, "Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat" + all);
   };
-  Command15.Click = [this] { Choose(games_, 2, ""); };
-  Command4.Click = [this, own] { Choose(games_, 3, own("Joystick file", settings_.JoystickExtension)); };
+  Command15.Click = [this] { games_.Choose(2, ""); };
+  Command4.Click = [this, own] { games_.Choose(3, own("Joystick file", settings_.JoystickExtension)); };
   Text7.LostFocus = [this] { Text7_LostFocus(); };
-  Text12.LostFocus = games_.save;
-  Text11.LostFocus = games_.save;
+  Text12.LostFocus = [&lists] { lists.SaveGames(); };
+  Text11.LostFocus = [&lists] { lists.SaveGames(); };
   Command14.Click = [this, &lists] {
     lists.FavNameToLoad = Text7.Text.Get();
     Label11.Caption = Text7.Text.Get();
@@ -377,180 +337,11 @@ void Preferences::AttachLists() {
   };
   Label11.Caption = lists.FavNameToLoad.Get();
   Label11.BackColor = ToggleLabel::kOff;
-  Check5.Click = [this] {
-    if (filling_ || List3.ListIndex < 0) return;
-    games_.list.SetPart(List3.ListIndex + 1, 4, Check5.Value.ToText());
-    games_.save();
-  };
 }
 
 /// The Enter key leaves the window without leaving the box.
 void Preferences::Text7_LostFocus() {
   if (Text7.Empty() && List2.ListIndex >= 0) Text7.Text = std::string("Name?");
-}
-
-void Preferences::AttachList(ListPage& page, CommandButton& remove) {
-  connections_.push_back(page.rows.ListIndex.Changed.Connect([this, &page] { ShowRecord(page); }));
-  for (std::size_t part = 0; part < page.parts.size(); ++part) {
-    TextBox& box = *page.parts[part];
-    box.Change = [this, &page, &box, part] {
-      const int row = page.rows.ListIndex;
-      if (filling_ || row < 0) return;
-      page.list.SetPart(row + 1, part, box.Text);
-      if (part == 0) Fill(page, row);
-    };
-  }
-  remove.Click = [this, &page] { Remove(page); };
-}
-
-/// The names, with the row in hand.
-void Preferences::Fill(ListPage& page, int row) {
-  const bool before = std::exchange(filling_, true);
-  page.rows.FillInOrder(page.list.Names());
-  page.rows.ListIndex = std::min(row, page.list.Count() - 1);
-  filling_ = before;
-}
-
-void Preferences::ShowRecord(ListPage& page) {
-  const int row = page.rows.ListIndex;
-  if (filling_ || row < 0) return;
-  filling_ = true;
-  for (std::size_t part = 0; part < page.parts.size(); ++part) {
-    page.parts[part]->Text = page.list.Part(row + 1, part);
-    page.parts[part]->Enabled = true;
-  }
-  for (Control* const other : page.others) other->Enabled = true;
-  if (&page == &games_) Check5.Value = page.list.Part(row + 1, 4) == "1" ? 1 : 0;
-  filling_ = false;
-}
-
-void Preferences::Disable(ListPage& page) {
-  Fill(page, -1);
-  filling_ = true;
-  for (TextBox* const part : page.parts) {
-    part->Text = std::string();
-    part->Enabled = false;
-  }
-  for (Control* const other : page.others) other->Enabled = false;
-  filling_ = false;
-}
-
-/// The list anew, with this row in hand as far as there is one.
-void Preferences::Show(ListPage& page, int row) {
-  if (page.list.Count() == 0) return Disable(page);
-  Fill(page, row);
-  ShowRecord(page);
-}
-
-void Preferences::UpdateFavouritesControls() { Show(favourites_, std::max(0, List2.ListIndex.Get())); }
-void Preferences::DisableFavouritesControls() { Disable(favourites_); }
-void Preferences::UpdateGamesControls() { Show(games_, std::max(0, List3.ListIndex.Get())); }
-void Preferences::DisableGamesControls() { Disable(games_); }
-
-void Preferences::Choose(ListPage& page, std::size_t part, const std::string& filter) {
-  const int row = page.rows.ListIndex;
-  if (row < 0) return;
-  Dialogs& dialogs = bench_.platform.dialogs;
-  TextBox& box = *page.parts[part];
-  const std::string folder = box.Text.Get().substr(0, box.Text.Get().rfind('\\') + 1);
-  const std::string title = "Select the working directory for " + page.list.Part(row + 1, 0);
-  const auto chosen =
-      Ignore(filter.empty() ? dialogs.AskForFolder(title, folder)
-                            : dialogs.AskForFile({FileDialogKind::Open, "", filter, folder, "", ""}));
-  if (!chosen) return;
-  box.Text = LowerCase(*chosen);
-  page.save();
-}
-
-void Preferences::Remove(ListPage& page) {
-  const int row = page.rows.ListIndex;
-  if (row < 0) return;
-  const std::string name = page.list.Part(row + 1, 0);
-  const std::string menu = page.menu;
-  const Answer answer = bench_.platform.dialogs.Show(
-      {"Remove " + name + " from " + menu + "?",
-       "Are you sure you want to remove " + name + " from the " + menu + " menu?", BoxIcon::Question,
-       BoxButtons::YesNo});
-  if (answer != Answer::Yes) return;
-  const Trap trap{bench_.errors, &page == &games_ ? "PREFS Command12_Click" : "PREFS Command13_Click"};
-  trap(page.list.Remove(row + 1));
-  page.save();
-  if (&page == &games_) return UpdateGamesControls();
-  UpdateFavouritesControls();
-}
-
-// Colours and fonts.
-
-void Preferences::FillColours() {
-  std::vector<std::string> items;
-  for (const ColourRow& row : kColourRows) items.emplace_back(row.item);
-  List1.FillInOrder(std::move(items));
-  ShowSwatches();
-}
-
-/// Each colour stands beside its name.
-void Preferences::ShowSwatches() {
-  std::vector<unsigned> colours;
-  for (const ColourRow& row : kColourRows) colours.push_back(settings_.*row.colour);
-  List1.Paint(std::move(colours));
-}
-
-void Preferences::ShowExample() {
-  ExampleJoystickText.Text = std::string(kExample);
-  ApplyFont(ExampleJoystickText, settings_);
-  for (int i = 0; i < List1.ListCount(); ++i) {
-    List1.ListIndex = i;
-    ApplyColour(settings_.*kColourRows[i].colour);
-  }
-  List1.ListIndex = -1;
-}
-
-void Preferences::List1_Click() {
-  const int item = List1.ListIndex;
-  if (item < 0) return;
-  const Colour before = settings_.*kColourRows[item].colour;
-  if (const auto colour = Ignore(bench_.platform.dialogs.AskForColour(before))) ApplyColour(*colour);
-}
-
-void Preferences::ApplyColour(Colour colour) {
-  const int item = List1.ListIndex;
-  if (item < 0) return;
-  const ColourRow& row = kColourRows[item];
-  settings_.*row.colour = colour;
-  ShowSwatches();
-  if (item == kBackground) ExampleJoystickText.BackColor = colour;
-  for (const ColouredWord& word : row.words) {
-    if (!word.word.empty()) PaintExample(word.word, word.end, colour);
-  }
-}
-
-void Preferences::PaintExample(std::string_view word, std::string_view end, Colour colour) {
-  Pane& pane = ExampleJoystickText;
-  const std::string_view text = pane.Characters();
-  std::size_t from = 0;
-  while (const auto hit = pane.Find(std::string(word), from, text.size(), find::kKeepSelection)) {
-    from = *hit + word.size();
-    if (!end.empty()) from = std::min(text.find(end, from), text.size() - 1) + 1;
-    pane.Select({*hit, from - *hit});
-    pane.SelColor = colour;
-  }
-  pane.Select({0, 0});
-}
-
-void Preferences::DoTheFonts() {
-  const FontChoice before = {settings_.TextFontName, settings_.TextFontSize, settings_.TextFontBold == 1};
-  const auto font = Ignore(bench_.platform.dialogs.AskForFont(before, CheckFixedPitch.Value == 1));
-  if (!font || *font == before) return;
-  settings_.TextFontName = font->name;
-  settings_.TextFontSize = font->size;
-  settings_.TextFontBold = font->bold ? 1 : 0;
-  ApplyFont(ExampleJoystickText, settings_);
-  bench_.values.FontChanged = 1;
-  bench_.values.TemplateFontChanged = 1;
-}
-
-void Preferences::Command17_Click() {
-  bench_.platform.dialogs.Show({kFixedPitchTitle, kFixedPitch, BoxIcon::Information, BoxButtons::Ok});
 }
 
 // Values with limits.

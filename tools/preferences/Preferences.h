@@ -3,6 +3,7 @@
 #pragma once
 
 #include "panes/Pane.h"
+#include "tools/preferences/KeptListPage.h"
 #include "workbench/Shell.h"
 
 namespace tarvik {
@@ -110,23 +111,12 @@ class Preferences : public Form {
   void TxtUndoLevels_Change();
   void TxtUndoLevels_LostFocus();
   void CustomAppPathUse_Click(int row);
-  void UpdateFavouritesControls();
-  void DisableFavouritesControls();
-  void UpdateGamesControls();
-  void DisableGamesControls();
+  void UpdateFavouritesControls() { favourites_.Begin(); }
+  void DisableFavouritesControls() { favourites_.Disable(); }
+  void UpdateGamesControls() { games_.Begin(); }
+  void DisableGamesControls() { games_.Disable(); }
 
  private:
-  /// A page that edits a list: its rows, the boxes of a record's parts in their order, and what else goes
-  /// grey without a row.
-  struct ListPage {
-    RecentList& list;
-    ListBox& rows;
-    std::vector<TextBox*> parts;
-    std::vector<Control*> others;
-    const char* menu;  ///< what a record is removed from
-    std::function<void()> save;
-  };
-
   /// A box whose tick is a setting.
   struct Tick {
     CheckBox& box;
@@ -145,24 +135,14 @@ class Preferences : public Form {
   void PaintExample(std::string_view word, std::string_view end, Colour colour);
   void AttachApps();
   void AttachLists();
-  void AttachList(ListPage& page, CommandButton& remove);
-  void Show(ListPage& page, int row);
-  void Fill(ListPage& page, int row);
-  void Disable(ListPage& page);
-  void ShowRecord(ListPage& page);
-  void Remove(ListPage& page);
-  /// Looks for a file, or a folder, for a part of the record in hand.
-  void Choose(ListPage& page, std::size_t part, const std::string& filter);
   void Say(const std::string& text);
   [[nodiscard]] std::vector<Tick> Ticks();
 
   Workbench& bench_;
   Shell& shell_;
   Settings& settings_;
-  ListPage favourites_;
-  ListPage games_;
-  bool filling_ = false;  // the form itself puts a record into the boxes
-  std::vector<Connection> connections_;
+  KeptListPage favourites_;
+  KeptListPage games_;
 };
 
 }  // namespace tarvik
