@@ -181,6 +181,9 @@ class InsertOptions : public Form {
   void MakeHardware();
   void MakeStatementPages();
   void MakeMainPage();
+  void MakeModifiers();
+  TextBox& MakeNumberBox(const char* name, Property<int>& number, int fallback);
+  void MakeBlanksAndComments();
   void MakeUsePage();
   void MakeTemplatesPage();
   void MakeLogicPage();

@@ -65,6 +65,11 @@ void InsertOptions::MakeMainPage() {
   CheckAlwaysInsert.Click = [this] { AlwaysInsert = CheckAlwaysInsert.Value; };
   HighlightStatement.ToolTipText =
       "Be aware that this routine doesn't always work - leave it unselected if it causes problems";
+  MakeModifiers();
+  MakeBlanksAndComments();
+}
+
+void InsertOptions::MakeModifiers() {
   for (int i = 0; i < SlashButton.Count(); ++i) {
     SlashButton(i).Caption = std::string(tables::kSlashes[i].caption);
     SlashButton(i).ToolTipText = std::string(tables::kSlashes[i].tip);
@@ -76,16 +81,21 @@ void InsertOptions::MakeMainPage() {
     DlyRptButtons(i).Caption = std::string(opening.substr(0, opening.size() - 1));
     DlyRptButtons(i).Click = [this, i] { DlyRptButtons_Click(i); };
   }
-  const auto number = [this](const char* name, Property<int>& member, int fallback) {
-    TextBox& box = boxes.Load(name);
-    box.Change = [&box, &member, fallback] { member = AtLeastOne(box, fallback); };
-    return &box;
-  };
-  number("DLYText", bench_.settings.DefaultDLYvalue, 60);
-  number("TextRPT", DefaultRPTvalue, 2);
-  TextBox* const blanks = number("Text1(8)", NumberOfBlanks, 5);
-  blanks->GotFocus = [this, blanks] {
-    blanks->SelectAll();
+  MakeNumberBox("DLYText", bench_.settings.DefaultDLYvalue, 60);
+  MakeNumberBox("TextRPT", DefaultRPTvalue, 2);
+}
+
+/// What is typed into the box becomes the number; one of less than 1 becomes `fallback`.
+TextBox& InsertOptions::MakeNumberBox(const char* name, Property<int>& number, int fallback) {
+  TextBox& box = boxes.Load(name);
+  box.Change = [&box, &number, fallback] { number = AtLeastOne(box, fallback); };
+  return box;
+}
+
+void InsertOptions::MakeBlanksAndComments() {
+  TextBox& blanks = MakeNumberBox("Text1(8)", NumberOfBlanks, 5);
+  blanks.GotFocus = [this, &blanks] {
+    blanks.SelectAll();
     Command7(1).MakeDefault();
   };
   constexpr const char* kCaptions[] = {"Insert Carriage Return", "Spaces"};
