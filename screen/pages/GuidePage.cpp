@@ -23,7 +23,7 @@ class GuidePages {
   QVBoxLayout* Next() {
     auto* const page = new QVBoxLayout;
     QFormLayout* fields = nullptr;  // rows with words and a control below one another are aligned
-    for (const tables::GuideRow& row : form_.pages[page_++].rows) {
+    for (const GuideRow& row : form_.pages[page_++].rows) {
       const bool field = !row.text.empty() && !row.control.empty();
       if (!field) fields = nullptr;
       if (field && !fields) page->addLayout(fields = new QFormLayout);
@@ -49,7 +49,7 @@ class GuidePages {
     return shown;
   }
 
-  QWidget* Words(const tables::GuideRow& row) {
+  QWidget* Words(const GuideRow& row) {
     QLabel* const words = Wrapped(NextWords());
     words->setMinimumWidth(kTextWidth);
     if (row.example) {
@@ -59,7 +59,7 @@ class GuidePages {
     return words;
   }
 
-  void Add(const tables::GuideRow& row, QFormLayout& fields) {
+  void Add(const GuideRow& row, QFormLayout& fields) {
     QLabel* const label = NextWords();
     QWidget* const control = ShowNamed(row.control);
     if (qobject_cast<QLineEdit*>(control)) Named(control, label->text());

@@ -2,11 +2,10 @@
 
 namespace tarvik {
 
-GuidedForm::GuidedForm(std::string_view name, std::span<const tables::GuidePage> guide)
-    : Form(name), pages(guide) {
+GuidedForm::GuidedForm(std::string_view name, std::string_view guide) : Form(name), pages(ReadGuide(guide)) {
   Topmost = true;
-  for (const tables::GuidePage& page : pages) {
-    for (const tables::GuideRow& row : page.rows) {
+  for (const GuidePage& page : pages) {
+    for (const GuideRow& row : page.rows) {
       if (!row.text.empty()) Texts.Load(Texts.Count()).Caption = std::string(row.text);
     }
   }

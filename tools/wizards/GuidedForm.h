@@ -1,4 +1,4 @@
-// A form with pages of words and controls from a table: the two wizards and Speedy are such forms.
+// A form with pages of words and controls from a document: the two wizards and Speedy are such forms.
 #pragma once
 
 #include "controls/Controls.h"
@@ -8,9 +8,9 @@ namespace tarvik {
 
 class GuidedForm : public Form {
  public:
-  GuidedForm(std::string_view name, std::span<const tables::GuidePage> guide);
+  GuidedForm(std::string_view name, std::string_view guide);
 
-  const std::span<const tables::GuidePage> pages;
+  const std::vector<GuidePage> pages;
   /// The words of all pages in reading order, those that name a control included.
   ControlArray<Label> Texts{*this, "Texts", 0};
 };

@@ -1,5 +1,6 @@
 #include "tools/wizards/JoystickWiz.h"
 
+#include "Words.h"
 #include "tools/composer/InsertOptions.h"
 
 namespace tarvik {
@@ -7,7 +8,7 @@ namespace {
 
 constexpr Wizard::Traits kTraits = {
     "JoystickWiz",         "Tarvik Joystick wizard", "JoyWizFrame", "Command1", "Finished", 10,
-    tables::kJoystickPages};
+    words::kJoystickWizard};
 
 struct Command {
   const char* toolTip;

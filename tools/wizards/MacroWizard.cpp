@@ -1,5 +1,7 @@
 #include "tools/wizards/MacroWizard.h"
 
+#include "Words.h"
+
 namespace tarvik {
 namespace {
 
@@ -7,7 +9,7 @@ constexpr int kMacroPage = 12;
 
 constexpr Wizard::Traits kTraits = {
     "MacroWizard", "Tarvik Macro file wizard", "MacroWizFrame", "CommandAll", "Finish",
-    kMacroPage,    tables::kMacroPages};
+    kMacroPage,    words::kMacroWizard};
 
 constexpr MacroMaker::Command kOwnCommands[] = {
     {"New macro file please", &MacroMaker::CreateAndSaveFile},

@@ -1,5 +1,7 @@
 #include "tools/wizards/Speedy.h"
 
+#include "Words.h"
+
 namespace tarvik {
 namespace {
 
@@ -14,7 +16,7 @@ constexpr MacroMaker::Command kOwnCommands[] = {
 }  // namespace
 
 Speedy::Speedy(Workbench& bench, Shell& shell)
-    : GuidedForm("Speedy", tables::kSpeedyPages), MacroMaker(*this, bench, shell, kOwnCommands) {
+    : GuidedForm("Speedy", words::kSpeedy), MacroMaker(*this, bench, shell, kOwnCommands) {
   Caption = "Speedy - for fast macro files";
   SSTab1.Click = [this] { SSTab1_Click(); };
 }

@@ -3,8 +3,8 @@
 namespace tarvik {
 
 Wizard::Wizard(const Traits& traits, Shell& shell)
-    : GuidedForm(traits.name, traits.pages),
-      frames(*this, traits.frames, static_cast<int>(traits.pages.size())),
+    : GuidedForm(traits.name, traits.guide),
+      frames(*this, traits.frames, static_cast<int>(pages.size())),
       buttons(*this, traits.buttons, 4),
       traits_(traits),
       shell_(shell) {

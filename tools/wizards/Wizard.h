@@ -15,8 +15,8 @@ class Wizard : public GuidedForm {
     const char* frames;
     const char* buttons;
     const char* finish;
-    int finishFrom;  ///< the first page on which the wizard can be finished
-    std::span<const tables::GuidePage> pages;
+    int finishFrom;          ///< the first page on which the wizard can be finished
+    std::string_view guide;  ///< the document of its pages
   };
 
   enum Button { kFinish, kNext, kBack, kCancel };

@@ -1,4 +1,4 @@
-// What the tables of the wizards promise; the sessions walk through them.
+// What the pages of the wizards promise; the sessions walk through them.
 #include <gtest/gtest.h>
 
 #include <set>
@@ -13,9 +13,9 @@ namespace tarvik {
 namespace {
 
 /// The controls that a page shows, in reading order.
-std::vector<std::string> ControlsOn(const tables::GuidePage& page) {
+std::vector<std::string> ControlsOn(const GuidePage& page) {
   std::vector<std::string> names;
-  for (const tables::GuideRow& row : page.rows) {
+  for (const GuideRow& row : page.rows) {
     std::istringstream words{std::string(row.control)};
     for (std::string name; words >> name;) names.push_back(name);
   }
@@ -24,10 +24,27 @@ std::vector<std::string> ControlsOn(const tables::GuidePage& page) {
 
 std::size_t TextsOf(const GuidedForm& form) {
   std::size_t texts = 0;
-  for (const tables::GuidePage& page : form.pages) {
-    for (const tables::GuideRow& row : page.rows) texts += row.text.empty() ? 0 : 1;
+  for (const GuidePage& page : form.pages) {
+    for (const GuideRow& row : page.rows) texts += row.text.empty() ? 0 : 1;
   }
   return texts;
+}
+
+TEST(ReadGuide, TellsWordsControlsAndExamplesApart) {
+  const auto pages =
+      ReadGuide("# One\n\nWords.\n\n    BTN S1 Fire\n\n[List1 Text1(0)]\n\n# Two\n\nName of it [Text1(1)]\n");
+  ASSERT_EQ(pages.size(), 2U);
+  EXPECT_EQ(pages[0].heading, "One");
+  ASSERT_EQ(pages[0].rows.size(), 3U);
+  EXPECT_EQ(pages[0].rows[0].text, "Words.");
+  EXPECT_FALSE(pages[0].rows[0].example);
+  EXPECT_EQ(pages[0].rows[1].text, "BTN S1 Fire");
+  EXPECT_TRUE(pages[0].rows[1].example);
+  EXPECT_EQ(pages[0].rows[2].text, "");
+  EXPECT_EQ(pages[0].rows[2].control, "List1 Text1(0)");
+  ASSERT_EQ(pages[1].rows.size(), 1U);
+  EXPECT_EQ(pages[1].rows[0].text, "Name of it");
+  EXPECT_EQ(pages[1].rows[0].control, "Text1(1)");
 }
 
 class Wizards : public testing::Test {
@@ -38,7 +55,7 @@ class Wizards : public testing::Test {
 /// The controls of the pages, each as often as it is shown.
 std::multiset<std::string> ShownBy(const GuidedForm& form) {
   std::multiset<std::string> shown;
-  for (const tables::GuidePage& page : form.pages) {
+  for (const GuidePage& page : form.pages) {
     for (const std::string& name : ControlsOn(page)) shown.insert(name);
   }
   return shown;
@@ -69,7 +86,7 @@ TEST_F(Wizards, HaveAPageForEachFrame) {
 
 TEST_F(Wizards, HaveAControlForEachName) {
   const auto expectControls = [](GuidedForm& form) {
-    for (const tables::GuidePage& page : form.pages) {
+    for (const GuidePage& page : form.pages) {
       for (const std::string& name : ControlsOn(page)) {
         EXPECT_TRUE(form.Resolve(name)) << form.Name() << " " << name;
       }
@@ -83,7 +100,7 @@ TEST_F(Wizards, HaveAControlForEachName) {
 
 TEST_F(Wizards, ShowTheMacroOnce) {
   const auto& wizard = program.application.Tool<MacroWizard>();
-  for (const tables::GuideRow& row : wizard.pages[12].rows) EXPECT_NE(row.text, "Macro will appear here");
+  for (const GuideRow& row : wizard.pages[12].rows) EXPECT_NE(row.text, "Macro will appear here");
 }
 
 TEST_F(Wizards, SayTheirTextsInReadingOrder) {
