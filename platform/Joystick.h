@@ -1,11 +1,12 @@
 // The joystick of the machine: device 0, as the hardware tools read it.
 #pragma once
 
+#include "platform/Outcome.h"
+
 namespace tarvik {
 
-/// What the calls below return.
+/// The numbers of the failures below.
 namespace joystick {
-inline constexpr int kNoError = 0;
 inline constexpr int kNoDevice = 165;
 inline constexpr int kUnplugged = 167;
 }  // namespace joystick
@@ -28,9 +29,10 @@ struct JoyInfo {
 class Joystick {
  public:
   virtual ~Joystick() = default;
-  /// Each fills its record and returns 0, or leaves the record and returns the number of what is wrong.
-  virtual int GetDevCaps(JoyCaps& caps) = 0;
-  virtual int GetPosEx(JoyInfo& info) = 0;
+  /// Looks for the stick.
+  virtual Outcome<JoyCaps> GetDevCaps() = 0;
+  /// Where the stick is that was found; failure 167 while it is unplugged.
+  virtual Outcome<JoyInfo> GetPosEx() = 0;
 };
 
 }  // namespace tarvik

@@ -44,6 +44,8 @@ struct FormattedText {
   int indent = 0;  ///< from the left of the area, in twips
 };
 
+enum class Weight { Regular, Bold };
+
 class Printer {
  public:
   virtual ~Printer() = default;
@@ -51,7 +53,7 @@ class Printer {
   /// the user cancels.
   virtual Outcome<> SetUp() = 0;
   /// A line below the last one, from the corner of the printable area down. The first one starts a document.
-  virtual Outcome<> Print(const std::string& line, bool bold) = 0;
+  virtual Outcome<> Print(const std::string& line, Weight weight) = 0;
   virtual Outcome<Paper> Sheet() = 0;
   /// Renders the characters from `from` on, as many as the area takes, in lines that are wrapped at its
   /// right. The first character that is not printed yet; the length of the text when all of it is.

@@ -77,14 +77,15 @@ class FailurePipe {
     [[maybe_unused]] const auto written = ::write(ends_[1], &code, sizeof code);
     ::_exit(kNotFoundInShell);
   }
-  /// In the parent: 0 when the program runs.
-  int Hear() {
+  /// In the parent.
+  Outcome<> Hear() {
     ::close(ends_[1]);
     ends_[1] = -1;
     int code = 0;
     while (::read(ends_[0], &code, sizeof code) < 0 && errno == EINTR) {
     }
-    return code;
+    if (code != 0) return FailureOf(code);
+    return Done{};
   }
 
  private:
@@ -111,10 +112,9 @@ Outcome<> StartDetached(const ProcessStart& start) {
     if (own == 0) image.Run();
     failure.Fail(errno);
   }
-  const int code = failure.Hear();
+  Outcome<> heard = failure.Hear();
   Reap(between);
-  if (code != 0) return FailureOf(code);
-  return Done{};
+  return heard;
 }
 
 Outcome<ChildProcess> ChildProcess::Start(const ProcessStart& start) {
@@ -131,9 +131,9 @@ Outcome<ChildProcess> ChildProcess::Start(const ProcessStart& start) {
     failure.Fail(errno);
   }
   ::setpgid(child, child);
-  if (const int code = failure.Hear()) {
+  if (const Outcome<> heard = failure.Hear(); !heard) {
     Reap(child);
-    return FailureOf(code);
+    return heard.failure();
   }
   return ChildProcess(child);
 }

@@ -16,17 +16,17 @@ FormattedText Formatted(const Pane& pane) {
 
 void PrintHeader(const Platform& platform, const Trap& trap, const std::string& title) {
   Printer& printer = platform.printer;
-  trap(printer.Print("", false));
-  trap(printer.Print(title, true));
-  trap(printer.Print("Date printed: " + platform.calendar.ShortDate(), true));
-  trap(printer.Print("", false));
+  trap(printer.Print("", Weight::Regular));
+  trap(printer.Print(title, Weight::Bold));
+  trap(printer.Print("Date printed: " + platform.calendar.ShortDate(), Weight::Bold));
+  trap(printer.Print("", Weight::Regular));
 }
 
 }  // namespace
 
 void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int top, int right, int bottom) {
   const Trap trap{errors, "MODULE PrintRTF"};
-  trap(printer.Print(" ", false));
+  trap(printer.Print(" ", Weight::Regular));
   const Paper paper = trap(printer.Sheet()).value_or(Paper());
   const PrintArea area{left - paper.offsetX, top - paper.offsetY, paper.width - right - paper.offsetX,
                        paper.height - bottom - paper.offsetY};
@@ -38,7 +38,7 @@ void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int 
     if (next >= text.text.size() || next <= from) break;
     from = next;
     trap(printer.NewPage());
-    trap(printer.Print(" ", false));
+    trap(printer.Print(" ", Weight::Regular));
   }
   trap(printer.EndDocument());
 }

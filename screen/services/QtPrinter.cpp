@@ -143,12 +143,12 @@ Outcome<> QtPrinter::Begin() {
   return Done{};
 }
 
-Outcome<> QtPrinter::Print(const std::string& line, bool bold) {
+Outcome<> QtPrinter::Print(const std::string& line, Weight weight) {
   if (!painter_.isActive()) {
     if (auto begun = Begin(); !begun) return begun;
   }
   if (!Works()) return Broken();
-  const QFont font = FontOf("Arial", 10, bold);
+  const QFont font = FontOf("Arial", 10, weight == Weight::Bold);
   const QFontMetricsF metrics(font);
   painter_.setFont(font);
   painter_.drawText(QPointF(0, lineTop_ + metrics.ascent()), ToScreen(line));

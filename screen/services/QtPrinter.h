@@ -13,7 +13,7 @@ namespace tarvik::screen {
 class QtPrinter : public Printer {
  public:
   Outcome<> SetUp() override;
-  Outcome<> Print(const std::string& line, bool bold) override;
+  Outcome<> Print(const std::string& line, Weight weight) override;
   Outcome<Paper> Sheet() override;
   Outcome<std::size_t> FormatRange(const FormattedText& text, std::size_t from,
                                    const PrintArea& area) override;

@@ -12,6 +12,8 @@ namespace {
 enum Axis { kX, kY, kZ, kR };
 constexpr int kButtons = 32;
 
+Failure NoDevice() { return {joystick::kNoDevice, "There is no joystick", 0}; }
+
 bool Start() {
   SDL_SetMainReady();
   SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
@@ -58,30 +60,29 @@ void SdlJoystick::Close() {
   }
 }
 
-int SdlJoystick::GetDevCaps(JoyCaps& caps) {
-  if (!Update()) return joystick::kNoDevice;
+Outcome<JoyCaps> SdlJoystick::GetDevCaps() {
+  if (!Update()) return NoDevice();
   if (!IsAttached()) {
     Close();
     Open(-1);
   }
   had_ = stick_ != nullptr;
-  if (!stick_) return joystick::kNoDevice;
-  caps = {SDL_JoystickNumAxes(stick_) > kZ, SDL_JoystickNumAxes(stick_) > kR};
-  return joystick::kNoError;
+  if (!stick_) return NoDevice();
+  return JoyCaps{SDL_JoystickNumAxes(stick_) > kZ, SDL_JoystickNumAxes(stick_) > kR};
 }
 
-int SdlJoystick::GetPosEx(JoyInfo& info) {
-  if (!Update() || !had_) return joystick::kNoDevice;
+Outcome<JoyInfo> SdlJoystick::GetPosEx() {
+  if (!Update() || !had_) return NoDevice();
   if (!IsAttached()) {
     Close();
     Open(newest_);
   }
-  if (!stick_) return joystick::kUnplugged;
-  info = {AxisOf(stick_, kX), AxisOf(stick_, kY), AxisOf(stick_, kZ), AxisOf(stick_, kR), 0};
+  if (!stick_) return Failure{joystick::kUnplugged, "The joystick is unplugged", 0};
+  JoyInfo info{AxisOf(stick_, kX), AxisOf(stick_, kY), AxisOf(stick_, kZ), AxisOf(stick_, kR), 0};
   for (int i = 0; i < std::min(kButtons, SDL_JoystickNumButtons(stick_)); ++i) {
     if (SDL_JoystickGetButton(stick_, i)) info.buttons |= 1U << i;
   }
-  return joystick::kNoError;
+  return info;
 }
 
 }  // namespace tarvik::screen

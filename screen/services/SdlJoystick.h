@@ -16,8 +16,8 @@ class SdlJoystick : public Joystick {
   SdlJoystick(const SdlJoystick&) = delete;
   SdlJoystick& operator=(const SdlJoystick&) = delete;
 
-  int GetDevCaps(JoyCaps& caps) override;
-  int GetPosEx(JoyInfo& info) override;
+  Outcome<JoyCaps> GetDevCaps() override;
+  Outcome<JoyInfo> GetPosEx() override;
 
  private:
   bool Update();

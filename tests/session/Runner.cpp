@@ -426,7 +426,7 @@ void Runner::SetJoystick(const Line& line) {
   const std::string& what = Word(line, 1);
   stick.isThere = what != "none";
   if (what == "unplugged") stick.error = joystick::kUnplugged;
-  if (what == "plugged") stick.error = joystick::kNoError;
+  if (what == "plugged") stick.error = 0;
 }
 
 /// What it has beside x and y.

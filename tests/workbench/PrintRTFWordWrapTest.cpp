@@ -13,8 +13,8 @@ using testing::ElementsAre;
 /// Tells what it is asked for, and fails once, at one of its steps. A page takes ten characters.
 class SmallPrinter : public ScriptedPrinter {
  public:
-  Outcome<> Print(const std::string& line, bool bold) override {
-    return Step("print") ? ScriptedPrinter::Print(line, bold) : Fault();
+  Outcome<> Print(const std::string& line, Weight weight) override {
+    return Step("print") ? ScriptedPrinter::Print(line, weight) : Fault();
   }
   Outcome<Paper> Sheet() override {
     if (!Step("sheet")) return Fault().failure();

@@ -96,7 +96,7 @@ void SendToJoystick(Workbench& bench, Shell& shell) {
   Form& frame = shell.Frame();
   const int before = frame.WindowState;
   frame.WindowState = kMinimised;
-  ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit);
+  Ignore(ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit));
   frame.WindowState = before;
   bench.documents.FocusActiveText();
 }

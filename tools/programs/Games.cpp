@@ -28,8 +28,7 @@ constexpr const char* kNotFound =
     "not always !! :) ";
 constexpr const char* kNotRun =
     "Sorry, but I couldn't run your game .... please check how you've setup Tarvik to run this game ... "
-    "there "
-    "may be an error there";
+    "there may be an error there";
 
 constexpr int kMinimisedWithoutFocus = 6;  // without effect
 constexpr int kNoLimit = -1;
@@ -56,7 +55,7 @@ Outcome<> Transfer(Workbench& bench, Shell& shell) {
       [&]() -> Outcome<> {
         const std::string commandLine = LoaderCommandLine(bench, shell, bench.lists.GameJF);
         shell.Frame().Visible = false;
-        ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit);
+        Ignore(ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit));
         return Done{};
       },
   });

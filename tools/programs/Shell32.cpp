@@ -8,9 +8,12 @@ namespace tarvik {
 namespace {
 
 constexpr int kNoLimit = -1;
-constexpr int kBusy = 70;  // "Permission denied"
+const Failure kBusy{70, "Permission denied", 0};
 
-int StartFailed(int number) { return static_cast<int>(0x80040000U + static_cast<unsigned>(number)); }
+Failure StartFailed(Failure why) {
+  why.number = static_cast<int>(0x80040000U + static_cast<unsigned>(why.number));
+  return why;
+}
 
 /// The timers of all forms stand still meanwhile.
 class TimersHeld {
@@ -19,20 +22,19 @@ class TimersHeld {
     for (const Form* const form : shell.Forms()) {
       for (Component* const child : form->Children()) {
         auto* const timer = dynamic_cast<Timer*>(child);
-        if (timer && timer->Enabled) held_.push_back(timer);
+        if (!timer || !timer->Enabled) continue;
+        timer->Enabled = false;
+        held_.push_back(timer);
       }
     }
-    Enable(false);
   }
-  ~TimersHeld() { Enable(true); }
+  ~TimersHeld() {
+    for (Timer* const timer : held_) timer->Enabled = true;
+  }
   TimersHeld(const TimersHeld&) = delete;
   TimersHeld& operator=(const TimersHeld&) = delete;
 
  private:
-  void Enable(bool enabled) {
-    for (Timer* const timer : held_) timer->Enabled = enabled;
-  }
-
   std::vector<Timer*> held_;
 };
 
@@ -51,9 +53,10 @@ class Announced {
   std::string before_;
 };
 
-/// Stands in front until the program has ended, or the user or the time has had enough; true for the time.
-bool ShowWait(Workbench& bench, Shell& shell, RunningProgram& program, const std::string& commandLine,
-              int timeout) {
+/// Stands in front until the program has ended, or the user or the time has had enough: what it is if it has
+/// not ended.
+WaitEnd ShowWait(Workbench& bench, Shell& shell, RunningProgram& program, const std::string& commandLine,
+                 int timeout) {
   const TimersHeld held(shell);
   const std::string waiting = "Waiting for " + commandLine + " to end ...";
   const Announced announced(bench.documents.status.Panels(1), waiting);
@@ -65,22 +68,23 @@ bool ShowWait(Workbench& bench, Shell& shell, RunningProgram& program, const std
   shell.WaitWhile([&] {
     return program.State() == ProgramState::Running && window.Visible && !timedOut() && !shell.Ended();
   });
-  if (!window.Visible) return false;
+  if (!window.Visible) return WaitEnd::Abandoned;
   shell.Unload(window);
-  return timedOut();
+  return timedOut() ? WaitEnd::TimedOut : WaitEnd::Abandoned;
 }
 
 }  // namespace
 
-int ShellAndWait(Workbench& bench, Shell& shell, const std::string& commandLine,
-                 std::optional<int> /*windowStyle*/, std::optional<int> timeout) {
+Outcome<WaitEnd> ShellAndWait(Workbench& bench, Shell& shell, const std::string& commandLine,
+                              std::optional<int> /*windowStyle*/, std::optional<int> timeout) {
   if (shell.LoadedTool<ProgramWait>()) return StartFailed(kBusy);
   auto program = bench.platform.programs.StartToWait(commandLine, WindowStyle::Normal);
-  if (!program) return StartFailed(program.failure().number);
+  if (!program) return StartFailed(program.failure());
   const bool running = (*program)->State() == ProgramState::Running;
-  const bool timedOut = running && ShowWait(bench, shell, **program, commandLine, timeout.value_or(kNoLimit));
-  if ((*program)->State() == ProgramState::Ended) return wait::kEnded;
-  return timedOut ? wait::kTimedOut : wait::kAbandoned;
+  const WaitEnd unfinished = running
+                                 ? ShowWait(bench, shell, **program, commandLine, timeout.value_or(kNoLimit))
+                                 : WaitEnd::Abandoned;
+  return (*program)->State() == ProgramState::Ended ? WaitEnd::Ended : unfinished;
 }
 
 }  // namespace tarvik

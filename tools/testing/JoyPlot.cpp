@@ -83,13 +83,13 @@ void JoyPlot::Form_Activate() { shell_.HideToolbar(); }
 
 void JoyPlot::JoyPlotSetup() {
   JoyTimer.Enabled = false;
-  JoyCaps caps;
-  LastError = bench_.platform.joystick.GetDevCaps(caps);
-  if (LastError != joystick::kNoError) bench_.platform.dialogs.Show(NoJoystickBox());
+  const Outcome<JoyCaps> caps = bench_.platform.joystick.GetDevCaps();
+  LastError = caps.failure().number;
+  if (!caps) bench_.platform.dialogs.Show(NoJoystickBox());
   PicJoy.Scale(0, static_cast<float>(kJoystickRange));
   PicJoy.Cls();
   DrawCentreLines(ScaleLow, kBlack, kBlack);
-  JoyTimer.Enabled = LastError == joystick::kNoError;
+  JoyTimer.Enabled = static_cast<bool>(caps);
 }
 
 void JoyPlot::Form_Resize() {
@@ -104,15 +104,15 @@ void JoyPlot::Form_Resize() {
 // Plotting.
 
 void JoyPlot::JoyTimer_Timer() {
-  JoyInfo info;
-  LastError = bench_.platform.joystick.GetPosEx(info);
+  const Outcome<JoyInfo> info = bench_.platform.joystick.GetPosEx();
+  LastError = info.failure().number;
   if (LastError == joystick::kUnplugged) {
     StopWith(
         "I think your joystick is unplugged, or incorrectly set up under Windows. Please investigate "
         "further!");
     return;
   }
-  if (LastError != joystick::kNoError) {
+  if (!info) {
     StopWith(
         "Ooohhh....something's happened to the signal from the joystick. Please check your settings, close "
         "down the joystick analyser, and restart it to see if I can pick it up again.");
@@ -120,8 +120,8 @@ void JoyPlot::JoyTimer_Timer() {
   }
   DrawMarker(PicJoy.BackColor, PicJoy.BackColor);
   if (PlotOn) DrawDiagonals(kBlue);  // which stay: the trace
-  PlotX = info.x;
-  PlotY = info.y;
+  PlotX = info->x;
+  PlotY = info->y;
   DrawMarker(kBlack, PlotOn ? kBlue : kBlack);
   bench_.documents.status.Panels(1).Text =
       "Joystick position: x = " + PlotX.ToText() + ", y = " + PlotY.ToText();

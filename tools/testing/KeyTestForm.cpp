@@ -42,6 +42,19 @@ constexpr MenuRow<KeyTestForm> kMenus[] = {
     {1, "mnuClear500", "After 1000ms from key up", "", nullptr, 4, &KeyTestForm::mnuClear500_Click},
 };
 
+/// A modifier key, its bit in the masks, and its lamp.
+struct Modifier {
+  int keyCode;
+  int bit;
+  ToggleLabel KeyTestForm::*lamp;
+};
+
+constexpr Modifier kModifiers[] = {
+    {kShiftKey, shift::kShift, &KeyTestForm::LabelSHIFT},
+    {kCtrlKey, shift::kCtrl, &KeyTestForm::LabelCTRL},
+    {kAltKey, shift::kAlt, &KeyTestForm::LabelALT},
+};
+
 bool IsModifier(int keyCode) { return keyCode >= kShiftKey && keyCode <= kAltKey; }
 
 void CaretToEnd(Pane& log) { log.SelStart = log.Content().size(); }
@@ -193,16 +206,16 @@ std::string KeyTestForm::WhichKey(int keyCode, int shift) {
 }
 
 std::string KeyTestForm::GetKeyDownEvent(int /*keyCode*/, int shift) {
-  if (shift & shift::kShift) LabelSHIFT.Turn(true);
-  if (shift & shift::kCtrl) LabelCTRL.Turn(true);
-  if (shift & shift::kAlt) LabelALT.Turn(true);
+  for (const Modifier& each : kModifiers) {
+    if (shift & each.bit) (this->*each.lamp).BackColor = ToggleLabel::kOn;
+  }
   return kModifierWords[shift].alone;
 }
 
 std::string KeyTestForm::GetKeyUpEvent(int keyCode, int shift) {
-  if (keyCode == kShiftKey) LabelSHIFT.Turn(false);
-  if (keyCode == kCtrlKey) LabelCTRL.Turn(false);
-  if (keyCode == kAltKey) LabelALT.Turn(false);
+  for (const Modifier& each : kModifiers) {
+    if (keyCode == each.keyCode) (this->*each.lamp).BackColor = ToggleLabel::kOff;
+  }
   ShowNumLock();
   return kModifierWords[shift].alone;
 }
@@ -237,9 +250,12 @@ void KeyTestForm::mnuClear500_Click(int index) {
 
 void KeyTestForm::JoystickStuff() {
   JoystickTimer.Enabled = false;
-  LastError = bench_.platform.joystick.GetDevCaps(caps_);
-  ShowWhetherThere();
-  if (LastError != joystick::kNoError) bench_.platform.dialogs.Show(NoJoystickBox());
+  const Outcome<JoyCaps> found = bench_.platform.joystick.GetDevCaps();
+  const bool there = static_cast<bool>(found);
+  LastError = found.failure().number;
+  caps_ = there ? *found : JoyCaps();
+  ShowWhetherThere(there);
+  if (!there) bench_.platform.dialogs.Show(NoJoystickBox());
   PictureJoystick.Scale(0, kJoystickRange);
   FrameTHR.Height = PictureJoystick.Height + kFrameTop;
   FrameTHR.Top = PictureJoystick.Top - kFrameTop;
@@ -248,12 +264,11 @@ void KeyTestForm::JoystickStuff() {
   FrameRDDR.Width = PictureJoystick.Width;
   FrameRDDR.Left = PictureJoystick.Left;
   LabelRDDR.Move(kFrameInside, kBarTop, (PictureJoystick.Width - 2 * kFrameInside) / 2, kBar);
-  JoystickTimer.Enabled = LastError == joystick::kNoError;
+  JoystickTimer.Enabled = there;
 }
 
 /// Without a stick its bars and lamps are grey, and the status says why.
-void KeyTestForm::ShowWhetherThere() {
-  const bool there = LastError == joystick::kNoError;
+void KeyTestForm::ShowWhetherThere(bool there) {
   for (Label* const bar : {&LabelTHR, &LabelRDDR}) {
     bar->BackColor = there ? ToggleLabel::kOn : kGrey;
     bar->Enabled = there;
@@ -265,13 +280,15 @@ void KeyTestForm::ShowWhetherThere() {
 }
 
 void KeyTestForm::JoystickTimer_Timer() {
-  LastError = bench_.platform.joystick.GetPosEx(info_);
-  if (LastError != joystick::kNoError && LastError != joystick::kUnplugged) {
+  const Outcome<JoyInfo> read = bench_.platform.joystick.GetPosEx();
+  LastError = read.failure().number;
+  if (!read && LastError != joystick::kUnplugged) {
     status.Caption = std::string("Status: Joystick error");
     return;
   }
-  status.Caption = std::string(LastError == joystick::kNoError ? "Status: Joystick connected"
-                                                               : "Status: Joystick unplugged");
+  // One that is unplugged stays on show where it was.
+  if (read) info_ = *read;
+  status.Caption = std::string(read ? "Status: Joystick connected" : "Status: Joystick unplugged");
   ShowPoint();
   if (caps_.hasZ) ShowThrottle();
   if (caps_.hasR) ShowRudder();

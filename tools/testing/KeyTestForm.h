@@ -85,7 +85,7 @@ class KeyTestForm : public Form {
  private:
   void AttachHandlers();
   void ShowNumLock();
-  void ShowWhetherThere();
+  void ShowWhetherThere(bool there);
   void NextColour();
   void ShowPoint();
   void ShowThrottle();

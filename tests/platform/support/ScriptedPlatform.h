@@ -100,20 +100,19 @@ class ScriptedDesktop : public Desktop {
 
 class ScriptedJoystick : public Joystick {
  public:
-  int GetDevCaps(JoyCaps& found) override {
-    if (!isThere) return joystick::kNoDevice;
-    found = caps;
-    return joystick::kNoError;
+  Outcome<JoyCaps> GetDevCaps() override {
+    if (!isThere) return Failure{joystick::kNoDevice, "There is no joystick", 0};
+    return caps;
   }
-  int GetPosEx(JoyInfo& read) override {
-    if (error == joystick::kNoError) read = info;
-    return error;
+  Outcome<JoyInfo> GetPosEx() override {
+    if (error != 0) return Failure{error, "The joystick does not answer", 0};
+    return info;
   }
 
   bool isThere = false;
   JoyCaps caps{true, true};
   JoyInfo info{32768, 32768, 32768, 32768, 0};
-  int error = joystick::kNoError;  ///< of reading
+  int error = 0;  ///< of reading; 0 for none
 };
 
 class ScriptedKeyboard : public Keyboard {

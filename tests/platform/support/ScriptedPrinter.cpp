@@ -27,10 +27,10 @@ Outcome<> ScriptedPrinter::SetUp() {
   return Done{};
 }
 
-Outcome<> ScriptedPrinter::Print(const std::string& line, bool bold) {
+Outcome<> ScriptedPrinter::Print(const std::string& line, Weight weight) {
   if (auto call = Call(); !call) return call;
   if (page_ == 0) StartPage(1);
-  record.push_back(std::string(bold ? "print bold \"" : "print \"") + line + "\"");
+  record.push_back(std::string(weight == Weight::Bold ? "print bold \"" : "print \"") + line + "\"");
   return Done{};
 }
 

@@ -12,7 +12,7 @@ namespace tarvik {
 class ScriptedPrinter : public Printer {
  public:
   Outcome<> SetUp() override;
-  Outcome<> Print(const std::string& line, bool bold) override;
+  Outcome<> Print(const std::string& line, Weight weight) override;
   Outcome<Paper> Sheet() override;
   /// Lines are those of the text, whatever their length.
   Outcome<std::size_t> FormatRange(const FormattedText& text, std::size_t from,

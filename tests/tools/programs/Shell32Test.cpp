@@ -24,8 +24,13 @@ class Shell32Test : public testing::Test {
     };
   }
   void End(ProgramState state) { program.outside.programs.state = state; }
-  int Wait(std::optional<int> style = {}, std::optional<int> timeout = {}) {
+  Outcome<WaitEnd> Wait(std::optional<int> style = {}, std::optional<int> timeout = {}) {
     return ShellAndWait(program.application.workbench, program.application, "c:\\x.exe", style, timeout);
+  }
+  void ExpectEnd(WaitEnd end, std::optional<int> timeout = {}) {
+    const Outcome<WaitEnd> waited = Wait({}, timeout);
+    ASSERT_TRUE(waited) << waited.failure().text;
+    EXPECT_EQ(*waited, end);
   }
   [[nodiscard]] const std::deque<ProgramStart>& started() const { return program.outside.programs.started; }
 
@@ -33,39 +38,42 @@ class Shell32Test : public testing::Test {
 };
 
 TEST_F(Shell32Test, GivesWhatTheWaitGave) {
-  EXPECT_EQ(Wait(), 0);
+  ExpectEnd(WaitEnd::Ended);
   Meanwhile([this] { End(ProgramState::Ended); });
-  EXPECT_EQ(Wait(), 0);
+  ExpectEnd(WaitEnd::Ended);
   Meanwhile([this] { End(ProgramState::Abandoned); });
-  EXPECT_EQ(Wait(), 0x80);
+  ExpectEnd(WaitEnd::Abandoned);
   Meanwhile([this] { program.application.LoadedTool<ProgramWait>()->Command1.Click(); });
-  EXPECT_EQ(Wait(), 0x80);
+  ExpectEnd(WaitEnd::Abandoned);
   EXPECT_EQ(program.outside.programs.alive, 0);
 }
 
 TEST_F(Shell32Test, WaitsAsLongAsItIsTold) {
   ProgramWait* window = nullptr;
   Meanwhile([&] { window = program.application.LoadedTool<ProgramWait>(); });
-  EXPECT_EQ(Wait(1, 1000), 0x102);
+  ExpectEnd(WaitEnd::TimedOut, 1000);
   ASSERT_TRUE(window);
   EXPECT_EQ(window->Waited, 1000);
   EXPECT_EQ(program.outside.programs.alive, 0) << "nobody waits for it any more";
   Meanwhile([] {});
-  EXPECT_EQ(Wait(1, 0), 0x102);
+  ExpectEnd(WaitEnd::TimedOut, 0);
   Meanwhile([this] { End(ProgramState::Ended); });
-  EXPECT_EQ(Wait(1, -1), 0);
+  ExpectEnd(WaitEnd::Ended, -1);
 }
 
-TEST_F(Shell32Test, GivesANegativeNumberForWhatDoesNotStart) {
+TEST_F(Shell32Test, FailsWithANegativeNumberForWhatDoesNotStart) {
   program.outside.programs.fails = 53;
-  EXPECT_EQ(Wait(), static_cast<int>(0x80040035U));
+  const Outcome<WaitEnd> waited = Wait();
+  ASSERT_FALSE(waited);
+  EXPECT_EQ(waited.failure().number, static_cast<int>(0x80040035U));
+  EXPECT_EQ(waited.failure().text, "The program did not start");
   EXPECT_FALSE(program.application.LoadedTool<ProgramWait>());
 }
 
 TEST_F(Shell32Test, AlwaysStartsInANormalWindow) {
   for (const std::optional<int> style : {std::optional<int>(), std::optional(-1), std::optional(0),
                                          std::optional(3), std::optional(6), std::optional(7)}) {
-    Wait(style);
+    EXPECT_TRUE(Wait(style));
     EXPECT_EQ(started().back().style, WindowStyle::Normal);
   }
 }
@@ -73,10 +81,10 @@ TEST_F(Shell32Test, AlwaysStartsInANormalWindow) {
 TEST_F(Shell32Test, StartsNothingWhileAnotherIsWaitedFor) {
   int second = 0;
   Meanwhile([&] {
-    second = Wait();
+    second = Wait().failure().number;
     End(ProgramState::Ended);
   });
-  EXPECT_EQ(Wait(), 0);
+  ExpectEnd(WaitEnd::Ended);
   EXPECT_EQ(second, static_cast<int>(0x80040046U));
   EXPECT_EQ(started().size(), 1U);
 }
@@ -91,14 +99,14 @@ TEST_F(Shell32Test, HoldsTheTimersOfTheOtherForms) {
     EXPECT_TRUE(program.application.LoadedTool<ProgramWait>()->Timer1.Enabled);
     End(ProgramState::Ended);
   });
-  Wait();
+  EXPECT_TRUE(Wait());
   EXPECT_TRUE(timer.Enabled);
   EXPECT_FALSE(blink.Enabled);
 }
 
 TEST_F(Shell32Test, TheProgramEndsWithTarvik) {
   Meanwhile([this] { program.application.CloseMum(); });
-  Wait();
+  EXPECT_TRUE(Wait());
   EXPECT_EQ(program.outside.programs.alive, 0);
 }
 
