@@ -118,8 +118,8 @@ void Editor::SetUpToolbar() {
 // Life of the form.
 
 void Editor::FillFrame() {
-  ScaleWidth = mum_.Width / kTwipsPerPixel;
-  ScaleHeight = mum_.Height / kTwipsPerPixel;
+  ScaleWidth = InPixels(mum_.Width);
+  ScaleHeight = InPixels(mum_.Height);
 }
 
 void Editor::Form_Load(EditorBegins begins) {

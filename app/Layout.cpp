@@ -60,8 +60,8 @@ void Layout::PlaceFrame() {
   const float width = FrameWidth();
   const float height = controls_.form.ScaleHeight;
   controls_.frame.Move(0, 0, width, height);
-  controls_.categories.Width = width * kTwipsPerPixel - 240;
-  const float listHeight = std::max(0.0F, height * kTwipsPerPixel - 840 - controls_.categories.Height - 680);
+  controls_.categories.Width = FromPixels(width).count - 240;
+  const float listHeight = std::max(0.0F, FromPixels(height).count - 840 - controls_.categories.Height - 680);
   for (int i = 0; i < controls_.lists.Count(); ++i) {
     controls_.lists(i).Move(kMargin, kListTop, controls_.categories.Width, listHeight);
   }
@@ -121,7 +121,7 @@ void Layout::ToggleTiled() {
 }
 
 void Layout::FrameMouseMove(const Mouse& mouse) {
-  const int x = static_cast<int>(mouse.x / kTwipsPerPixel);
+  const int x = static_cast<int>(InPixels(mouse.x));
   Frame& frame = controls_.frame;
   if (mouse.button != 1 || frame.MousePointer != pointer::kWestEast) {
     const bool atEdge = x + kGrip >= static_cast<int>(frame.Width);

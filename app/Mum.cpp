@@ -60,10 +60,10 @@ constexpr Installation kInstallations[] = {
     {"c:\\tm", nullptr, "c:\\tm\\programs", nullptr, "c:\\tm\\tm.bat", kPfcs, kNoThrottle},
 };
 
-float ToFloat(const std::string& text) {
+Twips ToTwips(const std::string& text) {
   float value = 0;
   std::from_chars(text.data(), text.data() + text.size(), value);
-  return std::isfinite(value) ? value : 0;
+  return {std::isfinite(value) ? value : 0};
 }
 
 }  // namespace
@@ -137,7 +137,7 @@ void Mum::MDIForm_Unload() { SaveMumPosition(); }
 void Mum::GetMumPosition() {
   const Profile stored = bench_.profile.Read();
   const auto read = [&stored](const char* key, const char* fallback) {
-    return ToFloat(stored.GetString(kMiscellaneous, key, fallback, kPositionBuffer));
+    return ToTwips(stored.GetString(kMiscellaneous, key, fallback, kPositionBuffer));
   };
   Top = read("MumTopAtStartup", "0");
   Left = read("MumLeftAtStartup", "0");
@@ -151,10 +151,10 @@ void Mum::SaveMumPosition() {
   // A frame that is maximised or minimised keeps the size that it would be restored to.
   const ScreenSize& screen = bench_.platform.screen;
   if (WindowState != 1) {
-    Top = std::max(0.0F, Top.Get());
-    Left = std::max(0.0F, Left.Get());
-    Width = std::min(screen.width, Width.Get());
-    Height = std::min(screen.height, Height.Get());
+    Top = std::max(Twips{0}, Top.Get());
+    Left = std::max(Twips{0}, Left.Get());
+    Width = std::min(FromPixels(screen.width), Width.Get());
+    Height = std::min(FromPixels(screen.height), Height.Get());
     MumWindowstate = WindowState;
   }
   Ignore(bench_.profile.WriteAll(std::vector<ProfileEntry>{

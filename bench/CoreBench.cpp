@@ -29,7 +29,8 @@ struct Size {
 constexpr Size kSizes[] = {{"30 KB", 30'000}, {"1 MB", 1'000'000}, {"10 MB", 10'000'000}};
 constexpr std::size_t kPeerLimit = 1'000'000;  // beyond it a slow peer is not waited for
 
-constexpr Colour kClassColours[kColourClasses] = {0, 16711680, 255, 32768, 12615680, 8421504};
+constexpr Colour kClassColours[kColourClasses] = {kBlack,        Colour{16711680}, Colour{255},
+                                                  Colour{32768}, Colour{12615680}, Colour{8421504}};
 
 volatile std::size_t sink = 0;  // keeps results from being optimised away
 
@@ -105,7 +106,7 @@ class PeerHighlighter : public QSyntaxHighlighter {
       if (pass.kind == PassKind::Bracket) pattern += "[^)]*\\)";
       if (pass.kind == PassKind::Modifier) pattern = "(?<= )/[^ ]";
       QTextCharFormat format;
-      format.setForeground(QColor::fromRgb(kClassColours[static_cast<std::size_t>(pass.colour)]));
+      format.setForeground(QColor::fromRgb(NumberOf(kClassColours[static_cast<std::size_t>(pass.colour)])));
       const bool matchCase = (pass.options & find::kMatchCase) != 0;
       rules_.push_back({QRegularExpression(pattern, matchCase ? QRegularExpression::NoPatternOption
                                                               : QRegularExpression::CaseInsensitiveOption),
@@ -253,7 +254,7 @@ void BenchRtf() {
     for (std::size_t i = 0; i < content.colours.runs().size(); ++i) {
       const ColourRuns::Run& run = content.colours.runs()[i];
       QTextCharFormat format;
-      format.setForeground(QColor::fromRgb(run.colour));
+      format.setForeground(QColor::fromRgb(NumberOf(run.colour)));
       std::string part = content.text.substr(run.start, content.colours.EndOf(i) - run.start);
       std::erase(part, '\r');
       cursor.insertText(QString::fromLatin1(part), format);

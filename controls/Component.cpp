@@ -25,8 +25,10 @@ std::string NumberText(T value) {
 std::string TextOf(bool value) { return value ? "True" : "False"; }
 std::string TextOf(int value) { return NumberText(value); }
 std::string TextOf(unsigned value) { return NumberText(value); }
+std::string TextOf(Colour value) { return NumberText(NumberOf(value)); }
 std::string TextOf(std::size_t value) { return NumberText(value); }
 std::string TextOf(float value) { return NumberText(value); }
+std::string TextOf(Twips value) { return NumberText(value.count); }
 const std::string& TextOf(const std::string& value) { return value; }
 
 bool ParseText(std::string_view text, bool& value) {
@@ -35,8 +37,15 @@ bool ParseText(std::string_view text, bool& value) {
 }
 bool ParseText(std::string_view text, int& value) { return ParseNumber(text, value); }
 bool ParseText(std::string_view text, unsigned& value) { return ParseNumber(text, value); }
+bool ParseText(std::string_view text, Colour& value) {
+  std::uint32_t number = 0;
+  if (!ParseNumber(text, number)) return false;
+  value = Colour{number};
+  return true;
+}
 bool ParseText(std::string_view text, std::size_t& value) { return ParseNumber(text, value); }
 bool ParseText(std::string_view text, float& value) { return ParseNumber(text, value); }
+bool ParseText(std::string_view text, Twips& value) { return ParseNumber(text, value.count); }
 bool ParseText(std::string_view text, std::string& value) {
   value = text;
   return true;

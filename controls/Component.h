@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "controls/Signal.h"
+#include "controls/Twips.h"
+#include "text/Colour.h"
 
 namespace tarvik {
 
@@ -18,14 +20,18 @@ class Component;
 std::string TextOf(bool value);
 std::string TextOf(int value);
 std::string TextOf(unsigned value);
+std::string TextOf(Colour value);
 std::string TextOf(std::size_t value);
 std::string TextOf(float value);
+std::string TextOf(Twips value);
 const std::string& TextOf(const std::string& value);
 bool ParseText(std::string_view text, bool& value);
 bool ParseText(std::string_view text, int& value);
 bool ParseText(std::string_view text, unsigned& value);
+bool ParseText(std::string_view text, Colour& value);
 bool ParseText(std::string_view text, std::size_t& value);
 bool ParseText(std::string_view text, float& value);
+bool ParseText(std::string_view text, Twips& value);
 bool ParseText(std::string_view text, std::string& value);
 
 /// The number that a text begins with, blanks aside; 0 where it begins with none.

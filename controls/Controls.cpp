@@ -98,7 +98,7 @@ void ListBox::Tick(std::vector<bool> ticks) {
   TicksChanged();
 }
 
-void ListBox::Paint(std::vector<unsigned> colours) {
+void ListBox::Paint(std::vector<Colour> colours) {
   colours.resize(items_.size());
   if (colours == colours_) return;
   colours_ = std::move(colours);
@@ -107,7 +107,7 @@ void ListBox::Paint(std::vector<unsigned> colours) {
 
 std::string ListBox::ColourLines() const {
   std::string lines;
-  for (const unsigned colour : colours_) AddLine(lines, TextOf(colour));
+  for (const Colour colour : colours_) AddLine(lines, TextOf(colour));
   return lines;
 }
 

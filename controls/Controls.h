@@ -12,8 +12,6 @@
 
 namespace tarvik {
 
-inline constexpr float kTwipsPerPixel = 15;
-
 /// One item a line.
 std::string Lines(const std::vector<std::string>& items);
 
@@ -133,7 +131,7 @@ class TextBox : public Control {
   /// Setting it replaces what is selected; the caret goes behind the new text.
   Attribute<std::string> SelText{*this, "SelText", [this] { return text_.substr(SelStart, SelLength); },
                                  [this](const std::string& text) { ReplaceSelection(text); }};
-  Property<unsigned> BackColor{*this, "BackColor", 0xFFFFFFU};  ///< white is whatever the desktop makes of it
+  Property<Colour> BackColor{*this, "BackColor", kWhite};  ///< white is whatever the desktop makes of it
   /// The text changed, by the user or by code.
   Event<> Change{*this, "Change"};
 
@@ -199,7 +197,7 @@ class Label : public Control {
  public:
   using Control::Control;
   Property<std::string> Caption{*this, "Caption"};
-  Property<unsigned> BackColor{*this, "BackColor", 0xFFFFFFU};
+  Property<Colour> BackColor{*this, "BackColor", kWhite};
   Property<int> BorderStyle{*this, "BorderStyle", 0};  ///< 1 with a line around it
   Event<> Click{*this, "Click"};
 };
@@ -207,8 +205,8 @@ class Label : public Control {
 /// Tells by its back colour whether it is on: a lamp, or a switch that its handler turns.
 class ToggleLabel : public Label {
  public:
-  static constexpr unsigned kOn = 0x0080C0FF;
-  static constexpr unsigned kOff = 0x8000000F;  ///< the face of a button, whatever the desktop makes it
+  static constexpr Colour kOn{0x0080C0FF};
+  static constexpr Colour kOff{0x8000000F};  ///< the face of a button, whatever the desktop makes it
 
   ToggleLabel(Component& parent, std::string_view name, std::optional<int> index = {})
       : Label(parent, name, index) {
@@ -231,7 +229,7 @@ class Frame : public Control {
 class PictureBox : public Control {
  public:
   using Control::Control;
-  Property<unsigned> BackColor{*this, "BackColor"};
+  Property<Colour> BackColor{*this, "BackColor"};
   Event<> Click{*this, "Click"};
 };
 
@@ -264,8 +262,8 @@ class ListBox : public Control {
   /// One tick for each item, in the order of the list.
   void Tick(std::vector<bool> ticks);
   /// A colour beside each item, in the order of the list.
-  void Paint(std::vector<unsigned> colours);
-  [[nodiscard]] const std::vector<unsigned>& Colours() const { return colours_; }
+  void Paint(std::vector<Colour> colours);
+  [[nodiscard]] const std::vector<Colour>& Colours() const { return colours_; }
 
   Property<int> ListIndex{*this, "ListIndex", -1};
   Attribute<std::string> Items{*this, "Items", [this] { return Lines(false); }};
@@ -287,7 +285,7 @@ class ListBox : public Control {
 
   std::vector<std::string> items_;
   std::vector<bool> ticks_;
-  std::vector<unsigned> colours_;  // none, or one for each item
+  std::vector<Colour> colours_;  // none, or one for each item
 };
 
 /// A drop-down list of texts, with no free typing.

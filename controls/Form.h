@@ -21,11 +21,11 @@ class Form : public Component {
   /// Showing it, also once more, brings it back from being minimised.
   Attribute<bool> Visible{*this, "Visible", [this] { return visible_; },
                           [this](bool visible) { SetVisible(visible); }};
-  /// On the screen, in twips.
-  Property<float> Left{*this, "Left"};
-  Property<float> Top{*this, "Top"};
-  Property<float> Width{*this, "Width"};
-  Property<float> Height{*this, "Height"};
+  /// On the screen.
+  Property<Twips> Left{*this, "Left"};
+  Property<Twips> Top{*this, "Top"};
+  Property<Twips> Width{*this, "Width"};
+  Property<Twips> Height{*this, "Height"};
   /// The inside, in the unit the form lays its controls out in.
   Property<float> ScaleWidth{*this, "ScaleWidth"};
   Property<float> ScaleHeight{*this, "ScaleHeight"};
@@ -65,8 +65,8 @@ class Form : public Component {
   Signal<std::string_view> PopUp;
   virtual void PopUpClosed(std::string_view /*name*/) {}
 
-  /// Puts its window there, in twips.
-  void MoveTo(float left, float top) {
+  /// Puts its window there.
+  void MoveTo(Twips left, Twips top) {
     Left = left;
     Top = top;
     Moved();

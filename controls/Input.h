@@ -1,6 +1,8 @@
 // What the mouse and the keyboard tell a control.
 #pragma once
 
+#include "controls/Twips.h"
+
 namespace tarvik {
 
 /// Shift states of keys and the mouse, added up.
@@ -13,8 +15,8 @@ inline constexpr int kAlt = 4;
 struct Mouse {
   int button = 0;  ///< 1 left, 2 right, 4 middle; while moving, the buttons that are down
   int shift = 0;
-  float x = 0;  ///< in twips from the control's left edge
-  float y = 0;
+  Twips x;  ///< from the control's left edge
+  Twips y;
 };
 
 /// A key by its Windows virtual-key code. A handler that sets `code` to 0 swallows the key.

@@ -18,7 +18,7 @@ struct Stroke {
   float y1 = 0;
   float x2 = 0;
   float y2 = 0;
-  unsigned colour = 0;
+  Colour colour = kBlack;
   int style = drawstyle::kSolid;
   int width = 1;  ///< pixels
 };
@@ -27,7 +27,7 @@ class PlotBox : public PictureBox {
  public:
   using PictureBox::PictureBox;
 
-  Property<unsigned> ForeColor{*this, "ForeColor", 0};
+  Property<Colour> ForeColor{*this, "ForeColor", kBlack};
   Property<int> DrawStyle{*this, "DrawStyle", drawstyle::kSolid};
   Property<int> DrawWidth{*this, "DrawWidth", 1};
   /// What the upper left corner stands for in both directions, and what the lower right one does.
@@ -39,10 +39,10 @@ class PlotBox : public PictureBox {
     ScaleHigh = high;
   }
   void Cls() { Cleared(); }
-  void Line(float x1, float y1, float x2, float y2, unsigned colour) {
+  void Line(float x1, float y1, float x2, float y2, Colour colour) {
     Drawn({x1, y1, x2, y2, colour, DrawStyle, DrawWidth});
   }
-  void PSet(float x, float y, unsigned colour) { Line(x, y, x, y, colour); }
+  void PSet(float x, float y, Colour colour) { Line(x, y, x, y, colour); }
 
   Signal<const Stroke&> Drawn;
   Signal<> Cleared;

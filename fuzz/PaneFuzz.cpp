@@ -67,7 +67,7 @@ void Check(const Pane& pane, const Model& model) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   constexpr const char* kTexts[] = {"", "a", "BTN ", "\r\n", "Rem x\r\n", "\xC9\xCD"};
-  constexpr Colour kColours[] = {0, 255, 16711680, 8421504};
+  constexpr Colour kColours[] = {kBlack, Colour{255}, Colour{16711680}, Colour{8421504}};
   Bytes bytes(data, size);
   Fixture fixture;
   Pane& pane = fixture.pane;

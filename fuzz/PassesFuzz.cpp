@@ -7,7 +7,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   using namespace tarvik;
-  constexpr std::array<Colour, kColourClasses> kNumbers = {0, 1, 2, 3, 4, 5};
+  constexpr std::array<Colour, kColourClasses> kNumbers = {Colour{0}, Colour{1}, Colour{2},
+                                                           Colour{3}, Colour{4}, Colour{5}};
   const std::string text = WithPaneLineBreaks({reinterpret_cast<const char*>(data), size});
   for (const auto passes : {JoystickPasses(), MacroPasses()}) {
     Painting painting(text, passes);

@@ -35,8 +35,9 @@ class Bytes {
 class FuzzDialogs : public session::ScriptedDialogs {
  public:
   explicit FuzzDialogs(Bytes& bytes) : bytes_(bytes) {}
-  Outcome<unsigned> AskForColour(unsigned /*before*/) override {
-    return static_cast<unsigned>(bytes_.Below(256) * 65793);
+  Outcome<Colour> AskForColour(Colour /*before*/) override {
+    const auto part = static_cast<unsigned>(bytes_.Below(256));
+    return Rgb(part, part, part);
   }
   Outcome<FontChoice> AskForFont(const FontChoice& before, bool /*fixedPitch*/) override {
     return FontChoice{before.name, static_cast<int>(bytes_.Below(100)), bytes_.Below(2) == 1};

@@ -13,6 +13,7 @@
 #include "platform/Outcome.h"
 #include "platform/Printer.h"
 #include "platform/Programs.h"
+#include "text/Colour.h"
 
 namespace tarvik {
 
@@ -59,7 +60,7 @@ class Dialogs {
   /// The chosen path in the program's form, or failure 32755 when the user cancels.
   virtual Outcome<std::string> AskForFile(const FileRequest& request) = 0;
   /// A colour as 0x00BBGGRR, or failure 32755.
-  virtual Outcome<unsigned> AskForColour(unsigned before) = 0;
+  virtual Outcome<Colour> AskForColour(Colour before) = 0;
   /// A font, of those of fixed pitch alone where that is asked for, or failure 32755.
   virtual Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) = 0;
   /// The same for a folder; `folder` is where the dialog begins.
@@ -120,10 +121,10 @@ class Calendar {
   [[nodiscard]] virtual std::string LongDate() const = 0;
 };
 
-/// The screen's size in twips (15 to the pixel).
+/// In pixels.
 struct ScreenSize {
-  float width = 0;
-  float height = 0;
+  int width = 0;
+  int height = 0;
 };
 
 /// A drive, and the host's folder that it stands for: UTF-8, and nothing but text to the program.

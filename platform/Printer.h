@@ -2,13 +2,11 @@
 // page.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/Outcome.h"
+#include "text/RichText.h"
 
 namespace tarvik {
 
@@ -30,14 +28,8 @@ struct PrintArea {
 
 /// Text in the code page with its look, one font for all of it. Refers to the characters.
 struct FormattedText {
-  /// Up to the start of the next run; blue in the third byte, green in the second, red lowest.
-  struct Run {
-    std::size_t start;
-    std::uint32_t colour;
-  };
-
   std::string_view text;
-  std::vector<Run> colours;
+  ColourRuns colours;
   std::string font;
   float size = 0;  ///< in points
   bool bold = false;

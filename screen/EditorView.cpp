@@ -23,7 +23,7 @@ class FrameView : public QWidget {
  public:
   FrameView(Frame& frame, Bindings& bindings, QWidget* parent) : QWidget(parent), frame_(frame) {
     bindings.BindControl(frame, *this);
-    bindings.Place(frame, *this, 1);
+    bindings.Place(frame, *this, Unit::Pixel);
     bindings.BindMouse(frame, *this);
     bindings.Bind(frame.Caption, [this] {
       setAccessibleName(ToScreen(frame_.Caption.Get()));
@@ -73,17 +73,17 @@ void EditorView::MakeMacroFrame() {
   auto* const frame = new FrameView(editor_.FrameMacros, bindings_, this);
   auto* const categories = new QComboBox(frame);
   bindings_.Bind(editor_.Combo1, *categories);
-  bindings_.Place(editor_.Combo1, *categories, kTwips);
+  bindings_.Place(editor_.Combo1, *categories, Unit::Twip);
   list_ = new ListStack(bindings_, tr("Macros"), true);
   list_->setParent(frame);
   list_->Add(editor_.List1);
-  bindings_.Place(editor_.List1(0), *list_, kTwips);
+  bindings_.Place(editor_.List1(0), *list_, Unit::Twip);
   for (int i = 0; i < Editor::kModifierButtons; ++i) {
     auto* const button = new QToolButton(frame);
     button->setFocusPolicy(Qt::TabFocus);
     bindings_.Bind(editor_.Command1(i), *button);
     bindings_.BindMouse(editor_.Command1(i), *button);
-    bindings_.Place(editor_.Command1(i), *button, kTwips);
+    bindings_.Place(editor_.Command1(i), *button, Unit::Twip);
   }
 }
 
@@ -117,8 +117,8 @@ void EditorView::MakePanes() {
   panes_[0]->setAccessibleName(tr("Joystick file"));
   panes_[1] = new PaneView(editor_.MacroText, bindings_, this);
   panes_[1]->setAccessibleName(tr("Macro file"));
-  bindings_.Place(editor_.JoystickText, *panes_[0], 1);
-  bindings_.Place(editor_.MacroText, *panes_[1], 1);
+  bindings_.Place(editor_.JoystickText, *panes_[0], Unit::Pixel);
+  bindings_.Place(editor_.MacroText, *panes_[1], Unit::Pixel);
 }
 
 /// As the eye goes: the upper row of the modifier buttons ends with the one that came last.
@@ -135,8 +135,7 @@ void EditorView::OrderFocus() {
 
 void EditorView::PlaceTabs() {
   const TabStrip& strip = editor_.TabStrip1;
-  tabs_->setGeometry(ToPixels(strip.Left, 1) + 2, ToPixels(strip.Top, 1), ToPixels(strip.Width, 1) - 4,
-                     kTabHeight);
+  tabs_->setGeometry(ToPixels(strip.Left) + 2, ToPixels(strip.Top), ToPixels(strip.Width) - 4, kTabHeight);
   update();
 }
 
@@ -151,8 +150,8 @@ void EditorView::paintEvent(QPaintEvent*) {
   const TabStrip& strip = editor_.TabStrip1;
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRect(ToPixels(strip.Left, 1) + 2, ToPixels(strip.Top, 1) + kTabHeight - 1,
-                   ToPixels(strip.Width, 1) - 5, ToPixels(strip.Height, 1) - kTabHeight);
+  painter.drawRect(ToPixels(strip.Left) + 2, ToPixels(strip.Top) + kTabHeight - 1, ToPixels(strip.Width) - 5,
+                   ToPixels(strip.Height) - kTabHeight);
 }
 
 /// One of its menu entries may still run.

@@ -155,8 +155,7 @@ void MumWindow::dropEvent(QDropEvent* event) {
 
 void MumWindow::PlaceWindow() {
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-  QRect frame(ToPixels(mum_.Left, kTwips), ToPixels(mum_.Top, kTwips), ToPixels(mum_.Width, kTwips),
-              ToPixels(mum_.Height, kTwips));
+  QRect frame(ToPixels(mum_.Left), ToPixels(mum_.Top), ToPixels(mum_.Width), ToPixels(mum_.Height));
   frame.setSize(frame.size().expandedTo(kSmallest).boundedTo(screen.size()));
   frame.moveLeft(std::clamp(frame.left(), screen.left(), screen.right() + 1 - frame.width()));
   frame.moveTop(std::clamp(frame.top(), screen.top(), screen.bottom() + 1 - frame.height()));
@@ -211,10 +210,10 @@ bool MumWindow::HasPlaceOfItsOwn() const {
 void MumWindow::TakePlace() {
   if (!HasPlaceOfItsOwn() || FitFrame()) return;
   const QRect frame = frameGeometry();
-  mum_.Left = static_cast<float>(frame.left()) * kTwips;
-  mum_.Top = static_cast<float>(frame.top()) * kTwips;
-  mum_.Width = static_cast<float>(frame.width()) * kTwips;
-  mum_.Height = static_cast<float>(frame.height()) * kTwips;
+  mum_.Left = FromPixels(frame.left());
+  mum_.Top = FromPixels(frame.top());
+  mum_.Width = FromPixels(frame.width());
+  mum_.Height = FromPixels(frame.height());
 }
 
 void MumWindow::changeEvent(QEvent* event) {
@@ -233,8 +232,8 @@ void MumWindow::moveEvent(QMoveEvent* event) {
 void MumWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   TakePlace();
-  mum_.ScaleWidth = static_cast<float>(area_->width()) * kTwips;
-  mum_.ScaleHeight = static_cast<float>(area_->height()) * kTwips;
+  mum_.ScaleWidth = FromPixels(area_->width()).count;
+  mum_.ScaleHeight = FromPixels(area_->height()).count;
   mum_.Resize();
 }
 

@@ -153,8 +153,8 @@ QPoint ToolWindow::PlaceInTheMiddle() {
 QPoint ToolWindow::PlaceOfForm() const {
   constexpr int kWithinReach = 80;
   const QRect screen = frame_.screen()->availableGeometry();
-  const auto within = [](float twips, int low, int high) {
-    return std::clamp(ToPixels(twips, kTwips), low, std::max(low, high - kWithinReach));
+  const auto within = [](Twips place, int low, int high) {
+    return std::clamp(ToPixels(place), low, std::max(low, high - kWithinReach));
   };
   return {within(form().Left, screen.left(), screen.right()),
           within(form().Top, screen.top(), screen.bottom())};
@@ -163,8 +163,8 @@ QPoint ToolWindow::PlaceOfForm() const {
 void ToolWindow::moveEvent(QMoveEvent* event) {
   QDialog::moveEvent(event);
   if (!isVisible() || isMinimized() || isMaximized()) return;
-  form().Left = static_cast<float>(pos().x()) * kTwips;
-  form().Top = static_cast<float>(pos().y()) * kTwips;
+  form().Left = FromPixels(pos().x());
+  form().Top = FromPixels(pos().y());
 }
 
 void ToolWindow::showEvent(QShowEvent* event) {

@@ -43,8 +43,7 @@ std::string CommandLine(const QStringList& arguments, Drives& drives) {
 
 ScreenSize SizeOfScreen() {
   const QSize size = QGuiApplication::primaryScreen()->size();
-  return {static_cast<float>(size.width()) * screen::kTwips,
-          static_cast<float>(size.height()) * screen::kTwips};
+  return {size.width(), size.height()};
 }
 
 screen::FileLook LookOf(const Settings& settings) {

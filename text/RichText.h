@@ -8,11 +8,9 @@
 #include <string_view>
 #include <vector>
 
-namespace tarvik {
+#include "text/Colour.h"
 
-/// Blue in the third byte, green in the second, red lowest: 255 is pure red, 0 is black.
-using Colour = std::uint32_t;
-inline constexpr Colour kBlack = 0;
+namespace tarvik {
 
 /// Characters from `start`, 0-based; a line break is CR LF and counts as two.
 struct Range {

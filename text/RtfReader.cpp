@@ -384,8 +384,8 @@ void Reader::ReadColours(const Control&, char) {
       const Control control = TakeControl();
       for (const auto& [name, shift] : kParts) {
         if (control.word != name) continue;
-        const auto part = static_cast<Colour>(std::clamp(control.number, 0, 255));
-        colour = (colour & ~(Colour{0xFF} << shift)) | part << shift;
+        const auto part = static_cast<unsigned>(std::clamp(control.number, 0, 255));
+        colour = Colour{(NumberOf(colour) & ~(0xFFU << shift)) | part << shift};
         given = true;
       }
     }

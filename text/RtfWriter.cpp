@@ -15,7 +15,6 @@ namespace {
 
 using codepage::Byte;
 
-constexpr Colour kColourBits = 0xFFFFFF;
 constexpr int kTwipsPerPixel = 15;
 
 constexpr auto kWrittenAsIs = [] {
@@ -72,7 +71,8 @@ class ColourTable {
  public:
   explicit ColourTable(const ColourRuns& colours) {
     entries_.reserve(colours.runs().size());
-    for (const ColourRuns::Run& run : colours.runs()) entries_.push_back(EntryOf(run.colour & kColourBits));
+    for (const ColourRuns::Run& run : colours.runs())
+      entries_.push_back(EntryOf(Rgb(RedOf(run.colour), GreenOf(run.colour), BlueOf(run.colour))));
   }
 
   [[nodiscard]] std::size_t size() const { return table_.size(); }
@@ -83,9 +83,9 @@ class ColourTable {
   void AppendTo(std::string& out) const {
     out += "{\\colortbl";
     for (const Colour colour : table_) {
-      AppendWord(out, "\\red", colour & 0xFF);
-      AppendWord(out, "\\green", colour >> 8 & 0xFF);
-      AppendWord(out, "\\blue", colour >> 16);
+      AppendWord(out, "\\red", RedOf(colour));
+      AppendWord(out, "\\green", GreenOf(colour));
+      AppendWord(out, "\\blue", BlueOf(colour));
       out += ';';
     }
     out += '}';
@@ -93,7 +93,7 @@ class ColourTable {
 
  private:
   std::uint32_t EntryOf(Colour colour) {
-    std::uint32_t& recent = recent_[colour * 0x9E3779B1U >> 26];
+    std::uint32_t& recent = recent_[NumberOf(colour) * 0x9E3779B1U >> 26];
     if (table_[recent] == colour) return recent;
     const auto next = static_cast<std::uint32_t>(table_.size());
     const auto [found, isNew] = numbers_.try_emplace(colour, next);

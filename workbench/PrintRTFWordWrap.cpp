@@ -6,12 +6,8 @@ namespace {
 constexpr int kMargin = 1440;  // twips: an inch, above which the header has its place
 
 FormattedText Formatted(const Pane& pane) {
-  FormattedText text{pane.Characters(), {}, pane.SelFontName, pane.SelFontSize, pane.SelBold, 0};
-  text.indent = pane.SelIndent * static_cast<int>(kTwipsPerPixel);
-  for (const ColourRuns::Run& run : pane.Content().colours.runs()) {
-    text.colours.push_back({run.start, run.colour});
-  }
-  return text;
+  return {pane.Characters(), pane.Content().colours, pane.SelFontName,
+          pane.SelFontSize,  pane.SelBold,           pane.SelIndent * static_cast<int>(kTwipsPerPixel)};
 }
 
 void PrintHeader(const Platform& platform, const Trap& trap, const std::string& title) {

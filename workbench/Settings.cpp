@@ -93,7 +93,7 @@ int Number(std::string_view text) {
 
 std::string Decimal(int value) { return TextOf(value); }
 const std::string& Decimal(const std::string& value) { return value; }
-std::string Decimal(Colour value) { return TextOf(static_cast<int>(value)); }
+std::string Decimal(Colour value) { return TextOf(static_cast<int>(NumberOf(value))); }
 
 }  // namespace
 

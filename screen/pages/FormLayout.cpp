@@ -248,7 +248,7 @@ QWidget* FormLayout::ShowSwatch(Label& swatch) const {
 
 QWidget* FormLayout::Place(Control& control, QWidget* shown, QWidget* area) const {
   shown->setParent(area);
-  bindings_.Place(control, *shown, kTwips);
+  bindings_.Place(control, *shown, Unit::Twip);
   return shown;
 }
 

@@ -190,13 +190,13 @@ class Inside : public QWidget {
  public:
   explicit Inside(Form& form) : form_(form) { setMinimumSize(160, 160); }
   [[nodiscard]] QSize sizeHint() const override {
-    return {ToPixels(form_.ScaleWidth, kTwips), ToPixels(form_.ScaleHeight, kTwips)};
+    return {ToPixels(form_.ScaleWidth, Unit::Twip), ToPixels(form_.ScaleHeight, Unit::Twip)};
   }
 
  protected:
   void resizeEvent(QResizeEvent*) override {
-    form_.ScaleWidth = static_cast<float>(width()) * kTwips;
-    form_.ScaleHeight = static_cast<float>(height()) * kTwips;
+    form_.ScaleWidth = FromPixels(width()).count;
+    form_.ScaleHeight = FromPixels(height()).count;
     form_.Resize();
   }
 

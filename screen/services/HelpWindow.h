@@ -21,7 +21,6 @@ struct FileLook {
   std::array<Colour, kColourClasses> colours{};
   Colour joystick = kWhite;
   Colour macro = kWhite;
-  static constexpr Colour kWhite = 0xFFFFFF;
 };
 
 class HelpWindow : public QDialog {

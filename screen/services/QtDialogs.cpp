@@ -159,7 +159,7 @@ Outcome<std::string> QtDialogs::Run(QFileDialog& dialog) {
   return QFile::encodeName(chosen).toStdString();
 }
 
-Outcome<unsigned> QtDialogs::AskForColour(unsigned before) {
+Outcome<Colour> QtDialogs::AskForColour(Colour before) {
   const OrdinaryPointer pointer;
   const QColor colour = QColorDialog::getColor(ToScreenColour(before), QApplication::activeWindow(), {},
                                                QColorDialog::DontUseNativeDialog);

@@ -16,7 +16,7 @@ class QtDialogs : public Dialogs {
 
   Answer Show(const MessageBox& box) override;
   Outcome<std::string> AskForFile(const FileRequest& request) override;
-  Outcome<unsigned> AskForColour(unsigned before) override;
+  Outcome<Colour> AskForColour(Colour before) override;
   Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) override;
   Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) override;
   Outcome<std::string> AskForHostFolder(const std::string& title, const std::string& folder) override;

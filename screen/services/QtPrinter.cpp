@@ -70,16 +70,14 @@ struct Piece {
 
 QList<QTextLayout::FormatRange> Colours(const FormattedText& text, const Piece& piece) {
   QList<QTextLayout::FormatRange> colours;
-  const std::size_t end = piece.start + piece.length;
-  auto run = std::upper_bound(text.colours.begin(), text.colours.end(), piece.start,
-                              [](std::size_t at, const FormattedText::Run& each) { return at < each.start; });
-  if (run != text.colours.begin()) --run;
-  for (; run != text.colours.end() && run->start < end; ++run) {
-    const std::size_t from = std::max(run->start, piece.start);
-    const std::size_t to = run + 1 == text.colours.end() ? end : std::min((run + 1)->start, end);
+  const std::size_t end = std::min(piece.start + piece.length, text.colours.size());
+  for (std::size_t at = piece.start; at < end;) {
+    const std::size_t run = text.colours.RunAt(at);
+    const std::size_t to = std::min(text.colours.EndOf(run), end);
     QTextCharFormat format;
-    format.setForeground(ToScreenColour(run->colour));
-    colours.push_back({static_cast<int>(from - piece.start), static_cast<int>(to - from), format});
+    format.setForeground(ToScreenColour(text.colours.runs()[run].colour));
+    colours.push_back({static_cast<int>(at - piece.start), static_cast<int>(to - at), format});
+    at = to;
   }
   return colours;
 }

@@ -122,8 +122,8 @@ class TypedText : public QObject {
 
 }  // namespace
 
-int ToPixels(float value, float unitsPerPixel) {
-  return static_cast<int>(std::lround(value / unitsPerPixel));
+int ToPixels(float value, Unit unit) {
+  return static_cast<int>(std::lround(unit == Unit::Twip ? InPixels({value}) : value));
 }
 
 int ShiftState(Qt::KeyboardModifiers modifiers) {
@@ -135,8 +135,8 @@ int ShiftState(Qt::KeyboardModifiers modifiers) {
 Mouse ToMouse(const QMouseEvent& event) {
   const bool moving = event.type() == QEvent::MouseMove;
   return {ButtonNumber(moving ? event.buttons() : event.button()), ShiftState(event.modifiers()),
-          static_cast<float>(event.position().x()) * kTwips,
-          static_cast<float>(event.position().y()) * kTwips};
+          FromPixels(static_cast<float>(event.position().x())),
+          FromPixels(static_cast<float>(event.position().y()))};
 }
 
 void Bindings::Bind(PropertyBase& property, std::function<void()> show) {
@@ -197,10 +197,10 @@ void Bindings::BindMouse(Control& control, QWidget& widget) {
   });
 }
 
-void Bindings::Place(Control& control, QWidget& widget, float unitsPerPixel) {
-  const auto place = [&control, &widget, unitsPerPixel] {
-    widget.setGeometry(ToPixels(control.Left, unitsPerPixel), ToPixels(control.Top, unitsPerPixel),
-                       ToPixels(control.Width, unitsPerPixel), ToPixels(control.Height, unitsPerPixel));
+void Bindings::Place(Control& control, QWidget& widget, Unit unit) {
+  const auto place = [&control, &widget, unit] {
+    widget.setGeometry(ToPixels(control.Left, unit), ToPixels(control.Top, unit),
+                       ToPixels(control.Width, unit), ToPixels(control.Height, unit));
   };
   for (Property<float>* const side : {&control.Left, &control.Top, &control.Width, &control.Height}) {
     Bind(*side, place);
@@ -293,10 +293,9 @@ void Bindings::Bind(Label& label, QAbstractButton& widget) {
 /// A colour of the system is that of the desktop.
 void Bindings::BindBackColour(Label& label, QWidget& widget) {
   Bind(label.BackColor, [&label, &widget] {
-    constexpr Colour kSystem = 0x80000000;
     QPalette palette = QApplication::palette(&widget);
     if (label.BackColor == ToggleLabel::kOn) palette.setColor(widget.foregroundRole(), Qt::black);
-    const bool system = (label.BackColor & kSystem) != 0;
+    const bool system = IsOfDesktop(label.BackColor);
     const QColor own = palette.color(widget.backgroundRole());
     palette.setColor(widget.backgroundRole(), system ? own : ToScreenColour(label.BackColor));
     widget.setPalette(palette);
@@ -342,7 +341,6 @@ void Bindings::BindText(TextBox& box, QLineEdit& line) {
   Bind(box.SelStart, showSelection);
   Bind(box.SelLength, showSelection);
   Bind(box.BackColor, [&] {
-    constexpr Colour kWhite = 0xFFFFFF;
     QPalette palette = QApplication::palette(&line);
     if (box.BackColor != kWhite) {
       palette.setColor(QPalette::Base, ToScreenColour(box.BackColor.Get()));

@@ -22,10 +22,12 @@ namespace tarvik::screen {
 /// Whether timers run by the clock, or only when a script says so.
 enum class Clock { Real, Scripted };
 
-/// Twips to the pixel, the unit of most controls' places.
-inline constexpr float kTwips = 15;
+/// What a form measures the places of its controls in.
+enum class Unit { Pixel, Twip };
 
-[[nodiscard]] int ToPixels(float value, float unitsPerPixel);
+/// The nearest whole one.
+[[nodiscard]] int ToPixels(float value, Unit unit = Unit::Pixel);
+[[nodiscard]] inline int ToPixels(Twips value) { return ToPixels(InPixels(value)); }
 [[nodiscard]] int ShiftState(Qt::KeyboardModifiers modifiers);
 /// The event as a control hears of it. While moving, the buttons that are down.
 [[nodiscard]] Mouse ToMouse(const QMouseEvent& event);
@@ -60,7 +62,7 @@ class Bindings {
   /// The mouse events, for widgets that have no say in them themselves.
   void BindMouse(Control& control, QWidget& widget);
   /// Where the control stands in its parent.
-  void Place(Control& control, QWidget& widget, float unitsPerPixel);
+  void Place(Control& control, QWidget& widget, Unit unit);
 
   void Bind(MenuItem& item, QAction& action);
   void Bind(CommandButton& button, QAbstractButton& widget);

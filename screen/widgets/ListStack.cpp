@@ -87,9 +87,9 @@ void ListModel::SetTicks(std::vector<bool> ticks) {
   Changed(Qt::CheckStateRole);
 }
 
-void ListModel::SetColours(const std::vector<unsigned>& colours) {
+void ListModel::SetColours(const std::vector<Colour>& colours) {
   colours_.clear();
-  for (const unsigned colour : colours) colours_.push_back(ToScreenColour(colour));
+  for (const Colour colour : colours) colours_.push_back(ToScreenColour(colour));
   Changed(Qt::DecorationRole);
 }
 

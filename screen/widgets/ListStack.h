@@ -18,7 +18,7 @@ class ListModel : public QAbstractListModel {
   void SetItems(const std::vector<std::string>& items, std::vector<bool> ticks);
   void SetTicks(std::vector<bool> ticks);
   /// None, or one beside each item.
-  void SetColours(const std::vector<unsigned>& colours);
+  void SetColours(const std::vector<Colour>& colours);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;

@@ -153,8 +153,7 @@ void PaneView::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
   if (event->reason() != QContextMenuEvent::Keyboard) return;  // the press of the button has been told
   const QPoint caret = cursorRect().bottomLeft();
-  pane_.MouseDown(
-      {kRightButton, 0, static_cast<float>(caret.x()) * kTwips, static_cast<float>(caret.y()) * kTwips});
+  pane_.MouseDown({kRightButton, 0, FromPixels(caret.x()), FromPixels(caret.y())});
 }
 
 }  // namespace tarvik::screen

@@ -81,7 +81,7 @@ QPoint PlotView::PlaceOf(float x, float y) const {
   return {pixel(x, width()), pixel(y, height())};
 }
 
-unsigned PlotView::ColourAt(float x, float y) {
+Colour PlotView::ColourAt(float x, float y) {
   return FromScreenColour(Image().pixelColor(PlaceOf(x, y) * devicePixelRatio()));
 }
 

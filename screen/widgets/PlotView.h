@@ -15,7 +15,7 @@ class PlotView : public QWidget {
   PlotView(PlotBox& box, Bindings& bindings);
 
   /// What is drawn at a place in the picture's units.
-  [[nodiscard]] unsigned ColourAt(float x, float y);
+  [[nodiscard]] Colour ColourAt(float x, float y);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

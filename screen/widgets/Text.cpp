@@ -98,12 +98,13 @@ qreal ToScreenSize(float points) {
 }
 
 QColor ToScreenColour(Colour colour) {
-  return QColor(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
-                static_cast<int>(colour >> 16 & 0xFF));
+  return QColor::fromRgb(qRgb(static_cast<int>(RedOf(colour)), static_cast<int>(GreenOf(colour)),
+                              static_cast<int>(BlueOf(colour))));
 }
 
 Colour FromScreenColour(const QColor& colour) {
-  return static_cast<Colour>(colour.red() | colour.green() << 8 | colour.blue() << 16);
+  const auto part = [](int value) { return static_cast<unsigned>(value); };
+  return Rgb(part(colour.red()), part(colour.green()), part(colour.blue()));
 }
 
 }  // namespace tarvik::screen

@@ -205,7 +205,7 @@ class HourOfWork : public testing::TestWithParam<unsigned> {
   void Heading() {
     bench.insertion.BeginColInsert();
     bench.edit.CheckAtLineBeginning();
-    bench.insertion.InsertColouredStringNoSpace("Rem Weapons", 8421504);
+    bench.insertion.InsertColouredStringNoSpace("Rem Weapons", Colour{8421504});
     bench.insertion.InsertCarriageReturn();
     bench.insertion.EndColInsert();
     if (!model_.text.empty() && model_.length == 0 && model_.start > 0 &&
@@ -214,7 +214,7 @@ class HourOfWork : public testing::TestWithParam<unsigned> {
       model_.Replace("\r\n", kBlack);
     }
     model_.length = 0;  // a tool writes before what is selected
-    model_.Replace("Rem Weapons", 8421504);
+    model_.Replace("Rem Weapons", Colour{8421504});
     model_.Replace("\r\n", kBlack);
     next_.reset();
     Record();

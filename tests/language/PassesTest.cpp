@@ -18,18 +18,19 @@ std::string Lower(std::string text) {
 }
 
 constexpr std::string_view kLetters = ".BSRMC";  // in the order of ColourClass
+constexpr Colour kNumbered[kColourClasses] = {Colour{0}, Colour{1}, Colour{2},
+                                              Colour{3}, Colour{4}, Colour{5}};
 
 std::string LettersOf(const ColourRuns& colours) {
   std::string letters;
-  for (std::size_t i = 0; i < colours.size(); ++i) letters += kLetters[colours.At(i)];
+  for (std::size_t i = 0; i < colours.size(); ++i) letters += kLetters[NumberOf(colours.At(i))];
   return letters;
 }
 
 std::string Paint(const std::string& text, std::span<const Pass> passes) {
   Painting painting(text, passes);
   painting.Run();
-  constexpr std::array<Colour, kColourClasses> kColours = {0, 1, 2, 3, 4, 5};
-  return LettersOf(painting.Colours(kColours));
+  return LettersOf(painting.Colours(kNumbered));
 }
 
 std::string Joystick(const std::string& text) { return Paint(text, JoystickPasses()); }

@@ -12,8 +12,8 @@
 namespace tarvik {
 namespace {
 
-constexpr Colour kRed = 255;
-constexpr Colour kBlue = 0xFF0000;
+constexpr Colour kRed{255};
+constexpr Colour kBlue{0xFF0000};
 
 class PaneTest : public testing::Test {
  protected:

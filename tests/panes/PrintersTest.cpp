@@ -10,7 +10,7 @@ namespace {
 using ::testing::PrintToString;
 
 TEST(Printers, SayWhatAPaneHolds) {
-  RichText text("BTN \xC9\r\n", 255);
+  RichText text("BTN \xC9\r\n", Colour{255});
   text.colours.Append(2, kBlack);
   text.text += "\"\\";
   EXPECT_EQ(PrintToString(Range{3, 2}), "2 characters from 3");

@@ -204,7 +204,7 @@ TEST_F(FileWindow, TheTemplateEditorNamesItsFileAndMarksUnsavedWork) {
 /// With the edges that the window system gives it.
 TEST_F(FileWindow, TheFrameHasTheStoredPlaceOnceItFillsTheScreenNoMore) {
   ASSERT_TRUE(Frame().isMaximized());
-  const QSize stored(ToPixels(application.mum().Width, kTwips), ToPixels(application.mum().Height, kTwips));
+  const QSize stored(ToPixels(application.mum().Width), ToPixels(application.mum().Height));
   const QSize screen = Frame().screen()->availableGeometry().size();
   Frame().showNormal();
   QApplication::processEvents();
@@ -215,7 +215,7 @@ TEST_F(FileWindow, TheFrameHasTheStoredPlaceOnceItFillsTheScreenNoMore) {
   application.mum().WindowState = 2;
   QApplication::processEvents();
   EXPECT_TRUE(Frame().isMaximized());
-  EXPECT_EQ(ToPixels(application.mum().Width, kTwips), stored.boundedTo(screen).width());
+  EXPECT_EQ(ToPixels(application.mum().Width), stored.boundedTo(screen).width());
 }
 
 /// The window manager makes the first change when the second one has been asked for already.

@@ -136,7 +136,7 @@ class AnalyserWindow : public HardwareWindows {
     QApplication::processEvents();  // and painted
   }
 
-  static constexpr unsigned kBlue = 0xFF0000;
+  static constexpr Colour kBlue{0xFF0000};
   JoyPlot& form = application.Tool<JoyPlot>();
   PlotView& plot = Find<PlotView>(form.PicJoy);
 };

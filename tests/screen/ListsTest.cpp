@@ -120,9 +120,9 @@ TEST_F(ColourList, IsWalkedByTheArrowKeysAndAsksForAColourByEnterSpaceAndClick) 
   EXPECT_EQ(preferences.List1.ListIndex, 0);
   EXPECT_EQ(outside.dialogs.choices.size(), 4U) << "the arrow keys only select";
   QTest::keyClick(view, Qt::Key_Space);
-  EXPECT_EQ(background, 17U);
+  EXPECT_EQ(background, Colour{17});
   QTest::keyClick(view, Qt::Key_Return);
-  EXPECT_EQ(background, 18U);
+  EXPECT_EQ(background, Colour{18});
   QTest::keyClick(view, Qt::Key_Down);
   EXPECT_EQ(preferences.List1.ListIndex, 1);
   QTest::mouseClick(view->viewport(), Qt::LeftButton, {},

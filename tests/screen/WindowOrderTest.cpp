@@ -67,7 +67,7 @@ TEST_F(WindowOrderTest, EveryBoxAndDialogLiesAboveIt) {
   EXPECT_TRUE(ComesUpOnTop<QMessageBox>([&] { dialogs.Show({"a", "b"}); }));
   EXPECT_TRUE(ComesUpOnTop<QFileDialog>([&] { Ignore(dialogs.AskForFile({})); }));
   EXPECT_TRUE(ComesUpOnTop<QFileDialog>([&] { Ignore(dialogs.AskForFolder("a", "")); }));
-  EXPECT_TRUE(ComesUpOnTop<QColorDialog>([&] { Ignore(dialogs.AskForColour(0)); }));
+  EXPECT_TRUE(ComesUpOnTop<QColorDialog>([&] { Ignore(dialogs.AskForColour(kBlack)); }));
   EXPECT_TRUE(ComesUpOnTop<FontDialog>([&] { Ignore(dialogs.AskForFont({"Arial", 9, false}, false)); }));
 }
 

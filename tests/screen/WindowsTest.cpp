@@ -141,8 +141,8 @@ class HelpWindowTest : public testing::Test {
  protected:
   HelpWindowTest() {
     FileLook look;
-    look.colours = {0x000000, 0x0000FF, 0, 0, 0, 0x00FF00};
-    look.joystick = 0xAABBCC;
+    look.colours = {kBlack, Colour{0x0000FF}, kBlack, kBlack, kBlack, Colour{0x00FF00}};
+    look.joystick = Colour{0xAABBCC};
     help.Open(
         HelpFile("<!-- group: Early -->\n# One\n<!-- 1: one -->\n[on](#3)\n"
                  "# Two\n<!-- 2: two -->\nsilver\n"
@@ -262,16 +262,16 @@ TEST_F(HelpWindowTest, ShowsExamplesInTheColoursOfTheFiles) {
   help.ShowContext(3);
   const QTextBlock example = text->document()->lastBlock();
   ASSERT_EQ(example.text(), QStringLiteral("BTN S1 Gun Rem x"));
-  EXPECT_EQ(example.blockFormat().background().color(), ToScreenColour(0xAABBCC));
+  EXPECT_EQ(example.blockFormat().background().color(), ToScreenColour(Colour{0xAABBCC}));
   const auto colourAt = [&example](int position) {
     QTextCursor cursor(example);
     cursor.setPosition(example.position() + position + 1);
     return cursor.charFormat().foreground().color();
   };
-  EXPECT_EQ(colourAt(0), ToScreenColour(0x0000FF));
-  EXPECT_EQ(colourAt(5), ToScreenColour(0x0000FF));
-  EXPECT_EQ(colourAt(7), ToScreenColour(0x000000));
-  EXPECT_EQ(colourAt(15), ToScreenColour(0x00FF00));
+  EXPECT_EQ(colourAt(0), ToScreenColour(Colour{0x0000FF}));
+  EXPECT_EQ(colourAt(5), ToScreenColour(Colour{0x0000FF}));
+  EXPECT_EQ(colourAt(7), ToScreenColour(Colour{0x000000}));
+  EXPECT_EQ(colourAt(15), ToScreenColour(Colour{0x00FF00}));
 }
 
 TEST_F(Windows, ShowHelpInFrontOfTheModalOneThatAsks) {

@@ -31,7 +31,7 @@ class Driver {
   /// Gives a window another size inside, in twips.
   virtual void Resize(Form& form, float width, float height) = 0;
   /// What is drawn at a place of a picture, in its units.
-  virtual unsigned ColourAt(PlotBox& picture, float x, float y) = 0;
+  virtual Colour ColourAt(PlotBox& picture, float x, float y) = 0;
   /// The close box of a window.
   virtual void Close(Form& form) = 0;
   /// At a place of a control, in twips; while it moves, `mouse` tells the buttons that are down.

@@ -38,9 +38,9 @@ class Drawings {
   }
 
   /// That of the last stroke that comes within half a pixel of the place.
-  [[nodiscard]] unsigned ColourAt(const PlotBox& picture, float x, float y) {
+  [[nodiscard]] Colour ColourAt(const PlotBox& picture, float x, float y) {
     const std::vector<Stroke>& strokes = strokes_[&picture];
-    const float pixel = (picture.ScaleHigh - picture.ScaleLow) / (picture.Width / kTwips);
+    const float pixel = (picture.ScaleHigh - picture.ScaleLow) / InPixels({picture.Width});
     const auto hit = std::find_if(strokes.rbegin(), strokes.rend(), [&](const Stroke& stroke) {
       return Distance(stroke, x, y) <= pixel * static_cast<float>(stroke.width) / 2;
     });
@@ -49,8 +49,6 @@ class Drawings {
   }
 
  private:
-  static constexpr float kTwips = 15;
-
   static float Distance(const Stroke& line, float x, float y) {
     const float dx = line.x2 - line.x1;
     const float dy = line.y2 - line.y1;
@@ -287,7 +285,7 @@ class FormDriver : public Driver {
     form.Resize();
   }
 
-  unsigned ColourAt(PlotBox& picture, float x, float y) override { return drawings_.ColourAt(picture, x, y); }
+  Colour ColourAt(PlotBox& picture, float x, float y) override { return drawings_.ColourAt(picture, x, y); }
 
   bool KeyDown(Component& control, std::string_view chord) override {
     ClosePopUps();

@@ -237,12 +237,12 @@ void ScreenAccess::KeyUp(Component& component, std::string_view chord) {
 void ScreenAccess::Resize(const Form& form, float width, float height) {
   auto* const window = dynamic_cast<QWidget*>(screen_.ViewOf(form));
   if (!window) return;
-  window->resize(window->width() + ToPixels(width - form.ScaleWidth, kTwips),
-                 window->height() + ToPixels(height - form.ScaleHeight, kTwips));
+  window->resize(window->width() + ToPixels(width - form.ScaleWidth, Unit::Twip),
+                 window->height() + ToPixels(height - form.ScaleHeight, Unit::Twip));
   Settle();
 }
 
-unsigned ScreenAccess::ColourAt(const PlotBox& picture, float x, float y) const {
+Colour ScreenAccess::ColourAt(const PlotBox& picture, float x, float y) const {
   auto* const view = dynamic_cast<PlotView*>(WidgetOf(picture));
   return view ? view->ColourAt(x, y) : picture.BackColor.Get();
 }
@@ -259,7 +259,7 @@ void ScreenAccess::Mouse(QEvent::Type act, const Control& control, const tarvik:
   modifiers.setFlag(Qt::ShiftModifier, (mouse.shift & shift::kShift) != 0);
   modifiers.setFlag(Qt::ControlModifier, (mouse.shift & shift::kCtrl) != 0);
   QWidget& surface = Surface(*widget);
-  const QPointF place(mouse.x / kTwips, mouse.y / kTwips);
+  const QPointF place(InPixels(mouse.x), InPixels(mouse.y));
   QMouseEvent event(act, place, surface.mapToGlobal(place), moves ? Qt::NoButton : button, down, modifiers);
   QApplication::sendEvent(&surface, &event);
   Settle();

@@ -49,7 +49,7 @@ class ScreenAccess {
   void Close(const Form& form);
 
   /// What is drawn at a place of a picture, in its units.
-  [[nodiscard]] unsigned ColourAt(const PlotBox& picture, float x, float y) const;
+  [[nodiscard]] Colour ColourAt(const PlotBox& picture, float x, float y) const;
   /// What is on show of a property, or what it holds where the screen does not tell.
   [[nodiscard]] std::string Read(const Component& component, const PropertyBase& property) const {
     return ReadOff(screen_, component, property.Name()).value_or(property.ToText());

@@ -36,7 +36,7 @@ class ScreenDriver : public Driver {
     return Usable(control) && (access_.KeyUp(control, chord), true);
   }
   void Resize(Form& form, float width, float height) override { access_.Resize(form, width, height); }
-  unsigned ColourAt(PlotBox& picture, float x, float y) override { return access_.ColourAt(picture, x, y); }
+  Colour ColourAt(PlotBox& picture, float x, float y) override { return access_.ColourAt(picture, x, y); }
   void Mouse(Pointer act, Control& control, const tarvik::Mouse& mouse) override {
     constexpr QEvent::Type kActs[] = {QEvent::MouseButtonPress, QEvent::MouseMove,
                                       QEvent::MouseButtonRelease};

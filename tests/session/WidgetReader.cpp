@@ -30,6 +30,7 @@ Shown AsShown(const Shown& text) { return text; }
 Shown AsShown(const QString& text) { return FromScreen(text); }
 template <class Number>
 requires std::is_arithmetic_v<Number> Shown AsShown(Number number) { return TextOf(number); }
+Shown AsShown(Colour colour) { return TextOf(colour); }
 
 /// How a property of a component is read off what shows it; nothing for other kinds than the row is for.
 struct Row {
@@ -114,7 +115,8 @@ QStringList LinesOf(const ListStack& view, Qt::ItemDataRole role, bool (*wanted)
     if (!wanted(item)) continue;
     const QVariant data = item.data(role);
     const auto colour = data.value<QColor>();
-    lines += role == Qt::DecorationRole ? QString::number(FromScreenColour(colour)) : data.toString();
+    lines +=
+        role == Qt::DecorationRole ? QString::number(NumberOf(FromScreenColour(colour))) : data.toString();
   }
   return lines;
 }
@@ -127,14 +129,13 @@ bool HasColour(const QModelIndex& item) { return item.data(Qt::DecorationRole).v
 
 /// A colour of the system stands for whatever the desktop has there.
 Shown GroundOf(const Label& label, const QWidget& widget) {
-  constexpr Colour kSystem = 0x80000000;
   const QColor ground = widget.palette().color(widget.backgroundRole());
   const bool desktops = ground == QApplication::palette(&widget).color(widget.backgroundRole());
-  if (desktops && (label.BackColor & kSystem) != 0) return label.BackColor.ToText();
+  if (desktops && IsOfDesktop(label.BackColor)) return label.BackColor.ToText();
   return TextOf(FromScreenColour(ground));
 }
 
-unsigned ColourOfSwatch(const QPushButton& button) {
+Colour ColourOfSwatch(const QPushButton& button) {
   constexpr int kSide = 16;
   return FromScreenColour(button.icon().pixmap(kSide).toImage().pixelColor(0, 0));
 }
@@ -181,9 +182,10 @@ using Side = Property<float> Control::*;
 Shown PlaceOn(const Control& control, const QWidget& widget, Side side, int pixels) {
   const QWidget* const area = widget.parentWidget();
   if (!area || area->layout() || qobject_cast<const QTabBar*>(&widget)) return {};
-  const float unit = dynamic_cast<const EditorView*>(area) ? 1 : kTwips;
+  const Unit unit = dynamic_cast<const EditorView*>(area) ? Unit::Pixel : Unit::Twip;
   const Property<float>& wanted = control.*side;
-  return pixels == ToPixels(wanted, unit) ? wanted.ToText() : TextOf(static_cast<float>(pixels) * unit);
+  if (pixels == ToPixels(wanted, unit)) return wanted.ToText();
+  return unit == Unit::Twip ? TextOf(FromPixels(pixels)) : TextOf(pixels);
 }
 
 template <class Pixels>

@@ -10,6 +10,10 @@ namespace {
 
 using Model = std::vector<Colour>;
 
+constexpr Colour kRed{255};
+constexpr Colour kOne{1};
+constexpr Colour kTwo{2};
+
 void ExpectNormalForm(const ColourRuns& runs) {
   const auto all = runs.runs();
   ASSERT_EQ(all.empty(), runs.size() == 0);
@@ -91,34 +95,34 @@ TEST(ColourRuns, NoColoursAtAllAreBlackEverywhere) {
   EXPECT_EQ(none.size(), 0U);
   EXPECT_EQ(none.At(0), kBlack);
   EXPECT_TRUE(none.Slice({0, 0}) == none);
-  EXPECT_TRUE(ColourRuns(0, 255) == none);
+  EXPECT_TRUE(ColourRuns(0, kRed) == none);
 }
 
 TEST(ColourRuns, FromTheEndOnIsBlack) {
-  const ColourRuns red(3, 255);
-  EXPECT_EQ(red.At(2), 255U);
+  const ColourRuns red(3, kRed);
+  EXPECT_EQ(red.At(2), kRed);
   EXPECT_EQ(red.At(3), kBlack);
 }
 
 TEST(ColourRuns, ReplacingAllByNothingLeavesNothing) {
-  ColourRuns runs = RunsOf({1, 1, 2, 3});
+  ColourRuns runs = RunsOf({kOne, kOne, kTwo, kRed});
   runs.Replace({0, 4}, {});
   EXPECT_TRUE(runs == ColourRuns());
-  runs.Replace({0, 0}, ColourRuns(2, 5));
-  EXPECT_TRUE(runs == ColourRuns(2, 5));
+  runs.Replace({0, 0}, ColourRuns(2, kTwo));
+  EXPECT_TRUE(runs == ColourRuns(2, kTwo));
 }
 
 TEST(ColourRuns, NeighboursOfOneColourBecomeOneRun) {
-  ColourRuns runs = RunsOf({1, 1, 2, 1, 1});
-  runs.Replace({2, 1}, ColourRuns(3, 1));
+  ColourRuns runs = RunsOf({kOne, kOne, kTwo, kOne, kOne});
+  runs.Replace({2, 1}, ColourRuns(3, kOne));
   EXPECT_EQ(runs.runs().size(), 1U);
   EXPECT_EQ(runs.size(), 7U);
 }
 
 TEST(RichText, PlainTextHasOneColour) {
-  const RichText text("abc", 255);
+  const RichText text("abc", kRed);
   EXPECT_EQ(text.size(), 3U);
-  EXPECT_TRUE(text.colours == ColourRuns(3, 255));
+  EXPECT_TRUE(text.colours == ColourRuns(3, kRed));
   EXPECT_TRUE(RichText("") == RichText());
   EXPECT_FALSE(RichText("abc") == text);
 }

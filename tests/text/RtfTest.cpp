@@ -11,9 +11,9 @@ namespace {
 
 using namespace std::literals;
 
-constexpr Colour kRed = 0x0000FF;
-constexpr Colour kGreen = 0x00FF00;
-constexpr Colour kBlue = 0xFF0000;
+constexpr Colour kRed{0x0000FF};
+constexpr Colour kGreen{0x00FF00};
+constexpr Colour kBlue{0xFF0000};
 
 std::string Repeat(std::size_t count, std::string_view piece) {
   std::string result;
@@ -105,13 +105,16 @@ TEST(RtfRoundTrip, WithAndWithoutALineBreakAtEitherEnd) {
 }
 
 TEST(RtfRoundTrip, EveryPartOfAColour) {
-  for (Colour part = 0; part < 256; ++part) {
-    ExpectRoundTrip(Join({{"a", part}, {"b", part << 8}, {"c", part << 16}, {"d", part * 0x010101}}));
+  for (unsigned part = 0; part < 256; ++part) {
+    ExpectRoundTrip(Join({{"a", Rgb(part, 0, 0)},
+                          {"b", Rgb(0, part, 0)},
+                          {"c", Rgb(0, 0, part)},
+                          {"d", Rgb(part, part, part)}}));
   }
 }
 
 TEST(RtfRoundTrip, BitsAboveAColourAreDropped) {
-  const RichText content = Join({{"a", 0xFF0000FF}, {"b", 0x0000FF}, {"c", 0x80000000}});
+  const RichText content = Join({{"a", Colour{0xFF0000FF}}, {"b", kRed}, {"c", Colour{0x80000000}}});
   EXPECT_TRUE(ReadRtf(WriteRtf(content)) == Join({{"ab", kRed}, {"c", kBlack}}));
 }
 
@@ -123,16 +126,16 @@ TEST(RtfRoundTrip, ALineBreakWhoseHalvesDifferInColour) {
 
 TEST(RtfRoundTrip, TenThousandColours) {
   RichText content;
-  for (Colour c = 0; c < 10000; ++c) {
+  for (std::uint32_t c = 0; c < 10000; ++c) {
     content.text += static_cast<char>('0' + c % 10);
-    content.colours.Append(1, c * 1663 & 0xFFFFFF);
+    content.colours.Append(1, Colour{c * 1663 & 0xFFFFFF});
   }
   ExpectRoundTrip(content);
 }
 
 RichText RandomContent(std::mt19937& random) {
   const auto below = [&random](unsigned n) { return static_cast<unsigned>(random() % n); };
-  const Colour palette[] = {kBlack, kRed, kBlue, 0x123456, 0xFFFFFF};
+  const Colour palette[] = {kBlack, kRed, kBlue, Colour{0x123456}, kWhite};
   RichText content;
   for (unsigned pieces = below(40); pieces > 0; --pieces) {
     std::string text;
@@ -142,7 +145,7 @@ RichText RandomContent(std::mt19937& random) {
       text += lineBreak ? "\r\n" : std::string(1, c);
     }
     content.text += text;
-    content.colours.Append(text.size(), below(8) == 0 ? below(1 << 24) : palette[below(5)]);
+    content.colours.Append(text.size(), below(8) == 0 ? Colour{below(1 << 24)} : palette[below(5)]);
   }
   if (!content.text.empty() && below(4) == 0) {
     content.colours.Replace({below(static_cast<unsigned>(content.size())), 1}, ColourRuns(1, kGreen));

@@ -6,7 +6,7 @@
 namespace tarvik {
 namespace {
 
-constexpr Colour kRed = 255;
+constexpr Colour kRed{255};
 
 class ColouredInsertionTest : public testing::Test {
  protected:
@@ -45,10 +45,10 @@ TEST_F(ColouredInsertionTest, APieceHasItsColourAndWhatIsTypedNextIsBlackInTheFo
   workbench.settings.TextFontName = "Liberation Sans";
   workbench.settings.TextFontSize = 12;
   Put("ab", 1);
-  insertion.InsertColouredString("XY", 77);
+  insertion.InsertColouredString("XY", Colour{77});
   EXPECT_EQ(pane.Text.Get(), "aXYb");
-  EXPECT_EQ(At(1), 77U);
-  EXPECT_EQ(At(2), 77U);
+  EXPECT_EQ(At(1), Colour{77});
+  EXPECT_EQ(At(2), Colour{77});
   EXPECT_EQ(pane.SelStart.Get(), 3U);
   EXPECT_EQ(joystick.Caret, 3U);
   pane.UserReplaced({3, 0}, "z");
@@ -61,10 +61,10 @@ TEST_F(ColouredInsertionTest, APieceHasItsColourAndWhatIsTypedNextIsBlackInTheFo
 
 TEST_F(ColouredInsertionTest, BothWaysOfInsertingDoTheSame) {
   Put("ab", 2);
-  insertion.InsertColouredString("c", 77);
+  insertion.InsertColouredString("c", Colour{77});
   const RichText with = pane.Content();
   Put("ab", 2);
-  insertion.InsertColouredStringNoSpace("c", 77);
+  insertion.InsertColouredStringNoSpace("c", Colour{77});
   EXPECT_EQ(pane.Content(), with);
 }
 
@@ -106,7 +106,7 @@ TEST_F(ColouredInsertionTest, TextGoesIntoTheFileOfTheSelectedTab) {
 
 TEST_F(ColouredInsertionTest, AGroupIsOneStepOfUndoHoweverManyPiecesItHas) {
   insertion.BeginColInsert();
-  insertion.InsertColouredString("a", 77);
+  insertion.InsertColouredString("a", Colour{77});
   insertion.InsertBlackBlanks();
   insertion.InsertCarriageReturn();
   EXPECT_EQ(joystick.Dirty, saved::kNoText) << "not before the group is closed";
@@ -126,7 +126,7 @@ TEST_F(ColouredInsertionTest, UndoOfAGroupShowsThePaneAsTheGroupFoundIt) {
   workbench.highlighter.ColourSelection(kRed);
   pane.SelStart = 1;
   insertion.BeginColInsert();
-  insertion.InsertColouredString("x", 77);
+  insertion.InsertColouredString("x", Colour{77});
   insertion.EndColInsert();
   joystick.Undo.Undo();
   EXPECT_EQ(pane.Content(), RichText("abc", kRed));

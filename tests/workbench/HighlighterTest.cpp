@@ -79,7 +79,7 @@ TEST_F(HighlighterTest, TheMacroFilesCommandsLeaveOutASeven) {
 }
 
 TEST_F(HighlighterTest, TheOtherFileKeepsItsColours) {
-  macro.text.Recolour(0, ColourRuns(3, 255));
+  macro.text.Recolour(0, ColourRuns(3, Colour{255}));
   const RichText before = macro.text.Content();
   highlighter.Apply(joystick);
   EXPECT_EQ(macro.text.Content(), before);

@@ -69,17 +69,17 @@ TEST_F(PrintRTFTest, TheTextHasTheLookOfItsPane) {
   pane.SelBold = true;
   pane.SelIndent = 20;
   pane.SetContent(RichText("BTN S1"));
-  pane.Recolour(0, ColourRuns(3, 255));
+  pane.Recolour(0, ColourRuns(3, Colour{255}));
   Print();
   EXPECT_EQ(printer.last.text, "BTN S1");
   EXPECT_EQ(printer.last.font, "Courier New");
   EXPECT_EQ(printer.last.size, 10.5F);
   EXPECT_TRUE(printer.last.bold);
   EXPECT_EQ(printer.last.indent, 300);
-  ASSERT_EQ(printer.last.colours.size(), 2U);
-  EXPECT_EQ(printer.last.colours[0].colour, 255U);
-  EXPECT_EQ(printer.last.colours[1].start, 3U);
-  EXPECT_EQ(printer.last.colours[1].colour, kBlack);
+  EXPECT_EQ(printer.last.colours.runs().size(), 2U);
+  EXPECT_EQ(printer.last.colours.EndOf(0), 3U);
+  EXPECT_EQ(printer.last.colours.At(2), Colour{255});
+  EXPECT_EQ(printer.last.colours.At(3), kBlack);
 }
 
 TEST_F(PrintRTFTest, AFullPageIsTheLastOneWhenNothingIsLeft) {

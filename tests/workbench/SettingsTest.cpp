@@ -178,19 +178,19 @@ TEST_F(SettingsTest, AColourTakesEveryThirtyTwoBitNumber) {
                                        {"-2147483648", 0x80000000U}}) {
     Store("Colours", "BTNColour", stored);
     settings.GetColours();
-    EXPECT_EQ(settings.BTNColour, colour) << stored;
+    EXPECT_EQ(settings.BTNColour, Colour{colour}) << stored;
   }
 }
 
 TEST_F(SettingsTest, AColourBeyondThirtyTwoBitsOrEmptyKeepsItsValue) {
-  settings.BTNColour = 255;
+  settings.BTNColour = Colour{255};
   Store("Colours", "BTNColour", "2147483648");
   settings.GetColours();
-  EXPECT_EQ(settings.BTNColour, 255U);
+  EXPECT_EQ(settings.BTNColour, Colour{255});
   EXPECT_EQ(errors.ErrorText.Get(), "Overflow");
   Store("Colours", "BTNColour", "");
   settings.GetColours();
-  EXPECT_EQ(settings.BTNColour, 255U);
+  EXPECT_EQ(settings.BTNColour, Colour{255});
   EXPECT_EQ(errors.ErrorText.Get(), "Type mismatch");
 }
 

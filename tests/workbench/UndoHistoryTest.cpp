@@ -9,8 +9,8 @@
 namespace tarvik {
 namespace {
 
-constexpr Colour kRed = 255;
-constexpr Colour kBlue = 0xFF0000;
+constexpr Colour kRed{255};
+constexpr Colour kBlue{0xFF0000};
 constexpr int kBackspace = 8;
 
 /// Somebody at work in a pane with a history, as the editor ties the two together.

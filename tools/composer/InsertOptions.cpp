@@ -47,7 +47,7 @@ constexpr MenuRow<InsertOptions> kMenus[] = {
 };
 
 constexpr const char* kSection = "Miscellaneous";
-constexpr float kPlace = 10;  // twips; for a window that would be out of sight
+constexpr Twips kPlace{10};  // for a window that would be out of sight
 constexpr int kMinimised = 1;
 
 constexpr const char* kTipTitle = "Keep the Composer in memory for increased speed";
@@ -59,7 +59,9 @@ constexpr const char* kTip =
     "logic "
     "lines, and it has to be set up again the next time.";
 
-float WithinScreen(float place, float extent) { return place < 0 || place > extent ? kPlace : place; }
+Twips WithinScreen(Twips place, int extent) {
+  return place < Twips{0} || place > FromPixels(extent) ? kPlace : place;
+}
 
 }  // namespace
 
@@ -173,8 +175,9 @@ void InsertOptions::Form_KeyDown(Key& key) {
 
 void InsertOptions::PositionComposer() {
   const Profile profile = bench_.profile.Read();
-  const auto place = [&profile](const char* key, float extent) {
-    return WithinScreen(static_cast<float>(profile.GetInt(kSection, key, static_cast<int>(kPlace))), extent);
+  const auto place = [&profile](const char* key, int extent) {
+    const int stored = profile.GetInt(kSection, key, static_cast<int>(kPlace.count));
+    return WithinScreen({static_cast<float>(stored)}, extent);
   };
   const ScreenSize& screen = bench_.platform.screen;
   MoveTo(place("ComposerLeft", screen.width), place("ComposerTop", screen.height));
@@ -209,8 +212,8 @@ void InsertOptions::SaveSpaces() {
   }
   if (WindowState != kMinimised) {
     const ScreenSize& screen = bench_.platform.screen;
-    const auto place = [](float at, float extent) {
-      return TextOf(static_cast<int>(WithinScreen(at, extent)));
+    const auto place = [](Twips at, int extent) {
+      return TextOf(static_cast<int>(WithinScreen(at, extent).count));
     };
     entries.push_back({kSection, "ComposerTop", place(Top, screen.height)});
     entries.push_back({kSection, "ComposerLeft", place(Left, screen.width)});

@@ -5,8 +5,7 @@
 namespace tarvik {
 namespace {
 
-constexpr Colour kCurrentLine = 0xC0FFFF;
-constexpr Colour kOtherLine = 0xFFFFFF;
+constexpr Colour kCurrentLine{0xC0FFFF};
 
 constexpr const char* kQuickieTitle = "Double clicking is quickest";
 constexpr const char* kQuickie =
@@ -289,7 +288,7 @@ void InsertOptions::WhichLogicText() {
 }
 
 void InsertOptions::ColourFlagTextBack() {
-  for (int i = 0; i < RichTexFlag.Count(); ++i) RichTexFlag(i).BackColor = kOtherLine;
+  for (int i = 0; i < RichTexFlag.Count(); ++i) RichTexFlag(i).BackColor = kWhite;
 }
 
 void InsertOptions::OptionFlag_Click(int index) {

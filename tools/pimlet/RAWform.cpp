@@ -8,8 +8,8 @@ namespace tarvik {
 namespace {
 
 // As large as its window comes up, in twips.
-constexpr float kWidth = 12855;
-constexpr float kHeight = 8850;
+constexpr Twips kWidth{12855};
+constexpr Twips kHeight{8850};
 
 constexpr const char* kMiscellaneous = "Miscellaneous";
 constexpr int kFallbackPlace = 200;
@@ -86,8 +86,8 @@ constexpr MenuRow<RAWform> kMenus[] = {
 std::string Raw(const std::string& codes) { return "RAW (" + codes + ")"; }
 
 /// A place on the screen that the window can be seen at.
-int OnScreen(int place, float end) {
-  return place < 0 || static_cast<float>(place) > end ? kFallbackPlace : place;
+int OnScreen(int place, int pixels) {
+  return place < 0 || static_cast<float>(place) > FromPixels(pixels).count ? kFallbackPlace : place;
 }
 
 void Attach(const ControlArray<CommandButton>& buttons, RAWform& form, void (RAWform::*handler)(int)) {
@@ -192,9 +192,9 @@ void RAWform::Check1_Click() {
 void RAWform::PositionPimlet() {
   const ScreenSize& screen = bench_.platform.screen;
   const Profile stored = bench_.profile.Read();
-  const auto read = [&stored](const char* key, float size, float end) {
-    const int centred = static_cast<int>((end - size) / 2);
-    return static_cast<float>(OnScreen(stored.GetInt(kMiscellaneous, key, centred), end));
+  const auto read = [&stored](const char* key, Twips size, int end) {
+    const int centred = static_cast<int>((FromPixels(end) - size).count / 2);
+    return Twips{static_cast<float>(OnScreen(stored.GetInt(kMiscellaneous, key, centred), end))};
   };
   MoveTo(read("PimletLeft", Width, screen.width), read("PimletTop", Height, screen.height));
   const int addCR = To16Bits(stored.GetInt(kMiscellaneous, "AddPimletCR", 0));
@@ -205,8 +205,8 @@ void RAWform::PositionPimlet() {
 void RAWform::SavePosition() {
   if (WindowState == kMinimised) return;
   const ScreenSize& screen = bench_.platform.screen;
-  const auto place = [](float at, float end) {
-    return TextOf(OnScreen(static_cast<int>(std::lround(at)), end));
+  const auto place = [](Twips at, int end) {
+    return TextOf(OnScreen(static_cast<int>(std::lround(at.count)), end));
   };
   Ignore(bench_.profile.WriteAll(std::vector<ProfileEntry>{
       {kMiscellaneous, "PimletTop", place(Top, screen.height)},

@@ -61,7 +61,7 @@ void Preferences::FillColours() {
 
 /// Each colour stands beside its name.
 void Preferences::ShowSwatches() {
-  std::vector<unsigned> colours;
+  std::vector<Colour> colours;
   for (const ColourRow& row : kColourRows) colours.push_back(settings_.*row.colour);
   List1.Paint(std::move(colours));
 }

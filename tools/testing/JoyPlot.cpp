@@ -17,11 +17,10 @@ constexpr float kGridLines[] = {8192, 16384, 24576, 40960, 49152, 57344};
 constexpr float kZoomLow = 22768;
 constexpr float kZoomHigh = 42768;
 
-constexpr unsigned kRed = 255;
-constexpr unsigned kGreen = 65280;
-constexpr unsigned kBlue = 0xFF0000;
-constexpr unsigned kGridColour = 85 + (128 << 8) + (151 << 16);
-constexpr unsigned kWhite = 0xFFFFFF;
+constexpr Colour kRed{255};
+constexpr Colour kGreen{65280};
+constexpr Colour kBlue{0xFF0000};
+constexpr Colour kGridColour = Rgb(85, 128, 151);
 
 constexpr float kInside = 6000;  // twips, until the window says otherwise
 
@@ -49,7 +48,7 @@ constexpr MenuRow<JoyPlot> kMenus[] = {
     {1, "mnuReadMe", "&Read me", "", &JoyPlot::mnuReadMe_Click},
 };
 
-unsigned CentreColour(int position) {
+Colour CentreColour(int position) {
   return position >= kCentredFrom && position <= kCentredTo ? kGreen : kRed;
 }
 
@@ -136,13 +135,13 @@ void JoyPlot::StopWith(const char* text) {
   bench_.platform.dialogs.Show({"Tarvik", text, BoxIcon::None, BoxButtons::Ok});
 }
 
-void JoyPlot::DrawCentreLines(float low, unsigned vertical, unsigned horizontal) {
+void JoyPlot::DrawCentreLines(float low, Colour vertical, Colour horizontal) {
   PicJoy.Line(kCentre, low, kCentre, ScaleHigh, vertical);
   PicJoy.Line(low, kCentre, ScaleHigh, kCentre, horizontal);
 }
 
 /// A diamond around the position, with its two diagonals.
-void JoyPlot::DrawMarker(unsigned outline, unsigned diagonals) {
+void JoyPlot::DrawMarker(Colour outline, Colour diagonals) {
   const auto x = static_cast<float>(PlotX);
   const auto y = static_cast<float>(PlotY);
   PicJoy.Line(x - kMarker, y, x, y - kMarker, outline);
@@ -152,7 +151,7 @@ void JoyPlot::DrawMarker(unsigned outline, unsigned diagonals) {
   DrawDiagonals(diagonals);
 }
 
-void JoyPlot::DrawDiagonals(unsigned colour) {
+void JoyPlot::DrawDiagonals(Colour colour) {
   const auto x = static_cast<float>(PlotX);
   const auto y = static_cast<float>(PlotY);
   PicJoy.Line(x - kMarker, y, x + kMarker, y, colour);

@@ -51,9 +51,9 @@ class JoyPlot : public Form {
   /// Turns an entry's check mark over. -1 when it now has one.
   int Flip(std::string_view entry);
   void StopWith(const char* text);
-  void DrawCentreLines(float low, unsigned vertical, unsigned horizontal);
-  void DrawMarker(unsigned outline, unsigned diagonals);
-  void DrawDiagonals(unsigned colour);
+  void DrawCentreLines(float low, Colour vertical, Colour horizontal);
+  void DrawMarker(Colour outline, Colour diagonals);
+  void DrawDiagonals(Colour colour);
   void DrawGrid();
 
   Workbench& bench_;

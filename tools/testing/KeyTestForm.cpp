@@ -26,9 +26,8 @@ constexpr float kBar = 270;
 constexpr float kFrame = 450;
 constexpr float kGap = 120;
 constexpr int kPointWidth = 5;  // pixels
-constexpr unsigned kWhite = 0xFFFFFF;
-constexpr unsigned kLightGrey = 0xE0E0E0;
-constexpr unsigned kGrey = 0xC0C0C0;
+constexpr Colour kLightGrey{0xE0E0E0};
+constexpr Colour kGrey{0xC0C0C0};
 
 constexpr MenuRow<KeyTestForm> kMenus[] = {
     {0, "mnuClose", "Exit", "", &KeyTestForm::mnuClose_Click},
@@ -296,7 +295,7 @@ void KeyTestForm::JoystickTimer_Timer() {
 }
 
 void KeyTestForm::ShowPoint() {
-  const auto set = [this](int x, int y, unsigned colour) {
+  const auto set = [this](int x, int y, Colour colour) {
     PictureJoystick.PSet(static_cast<float>(x), static_cast<float>(y), colour);
   };
   set(LastX, LastY, PictureJoystick.BackColor);

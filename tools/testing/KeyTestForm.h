@@ -38,7 +38,7 @@ class KeyTestForm : public Form {
   Timer Timer1{*this, "Timer1"};
   Timer JoystickTimer{*this, "JoystickTimer"};
 
-  Property<unsigned> KeyColour{*this, "KeyColour"};
+  Property<Colour> KeyColour{*this, "KeyColour"};
   Property<int> ColourStep{*this, "ColourStep", 1};
   /// When 1, the next such event does no more than to take the flag down. Nothing raises the first two.
   Property<int> SkipKeyDown{*this, "SkipKeyDown", 0};

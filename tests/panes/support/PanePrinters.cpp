@@ -16,7 +16,8 @@ std::string Shift(int state) {
 void PrintTo(const Key& key, std::ostream* out) { *out << "key " << Shift(key.shift) << key.code; }
 
 void PrintTo(const Mouse& mouse, std::ostream* out) {
-  *out << Shift(mouse.shift) << "button " << mouse.button << " at " << mouse.x << ", " << mouse.y << " twips";
+  *out << Shift(mouse.shift) << "button " << mouse.button << " at " << mouse.x.count << ", " << mouse.y.count
+       << " twips";
 }
 
 void PrintTo(const Stroke& stroke, std::ostream* out) {

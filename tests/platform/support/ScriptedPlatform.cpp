@@ -41,10 +41,10 @@ Outcome<std::string> ScriptedDialogs::NextChoice() {
   return choice;
 }
 
-Outcome<unsigned> ScriptedDialogs::AskForColour(unsigned /*before*/) {
+Outcome<Colour> ScriptedDialogs::AskForColour(Colour /*before*/) {
   const Outcome<std::string> choice = NextChoice();
   if (!choice) return choice.failure();
-  return static_cast<unsigned>(std::stoul(*choice));
+  return Colour{static_cast<std::uint32_t>(std::stoul(*choice))};
 }
 
 Outcome<FontChoice> ScriptedDialogs::AskForFont(const FontChoice& /*before*/, bool fixedPitch) {

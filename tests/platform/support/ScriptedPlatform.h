@@ -19,7 +19,7 @@ class ScriptedDialogs : public Dialogs {
   Answer Show(const MessageBox& box) override;
   Outcome<std::string> AskForFile(const FileRequest& request) override;
   /// The next choice as a number.
-  Outcome<unsigned> AskForColour(unsigned before) override;
+  Outcome<Colour> AskForColour(Colour before) override;
   /// The next choice as "name|size|bold", with 1 for a bold one.
   Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) override;
   Outcome<std::string> AskForFolder(const std::string& title, const std::string& folder) override {
@@ -212,7 +212,7 @@ struct ScriptedPlatform {
             keyboard,
             given(instead.programs, static_cast<Programs&>(programs)),
             drives,
-            {28800, 21600},
+            {1920, 1440},
             "c:\\tarvik",
             std::move(commandLine)};
   }

@@ -27,10 +27,9 @@ std::string Quoted(std::string_view text) {
 }
 
 std::string ColourInWords(Colour colour) {
-  constexpr Colour kByte = 0xFF;
   if (colour == kBlack) return "black";
-  return "red " + std::to_string(colour & kByte) + " green " + std::to_string(colour >> 8 & kByte) +
-         " blue " + std::to_string(colour >> 16 & kByte);
+  return "red " + std::to_string(RedOf(colour)) + " green " + std::to_string(GreenOf(colour)) + " blue " +
+         std::to_string(BlueOf(colour));
 }
 
 void PrintTo(const Range& range, std::ostream* out) {

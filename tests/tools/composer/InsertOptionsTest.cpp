@@ -23,7 +23,7 @@ TEST_F(InsertOptionsTest, APlaceOutsideTheScreenIsLeftForTheCorner) {
     settings.Write("Miscellaneous", "ComposerTop", top);
     settings.Write("Miscellaneous", "ComposerLeft", left);
     InsertOptions& composer = Composer();
-    const std::pair place(composer.Top.Get(), composer.Left.Get());
+    const std::pair place(composer.Top.Get().count, composer.Left.Get().count);
     program.application.Unload(composer);
     return place;
   };
@@ -36,7 +36,7 @@ TEST_F(InsertOptionsTest, APlaceOutsideTheScreenIsLeftForTheCorner) {
 
 TEST_F(InsertOptionsTest, AMinimisedWindowHasNoPlaceToKeep) {
   InsertOptions& composer = Composer();
-  composer.Top = 900;
+  composer.Top = Twips{900};
   composer.WindowState = 1;
   program.application.Unload(composer);
   EXPECT_EQ(program.application.workbench.profile.GetInt("Miscellaneous", "ComposerTop", -1), -1);

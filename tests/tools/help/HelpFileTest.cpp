@@ -169,7 +169,7 @@ TEST_F(OwnHelpFile, ShowsEveryExampleInColours) {
       const std::string text = (*at)[2];
       Painting painting(text, (*at)[1] == "macro" ? MacroPasses() : JoystickPasses());
       painting.Run();
-      constexpr Colour kColours[] = {0, 1, 2, 3, 4, 5};
+      constexpr Colour kColours[] = {Colour{0}, Colour{1}, Colour{2}, Colour{3}, Colour{4}, Colour{5}};
       const bool macrosAlone = topic.contexts.front() == 4150;
       EXPECT_EQ(painting.Colours(kColours).runs().size() > 1, !macrosAlone) << topic.title;
       ++examples;

@@ -70,7 +70,7 @@ TEST(JoyPlotTest, ThePictureBeginsWithBlackLinesAcrossTheWholeRange) {
   const auto& form = program.application.Tool<JoyPlot>();
   EXPECT_TRUE(form.JoyTimer.Enabled);
   ASSERT_EQ(strokes.size(), 2U);
-  EXPECT_THAT(strokes, testing::Each(testing::Field(&Stroke::colour, 0U)));
+  EXPECT_THAT(strokes, testing::Each(testing::Field(&Stroke::colour, kBlack)));
   EXPECT_EQ(strokes[0].x1, 32768);
   EXPECT_EQ(strokes[0].y2, 65535);
   EXPECT_EQ(strokes[1].x1, 0);
@@ -86,16 +86,16 @@ TEST(JoyPlotTest, ATickDrawsOverThePictureInAnOrderThatKeepsTheLinesOnTop) {
   const Connection drawn =
       form.PicJoy.Drawn.Connect([&strokes](const Stroke& stroke) { strokes.push_back(stroke); });
   form.JoyTimer.Elapsed();
-  std::vector<unsigned> colours;
+  std::vector<Colour> colours;
   colours.reserve(strokes.size());
   for (const Stroke& stroke : strokes) colours.push_back(stroke.colour);
-  constexpr unsigned kWhite = 0xFFFFFF;
-  constexpr unsigned kBlue = 0xFF0000;
-  constexpr unsigned kRed = 255;
-  std::vector<unsigned> wanted(6, kWhite);                                // the old marker goes
-  wanted.insert(wanted.end(), {kBlue, kBlue, 0, 0, 0, 0, kBlue, kBlue});  // its trace, and the new one
+  constexpr Colour kBlue{0xFF0000};
+  constexpr Colour kRed{255};
+  std::vector<Colour> wanted(6, kWhite);  // the old marker goes
+  wanted.insert(wanted.end(),
+                {kBlue, kBlue, kBlack, kBlack, kBlack, kBlack, kBlue, kBlue});  // its trace, and the new one
   wanted.insert(wanted.end(), {kRed, kRed});
-  wanted.insert(wanted.end(), 12, 9928789);
+  wanted.insert(wanted.end(), 12, Colour{9928789});
   EXPECT_EQ(colours, wanted);
   for (std::size_t i = 0; i < strokes.size(); ++i) {
     EXPECT_EQ(strokes[i].style, i < 16 ? drawstyle::kSolid : drawstyle::kDots) << i;
