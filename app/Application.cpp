@@ -10,24 +10,24 @@ namespace {
 
 constexpr const char* kAlreadyRunning =
     "Sorry, you can only have one version of Tarvik running at a time otherwise the Tarvik.ini file will get "
-    "corrupted "
-    "with both programs writing to it.";
+    "corrupted with both programs writing to it.";
 
 }  // namespace
 
-Application::Application(Platform& services) : Shell(workbench), platform(services), workbench(services) {}
+Application::Application(const Platform& services) : Shell(workbench), workbench(services) {}
 
 Application::~Application() {
-  if (mum_) platform.clipboard.changed = nullptr;
+  if (mum_) workbench.platform.clipboard.changed = nullptr;
 }
 
 bool Application::Start() {
-  if (!platform.instance.Acquire()) {
-    platform.dialogs.Show({"Exiting now ...", kAlreadyRunning, BoxIcon::Information, BoxButtons::Ok});
+  if (!workbench.platform.instance.Acquire()) {
+    workbench.platform.dialogs.Show(
+        {"Exiting now ...", kAlreadyRunning, BoxIcon::Information, BoxButtons::Ok});
     ended_ = true;
     return false;
   }
-  platform.clipboard.changed = [this] { workbench.ClipboardChanged(); };
+  workbench.platform.clipboard.changed = [this] { workbench.ClipboardChanged(); };
   mum_ = std::make_unique<Mum>(*this);
   editor_ = std::make_unique<Editor>(*this);
   mum_->MDIForm_Load();
@@ -47,7 +47,7 @@ void Application::ShowEditor(EditorBegins begins) {
 void Application::FilesDropped(const std::vector<std::string>& hostPaths) {
   std::vector<std::string> paths(hostPaths.size());
   std::transform(hostPaths.begin(), hostPaths.end(), paths.begin(),
-                 [this](const std::string& path) { return platform.drives.FromHost(path); });
+                 [this](const std::string& path) { return workbench.platform.drives.FromHost(path); });
   ShowEditor();
   editor_->OpenDropped(paths);
 }
@@ -137,7 +137,7 @@ void Application::ShowModal(Form& form) {
 
 void Application::WaitWhile(const std::function<bool()>& open) {
   ++waits_;
-  platform.dialogs.WaitWhile(open);
+  workbench.platform.dialogs.WaitWhile(open);
   --waits_;
 }
 

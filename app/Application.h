@@ -18,12 +18,11 @@ enum class EditorBegins { Untitled, WithTheFilesOfTheStart };
 
 class Application : public Shell {
  public:
-  explicit Application(Platform& platform);
+  explicit Application(const Platform& services);
   ~Application() override;
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
 
-  Platform& platform;
   Workbench workbench;
 
   /// From process start to the work area. False: another instance runs, and this process is to end.

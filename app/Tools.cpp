@@ -11,6 +11,7 @@
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
+#include "tools/viewers/LogForm.h"
 #include "tools/viewers/Tips.h"
 #include "tools/viewers/ViewImage.h"
 #include "tools/wizards/JoystickWiz.h"
@@ -75,6 +76,7 @@ constexpr ToolRow kTools[] = {
     {ToolId::PictureDialog, "SelectPictureForm", EndsWith::Program, nullptr},
     {ToolId::Tips, "frmTip", EndsWith::Program, Modal<frmTip>},
     {ToolId::About, "frmAbout", EndsWith::Program, Modal<frmAbout>},
+    {ToolId::Log, "LogForm", EndsWith::Program, Modal<LogForm>},
 };
 
 }  // namespace

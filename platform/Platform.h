@@ -113,12 +113,14 @@ class SingleInstance {
   virtual bool Acquire() = 0;
 };
 
-/// Today's date as the user's own settings write it, in the code page.
+/// Today's date as the user's own settings write it, in the code page, and the time.
 class Calendar {
  public:
   virtual ~Calendar() = default;
   [[nodiscard]] virtual std::string ShortDate() const = 0;
   [[nodiscard]] virtual std::string LongDate() const = 0;
+  /// As 07:45:12.
+  [[nodiscard]] virtual std::string TimeOfDay() const = 0;
 };
 
 /// In pixels.

@@ -104,11 +104,11 @@ int Profile::GetInt(std::string_view section, std::string_view key, int fallback
   const auto value = Value(section, key);
   if (!value) return fallback;
   const bool negative = value->starts_with('-');
+  const std::string_view written = value->substr(negative || value->starts_with('+') ? 1 : 0);
+  const std::string_view digits = written.substr(0, written.find_first_not_of("0123456789"));
+  if (digits.empty() || digits != written) TellUnreadable(section, key);
   std::uint32_t number = 0;
-  for (const char c : value->substr(negative || value->starts_with('+') ? 1 : 0)) {
-    if (c < '0' || c > '9') break;
-    number = number * 10 + static_cast<std::uint32_t>(c - '0');
-  }
+  for (const char c : digits) number = number * 10 + static_cast<std::uint32_t>(c - '0');
   return static_cast<int>(negative ? 0 - number : number);
 }
 
@@ -136,7 +136,7 @@ std::string Protected(const std::string& value) {
 
 Profile ProfileFile::Read() const {
   auto text = files_.Read(path_);
-  if (text) return Profile(*std::move(text));
+  if (text) return Profile(*std::move(text), unreadable);
   if (text.failure().number != error::kFileNotFound) unread_ = text.failure();
   return {};
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -19,8 +20,12 @@ namespace tarvik {
 /// counts.
 class Profile {
  public:
+  /// Hears of a key whose value is not what it should be.
+  using Unreadable = std::function<void(std::string_view section, std::string_view key)>;
+
   Profile() = default;
-  explicit Profile(std::string text) : text_(std::move(text)) {}
+  explicit Profile(std::string text, Unreadable unreadable = {})
+      : text_(std::move(text)), unreadable_(std::move(unreadable)) {}
 
   /// The value as a buffer of `size` characters holds it: cut at `size` - 1. Blanks and one pair of quotation
   /// marks (double or single) round it are dropped. A missing key gives `fallback`, cut as well.
@@ -28,12 +33,16 @@ class Profile {
                                       std::string_view fallback, std::size_t size) const;
 
   /// The decimal number that the value begins with: 0 where it begins with none, `fallback` for a missing
-  /// key. Larger numbers than 32 bits hold keep their lowest 32 bits.
+  /// key. Larger numbers than 32 bits hold keep their lowest 32 bits. A value that is no number is told.
   [[nodiscard]] int GetInt(std::string_view section, std::string_view key, int fallback) const;
 
   /// Gives the key a new value, adding section and key where they are missing: a key goes behind the last
   /// line of its section that is not blank. All other bytes stay. A value ends at its first line end or NUL.
   void Set(std::string_view section, std::string_view key, std::string_view value);
+
+  void TellUnreadable(std::string_view section, std::string_view key) const {
+    if (unreadable_) unreadable_(section, key);
+  }
 
   [[nodiscard]] const std::string& text() const { return text_; }
 
@@ -41,6 +50,7 @@ class Profile {
   [[nodiscard]] std::optional<std::string_view> Value(std::string_view section, std::string_view key) const;
 
   std::string text_;
+  Unreadable unreadable_;
 };
 
 /// The value in a pair of quotation marks where reading would drop what it begins and ends with.
@@ -58,6 +68,8 @@ struct ProfileEntry {
 class ProfileFile {
  public:
   ProfileFile(Files& files, std::string path) : files_(files), path_(std::move(path)) {}
+
+  Profile::Unreadable unreadable;
 
   /// The file as it is now, empty when it is missing or cannot be read. Whoever reads many keys takes this
   /// once.

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QStyleFactory>
 #include <filesystem>
+#include <iostream>
 
 #include "app/Application.h"
 #include "platform/HostDrives.h"
@@ -115,6 +116,12 @@ struct Services {
                     CommandLine(QApplication::arguments().mid(1), drives)};
 };
 
+/// For somebody who looks for a fault and starts the program with TARVIK_LOG=1.
+Connection LogToStandardError(Log& log) {
+  if (qEnvironmentVariable("TARVIK_LOG") != QStringLiteral("1")) return {};
+  return log.Written.Connect([](const std::string& line) { std::cerr << ToUtf8(line) << std::endl; });
+}
+
 void NameProgram() {
   QApplication::setApplicationName(QStringLiteral("Tarvik"));
   QApplication::setDesktopFileName(QStringLiteral("tarvik"));
@@ -133,6 +140,7 @@ int main(int argc, char* argv[]) {
   TellIfNothingLasts(folder);
   Services services(folder);
   Application application(services.platform);
+  const Connection logged = LogToStandardError(application.workbench.log);
   toolkit.failed = [&application](const Failure& failure) {
     application.workbench.errors.Record("TARVIK Event", failure);
   };

@@ -5,14 +5,14 @@
 #include <optional>
 
 #include "controls/Component.h"
-#include "platform/Outcome.h"
+#include "workbench/Log.h"
 
 namespace tarvik {
 
 /// The last failure that was trapped.
 class Errors : public Component {
  public:
-  Errors() : Component("Errors") {}
+  explicit Errors(Log& log) : Component("Errors"), log_(log) {}
 
   Property<std::string> ErrorTag{*this, "ErrorTag"};
   Property<float> ErrorNumber{*this, "ErrorNumber"};
@@ -24,11 +24,15 @@ class Errors : public Component {
     ErrorNumber = static_cast<float>(failure.number);
     ErrorText = failure.text;
     ErrorDllCode = TextOf(failure.systemCode);
+    log_.ErrorRecorded(tag, failure);
     ReportError();
   }
 
   /// Called with the four fields set. Nothing hooks in here: a failure is not shown.
   void ReportError() {}
+
+ private:
+  Log& log_;
 };
 
 /// Stands at the head of a procedure and passes each outcome on: the value, or nothing once the failure is

@@ -144,14 +144,18 @@ void Settings::SaveOptions() {
 void Settings::GetColours() {
   const Trap trap{errors_, "MODULE GetColours"};
   const Profile profile = file_.Read();
+  const auto number = [&](std::string_view key, std::string_view fallback, std::size_t buffer) {
+    const auto read = trap(ToLong(profile.GetString(kColours, key, fallback, buffer)));
+    if (!read) profile.TellUnreadable(kColours, key);
+    return read;
+  };
   for (const ColourOption& option : kColourOptions) {
     Property<Colour>& property = this->*option.member;
-    const std::string text = profile.GetString(kColours, property.Name(), kColourFallback, kColourBuffer);
-    if (const auto colour = trap(ToLong(text))) property = static_cast<Colour>(*colour);
+    const auto colour = number(property.Name(), kColourFallback, kColourBuffer);
+    if (colour) property = static_cast<Colour>(*colour);
   }
   TextFontName = profile.GetString(kColours, "TextFontName", kFontFallback, kColourBuffer);
-  const auto size =
-      trap(ToLong(profile.GetString(kColours, "TextFontSize", kFontSizeFallback, kFontSizeBuffer)));
+  const auto size = number("TextFontSize", kFontSizeFallback, kFontSizeBuffer);
   if (size) TextFontSize = To16Bits(*size);
   TextFontBold = To16Bits(profile.GetInt(kColours, "TextFontBold", 0));
   ApplyColoursOnFileOpen = To16Bits(profile.GetInt(kColours, "ApplyColoursOnFileOpen", 1));

@@ -35,6 +35,7 @@ enum class ToolId {
   PictureDialog,
   Tips,
   About,
+  Log,
 };
 
 /// The pages of the preferences.

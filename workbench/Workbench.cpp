@@ -1,13 +1,28 @@
 #include "workbench/Workbench.h"
 
 namespace tarvik {
+namespace {
 
-Workbench::Workbench(Platform& services)
-    : platform(services),
-      profile(services.files, services.folder + "\\Tarvik.ini"),
+Platform With(Programs& programs, const Platform& services) {
+  return {services.files,    services.dialogs, services.instance, services.clipboard, services.help,
+          services.calendar, services.printer, services.desktop,  services.joystick,  services.keyboard,
+          programs,          services.drives,  services.screen,   services.folder,    services.commandLine};
+}
+
+}  // namespace
+
+Workbench::Workbench(const Platform& services)
+    : log(services.calendar),
+      programs_(services, log),
+      platform(With(programs_, services)),
+      profile(platform.files, platform.folder + "\\Tarvik.ini"),
       settings(profile, errors),
       lists(settings, errors),
-      documents(services, settings, values, errors) {}
+      documents(platform, settings, values, errors) {
+  profile.unreadable = [this](std::string_view section, std::string_view key) {
+    log.SettingUnreadable(section, key);
+  };
+}
 
 void Workbench::Reset() {
   for (Timer* const timer : {&autoSave.timer, &blink.timer}) timer->Enabled = false;

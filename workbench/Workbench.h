@@ -5,17 +5,24 @@
 #include "workbench/AutoSave.h"
 #include "workbench/EditCommands.h"
 #include "workbench/LineBlink.h"
+#include "workbench/LoggedPrograms.h"
 
 namespace tarvik {
 
 class Workbench {
  public:
-  explicit Workbench(Platform& services);
+  explicit Workbench(const Platform& services);
   Workbench(const Workbench&) = delete;
   Workbench& operator=(const Workbench&) = delete;
 
-  Platform& platform;
-  Errors errors;
+  Log log;
+
+ private:
+  LoggedPrograms programs_;
+
+ public:
+  Platform platform;  ///< with a log of the programs that are started
+  Errors errors{log};
   Values values;
   ProfileFile profile;
   Settings settings;

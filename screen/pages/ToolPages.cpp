@@ -19,6 +19,7 @@
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
+#include "tools/viewers/LogForm.h"
 #include "tools/viewers/Tips.h"
 #include "tools/viewers/ViewImage.h"
 
@@ -313,7 +314,14 @@ QLayout* Page(frmAbout& form, const FormLayout& in) {
   description->setMinimumWidth(380);
   QLayout* const words = Column({name, in.Show(form.lblVersion), description, Stretch()});
   return Column({Row({Column({picture, Stretch()}), words}),
-                 Row({in.Show(form.cmdSysInfo), Stretch(), in.Show(form.cmdOK)})});
+                 Row({in.Show(form.cmdSysInfo), in.Show(form.cmdLog), Stretch(), in.Show(form.cmdOK)})});
+}
+
+QLayout* Page(LogForm& form, const FormLayout& in) {
+  QWidget* const lines = Named(in.Show(form.List1), QStringLiteral("Log"));
+  lines->setMinimumSize(560, 240);
+  return Column(
+      {Wrapped(in.Show(form.Label1)), lines, Row({in.Show(form.cmdCopy), Stretch(), in.Show(form.cmdOK)})});
 }
 
 QLayout* Page(ViewImage& form, const FormLayout& in) {
@@ -344,16 +352,27 @@ MakePage PageFor(Form& form) {
 }  // namespace
 
 MakePage PageOf(Form& form) {
-  for (const auto& find : {PageFor<FindAndReplace>, PageFor<InsertOptions>,
-                           PageFor<Preferences>,    PageFor<DrivesForm>,
-                           PageFor<Wizard>,         PageFor<Speedy>,
-                           PageFor<Title>,          PageFor<Heading>,
-                           PageFor<SingleTextForm>, PageFor<RAWform>,
-                           PageFor<KeyTestForm>,    PageFor<JoyPlot>,
-                           PageFor<ProgramWait>,    PageFor<EnterFavouritename>,
-                           PageFor<EnterGameName>,  PageFor<TemplateForm>,
-                           PageFor<frmTip>,         PageFor<frmAbout>,
-                           PageFor<ViewImage>,      PageFor<SelectPictureForm>}) {
+  for (const auto& find : {PageFor<FindAndReplace>,
+                           PageFor<InsertOptions>,
+                           PageFor<Preferences>,
+                           PageFor<DrivesForm>,
+                           PageFor<Wizard>,
+                           PageFor<Speedy>,
+                           PageFor<Title>,
+                           PageFor<Heading>,
+                           PageFor<SingleTextForm>,
+                           PageFor<RAWform>,
+                           PageFor<KeyTestForm>,
+                           PageFor<JoyPlot>,
+                           PageFor<ProgramWait>,
+                           PageFor<EnterFavouritename>,
+                           PageFor<EnterGameName>,
+                           PageFor<TemplateForm>,
+                           PageFor<frmTip>,
+                           PageFor<frmAbout>,
+                           PageFor<LogForm>,
+                           PageFor<ViewImage>,
+                           PageFor<SelectPictureForm>}) {
     if (auto page = find(form)) return page;
   }
   return {};

@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QStandardPaths>
+#include <QTime>
 #include <QUrl>
 
 #include "screen/widgets/Text.h"
@@ -107,6 +108,10 @@ std::string QtCalendar::ShortDate() const {
 
 std::string QtCalendar::LongDate() const {
   return FromScreen(QLocale::system().toString(QDate::currentDate(), QLocale::LongFormat));
+}
+
+std::string QtCalendar::TimeOfDay() const {
+  return QTime::currentTime().toString(QStringLiteral("hh:mm:ss")).toStdString();
 }
 
 // The help.

@@ -42,6 +42,7 @@ class QtCalendar : public Calendar {
  public:
   [[nodiscard]] std::string ShortDate() const override;
   [[nodiscard]] std::string LongDate() const override;
+  [[nodiscard]] std::string TimeOfDay() const override;
 };
 
 class QtHelp : public Help {

@@ -35,6 +35,7 @@
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
+#include "tools/viewers/LogForm.h"
 #include "tools/viewers/Tips.h"
 #include "tools/viewers/ViewImage.h"
 #include "tools/wizards/JoystickWiz.h"
@@ -49,7 +50,7 @@ class Windows : public testing::Test, public ProgramOnScreen {
   Windows() {
     ShowTools<FindAndReplace, InsertOptions, Title, Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot,
               ProgramWait, EnterFavouritename, EnterGameName, Preferences, DrivesForm, TemplateForm, frmTip,
-              frmAbout, ViewImage, SelectPictureForm, MacroWizard, JoystickWiz, Speedy>();
+              frmAbout, LogForm, ViewImage, SelectPictureForm, MacroWizard, JoystickWiz, Speedy>();
     help.Open(HelpFile("# One\n"));
     help.ShowContext(0);
     QApplication::processEvents();
@@ -311,10 +312,10 @@ TEST_F(Windows, TakeTheFocusFromTopToBottom) {
       before = here;
     }
     // Some windows are for looking at, or have little to say.
-    const QStringList small = {QStringLiteral("JoyPlot"),    QStringLiteral("KeyTestForm"),
-                               QStringLiteral("ViewImage"),  QStringLiteral("ProgramWait"),
-                               QStringLiteral("frmAbout"),   QStringLiteral("MacroWizard"),
-                               QStringLiteral("JoystickWiz")};
+    const QStringList small = {QStringLiteral("JoyPlot"),     QStringLiteral("KeyTestForm"),
+                               QStringLiteral("ViewImage"),   QStringLiteral("ProgramWait"),
+                               QStringLiteral("frmAbout"),    QStringLiteral("LogForm"),
+                               QStringLiteral("MacroWizard"), QStringLiteral("JoystickWiz")};
     EXPECT_GE(FocusChain(*window).size(), small.contains(window->objectName()) ? 1U : 3U)
         << window->objectName().toStdString();
   }
@@ -371,6 +372,7 @@ TEST_F(Windows, HaveOneSizeWhereNothingMakesUseOfMoreRoom) {
   EXPECT_TRUE(isFixed(application.Tool<Heading>()));
   EXPECT_TRUE(isFixed(application.Tool<EnterGameName>()));
   EXPECT_TRUE(isFixed(application.Tool<FindAndReplace>()));
+  EXPECT_FALSE(isFixed(application.Tool<LogForm>()));
   EXPECT_FALSE(isFixed(application.Tool<Title>()));
   EXPECT_FALSE(isFixed(application.Tool<RAWform>()));
   EXPECT_FALSE(isFixed(application.Tool<InsertOptions>()));

@@ -14,7 +14,8 @@ constexpr std::string_view kForms[] = {
     "Mum",         "Editor",      "InsertOptions",     "RAWform",       "TemplateForm", "FindAndReplace",
     "KeyTestForm", "JoyPlot",     "MacroWizard",       "Speedy",        "JoystickWiz",  "Title",
     "Heading",     "Preferences", "SingleTextForm",    "EnterGameName", "DrivesForm",   "EnterFavouritename",
-    "ProgramWait", "ViewImage",   "SelectPictureForm", "frmTip",        "frmAbout",     "ColourSelector"};
+    "ProgramWait", "ViewImage",   "SelectPictureForm", "frmTip",        "frmAbout",     "ColourSelector",
+    "LogForm"};
 
 bool IsName(std::string_view word) {
   return !word.empty() && word.find_first_not_of(

@@ -50,7 +50,9 @@ class PrintRTFTest : public testing::Test {
   MemoryFiles files;
   Form form{"Editor"};
   Pane pane{form, "JoystickText", files};
-  Errors errors;
+  FixedCalendar calendar;
+  Log log{calendar};
+  Errors errors{log};
   SmallPrinter printer;
 };
 

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "support/MemoryFiles.h"
+#include "support/ScriptedPrinter.h"
 #include "workbench/Settings.h"
 
 namespace tarvik {
@@ -89,7 +90,9 @@ class SettingsTest : public testing::Test {
 
   MemoryFiles files;
   ProfileFile file{files, "c:\\tarvik\\tarvik.ini"};
-  Errors errors;
+  FixedCalendar calendar;
+  Log log{calendar};
+  Errors errors{log};
   Settings settings{file, errors};
 };
 

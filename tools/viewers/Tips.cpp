@@ -11,8 +11,7 @@ namespace {
 constexpr const char* kVersion = "Version: 1.2a";
 constexpr const char* kDescription =
     "A workbench for Thrustmaster joysticks, throttles and rudders: it edits and colours the joystick file "
-    "and "
-    "the macro file, writes their statements for you, and tests what the hardware sends.";
+    "and the macro file, writes their statements for you, and tests what the hardware sends.";
 
 /// The text in the code page, whichever of the two ways it was written in.
 std::string InCodePage(std::string text) {
@@ -85,6 +84,8 @@ frmAbout::frmAbout(Workbench& bench, Shell& shell) : Form("frmAbout"), bench_(be
   cmdOK.Cancel = true;
   cmdOK.Click = [this] { shell_.Unload(*this); };
   cmdSysInfo.Click = [this] { cmdSysInfo_Click(); };
+  cmdLog.ToolTipText = "What went wrong, for somebody who looks for a fault";
+  cmdLog.Click = [this] { shell_.Show(ToolId::Log); };
   Load = [this] { Form_Load(); };
 }
 

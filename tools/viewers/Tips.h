@@ -45,6 +45,7 @@ class frmAbout : public Form {
   Label lblDescription{*this, "lblDescription"};
   CommandButton cmdOK{*this, "cmdOK", "&OK"};
   CommandButton cmdSysInfo{*this, "cmdSysInfo", "&System Info..."};
+  CommandButton cmdLog{*this, "cmdLog", "&Log..."};
 
   void Form_Load() { Topmost = true; }
   void cmdSysInfo_Click();

@@ -33,11 +33,12 @@ class ScriptedPrinter : public Printer {
   int page_ = 0;  // 0 while no document is under way
 };
 
-/// Sunday the 14th of December 1997.
+/// Sunday the 14th of December 1997, at tea time.
 class FixedCalendar : public Calendar {
  public:
   [[nodiscard]] std::string ShortDate() const override { return "14/12/97"; }
   [[nodiscard]] std::string LongDate() const override { return "14 December 1997"; }
+  [[nodiscard]] std::string TimeOfDay() const override { return "16:00:00"; }
 };
 
 }  // namespace tarvik
