@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "language/Controllers.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -15,8 +14,7 @@ constexpr const char* kExitQuestion = " has changed and isn't saved. Do you want
 constexpr const char* kExitRefused = " wasn't saved. Exit program aborted.";
 constexpr const char* kMacroRefused =
     " wasn't saved, so I won't continue to load up a new macro file just in case you pressed the cancel "
-    "button by "
-    "accident.";
+    "button by accident.";
 
 /// Where the life of the two files differs in words.
 struct FileWords {
@@ -37,8 +35,7 @@ constexpr FileWords kJoystickWords = {
     " has changed and isn't saved. Do you want to save it creating a different joystick file?",
     " has changed and isn't saved. Do you want to save it before opening a different joystick file?",
     " wasn't saved, so I won't continue to load up a new joystick file just in case you pressed the cancel "
-    "button by "
-    "accident.",
+    "button by accident.",
     "New joystick file created",
     "Opening joystick file",
     nullptr,
@@ -47,8 +44,7 @@ constexpr FileWords kJoystickWords = {
     "Joystick",
     "|All Joystick file types (*.f22,*.b50,*.adv) |*.f22;*.b50;*.adv |All files (*.*)|*.*",
     "|F22 joystick file (*.f22) |*.f22|F16 joystick file (*.b50) |*.b50|FCS joystick file (*.adv) |*.adv|All "
-    "files "
-    "(*.*)|*.*",
+    "files (*.*)|*.*",
 };
 
 constexpr FileWords kMacroWords = {
@@ -70,30 +66,6 @@ const FileWords& WordsOf(const Document& document) {
   return document.IsJoystick() ? kJoystickWords : kMacroWords;
 }
 
-/// The file of a path in lower case; nothing where it names none.
-template <class File>
-std::optional<File> FileAt(const std::string& path) {
-  const std::string lower = LowerCase(path);
-  const auto name = FileName::Of(lower);
-  if (!name) return {};
-  return File{lower, *name};
-}
-
-/// The last three characters, whatever they are: how the program tells files apart.
-std::string_view Ending(std::string_view name) {
-  return name.substr(name.size() - std::min<std::size_t>(3, name.size()));
-}
-
-bool EndsAs(std::string_view name, std::string_view Endings::*half) {
-  return std::any_of(std::begin(kEndings), std::end(kEndings),
-                     [&](const Endings& pair) { return pair.*half == Ending(name); });
-}
-
-std::string WithEnding(std::string name, std::string_view ending) {
-  name.resize(name.size() - Ending(name).size());
-  return name + std::string(ending);
-}
-
 std::string Filter(const FileWords& words, const std::string& extension, const char* rest) {
   return std::string(words.kind) + " file (*." + extension + ")|*." + extension + rest;
 }
@@ -107,16 +79,13 @@ std::string PairFilter(const std::string& joystick, const std::string& macro) {
 
 constexpr const char* kNoJoystickFile =
     "I couldn't find a joystick file associated with this macro file. Either this is because it has a "
-    "different name, "
-    "is located in a different directory,or it does not exist.";
+    "different name, is located in a different directory,or it does not exist.";
 constexpr const char* kNoPartnerMacroFile =
     "I couldn't find a macro file associated with this joystick file. Either this is because it has a "
-    "different name, "
-    "is located in a different directory, or it does not exist. If you know that this joystick file doesn't "
-    "use a "
-    "macro file, next time, open up the single file on its own. And whilst I've got your attention, how "
-    "'bout "
-    "spending some of that beer money on me for once. I want some RAM .... and a beer ...";
+    "different name, is located in a different directory, or it does not exist. If you know that this "
+    "joystick file doesn't use a macro file, next time, open up the single file on its own. And whilst "
+    "I've got your attention, how 'bout spending some of that beer money on me for once. I want some RAM "
+    ".... and a beer ...";
 
 }  // namespace
 
@@ -210,16 +179,16 @@ void FileCommands::OpenWithoutDialog(const std::string& path) {
   if (const auto name = FileName::Of(path)) toOpen_.name = *name;
 }
 
-FileCommands::File FileCommands::GivenFile() const {
+NamedFile FileCommands::GivenFile() const {
   return {LowerCase(toOpen_.path), FileName::From(LowerCase(toOpen_.name.Text())).value_or(FileName())};
 }
 
-std::optional<FileCommands::File> FileCommands::ChooseFile(const FileRequest& request) {
+std::optional<NamedFile> FileCommands::ChooseFile(const FileRequest& request) {
   Ignore(documents_.platform.files.ChangeDrive(request.folder));
   const auto chosen = documents_.platform.dialogs.AskForFile(request);
   if (!chosen) return {};
   lastFileName_ = *chosen;
-  return FileAt<File>(*chosen);
+  return FileAt(*chosen);
 }
 
 /// A file that cannot be read is told, and the document in its place stays.
@@ -239,7 +208,7 @@ void FileCommands::Remember(const Document& document) {
   }
 }
 
-void FileCommands::TakeFile(Document& document, const File& file) {
+void FileCommands::TakeFile(Document& document, const NamedFile& file) {
   document.Path = file.path;
   document.Name = file.name;
   ShowName(document);
@@ -266,7 +235,7 @@ void FileCommands::Load(Document& document) {
   if (!MayReplace(document, Question::Load)) return;
   const FileWords& words = WordsOf(document);
   const Trap trap{documents_.errors, words.loadTag};
-  File file = GivenFile();
+  NamedFile file = GivenFile();
   if (file.path.empty()) {
     documents_.Say(words.opening);
     const std::string extension = (documents_.settings.*document.traits.extension).Get();
@@ -330,7 +299,7 @@ void FileCommands::UpdateMacros() {
   AnalyseMacroFile();
 }
 
-void FileCommands::OpenMacro(const File& file, const Trap& trap) {
+void FileCommands::OpenMacro(const NamedFile& file, const Trap& trap) {
   TakeFile(documents_.macro, file);
   AnalyseMacroFile();
   documents_.Say("Finished opening up macro file and extracting macros from it");
@@ -343,7 +312,7 @@ void FileCommands::OpenPair() {
       !MayReplace(documents_.macro, Question::OpenPair))
     return;
   documents_.Say("Opening joystick and associated macro file together ....");
-  File file = GivenFile();
+  NamedFile file = GivenFile();
   if (file.path.empty()) {
     const auto chosen =
         ChooseFile({FileDialogKind::Open,
@@ -356,9 +325,9 @@ void FileCommands::OpenPair() {
     file = *chosen;
   }
   const Loading loading(documents_.values);
-  if (EndsAs(file.name.Text(), &Endings::macro)) {
+  if (IsMacroFile(file.name.Text())) {
     if (CanRead(file.path, trap)) OpenMacroThenJoystick(file, trap);
-  } else if (EndsAs(file.name.Text(), &Endings::joystick)) {
+  } else if (IsJoystickFile(file.name.Text())) {
     if (CanRead(file.path, trap)) OpenJoystickThenMacro(file, trap);
   } else {
     TellUnrecognised();
@@ -369,7 +338,7 @@ void FileCommands::OpenPairAmong(const std::vector<std::string>& paths) {
   if (paths.empty()) return;
   const auto ofAPair = std::find_if(paths.begin(), paths.end(), [](const std::string& path) {
     const std::string name = LowerCase(path);
-    return EndsAs(name, &Endings::joystick) || EndsAs(name, &Endings::macro);
+    return IsJoystickFile(name) || IsMacroFile(name);
   });
   OpenWithoutDialog(ofAPair == paths.end() ? paths.front() : *ofAPair);
   OpenPair();
@@ -379,20 +348,15 @@ void FileCommands::OpenPairAmong(const std::vector<std::string>& paths) {
 void FileCommands::OpenFavourite(const std::string& path) {
   if (path.empty()) return;
   OpenWithoutDialog(path);
-  const bool macro = std::any_of(std::begin(kEndings), std::end(kEndings),
-                                 [&path](const Endings& pair) { return path.ends_with(pair.macro); });
-  Load(macro ? documents_.macro : documents_.joystick);
+  Load(IsMacroFile(path) ? documents_.macro : documents_.joystick);
   OpenWithDialogs();
 }
 
-/// A macro file finds its joystick file by the same name beside it.
-void FileCommands::OpenMacroThenJoystick(const File& file, const Trap& trap) {
+void FileCommands::OpenMacroThenJoystick(const NamedFile& file, const Trap& trap) {
   OpenMacro(file, trap);
   documents_.Select(documents_.macro);
   documents_.UpdateSavedIcon();
-  const auto pair = std::find_if(std::begin(kEndings), std::end(kEndings),
-                                 [&](const Endings& each) { return each.macro == Ending(file.name.Text()); });
-  const auto partner = FileAt<File>(WithEnding(file.path, pair->joystick));
+  const auto partner = JoystickFileBeside(file);
   if (!partner || !documents_.platform.files.FileExists(partner->path)) {
     documents_.Say("Joystick file not opened");
     documents_.platform.dialogs.Show(
@@ -405,31 +369,7 @@ void FileCommands::OpenMacroThenJoystick(const File& file, const Trap& trap) {
   FinishPair();
 }
 
-/// The word after the last "MDEF" in the joystick file, also one in a comment, names the macro file beside
-/// it, and nothing beyond its folder: a word that is no name of a file names none. Without the word the path
-/// ends in a point, and such a file does not normally exist.
-std::optional<FileCommands::File> FileCommands::MacroFileNamedIn(Document& joystick) const {
-  Pane& pane = joystick.text;
-  bool named = false;
-  joystick.Caret = 0;
-  while (pane.Find("MDEF", joystick.Caret, pane.Characters().size(), find::kWholeWord)) {
-    named = true;
-    joystick.Caret = pane.Selection().End();
-  }
-  const std::string path = joystick.Path;
-  if (!named) return FileAt<File>(WithEnding(path, ""));
-  const auto pair = std::find_if(std::begin(kEndings), std::end(kEndings), [&](const Endings& each) {
-    return each.joystick == Ending(joystick.Name.Get().Text());
-  });
-  joystick.Caret = joystick.Caret + 1;
-  pane.SelStart = joystick.Caret;
-  pane.Span(" \r\n");
-  const auto macro = FileName::From(LowerCase(pane.SelText.Get()) + "." + std::string(pair->macro));
-  if (!macro) return {};
-  return File{Folder(path.substr(0, path.rfind('\\') + 1)) / *macro, *macro};
-}
-
-void FileCommands::OpenJoystickThenMacro(const File& file, const Trap& trap) {
+void FileCommands::OpenJoystickThenMacro(const NamedFile& file, const Trap& trap) {
   TakeFile(documents_.joystick, file);
   FillPane(documents_.joystick, trap);
   documents_.Select(documents_.joystick);
@@ -471,10 +411,9 @@ void FileCommands::TellUnrecognised() {
                                         documents_.settings.JoystickExtension.Get() + " or a ." +
                                         documents_.settings.MacroExtension.Get() +
                                         " file. This is probably because you need to set the preferences to "
-                                        "display what the default extensions you "
-                                        "will be using for your hardware. I'll take you there now. And don't "
-                                        "start on me ... I'm just the computer "
-                                        "... not the programmer.",
+                                        "display what the default extensions you will be using for your "
+                                        "hardware. I'll take you there now. And don't start on me ... I'm "
+                                        "just the computer ... not the programmer.",
                                     BoxIcon::None, BoxButtons::Ok});
   NeedsPreferences();
   documents_.Say("Files not opened");

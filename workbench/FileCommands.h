@@ -2,6 +2,7 @@
 // goes.
 #pragma once
 
+#include "workbench/FilePairs.h"
 #include "workbench/Highlighter.h"
 #include "workbench/MacroLists.h"
 #include "workbench/PreviousFiles.h"
@@ -64,27 +65,22 @@ class FileCommands {
 
  private:
   enum class Question { New, Load, OpenPair };
-  struct File {
-    std::string path;
-    FileName name;
-  };
 
   bool MayReplace(Document& document, Question question);
   bool AskToSave(Document& document, const SaveQuestion& question);
   /// What the user picks, in lower case; nothing when he cancels.
-  std::optional<File> ChooseFile(const FileRequest& request);
+  std::optional<NamedFile> ChooseFile(const FileRequest& request);
   /// What is to be opened without a dialog, in lower case; its path is empty when there is to be one.
-  [[nodiscard]] File GivenFile() const;
+  [[nodiscard]] NamedFile GivenFile() const;
   void ShowName(const Document& document);
   void Remember(const Document& document);
   bool CanRead(const std::string& path, const Trap& trap);
-  void TakeFile(Document& document, const File& file);
+  void TakeFile(Document& document, const NamedFile& file);
   void FillPane(Document& document, const Trap& trap);
   void SaveText(Document& document);
-  void OpenMacroThenJoystick(const File& file, const Trap& trap);
-  void OpenJoystickThenMacro(const File& file, const Trap& trap);
-  void OpenMacro(const File& file, const Trap& trap);
-  [[nodiscard]] std::optional<File> MacroFileNamedIn(Document& joystick) const;
+  void OpenMacroThenJoystick(const NamedFile& file, const Trap& trap);
+  void OpenJoystickThenMacro(const NamedFile& file, const Trap& trap);
+  void OpenMacro(const NamedFile& file, const Trap& trap);
   void TellUnrecognised();
   void FinishPair();
 
@@ -93,7 +89,7 @@ class FileCommands {
   Highlighter& highlighter_;
   MacroLists& lists_;
   PreviousFiles& previous_;
-  File toOpen_;               // without a dialog, when it has a path
+  NamedFile toOpen_;          // without a dialog, when it has a path
   std::string lastFileName_;  // what the file dialog shows next
 };
 
