@@ -349,33 +349,21 @@ MakePage PageFor(Form& form) {
   return [own](const FormLayout& in) { return Page(*own, in); };
 }
 
+/// The page of whichever of these the form is.
+template <class... F>
+MakePage PageAmong(Form& form) {
+  MakePage page;
+  ((page = PageFor<F>(form)) || ...);
+  return page;
+}
+
 }  // namespace
 
 MakePage PageOf(Form& form) {
-  for (const auto& find : {PageFor<FindAndReplace>,
-                           PageFor<InsertOptions>,
-                           PageFor<Preferences>,
-                           PageFor<DrivesForm>,
-                           PageFor<Wizard>,
-                           PageFor<Speedy>,
-                           PageFor<Title>,
-                           PageFor<Heading>,
-                           PageFor<SingleTextForm>,
-                           PageFor<RAWform>,
-                           PageFor<KeyTestForm>,
-                           PageFor<JoyPlot>,
-                           PageFor<ProgramWait>,
-                           PageFor<EnterFavouritename>,
-                           PageFor<EnterGameName>,
-                           PageFor<TemplateForm>,
-                           PageFor<frmTip>,
-                           PageFor<frmAbout>,
-                           PageFor<LogForm>,
-                           PageFor<ViewImage>,
-                           PageFor<SelectPictureForm>}) {
-    if (auto page = find(form)) return page;
-  }
-  return {};
+  return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, Wizard, Speedy, Title, Heading,
+                   SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
+                   EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, ViewImage, SelectPictureForm>(
+      form);
 }
 
 }  // namespace tarvik::screen

@@ -71,15 +71,10 @@ void ChangeToRootOf(Workbench& bench, const std::string& path, const Trap& trap)
   trap(files.ChangeFolder(drive + "\\"));
 }
 
-std::string LoaderCommandLine(const Workbench& bench, Shell& shell, const std::string& file) {
+void RunLoader(Workbench& bench, Shell& shell, const std::string& file) {
   const bool quiet = shell.Command("mnuAppsQuiet").Checked;
-  return bench.settings.B50LoadPath.Get() + " " + file + (quiet ? " Q" : "");
-}
-
-std::string PrepareLoader(Workbench& bench, Shell& shell, const std::string& file, const Trap& trap) {
-  ChangeToRootOf(bench, bench.settings.B50LoadPath, trap);
-  trap(bench.platform.files.ChangeFolder(FolderOfControlCentre(bench.settings)));
-  return LoaderCommandLine(bench, shell, file);
+  const std::string commandLine = bench.settings.B50LoadPath.Get() + " " + file + (quiet ? " Q" : "");
+  Ignore(ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit));
 }
 
 void SendToJoystick(Workbench& bench, Shell& shell) {
@@ -92,11 +87,12 @@ void SendToJoystick(Workbench& bench, Shell& shell) {
   }
   if (joystick.Dirty == saved::kModified) bench.files.Save(bench.documents.Active());
   if (joystick.Dirty == saved::kModified && !MaySendAsSaved(bench)) return;
-  const std::string commandLine = PrepareLoader(bench, shell, joystick.Path, trap);
+  ChangeToRootOf(bench, bench.settings.B50LoadPath, trap);
+  trap(bench.platform.files.ChangeFolder(FolderOfControlCentre(bench.settings)));
   Form& frame = shell.Frame();
   const int before = frame.WindowState;
   frame.WindowState = kMinimised;
-  Ignore(ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit));
+  RunLoader(bench, shell, joystick.Path);
   frame.WindowState = before;
   bench.documents.FocusActiveText();
 }

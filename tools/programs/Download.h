@@ -18,12 +18,10 @@ void ChangeToControlCentre(Workbench& bench, const std::string& path, const Trap
 /// Makes the drive that `path` begins with the current one, and its root the current folder there.
 void ChangeToRootOf(Workbench& bench, const std::string& path, const Trap& trap);
 
-/// What sends the file: the loader's path, a blank, the file's path as it stands, and " Q" for quiet mode.
-[[nodiscard]] std::string LoaderCommandLine(const Workbench& bench, Shell& shell, const std::string& file);
-
-/// Goes to the loader's drive and the Control Centre's folder, and gives what to start.
-[[nodiscard]] std::string PrepareLoader(Workbench& bench, Shell& shell, const std::string& file,
-                                        const Trap& trap);
+/// Sends the file from the current folder, and waits until the loader has ended. Its command line is the
+/// loader's path, a blank, the file's path as it stands, and " Q" for quiet mode. What comes of it is not
+/// asked.
+void RunLoader(Workbench& bench, Shell& shell, const std::string& file);
 
 // The editor's entries.
 void SendToJoystick(Workbench& bench, Shell& shell);

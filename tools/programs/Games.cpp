@@ -3,7 +3,6 @@
 #include <functional>
 
 #include "tools/programs/Download.h"
-#include "tools/programs/Shell32.h"
 
 namespace tarvik {
 namespace {
@@ -24,14 +23,10 @@ constexpr const char* kNotFound =
     "I don't think you've setup everything for this game properly. I couldn't find one of your files - this "
     "usually occurs becuase the path to the game isn't correct. Please go back and check it. No, don't look "
     "at me like that. I'm just a computer ... I'm stupid ...I only do what I'm told to do ... and then "
-    "that's "
-    "not always !! :) ";
+    "that's not always !! :) ";
 constexpr const char* kNotRun =
     "Sorry, but I couldn't run your game .... please check how you've setup Tarvik to run this game ... "
     "there may be an error there";
-
-constexpr int kMinimisedWithoutFocus = 6;  // without effect
-constexpr int kNoLimit = -1;
 
 using Step = std::function<Outcome<>()>;
 
@@ -53,9 +48,8 @@ Outcome<> Transfer(Workbench& bench, Shell& shell) {
       [&] { return files.ChangeFolder(drive + "\\"); },
       [&] { return files.ChangeFolder(FolderOfControlCentre(bench.settings)); },
       [&]() -> Outcome<> {
-        const std::string commandLine = LoaderCommandLine(bench, shell, bench.lists.GameJF);
         shell.Frame().Visible = false;
-        Ignore(ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit));
+        RunLoader(bench, shell, bench.lists.GameJF);
         return Done{};
       },
   });
