@@ -179,8 +179,13 @@ void FileCommands::OpenWithoutDialog(const std::string& path) {
   if (const auto name = FileName::Of(path)) toOpen_.name = *name;
 }
 
-NamedFile FileCommands::GivenFile() const {
-  return {LowerCase(toOpen_.path), FileName::From(LowerCase(toOpen_.name.Text())).value_or(FileName())};
+std::optional<NamedFile> FileCommands::FileToOpen(const std::string& title, const std::string& filter) {
+  if (toOpen_.path.empty()) {
+    const std::string& folder = documents_.settings.ProgramFilesPath;
+    return ChooseFile({FileDialogKind::Open, title, filter, folder, {}, {}});
+  }
+  const auto name = FileName::From(LowerCase(toOpen_.name.Text()));
+  return NamedFile{LowerCase(toOpen_.path), name.value_or(FileName())};
 }
 
 std::optional<NamedFile> FileCommands::ChooseFile(const FileRequest& request) {
@@ -235,27 +240,17 @@ void FileCommands::Load(Document& document) {
   if (!MayReplace(document, Question::Load)) return;
   const FileWords& words = WordsOf(document);
   const Trap trap{documents_.errors, words.loadTag};
-  NamedFile file = GivenFile();
-  if (file.path.empty()) {
-    documents_.Say(words.opening);
-    const std::string extension = (documents_.settings.*document.traits.extension).Get();
-    const auto chosen = ChooseFile({FileDialogKind::Open,
-                                    {},
-                                    Filter(words, extension, words.allTypes),
-                                    documents_.settings.ProgramFilesPath,
-                                    {},
-                                    {}});
-    if (!chosen) return;
-    file = *chosen;
-  }
-  if (!CanRead(file.path, trap)) return;
+  if (toOpen_.path.empty()) documents_.Say(words.opening);
+  const std::string extension = (documents_.settings.*document.traits.extension).Get();
+  const auto file = FileToOpen({}, Filter(words, extension, words.allTypes));
+  if (!file || !CanRead(file->path, trap)) return;
   const Loading loading(documents_.values);
   if (document.IsJoystick()) {
-    TakeFile(document, file);
+    TakeFile(document, *file);
     FillPane(document, trap);
     lists_.ClearMacroTicks();
   } else {
-    OpenMacro(file, trap);
+    OpenMacro(*file, trap);
   }
   documents_.Select(document);
   documents_.UpdateSavedIcon();
@@ -312,23 +307,15 @@ void FileCommands::OpenPair() {
       !MayReplace(documents_.macro, Question::OpenPair))
     return;
   documents_.Say("Opening joystick and associated macro file together ....");
-  NamedFile file = GivenFile();
-  if (file.path.empty()) {
-    const auto chosen =
-        ChooseFile({FileDialogKind::Open,
-                    "Select the joystick file or the macro file - I'll open both of them",
-                    PairFilter(documents_.settings.JoystickExtension, documents_.settings.MacroExtension),
-                    documents_.settings.ProgramFilesPath,
-                    {},
-                    {}});
-    if (!chosen) return;
-    file = *chosen;
-  }
+  const auto file =
+      FileToOpen("Select the joystick file or the macro file - I'll open both of them",
+                 PairFilter(documents_.settings.JoystickExtension, documents_.settings.MacroExtension));
+  if (!file) return;
   const Loading loading(documents_.values);
-  if (IsMacroFile(file.name.Text())) {
-    if (CanRead(file.path, trap)) OpenMacroThenJoystick(file, trap);
-  } else if (IsJoystickFile(file.name.Text())) {
-    if (CanRead(file.path, trap)) OpenJoystickThenMacro(file, trap);
+  if (IsMacroFile(file->name.Text())) {
+    if (CanRead(file->path, trap)) OpenMacroThenJoystick(*file, trap);
+  } else if (IsJoystickFile(file->name.Text())) {
+    if (CanRead(file->path, trap)) OpenJoystickThenMacro(*file, trap);
   } else {
     TellUnrecognised();
   }

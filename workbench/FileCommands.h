@@ -70,8 +70,8 @@ class FileCommands {
   bool AskToSave(Document& document, const SaveQuestion& question);
   /// What the user picks, in lower case; nothing when he cancels.
   std::optional<NamedFile> ChooseFile(const FileRequest& request);
-  /// What is to be opened without a dialog, in lower case; its path is empty when there is to be one.
-  [[nodiscard]] NamedFile GivenFile() const;
+  /// What is to be opened without a dialog, in lower case, or else what the user picks.
+  std::optional<NamedFile> FileToOpen(const std::string& title, const std::string& filter);
   void ShowName(const Document& document);
   void Remember(const Document& document);
   bool CanRead(const std::string& path, const Trap& trap);
