@@ -21,22 +21,16 @@ constexpr int kIgnoreDelayButton = 12;
 
 constexpr const char* kWelcome =
     "Hi there buddy! Welcome to the first final release of Tarvik, a new utility to help you get the most "
-    "out of your "
-    "Thrustmaster hardware. Now I'm going to need some information from you regarding what Thrustmaster "
-    "equipment you "
-    "have, and where your Thrustmaster files are on your hard disk. Remember, you must still have installed "
-    "the "
-    "Thrustmaster software to use parts of Tarvik. So let's go to the Preferences Window, and fill out all "
-    "the sections "
-    "on the first tab, the File Locations tab. If you get lost, press the Help button there. Cheers, and "
-    "enjoy Tarvik.";
+    "out of your Thrustmaster hardware. Now I'm going to need some information from you regarding what "
+    "Thrustmaster equipment you have, and where your Thrustmaster files are on your hard disk. Remember, you "
+    "must still have installed the Thrustmaster software to use parts of Tarvik. So let's go to the "
+    "Preferences Window, and fill out all the sections on the first tab, the File Locations tab. If you get "
+    "lost, press the Help button there. Cheers, and enjoy Tarvik.";
 
 constexpr const char* kEmergency =
     "The save routine was called successfully I think, so you should be alright. However, I recommend you "
-    "keep "
-    "pressing the Yes button to try and get stable control back to Tarvik. If you can get back into Tarvik "
-    "(it "
-    "may take several presses of the Yes button) then you should be OK to continue.";
+    "keep pressing the Yes button to try and get stable control back to Tarvik. If you can get back into "
+    "Tarvik (it may take several presses of the Yes button) then you should be OK to continue.";
 
 }  // namespace
 
@@ -181,7 +175,7 @@ void Editor::FollowWorkbench() {
 }
 
 void Editor::FirstTimeFlow() {
-  bench_.platform.dialogs.Show({"Tarvik initialising ...", kWelcome, BoxIcon::Information, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({"Tarvik initialising ...", kWelcome, BoxIcon::Information});
   bench_.settings.SaveOptions();
   mnuPreferencesEdit_Click();
 }
@@ -316,7 +310,7 @@ void Editor::OpenPrevious(std::string_view array, int index) {
   bench_.platform.dialogs.Show({"Can't find file",
                                 "There's a problem here ... I couldn't find " + path +
                                     " which probably means you've deleted it or moved it. Sorry!",
-                                BoxIcon::Information, BoxButtons::Ok});
+                                BoxIcon::Information});
 }
 
 void Editor::mnuPreviousClearAllJ_Click() { bench_.lists.ClearAll(bench_.lists.JoystickFiles); }
@@ -334,7 +328,7 @@ void Editor::EmergencySaveFiles() {
     mnuFileSave_Click();
   }
   bench_.platform.dialogs.Show(
-      {"Tarvik - Emergency file save procedure executed", kEmergency, BoxIcon::Information, BoxButtons::Ok});
+      {"Tarvik - Emergency file save procedure executed", kEmergency, BoxIcon::Information});
 }
 
 void Editor::UpdateCCPButtons() {

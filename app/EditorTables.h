@@ -5,6 +5,18 @@
 
 namespace tarvik::tables {
 
+inline constexpr const char* kSlashEntries[] = {"/U  dogfight switch is up",
+                                                "/M  dogfight switch middle position",
+                                                "/D  dogfight switch is down",
+                                                "/I  S3 is held in",
+                                                "/O S3 is out",
+                                                "/A  force analogue",
+                                                "/P  press event",
+                                                "/R  release event",
+                                                "/H  hold down",
+                                                "/N  no repeat",
+                                                "/T  toggle modifier"};
+
 // Entries without a handler are there and disabled until their tool is. A row without a caption is the hidden
 // first member of an array that is filled while the program runs.
 inline constexpr MenuRow<Editor> kMenus[] = {
@@ -75,18 +87,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuInsertDivider2", "-"},
     {1, "mnuInsertWithColour", "Insert &with colour", "", &Editor::mnuInsertWithColour_Click},
     {1, "mnuInsertDivider3", "-"},
-    {1, "mnuSlashModifier", "/U  dogfight switch is up", "", nullptr, 0, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/M  dogfight switch middle position", "", nullptr, 1,
-     &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/D  dogfight switch is down", "", nullptr, 2, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/I  S3 is held in", "", nullptr, 3, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/O S3 is out", "", nullptr, 4, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/A  force analogue", "", nullptr, 5, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/P  press event", "", nullptr, 6, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/R  release event", "", nullptr, 7, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/H  hold down", "", nullptr, 8, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/N  no repeat", "", nullptr, 9, &Editor::mnuSlashModifier_Click},
-    {1, "mnuSlashModifier", "/T  toggle modifier", "", nullptr, 10, &Editor::mnuSlashModifier_Click},
+    MenuArray(1, "mnuSlashModifier", kSlashEntries, &Editor::mnuSlashModifier_Click),
     {1, "mnuSlashModifierQ", "/Q  ignore initial repeat delay modifier", "",
      &Editor::mnuSlashModifierQ_Click},
     {1, "mnuSlashModifierDLY", "D&LY  delay", "", &Editor::mnuSlashModifierDLY_Click},
@@ -114,10 +115,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuViewWordWrap", "&Word wrap", "", &Editor::mnuViewWordWrap_Click},
 
     {0, "mnuWindow", "&Window"},
-    {1, "mnuWindowCascade", "&Cascade", "", nullptr, 0},
-    {1, "mnuWindowCascade", "Tile &horizontally", "", nullptr, 1},
-    {1, "mnuWindowCascade", "Tile &vertically", "", nullptr, 2},
-    {1, "mnuWindowCascade", "&Arrange icons", "", nullptr, 3},
+    MenuArray<Editor>(1, "mnuWindowCascade", kArrangements),
 
     {0, "mnuSend", "&Apps"},
     {1, "mnuAppsImageViewer", "&Image viewer", "", &Editor::mnuAppsImageViewer_Click},

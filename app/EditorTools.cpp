@@ -41,11 +41,11 @@ const MessageBox kLogicAdvice = {
     "press the View An0002a.txt button there. Have a read, and then have a go!",
     BoxIcon::Exclamation};
 
-const MessageBox kQuickTip = {"Quick tip",
-                              "Press the Escape key when you're typing in one of your files, and this menu "
-                              "pops up right where you are. "
-                              "You never have to take your hands off the keyboard!",
-                              BoxIcon::Information};
+const MessageBox kQuickTip = {
+    "Quick tip",
+    "Press the Escape key when you're typing in one of your files, and this menu pops up right where you "
+    "are. You never have to take your hands off the keyboard!",
+    BoxIcon::Information};
 
 }  // namespace
 

@@ -73,6 +73,12 @@ class CommandButton : public Control {
   CommandButton(Component& parent, std::string_view name, std::string caption) : Control(parent, name) {
     Caption = std::move(caption);
   }
+  /// `click` is a function of its form.
+  template <class F, class G>
+  CommandButton(F& form, std::string_view name, std::string caption, void (G::*click)())
+      : CommandButton(form, name, std::move(caption)) {
+    Click = [&form, click] { (form.*click)(); };
+  }
   Property<std::string> Caption{*this, "Caption"};
   /// The Enter key presses it, wherever the form's focus is; one button of a form at most.
   Property<bool> Default{*this, "Default", false};

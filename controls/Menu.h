@@ -8,8 +8,8 @@
 
 namespace tarvik {
 
-/// One menu, entry or divider. A row's level says under which row it stands: the nearest one above with a
-/// lower level. An entry without a handler has no tool yet and is disabled.
+/// One menu, entry, divider or array of entries. A row's level says under which row it stands: the nearest
+/// one above with a lower level. An entry without a handler has no tool yet and is disabled.
 template <class F>
 struct MenuRow {
   int level;
@@ -17,9 +17,21 @@ struct MenuRow {
   const char* caption;
   const char* shortcut = "";
   void (F::*handler)() = nullptr;
-  int index = -1;  ///< of a member of a menu array
+  int index = -1;  ///< of a member of a menu array, or the first of several
   void (F::*indexedHandler)(int) = nullptr;
+  std::span<const char* const> captions = {};  ///< of the members, for an array of several
 };
+
+/// The row of a whole array, its members counted from 0.
+template <class F>
+constexpr MenuRow<F> MenuArray(int level, const char* name, std::span<const char* const> captions,
+                               void (F::*handler)(int) = nullptr) {
+  return {level, name, captions[0], "", nullptr, 0, handler, captions};
+}
+
+/// How a window arranges those inside it. Windows of their own have nothing to be arranged in.
+inline constexpr const char* kArrangements[] = {"&Cascade", "Tile &horizontally", "Tile &vertically",
+                                                "&Arrange icons"};
 
 struct MenuEntry {
   int level;
@@ -32,18 +44,11 @@ class Menus {
   template <class F, std::size_t N>
   Menus(F& form, const MenuRow<F> (&rows)[N]) : form_(&form) {
     for (std::size_t i = 0; i < N; ++i) {
-      const MenuRow<F>& row = rows[i];
-      const auto index = row.index < 0 ? std::optional<int>() : row.index;
-      MenuItem& item = items_.emplace_back(form, row.name, index);
-      item.Caption = row.caption;
-      item.Shortcut = row.shortcut;
-      item.Visible = row.caption[0] != '\0';
-      item.Enabled = row.level == 0 || CanDoSomething(rows, i);
-      if (row.handler) item.Click = [&form, handler = row.handler] { (form.*handler)(); };
-      MenuEntry& entry = entries_.emplace_back(MenuEntry{row.level, &item, {}});
-      if (!row.indexedHandler) continue;
-      entry.choose = [&form, handler = row.indexedHandler](int at) { (form.*handler)(at); };
-      item.Click = [choose = entry.choose, at = row.index] { choose(at); };
+      const bool enabled = rows[i].level == 0 || CanDoSomething(rows, i);
+      Add(form, rows[i], rows[i].caption, rows[i].index, enabled);
+      for (std::size_t member = 1; member < rows[i].captions.size(); ++member) {
+        Add(form, rows[i], rows[i].captions[member], static_cast<int>(member), enabled);
+      }
     }
   }
 
@@ -76,6 +81,19 @@ class Menus {
   Signal<MenuItem&> Unloading;
 
  private:
+  template <class F>
+  void Add(F& form, const MenuRow<F>& row, const char* caption, int index, bool enabled) {
+    MenuItem& item = items_.emplace_back(form, row.name, index < 0 ? std::optional<int>() : index);
+    item.Caption = caption;
+    item.Shortcut = row.shortcut;
+    item.Visible = caption[0] != '\0';
+    item.Enabled = enabled;
+    if (row.handler) item.Click = [&form, handler = row.handler] { (form.*handler)(); };
+    MenuEntry& entry = entries_.emplace_back(MenuEntry{row.level, &item, {}});
+    if (!row.indexedHandler) return;
+    entry.choose = [&form, handler = row.indexedHandler](int at) { (form.*handler)(at); };
+    item.Click = [choose = entry.choose, at = index] { choose(at); };
+  }
   [[nodiscard]] bool IsMember(std::size_t at, std::string_view array) const {
     return at < entries_.size() && entries_[at].item->Name() == array;
   }

@@ -54,17 +54,25 @@ TEST(EditorTables, NoShortcutIsGivenTwice) {
   }
 }
 
+/// Of an entry one, of an array one for each member.
+std::vector<std::string> CaptionsOf(const Row& row) {
+  if (row.captions.empty()) return {row.caption};
+  return {row.captions.begin(), row.captions.end()};
+}
+
 TEST(EditorTables, NoMnemonicIsGivenTwiceInAMenu) {
   std::map<std::string, std::string> taken;  // by the menu and the letter
   const auto check = [&taken](const auto& table, bool bar) {
     for (const Row& row : table) {
-      const std::string caption = row.caption;
-      const std::size_t mark = caption.find('&');
-      if (mark == std::string::npos || (row.level == 0 && !bar)) continue;
+      if (row.level == 0 && !bar) continue;
       const std::vector<const Row*> way = WayTo(table, row);
       const std::string menu = way.size() < 2 ? "the menu bar" : way[way.size() - 2]->name;
-      const auto [at, isNew] = taken.emplace(menu + ToUpper(caption[mark + 1]), caption);
-      EXPECT_TRUE(isNew) << menu << ": " << at->second << " and " << caption;
+      for (const std::string& caption : CaptionsOf(row)) {
+        const std::size_t mark = caption.find('&');
+        if (mark == std::string::npos) continue;
+        const auto [at, isNew] = taken.emplace(menu + ToUpper(caption[mark + 1]), caption);
+        EXPECT_TRUE(isNew) << menu << ": " << at->second << " and " << caption;
+      }
     }
   };
   check(tables::kMenus, true);

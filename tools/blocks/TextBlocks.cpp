@@ -46,13 +46,11 @@ std::string GetHardwareNames(const Settings& settings) {
 // The title.
 
 Title::Title(Workbench& bench, Shell& shell)
-    : Form("Title"), RichTextBox1(*this, "RichTextBox1", bench.platform.files), bench_(bench), shell_(shell) {
+    : ToolForm("Title", bench, shell), RichTextBox1(*this, "RichTextBox1", bench.platform.files) {
   Caption = "Insert title";
   Topmost = true;
   Command1.MakeDefault();
-  Command1.Click = [this] { Command1_Click(); };
   Command2.Cancel = true;
-  Command2.Click = [this] { shell_.Unload(*this); };
   Activate = [this] { Form_Activate(); };
   Unload = [this] { Form_Unload(); };
 }
@@ -113,7 +111,7 @@ void InsertTitle(Workbench& /*bench*/, Shell& shell) { shell.ShowModal(shell.Too
 
 // The heading.
 
-Heading::Heading(Workbench& bench, Shell& shell) : Form("Heading"), bench_(bench), shell_(shell) {
+Heading::Heading(Workbench& bench, Shell& shell) : ToolForm("Heading", bench, shell) {
   Caption = " Insert heading";
   Topmost = true;
   Command1(0).Caption = "OK";
@@ -147,14 +145,11 @@ void InsertHeading(Workbench& bench, Shell& shell) {
 
 // The remark.
 
-SingleTextForm::SingleTextForm(Workbench& bench, Shell& shell)
-    : Form("SingleTextForm"), bench_(bench), shell_(shell) {
+SingleTextForm::SingleTextForm(Workbench& bench, Shell& shell) : ToolForm("SingleTextForm", bench, shell) {
   Caption = "  Enter your text ... today ...";
   RichTextBox1.GotFocus = [this] { RichTextBox1.SelectAll(); };
   Command1.MakeDefault();
-  Command1.Click = [this] { Command1_Click(); };
   Command2.Cancel = true;
-  Command2.Click = [this] { Command2_Click(); };
   Load = [this] { Form_Load(); };
 }
 

@@ -5,11 +5,11 @@
 #include <span>
 
 #include "panes/Pane.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class Title : public Form {
+class Title : public ToolForm {
  public:
   explicit Title(Workbench& bench, Shell& shell);
 
@@ -19,8 +19,8 @@ class Title : public Form {
   TextBox Text4{*this, "Text4"};  ///< last modified
   TextBox Text5{*this, "Text5"};  ///< hardware
   Pane RichTextBox1;              ///< comments
-  CommandButton Command1{*this, "Command1", "OK"};
-  CommandButton Command2{*this, "Command2", "Cancel"};
+  CommandButton Command1{*this, "Command1", "OK", &Title::Command1_Click};
+  CommandButton Command2{*this, "Command2", "Cancel", &Title::Close};
 
   void Form_Activate();
   void Form_Unload();
@@ -30,12 +30,9 @@ class Title : public Form {
 
  private:
   [[nodiscard]] std::vector<std::string> Lines() const;
-
-  Workbench& bench_;
-  Shell& shell_;
 };
 
-class Heading : public Form {
+class Heading : public ToolForm {
  public:
   explicit Heading(Workbench& bench, Shell& shell);
 
@@ -43,20 +40,16 @@ class Heading : public Form {
   ControlArray<CommandButton> Command1{*this, "Command1", 2};
 
   void Command1_Click(int index);
-
- private:
-  Workbench& bench_;
-  Shell& shell_;
 };
 
-class SingleTextForm : public Form {
+class SingleTextForm : public ToolForm {
  public:
   explicit SingleTextForm(Workbench& bench, Shell& shell);
 
   TextBox RichTextBox1{*this, "RichTextBox1"};
   CheckBox CheckAddCR{*this, "CheckAddCR", "Add carriage return"};
-  CommandButton Command1{*this, "Command1", "OK"};
-  CommandButton Command2{*this, "Command2", "Cancel"};
+  CommandButton Command1{*this, "Command1", "OK", &SingleTextForm::Command1_Click};
+  CommandButton Command2{*this, "Command2", "Cancel", &SingleTextForm::Command2_Click};
 
   void Form_Load();
   void Command1_Click() { Close(RichTextBox1.Text.Get() + " "); }
@@ -66,9 +59,6 @@ class SingleTextForm : public Form {
 
  private:
   void Close(const std::string& text);
-
-  Workbench& bench_;
-  Shell& shell_;
 };
 
 /// The user's hardware in words, as "F-16 FLCS, TQS, RCS."

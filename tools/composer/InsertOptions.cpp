@@ -8,6 +8,11 @@ namespace {
 
 using M = InsertOptions;
 
+constexpr const char* kHatEntries[] = {"U", "D", "L", "R", "M"};
+constexpr const char* kHatCornerEntries[] = {"UL", "UR", "DL", "DR"};
+constexpr const char* kTriggerEntries[] = {"TG1", "TG2"};
+constexpr const char* kPortEntries[] = {"PortB1 IS", "PortB2 IS", "PortB3 IS", "PortB4 IS"};
+
 constexpr MenuRow<InsertOptions> kMenus[] = {
     {0, "mnuRHList", "List"},
     {1, "mnuRHListInsert", "&Insert into Joystick file", "", &M::mnuRHListInsert_Click},
@@ -17,26 +22,15 @@ constexpr MenuRow<InsertOptions> kMenus[] = {
     {1, "mnuRHListEdit", "&Edit", "", &M::mnuRHListEdit_Click},
 
     {0, "mnuHatPos", "Hat"},
-    {1, "MnuHatPostion", "U", "", nullptr, 0, &M::MnuHatPostion_Click},
-    {1, "MnuHatPostion", "D", "", nullptr, 1, &M::MnuHatPostion_Click},
-    {1, "MnuHatPostion", "L", "", nullptr, 2, &M::MnuHatPostion_Click},
-    {1, "MnuHatPostion", "R", "", nullptr, 3, &M::MnuHatPostion_Click},
-    {1, "MnuHatPostion", "M", "", nullptr, 4, &M::MnuHatPostion_Click},
+    MenuArray(1, "MnuHatPostion", kHatEntries, &M::MnuHatPostion_Click),
     {1, "mnuHatDivider", "-"},
-    {1, "MnuHatCornerPostion", "UL", "", nullptr, 0, &M::MnuHatCornerPostion_Click},
-    {1, "MnuHatCornerPostion", "UR", "", nullptr, 1, &M::MnuHatCornerPostion_Click},
-    {1, "MnuHatCornerPostion", "DL", "", nullptr, 2, &M::MnuHatCornerPostion_Click},
-    {1, "MnuHatCornerPostion", "DR", "", nullptr, 3, &M::MnuHatCornerPostion_Click},
+    MenuArray(1, "MnuHatCornerPostion", kHatCornerEntries, &M::MnuHatCornerPostion_Click),
 
     {0, "mnuTrigger", "Trigger"},
-    {1, "mnuTrig", "TG1", "", nullptr, 0, &M::mnuTrig_Click},
-    {1, "mnuTrig", "TG2", "", nullptr, 1, &M::mnuTrig_Click},
+    MenuArray(1, "mnuTrig", kTriggerEntries, &M::mnuTrig_Click),
 
     {0, "mnuPortAll", "Port"},
-    {1, "mnuPort", "PortB1 IS", "", nullptr, 0, &M::mnuPort_Click},
-    {1, "mnuPort", "PortB2 IS", "", nullptr, 1, &M::mnuPort_Click},
-    {1, "mnuPort", "PortB3 IS", "", nullptr, 2, &M::mnuPort_Click},
-    {1, "mnuPort", "PortB4 IS", "", nullptr, 3, &M::mnuPort_Click},
+    MenuArray(1, "mnuPort", kPortEntries, &M::mnuPort_Click),
 
     {0, "mnuTemplates", "&Templates"},
     {1, "mnuInsertInto", "&Insert into"},
@@ -54,10 +48,8 @@ constexpr const char* kTipTitle = "Keep the Composer in memory for increased spe
 constexpr const char* kTip =
     "If you're using the Composer a lot, but it keeps getting in the way when you're using the Editor, then "
     "don't close down the Composer. Rather, minimise it or press the OK button. It then waits in memory and "
-    "is "
-    "back at once, with everything you typed into it, when you press F2. Closing it makes it forget your "
-    "logic "
-    "lines, and it has to be set up again the next time.";
+    "is back at once, with everything you typed into it, when you press F2. Closing it makes it forget your "
+    "logic lines, and it has to be set up again the next time.";
 
 Twips WithinScreen(Twips place, int extent) {
   return place < Twips{0} || place > FromPixels(extent) ? kPlace : place;
@@ -66,12 +58,10 @@ Twips WithinScreen(Twips place, int extent) {
 }  // namespace
 
 InsertOptions::InsertOptions(Workbench& bench, Shell& shell)
-    : Form("InsertOptions"),
+    : ToolForm("InsertOptions", bench, shell),
       macros(*this, bench.macros),
       TemplatesPreview(*this, "TemplatesPreview", bench.platform.files),
       menus(*this, kMenus),
-      bench_(bench),
-      shell_(shell),
       writer_(bench) {
   Caption = "  Composer - to ease your programming somewhat !!!";
   for (const char* const menu : {"mnuRHList", "mnuHatPos", "mnuTrigger", "mnuPortAll", "mnuTemplates"}) {
@@ -105,11 +95,8 @@ void InsertOptions::MakeFrame() {
   Check1.Click = [this] { Check1_Click(); };
   Check2FocusThang.ToolTipText = "Shows insertion point when mouse isn't on Composer";
   Check2FocusThang.Click = [this] { COMPreturnFocus = Check2FocusThang.Value; };
-  Command14.Click = [this] { Command14_Click(); };
-  CommandHelp.Click = [this] { CommandHelp_Click(); };
   Command6.ToolTipText = "Hides the Composer and keeps it in memory for faster recall";
   Command6.Cancel = true;
-  Command6.Click = [this] { Command6_Click(); };
   SSTab1.Click = [this] { SSTab1_Click(); };
   Load = [this] { Form_Load(); };
   Activate = [this] { Form_Activate(); };
@@ -257,7 +244,7 @@ void InsertOptions::Command5_Click(int index) {
 }
 
 void InsertOptions::Command14_Click() {
-  bench_.platform.dialogs.Show({kTipTitle, kTip, BoxIcon::Information, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({kTipTitle, kTip, BoxIcon::Information});
 }
 
 void InsertOptions::CommandHelp_Click() {

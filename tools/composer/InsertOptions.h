@@ -7,11 +7,11 @@
 #include "language/LogicLines.h"
 #include "tools/composer/StatementWriter.h"
 #include "workbench/Document.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class InsertOptions : public Form {
+class InsertOptions : public ToolForm {
  public:
   explicit InsertOptions(Workbench& bench, Shell& shell);
 
@@ -34,7 +34,7 @@ class InsertOptions : public Form {
   ControlArray<CommandButton> SlashButton{*this, "SlashButton", std::size(tables::kSlashes)};
   ControlArray<CommandButton> DlyRptButtons{*this, "DlyRptButtons", std::size(tables::kBrackets)};
   TextBox RemTextBox{*this, "RemTextBox"};
-  CommandButton CommandREM{*this, "CommandREM", "Insert"};
+  CommandButton CommandREM{*this, "CommandREM", "Insert", &InsertOptions::CommandREM_Click};
   CommandButton Command10{*this, "Command10", "Clear"};
   ControlArray<CommandButton> Command7{*this, "Command7", 2};
   CheckBox CheckAlwaysInsert{*this, "CheckAlwaysInsert", "Always insert BTN statement"};
@@ -54,7 +54,7 @@ class InsertOptions : public Form {
   ControlArray<OptionButton> Option1{*this, "Option1", 0};
   ControlArray<ListBox> MouseList{*this, "MouseList", std::size(tables::kMouseLists)};
   ControlArray<Label> Label5{*this, "Label5", 3};  ///< the mouse's left, middle and right button
-  CommandButton Command9{*this, "Command9", "Insert"};
+  CommandButton Command9{*this, "Command9", "Insert", &InsertOptions::Command9_Click};
 
   // Templates.
   ListBox Templates{*this, "Templates"};
@@ -77,9 +77,9 @@ class InsertOptions : public Form {
   ControlArray<CommandButton> Command5{*this, "Command5", 3};
   CheckBox Check1{*this, "Check1", "Keep on top"};
   CheckBox Check2FocusThang{*this, "Check2FocusThang", "Return focus to Editor"};
-  CommandButton Command14{*this, "Command14", "Tip"};
-  CommandButton CommandHelp{*this, "CommandHelp", "Help"};
-  CommandButton Command6{*this, "Command6", "OK"};
+  CommandButton Command14{*this, "Command14", "Tip", &InsertOptions::Command14_Click};
+  CommandButton CommandHelp{*this, "CommandHelp", "Help", &InsertOptions::CommandHelp_Click};
+  CommandButton Command6{*this, "Command6", "OK", &InsertOptions::Command6_Click};
 
   Menus menus;
 
@@ -208,15 +208,11 @@ class InsertOptions : public Form {
   [[nodiscard]] int LitAxis() const;
   /// The list of mouse types in front.
   [[nodiscard]] int KindOfMouse() const;
-  /// Tells in the status bar what a click has come to.
-  void Say(const std::string& text);
   [[nodiscard]] std::string MacroNameForMDEF() const;
   void InsertTemplate(Document& document);
   void AddToLogicLine(std::string_view token);
   [[nodiscard]] Outcome<std::string> LogicLine(int index);
 
-  Workbench& bench_;
-  Shell& shell_;
   StatementWriter writer_;
   std::vector<Connection> connections_;
 };

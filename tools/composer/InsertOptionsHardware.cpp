@@ -104,7 +104,6 @@ void InsertOptions::MakeBlanksAndComments() {
     Command7(i).Click = [this, i] { Command7_Click(i); };
   }
   RemTextBox.GotFocus = [this] { CommandREM.MakeDefault(); };
-  CommandREM.Click = [this] { CommandREM_Click(); };
   Command10.Click = [this] { RemTextBox.Text = std::string(); };
 }
 
@@ -215,8 +214,6 @@ void InsertOptions::LabelWCS() {
 }
 
 // Statements.
-
-void InsertOptions::Say(const std::string& text) { bench_.documents.status.Panels(1).Text = text; }
 
 StatementStyle InsertOptions::Style() const {
   const Settings& settings = bench_.settings;

@@ -10,9 +10,8 @@ constexpr Colour kCurrentLine{0xC0FFFF};
 constexpr const char* kQuickieTitle = "Double clicking is quickest";
 constexpr const char* kQuickie =
     "If you double click in the preview area, the template will be inserted into whichever file has the "
-    "focus "
-    "in the Editor window. It's much quicker inserting templates in this manner. I thought you might like to "
-    "know that!";
+    "focus in the Editor window. It's much quicker inserting templates in this manner. I thought you might "
+    "like to know that!";
 constexpr const char* kNoLogicTitle = "What logical statements?";
 constexpr const char* kNoLogic = "I couldn't find any logical statements in your jouystick file";
 
@@ -108,7 +107,6 @@ void InsertOptions::MakeUsePage() {
     connections_.push_back(MouseList(i).ListIndex.Changed.Connect([this, i] { MouseList_Click(i); }));
   }
   for (int i = 0; i < Label5.Count(); ++i) Label5(i).BackColor = ToggleLabel::kOff;
-  Command9.Click = [this] { Command9_Click(); };
 }
 
 void InsertOptions::FillMiceListBoxes() {
@@ -234,7 +232,7 @@ void InsertOptions::mnuJoystick_Click() { Command11_Click(0); }
 void InsertOptions::mnuMacrofile_Click() { InsertTemplate(bench_.documents.macro); }
 
 void InsertOptions::mnuQuickie_Click() {
-  bench_.platform.dialogs.Show({kQuickieTitle, kQuickie, BoxIcon::Information, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({kQuickieTitle, kQuickie, BoxIcon::Information});
 }
 
 // Logic.
@@ -353,7 +351,7 @@ void InsertOptions::FindLogicStatements() {
   for (int i = 0; i < RichTexFlag.Count(); ++i) RichTexFlag(i).Text = std::string();
   const std::vector<std::string> lines = LogicLinesOf(text);
   if (lines.empty()) {
-    bench_.platform.dialogs.Show({kNoLogicTitle, kNoLogic, BoxIcon::Information, BoxButtons::Ok});
+    bench_.platform.dialogs.Show({kNoLogicTitle, kNoLogic, BoxIcon::Information});
     return;
   }
   for (std::size_t i = 0; i < lines.size(); ++i) RichTexFlag(static_cast<int>(i)).Text = lines[i];

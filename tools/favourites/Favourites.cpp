@@ -7,7 +7,7 @@
 namespace tarvik {
 
 EnterFavouritename::EnterFavouritename(Workbench& bench, Shell& shell)
-    : Form("EnterFavouritename"), bench_(bench), shell_(shell) {
+    : ToolForm("EnterFavouritename", bench, shell) {
   const PreviousFiles& lists = bench.lists;
   Caption = "Enter a name to add to favourites";
   Topmost = true;
@@ -16,9 +16,7 @@ EnterFavouritename::EnterFavouritename(Workbench& bench, Shell& shell)
   Label1.Caption = lists.FavJFPath;
   Label2.Caption = lists.FavMFPath;
   Command1.MakeDefault();
-  Command1.Click = [this] { Command1_Click(); };
   Command2.Cancel = true;
-  Command2.Click = [this] { shell_.Unload(*this); };
   Text1.SelectAll();
   Text1.SetFocus();
 }
@@ -41,15 +39,14 @@ void AddToFavourites(Workbench& bench, Shell& shell) {
   Dialogs& dialogs = bench.platform.dialogs;
   PreviousFiles& lists = bench.lists;
   if (files.joystick.Dirty == saved::kNoText && files.macro.Dirty == saved::kNoText) {
-    dialogs.Show({"Nothing to add!", "Both files have no text!", BoxIcon::Information, BoxButtons::Ok});
+    dialogs.Show({"Nothing to add!", "Both files have no text!", BoxIcon::Information});
     return;
   }
   for (const auto& [document, kind] : {std::pair(&files.joystick, "joystick"), {&files.macro, "macro"}}) {
     if (!document->IsUntitled()) continue;
     const std::string file = std::string(kind) + " file";
     dialogs.Show({"Your " + file + " isn't saved",
-                  "Please save the " + file + " first before adding to Favourites", BoxIcon::Information,
-                  BoxButtons::Ok});
+                  "Please save the " + file + " first before adding to Favourites", BoxIcon::Information});
     return;
   }
   lists.FavJFPath = files.joystick.Path;

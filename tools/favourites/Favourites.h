@@ -2,26 +2,22 @@
 #pragma once
 
 #include "controls/Controls.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
 /// Asks what the two files in hand are to be called in the menu.
-class EnterFavouritename : public Form {
+class EnterFavouritename : public ToolForm {
  public:
   explicit EnterFavouritename(Workbench& bench, Shell& shell);
 
   TextBox Text1{*this, "Text1"};
   Label Label1{*this, "Label1"};  ///< the joystick file
   Label Label2{*this, "Label2"};  ///< the macro file
-  CommandButton Command1{*this, "Command1", "OK"};
-  CommandButton Command2{*this, "Command2", "Cancel"};
+  CommandButton Command1{*this, "Command1", "OK", &EnterFavouritename::Command1_Click};
+  CommandButton Command2{*this, "Command2", "Cancel", &EnterFavouritename::Close};
 
   void Command1_Click();
-
- private:
-  Workbench& bench_;
-  Shell& shell_;
 };
 
 /// What a file is called unless the user knows better: "c:\tm\MYFILE.f22" gives "Myfile".

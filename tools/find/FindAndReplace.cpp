@@ -46,8 +46,7 @@ FindAndReplace::Page FindAndReplace::ReplacePage() {
   return {ComboTextReplaceFind, OptionJoystickR, OptionMacroR, MatchCaseR, WholeWordR, Command3, true};
 }
 
-FindAndReplace::FindAndReplace(Workbench& bench, Shell& shell)
-    : Form("FindAndReplace"), bench_(bench), shell_(shell) {
+FindAndReplace::FindAndReplace(Workbench& bench, Shell& shell) : ToolForm("FindAndReplace", bench, shell) {
   Caption = "Find and Replace";
   Command1.Caption = kFirst;
   Command3.Caption = kFirst;
@@ -86,10 +85,6 @@ void FindAndReplace::AttachHandlers() {
   LineToFind.GotFocus = [this] { LineToFind_GotFocus(); };
   Command1.Click = [this] { Command1_Click(); };
   Command3.Click = [this] { Command3_Click(); };
-  Command5.Click = [this] { Command5_Click(); };
-  Command6.Click = [this] { Command6_Click(); };
-  Command7.Click = [this] { Command7_Click(); };
-  Command10.Click = [this] { Command10_Click(); };
   SSTab1.Click = [this] { SSTab1_Click(); };
   Form::Load = [this] { Form_Load(); };
   Form::KeyDown = [this](Key& key) { Form_KeyDown(key); };
@@ -164,7 +159,7 @@ void FindAndReplace::AllowReplacing(bool allow) {
 }
 
 void FindAndReplace::Show(const char* title, const std::string& text, BoxIcon icon) const {
-  bench_.platform.dialogs.Show({title, text, icon, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({title, text, icon});
 }
 
 // Searching.

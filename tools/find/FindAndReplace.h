@@ -2,11 +2,11 @@
 #pragma once
 
 #include "workbench/Document.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class FindAndReplace : public Form {
+class FindAndReplace : public ToolForm {
  public:
   explicit FindAndReplace(Workbench& bench, Shell& shell);
 
@@ -31,18 +31,18 @@ class FindAndReplace : public Form {
   CheckBox WholeWordR{*this, "WholeWordR", "Find &whole words only"};
   CheckBox Check7{*this, "Check7", "&Keep on top"};
   CommandButton Command3{*this, "Command3"};
-  CommandButton Command5{*this, "Command5", "&Replace"};
-  CommandButton Command6{*this, "Command6", "Replace &All"};
+  CommandButton Command5{*this, "Command5", "&Replace", &FindAndReplace::Command5_Click};
+  CommandButton Command6{*this, "Command6", "Replace &All", &FindAndReplace::Command6_Click};
   CommandButton Command4{*this, "Command4", "Cancel"};
 
   // Go to.
   TextBox LineToFind{*this, "LineToFind"};
   CheckBox Check8{*this, "Check8", "&Keep on top"};
-  CommandButton Command7{*this, "Command7", "G&oto"};
+  CommandButton Command7{*this, "Command7", "G&oto", &FindAndReplace::Command7_Click};
   CommandButton Command8{*this, "Command8", "Cancel"};
 
   CommandButton Command9{*this, "Command9", "C&lose"};
-  CommandButton Command10{*this, "Command10", "&Help"};
+  CommandButton Command10{*this, "Command10", "&Help", &FindAndReplace::Command10_Click};
 
   Property<std::string> SearchText{*this, "SearchText"};
   Property<std::string> ReplacementText{*this, "ReplacementText"};
@@ -104,8 +104,6 @@ class FindAndReplace : public Form {
     bool onReplacePage;
   };
 
-  Workbench& bench_;
-  Shell& shell_;
   std::optional<Hit> hit_;
 };
 

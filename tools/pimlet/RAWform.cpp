@@ -28,52 +28,36 @@ constexpr const char* kSwitchCaptions[RAWform::kSwitches] = {
     "/P", "/R", "/I", "/O", "/T", "/H", "/A", "Apply colour highlighting", "/N",
 };
 
-const MessageBox kTip = {"Keep the Composer in memory for increased speed",
-                         "If you're using Pimlet a lot, but he keeps getting in the way when you're using "
-                         "the Editor, then don't close "
-                         "down Pimlet. Rather, minimise him or press the OK button. This way, Pimlet is kept "
-                         "in memory and therefore "
-                         "will appear much quicker when you want him to. Closing Pimlet removes him from "
-                         "memory and therefore makes him "
-                         "much slower to view as he has to be loaded up again. Don't forget that you can use "
-                         "the F4 key to view Pimlet.",
-                         BoxIcon::Information};
+const MessageBox kTip = {
+    "Keep the Composer in memory for increased speed",
+    "If you're using Pimlet a lot, but he keeps getting in the way when you're using the Editor, then don't "
+    "close down Pimlet. Rather, minimise him or press the OK button. This way, Pimlet is kept in memory and "
+    "therefore will appear much quicker when you want him to. Closing Pimlet removes him from memory and "
+    "therefore makes him much slower to view as he has to be loaded up again. Don't forget that you can use "
+    "the F4 key to view Pimlet.",
+    BoxIcon::Information};
 
 const MessageBox kLayoutWarning = {
     "Applies to symbols generated with the SHIFT key pressed",
     "If your keyboard layout is different to that above, then be careful! Let's say that if you press the \" "
-    "key "
-    "the undercarriage will be raised, and if you press the @ symbol, you eject. So in your macro file, you "
-    "have: "
-    "UnderCarriageUp = \" and Eject = @. You then assign these to Joystick buttons S1 and S2 respectively. "
-    "Now on "
-    "a British keyboard, the \" symbol is above the number 2, and the @ symbol is above the symbol ' . So "
-    "what "
-    "happens ... you take off, you press S1 to raise the undercarriage, but instead, you find yourself "
-    "ejecting. "
-    "Why? Well, using this keyboard, you can see that the Thrustmaster compiler will convert \" into the key "
-    "sequence SHF ' which on a British keyboard produces the @ symbol. So the moral of this tale is .... if "
-    "for "
-    "example you want to get a \" symbol generated, then find it on your keyboard, and use SHF key where key "
-    "is the "
-    "symbol below the \" symbol. On a British keyboard then, SHF 2 will give me the desired \" symbol.",
+    "key the undercarriage will be raised, and if you press the @ symbol, you eject. So in your macro file, "
+    "you have: UnderCarriageUp = \" and Eject = @. You then assign these to Joystick buttons S1 and S2 "
+    "respectively. Now on a British keyboard, the \" symbol is above the number 2, and the @ symbol is above "
+    "the symbol ' . So what happens ... you take off, you press S1 to raise the undercarriage, but instead, "
+    "you find yourself ejecting. Why? Well, using this keyboard, you can see that the Thrustmaster compiler "
+    "will convert \" into the key sequence SHF ' which on a British keyboard produces the @ symbol. So the "
+    "moral of this tale is .... if for example you want to get a \" symbol generated, then find it on your "
+    "keyboard, and use SHF key where key is the symbol below the \" symbol. On a British keyboard then, SHF "
+    "2 will give me the desired \" symbol.",
     BoxIcon::Information};
 
-constexpr auto kDelay = &RAWform::mnuDelayValue_Click;
+constexpr const char* kDelays[] = {"20", "40", "60", "80", "100", "150", "200", "300", "400", "500"};
+
 constexpr MenuRow<RAWform> kMenus[] = {
     {0, "mnuFile", "&File"},
     {1, "mnuFileClose", "&Close Pimlet", "", &RAWform::mnuFileClose_Click},
     {0, "mnuDelay", "Delay"},
-    {1, "mnuDelayValue", "20", "", nullptr, 0, kDelay},
-    {1, "mnuDelayValue", "40", "", nullptr, 1, kDelay},
-    {1, "mnuDelayValue", "60", "", nullptr, 2, kDelay},
-    {1, "mnuDelayValue", "80", "", nullptr, 3, kDelay},
-    {1, "mnuDelayValue", "100", "", nullptr, 4, kDelay},
-    {1, "mnuDelayValue", "150", "", nullptr, 5, kDelay},
-    {1, "mnuDelayValue", "200", "", nullptr, 6, kDelay},
-    {1, "mnuDelayValue", "300", "", nullptr, 7, kDelay},
-    {1, "mnuDelayValue", "400", "", nullptr, 8, kDelay},
-    {1, "mnuDelayValue", "500", "", nullptr, 9, kDelay},
+    MenuArray(1, "mnuDelayValue", kDelays, &RAWform::mnuDelayValue_Click),
     {0, "mnuColourPaste", "Colour paste"},
     {1, "mnuPasteJ", "Paste into joystick file", "", &RAWform::mnuPasteJ_Click},
     {1, "mnuPasteM", "Paste into macro file", "", &RAWform::mnuPasteM_Click},
@@ -99,11 +83,9 @@ void Attach(const ControlArray<CommandButton>& buttons, RAWform& form, void (RAW
 }  // namespace
 
 RAWform::RAWform(Workbench& bench, Shell& shell)
-    : Form("RAWform"),
+    : ToolForm("RAWform", bench, shell),
       TotalCombinedText(*this, "TotalCombinedText", bench.platform.files),
-      menus(*this, kMenus),
-      bench_(bench),
-      shell_(shell) {
+      menus(*this, kMenus) {
   Caption = "Pimlet - the Thrustmaster key syntax and RAW code generator";
   Width = kWidth;
   Height = kHeight;
@@ -150,12 +132,8 @@ void RAWform::AttachHandlers() {
   CheckUseSHFUK.Click = [this] { CheckUseSHFUK_Click(); };
   CheckAddCRPimlet.Click = [this] { CheckAddCRPimlet_Click(); };
   Check1.Click = [this] { Check1_Click(); };
-  Command2.Click = [this] { Command2_Click(); };
   Command4.Click = [this] { Command4_Click(); };
   Command5.Click = [this] { Command5_Click(); };
-  Command6.Click = [this] { Command6_Click(); };
-  Command7.Click = [this] { Command7_Click(); };
-  Command11.Click = [this] { Command11_Click(); };
   Attach(Command3, *this, &RAWform::Command3_Click);
   Attach(Command9, *this, &RAWform::Command9_Click);
   Attach(Command10, *this, &RAWform::Command10_Click);

@@ -20,16 +20,13 @@ bool IsOn(char letter, const std::string& path) { return LowerCase(path).starts_
 
 }  // namespace
 
-DrivesForm::DrivesForm(Workbench& bench, Shell& shell) : Form("DrivesForm"), bench_(bench), shell_(shell) {
+DrivesForm::DrivesForm(Workbench& bench, Shell& shell) : ToolForm("DrivesForm", bench, shell) {
   Caption = "Drives";
   Label1.Caption = kAbout;
   Label1.BackColor = ToggleLabel::kOff;
   Command1.ToolTipText = "Choose the folder that the drive stands for";
-  Command1.Click = [this] { Command1_Click(); };
-  Command2.Click = [this] { Command2_Click(); };
   Command3.MakeDefault();
   Command3.Cancel = true;
-  Command3.Click = [this] { shell_.Unload(*this); };
   Command4.Click = [this] { ShowHelp(bench_.platform, topic::kDrives); };
   List1.DblClick = [this] {
     if (Command1.Enabled) Command1_Click();
@@ -78,8 +75,7 @@ void DrivesForm::List1_Click() {
 bool DrivesForm::MayChange(char letter) {
   const std::string drive = DriveOf(letter);
   const auto refuse = [&](const std::string& why) {
-    bench_.platform.dialogs.Show(
-        {"Drive " + drive + " is in use", why, BoxIcon::Exclamation, BoxButtons::Ok});
+    bench_.platform.dialogs.Show({"Drive " + drive + " is in use", why, BoxIcon::Exclamation});
     return false;
   };
   if (IsOn(letter, bench_.platform.folder)) {
@@ -97,8 +93,8 @@ bool DrivesForm::MayChange(char letter) {
   for (const std::string& path : open) {
     if (IsOn(letter, path)) {
       return refuse(path +
-                    " is open, and the next time I save it it would land in the wrong folder. "
-                    "Open another file first, or save this one on another drive.");
+                    " is open, and the next time I save it it would land in the wrong folder. Open another "
+                    "file first, or save this one on another drive.");
     }
   }
   return true;
@@ -116,7 +112,7 @@ void DrivesForm::Command1_Click() {
   platform.dialogs.Show({"Couldn't locate the folder",
                          "Hmmm...I couldn't find that folder - I was looking for it here: " +
                              FromUtf8(*folder) + ". Drive " + drive + " stays as it was.",
-                         BoxIcon::Exclamation, BoxButtons::Ok});
+                         BoxIcon::Exclamation});
 }
 
 void DrivesForm::Command2_Click() {

@@ -3,19 +3,19 @@
 #pragma once
 
 #include "controls/Controls.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class DrivesForm : public Form {
+class DrivesForm : public ToolForm {
  public:
   explicit DrivesForm(Workbench& bench, Shell& shell);
 
   Label Label1{*this, "Label1"};
   ListBox List1{*this, "List1"};  ///< every letter, with its folder where it has one
-  CommandButton Command1{*this, "Command1", "&Folder..."};
-  CommandButton Command2{*this, "Command2", "&Remove"};
-  CommandButton Command3{*this, "Command3", "OK"};
+  CommandButton Command1{*this, "Command1", "&Folder...", &DrivesForm::Command1_Click};
+  CommandButton Command2{*this, "Command2", "&Remove", &DrivesForm::Command2_Click};
+  CommandButton Command3{*this, "Command3", "OK", &DrivesForm::Close};
   CommandButton Command4{*this, "Command4", "Help"};
 
   void Form_Load();
@@ -32,8 +32,6 @@ class DrivesForm : public Form {
   bool MayChange(char letter);
   void Store(char letter, const std::string& folder);
 
-  Workbench& bench_;
-  Shell& shell_;
   std::vector<Connection> connections_;
 };
 

@@ -46,10 +46,8 @@ void NameEach(const Controls& controls, const char* const (&captions)[N]) {
 }  // namespace
 
 Preferences::Preferences(Workbench& bench, Shell& shell)
-    : Form("Preferences"),
+    : ToolForm("Preferences", bench, shell),
       ExampleJoystickText(*this, "ExampleJoystickText", bench.platform.files),
-      bench_(bench),
-      shell_(shell),
       settings_(bench.settings),
       favourites_(bench, {.list = bench.lists.Favourites,
                           .rows = List2,
@@ -105,8 +103,6 @@ void Preferences::NameControls() {
 void Preferences::AttachHandlers() {
   Command3.MakeDefault();
   Command3.Cancel = true;  // Escape stores as well
-  Command3.Click = [this] { shell_.Unload(*this); };
-  Command6.Click = [this] { Command6_Click(); };
   SSTab1.Click = [this] { SSTab1_Click(); };
   Text1.Change = [this] { settings_.B50LoadPath = Text1.Text.Get(); };
   Text2.Change = [this] { Text2_Change(); };
@@ -132,8 +128,6 @@ void Preferences::AttachHandlers() {
   };
   List1.DblClick = [this] { List1_Click(); };  // the Enter key
   CheckBox1.Click = [this] { settings_.ApplyColoursOnFileOpen = CheckBox1.Value; };
-  Command17.Click = [this] { Command17_Click(); };
-  Command18.Click = [this] { DoTheFonts(); };
   Load = [this] { Form_Load(); };
   Activate = [this] { Form_Activate(); };
   Unload = [this] { Form_Unload(); };
@@ -237,8 +231,6 @@ void Preferences::SSTab1_Click() {
   }
 }
 
-void Preferences::Say(const std::string& text) { bench_.documents.status.Panels(1).Text = text; }
-
 void Preferences::Command6_Click() { ShowHelp(bench_.platform, topic::kPreferencesPages[SSTab1.Tab]); }
 
 // File locations.
@@ -283,10 +275,9 @@ void Preferences::AttachApps() {
     use.Caption = "In the menu";
     use.Value = app.use == 1 ? 1 : 0;
     CustomAppPathBrowse.Load(row).Caption = "Browse";
-    Browse(
-        CustomAppPathBrowse(row), path, "Locate program",
-        "Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat|Help files (*.hlp)|*.hlp|Control panel applets "
-        "(*.cpl)|*.cpl|All files (*.*)|*.*");
+    Browse(CustomAppPathBrowse(row), path, "Locate program",
+           "Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat|Help files (*.hlp)|*.hlp|Control panel "
+           "applets (*.cpl)|*.cpl|All files (*.*)|*.*");
     const auto take = [this, &app, &name, &path] {
       app.name = name.Text.Get();
       app.path = path.Text.Get();
@@ -356,7 +347,7 @@ void Preferences::Text3_Change() {
   settings_.AutoSaveTime = std::max(minutes, 1);
   if (minutes >= 1) return;
   Text3.Text = std::string("1");
-  bench_.platform.dialogs.Show({"Tarvik", kAutoSaveInvalid, BoxIcon::None, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({"Tarvik", kAutoSaveInvalid});
 }
 
 void Preferences::Text3_LostFocus() {

@@ -4,11 +4,11 @@
 
 #include "panes/Pane.h"
 #include "tools/preferences/KeptListPage.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class Preferences : public Form {
+class Preferences : public ToolForm {
  public:
   explicit Preferences(Workbench& bench, Shell& shell);
 
@@ -34,8 +34,8 @@ class Preferences : public Form {
   Pane ExampleJoystickText;
   CheckBox CheckBox1{*this, "CheckBox1", "Apply when opening files"};
   CheckBox CheckFixedPitch{*this, "CheckFixedPitch", "Show fixed pitch fonts only"};
-  CommandButton Command17{*this, "Command17", "Tip: fixed pitch fonts"};
-  CommandButton Command18{*this, "Command18", "Change font"};
+  CommandButton Command17{*this, "Command17", "Tip: fixed pitch fonts", &Preferences::Command17_Click};
+  CommandButton Command18{*this, "Command18", "Change font", &Preferences::DoTheFonts};
 
   // Apps.
   TextBox Text5{*this, "Text5"};  ///< the first picture of the image viewer
@@ -88,8 +88,8 @@ class Preferences : public Form {
   ControlArray<CheckBox> CheckFlattenToolbar{*this, "CheckFlattenToolbar", 3};
   TextBox DLYText{*this, "DLYText"};
 
-  CommandButton Command3{*this, "Command3", "OK"};
-  CommandButton Command6{*this, "Command6", "Help"};
+  CommandButton Command3{*this, "Command3", "OK", &Preferences::Close};
+  CommandButton Command6{*this, "Command6", "Help", &Preferences::Command6_Click};
 
   void Form_Load();
   void Form_Activate();
@@ -135,11 +135,8 @@ class Preferences : public Form {
   void PaintExample(std::string_view word, std::string_view end, Colour colour);
   void AttachApps();
   void AttachLists();
-  void Say(const std::string& text);
   [[nodiscard]] std::vector<Tick> Ticks();
 
-  Workbench& bench_;
-  Shell& shell_;
   Settings& settings_;
   KeptListPage favourites_;
   KeptListPage games_;

@@ -121,7 +121,7 @@ void Preferences::DoTheFonts() {
 }
 
 void Preferences::Command17_Click() {
-  bench_.platform.dialogs.Show({kFixedPitchTitle, kFixedPitch, BoxIcon::Information, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({kFixedPitchTitle, kFixedPitch, BoxIcon::Information});
 }
 
 void Preferences::SaveColourScheme() {

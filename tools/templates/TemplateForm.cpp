@@ -48,12 +48,8 @@ constexpr MenuRow<TemplateForm> kMenus[] = {
     {1, "mnuViewEditColours", "Edit &colours ...", "", &TemplateForm::mnuViewEditColours_Click},
     {1, "mnuViewDivider1", "-"},
     {1, "mnuViewrefreshLayout", "&Refresh layout", "Ctrl+H", &TemplateForm::mnuViewrefreshLayout_Click},
-    // Windows of their own have nothing to be arranged in.
     {0, "mnuWindow", "&Window"},
-    {1, "mnuWindowCascade", "&Cascade", "", nullptr, 0},
-    {1, "mnuWindowCascade", "Tile &horizontally", "", nullptr, 1},
-    {1, "mnuWindowCascade", "Tile &vertically", "", nullptr, 2},
-    {1, "mnuWindowCascade", "&Arrange icons", "", nullptr, 3},
+    MenuArray<TemplateForm>(1, "mnuWindowCascade", kArrangements),
     {0, "mnuHelp", "&Help"},
     {1, "mnuOverview", "&Overview", "", &TemplateForm::mnuOverview_Click},
 
@@ -87,11 +83,9 @@ std::string NameIn(const std::string& path) { return path.substr(path.rfind('\\'
 }  // namespace
 
 TemplateForm::TemplateForm(Workbench& bench, Shell& shell)
-    : Form("TemplateForm"),
+    : ToolForm("TemplateForm", bench, shell),
       menus(*this, kMenus),
-      TemplateText(*this, "TemplateText", bench.platform.files),
-      bench_(bench),
-      shell_(shell) {
+      TemplateText(*this, "TemplateText", bench.platform.files) {
   Caption = "Template Editor";
   menus("mnuPopShow").Visible = false;
   Text1.ToolTipText = "The file's name; a name typed here is a template's";
@@ -118,9 +112,7 @@ void TemplateForm::AttachHandlers() {
   KeyDown = [](Key& key) {
     if (key.code == kEscape) key = {};
   };
-  Command2.Click = [this] { Command2_Click(); };
   CmndPrint.ToolTipText = "Print (Ctrl+P)";
-  CmndPrint.Click = [this] { mnuFilePrint_Click(); };
   ToggleButton1.Click = [this] { ToggleButton1_Click(); };
   Text1.LostFocus = [this] { Text1_LostFocus(); };
   TemplateText.GotFocus = [this] { TemplateText_GotFocus(); };
@@ -136,8 +128,6 @@ void TemplateForm::AttachHandlers() {
       TemplateChanged.Changed.Connect([this] { Unsaved = TemplateChanged == 1; }),
   };
 }
-
-void TemplateForm::Say(const std::string& text) { bench_.documents.status.Panels(1).Text = text; }
 
 // Life of the form.
 
@@ -298,7 +288,7 @@ void TemplateForm::mnuFileLoadDefault_Click() {
   bench_.platform.dialogs.Show(
       {"Have a beer instead",
        "You don't have a default template to open. You can set one here or in Preferences.",
-       BoxIcon::Information, BoxButtons::Ok});
+       BoxIcon::Information});
 }
 
 void TemplateForm::mnuEditTarvikini_Click() {
@@ -310,7 +300,7 @@ void TemplateForm::mnuEditTarvikini_Click() {
   if (!bench_.platform.files.FileExists(path)) {
     bench_.platform.dialogs.Show({"Couldn't locate Tarvik.ini",
                                   "Hmmm...I couldn't find your ini file - I was looking for it here: " + path,
-                                  BoxIcon::Exclamation, BoxButtons::Ok});
+                                  BoxIcon::Exclamation});
     return;
   }
   if (LoadText(path, trap)) ShowName(kIniName);

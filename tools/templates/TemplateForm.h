@@ -5,11 +5,11 @@
 #include "controls/Menu.h"
 #include "panes/Pane.h"
 #include "workbench/ColourChoices.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class TemplateForm : public Form {
+class TemplateForm : public ToolForm {
  public:
   /// The members of Command1.
   enum Command { kOpen, kSave, kNew, kCommands };
@@ -20,8 +20,8 @@ class TemplateForm : public Form {
   Pane TemplateText;
   TextBox Text1{*this, "Text1"};  ///< the file's name
   ControlArray<CommandButton> Command1{*this, "Command1", kCommands};
-  CommandButton Command2{*this, "Command2", "Default"};
-  CommandButton CmndPrint{*this, "CmndPrint", "Print"};
+  CommandButton Command2{*this, "Command2", "Default", &TemplateForm::Command2_Click};
+  CommandButton CmndPrint{*this, "CmndPrint", "Print", &TemplateForm::mnuFilePrint_Click};
   Label Label1{*this, "Label1"};
   NamedControls<Label> swatches{*this};  ///< ColourLabel1 to ColourLabel6
   ToggleLabel ToggleButton1{*this, "ToggleButton1", "Word wrap"};
@@ -80,7 +80,6 @@ class TemplateForm : public Form {
  private:
   void EditPreferences(int page);
   void AttachHandlers();
-  void Say(const std::string& text);
   /// Asks about unsaved work, which goes when the user says so.
   bool MayLeave(const char* question, const char* refused);
   bool MayOpen(const char* question);
@@ -96,8 +95,6 @@ class TemplateForm : public Form {
   void New();
   void UpdateCopyItems();
 
-  Workbench& bench_;
-  Shell& shell_;
   std::vector<Connection> connections_;
 };
 

@@ -25,16 +25,12 @@ std::string InCodePage(std::string text) {
 }  // namespace
 
 frmTip::frmTip(Workbench& bench, Shell& shell)
-    : Form("frmTip"),
-      bench_(bench),
-      shell_(shell),
+    : ToolForm("frmTip", bench, shell),
       random_(static_cast<unsigned>(std::chrono::system_clock::now().time_since_epoch().count())) {
   Caption = "Tip of the Day";
   Label1.Caption = "Did you know...";
   for (Label* const label : {&Label1, &lblTipText}) label->BackColor = ToggleLabel::kOff;
   cmdOK.MakeDefault();
-  cmdOK.Click = [this] { cmdOK_Click(); };
-  cmdNextTip.Click = [this] { cmdNextTip_Click(); };
   Load = [this] { Form_Load(); };
 }
 
@@ -75,24 +71,20 @@ void frmTip::cmdOK_Click() {
   shell_.Unload(*this);
 }
 
-frmAbout::frmAbout(Workbench& bench, Shell& shell) : Form("frmAbout"), bench_(bench), shell_(shell) {
+frmAbout::frmAbout(Workbench& bench, Shell& shell) : ToolForm("frmAbout", bench, shell) {
   Caption = "About Tarvik";
   lblVersion.Caption = kVersion;
   lblDescription.Caption = kDescription;
   for (Label* const label : {&lblVersion, &lblDescription}) label->BackColor = ToggleLabel::kOff;
   cmdOK.MakeDefault();
   cmdOK.Cancel = true;
-  cmdOK.Click = [this] { shell_.Unload(*this); };
-  cmdSysInfo.Click = [this] { cmdSysInfo_Click(); };
   cmdLog.ToolTipText = "What went wrong, for somebody who looks for a fault";
-  cmdLog.Click = [this] { shell_.Show(ToolId::Log); };
   Load = [this] { Form_Load(); };
 }
 
 void frmAbout::cmdSysInfo_Click() {
   if (Ignore(bench_.platform.desktop.ShowSystemInformation())) return;
-  bench_.platform.dialogs.Show(
-      {"Tarvik", "System Information Is Unavailable At This Time", BoxIcon::None, BoxButtons::Ok});
+  bench_.platform.dialogs.Show({"Tarvik", "System Information Is Unavailable At This Time"});
 }
 
 }  // namespace tarvik

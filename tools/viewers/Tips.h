@@ -4,20 +4,20 @@
 #include <random>
 
 #include "controls/Controls.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
 /// Shows a line of the tips file, drawn at random, and says whether tips come at the start.
-class frmTip : public Form {
+class frmTip : public ToolForm {
  public:
   explicit frmTip(Workbench& bench, Shell& shell);
 
   Label Label1{*this, "Label1"};
   Label lblTipText{*this, "lblTipText"};
   CheckBox chkLoadTipsAtStartup{*this, "chkLoadTipsAtStartup", "&Show Tips at Startup"};
-  CommandButton cmdNextTip{*this, "cmdNextTip", "&Next Tip"};
-  CommandButton cmdOK{*this, "cmdOK", "&OK"};
+  CommandButton cmdNextTip{*this, "cmdNextTip", "&Next Tip", &frmTip::cmdNextTip_Click};
+  CommandButton cmdOK{*this, "cmdOK", "&OK", &frmTip::cmdOK_Click};
 
   /// 1-based; 0 where there are no tips.
   Property<int> CurrentTip{*this, "CurrentTip", 0};
@@ -31,28 +31,23 @@ class frmTip : public Form {
   void DisplayCurrentTip();
 
  private:
-  Workbench& bench_;
-  Shell& shell_;
   std::vector<std::string> tips_;
   std::minstd_rand random_;
 };
 
-class frmAbout : public Form {
+class frmAbout : public ToolForm {
  public:
   explicit frmAbout(Workbench& bench, Shell& shell);
 
   Label lblVersion{*this, "lblVersion"};
   Label lblDescription{*this, "lblDescription"};
-  CommandButton cmdOK{*this, "cmdOK", "&OK"};
-  CommandButton cmdSysInfo{*this, "cmdSysInfo", "&System Info..."};
-  CommandButton cmdLog{*this, "cmdLog", "&Log..."};
+  CommandButton cmdOK{*this, "cmdOK", "&OK", &frmAbout::Close};
+  CommandButton cmdSysInfo{*this, "cmdSysInfo", "&System Info...", &frmAbout::cmdSysInfo_Click};
+  CommandButton cmdLog{*this, "cmdLog", "&Log...", &frmAbout::cmdLog_Click};
 
   void Form_Load() { Topmost = true; }
   void cmdSysInfo_Click();
-
- private:
-  Workbench& bench_;
-  Shell& shell_;
+  void cmdLog_Click() { shell_.Show(ToolId::Log); }
 };
 
 }  // namespace tarvik

@@ -20,12 +20,8 @@ constexpr MenuRow<ViewImage> kMenus[] = {
     {1, "mnuImageLoad", "&Open", "", &ViewImage::mnuImageLoad_Click},
     {1, "mnuImageRefresh", "&Refresh", "", &ViewImage::mnuImageRefresh_Click},
     {1, "mnuImageEdit", "&Edit", "", &ViewImage::mnuImageEdit_Click},
-    // Windows of their own have nothing to be arranged in.
     {0, "mnuImageViewerWindow", "&Window"},
-    {1, "mnuArrange", "&Cascade", "", nullptr, 0},
-    {1, "mnuArrange", "Tile &horizontally", "", nullptr, 1},
-    {1, "mnuArrange", "Tile &vertically", "", nullptr, 2},
-    {1, "mnuArrange", "&Arrange icons", "", nullptr, 3},
+    MenuArray<ViewImage>(1, "mnuArrange", kArrangements),
     {0, "mnuHelp", "&Help"},
     {1, "mnuHelpViewer", "&Image viewer", "", &ViewImage::mnuHelpViewer_Click},
 };
@@ -43,7 +39,7 @@ void LoadInto(ImageBox& image, const std::string& path, const Files& files) {
 }  // namespace
 
 ViewImage::ViewImage(Workbench& bench, Shell& shell)
-    : Form("ViewImage"), menus(*this, kMenus), bench_(bench), shell_(shell) {
+    : ToolForm("ViewImage", bench, shell), menus(*this, kMenus) {
   Caption = "Image viewer";
   ScaleWidth = kInside;
   ScaleHeight = kInside;
@@ -68,10 +64,11 @@ bool ViewImage::ShowPicture() {
     LoadInto(Image1, path, bench_.platform.files);
     return true;
   }
-  bench_.platform.dialogs.Show({"Image file not found",
-                                path + " does not exist. Select Open from the Image menu to ensure the "
-                                       "correct path to the image file.",
-                                BoxIcon::Exclamation, BoxButtons::Ok});
+  bench_.platform.dialogs.Show(
+      {"Image file not found",
+       path +
+           " does not exist. Select Open from the Image menu to ensure the correct path to the image file.",
+       BoxIcon::Exclamation});
   return false;
 }
 
@@ -91,15 +88,13 @@ void ViewImage::mnuHelpViewer_Click() { ShowHelp(bench_.platform, topic::kImageV
 // The picker.
 
 SelectPictureForm::SelectPictureForm(Workbench& bench, Shell& shell)
-    : Form("SelectPictureForm"), bench_(bench), shell_(shell) {
+    : ToolForm("SelectPictureForm", bench, shell) {
   Caption = "Select a picture";
   Drive1.ToolTipText = "Drive";
   Dir1.ToolTipText = "Double click a folder to open it";
   Label1.BackColor = ToggleLabel::kOff;
   Command1.Cancel = true;
-  Command1.Click = [this] { shell_.Unload(*this); };
   Command2.MakeDefault();
-  Command2.Click = [this] { Command2_Click(); };
   Drive1.Click = [this] { Drive1_Change(); };
   Dir1.DblClick = [this] { Dir1_DblClick(); };
   File1.DblClick = [this] { Command2_Click(); };

@@ -3,11 +3,11 @@
 
 #include "controls/ImageBox.h"
 #include "controls/Menu.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class ViewImage : public Form {
+class ViewImage : public ToolForm {
  public:
   explicit ViewImage(Workbench& bench, Shell& shell);
 
@@ -30,12 +30,9 @@ class ViewImage : public Form {
  private:
   /// Shows the picture that is set, or says that it is missing: false.
   bool ShowPicture();
-
-  Workbench& bench_;
-  Shell& shell_;
 };
 
-class SelectPictureForm : public Form {
+class SelectPictureForm : public ToolForm {
  public:
   explicit SelectPictureForm(Workbench& bench, Shell& shell);
 
@@ -45,8 +42,8 @@ class SelectPictureForm : public Form {
   ListBox File1{*this, "File1"};
   ImageBox ImagePreview{*this, "ImagePreview"};
   Label Label1{*this, "Label1"};  ///< the picked file
-  CommandButton Command1{*this, "Command1", "Cancel"};
-  CommandButton Command2{*this, "Command2", "OK"};
+  CommandButton Command1{*this, "Command1", "Cancel", &SelectPictureForm::Close};
+  CommandButton Command2{*this, "Command2", "OK", &SelectPictureForm::Command2_Click};
 
   /// Of Dir1.
   Property<std::string> Path{*this, "Path"};
@@ -60,8 +57,6 @@ class SelectPictureForm : public Form {
  private:
   void ShowFolder(const std::string& path);
 
-  Workbench& bench_;
-  Shell& shell_;
   std::vector<std::string> folders_;  // of the rows of Dir1
   std::vector<Connection> connections_;
 };
