@@ -114,13 +114,8 @@ void InsertTitle(Workbench& /*bench*/, Shell& shell) { shell.ShowModal(shell.Too
 Heading::Heading(Workbench& bench, Shell& shell) : ToolForm("Heading", bench, shell) {
   Caption = " Insert heading";
   Topmost = true;
-  Command1(0).Caption = "OK";
   Command1(0).MakeDefault();
-  Command1(1).Caption = "Cancel";
   Command1(1).Cancel = true;
-  for (const int i : {0, 1}) {
-    Command1(i).Click = [this, i] { Command1_Click(i); };
-  }
   for (const char* const heading : MacroHeadings()) Combo1.AddItem(heading);
 }
 

@@ -37,7 +37,7 @@ class Heading : public ToolForm {
   explicit Heading(Workbench& bench, Shell& shell);
 
   EntryBox Combo1{*this, "Combo1"};
-  ControlArray<CommandButton> Command1{*this, "Command1", 2};
+  ControlArray<CommandButton> Command1{*this, "Command1", {"OK", "Cancel"}, &Heading::Command1_Click};
 
   void Command1_Click(int index);
 };

@@ -77,13 +77,11 @@ InsertOptions::InsertOptions(Workbench& bench, Shell& shell)
 }
 
 void InsertOptions::MakeFrame() {
-  constexpr const char* kCaptions[] = {"Pimlet", "Prefs", "Find IP"};
   constexpr const char* kTips[] = {"Show Pimlet - the Keyboard and RAW code generator",
                                    "Edit your preferences",
                                    "Locate insertion point in the currently selected file"};
   constexpr const char* kEntries[] = {"mnuInsertRAW", "mnuPreferencesEdit", "mnuViewHighlightLine"};
   for (int i = 0; i < Command5.Count(); ++i) {
-    Command5(i).Caption = kCaptions[i];
     Command5(i).ToolTipText = kTips[i];
     Command5(i).Enabled = shell_.Command(kEntries[i]).Enabled;
     Command5(i).Click = [this, entry = kEntries[i], i] {

@@ -36,7 +36,8 @@ class InsertOptions : public ToolForm {
   TextBox RemTextBox{*this, "RemTextBox"};
   CommandButton CommandREM{*this, "CommandREM", "Insert", &InsertOptions::CommandREM_Click};
   CommandButton Command10{*this, "Command10", "Clear"};
-  ControlArray<CommandButton> Command7{*this, "Command7", 2};
+  ControlArray<CommandButton> Command7{
+      *this, "Command7", {"Insert Carriage Return", "Spaces"}, &InsertOptions::Command7_Click};
   CheckBox CheckAlwaysInsert{*this, "CheckAlwaysInsert", "Always insert BTN statement"};
   CheckBox HighlightStatement{*this, "HighlightStatement", "Highlight definitions "};  ///< without effect
 
@@ -59,7 +60,10 @@ class InsertOptions : public ToolForm {
   // Templates.
   ListBox Templates{*this, "Templates"};
   Pane TemplatesPreview;
-  ControlArray<CommandButton> Command11{*this, "Command11", 3};
+  ControlArray<CommandButton> Command11{*this,
+                                        "Command11",
+                                        {"Insert into Joystick file", "Insert into Macro file", "Refresh"},
+                                        &InsertOptions::Command11_Click};
 
   // Logic.
   TabPages SSTab7{*this, "SSTab7", {"Toolbox", "Misc"}};
@@ -71,10 +75,13 @@ class InsertOptions : public ToolForm {
   ControlArray<CommandButton> CMDCompare{*this, "CMDCompare", std::size(tables::kCompares)};
   ControlArray<CommandButton> CMDFlagSlash{*this, "CMDFlagSlash", std::size(tables::kFlagSlashes)};
   ControlArray<CommandButton> CMDFlagInsert{*this, "CMDFlagInsert", std::size(tables::kFlagInserts) + 1};
-  ControlArray<CommandButton> Command13{*this, "Command13", 3};
+  ControlArray<CommandButton> Command13{*this,
+                                        "Command13",
+                                        {"Insert all", "Insert current", "Analyse current joystick file"},
+                                        &InsertOptions::Command13_Click};
 
   // Below the pages.
-  ControlArray<CommandButton> Command5{*this, "Command5", 3};
+  ControlArray<CommandButton> Command5{*this, "Command5", {"Pimlet", "Prefs", "Find IP"}};
   CheckBox Check1{*this, "Check1", "Keep on top"};
   CheckBox Check2FocusThang{*this, "Check2FocusThang", "Return focus to Editor"};
   CommandButton Command14{*this, "Command14", "Tip", &InsertOptions::Command14_Click};

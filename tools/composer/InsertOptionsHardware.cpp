@@ -98,11 +98,6 @@ void InsertOptions::MakeBlanksAndComments() {
     blanks.SelectAll();
     Command7(1).MakeDefault();
   };
-  constexpr const char* kCaptions[] = {"Insert Carriage Return", "Spaces"};
-  for (int i = 0; i < Command7.Count(); ++i) {
-    Command7(i).Caption = kCaptions[i];
-    Command7(i).Click = [this, i] { Command7_Click(i); };
-  }
   RemTextBox.GotFocus = [this] { CommandREM.MakeDefault(); };
   Command10.Click = [this] { RemTextBox.Text = std::string(); };
 }

@@ -167,11 +167,6 @@ void InsertOptions::MakeTemplatesPage() {
     constexpr int kRight = 2;
     if (mouse.button == kRight) PopUp("mnuTemplates");
   };
-  constexpr const char* kCaptions[] = {"Insert into Joystick file", "Insert into Macro file", "Refresh"};
-  for (int i = 0; i < Command11.Count(); ++i) {
-    Command11(i).Caption = kCaptions[i];
-    Command11(i).Click = [this, i] { Command11_Click(i); };
-  }
 }
 
 void InsertOptions::FillTemplates() {
@@ -252,10 +247,6 @@ void InsertOptions::MakeLogicPage() {
     caption(CMDFlagInsert(i), "Insert", [this, i] { CMDFlagInsert_Click(i); });
   }
   CMDFlagInsert(CMDFlagInsert.Count() - 1).Caption = "View An0002a.txt";
-  constexpr const char* kCaptions[] = {"Insert all", "Insert current", "Analyse current joystick file"};
-  for (int i = 0; i < Command13.Count(); ++i) {
-    caption(Command13(i), kCaptions[i], [this, i] { Command13_Click(i); });
-  }
   for (int i = 0; i < TxtFlag.Count(); ++i) {
     TxtFlag(i).Text = std::string(tables::kFlagBoxes[i].initial);
     TxtFlag(i).GotFocus = [this, i] { TxtFlag(i).SelectAll(); };

@@ -24,10 +24,6 @@ enum AddKind { kNothing, kText, kRaw };
 constexpr const char* kAddTip = "Paste into the combined selection";
 constexpr const char* kCopyTip = "Copy to the clipboard";
 
-constexpr const char* kSwitchCaptions[RAWform::kSwitches] = {
-    "/P", "/R", "/I", "/O", "/T", "/H", "/A", "Apply colour highlighting", "/N",
-};
-
 const MessageBox kTip = {
     "Keep the Composer in memory for increased speed",
     "If you're using Pimlet a lot, but he keeps getting in the way when you're using the Editor, then don't "
@@ -74,12 +70,6 @@ int OnScreen(int place, int pixels) {
   return place < 0 || static_cast<float>(place) > FromPixels(pixels).count ? kFallbackPlace : place;
 }
 
-void Attach(const ControlArray<CommandButton>& buttons, RAWform& form, void (RAWform::*handler)(int)) {
-  for (int i = 0; i < buttons.Count(); ++i) {
-    buttons(i).Click = [&form, handler, i] { (form.*handler)(i); };
-  }
-}
-
 }  // namespace
 
 RAWform::RAWform(Workbench& bench, Shell& shell)
@@ -105,7 +95,6 @@ void RAWform::MakeKeys() {
 }
 
 void RAWform::SetUpTexts() {
-  for (int i = 0; i < kSwitches; ++i) Command3(i).Caption = kSwitchCaptions[i];
   for (CommandButton* const add : {&Command5, &Command10(0), &Command10(1), &Command10(2)}) {
     add->ToolTipText = kAddTip;
   }
@@ -113,11 +102,7 @@ void RAWform::SetUpTexts() {
   Command4.ToolTipText = "Clear the combined selection contents";
   TotalCombinedText.ToolTipText =
       "Use the Combined text !! It'll make your life much easier! Click in it to insert text into files";
-  CommandINS(0).Caption = "Insert into joystick file";
-  CommandINS(1).Caption = "Insert into macro file";
   CheckUseSHFUK.ToolTipText = "Especially important for non-US keyboard layout";
-  Command14(0).Caption = "Tip";
-  Command14(1).Caption = "Find IP";
   Command14(1).ToolTipText = "Locate insertion point in the currently selected file";
   Command2.ToolTipText = "Hides Pimlet and keeps him in memory for faster recall";
   Command2.MakeDefault();
@@ -134,11 +119,8 @@ void RAWform::AttachHandlers() {
   Check1.Click = [this] { Check1_Click(); };
   Command4.Click = [this] { Command4_Click(); };
   Command5.Click = [this] { Command5_Click(); };
-  Attach(Command3, *this, &RAWform::Command3_Click);
-  Attach(Command9, *this, &RAWform::Command9_Click);
-  Attach(Command10, *this, &RAWform::Command10_Click);
-  Attach(Command14, *this, &RAWform::Command14_Click);
-  Attach(CommandINS, *this, &RAWform::CommandINS_Click);
+  Command9.OnClick(*this, &RAWform::Command9_Click);
+  Command10.OnClick(*this, &RAWform::Command10_Click);
   TotalCombinedText.Change = [this] { TotalCombinedText_Change(); };
   TotalCombinedText.KeyDown = [this](Key& key) { TotalCombinedText_KeyDown(key); };
   Form::Load = [this] { Form_Load(); };

@@ -12,8 +12,6 @@ namespace tarvik {
 
 class RAWform : public ToolForm {
  public:
-  static constexpr int kSwitches = 9;
-
   explicit RAWform(Workbench& bench, Shell& shell);
 
   ControlArray<CommandButton> Command1{*this, "Command1", 0};  ///< a key each, by the number in the key table
@@ -32,16 +30,23 @@ class RAWform : public ToolForm {
   ControlArray<CommandButton> Command10{*this, "Command10", 3};  ///< add make, break, combined codes
   ControlArray<CommandButton> Command9{*this, "Command9", 5};    ///< copy make, break, combined; line; syntax
 
-  ControlArray<CommandButton> Command3{*this, "Command3", kSwitches};
+  ControlArray<CommandButton> Command3{
+      *this,
+      "Command3",
+      {"/P", "/R", "/I", "/O", "/T", "/H", "/A", "Apply colour highlighting", "/N"},
+      &RAWform::Command3_Click};
   CommandButton Command6{*this, "Command6", "DLY()", &RAWform::Command6_Click};
   CommandButton Command7{*this, "Command7", "Rem", &RAWform::Command7_Click};
   Pane TotalCombinedText;  ///< the line being assembled
   CommandButton Command4{*this, "Command4"};
-  ControlArray<CommandButton> CommandINS{*this, "CommandINS", 2};
+  ControlArray<CommandButton> CommandINS{*this,
+                                         "CommandINS",
+                                         {"Insert into joystick file", "Insert into macro file"},
+                                         &RAWform::CommandINS_Click};
   CheckBox CheckAddCRPimlet{*this, "CheckAddCRPimlet", "Add carriage return when inserting"};
 
   CheckBox Check1{*this, "Check1", "Keep on top"};
-  ControlArray<CommandButton> Command14{*this, "Command14", 2};
+  ControlArray<CommandButton> Command14{*this, "Command14", {"Tip", "Find IP"}, &RAWform::Command14_Click};
   CommandButton Command2{*this, "Command2", "OK", &RAWform::Command2_Click};
   Menus menus;
 

@@ -38,11 +38,6 @@ void FillCombo(ComboBox& combo, const Row (&rows)[N], int number) {
   combo.ListIndex = RowOf(rows, number) ? number : -1;
 }
 
-template <class Controls, std::size_t N>
-void NameEach(const Controls& controls, const char* const (&captions)[N]) {
-  for (std::size_t i = 0; i < N; ++i) controls(static_cast<int>(i)).Caption = captions[i];
-}
-
 }  // namespace
 
 Preferences::Preferences(Workbench& bench, Shell& shell)
@@ -76,11 +71,6 @@ Preferences::Preferences(Workbench& bench, Shell& shell)
 }
 
 void Preferences::NameControls() {
-  NameEach(Check3, {"Autosave files every", "Create backup when saving files"});
-  NameEach(CheckFlattenToolbar, {"Flatten toolbar on startup", "Apply colour gradient on startup",
-                                 "Toolbar is wrappable on startup"});
-  NameEach(OptionImagesToShow, {"Your selected controllers", "All Thrustmaster controllers",
-                                "Controllers relevant to the files that are open "});
   Text1.ToolTipText = "Program used to transfer joystick files to joystick";
   Text2.ToolTipText = "Default location for joystick and macro files";
   Text10.ToolTipText = "Batch file that runs Thrustmaster DOS C&&CC";

@@ -73,7 +73,7 @@ class Preferences : public ToolForm {
   CommandButton Command12{*this, "Command12", "Remove"};
 
   // Miscellaneous.
-  ControlArray<CheckBox> Check3{*this, "Check3", 2};
+  ControlArray<CheckBox> Check3{*this, "Check3", {"Autosave files every", "Create backup when saving files"}};
   TextBox Text3{*this, "Text3"};  ///< minutes of autosave
   CheckBox OpenBothChk{*this, "OpenBothChk", "Open button on toolbar opens joystick file and its macro file"};
   CheckBox SaveBothChk{*this, "SaveBothChk", "Save button saves both files"};
@@ -81,11 +81,17 @@ class Preferences : public ToolForm {
   CheckBox CheckUndoSave{*this, "CheckUndoSave", "Clear when file is saved"};
   CheckBox CheckHighlightOnUndo{*this, "CheckHighlightOnUndo", "Highlight line on Undo/Redo"};
   CommandButton Command11{*this, "Command11", "Clear now"};
-  ControlArray<OptionButton> OptionImagesToShow{*this, "OptionImagesToShow", 3};
+  ControlArray<OptionButton> OptionImagesToShow{*this,
+                                                "OptionImagesToShow",
+                                                {"Your selected controllers", "All Thrustmaster controllers",
+                                                 "Controllers relevant to the files that are open "}};
   CheckBox CheckShowTooltips{*this, "CheckShowTooltips", "Show tooltips"};  ///< without effect
   CheckBox CheckAggressive{*this, "CheckAggressive", "Allow aggressive focus"};
   CheckBox CheckIdentify{*this, "CheckIdentify", "Identify macros used in joystick file "};
-  ControlArray<CheckBox> CheckFlattenToolbar{*this, "CheckFlattenToolbar", 3};
+  ControlArray<CheckBox> CheckFlattenToolbar{
+      *this,
+      "CheckFlattenToolbar",
+      {"Flatten toolbar on startup", "Apply colour gradient on startup", "Toolbar is wrappable on startup"}};
   TextBox DLYText{*this, "DLYText"};
 
   CommandButton Command3{*this, "Command3", "OK", &Preferences::Close};
