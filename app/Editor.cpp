@@ -378,18 +378,17 @@ void Editor::UpdateUndoRedoMenus() {
 
 // View.
 
-/// The Insert menu comes without its last two lines.
 void Editor::ShowPopUp(std::string_view name) {
-  if (name == "mnuInsert") ShowQuickTip(false);
+  FitInsertMenu(name);
   PopUp(name);
 }
 
-void Editor::PopUpClosed(std::string_view name) {
-  if (name == "mnuInsert") ShowQuickTip(true);
-}
+void Editor::PopUpClosed(std::string_view /*name*/) { FitInsertMenu({}); }
 
-void Editor::ShowQuickTip(bool show) {
-  for (const char* const entry : {"mnuInsertDivider8", "mnuInsertQuickTip"}) menus(entry).Visible = show;
+void Editor::FitInsertMenu(std::string_view popUp) {
+  for (const char* const entry : {"mnuInsertDivider8", "mnuInsertQuickTip"}) {
+    menus(entry).Visible = popUp != "mnuInsert";
+  }
 }
 
 void Editor::TabStrip1_Click() {

@@ -243,7 +243,8 @@ class Editor : public Form {
   void FirstTimeFlow();
   void ShowPopUp(std::string_view name);
   bool FindNext(const Document& document);
-  void ShowQuickTip(bool show);
+  /// The Insert menu comes without its last two lines where it pops up.
+  void FitInsertMenu(std::string_view popUp);
   /// In what's-this mode a click asks for help instead, and ends the mode.
   void HelpOnWhatsThis(int topic);
   void StepThroughHistory(void (UndoHistory::*step)());

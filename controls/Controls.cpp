@@ -111,10 +111,10 @@ std::string ListBox::ColourLines() const {
   return lines;
 }
 
-std::string ListBox::Lines(bool tickedOnly) const {
+std::string ListBox::TickedLines() const {
   std::string lines;
   for (std::size_t i = 0; i < items_.size(); ++i) {
-    if (!tickedOnly || ticks_[i]) AddLine(lines, items_[i]);
+    if (ticks_[i]) AddLine(lines, items_[i]);
   }
   return lines;
 }

@@ -221,6 +221,7 @@ class ToggleLabel : public Label {
     Caption = std::move(caption);
   }
   [[nodiscard]] bool On() const { return BackColor == kOn; }
+  void TurnOn() { BackColor = kOn; }
   void Turn(bool on) { BackColor = on ? kOn : kOff; }
 };
 
@@ -271,8 +272,8 @@ class ListBox : public Control {
   [[nodiscard]] const std::vector<Colour>& Colours() const { return colours_; }
 
   Property<int> ListIndex{*this, "ListIndex", -1};
-  Attribute<std::string> Items{*this, "Items", [this] { return Lines(false); }};
-  Attribute<std::string> Ticked{*this, "Ticked", [this] { return Lines(true); }};
+  Attribute<std::string> Items{*this, "Items", [this] { return Lines(items_); }};
+  Attribute<std::string> Ticked{*this, "Ticked", [this] { return TickedLines(); }};
   Attribute<int> Count{*this, "ListCount", [this] { return ListCount(); }};
   Attribute<std::string> Swatches{*this, "Swatches", [this] { return ColourLines(); }};
   Event<> DblClick{*this, "DblClick"};
@@ -285,7 +286,7 @@ class ListBox : public Control {
   Signal<> ColoursChanged;
 
  private:
-  [[nodiscard]] std::string Lines(bool tickedOnly) const;
+  [[nodiscard]] std::string TickedLines() const;
   [[nodiscard]] std::string ColourLines() const;
 
   std::vector<std::string> items_;

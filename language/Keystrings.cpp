@@ -27,16 +27,16 @@ constexpr Wrap kUnshift = {"#E0 #F0 #12 ", " #E0 #12"};
 
 std::string Text(std::string_view text) { return std::string(text); }
 
-/// The key's own text. True beside it: Shift is told by the face.
+/// The key's own text, and what tells of Shift beside it.
 struct Named {
   std::string text;
-  bool byFace = false;
+  ShiftInKeyText shift = ShiftInKeyText::No;
 };
 
 Named Name(const KeyRow& row, std::string_view caption, const Naming& naming) {
   if (row.mark == Mark::Aux && naming.JoyName == kF22Pro) return {"AUX" + Text(row.name)};
   if (row.mark != Mark::Face || naming.UseSHF) return {Text(row.name)};
-  return {row.key == kSeven ? "&" : Text(caption), true};
+  return {row.key == kSeven ? "&" : Text(caption), ShiftInKeyText::Yes};
 }
 
 void Surround(Keystrings& keys, const Wrap& wrap) {
@@ -51,7 +51,7 @@ void AddModifiers(Keystrings& keys, const KeyRow& row, const Held& held) {
     keys.MakeCode.insert(0, kLockMake);
     keys.BreakCode.insert(0, kLockBreak);
   }
-  if (GetModifier(held, false) == kAltShift) return;  // these two alone leave the codes bare
+  if (GetModifier(held, ShiftInKeyText::No) == kAltShift) return;  // these two alone leave the codes bare
   if (held.shift) Surround(keys, unshifts ? kUnshift : kShift);
   if (held.alt) Surround(keys, kAlt);
   if (held.ctrl) Surround(keys, kCtrl);
@@ -59,8 +59,9 @@ void AddModifiers(Keystrings& keys, const KeyRow& row, const Held& held) {
 
 }  // namespace
 
-std::string GetModifier(const Held& held, bool ShiftInKeyText) {
-  const int sum = (held.shift && !ShiftInKeyText ? 1 : 0) + (held.ctrl ? 2 : 0) + (held.alt ? 4 : 0);
+std::string GetModifier(const Held& held, ShiftInKeyText shift) {
+  const int sum =
+      (held.shift && shift == ShiftInKeyText::No ? 1 : 0) + (held.ctrl ? 2 : 0) + (held.alt ? 4 : 0);
   return Text(kModifiers[sum]);
 }
 
@@ -69,7 +70,7 @@ Keystrings GetKeystrings(const KeyRow& row, std::string_view caption, const Held
   const Named named = Name(row, caption, naming);
   Keystrings keys = {named.text, Text(row.make), Text(row.breaks), {}};
   if (row.name != kNotSupported) {
-    keys.KeyText.insert(0, GetModifier(held, named.byFace));
+    keys.KeyText.insert(0, GetModifier(held, named.shift));
     AddModifiers(keys, row, held);
   }
   keys.CombinedCode = keys.MakeCode + " " + keys.BreakCode;

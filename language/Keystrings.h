@@ -31,8 +31,11 @@ struct Keystrings {
   bool operator==(const Keystrings&) const = default;
 };
 
+/// Whether the text of the key tells that Shift is held; else a word of its own does.
+enum class ShiftInKeyText { No, Yes };
+
 /// The words for what is held; Shift is left out where the key's own text tells it.
-[[nodiscard]] std::string GetModifier(const Held& held, bool ShiftInKeyText);
+[[nodiscard]] std::string GetModifier(const Held& held, ShiftInKeyText shift);
 
 /// `caption` is the key's face as it is on show.
 [[nodiscard]] Keystrings GetKeystrings(const KeyRow& row, std::string_view caption, const Held& held,

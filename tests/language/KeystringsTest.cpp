@@ -169,7 +169,7 @@ TEST(Keystrings, AltWithShiftAloneLacksItsBlankAndItsBytes) {
 }
 
 TEST(Keystrings, ModifiersGoDownCtrlAltShiftAndComeUpInReverse) {
-  const auto names = [](const Held& held) { return GetModifier(held, false); };
+  const auto names = [](const Held& held) { return GetModifier(held, ShiftInKeyText::No); };
   EXPECT_EQ(names({}), "");
   EXPECT_EQ(names({.shift = true}), "SHF ");
   EXPECT_EQ(names({.ctrl = true}), "CTL ");
@@ -178,7 +178,7 @@ TEST(Keystrings, ModifiersGoDownCtrlAltShiftAndComeUpInReverse) {
   EXPECT_EQ(names({.shift = true, .alt = true}), "ALT SHF");
   EXPECT_EQ(names({.ctrl = true, .alt = true}), "CTL ALT ");
   EXPECT_EQ(names({.shift = true, .ctrl = true, .alt = true}), "CTL ALT SHF ");
-  EXPECT_EQ(GetModifier({.shift = true, .ctrl = true, .alt = true}, true), "CTL ALT ");
+  EXPECT_EQ(GetModifier({.shift = true, .ctrl = true, .alt = true}, ShiftInKeyText::Yes), "CTL ALT ");
   EXPECT_EQ(Of(64, {.shift = true, .ctrl = true, .alt = true}),
             Made("CTL ALT SHF ENT", "#14 #11 #12 #5A", "#F0 #5A #F0 #12 #F0 #11 #F0 #14"));
 }

@@ -133,7 +133,7 @@ class InsertOptions : public ToolForm {
   void TRIG_Click() { PopUp("mnuTrigger"); }
   void ROTARY_Click(int index);
   /// The latch that makes the next trigger the game port's.
-  void ArmPort(bool arm);
+  void ArmPort();
   void MnuHatPostion_Click(int index);
   void MnuHatCornerPostion_Click(int index);
   void mnuTrig_Click(int index);
@@ -199,9 +199,10 @@ class InsertOptions : public ToolForm {
 
   void ShowPictures(const bool (&shown)[4]);
   void ShowForJoystick(int joystick);
-  void ShowPorts(bool show);
-  void ShowCorners(bool show);
-  void ShowIgnoreSlash(bool f22);
+  enum class Sight { Hidden, Shown };
+  void ShowPorts(Sight sight);
+  void ShowCorners(Sight sight);
+  void ShowIgnoreSlash(int joystick);
   void ShowForFile();
   void ShowForPreferences();
   void ShowAllHardware();
@@ -210,6 +211,7 @@ class InsertOptions : public ToolForm {
 
   [[nodiscard]] StatementStyle Style() const;
   [[nodiscard]] bool PortArmed() const;
+  void ReleasePort();
   void FindOrWrite(const Statement& statement);
   void TabStatement_Click(const tables::TabRow& row);
   [[nodiscard]] int LitAxis() const;

@@ -126,19 +126,21 @@ void InsertOptions::ShowPictures(const bool (&shown)[kPictures]) {
   for (int i = 0; i < kPictures; ++i) SSTabHardware.Pages(i).Visible = shown[i];
 }
 
-void InsertOptions::ShowPorts(bool show) {
-  for (int i = 1; i < static_cast<int>(std::size(tables::kPorts)); ++i) menus("mnuPort", i).Visible = show;
+void InsertOptions::ShowPorts(Sight sight) {
+  for (int i = 1; i < static_cast<int>(std::size(tables::kPorts)); ++i)
+    menus("mnuPort", i).Visible = sight == Sight::Shown;
 }
 
-void InsertOptions::ShowCorners(bool show) {
+void InsertOptions::ShowCorners(Sight sight) {
   for (int i = 0; i < static_cast<int>(std::size(tables::kHatCorners)); ++i) {
-    menus("MnuHatCornerPostion", i).Visible = show;
+    menus("MnuHatCornerPostion", i).Visible = sight == Sight::Shown;
   }
-  menus("mnuHatDivider").Visible = show;
+  menus("mnuHatDivider").Visible = sight == Sight::Shown;
 }
 
 /// "/Q" is the F-22 Pro's alone, and "/A" has another name there.
-void InsertOptions::ShowIgnoreSlash(bool f22) {
+void InsertOptions::ShowIgnoreSlash(int joystick) {
+  const bool f22 = joystick == kF22Pro;
   const tables::SlashRow& row = f22 ? tables::kFormatSlash : tables::kSlashes[tables::kForceSlash];
   SlashButton(tables::kForceSlash).Caption = std::string(row.caption);
   SlashButton(tables::kForceSlash).ToolTipText = std::string(row.tip);
@@ -152,8 +154,8 @@ void InsertOptions::ShowForJoystick(int joystick) {
   if (const JoystickRow* const row = RowOf(kJoysticks, joystick)) {
     SSTabHardware.Pages(picture).Caption = std::string(row->inComposer);
   }
-  ShowIgnoreSlash(joystick == kF22Pro);
-  ShowCorners(picture == 0);
+  ShowIgnoreSlash(joystick);
+  ShowCorners(picture == 0 ? Sight::Shown : Sight::Hidden);
 }
 
 void InsertOptions::ShowForPreferences() {
@@ -164,19 +166,20 @@ void InsertOptions::ShowForPreferences() {
   const bool tqs = known ? throttle == kTqs : SSTabHardware.Pages(2).Visible.Get();
   const bool wcs = known ? throttle > kTqs : SSTabHardware.Pages(3).Visible.Get();
   ShowPictures({!plain, plain, tqs, wcs});
-  if (known) ShowPorts(!wcs);
+  if (known) ShowPorts(wcs ? Sight::Hidden : Sight::Shown);
   if (known && wcs) LabelWCS();
   ShowForJoystick(settings.JoyName);
   hardware("ROTARY(7)").Visible = settings.JoyName == kF22Pro;
 }
 
 void InsertOptions::ShowAllHardware() {
-  ShowPictures({true, true, true, true});
+  constexpr bool kAllPictures[kPictures] = {true, true, true, true};
+  ShowPictures(kAllPictures);
   LabelWCS();
   SSTabHardware.Pages(0).Caption = "F22 and F16";
-  ShowIgnoreSlash(false);
-  ShowPorts(true);
-  ShowCorners(true);
+  ShowIgnoreSlash(kFlcs);  // as beside every joystick but the F-22 Pro
+  ShowPorts(Sight::Shown);
+  ShowCorners(Sight::Shown);
 }
 
 void InsertOptions::ShowForFile() {
@@ -188,7 +191,7 @@ void InsertOptions::ShowForFile() {
   const bool plain = IsPlain(joystick);
   ShowPictures({!plain, plain, tqs, wcs});
   ShowForJoystick(joystick);
-  ShowPorts(!wcs);
+  ShowPorts(wcs ? Sight::Hidden : Sight::Shown);
   if (wcs) LabelWCS();
 }
 
@@ -216,14 +219,15 @@ StatementStyle InsertOptions::Style() const {
 }
 
 bool InsertOptions::PortArmed() const { return hardware("ROTARY(7)").BorderStyle == 1; }
-void InsertOptions::ArmPort(bool arm) { hardware("ROTARY(7)").BorderStyle = arm ? 1 : 0; }
+void InsertOptions::ArmPort() { hardware("ROTARY(7)").BorderStyle = 1; }
+void InsertOptions::ReleasePort() { hardware("ROTARY(7)").BorderStyle = 0; }
 
 /// What was looked for and found leaves the latch as it is, but for a port.
 void InsertOptions::FindOrWrite(const Statement& statement) {
   InsertAfterSearch = writer_.FindOrWrite(statement, AlwaysInsert == 1) ? 1 : 0;
   Say(NameOf(statement) +
       (InsertAfterSearch == 1 ? " is in now, fresh from me" : " was there already - here it is"));
-  if (InsertAfterSearch == 1 ? statement.releasesPort : statement.pastHit > 0) ArmPort(false);
+  if (InsertAfterSearch == 1 ? statement.releasesPort : statement.pastHit > 0) ReleasePort();
 }
 
 void InsertOptions::BTN_Click(int index) {
@@ -261,9 +265,9 @@ void InsertOptions::mnuPort_Click(int index) {
 void InsertOptions::ROTARY_Click(int index) {
   const tables::RotaryRow& row = tables::kRotaries[index];
   if (index == tables::kPortLatch) {
-    ArmPort(!PortArmed());
-    if (PortArmed()) PopUp("mnuPortAll");
-    return;
+    if (PortArmed()) return ReleasePort();
+    ArmPort();
+    return PopUp("mnuPortAll");
   }
   if (index == tables::kSwapTriggers) return FindOrWrite(SwapTriggersStatement(Style()));
   const bool found = AlwaysInsert != 1 && writer_.FindButton(std::string(row.search));

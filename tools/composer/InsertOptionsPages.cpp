@@ -46,7 +46,7 @@ void InsertOptions::MakeStatementPages() {
     ToggleButton1(i).Caption = std::string(tables::kAxes[i].caption);
     ToggleButton1(i).Click = [this, i] { ToggleButton1_Click(i); };
   }
-  ToggleButton1(2).Turn(true);
+  ToggleButton1(2).TurnOn();
   constexpr int kTabsWithStatements = 5;
   for (int i = 0; i < kTabsWithStatements; ++i) {
     CheckBox& box = CheckMultiAddCR.Load(i);

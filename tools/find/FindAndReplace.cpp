@@ -94,7 +94,7 @@ void FindAndReplace::Form_Load() {
   Topmost = true;
   Check6.Value = 1;
   SearchTarget = 1;
-  AllowReplacing(false);
+  Set(Replacing::Refused);
 }
 
 void FindAndReplace::Form_KeyDown(Key& key) {
@@ -146,16 +146,17 @@ void FindAndReplace::SSTab1_Click() {
   const EntryBox& other = replaces ? ComboTextFind : ComboTextReplaceFind;
   if (!other.Empty()) page.text.Text = other.Text.Get();
   (SearchTarget == 2 ? page.macro : page.joystick).Value = true;
-  if (replaces) AllowReplacing(Command3.Caption.Get() != kFirst);
+  if (replaces) Set(Command3.Caption.Get() != kFirst ? Replacing::Allowed : Replacing::Refused);
   page.text.SetFocus();
   page.find.MakeDefault();
 }
 
 void FindAndReplace::Command10_Click() { ShowHelp(bench_.platform, topic::kFindPages[SSTab1.Tab]); }
 
-void FindAndReplace::AllowReplacing(bool allow) {
-  Command5.Enabled = allow;
-  Command6.Enabled = allow;
+void FindAndReplace::Set(Replacing replacing) {
+  for (CommandButton* const button : {&Command5, &Command6}) {
+    button->Enabled = replacing == Replacing::Allowed;
+  }
 }
 
 void FindAndReplace::Show(const char* title, const std::string& text, BoxIcon icon) const {
@@ -207,7 +208,7 @@ void FindAndReplace::Search(const Page& page) {
   hit_.reset();
   if (!hit) return NotFound(page, document, first);
   page.find.Caption = kNext;
-  if (page.replaces) AllowReplacing(true);
+  if (page.replaces) Set(Replacing::Allowed);
   if (!page.replaces && document.IsJoystick()) {
     page.find.MakeDefault();
     document.text.SetFocus();
@@ -237,7 +238,7 @@ void FindAndReplace::NotFound(const Page& page, Document& document, bool first) 
   } else {
     Show("You found 'em all!", "No further instances of " + text + " found in " + caption);
     page.find.Caption = kFirst;
-    if (page.replaces) AllowReplacing(false);
+    if (page.replaces) Set(Replacing::Refused);
   }
   document.text.SelStart = document.Caret;
   if (first && !page.replaces) {
@@ -284,7 +285,7 @@ void FindAndReplace::ReplaceText() {
 
 void FindAndReplace::Command5_Click() {
   if (!Refuses(Target(ReplacePage()))) ReplaceText();
-  AllowReplacing(false);
+  Set(Replacing::Refused);
 }
 
 void FindAndReplace::Command6_Click() {
@@ -318,7 +319,7 @@ void FindAndReplace::Command6_Click() {
        BoxIcon::Information);
   Command3.Caption = kFirst;
   document.text.SelStart = document.Caret;
-  AllowReplacing(false);
+  Set(Replacing::Refused);
   document.Undo.Start = 1;
   bench_.documents.TextChanged(document);
 }

@@ -89,7 +89,8 @@ class FindAndReplace : public ToolForm {
   bool IsReady(const Page& page);
   [[nodiscard]] Document& Target(const Page& page) const;
   void TakeOptions(const Page& page);
-  void AllowReplacing(bool allow);
+  enum class Replacing { Refused, Allowed };
+  void Set(Replacing replacing);
   [[nodiscard]] bool Refuses(const Document& document) const;
   void TakeReplacement();
   /// Selects the last hit again. False where the text is no longer what was found.

@@ -101,7 +101,7 @@ TemplateForm::TemplateForm(Workbench& bench, Shell& shell)
     swatch.ToolTipText = kColourChoices[i].caption;
     swatch.Click = [this, &swatch] { ColourLabel_Click(swatch); };
   }
-  ToggleButton1.Turn(true);
+  ToggleButton1.TurnOn();
   AttachHandlers();
 }
 

@@ -88,7 +88,7 @@ void JoystickWiz::ShowRATE() {
 /// The trigger of the game port on the first trigger, a line end, and the Composer out of the way.
 void JoystickWiz::InsertPortB() {
   InsertOptions& composer = ComposerAt(InsertOptions::kComposer);
-  composer.ArmPort(true);
+  composer.ArmPort();
   composer.mnuPort_Click(0);
   composer.mnuTrig_Click(0);
   composer.Command7_Click(0);
