@@ -313,8 +313,6 @@ void Editor::OpenPrevious(std::string_view array, int index) {
                                 BoxIcon::Information});
 }
 
-void Editor::mnuPreviousClearAllJ_Click() { bench_.lists.ClearAll(bench_.lists.JoystickFiles); }
-
 /// Closes the joystick files' menu as well, until the next of them is opened.
 void Editor::mnuPreviousClearAllM_Click() {
   bench_.lists.ClearAll(bench_.lists.MacroFiles);
@@ -358,9 +356,6 @@ void Editor::StepThroughHistory(void (UndoHistory::*step)()) {
   if (bench_.settings.HighlightLineOnUndo == 1) bench_.blink.Start();
 }
 
-void Editor::mnuEditUndo_Click() { StepThroughHistory(&UndoHistory::Undo); }
-void Editor::mnuEditRedo_Click() { StepThroughHistory(&UndoHistory::Redo); }
-
 void Editor::UpdateUndoRedoMenus() {
   const UndoHistory& history = bench_.documents.Active().Undo;
   const auto show = [this](MenuItem& item, const char* popUp, int button, const std::string& word,
@@ -382,8 +377,6 @@ void Editor::ShowPopUp(std::string_view name) {
   FitInsertMenu(name);
   PopUp(name);
 }
-
-void Editor::PopUpClosed(std::string_view /*name*/) { FitInsertMenu({}); }
 
 void Editor::FitInsertMenu(std::string_view popUp) {
   for (const char* const entry : {"mnuInsertDivider8", "mnuInsertQuickTip"}) {

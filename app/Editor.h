@@ -70,11 +70,11 @@ class Editor : public Form {
 
   // Preferences.
   void ShowPreferences(int page);
-  void mnuPreferencesEdit_Click();
-  void mnuViewEditColours_Click();
-  void mnuAppsEdit_Click();
-  void mnuFavsEdit_Click();
-  void mnuGamesEdit_Click();
+  void mnuPreferencesEdit_Click() { ShowPreferences(page::kFileLocations); }
+  void mnuViewEditColours_Click() { ShowPreferences(page::kColours); }
+  void mnuAppsEdit_Click() { ShowPreferences(page::kApps); }
+  void mnuFavsEdit_Click() { ShowPreferences(page::kFavourites); }
+  void mnuGamesEdit_Click() { ShowPreferences(page::kGames); }
 
   // Documents.
   void mnuFileNewJoystick_Click() { bench_.NewFile(Joystick); }
@@ -93,7 +93,7 @@ class Editor : public Form {
   void mnuJoyPopUpSingleFile_Click() { mnuJoyPopUpSingleFile.Checked = !mnuJoyPopUpSingleFile.Checked; }
   void mnuJFArray_Click(int index) { OpenPrevious("mnuJFArray", index); }
   void mnuMFArray_Click(int index) { OpenPrevious("mnuMFArray", index); }
-  void mnuPreviousClearAllJ_Click();
+  void mnuPreviousClearAllJ_Click() { bench_.lists.ClearAll(bench_.lists.JoystickFiles); }
   void mnuPreviousClearAllM_Click();
   void mnuFileExit_Click() { application_.CloseMum(); }
   void mnuPreferencesProtectMacroFile_Click();
@@ -105,15 +105,15 @@ class Editor : public Form {
   void MacroTextChanged() { TextChanged(Macro); }
 
   // Favourites, games, and the user's own programs.
-  void mnuFavouritesAddCurrent_Click();
+  void mnuFavouritesAddCurrent_Click() { application_.Show(ToolId::Favourite); }
   void mnuFavArray_Click(int index);
-  void mnuGamesAdd_Click();
+  void mnuGamesAdd_Click() { application_.Show(ToolId::Game); }
   void mnuGameArray_Click(int index);
   void mnuCustomApp_Click(int index);
 
   // Undo.
-  void mnuEditUndo_Click();
-  void mnuEditRedo_Click();
+  void mnuEditUndo_Click() { StepThroughHistory(&UndoHistory::Undo); }
+  void mnuEditRedo_Click() { StepThroughHistory(&UndoHistory::Redo); }
   void UpdateUndoRedoMenus();
   void DeleteUndosOnSaveJ() { bench_.files.ResetHistory(Joystick); }
   void DeleteUndosOnSaveM() { bench_.files.ResetHistory(Macro); }
@@ -125,7 +125,7 @@ class Editor : public Form {
   void mnuEditPaste_Click() { bench_.edit.Paste(); }
   void mnuEditDelete_Click() { bench_.edit.Delete(); }
   void mnuEditSelectAll_Click();
-  void mnuEditFind_Click();
+  void mnuEditFind_Click() { application_.Show(ToolId::Find); }
   void mnuEditReplace_Click();
   void mnuEditGoto_Click();
   /// Fits menus and toolbar to the selection of the file on top, and to the clipboard.
@@ -133,13 +133,13 @@ class Editor : public Form {
   void CheckAtLineBeginning() { bench_.edit.CheckAtLineBeginning(); }
 
   // The tools that write statements.
-  void mnuShowInsertWindow_Click();
+  void mnuShowInsertWindow_Click() { application_.Show(ToolId::Composer); }
   void mnuComposerPlugin_Click();
-  void mnuInsertRAW_Click();
+  void mnuInsertRAW_Click() { application_.Show(ToolId::Pimlet); }
 
   // Blocks.
-  void mnuInsertTitle_Click();
-  void mnuInsertHeading_Click();
+  void mnuInsertTitle_Click() { application_.Show(ToolId::Title); }
+  void mnuInsertHeading_Click() { application_.Show(ToolId::Heading); }
   void mnuInsertRemStatement_Click();
   void mnuInsertQuickTip_Click();
 
@@ -200,10 +200,10 @@ class Editor : public Form {
   void mnuSlashModifierDLY_Click() { Command1_Click(11); }
 
   // Apps.
-  void mnuSendToKeyTest_Click();
-  void mnuAppsImageViewer_Click();
-  void mnuAppsTemplate_Click();
-  void mnuAppsJoyAnalyser_Click();
+  void mnuSendToKeyTest_Click() { application_.Show(ToolId::KeyTest); }
+  void mnuAppsImageViewer_Click() { application_.Show(ToolId::ImageViewer); }
+  void mnuAppsTemplate_Click() { application_.Show(ToolId::TemplateEditor); }
+  void mnuAppsJoyAnalyser_Click() { application_.Show(ToolId::JoystickAnalyser); }
   void mnuAppsTMScope_Click();
   void mnuAppsCandCC_Click();
   void mnuF22Setup_Click();
@@ -214,25 +214,25 @@ class Editor : public Form {
   void mnuAppsQuiet_Click();
 
   // Wizards.
-  void mnuhelpWizCreateMacroFile_Click();
-  void mnuhelpWizCreateJoyFile_Click();
-  void mnuWizSpeedy_Click();
+  void mnuhelpWizCreateMacroFile_Click() { application_.Show(ToolId::MacroWizard); }
+  void mnuhelpWizCreateJoyFile_Click() { application_.Show(ToolId::JoystickWizard); }
+  void mnuWizSpeedy_Click() { application_.Show(ToolId::Speedy); }
   void mnuWizBeginnersAdvice_Click();
   void mnuWizOrlanTip1_Click();
   void mnuWizLogic1_Click();
 
   // Help.
-  void mnuHelpContents_Click();
-  void mnuHelpTips_Click();
+  void mnuHelpContents_Click() { ShowHelp(bench_.platform, topic::kContents); }
+  void mnuHelpTips_Click() { application_.Show(ToolId::Tips); }
   void mnuHelpOnWeb_Click();
-  void mnuHelpAbout_Click();
+  void mnuHelpAbout_Click() { application_.Show(ToolId::About); }
 
   /// Marks the document as modified and records the change for undo.
   void TextChanged(Document& document) { bench_.documents.TextChanged(document); }
   void ForwardKey(Key& key) const;
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
-  void PopUpClosed(std::string_view name) override;
+  void PopUpClosed(std::string_view /*name*/) override { FitInsertMenu({}); }
 
  private:
   void SetUpControls();

@@ -57,23 +57,14 @@ void Editor::ShowPreferences(int page) {
   bench_.TakeChosenFont();
 }
 
-void Editor::mnuPreferencesEdit_Click() { ShowPreferences(page::kFileLocations); }
-void Editor::mnuViewEditColours_Click() { ShowPreferences(page::kColours); }
-void Editor::mnuAppsEdit_Click() { ShowPreferences(page::kApps); }
-void Editor::mnuFavsEdit_Click() { ShowPreferences(page::kFavourites); }
-void Editor::mnuGamesEdit_Click() { ShowPreferences(page::kGames); }
-
 // Favourites, games, and the user's own programs.
 
-void Editor::mnuFavouritesAddCurrent_Click() { application_.Show(ToolId::Favourite); }
 void Editor::mnuFavArray_Click(int index) { OpenFavourite(bench_, index); }
-void Editor::mnuGamesAdd_Click() { application_.Show(ToolId::Game); }
 void Editor::mnuGameArray_Click(int index) { StartGame(bench_, application_, index); }
 void Editor::mnuCustomApp_Click(int index) { RunCustomApp(bench_, index); }
 
 // Editing.
 
-void Editor::mnuEditFind_Click() { application_.Show(ToolId::Find); }
 void Editor::mnuEditReplace_Click() { application_.Tool<FindAndReplace>().ShowReplace(); }
 void Editor::mnuEditGoto_Click() { application_.Tool<FindAndReplace>().ShowGoto(); }
 
@@ -85,30 +76,15 @@ bool Editor::FindNext(const Document& document) {
 
 // The Composer.
 
-void Editor::mnuShowInsertWindow_Click() { application_.Show(ToolId::Composer); }
 void Editor::mnuComposerPlugin_Click() { application_.Tool<InsertOptions>().ShowTemplates(); }
-
-// Pimlet.
-
-void Editor::mnuInsertRAW_Click() { application_.Show(ToolId::Pimlet); }
 
 // Blocks.
 
-void Editor::mnuInsertTitle_Click() { application_.Show(ToolId::Title); }
-void Editor::mnuInsertHeading_Click() { application_.Show(ToolId::Heading); }
 void Editor::mnuInsertRemStatement_Click() { InsertRemStatement(bench_, application_); }
 
 void Editor::mnuInsertQuickTip_Click() { bench_.platform.dialogs.Show(kQuickTip); }
 
 // Apps.
-
-void Editor::mnuSendToKeyTest_Click() { application_.Show(ToolId::KeyTest); }
-
-void Editor::mnuAppsImageViewer_Click() { application_.Show(ToolId::ImageViewer); }
-
-void Editor::mnuAppsTemplate_Click() { application_.Show(ToolId::TemplateEditor); }
-
-void Editor::mnuAppsJoyAnalyser_Click() { application_.Show(ToolId::JoystickAnalyser); }
 
 void Editor::mnuAppsTMScope_Click() { StartTMScope(bench_); }
 void Editor::mnuAppsCandCC_Click() { StartControlCentre(bench_); }
@@ -123,23 +99,14 @@ void Editor::mnuAppsQuiet_Click() {
   quiet.Checked = !quiet.Checked;
 }
 
-void Editor::mnuHelpContents_Click() { ShowHelp(bench_.platform, topic::kContents); }
-
-void Editor::mnuHelpTips_Click() { application_.Show(ToolId::Tips); }
-
 void Editor::mnuHelpOnWeb_Click() {
   const Trap trap{bench_.errors, "ED_mnuHelpOnWeb_Click"};
   if (trap(bench_.platform.desktop.Open(bench_.platform.folder + "\\guide\\index.html"))) return;
   mum_.StatusBar.Panels(1).Text = std::string("The user guide can't be opened.");
 }
 
-void Editor::mnuHelpAbout_Click() { application_.Show(ToolId::About); }
-
 // Wizards.
 
-void Editor::mnuhelpWizCreateMacroFile_Click() { application_.Show(ToolId::MacroWizard); }
-void Editor::mnuhelpWizCreateJoyFile_Click() { application_.Show(ToolId::JoystickWizard); }
-void Editor::mnuWizSpeedy_Click() { application_.Show(ToolId::Speedy); }
 void Editor::mnuWizBeginnersAdvice_Click() { bench_.platform.dialogs.Show(kBeginnersAdvice); }
 void Editor::mnuWizOrlanTip1_Click() { bench_.platform.dialogs.Show(kOrlansTip); }
 void Editor::mnuWizLogic1_Click() { bench_.platform.dialogs.Show(kLogicAdvice); }

@@ -130,10 +130,6 @@ void Mum::SetPaths() {
 /// The swatch stands where its button is.
 void Mum::MDIForm_Resize() { Picture1.ToFront(); }
 
-void Mum::MakeFlat() { Toolbar1.Flat = !Toolbar1.Flat; }
-
-void Mum::MDIForm_Unload() { SaveMumPosition(); }
-
 void Mum::GetMumPosition() {
   const Profile stored = bench_.profile.Read();
   const auto read = [&stored](const char* key, const char* fallback) {

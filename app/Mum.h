@@ -28,14 +28,14 @@ class Mum : public Form {
 
   void MDIForm_Load();
   void MDIForm_Resize();
-  void MDIForm_Unload();
+  void MDIForm_Unload() { SaveMumPosition(); }
   void GetMumPosition();
   void SaveMumPosition();
   void AutoDetect();
   void ColoursSortOut() { bench_.settings.ColoursSortOut(); }
   void Picture1_Click();
   /// Turns the toolbar's flat style over.
-  void MakeFlat();
+  void MakeFlat() { Toolbar1.Flat = !Toolbar1.Flat; }
   // Ready for an active error report; nothing calls them yet.
   void LastAttemptToSaveToolbar() {}
   void ReleaseGradientInEmergency() { application_.UnloadTools(EndsWith::Frame); }

@@ -133,18 +133,18 @@ class InsertOptions : public ToolForm {
   void TRIG_Click() { PopUp("mnuTrigger"); }
   void ROTARY_Click(int index);
   /// The latch that makes the next trigger the game port's.
-  void ArmPort();
+  void ArmPort() { hardware("ROTARY(7)").BorderStyle = 1; }
   void MnuHatPostion_Click(int index);
   void MnuHatCornerPostion_Click(int index);
   void mnuTrig_Click(int index);
   void mnuPort_Click(int index);
   void SlashButton_Click(int index);
   void DlyRptButtons_Click(int index);
-  void CommandREM_Click();
+  void CommandREM_Click() { writer_.Write(RemStatement(RemTextBox.Text, Style())); }
   void Command7_Click(int index);
   void InsertComposerBlanks();
   void ToggleButton1_Click(int index);
-  void Command1_Click(int index);
+  void Command1_Click(int index) { writer_.Write(UseStatement(tables::kUses[index], Style())); }
   void Command2_Click(int index);
   void Command9_Click();
   void FillMiceListBoxes();
@@ -157,9 +157,9 @@ class InsertOptions : public ToolForm {
   void Templates_Click();
   void MakeTemplateCurrent(int item);
   void Templates_MouseMove(const Mouse& mouse);
-  void TemplatesPreview_DblClick();
+  void TemplatesPreview_DblClick() { InsertTemplate(bench_.documents.Active()); }
   void Command11_Click(int index);
-  void mnuJoystick_Click();
+  void mnuJoystick_Click() { Command11_Click(0); }
   void mnuMacrofile_Click();
   void mnuQuickie_Click();
 
@@ -210,8 +210,8 @@ class InsertOptions : public ToolForm {
   [[nodiscard]] std::string EndingOfFile() const;
 
   [[nodiscard]] StatementStyle Style() const;
-  [[nodiscard]] bool PortArmed() const;
-  void ReleasePort();
+  [[nodiscard]] bool PortArmed() const { return hardware("ROTARY(7)").BorderStyle == 1; }
+  void ReleasePort() { hardware("ROTARY(7)").BorderStyle = 0; }
   void FindOrWrite(const Statement& statement);
   void TabStatement_Click(const tables::TabRow& row);
   [[nodiscard]] int LitAxis() const;

@@ -218,10 +218,6 @@ StatementStyle InsertOptions::Style() const {
   return {settings.InsertWithColour != 0, settings.CompTabsAddCr == 1};
 }
 
-bool InsertOptions::PortArmed() const { return hardware("ROTARY(7)").BorderStyle == 1; }
-void InsertOptions::ArmPort() { hardware("ROTARY(7)").BorderStyle = 1; }
-void InsertOptions::ReleasePort() { hardware("ROTARY(7)").BorderStyle = 0; }
-
 /// What was looked for and found leaves the latch as it is, but for a port.
 void InsertOptions::FindOrWrite(const Statement& statement) {
   InsertAfterSearch = writer_.FindOrWrite(statement, AlwaysInsert == 1) ? 1 : 0;
@@ -287,8 +283,6 @@ void InsertOptions::DlyRptButtons_Click(int index) {
   const tables::BracketRow& row = tables::kBrackets[index];
   writer_.Write(BracketStatement(row, boxes(row.box).Text, Style()));
 }
-
-void InsertOptions::CommandREM_Click() { writer_.Write(RemStatement(RemTextBox.Text, Style())); }
 
 void InsertOptions::Command7_Click(int index) {
   ColouredInsertion& insertion = bench_.insertion;

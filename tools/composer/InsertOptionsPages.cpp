@@ -130,8 +130,6 @@ void InsertOptions::MouseList_Click(int index) {
   Label5(2).Caption = std::string(row.right);
 }
 
-void InsertOptions::Command1_Click(int index) { writer_.Write(UseStatement(tables::kUses[index], Style())); }
-
 void InsertOptions::Command2_Click(int index) {
   const tables::ValueRow& row = tables::kValues[index];
   writer_.Write(ValueStatement(row, boxes(row.box).Text, Style()));
@@ -212,8 +210,6 @@ void InsertOptions::InsertTemplate(Document& document) {
   document.Caret = document.text.SelStart;
 }
 
-void InsertOptions::TemplatesPreview_DblClick() { InsertTemplate(bench_.documents.Active()); }
-
 void InsertOptions::Command11_Click(int index) {
   if (index == 2) return FillTemplates();
   if (TemplatesPreview.Characters().empty()) return;
@@ -222,7 +218,6 @@ void InsertOptions::Command11_Click(int index) {
   InsertTemplate(document);
 }
 
-void InsertOptions::mnuJoystick_Click() { Command11_Click(0); }
 /// Whichever file is on top stays there.
 void InsertOptions::mnuMacrofile_Click() { InsertTemplate(bench_.documents.macro); }
 

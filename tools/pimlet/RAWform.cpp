@@ -221,10 +221,6 @@ void RAWform::ToggleButton1_Click() {
   }
 }
 
-void RAWform::ToggleButton2_Click() { Toggle(ToggleButton2, {60, 61}); }
-void RAWform::ToggleButton3_Click() { Toggle(ToggleButton3, {62, 63}); }
-void RAWform::ToggleButton4_Click() { Toggle(ToggleButton4, {}); }
-
 // The line.
 
 void RAWform::SetLine(const std::string& line, int kind) {
@@ -310,9 +306,6 @@ void RAWform::CommandINS_Click(int index) {
   insertion.EndColInsert();
 }
 
-void RAWform::mnuPasteJ_Click() { PasteInto(bench_.documents.joystick); }
-void RAWform::mnuPasteM_Click() { PasteInto(bench_.documents.macro); }
-
 void RAWform::PasteInto(Document& document) {
   const std::string line = Line();
   if (line.empty()) return;
@@ -331,8 +324,6 @@ void RAWform::Command14_Click(int index) {
   if (index == 1) return bench_.blink.Start();
   bench_.platform.dialogs.Show(kTip);
 }
-
-void RAWform::mnuFileClose_Click() { shell_.Unload(*this); }
 
 void RAWform::mnuRawOverview_Click() { ShowHelp(bench_.platform, topic::kPimlet); }
 void RAWform::mnuHelpRawcodes_Click() { ShowHelp(bench_.platform, topic::kRawCodes); }

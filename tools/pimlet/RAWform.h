@@ -61,9 +61,9 @@ class RAWform : public ToolForm {
   void Command1_Click(int key);
   void CheckUseSHFUK_Click();
   void ToggleButton1_Click();
-  void ToggleButton2_Click();
-  void ToggleButton3_Click();
-  void ToggleButton4_Click();
+  void ToggleButton2_Click() { Toggle(ToggleButton2, {60, 61}); }
+  void ToggleButton3_Click() { Toggle(ToggleButton3, {62, 63}); }
+  void ToggleButton4_Click() { Toggle(ToggleButton4, {}); }
   void Command3_Click(int index);
   void ApplyColour() {}
   void Command4_Click();
@@ -80,10 +80,10 @@ class RAWform : public ToolForm {
   void CommandINS_Click(int index);
   void TotalCombinedText_Change();
   void TotalCombinedText_KeyDown(Key& key);
-  void mnuFileClose_Click();
+  void mnuFileClose_Click() { shell_.Unload(*this); }
   void mnuDelayValue_Click(int index);
-  void mnuPasteJ_Click();
-  void mnuPasteM_Click();
+  void mnuPasteJ_Click() { PasteInto(bench_.documents.joystick); }
+  void mnuPasteM_Click() { PasteInto(bench_.documents.macro); }
   void mnuRawOverview_Click();
   void mnuHelpRawcodes_Click();
 

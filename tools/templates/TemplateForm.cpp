@@ -373,9 +373,6 @@ void TemplateForm::EditPreferences(int page) {
   if (bench_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
 }
 
-void TemplateForm::mnuEdTmpPrefs_Click() { EditPreferences(page::kApps); }
-void TemplateForm::mnuViewEditColours_Click() { EditPreferences(page::kColours); }
-
 void TemplateForm::mnuTextToBlack_Click() {
   const std::size_t start = TemplateText.SelStart;
   if (TemplateText.SelLength == 0U) mnuSelectAll_Click();

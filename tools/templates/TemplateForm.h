@@ -66,8 +66,8 @@ class TemplateForm : public ToolForm {
   void mnuSelectAll_Click() { TemplateText.Select({0, TemplateText.Characters().size()}); }
   void mnuEditTarvikini_Click();
   void mnuColourApply_Click() { ColourTemplateText(); }
-  void mnuEdTmpPrefs_Click();
-  void mnuViewEditColours_Click();
+  void mnuEdTmpPrefs_Click() { EditPreferences(page::kApps); }
+  void mnuViewEditColours_Click() { EditPreferences(page::kColours); }
   void mnuTextToBlack_Click();
   void mnuViewrefreshLayout_Click();
   void mnuOverview_Click();

@@ -56,8 +56,6 @@ void ViewImage::Form_Load() {
   Form_Resize();
 }
 
-void ViewImage::Form_Activate() { shell_.HideToolbar(); }
-
 bool ViewImage::ShowPicture() {
   const std::string& path = bench_.settings.ImageFilePath;
   if (bench_.platform.files.FileExists(path)) {

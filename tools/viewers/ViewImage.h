@@ -15,7 +15,7 @@ class ViewImage : public ToolForm {
   ImageBox Image1{*this, "Image1"};
 
   void Form_Load();
-  void Form_Activate();
+  void Form_Activate() { shell_.HideToolbar(); }
   void Form_Resize() { Image1.Move(0, 0, ScaleWidth, ScaleHeight); }
   void Image1_DblClick() { mnuImageEdit_Click(); }
   void mnuFileClose_Click() { shell_.CloseTool(*this); }

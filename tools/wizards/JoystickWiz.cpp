@@ -44,10 +44,6 @@ JoystickWiz::JoystickWiz(Workbench& bench, Shell& shell)
 
 void JoystickWiz::BTNinFrame_Click(int index) { (this->*kCommands[index].run)(); }
 
-void JoystickWiz::OpenMacroFile() { bench_.files.Load(bench_.documents.macro); }
-void JoystickWiz::CreateFile() { bench_.NewFile(bench_.documents.joystick); }
-void JoystickWiz::SaveFile() { bench_.files.Save(bench_.documents.Active()); }
-
 void JoystickWiz::GoToStart() {
   bench_.documents.tabs.Select(1);
   bench_.documents.joystick.text.SelStart = 0;

@@ -18,9 +18,9 @@ class JoystickWiz : public Wizard {
   void BTNinFrame_Click(int index);
 
   // What they do.
-  void OpenMacroFile();
-  void CreateFile();
-  void SaveFile();
+  void OpenMacroFile() { bench_.files.Load(bench_.documents.macro); }
+  void CreateFile() { bench_.NewFile(bench_.documents.joystick); }
+  void SaveFile() { bench_.files.Save(bench_.documents.Active()); }
   void ShowComposer();
   void GoToStart();
   void StartOver();

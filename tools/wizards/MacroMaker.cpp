@@ -107,8 +107,6 @@ void MacroMaker::ClearTexts() {
 
 // Headings.
 
-void MacroMaker::InsertHeading() { shell_.Show(ToolId::Heading); }
-
 void MacroMaker::List1_DblClick() {
   const std::string heading = List1.Current();
   if (heading.empty()) return;
@@ -131,17 +129,9 @@ void MacroMaker::List1_DblClick() {
 
 // The editor's commands.
 
-void MacroMaker::CreateFile() { bench_.NewFile(bench_.documents.macro); }
-
 void MacroMaker::CreateAndSaveFile() {
   CreateFile();
   SaveFile();
 }
-
-void MacroMaker::InsertTitle() { shell_.Show(ToolId::Title); }
-void MacroMaker::ShowPimlet() { shell_.Show(ToolId::Pimlet); }
-void MacroMaker::SaveFile() { bench_.files.Save(bench_.documents.Active()); }
-void MacroMaker::UpdateMacros() { bench_.files.UpdateMacros(); }
-void MacroMaker::CloseForm() { shell_.Unload(form_); }
 
 }  // namespace tarvik

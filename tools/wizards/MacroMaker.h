@@ -31,16 +31,16 @@ class MacroMaker {
   void Text1_KeyDown(Key& key);
 
   // What buttons do.
-  void CreateFile();
+  void CreateFile() { bench_.NewFile(bench_.documents.macro); }
   void CreateAndSaveFile();
-  void InsertTitle();
-  void InsertHeading();
+  void InsertTitle() { shell_.Show(ToolId::Title); }
+  void InsertHeading() { shell_.Show(ToolId::Heading); }
   void InsertMacro();
   void ClearTexts();
-  void ShowPimlet();
-  void SaveFile();
-  void UpdateMacros();
-  void CloseForm();
+  void ShowPimlet() { shell_.Show(ToolId::Pimlet); }
+  void SaveFile() { bench_.files.Save(bench_.documents.Active()); }
+  void UpdateMacros() { bench_.files.UpdateMacros(); }
+  void CloseForm() { shell_.Unload(form_); }
 
  protected:
   /// Ready for the next macro: the name has the focus, and Enter inserts.
