@@ -117,7 +117,7 @@ void Editor::FillFrame() {
 }
 
 void Editor::Form_Load(EditorBegins begins) {
-  Values& values = bench_.values;
+  SharedValues& values = bench_.values;
   const Settings& settings = bench_.settings;
   values.LoadingFile = 1;
   SetUpToolbar();
@@ -348,7 +348,7 @@ void Editor::mnuEditSelectAll_Click() {
 // Undo.
 
 void Editor::StepThroughHistory(void (UndoHistory::*step)()) {
-  const Loading loading(bench_.values);
+  const ProgramEdit edit(bench_.values);
   Document& document = bench_.documents.Active();
   (document.Undo.*step)();
   document.Caret = document.text.SelStart;

@@ -15,7 +15,7 @@ void Editor::HelpOnWhatsThis(int topic) {
 }
 
 void Editor::Command1_Click(int index) {
-  Values& values = bench_.values;
+  SharedValues& values = bench_.values;
   const Settings& settings = bench_.settings;
   const std::string value = TextOf(settings.DefaultDLYvalue.Get());
   const bool delay = index == kDelayButton;

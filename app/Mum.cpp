@@ -95,7 +95,7 @@ Mum::Mum(Application& application)
 
 void Mum::MDIForm_Load() {
   const Trap trap{bench_.errors, "MUM MDIForm_Load"};
-  Values& values = bench_.values;
+  SharedValues& values = bench_.values;
   Settings& settings = bench_.settings;
   Files& files = bench_.platform.files;
   SetPaths();

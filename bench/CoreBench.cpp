@@ -11,7 +11,7 @@
 #include "Compare.h"
 #include "Samples.h"
 #include "language/MacroAnalysis.h"
-#include "language/Painting.h"
+#include "language/SyntaxColouring.h"
 #include "support/MemoryFiles.h"
 #include "text/CodePage.h"
 #include "text/Rtf.h"
@@ -43,9 +43,9 @@ void ReportGrowth(const char* what, const Operation& operation) {
 }
 
 ColourRuns ColoursOf(const std::string& text) {
-  Painting painting(text, JoystickPasses());
-  painting.Run();
-  return painting.Colours(kClassColours);
+  SyntaxColouring colouring(text, JoystickPasses());
+  colouring.Run();
+  return colouring.Colours(kClassColours);
 }
 
 RichText ColouredFile(std::size_t bytes) {

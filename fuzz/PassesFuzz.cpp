@@ -2,7 +2,7 @@
 #include <array>
 #include <cstdlib>
 
-#include "language/Painting.h"
+#include "language/SyntaxColouring.h"
 #include "support/LiteralPasses.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
@@ -11,9 +11,9 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
                                                            Colour{3}, Colour{4}, Colour{5}};
   const std::string text = WithPaneLineBreaks({reinterpret_cast<const char*>(data), size});
   for (const auto passes : {JoystickPasses(), MacroPasses()}) {
-    Painting painting(text, passes);
-    painting.Run();
-    if (painting.Colours(kNumbers) != LiteralPasses().Paint(text, passes)) std::abort();
+    SyntaxColouring colouring(text, passes);
+    colouring.Run();
+    if (colouring.Colours(kNumbers) != LiteralPasses().Paint(text, passes)) std::abort();
   }
   return 0;
 }

@@ -5,7 +5,7 @@
 #include <QShortcut>
 
 #include "screen/MumWindow.h"
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

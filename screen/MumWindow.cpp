@@ -10,11 +10,11 @@
 
 #include "screen/WindowTitle.h"
 #include "screen/services/LockKeys.h"
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/FileDrop.h"
 #include "screen/widgets/Icons.h"
 #include "screen/widgets/MenuBuilder.h"
 #include "screen/widgets/StatusBarView.h"
-#include "screen/widgets/Text.h"
 
 namespace tarvik::screen {
 namespace {

@@ -14,7 +14,7 @@
 #include <algorithm>
 
 #include "screen/WindowTitle.h"
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 #include "screen/windows/WindowFocus.h"
 #include "screen/windows/WindowRoom.h"
 

@@ -1,6 +1,6 @@
 #include "screen/WindowTitle.h"
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

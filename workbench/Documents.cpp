@@ -14,7 +14,7 @@ constexpr const char* kSavedStateTips[] = {
 
 }  // namespace
 
-Documents::Documents(Platform& services, Settings& theSettings, Values& theValues, Errors& theErrors)
+Documents::Documents(Platform& services, Settings& theSettings, SharedValues& theValues, Errors& theErrors)
     : Component("Documents"),
       platform(services),
       settings(theSettings),
@@ -74,7 +74,7 @@ void Documents::ApplyBackground(const Document& document) const {
 }
 
 void Documents::Reformat() {
-  const Loading loading(values);
+  const ProgramEdit edit(values);
   Say("Reformatting layout. Please wait ...");
   const Document& document = Active();
   ApplyFont(document.text, settings);
@@ -92,7 +92,7 @@ void Documents::TextChanged(Document& document) {
 }
 
 void Documents::Reset() {
-  const Loading loading(values);
+  const ProgramEdit edit(values);
   for (Document* const document : {&joystick, &macro}) document->Reset();
   tabs.Begin(1);
   status.Panels(kInsertPanel).Enabled = true;

@@ -5,7 +5,7 @@
 
 #include "platform/Platform.h"
 #include "workbench/Document.h"
-#include "workbench/Values.h"
+#include "workbench/SharedValues.h"
 
 namespace tarvik {
 
@@ -13,11 +13,11 @@ inline constexpr int kStatusPanels = 8;
 
 class Documents : public Component {
  public:
-  Documents(Platform& services, Settings& theSettings, Values& theValues, Errors& theErrors);
+  Documents(Platform& services, Settings& theSettings, SharedValues& theValues, Errors& theErrors);
 
   Platform& platform;
   Settings& settings;
-  Values& values;
+  SharedValues& values;
   Errors& errors;
 
   // Of the frame.
@@ -82,15 +82,17 @@ void ApplyFont(Pane& pane, const Settings& settings);
 void ApplyFontOnly(Pane& pane, const Settings& settings);
 
 /// Keeps the change handlers from counting what program code does to a pane as an edit.
-class Loading {
+class ProgramEdit {
  public:
-  explicit Loading(Values& values) : values_(values), before_(values.LoadingFile) { values_.LoadingFile = 1; }
-  ~Loading() { values_.LoadingFile = before_; }
-  Loading(const Loading&) = delete;
-  Loading& operator=(const Loading&) = delete;
+  explicit ProgramEdit(SharedValues& values) : values_(values), before_(values.LoadingFile) {
+    values_.LoadingFile = 1;
+  }
+  ~ProgramEdit() { values_.LoadingFile = before_; }
+  ProgramEdit(const ProgramEdit&) = delete;
+  ProgramEdit& operator=(const ProgramEdit&) = delete;
 
  private:
-  Values& values_;
+  SharedValues& values_;
   int before_;
 };
 

@@ -127,7 +127,7 @@ void FileCommands::ShowName(const Document& document) {
 
 bool FileCommands::New(Document& document) {
   if (!MayReplace(document, Question::New)) return false;
-  const Loading loading(documents_.values);
+  const ProgramEdit edit(documents_.values);
   document.Dirty = saved::kNoText;
   document.text.SetContent({});
   documents_.ApplyLook(document);
@@ -244,7 +244,7 @@ void FileCommands::Load(Document& document) {
   const std::string extension = (documents_.settings.*document.traits.extension).Get();
   const auto file = FileToOpen({}, Filter(words, extension, words.allTypes));
   if (!file || !CanRead(file->path, trap)) return;
-  const Loading loading(documents_.values);
+  const ProgramEdit edit(documents_.values);
   if (document.IsJoystick()) {
     TakeFile(document, *file);
     FillPane(document, trap);
@@ -259,7 +259,7 @@ void FileCommands::Load(Document& document) {
 }
 
 void FileCommands::AnalyseMacroFile() {
-  const Loading loading(documents_.values);
+  const ProgramEdit edit(documents_.values);
   ShowsMacros();
   lists_.ClearAllForNewMacroFile();
   documents_.status.Panels(8).Text = documents_.macro.Name.Get().Text();
@@ -311,7 +311,7 @@ void FileCommands::OpenPair() {
       FileToOpen("Select the joystick file or the macro file - I'll open both of them",
                  PairFilter(documents_.settings.JoystickExtension, documents_.settings.MacroExtension));
   if (!file) return;
-  const Loading loading(documents_.values);
+  const ProgramEdit edit(documents_.values);
   if (IsMacroFile(file->name.Text())) {
     if (CanRead(file->path, trap)) OpenMacroThenJoystick(*file, trap);
   } else if (IsJoystickFile(file->name.Text())) {

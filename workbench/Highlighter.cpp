@@ -29,7 +29,7 @@ void Highlighter::Apply(Document& document) {
     documents_.Say(caption + " has no text to highlight.");
     return;
   }
-  const Loading loading(documents_.values);
+  const ProgramEdit edit(documents_.values);
   Remove(document);
   documents_.Select(document);
   documents_.Say("Applying colour highlighting to " + caption + ". Please wait ...");
@@ -60,7 +60,7 @@ void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settin
   bar.Visible = true;
   // The bar follows the hits, or counts the passes over commands.
   bool followsHits = true;
-  const PaintingProgress progress = {
+  const ColouringProgress progress = {
       [&](const Pass& pass) {
         if (pass.status) {
           shown.panel.Text = std::string(pass.status);
@@ -79,14 +79,14 @@ void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settin
         }
       },
   };
-  Painting painting(pane.Characters(), passes);
-  painting.Run(progress);
-  pane.Recolour(0, painting.Colours(ColoursOf(settings)));
+  SyntaxColouring colouring(pane.Characters(), passes);
+  colouring.Run(progress);
+  pane.Recolour(0, colouring.Colours(ColoursOf(settings)));
   bar.Visible = false;
 }
 
 void Highlighter::Remove(Document& document) {
-  const Loading loading(documents_.values);
+  const ProgramEdit edit(documents_.values);
   documents_.Say("Removing colour highlighting from " + documents_.TabOf(document).Caption.Get() +
                  ". Please wait ...");
   document.text.Recolour(0, ColourRuns(document.text.Characters().size(), kBlack));
@@ -95,7 +95,7 @@ void Highlighter::Remove(Document& document) {
 }
 
 void Highlighter::ColourSelection(Colour colour) {
-  const Loading loading(documents_.values);
+  const ProgramEdit edit(documents_.values);
   documents_.Active().text.SelColor = colour;
 }
 

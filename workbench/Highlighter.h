@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "language/Painting.h"
+#include "language/SyntaxColouring.h"
 #include "workbench/ColouredCopies.h"
 
 namespace tarvik {

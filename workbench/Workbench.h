@@ -23,7 +23,7 @@ class Workbench {
  public:
   Platform platform;  ///< with a log of the programs that are started
   Errors errors{log};
-  Values values;
+  SharedValues values;
   ProfileFile profile;
   Settings settings;
   PreviousFiles lists;

@@ -15,13 +15,13 @@
 #include "controls/ImageBox.h"
 #include "controls/PlotBox.h"
 #include "panes/Pane.h"
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/DeviceView.h"
 #include "screen/widgets/ImageView.h"
 #include "screen/widgets/ListStack.h"
 #include "screen/widgets/PaneView.h"
 #include "screen/widgets/PathLabel.h"
 #include "screen/widgets/PlotView.h"
-#include "screen/widgets/Text.h"
 
 namespace tarvik::screen {
 namespace {

@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "screen/pages/Pages.h"
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 #include "tools/wizards/Speedy.h"
 
 namespace tarvik::screen {

@@ -5,7 +5,7 @@
 #include <limits>
 
 #include "screen/pages/FormLayout.h"
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

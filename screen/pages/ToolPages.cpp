@@ -7,8 +7,8 @@
 
 #include "screen/pages/KeyboardView.h"
 #include "screen/pages/Pages.h"
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
-#include "screen/widgets/Text.h"
 #include "tools/blocks/TextBlocks.h"
 #include "tools/favourites/Favourites.h"
 #include "tools/find/FindAndReplace.h"

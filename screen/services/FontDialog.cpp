@@ -6,7 +6,7 @@
 #include <QFormLayout>
 #include <QVBoxLayout>
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

@@ -10,9 +10,9 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
 #include "screen/widgets/ListStack.h"
-#include "screen/widgets/Text.h"
 #include "screen/windows/WindowRoom.h"
 #include "workbench/HelpTopics.h"
 
@@ -74,9 +74,9 @@ void ColourExamples(QTextDocument& document, const FileLook& look) {
     }
     const Example example = TakeExample(block);
     const std::string text = FromText(example.text);
-    Painting painting(text, macro ? MacroPasses() : JoystickPasses());
-    painting.Run();
-    Paint(example, painting.Colours(look.colours), ToScreenColour(macro ? look.macro : look.joystick));
+    SyntaxColouring colouring(text, macro ? MacroPasses() : JoystickPasses());
+    colouring.Run();
+    Paint(example, colouring.Colours(look.colours), ToScreenColour(macro ? look.macro : look.joystick));
   }
 }
 

@@ -11,7 +11,7 @@
 #include <array>
 #include <optional>
 
-#include "language/Painting.h"
+#include "language/SyntaxColouring.h"
 #include "tools/help/HelpFile.h"
 
 namespace tarvik::screen {

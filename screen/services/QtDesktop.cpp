@@ -12,7 +12,7 @@
 #include <QTime>
 #include <QUrl>
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

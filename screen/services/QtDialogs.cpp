@@ -12,7 +12,7 @@
 #include <QUrl>
 
 #include "screen/services/FontDialog.h"
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

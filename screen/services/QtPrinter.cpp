@@ -9,7 +9,7 @@
 #include <QTextLayout>
 #include <algorithm>
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

@@ -6,8 +6,8 @@
 #include <QScreen>
 #include <cmath>
 
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
-#include "screen/widgets/Text.h"
 #include "screen/windows/WindowFocus.h"
 
 namespace tarvik::screen {

@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <cmath>
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 // A static library's resources are linked only when they are asked for, from outside any namespace.
 static void InitialiseDevices() { Q_INIT_RESOURCE(devices); }

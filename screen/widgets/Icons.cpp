@@ -7,7 +7,7 @@
 #include <QProxyStyle>
 #include <QSvgRenderer>
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 // A static library's resources are linked only when they are asked for, from outside any namespace.
 static void InitialiseIcons() { Q_INIT_RESOURCE(icons); }

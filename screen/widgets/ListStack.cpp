@@ -10,8 +10,8 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
-#include "screen/widgets/Text.h"
 #include "screen/windows/WindowFocus.h"
 
 namespace tarvik::screen {

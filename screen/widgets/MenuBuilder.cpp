@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

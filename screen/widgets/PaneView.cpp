@@ -6,7 +6,7 @@
 #include <QTextBlock>
 #include <algorithm>
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/Uncovered.h"
 
 namespace tarvik::screen {

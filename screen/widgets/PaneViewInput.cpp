@@ -3,9 +3,9 @@
 #include <QMimeData>
 #include <QMouseEvent>
 
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/Keys.h"
 #include "screen/widgets/PaneView.h"
-#include "screen/widgets/Text.h"
 
 namespace tarvik::screen {
 namespace {

@@ -5,8 +5,8 @@
 #include <QTextLayout>
 #include <algorithm>
 
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/PaneView.h"
-#include "screen/widgets/Text.h"
 
 namespace tarvik::screen {
 namespace {

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstring>
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

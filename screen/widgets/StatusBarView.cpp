@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
-#include "screen/widgets/Text.h"
 
 namespace tarvik::screen {
 namespace {

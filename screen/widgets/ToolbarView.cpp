@@ -6,7 +6,7 @@
 #include <QStyleOptionToolButton>
 #include <algorithm>
 
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 namespace {

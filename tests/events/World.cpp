@@ -45,7 +45,7 @@ Outcome<std::string> ChanceDialogs::AskForFile(const FileRequest& request) {
   return chosen;
 }
 
-Outcome<unsigned> ChanceDialogs::AskForColour(unsigned before) {
+Outcome<Colour> ChanceDialogs::AskForColour(Colour before) {
   choices = {chance_.OneIn(3) ? "cancel" : std::to_string(chance_.Below(0x1000000))};
   return ScriptedDialogs::AskForColour(before);
 }

@@ -16,7 +16,7 @@ class ChanceDialogs : public session::ScriptedDialogs {
 
   Answer Show(const MessageBox& box) override;
   Outcome<std::string> AskForFile(const FileRequest& request) override;
-  Outcome<unsigned> AskForColour(unsigned before) override;
+  Outcome<Colour> AskForColour(Colour before) override;
   Outcome<FontChoice> AskForFont(const FontChoice& before, bool fixedPitch) override;
   Outcome<std::string> AskForHostFolder(const std::string& title, const std::string& folder) override;
   void WaitWhile(const std::function<bool()>& open) override;

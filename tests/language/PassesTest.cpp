@@ -5,7 +5,7 @@
 #include <map>
 #include <random>
 
-#include "language/Painting.h"
+#include "language/SyntaxColouring.h"
 #include "support/LiteralPasses.h"
 #include "text/CodePage.h"
 
@@ -28,9 +28,9 @@ std::string LettersOf(const ColourRuns& colours) {
 }
 
 std::string Paint(const std::string& text, std::span<const Pass> passes) {
-  Painting painting(text, passes);
-  painting.Run();
-  return LettersOf(painting.Colours(kNumbered));
+  SyntaxColouring colouring(text, passes);
+  colouring.Run();
+  return LettersOf(colouring.Colours(kNumbered));
 }
 
 std::string Joystick(const std::string& text) { return Paint(text, JoystickPasses()); }

@@ -127,13 +127,13 @@ TEST_F(ColourList, IsWalkedByTheArrowKeysAndAsksForAColourByEnterSpaceAndClick) 
   EXPECT_EQ(preferences.List1.ListIndex, 1);
   QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
                     view->visualRect(view->model()->index(1, 0)).center());
-  EXPECT_EQ(rem, 19U);
+  EXPECT_EQ(rem, Colour{19});
   const QPoint below(10, view->viewport()->height() - 3);
   ASSERT_FALSE(view->indexAt(below).isValid());
   QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, below);
   QTest::mouseClick(view->viewport(), Qt::RightButton, {},
                     view->visualRect(view->model()->index(1, 0)).center());
-  EXPECT_EQ(rem, 19U);
+  EXPECT_EQ(rem, Colour{19});
 }
 
 TEST_F(ColourList, ShowsEachColourBesideItsName) {

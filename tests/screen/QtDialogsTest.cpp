@@ -9,7 +9,7 @@
 
 #include "screen/services/FontDialog.h"
 #include "screen/services/QtDialogs.h"
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 #include "support/Printers.h"
 #include "support/TemporaryFolder.h"
 

@@ -82,8 +82,8 @@ std::string WithoutBlanks(std::string text) {
 /// Whether the first page shows a dot of the colour, in a picture with three bytes for each dot.
 bool ShowsColour(const fs::path& file, Colour colour) {
   const std::string picture = OutputOf("pdftoppm -r 150 -f 1 -l 1 '" + file.string() + "'");
-  const std::string dot = {static_cast<char>(colour & 0xFF), static_cast<char>(colour >> 8 & 0xFF),
-                           static_cast<char>(colour >> 16 & 0xFF)};
+  const std::string dot = {static_cast<char>(RedOf(colour)), static_cast<char>(GreenOf(colour)),
+                           static_cast<char>(BlueOf(colour))};
   for (std::size_t at = picture.find("255\n") + 4; at < picture.size(); at += 3) {
     if (picture.compare(at, 3, dot) == 0) return true;
   }

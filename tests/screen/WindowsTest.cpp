@@ -21,7 +21,7 @@
 #include "screen/QtPrinters.h"
 #include "screen/services/HelpWindow.h"
 #include "screen/widgets/PathLabel.h"
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 #include "session/WidgetReader.h"
 #include "tools/blocks/TextBlocks.h"
 #include "tools/composer/InsertOptions.h"

@@ -9,9 +9,9 @@
 #include <QTabBar>
 #include <cstring>
 
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/PaneView.h"
 #include "screen/widgets/PlotView.h"
-#include "screen/widgets/Text.h"
 
 namespace tarvik::screen {
 namespace {

@@ -16,8 +16,8 @@
 #include <functional>
 
 #include "screen/EditorView.h"
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/StatusBarView.h"
-#include "screen/widgets/Text.h"
 #include "screen/widgets/ToolbarView.h"
 #include "tools/wizards/Wizard.h"
 

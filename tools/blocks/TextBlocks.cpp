@@ -173,7 +173,7 @@ void AskForRemark(Workbench& bench, Shell& shell) {
 }
 
 void InsertRemStatement(Workbench& bench, Shell& shell) {
-  Values& values = bench.values;
+  SharedValues& values = bench.values;
   AskForRemark(bench, shell);
   const std::string remark = values.REMText;
   if (remark.empty()) return;

@@ -56,7 +56,7 @@ void StatementWriter::Write(const Statement& statement) {
 
 void StatementWriter::WritePiece(const Piece& piece) {
   ColouredInsertion& insertion = bench_.insertion;
-  Values& values = bench_.values;
+  SharedValues& values = bench_.values;
   values.InsertionText = piece.text;
   values.InsertionColour = ColoursOf(bench_.settings)[static_cast<std::size_t>(piece.colour)];
   if (piece.joins) {

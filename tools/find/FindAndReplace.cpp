@@ -294,7 +294,7 @@ void FindAndReplace::Command6_Click() {
   if (!IsReady(page) || Refuses(document)) return;
   std::size_t count = 0;
   {
-    const Loading loading(bench_.values);
+    const ProgramEdit edit(bench_.values);
     bench_.documents.Select(document);
     document.Undo.BeginCommand(bench_.settings.UndoMax);
     TakeOptions(page);

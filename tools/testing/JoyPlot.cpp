@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tools/testing/JoystickTexts.h"
+#include "tools/testing/JoystickReading.h"
 #include "workbench/HelpTopics.h"
 
 namespace tarvik {

@@ -2,7 +2,7 @@
 
 #include "language/KeyNames.h"
 #include "text/CodePage.h"
-#include "tools/testing/JoystickTexts.h"
+#include "tools/testing/JoystickReading.h"
 
 namespace tarvik {
 namespace {

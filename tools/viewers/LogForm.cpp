@@ -2,7 +2,7 @@
 
 namespace tarvik {
 
-LogForm::LogForm(Workbench& bench, Shell& shell) : Form("LogForm"), bench_(bench) {
+LogForm::LogForm(Workbench& bench, Shell& shell) : ToolForm("LogForm", bench, shell) {
   Caption = "Log";
   Topmost = true;
   Label1.Caption =
@@ -10,10 +10,8 @@ LogForm::LogForm(Workbench& bench, Shell& shell) : Form("LogForm"), bench_(bench
       "written is in it, and no name of your files.";
   Label1.BackColor = ToggleLabel::kOff;
   cmdCopy.ToolTipText = "Copies all lines to the clipboard";
-  cmdCopy.Click = [this] { cmdCopy_Click(); };
   cmdOK.MakeDefault();
   cmdOK.Cancel = true;
-  cmdOK.Click = [this, &shell] { shell.Unload(*this); };
   written_ = bench.log.Written.Connect([this](const std::string&) { ShowLines(); });
   ShowLines();
 }

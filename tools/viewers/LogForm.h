@@ -2,18 +2,18 @@
 #pragma once
 
 #include "controls/Controls.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class LogForm : public Form {
+class LogForm : public ToolForm {
  public:
-  explicit LogForm(Workbench& bench, Shell& shell);
+  LogForm(Workbench& bench, Shell& shell);
 
   Label Label1{*this, "Label1"};
   ListBox List1{*this, "List1"};
-  CommandButton cmdCopy{*this, "cmdCopy", "&Copy"};
-  CommandButton cmdOK{*this, "cmdOK", "&OK"};
+  CommandButton cmdCopy{*this, "cmdCopy", "&Copy", &LogForm::cmdCopy_Click};
+  CommandButton cmdOK{*this, "cmdOK", "&OK", &LogForm::Close};
 
   /// All of it, for a message to somebody else.
   void cmdCopy_Click();
@@ -21,7 +21,6 @@ class LogForm : public Form {
  private:
   void ShowLines();
 
-  Workbench& bench_;
   Connection written_;
 };
 

@@ -8,7 +8,7 @@
 
 #include "language/ComposerTables.h"
 #include "language/LogicLines.h"
-#include "language/Painting.h"
+#include "language/SyntaxColouring.h"
 #include "text/CodePage.h"
 #include "tools/help/HelpFile.h"
 #include "workbench/HelpTopics.h"
@@ -167,11 +167,11 @@ TEST_F(OwnHelpFile, ShowsEveryExampleInColours) {
   for (const HelpTopic& topic : file.Topics()) {
     for (std::sregex_iterator at(topic.text.begin(), topic.text.end(), example), end; at != end; ++at) {
       const std::string text = (*at)[2];
-      Painting painting(text, (*at)[1] == "macro" ? MacroPasses() : JoystickPasses());
-      painting.Run();
+      SyntaxColouring colouring(text, (*at)[1] == "macro" ? MacroPasses() : JoystickPasses());
+      colouring.Run();
       constexpr Colour kColours[] = {Colour{0}, Colour{1}, Colour{2}, Colour{3}, Colour{4}, Colour{5}};
       const bool macrosAlone = topic.contexts.front() == 4150;
-      EXPECT_EQ(painting.Colours(kColours).runs().size() > 1, !macrosAlone) << topic.title;
+      EXPECT_EQ(colouring.Colours(kColours).runs().size() > 1, !macrosAlone) << topic.title;
       ++examples;
     }
   }

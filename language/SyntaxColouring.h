@@ -10,19 +10,19 @@
 namespace tarvik {
 
 /// Who shows how far the work is. Any of the three may be empty.
-struct PaintingProgress {
+struct ColouringProgress {
   std::function<void(const Pass&)> before;
   std::function<void(std::size_t)> hit;  ///< its position
   std::function<void(const Pass&)> after;
 };
 
 /// The classes of all characters of one text, as far as the passes made so far have set them.
-class Painting {
+class SyntaxColouring {
  public:
-  Painting(std::string_view text, std::span<const Pass> passes);
+  SyntaxColouring(std::string_view text, std::span<const Pass> passes);
 
   /// Makes all passes, one after another, each over the whole text.
-  void Run(const PaintingProgress& progress = {});
+  void Run(const ColouringProgress& progress = {});
   /// The colours of the classes, `colours` being indexed by ColourClass.
   [[nodiscard]] ColourRuns Colours(std::span<const Colour, kColourClasses> colours) const;
 
@@ -36,7 +36,7 @@ class Painting {
   [[nodiscard]] std::size_t EndOfLine(std::size_t from) const;
   void Paint(std::size_t from, std::size_t to, ColourClass colour);
 
-  void Make(std::size_t pass, const PaintingProgress& progress);
+  void Make(std::size_t pass, const ColouringProgress& progress);
 
   std::string_view text_;
   std::span<const Pass> passes_;

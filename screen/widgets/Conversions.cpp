@@ -1,4 +1,4 @@
-#include "screen/widgets/Text.h"
+#include "screen/widgets/Conversions.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "language/Painting.h"
+#include "language/SyntaxColouring.h"
 
 #include <algorithm>
 #include <bit>
@@ -7,7 +7,7 @@
 
 namespace tarvik {
 
-Painting::Painting(std::string_view text, std::span<const Pass> passes)
+SyntaxColouring::SyntaxColouring(std::string_view text, std::span<const Pass> passes)
     : text_(text),
       passes_(passes),
       hits_(text, passes),
@@ -17,7 +17,7 @@ Painting::Painting(std::string_view text, std::span<const Pass> passes)
   std::fill(classes_.begin() + static_cast<std::ptrdiff_t>(text.size()), classes_.end(), kBehind);
 }
 
-void Painting::Run(const PaintingProgress& progress) {
+void SyntaxColouring::Run(const ColouringProgress& progress) {
   for (std::size_t pass = 0; pass < passes_.size(); ++pass) {
     if (progress.before) progress.before(passes_[pass]);
     Make(pass, progress);
@@ -26,7 +26,7 @@ void Painting::Run(const PaintingProgress& progress) {
 }
 
 /// A hit may reach over later ones: these are none.
-void Painting::Make(std::size_t pass, const PaintingProgress& progress) {
+void SyntaxColouring::Make(std::size_t pass, const ColouringProgress& progress) {
   std::size_t from = 0;
   reached_ = 0;
   for (const std::size_t hit : hits_.Of(pass)) {
@@ -37,7 +37,7 @@ void Painting::Make(std::size_t pass, const PaintingProgress& progress) {
 }
 
 /// Paints one hit and tells where the search goes on.
-std::size_t Painting::Handle(const Pass& pass, std::size_t hit) {
+std::size_t SyntaxColouring::Handle(const Pass& pass, std::size_t hit) {
   const std::size_t behind = hit + pass.text.size();
   switch (pass.kind) {
     case PassKind::WordAndOperand:
@@ -59,13 +59,13 @@ std::size_t Painting::Handle(const Pass& pass, std::size_t hit) {
   return behind;
 }
 
-std::size_t Painting::HandleWordAndOperand(const Pass& pass, std::size_t hit) {
+std::size_t SyntaxColouring::HandleWordAndOperand(const Pass& pass, std::size_t hit) {
   const std::size_t operand = std::min(hit + pass.text.size() + 1, text_.size());
   if (operand > reached_) Paint(hit, reached_ = Until(' ', operand), pass.colour);
   return operand;  // the operand may hold the next hit
 }
 
-std::size_t Painting::HandleModifier(const Pass& pass, std::size_t hit) {
+std::size_t SyntaxColouring::HandleModifier(const Pass& pass, std::size_t hit) {
   const std::size_t behind = hit + 1;
   const bool stops = behind < text_.size() && (text_[behind] == ' ' || text_[behind] == '\r');
   // Nothing stands before the text's first character to speak against it, whatever follows.
@@ -75,7 +75,7 @@ std::size_t Painting::HandleModifier(const Pass& pass, std::size_t hit) {
   return end;
 }
 
-std::size_t Painting::HandleBracket(const Pass& pass, std::size_t hit) {
+std::size_t SyntaxColouring::HandleBracket(const Pass& pass, std::size_t hit) {
   const std::size_t inside = hit + pass.text.size();
   Paint(hit, inside, pass.colour);
   const std::size_t close = text_.find(')', inside);
@@ -84,30 +84,30 @@ std::size_t Painting::HandleBracket(const Pass& pass, std::size_t hit) {
   return close + 1;
 }
 
-std::size_t Painting::HandlePort(const Pass& pass, std::size_t hit) {
+std::size_t SyntaxColouring::HandlePort(const Pass& pass, std::size_t hit) {
   const std::size_t command = std::min(Until('S', hit) + 1, text_.size());
   Paint(hit, command, pass.colour);
   if (command > reached_) Paint(command, reached_ = EndOfLine(command), ColourClass::Button);
   return command;
 }
 
-std::size_t Painting::Until(char stop, std::size_t from) const {
+std::size_t SyntaxColouring::Until(char stop, std::size_t from) const {
   return std::min(text_.find(stop, from), text_.size());
 }
 
 /// The first CR or LF from there on. A pane has them only in pairs.
-std::size_t Painting::EndOfLine(std::size_t from) const {
+std::size_t SyntaxColouring::EndOfLine(std::size_t from) const {
   const std::size_t end = Until('\n', from);
   return end > from && text_[end - 1] == '\r' ? end - 1 : end;
 }
 
-void Painting::Paint(std::size_t from, std::size_t to, ColourClass colour) {
+void SyntaxColouring::Paint(std::size_t from, std::size_t to, ColourClass colour) {
   std::fill(classes_.begin() + static_cast<std::ptrdiff_t>(from),
             classes_.begin() + static_cast<std::ptrdiff_t>(to), colour);
   ++painted_;
 }
 
-ColourRuns Painting::Colours(std::span<const Colour, kColourClasses> colours) const {
+ColourRuns SyntaxColouring::Colours(std::span<const Colour, kColourClasses> colours) const {
   static_assert(std::endian::native == std::endian::little, "the first of eight is the lowest byte");
   const auto eightFrom = [classes = classes_.data()](std::size_t at) {
     std::uint64_t eight = 0;

@@ -7,9 +7,9 @@
 
 namespace tarvik {
 
-class Values : public Component {
+class SharedValues : public Component {
  public:
-  Values() : Component("Values") {}
+  SharedValues() : Component("SharedValues") {}
 
   // Paths set at the start.
   Property<std::string> IniFile{*this, "IniFile"};
