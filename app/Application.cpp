@@ -61,6 +61,7 @@ bool Application::CloseEditor() {
   Unloading(*editor_);
   if (active_ == editor_.get()) active_ = nullptr;
   workbench.Reset();
+  mum_->BeginStatus();
   unloaded_.push_back(std::exchange(editor_, std::make_unique<Editor>(*this)));
   return true;
 }

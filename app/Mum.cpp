@@ -82,15 +82,19 @@ Mum::Mum(Application& application)
   busy_ = bench_.documents.Busy.Changed.Connect(
       [this] { MousePointer = bench_.documents.Busy ? pointer::kHourglass : pointer::kDefault; });
   Caption = "Tarvik";
-  for (int i = 1; i <= kStatusPanels; ++i) {
-    StatusBar.Panels(i).Text = kPanels[i - 1].text;
-    StatusBar.Panels(i).ToolTipText = kPanels[i - 1].tip;
-  }
+  BeginStatus();
   ProgressBar1.Visible = false;
   Toolbar1.Visible = false;
   Picture1.ToolTipText = "Select text colour";
   Picture1.Click = [this] { Picture1_Click(); };
   Resize = [this] { MDIForm_Resize(); };
+}
+
+void Mum::BeginStatus() {
+  for (int i = 1; i <= kStatusPanels; ++i) {
+    StatusBar.Panels(i).Text = kPanels[i - 1].text;
+    StatusBar.Panels(i).ToolTipText = kPanels[i - 1].tip;
+  }
 }
 
 void Mum::MDIForm_Load() {

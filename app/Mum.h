@@ -26,6 +26,8 @@ class Mum : public Form {
   /// 0 normal, other values maximised, as stored.
   Property<int> MumWindowstate{*this, "MumWindowstate", 0};
 
+  /// What the status bar says while there is no editor.
+  void BeginStatus();
   void MDIForm_Load();
   void MDIForm_Resize();
   void MDIForm_Unload() { SaveMumPosition(); }

@@ -165,6 +165,7 @@ void HelpWindow::Search() {
 
 /// From the field of the search: to the topic that is read, or to the first that was found.
 void HelpWindow::GoToTopics() {
+  if (topics_->count() == 0) return;
   topics_->setFocus();
   for (int row = 0; row < topics_->count() && !topics_->currentItem(); ++row) {
     QListWidgetItem& item = *topics_->item(row);

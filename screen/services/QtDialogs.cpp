@@ -13,6 +13,7 @@
 
 #include "screen/services/FontDialog.h"
 #include "screen/widgets/Conversions.h"
+#include "screen/widgets/Keys.h"
 
 namespace tarvik::screen {
 namespace {
@@ -151,9 +152,8 @@ Outcome<std::string> QtDialogs::Run(QFileDialog& dialog) {
   }
   dialog.setSidebarUrls(places);
   if (auto* const parts = dialog.findChild<QSplitter*>()) parts->setSizes({kSidebarWidth, kListWidth});
-  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
-    return Cancelled();
-  }
+  LeaveCommandsUntyped(dialog);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return Cancelled();
   const QString chosen = dialog.selectedFiles().constFirst();
   lastFolder_ = QFileInfo(chosen).absolutePath();
   return QFile::encodeName(chosen).toStdString();
@@ -161,10 +161,11 @@ Outcome<std::string> QtDialogs::Run(QFileDialog& dialog) {
 
 Outcome<Colour> QtDialogs::AskForColour(Colour before) {
   const OrdinaryPointer pointer;
-  const QColor colour = QColorDialog::getColor(ToScreenColour(before), QApplication::activeWindow(), {},
-                                               QColorDialog::DontUseNativeDialog);
-  if (!colour.isValid()) return Cancelled();
-  return FromScreenColour(colour);
+  QColorDialog dialog(ToScreenColour(before), QApplication::activeWindow());
+  dialog.setOption(QColorDialog::DontUseNativeDialog);
+  LeaveCommandsUntyped(dialog);
+  if (dialog.exec() != QDialog::Accepted) return Cancelled();
+  return FromScreenColour(dialog.selectedColor());
 }
 
 /// Taken as it is offered, the font stays what it was: a name of a font that is not installed, too.

@@ -1,6 +1,7 @@
 #include "screen/widgets/Keys.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <algorithm>
 #include <string_view>
 
@@ -137,6 +138,25 @@ int VirtualKey(const QKeyEvent& event) {
 
 bool TypesNothing(const QKeyEvent& event) {
   return !event.text().isEmpty() && (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier));
+}
+
+namespace {
+
+class CommandsUntyped : public QObject {
+ public:
+  using QObject::QObject;
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() != QEvent::KeyPress || !TypesNothing(static_cast<QKeyEvent&>(*event))) return false;
+    event->ignore();
+    return true;
+  }
+};
+
+}  // namespace
+
+void LeaveCommandsUntyped(QWidget& dialog) {
+  auto* const filter = new CommandsUntyped(&dialog);
+  for (QLineEdit* const box : dialog.findChildren<QLineEdit*>()) box->installEventFilter(filter);
 }
 
 namespace {

@@ -18,6 +18,9 @@ namespace tarvik::screen {
 /// With Alt, or the desktop's own modifier, a key that would type is a command, or nothing.
 [[nodiscard]] bool TypesNothing(const QKeyEvent& event);
 
+/// For a dialog of the toolkit's own, whose boxes would write the letter.
+void LeaveCommandsUntyped(QWidget& dialog);
+
 /// The keys of one window. It remembers which modifiers are down, of which there are two.
 class KeyReader {
  public:

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QFontInfo>
 #include <QLineEdit>
+#include <QTest>
 #include <QTimer>
 
 #include "screen/services/FontDialog.h"
@@ -122,6 +123,21 @@ TEST_F(QtDialogsTest, ANameWithoutAnEndingGetsThatOfTheTypeThatIsChosen) {
     ASSERT_TRUE(chosen);
     EXPECT_EQ(*chosen, path);
   }
+}
+
+/// A mnemonic that leads nowhere would become part of a file's name.
+TEST_F(QtDialogsTest, ALetterWithAltTypesNothing) {
+  QString typed;
+  Once<QFileDialog>([&typed](QFileDialog& dialog) {
+    auto* const name = dialog.findChild<QLineEdit*>("fileNameEdit");
+    QTest::keyClicks(name, QStringLiteral("ab"));
+    QKeyEvent command(QEvent::KeyPress, Qt::Key_Z, Qt::AltModifier, QStringLiteral("z"));
+    QApplication::sendEvent(name, &command);
+    typed = name->text();
+    dialog.reject();
+  });
+  EXPECT_FALSE(dialogs.AskForFile({FileDialogKind::Save, {}, "All files (*.*)|*.*", {}, {}, {}}));
+  EXPECT_EQ(typed, QStringLiteral("ab"));
 }
 
 }  // namespace

@@ -20,8 +20,8 @@
 #include "screen/ProgramOnScreen.h"
 #include "screen/QtPrinters.h"
 #include "screen/services/HelpWindow.h"
-#include "screen/widgets/PathLabel.h"
 #include "screen/widgets/Conversions.h"
+#include "screen/widgets/PathLabel.h"
 #include "session/WidgetReader.h"
 #include "tools/blocks/TextBlocks.h"
 #include "tools/composer/InsertOptions.h"
@@ -233,6 +233,10 @@ TEST_F(HelpWindowTest, SaysThatNothingWasFoundAndKeepsThePage) {
   words->setText(QStringLiteral("nowhere"));
   EXPECT_TRUE(none->isVisible());
   EXPECT_EQ(Title(), QStringLiteral("One"));
+  words->setFocus();
+  QApplication::processEvents();
+  QTest::keyClick(words, Qt::Key_Down);
+  EXPECT_EQ(help.focusWidget(), words) << "there is nothing to go to";
   words->clear();
   EXPECT_FALSE(none->isVisible());
   EXPECT_EQ(Title(), QStringLiteral("One"));

@@ -88,6 +88,9 @@ class Typing {
       case 37:
       case 39:
         return MoveCaret(key);
+      case 38:
+      case 40:
+        return MoveLine(key);
       default:
         return;
     }
@@ -123,6 +126,18 @@ class Typing {
       to = whole ? Text().size() : std::min(Text().find('\r', selection.End()), Text().size());
     if (!(key.shift & shift::kShift)) return pane_.Select({to, 0});
     pane_.Select(to < selection.start ? Between(to, selection.End()) : Between(selection.start, to));
+  }
+
+  /// To the same column of the line above or below.
+  void MoveLine(const Key& key) {
+    const std::size_t at = key.code == 38 ? pane_.Selection().start : pane_.Selection().End();
+    const auto begin = [this](std::size_t from) { return from == 0 ? 0 : Text().rfind('\n', from - 1) + 1; };
+    const auto end = [this](std::size_t from) { return std::min(Text().find('\r', from), Text().size()); };
+    const std::size_t column = at - begin(at);
+    std::size_t line = begin(at);
+    if (key.code == 38 && line > 0) line = begin(line - 2);
+    if (key.code == 40 && end(at) < Text().size()) line = end(at) + 2;
+    pane_.Select({std::min(line + column, end(line)), 0});
   }
 
   Pane& pane_;
