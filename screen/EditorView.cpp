@@ -74,7 +74,7 @@ void EditorView::MakeMacroFrame() {
   auto* const categories = new QComboBox(frame);
   bindings_.Bind(editor_.Combo1, *categories);
   bindings_.Place(editor_.Combo1, *categories, Unit::Twip);
-  list_ = new ListStack(bindings_, tr("Macros"), true);
+  list_ = new ListStack(bindings_, tr("Macros"), Ticks::Offered);
   list_->setParent(frame);
   list_->Add(editor_.List1);
   bindings_.Place(editor_.List1(0), *list_, Unit::Twip);

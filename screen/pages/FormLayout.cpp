@@ -100,7 +100,7 @@ QWidget* ShowButton(CommandButton& button, Bindings& bindings) {
 }
 
 QWidget* ShowList(ListBox& list, Bindings& bindings) {
-  auto* const view = new ListStack(bindings, ToScreen(list.FullName()), false);
+  auto* const view = new ListStack(bindings, ToScreen(list.FullName()), Ticks::None);
   view->Add(list);
   return view;
 }
@@ -252,7 +252,7 @@ QWidget* FormLayout::Place(Control& control, QWidget* shown, QWidget* area) cons
   return shown;
 }
 
-QWidget* FormLayout::Show(ControlArray<ListBox>& lists, const char* name, bool ticks) const {
+QWidget* FormLayout::Show(ControlArray<ListBox>& lists, const char* name, Ticks ticks) const {
   auto* const view = new ListStack(bindings_, QString::fromUtf8(name), ticks);
   view->Add(lists);
   return view;

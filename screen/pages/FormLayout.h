@@ -8,7 +8,7 @@
 #include <QLabel>
 #include <variant>
 
-#include "screen/widgets/Binding.h"
+#include "screen/widgets/ListStack.h"
 
 namespace tarvik::screen {
 
@@ -26,7 +26,7 @@ class FormLayout {
   /// A label whose text is a path, or has one in it.
   QWidget* ShowPath(Label& label) const;
   /// Lists that stand on one another.
-  QWidget* Show(ControlArray<ListBox>& lists, const char* name, bool ticks = false) const;
+  QWidget* Show(ControlArray<ListBox>& lists, const char* name, Ticks ticks = Ticks::None) const;
   /// A drawing of a device, with its labels.
   QWidget* Show(const char* drawing, const std::vector<Label*>& labels) const;
   /// A label that is pressed to take its colour.

@@ -24,7 +24,7 @@ constexpr int kRightButton = 2;
 /// An item's colour, or its tick and as much blank space where there is none.
 class ItemDelegate : public QStyledItemDelegate {
  public:
-  ItemDelegate(QWidget& list, bool ticks)
+  ItemDelegate(QWidget& list, Ticks ticks)
       : QStyledItemDelegate(&list),
         ticks_(ticks),
         tick_(Icon("tick", list.palette().color(QPalette::Text))),
@@ -33,7 +33,7 @@ class ItemDelegate : public QStyledItemDelegate {
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
-    if (ticks_) ShowTick(*option, index);
+    if (ticks_ == Ticks::Offered) ShowTick(*option, index);
     const auto colour = index.data(Qt::DecorationRole).value<QColor>();
     if (colour.isValid()) option->icon = Swatch(colour, *option);
   }
@@ -60,7 +60,7 @@ class ItemDelegate : public QStyledItemDelegate {
     return icon;
   }
 
-  bool ticks_;
+  Ticks ticks_;
   QIcon tick_;
   QIcon selectedTick_;
 };
@@ -131,7 +131,7 @@ void ShowFocusInSelection(QAbstractItemView& view) {
   view.setPalette(palette);
 }
 
-ListStack::ListStack(Bindings& bindings, const QString& name, bool ticks)
+ListStack::ListStack(Bindings& bindings, const QString& name, Ticks ticks)
     : bindings_(bindings), model_(ticks) {
   setModel(&model_);
   setItemDelegate(new ItemDelegate(*this, ticks));
@@ -272,8 +272,8 @@ void ListStack::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ListStack::ClickItem() {
   if (!front_ || !currentIndex().isValid()) return;
-  front_->MouseDown({kLeftButton, 0, 0, 0});
-  front_->MouseUp({kLeftButton, 0, 0, 0});
+  front_->MouseDown({kLeftButton, 0, {}, {}});
+  front_->MouseUp({kLeftButton, 0, {}, {}});
 }
 
 /// A move by keys shows the macro as a click does.
@@ -285,12 +285,12 @@ void ListStack::keyPressEvent(QKeyEvent* event) {
   }
   const int before = currentIndex().row();
   QListView::keyPressEvent(event);
-  if (front_ && currentIndex().row() != before) front_->MouseDown({kLeftButton, 0, 0, 0});
+  if (front_ && currentIndex().row() != before) front_->MouseDown({kLeftButton, 0, {}, {}});
 }
 
 void ListStack::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
-  if (event->reason() == QContextMenuEvent::Keyboard && front_) front_->MouseDown({kRightButton, 0, 0, 0});
+  if (event->reason() == QContextMenuEvent::Keyboard && front_) front_->MouseDown({kRightButton, 0, {}, {}});
 }
 
 void ListStack::focusInEvent(QFocusEvent* event) {

@@ -9,12 +9,14 @@
 
 namespace tarvik::screen {
 
+/// Whether the items of a list may bear ticks, for which there is room before them then.
+enum class Ticks { None, Offered };
+
 /// The items of whichever list is in front. It holds them itself, so that it has an answer for every index at
 /// any time, also while the list changes and after it has gone.
 class ListModel : public QAbstractListModel {
  public:
-  /// `ticks`: an item may bear one.
-  explicit ListModel(bool ticks) : canTick_(ticks) {}
+  explicit ListModel(Ticks ticks) : canTick_(ticks == Ticks::Offered) {}
   void SetItems(const std::vector<std::string>& items, std::vector<bool> ticks);
   void SetTicks(std::vector<bool> ticks);
   /// None, or one beside each item.
@@ -39,8 +41,7 @@ void ShowFocusInSelection(QAbstractItemView& view);
 
 class ListStack : public QListView {
  public:
-  /// `ticks`: there is room for ticks before the items.
-  ListStack(Bindings& bindings, const QString& name, bool ticks);
+  ListStack(Bindings& bindings, const QString& name, Ticks ticks);
 
   /// Puts a list on the stack.
   void Add(ListBox& list);

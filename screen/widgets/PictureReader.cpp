@@ -19,10 +19,11 @@ PictureReader::PictureReader(std::function<void(QImage)> done, std::chrono::mill
   deadline_.setInterval(patience);
   QObject::connect(&deadline_, &QTimer::timeout, &decoder_, &QProcess::kill);
   QObject::connect(&decoder_, &QProcess::finished, &decoder_, [this](int status, QProcess::ExitStatus how) {
-    Finish(how == QProcess::NormalExit && status == 0);
+    const bool whole = how == QProcess::NormalExit && status == 0;
+    Finish(whole ? PictureOf(decoder_.readAllStandardOutput()) : QImage());
   });
   QObject::connect(&decoder_, &QProcess::errorOccurred, &decoder_, [this](QProcess::ProcessError error) {
-    if (error == QProcess::FailedToStart) Finish(false);
+    if (error == QProcess::FailedToStart) Finish({});
   });
 }
 
@@ -30,7 +31,7 @@ PictureReader::~PictureReader() { Stop(); }
 
 void PictureReader::Read(std::string_view bytes) {
   Stop();
-  if (bytes.empty()) return Finish(false);
+  if (bytes.empty()) return Finish({});
   decoder_.start();
   decoder_.write(bytes.data(), static_cast<qint64>(bytes.size()));
   decoder_.closeWriteChannel();
@@ -45,9 +46,9 @@ void PictureReader::Stop() {
   decoder_.waitForFinished();
 }
 
-void PictureReader::Finish(bool whole) {
+void PictureReader::Finish(const QImage& picture) {
   deadline_.stop();
-  done_(whole ? PictureOf(decoder_.readAllStandardOutput()) : QImage());
+  done_(picture);
 }
 
 }  // namespace tarvik::screen

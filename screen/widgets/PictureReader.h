@@ -27,7 +27,8 @@ class PictureReader {
 
  private:
   void Stop();
-  void Finish(bool whole);
+  /// Without a picture where there is none.
+  void Finish(const QImage& picture);
 
   std::function<void(QImage)> done_;
   QProcess decoder_;

@@ -102,7 +102,7 @@ TEST_F(PaneInputTest, KeysAndClicksKeepTheCaretTheSelectionAndTheLineNumber) {
   EXPECT_EQ(editor.Joystick.Caret, 5U);
   EXPECT_EQ(editor.Joystick.SelLength, 1U);
   pane.Select({0, 2});
-  pane.MouseUp({1, 0, 0, 0});
+  pane.MouseUp({1, 0, {}, {}});
   EXPECT_EQ(editor.Joystick.Caret, 0U);
   EXPECT_EQ(editor.Joystick.SelLength, 2U);
   EXPECT_EQ(mum.StatusBar.Panels(3).Text.Get(), "Line no: 1");

@@ -29,7 +29,7 @@ TEST(Printers, SayWhatTheUserIsAsked) {
 
 TEST(Printers, SayWhatTheUserDoes) {
   EXPECT_EQ(PrintToString(Key{65, shift::kCtrl | shift::kShift}), "key Ctrl+Shift+65");
-  EXPECT_EQ(PrintToString(Mouse{1, shift::kAlt, 15, 30}), "Alt+button 1 at 15, 30 twips");
+  EXPECT_EQ(PrintToString(Mouse{1, shift::kAlt, {15}, {30}}), "Alt+button 1 at 15, 30 twips");
 }
 
 TEST(Printers, SayWhyItFailed) {

@@ -76,7 +76,7 @@ TEST_F(Lists, HaveModelsThatAnswerEveryIndexWhileTheyChange) {
 }
 
 TEST_F(Lists, AnswerForAnItemThatIsNotThere) {
-  ListModel model(true);
+  ListModel model(Ticks::Offered);
   model.SetItems({"one"}, {true});
   for (const int role : {Qt::DisplayRole, Qt::CheckStateRole, Qt::ToolTipRole}) {
     EXPECT_FALSE(model.data(QModelIndex(), role).isValid());

@@ -205,7 +205,7 @@ class FormDriver : public Driver {
     }
     if (auto* box = dynamic_cast<TextBox*>(shown)) {
       box->SetFocus();
-      box->MouseDown({1, 0, 0, 0});
+      box->MouseDown({1, 0, {}, {}});
       return true;
     }
     if (auto* picture = dynamic_cast<PictureBox*>(shown)) {
@@ -228,7 +228,7 @@ class FormDriver : public Driver {
     application_.Activated(FormOf(control));
     auto* shown = dynamic_cast<Control*>(&control);
     if (!shown || !shown->Visible) return false;
-    shown->MouseDown({2, 0, 0, 0});
+    shown->MouseDown({2, 0, {}, {}});
     return true;
   }
 
@@ -241,8 +241,8 @@ class FormDriver : public Driver {
     if (auto* list = dynamic_cast<ListBox*>(&control)) {
       if (!list->Visible) return false;
       list->ListIndex = index;
-      list->MouseDown({1, 0, 0, 0});
-      list->MouseUp({1, 0, 0, 0});
+      list->MouseDown({1, 0, {}, {}});
+      list->MouseUp({1, 0, {}, {}});
       return true;
     }
     if (auto* strip = dynamic_cast<TabStrip*>(&control)) {
@@ -348,8 +348,8 @@ class FormDriver : public Driver {
 
   /// The button goes down on the item and moves on over it; behind the drop the list hears of nothing.
   void Drop(ListBox& from, Pane& pane, std::size_t position) override {
-    from.MouseDown({1, 0, 0, 0});
-    from.MouseMove({1, 0, 0, 0});
+    from.MouseDown({1, 0, {}, {}});
+    from.MouseMove({1, 0, {}, {}});
     from.OLEStartDrag();
     pane.Select({position, 0});
     if (!pane.Locked) pane.UserReplaced({position, 0}, from.DragText.Get());

@@ -627,7 +627,7 @@ void Runner::Mouse(const Line& line) {
       {"down", Pointer::Down}, {"move", Pointer::Move}, {"up", Pointer::Up}};
   const int shift = line.words.size() > 6 ? Number(line, 6) : 0;
   driver_->Mouse(acts.at(Word(line, 1)), *FindAs<Control>(Word(line, 2)),
-                 {Number(line, 3), shift, std::stof(Word(line, 4)), std::stof(Word(line, 5))});
+                 {Number(line, 3), shift, {std::stof(Word(line, 4))}, {std::stof(Word(line, 5))}});
 }
 
 void Runner::Set(const Line& line) {
