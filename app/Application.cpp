@@ -112,7 +112,7 @@ void Application::Show(ToolId tool) {
   const auto rows = Tools();
   const auto row =
       std::find_if(rows.begin(), rows.end(), [tool](const ToolRow& each) { return each.id == tool; });
-  if (row->show) row->show(workbench, *this);
+  if (row != rows.end() && row->show) row->show(workbench, *this);
 }
 
 void Application::ShowPreferences(int page) {

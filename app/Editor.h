@@ -162,8 +162,7 @@ class Editor : public Form {
   void TextFromTempRichTextBox();
   /// Gives all of the scratch pane the user's font.
   void TempTextRefreshFont() { tarvik::ApplyFont(TempRichTextBox, bench_.documents.settings); }
-  // Where padding at the end of a file, or the colour of what is pasted, would be seen to. Nothing is ever
-  // padded, and what is pasted keeps its colours.
+  // These do nothing: files are never padded at their end, and what is pasted keeps its colours.
   void AddHugeBlankStringJF() {}
   void RemoveHugeBlankStringJF() {}
   void AddHugeBlankStringMF() {}

@@ -203,7 +203,8 @@ void EntryBox::Remember(const std::string& text) {
 }
 
 void EntryBox::Pick(int index) {
-  SetText(items_.at(static_cast<std::size_t>(index)), 0);
+  const bool isThere = index >= 0 && index < static_cast<int>(items_.size());
+  SetText(Require(isThere ? &items_[static_cast<std::size_t>(index)] : nullptr, *this, "item", index), 0);
   SelectAll();
   Click();
 }

@@ -1,8 +1,6 @@
 // The unit in which windows and the pointer are placed, and what it makes in pixels.
 #pragma once
 
-#include <compare>
-
 namespace tarvik {
 
 inline constexpr float kTwipsPerPixel = 15;
@@ -11,7 +9,8 @@ inline constexpr float kTwipsPerPixel = 15;
 struct Twips {
   float count = 0;
 
-  friend auto operator<=>(const Twips&, const Twips&) = default;
+  friend bool operator==(const Twips&, const Twips&) = default;
+  friend constexpr bool operator<(Twips one, Twips other) { return one.count < other.count; }
 };
 
 constexpr Twips operator-(Twips one, Twips other) { return {one.count - other.count}; }

@@ -25,7 +25,7 @@ void SyntaxColouring::Run(const ColouringProgress& progress) {
   }
 }
 
-/// A hit may reach over later ones: these are none.
+/// Skips hits that begin inside the hit before them.
 void SyntaxColouring::Make(std::size_t pass, const ColouringProgress& progress) {
   std::size_t from = 0;
   reached_ = 0;

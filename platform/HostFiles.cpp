@@ -257,7 +257,7 @@ std::vector<std::string> HostFiles::FilesIn(std::string_view folder, std::string
   return names;
 }
 
-/// Without those that the host hides.
+/// Hidden folders are left out.
 std::vector<std::string> HostFiles::FoldersIn(std::string_view folder) const {
   std::vector<std::string> names = NamesIn(folder, &HostFiles::FolderExists);
   std::erase_if(names, [](const std::string& name) { return name.starts_with('.'); });

@@ -125,8 +125,8 @@ void ToolWindow::ShowMinimised(bool minimised) {
   if (minimised != isMinimized()) setWindowState(windowState() ^ Qt::WindowMinimized);
 }
 
-/// One that is modal belongs to a modal one that asked for it, if any. Any other is minimised by itself, and
-/// the frame may cover it unless it is topmost.
+/// A modal tool belongs to the modal window that opened it, if any. Other tools have no owner, so that they
+/// minimise by themselves and the frame may cover them.
 void ToolWindow::ChooseOwner() {
   create();
   const QWidget* const asking = form().Modal ? QApplication::activeModalWidget() : nullptr;

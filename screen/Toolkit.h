@@ -18,6 +18,9 @@ class Toolkit : public QApplication {
   std::function<void(const Failure&)> failed;
 
   bool notify(QObject* receiver, QEvent* event) override;
+
+ private:
+  void Tell(const Failure& failure) const noexcept;
 };
 
 }  // namespace tarvik::screen

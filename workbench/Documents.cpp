@@ -33,13 +33,13 @@ void Documents::ShowLineNumber(const Document& document) { ShowLine(document, do
 
 void Documents::ShowCaretLine() { ShowLine(Active(), Active().text.SelStart); }
 
-/// A key mostly stays in its line.
+/// This is called at every key, so the panel is written only when the line has changed.
 void Documents::ShowLine(const Document& document, std::size_t position) {
   const std::size_t line = 1 + document.text.GetLineFromChar(position);
   if (std::exchange(shownLine_, line) != line) status.Panels(3).Text = "Line no: " + TextOf(line);
 }
 
-/// At every key, mostly with nothing new.
+/// This is called at every key, so the panel is written only when the state has changed.
 void Documents::UpdateSavedIcon() const {
   const Document& document = Active();
   const int image = document.Dirty + 2;

@@ -37,8 +37,8 @@ void LineBlink::Stop() {
   document_ = nullptr;
 }
 
-/// The caret memory too: a key going up takes the highlight for what the user selected. Who has moved on
-/// meanwhile is left in peace.
+/// Restores the caret memory as well, since a key that goes up would store the highlight as the user's
+/// selection. Does nothing when the user has moved the selection meanwhile.
 void LineBlink::PutSelectionBack() {
   if (document_ && document_->text.Selection() == highlight_) {
     document_->text.Select(before_);

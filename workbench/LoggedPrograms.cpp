@@ -4,6 +4,8 @@
 #include <iterator>
 #include <sstream>
 
+#include "text/CodePage.h"
+
 namespace tarvik {
 namespace {
 
@@ -28,31 +30,47 @@ class LoggedProgram : public RunningProgram {
   Log& log_;
 };
 
-/// What a program is told names the user's files: only how many words it is told is told.
+/// Arguments may name the user's files, so only their number is told.
 std::string Arguments(const std::string& words) {
   std::istringstream in(words);
   const auto count = std::distance(std::istream_iterator<std::string>(in), {});
   return " (arguments: " + std::to_string(count) + ")";
 }
 
+/// A program's file ends in one of these, or has no ending at all.
+bool IsNamedLikeAProgram(std::string_view path) {
+  constexpr std::string_view kEndings[] = {".exe", ".com", ".bat", ".cmd", ".pif"};
+  const std::string name = LowerCase(std::string(path.substr(path.find_last_of("\\/") + 1)));
+  const auto endsSo = [&name](std::string_view ending) { return name.ends_with(ending); };
+  return name.find('.') == std::string::npos || std::any_of(std::begin(kEndings), std::end(kEndings), endsSo);
+}
+
 }  // namespace
 
-/// What stands in quotation marks, or else the shortest part up to a blank that is a file; where none is, the
-/// first word.
-std::string LoggedPrograms::ProgramOf(const std::string& line) const {
+/// What stands in quotation marks, or else the first word if it is a file, or the longest part up to a blank
+/// that is one, as whoever starts it looks for it; where none is, the first word.
+std::string LoggedPrograms::ProgramIn(const std::string& line) const {
   const std::size_t quote = line.find('"', 1);
-  if (line.starts_with('"') && quote != std::string::npos) return line.substr(0, quote + 1);
+  if (line.starts_with('"') && quote != std::string::npos) return line.substr(1, quote - 1);
   const std::size_t first = std::min(line.find(' '), line.size());
-  for (std::size_t end = first; end != 0; end = std::min(line.find(' ', end + 1), line.size())) {
+  if (files_.FileExists(line.substr(0, first))) return line.substr(0, first);
+  for (std::size_t end = line.size(); end != std::string::npos && end > first;
+       end = line.rfind(' ', end - 1)) {
     if (files_.FileExists(line.substr(0, end))) return line.substr(0, end);
-    if (end == line.size()) break;
   }
   return line.substr(0, first);
 }
 
+/// What is no program for sure may have a file of the user's in it, and is not told.
+std::string LoggedPrograms::NameOf(const std::string& program) const {
+  const bool whole = program.find(' ') == std::string::npos || files_.FileExists(program);
+  return whole && IsNamedLikeAProgram(program) ? program : "something that is no program";
+}
+
 void LoggedPrograms::Tell(const std::string& commandLine, const Failure* failure) {
-  const std::string program = ProgramOf(commandLine);
-  const std::string what = program + Arguments(commandLine.substr(program.size()));
+  const std::string program = ProgramIn(commandLine);
+  const std::size_t marks = commandLine.starts_with('"' + program + '"') ? 2 : 0;
+  const std::string what = NameOf(program) + Arguments(commandLine.substr(program.size() + marks));
   log_.Write(failure ? "could not start " + what + ": " + InWords(*failure) : "started " + what);
 }
 
@@ -68,7 +86,7 @@ Outcome<std::unique_ptr<RunningProgram>> LoggedPrograms::StartToWait(const std::
   Tell(commandLine, started ? nullptr : &started.failure());
   if (!started) return started;
   return std::unique_ptr<RunningProgram>(
-      std::make_unique<LoggedProgram>(*std::move(started), ProgramOf(commandLine), log_));
+      std::make_unique<LoggedProgram>(*std::move(started), NameOf(ProgramIn(commandLine)), log_));
 }
 
 }  // namespace tarvik

@@ -16,7 +16,8 @@ class LoggedPrograms : public Programs {
 
  private:
   void Tell(const std::string& commandLine, const Failure* failure);
-  [[nodiscard]] std::string ProgramOf(const std::string& commandLine) const;
+  [[nodiscard]] std::string ProgramIn(const std::string& commandLine) const;
+  [[nodiscard]] std::string NameOf(const std::string& program) const;
 
   Programs& programs_;
   Files& files_;

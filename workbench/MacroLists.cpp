@@ -13,8 +13,8 @@ constexpr const char* kNothingToAnalyseTitle = "You're kidding me...right?!";
 constexpr const char* kNothingToAnalyse =
     "Oh come off it ... what's there to analyse? You think I'm some kind of slave that you can just push "
     "around ... well no .... computers have feelings you know ... you keep turning me on, and then turning "
-    "me "
-    "off ... how would you like it? !!! Next time I'm going to analyse you instead of these damn files ...";
+    "me off ... how would you like it? !!! Next time I'm going to analyse you instead of these damn files "
+    "...";
 
 struct Starter {
   std::string_view text;

@@ -11,13 +11,17 @@ bool SaysSomething(const std::string& part) { return !part.empty() && part != "0
 }  // namespace
 
 RecentList::RecentList(Component& owner, const ListTraits& traits, ProfileFile& file)
-    : traits_(traits), file_(file), count_(owner, traits.countKey, [this] { return Count(); }) {
+    : owner_(owner),
+      traits_(traits),
+      file_(file),
+      count_(owner, traits.countKey, [this] { return Count(); }) {
   for (const RecordKey& key : traits.keys) inHand_.emplace_back(owner, key.inHand);
 }
 
 Property<std::string>& RecentList::InHand(std::string_view name) {
-  return *std::find_if(inHand_.begin(), inHand_.end(),
-                       [name](const Property<std::string>& part) { return part.Name() == name; });
+  const auto part = std::find_if(inHand_.begin(), inHand_.end(),
+                                 [name](const Property<std::string>& each) { return each.Name() == name; });
+  return Require(part == inHand_.end() ? nullptr : &*part, owner_, name);
 }
 
 bool RecentList::Contains(std::string_view name) const {

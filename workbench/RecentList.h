@@ -6,6 +6,7 @@
 #include <span>
 
 #include "controls/Component.h"
+#include "controls/Require.h"
 #include "platform/ProfileFile.h"
 
 namespace tarvik {
@@ -62,6 +63,7 @@ class RecentList {
   [[nodiscard]] ProfileEntry CountEntry() const;
   [[nodiscard]] std::string KeyOf(std::size_t part, std::size_t record) const;
 
+  Component& owner_;
   const ListTraits& traits_;
   ProfileFile& file_;
   std::vector<Record> records_;

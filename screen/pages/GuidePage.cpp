@@ -81,7 +81,7 @@ class GuidePages {
   }
 
   QWidget* ShowNamed(std::string_view name) {
-    auto& control = dynamic_cast<Control&>(*form_.Resolve(name));
+    auto& control = dynamic_cast<Control&>(Require(form_.Resolve(name), form_, name));
     if (auto* const preview = dynamic_cast<Label*>(&control)) return Preview(OnTheWindow(*preview));
     QWidget* const shown = in_.Show(control);
     return dynamic_cast<ListBox*>(&control) ? Headings(shown) : shown;

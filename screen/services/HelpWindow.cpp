@@ -6,7 +6,6 @@
 #include <QPrinter>
 #include <QShortcut>
 #include <QTextBlock>
-#include <QToolBar>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -91,6 +90,22 @@ HelpWindow::HelpWindow()
       text_(new QTextBrowser) {
   setWindowTitle(tr("Tarvik help"));
   resize(kSize.boundedTo(RoomOnScreen(*this)));
+  topics_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  words_->setClearButtonEnabled(true);
+  words_->setAccessibleName(tr("Search"));
+  topics_->setAccessibleName(tr("Topics"));
+  text_->setAccessibleName(tr("Topic"));
+  text_->setOpenLinks(false);
+  none_->setObjectName(QStringLiteral("NothingFound"));
+  none_->hide();
+  topics_->setFixedWidth(kListWidth);
+  ShowFocusInSelection(*topics_);
+  Arrange();
+  EnableWays();
+  ListenToUser();
+}
+
+QToolBar* HelpWindow::MakeTools() {
   auto* const tools = new QToolBar;
   back_ = AddAction("go-previous", tr("Back"), QKeySequence::Back, &HelpWindow::GoBack);
   forward_ = AddAction("go-next", tr("Forward"), QKeySequence::Forward, &HelpWindow::GoForward);
@@ -100,12 +115,10 @@ HelpWindow::HelpWindow()
   tools->addActions({back_, forward_, contents, print});
   tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   tools->setIconSize({kIcon, kIcon});
-  topics_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  words_->setClearButtonEnabled(true);
-  words_->setAccessibleName(tr("Search"));
-  topics_->setAccessibleName(tr("Topics"));
-  text_->setAccessibleName(tr("Topic"));
-  text_->setOpenLinks(false);
+  return tools;
+}
+
+void HelpWindow::Arrange() {
   auto* const label = new QLabel(tr("&Search:"));
   label->setBuddy(words_);
   auto* const search = new QHBoxLayout;
@@ -115,17 +128,15 @@ HelpWindow::HelpWindow()
   left->addLayout(search);
   left->addWidget(none_);
   left->addWidget(topics_);
-  none_->setObjectName(QStringLiteral("NothingFound"));
-  none_->hide();
-  topics_->setFixedWidth(kListWidth);
-  ShowFocusInSelection(*topics_);
   auto* const columns = new QHBoxLayout;
   columns->addLayout(left);
   columns->addWidget(text_, 1);
   auto* const rows = new QVBoxLayout(this);
-  rows->setMenuBar(tools);
+  rows->setMenuBar(MakeTools());
   rows->addLayout(columns);
-  EnableWays();
+}
+
+void HelpWindow::ListenToUser() {
   connect(words_, &QLineEdit::textChanged, this, [this] { Search(); });
   connect(words_, &QLineEdit::returnPressed, this, [this] { GoToTopics(); });
   connect(new QShortcut(Qt::Key_Down, words_, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,

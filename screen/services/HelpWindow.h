@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTextBrowser>
+#include <QToolBar>
 #include <array>
 #include <optional>
 
@@ -35,6 +36,9 @@ class HelpWindow : public QDialog {
  private:
   QAction* AddAction(const char* icon, const QString& text, const QKeySequence& key,
                      void (HelpWindow::*run)());
+  [[nodiscard]] QToolBar* MakeTools();
+  void Arrange();
+  void ListenToUser();
   void Search();
   void GoToTopics();
   /// True when a topic has the words.

@@ -45,7 +45,8 @@ PaneView::PaneView(Pane& pane, Bindings& bindings, QWidget* parent) : QPlainText
   setBackgroundRole(QPalette::Base);
   setTabStopDistance(kTabWidth);
   document()->setDocumentMargin(kTextMargin);
-  // What the text makes nothing of would come back from the indent for ever, see `event`.
+  // Mouse events that the text ignores must not go to the pane, whose `event` would send them back without
+  // end.
   viewport()->setAttribute(Qt::WA_NoMousePropagation);
   ShowAll();
   BindLook(bindings);

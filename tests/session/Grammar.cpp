@@ -5,17 +5,11 @@
 #include <cmath>
 #include <iterator>
 
+#include "app/Tools.h"
 #include "session/Chord.h"
 
 namespace tarvik::session {
 namespace {
-
-constexpr std::string_view kForms[] = {
-    "Mum",         "Editor",      "InsertOptions",     "RAWform",       "TemplateForm", "FindAndReplace",
-    "KeyTestForm", "JoyPlot",     "MacroWizard",       "Speedy",        "JoystickWiz",  "Title",
-    "Heading",     "Preferences", "SingleTextForm",    "EnterGameName", "DrivesForm",   "EnterFavouritename",
-    "ProgramWait", "ViewImage",   "SelectPictureForm", "frmTip",        "frmAbout",     "ColourSelector",
-    "LogForm"};
 
 bool IsName(std::string_view word) {
   return !word.empty() && word.find_first_not_of(
@@ -58,7 +52,9 @@ bool IsControlName(std::string_view word) {
 }
 
 bool IsForm(std::string_view word) {
-  return std::find(std::begin(kForms), std::end(kForms), word) != std::end(kForms);
+  const auto isCalledSo = [word](const ToolRow& tool) { return tool.form == word; };
+  const auto tools = Tools();
+  return word == "Mum" || word == "Editor" || std::any_of(tools.begin(), tools.end(), isCalledSo);
 }
 
 /// Names with points between them, the first a form's, `least` of them or more.

@@ -79,11 +79,17 @@ TEST_F(LogTest, TellsHowAWaitForAProgramEnds) {
 }
 
 TEST_F(LogTest, NamesTheProgramAndNothingThatItIsTold) {
+  const std::string kNoProgram = "16:00:00 started something that is no program ";
   bench.files.Put("c:\\program files\\tm\\load.exe", "MZ");
   EXPECT_EQ(Told("c:\\program files\\tm\\load.exe c:\\my diary.b50 Q"),
             "16:00:00 started c:\\program files\\tm\\load.exe (arguments: 3)");
+  EXPECT_EQ(Told("\"c:\\my games\\fly.exe\" c:\\diary.b50"), kNoProgram + "(arguments: 1)");
+  bench.files.Put("c:\\my games\\fly.exe", "MZ");
   EXPECT_EQ(Told("\"c:\\my games\\fly.exe\" c:\\diary.b50"),
-            "16:00:00 started \"c:\\my games\\fly.exe\" (arguments: 1)");
+            "16:00:00 started c:\\my games\\fly.exe (arguments: 1)");
+  EXPECT_EQ(Told("\"c:\\fly.exe c:\\diary.b50\""), kNoProgram + "(arguments: 0)");
+  EXPECT_EQ(Told("c:\\fly.exe/load=c:\\diary.b50"), kNoProgram + "(arguments: 0)");
+  EXPECT_EQ(Told("c:\\letter.txt"), kNoProgram + "(arguments: 0)");
   EXPECT_EQ(Told("\"c:\\fly.exe c:\\diary.b50"), "16:00:00 started \"c:\\fly.exe (arguments: 1)");
   bench.files.Put("c:\\diary.b50", "Dear diary");
   EXPECT_EQ(Told(" c:\\diary.b50"), "16:00:00 started  (arguments: 1)");

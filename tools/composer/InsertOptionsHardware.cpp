@@ -218,7 +218,7 @@ StatementStyle InsertOptions::Style() const {
   return {settings.InsertWithColour != 0, settings.CompTabsAddCr == 1};
 }
 
-/// What was looked for and found leaves the latch as it is, but for a port.
+/// A search that succeeds leaves the latch as it is, except for a port.
 void InsertOptions::FindOrWrite(const Statement& statement) {
   InsertAfterSearch = writer_.FindOrWrite(statement, AlwaysInsert == 1) ? 1 : 0;
   Say(NameOf(statement) +

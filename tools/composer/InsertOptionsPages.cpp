@@ -26,7 +26,7 @@ void AddTexts(const ControlArray<T>& controls, TextIn textIn, BoxTexts& texts) {
 // Statements built from fields.
 
 TabPages& InsertOptions::StripOf(const tables::StatementTabRow& row) const {
-  return dynamic_cast<TabPages&>(*FindChild(row.strip, {}));
+  return dynamic_cast<TabPages&>(Require(FindChild(row.strip, {}), *this, row.strip));
 }
 
 void InsertOptions::MakeStatementPages() {

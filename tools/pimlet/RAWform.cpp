@@ -232,7 +232,8 @@ void RAWform::SetLine(const std::string& line, int kind) {
 void RAWform::AddText(const std::string& text) { SetLine(Line() + " " + text, kText); }
 
 TextBox& RAWform::CodeBox(int index) {
-  return *std::array{&RMakeText, &RBreakText, &RCombinedText}.at(static_cast<std::size_t>(index));
+  TextBox* const boxes[] = {&RMakeText, &RBreakText, &RCombinedText};
+  return Require(index >= 0 && index < 3 ? boxes[index] : nullptr, *this, "CodeBox", index);
 }
 
 void RAWform::Command3_Click(int index) {

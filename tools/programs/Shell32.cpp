@@ -53,8 +53,8 @@ class Announced {
   std::string before_;
 };
 
-/// Stands in front until the program has ended, or the user or the time has had enough: what it is if it has
-/// not ended.
+/// Shows the window of the wait until the program ends, the user stops it, or the time is up. Gives how the
+/// wait for a program that has not ended came to its end.
 WaitEnd ShowWait(Workbench& bench, Shell& shell, RunningProgram& program, const std::string& commandLine,
                  int timeout) {
   const TimersHeld held(shell);
