@@ -154,6 +154,7 @@ void Bindings::Forget(const Component& component) { shown_.erase(&component); }
 void Bindings::Release() {
   shown_.clear();
   connections_.clear();
+  Released();
 }
 
 QObject* Bindings::Find(const Component& component) const {

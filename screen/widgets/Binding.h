@@ -54,6 +54,8 @@ class Bindings {
   void Forget(const Component& component);
   /// For a form that goes before its view.
   void Release();
+  /// For widgets that hear of controls by themselves, which they must do no more.
+  Signal<> Released;
 
   [[nodiscard]] QObject* Find(const Component& component) const;
 

@@ -140,6 +140,10 @@ ListStack::ListStack(Bindings& bindings, const QString& name, Ticks ticks)
   setMouseTracking(true);
   setEditTriggers(NoEditTriggers);
   setAccessibleName(name);
+  released_ = bindings.Released.Connect([this] {
+    stack_.clear();
+    front_ = nullptr;
+  });
 }
 
 // Which list is in front.

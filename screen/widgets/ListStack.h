@@ -85,6 +85,7 @@ class ListStack : public QListView {
   ListBox* front_ = nullptr;
   bool showing_ = false;
   std::optional<QPoint> press_;  // where the left button went down
+  Connection released_;
 };
 
 }  // namespace tarvik::screen
