@@ -112,7 +112,8 @@ void Application::Show(ToolId tool) {
   const auto rows = Tools();
   const auto row =
       std::find_if(rows.begin(), rows.end(), [tool](const ToolRow& each) { return each.id == tool; });
-  if (row != rows.end() && row->show) row->show(workbench, *this);
+  const ToolRow& found = Require(row == rows.end() ? nullptr : &*row, *mum_, "tool", static_cast<int>(tool));
+  if (found.show) found.show(workbench, *this);
 }
 
 void Application::ShowPreferences(int page) {

@@ -219,10 +219,9 @@ void Editor::OpenPreviouslySavedFiles(const std::string& path) {
     // The ending is looked for anywhere in the joined extensions, so that "22m" counts as a macro file as
     // well.
     const std::string& name = bench_.files.NameToOpen();
-    const std::string ending = name.substr(name.size() - std::min<std::size_t>(3, name.size()));
     std::string macroEndings;
     for (const Endings& endings : kEndings) macroEndings += endings.macro;
-    if (macroEndings.find(ending) != std::string::npos) {
+    if (macroEndings.find(Ending(name)) != std::string::npos) {
       MnuFileMacroLoad_Click();
     } else {
       mnuFileJoystickLoad_Click();

@@ -46,7 +46,8 @@ void Screen::Show(Form& form) {
     frame_->ShowChild(*view, view->menus());
     views_.push_back(view);
   } else if (auto* const selector = dynamic_cast<ColourSelector*>(&form)) {
-    auto& swatch = *qobject_cast<QWidget*>(Find(application_.mum().Picture1));
+    Mum& mum = application_.mum();
+    auto& swatch = Require(qobject_cast<QWidget*>(Find(mum.Picture1)), mum, "Picture1");
     views_.push_back(new ColourSelectorView(*selector, swatch));
   } else if (const auto page = PageOf(form)) {
     views_.push_back(new ToolWindow(application_, form, page, *frame_, clock_));

@@ -37,12 +37,15 @@ std::string Arguments(const std::string& words) {
   return " (arguments: " + std::to_string(count) + ")";
 }
 
-/// A program's file ends in one of these, or has no ending at all.
-bool IsNamedLikeAProgram(std::string_view path) {
+bool EndsLikeAProgram(const std::string& path) {
   constexpr std::string_view kEndings[] = {".exe", ".com", ".bat", ".cmd", ".pif"};
-  const std::string name = LowerCase(std::string(path.substr(path.find_last_of("\\/") + 1)));
-  const auto endsSo = [&name](std::string_view ending) { return name.ends_with(ending); };
-  return name.find('.') == std::string::npos || std::any_of(std::begin(kEndings), std::end(kEndings), endsSo);
+  const auto endsSo = [name = LowerCase(path)](std::string_view ending) { return name.ends_with(ending); };
+  return std::any_of(std::begin(kEndings), std::end(kEndings), endsSo);
+}
+
+/// As the programs of the host are.
+bool HasNoEnding(const std::string& path) {
+  return path.find('.', path.find_last_of("\\/") + 1) == std::string::npos;
 }
 
 }  // namespace
@@ -63,8 +66,10 @@ std::string LoggedPrograms::ProgramIn(const std::string& line) const {
 
 /// What is no program for sure may have a file of the user's in it, and is not told.
 std::string LoggedPrograms::NameOf(const std::string& program) const {
-  const bool whole = program.find(' ') == std::string::npos || files_.FileExists(program);
-  return whole && IsNamedLikeAProgram(program) ? program : "something that is no program";
+  const bool isThere = files_.FileExists(program);
+  const bool isOneWord = program.find(' ') == std::string::npos;
+  const bool isProgram = EndsLikeAProgram(program) ? isThere || isOneWord : isThere && HasNoEnding(program);
+  return isProgram ? program : "something that is no program";
 }
 
 void LoggedPrograms::Tell(const std::string& commandLine, const Failure* failure) {

@@ -147,7 +147,7 @@ QLayout* LogColumn(Pane& log, const char* title, const FormLayout& in) {
   QWidget* const view = in.Show(log);
   view->setMinimumSize(130, 150);
   // What came last is in sight.
-  auto* const bar = qobject_cast<QPlainTextEdit*>(view)->verticalScrollBar();
+  auto* const bar = Require(qobject_cast<QPlainTextEdit*>(view), log, "view").verticalScrollBar();
   QObject::connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int last) { bar->setValue(last); });
   return Above(title, view);
 }
@@ -274,7 +274,8 @@ QLayout* Page(DrivesForm& form, const FormLayout& in) {
 
 QLayout* Page(TemplateForm& form, const FormLayout& in) {
   QWidget* const text = Named(in.Show(form.TemplateText), QStringLiteral("Template"));
-  qobject_cast<QPlainTextEdit*>(text)->setTabChangesFocus(false);  // as in the files
+  Require(qobject_cast<QPlainTextEdit*>(text), form, "TemplateText")
+      .setTabChangesFocus(false);  // as in the files
   text->setMinimumSize(480, 320);
   text->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   QWidget* const name = in.Show(form.Text1);

@@ -92,8 +92,9 @@ TEST_F(LogTest, NamesTheProgramAndNothingThatItIsTold) {
   EXPECT_EQ(Told("c:\\letter.txt"), kNoProgram + "(arguments: 0)");
   EXPECT_EQ(Told("\"c:\\fly.exe c:\\diary.b50"), "16:00:00 started \"c:\\fly.exe (arguments: 1)");
   bench.files.Put("c:\\diary.b50", "Dear diary");
-  EXPECT_EQ(Told(" c:\\diary.b50"), "16:00:00 started  (arguments: 1)");
-  EXPECT_EQ(Told(""), "16:00:00 started  (arguments: 0)");
+  EXPECT_EQ(Told(" c:\\diary.b50"), kNoProgram + "(arguments: 1)");
+  EXPECT_EQ(Told("c:\\fly/load=c:\\diary"), kNoProgram + "(arguments: 0)");
+  EXPECT_EQ(Told(""), kNoProgram + "(arguments: 0)");
 }
 
 TEST_F(LogTest, TellsWhichSettingsCouldNotBeReadAndNotWhatTheyAre) {

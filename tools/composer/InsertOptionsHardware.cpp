@@ -196,14 +196,12 @@ void InsertOptions::ShowForFile() {
 }
 
 std::string InsertOptions::EndingOfFile() const {
-  constexpr std::size_t kEnding = 3;
-  const std::string& name = bench_.documents.tabs.Tabs(1).Caption;
-  return name.substr(name.size() - std::min(name.size(), kEnding));
+  return std::string(Ending(bench_.documents.tabs.Tabs(1).Caption.Get()));
 }
 
 /// The throttle goes by the language of the joystick that it is programmed with.
 void InsertOptions::LabelWCS() {
-  const bool plain = EndingOfFile() == "adv" || IsPlain(bench_.settings.JoyName);
+  const bool plain = IsPlain(JoystickOf(EndingOfFile())) || IsPlain(bench_.settings.JoyName);
   for (const tables::WcsRow& row : tables::kWcsButtons) {
     Label& button = hardware("BTN(" + std::to_string(row.button) + ")");
     button.Caption = std::string(plain ? row.plain : row.numbered);

@@ -80,7 +80,7 @@ class RAWform : public ToolForm {
   void CommandINS_Click(int index);
   void TotalCombinedText_Change();
   void TotalCombinedText_KeyDown(Key& key);
-  void mnuFileClose_Click() { shell_.Unload(*this); }
+  void mnuFileClose_Click() { Close(); }
   void mnuDelayValue_Click(int index);
   void mnuPasteJ_Click() { PasteInto(bench_.documents.joystick); }
   void mnuPasteM_Click() { PasteInto(bench_.documents.macro); }

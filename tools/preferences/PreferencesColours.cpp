@@ -50,6 +50,7 @@ constexpr const char* kFixedPitchTitle = "Lining up slash modifiers";
 constexpr const char* kFixedPitch =
     "If you want all your slash modifiers to line up as they do in Notepad, choose a fixed pitch font, like "
     "Courier New.";
+
 }  // namespace
 
 void Preferences::FillColours() {
