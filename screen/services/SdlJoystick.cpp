@@ -3,6 +3,7 @@
 #define SDL_MAIN_HANDLED
 #include <SDL.h>
 
+#include <QLibrary>
 #include <algorithm>
 #include <utility>
 
@@ -12,51 +13,92 @@ namespace {
 enum Axis { kX, kY, kZ, kR };
 constexpr int kButtons = 32;
 
+// A function of the library by its name; null where there is none.
+class Symbol {
+ public:
+  explicit Symbol(const char* name) : found_(QLibrary(QStringLiteral("SDL2-2.0"), 0).resolve(name)) {}
+
+  template <typename Function>
+  operator Function*() const {  // NOLINT(google-explicit-constructor): the place it goes to tells its type
+    return reinterpret_cast<Function*>(found_);
+  }
+
+ private:
+  QFunctionPointer found_;
+};
+
+struct SdlCalls {
+  decltype(&SDL_SetMainReady) SetMainReady = Symbol("SDL_SetMainReady");
+  decltype(&SDL_SetHint) SetHint = Symbol("SDL_SetHint");
+  decltype(&SDL_InitSubSystem) InitSubSystem = Symbol("SDL_InitSubSystem");
+  decltype(&SDL_JoystickEventState) JoystickEventState = Symbol("SDL_JoystickEventState");
+  decltype(&SDL_JoystickGetAxis) JoystickGetAxis = Symbol("SDL_JoystickGetAxis");
+  decltype(&SDL_QuitSubSystem) QuitSubSystem = Symbol("SDL_QuitSubSystem");
+  decltype(&SDL_JoystickUpdate) JoystickUpdate = Symbol("SDL_JoystickUpdate");
+  decltype(&SDL_JoystickGetAttached) JoystickGetAttached = Symbol("SDL_JoystickGetAttached");
+  decltype(&SDL_NumJoysticks) NumJoysticks = Symbol("SDL_NumJoysticks");
+  decltype(&SDL_JoystickGetDeviceInstanceID) JoystickGetDeviceInstanceID =
+      Symbol("SDL_JoystickGetDeviceInstanceID");
+  decltype(&SDL_JoystickOpen) JoystickOpen = Symbol("SDL_JoystickOpen");
+  decltype(&SDL_JoystickClose) JoystickClose = Symbol("SDL_JoystickClose");
+  decltype(&SDL_JoystickNumAxes) JoystickNumAxes = Symbol("SDL_JoystickNumAxes");
+  decltype(&SDL_JoystickNumButtons) JoystickNumButtons = Symbol("SDL_JoystickNumButtons");
+  decltype(&SDL_JoystickGetButton) JoystickGetButton = Symbol("SDL_JoystickGetButton");
+};
+
+// SDL brings some forty libraries of sound and windows with it. It is loaded when a stick is first asked for,
+// so that neither the start nor the memory of those who ask for none pays for it.
+const SdlCalls& Sdl() {
+  static const SdlCalls calls;
+  return calls;
+}
+
 Failure NoDevice() { return {joystick::kNoDevice, "There is no joystick", 0}; }
 
 bool Start() {
-  SDL_SetMainReady();
-  SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
-  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+  if (!Sdl().SetMainReady) return false;  // the library is not there
+  Sdl().SetMainReady();
+  Sdl().SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
+  Sdl().SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   // Those drivers rearrange the axes, and run in threads.
-  SDL_SetHint(SDL_HINT_JOYSTICK_HIDAPI, "0");
-  if (SDL_InitSubSystem(SDL_INIT_JOYSTICK) != 0) return false;
-  SDL_JoystickEventState(SDL_IGNORE);  // it is asked; nobody would read events
+  Sdl().SetHint(SDL_HINT_JOYSTICK_HIDAPI, "0");
+  if (Sdl().InitSubSystem(SDL_INIT_JOYSTICK) != 0) return false;
+  Sdl().JoystickEventState(SDL_IGNORE);  // it is asked; nobody would read events
   return true;
 }
 
 int AxisOf(SDL_Joystick* stick, Axis axis) {
-  return SDL_JoystickGetAxis(stick, axis) - SDL_JOYSTICK_AXIS_MIN;
+  return Sdl().JoystickGetAxis(stick, axis) - SDL_JOYSTICK_AXIS_MIN;
 }
 
 }  // namespace
 
 SdlJoystick::~SdlJoystick() {
   Close();
-  if (started_) SDL_QuitSubSystem(SDL_INIT_JOYSTICK);
+  if (started_) Sdl().QuitSubSystem(SDL_INIT_JOYSTICK);
 }
 
 bool SdlJoystick::Update() {
   if (!started_) started_ = Start();
-  if (started_) SDL_JoystickUpdate();
+  if (started_) Sdl().JoystickUpdate();
   return started_;
 }
 
-bool SdlJoystick::IsAttached() const { return stick_ && SDL_JoystickGetAttached(stick_); }
+bool SdlJoystick::IsAttached() const { return stick_ && Sdl().JoystickGetAttached(stick_); }
 
 /// The first stick that came after another one.
 void SdlJoystick::Open(int newerThan) {
-  for (int i = 0; i < SDL_NumJoysticks() && !stick_; ++i) {
-    if (SDL_JoystickGetDeviceInstanceID(i) > newerThan) stick_ = SDL_JoystickOpen(i);
+  for (int i = 0; i < Sdl().NumJoysticks() && !stick_; ++i) {
+    if (Sdl().JoystickGetDeviceInstanceID(i) > newerThan) stick_ = Sdl().JoystickOpen(i);
   }
 }
 
 void SdlJoystick::Close() {
   if (!stick_) return;
-  SDL_JoystickClose(std::exchange(stick_, nullptr));
+  Sdl().JoystickClose(std::exchange(stick_, nullptr));
   newest_ = -1;
-  for (int i = 0; i < SDL_NumJoysticks(); ++i) {
-    newest_ = std::max(newest_, SDL_JoystickGetDeviceInstanceID(i));
+  for (int i = 0; i < Sdl().NumJoysticks(); ++i) {
+    newest_ = std::max(newest_, Sdl().JoystickGetDeviceInstanceID(i));
   }
 }
 
@@ -68,7 +110,7 @@ Outcome<JoyCaps> SdlJoystick::GetDevCaps() {
   }
   had_ = stick_ != nullptr;
   if (!stick_) return NoDevice();
-  return JoyCaps{SDL_JoystickNumAxes(stick_) > kZ, SDL_JoystickNumAxes(stick_) > kR};
+  return JoyCaps{Sdl().JoystickNumAxes(stick_) > kZ, Sdl().JoystickNumAxes(stick_) > kR};
 }
 
 Outcome<JoyInfo> SdlJoystick::GetPosEx() {
@@ -79,8 +121,8 @@ Outcome<JoyInfo> SdlJoystick::GetPosEx() {
   }
   if (!stick_) return Failure{joystick::kUnplugged, "The joystick is unplugged", 0};
   JoyInfo info{AxisOf(stick_, kX), AxisOf(stick_, kY), AxisOf(stick_, kZ), AxisOf(stick_, kR), 0};
-  for (int i = 0; i < std::min(kButtons, SDL_JoystickNumButtons(stick_)); ++i) {
-    if (SDL_JoystickGetButton(stick_, i)) info.buttons |= 1U << i;
+  for (int i = 0; i < std::min(kButtons, Sdl().JoystickNumButtons(stick_)); ++i) {
+    if (Sdl().JoystickGetButton(stick_, i)) info.buttons |= 1U << i;
   }
   return info;
 }

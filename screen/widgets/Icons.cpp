@@ -2,10 +2,15 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QSvgRenderer>
+#include <map>
+#include <tuple>
+#include <utility>
 
 #include "screen/widgets/Conversions.h"
 
@@ -17,21 +22,40 @@ namespace {
 
 constexpr const char* kInk = "#232629";  // what own drawings have for "text colour"
 constexpr qreal kFaded = 0.35;
-constexpr int kSizes[] = {16, 22, 32, 44, 48, 64, 128, 256};
 
-QIcon Rendered(const QByteArray& svg) {
-  QSvgRenderer renderer(svg);
-  QIcon icon;
-  for (const int size : kSizes) {
-    QPixmap pixmap(size, size);
+// An own drawing, which is rendered at the sizes that are asked for and at no other.
+class Drawing : public QIconEngine {
+ public:
+  explicit Drawing(QByteArray svg) : svg_(std::move(svg)) {}
+
+  void paint(QPainter* painter, const QRect& area, QIcon::Mode mode, QIcon::State state) override {
+    painter->drawPixmap(area, pixmap(area.size() * painter->device()->devicePixelRatioF(), mode, state));
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) override {
+    const auto [kept, isNew] = rendered_.try_emplace({size.width(), size.height(), mode});
+    if (isNew) kept->second = Rendered(size, mode);
+    return kept->second;
+  }
+
+  [[nodiscard]] QIconEngine* clone() const override { return new Drawing(*this); }
+
+ private:
+  [[nodiscard]] QPixmap Rendered(const QSize& size, QIcon::Mode mode) const {
+    QPixmap pixmap(size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    renderer.render(&painter);
+    QSvgRenderer(svg_).render(&painter);
     painter.end();
-    icon.addPixmap(pixmap);
+    if (mode == QIcon::Normal) return pixmap;
+    QStyleOption option;
+    option.palette = QApplication::palette();
+    return QApplication::style()->generatedIconPixmap(mode, pixmap, &option);
   }
-  return icon;
-}
+
+  QByteArray svg_;
+  std::map<std::tuple<int, int, QIcon::Mode>, QPixmap> rendered_;
+};
 
 class FadingStyle : public QProxyStyle {
  public:
@@ -64,7 +88,7 @@ QIcon Icon(std::string_view name, const QColor& ink) {
   QFile own(QLatin1String(":/icons/") + file + QLatin1String(".svg"));
   if (!own.open(QIODevice::ReadOnly)) return QIcon::fromTheme(file);
   const QColor colour = ink.isValid() ? ink : QApplication::palette().color(QPalette::WindowText);
-  return Rendered(own.readAll().replace(kInk, colour.name().toLatin1()));
+  return QIcon(new Drawing(own.readAll().replace(kInk, colour.name().toLatin1())));
 }
 
 }  // namespace tarvik::screen
