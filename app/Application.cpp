@@ -84,6 +84,7 @@ bool Application::CloseMum() {
   mum_->MDIForm_Unload();
   UnloadTools(EndsWith::Frame);
   while (!tools_.empty()) Unload(*tools_.back());
+  workbench.unsaved.End();
   ended_ = true;
   HasEnded();
   return true;

@@ -45,6 +45,7 @@ Editor::Editor(Application& application)
       List1(application.workbench.macros.panel.List1),
       Timer1(application.workbench.autoSave.timer),
       TimerBlinkLine(application.workbench.blink.timer),
+      notice(*this, application.workbench, [this] { layout_.Place(); }),
       menus(*this, tables::kMenus),
       popUps(*this, tables::kPopUps),
       Joystick(application.workbench.documents.joystick),
@@ -53,8 +54,8 @@ Editor::Editor(Application& application)
       bench_(application.workbench),
       mum_(application.mum()),
       savedStates_(bench_.documents, mum_),
-      layout_(bench_.documents,
-              {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros, mnuViewTileVertically}),
+      layout_(bench_.documents, {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros,
+                                 mnuViewTileVertically, notice.frame}),
       input_(bench_.documents, menus, popUps,
              {[this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); },
               [this](const Document& document) { return FindNext(document); }}),
@@ -136,6 +137,7 @@ void Editor::Form_Load(EditorBegins begins) {
   lists.GetFavourites();
   lists.GetGames();
   lists.GetCustomApps();
+  notice.Show();
   layout_.Place();
   Visible = true;
   Form_Activate();
@@ -167,6 +169,12 @@ void Editor::FollowWorkbench() {
       bench_.ClipboardChanged.Connect([this] { UpdateCCPButtons(); }),
       bench_.files.ShowsMacros.Connect([this] { layout_.ShowMacroFrame(); }),
       bench_.files.NeedsPreferences.Connect([this] { mnuPreferencesEdit_Click(); }),
+      // The tool that is shown hears of the text next, and takes it.
+      bench_.recovery.Returns.Connect([this](const UnsavedText& unsaved, bool&) {
+        if (unsaved.head.kind == TextKind::Template) application_.Show(ToolId::TemplateEditor);
+        if (unsaved.head.kind == TextKind::Logic) application_.Show(ToolId::Composer);
+      }),
+      bench_.recovery.WantsPage.Connect([this] { application_.Show(ToolId::UnsavedTexts); }),
       bench_.ToolbarSettingsChanged.Connect([this] { UpdateToolBarOpenSaveTooltips(); }),
       bench_.AutoSaveSettingsChanged.Connect([this] { AutoSaveHasChanged(); }),
       bench_.HardwareSettingsChanged.Connect([this] { HardwareHasChanged(); }),

@@ -5,6 +5,7 @@
 #include "app/Layout.h"
 #include "app/ListMenus.h"
 #include "app/Mum.h"
+#include "app/NoticeBar.h"
 #include "app/PaneInput.h"
 #include "app/SavedStates.h"
 #include "workbench/HelpTopics.h"
@@ -31,6 +32,7 @@ class Editor : public Form {
   ControlArray<CommandButton> Command1{*this, "Command1", kModifierButtons};
   Timer& Timer1;
   Timer& TimerBlinkLine;
+  NoticeBar notice;
   Menus menus;
   /// The pop-up menus: the panes', and the macro lists'.
   Menus popUps;

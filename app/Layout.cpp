@@ -14,6 +14,7 @@ constexpr float kPaneLeft = 3;
 constexpr float kPaneTop = 23;
 constexpr float kPaneRight = 3;
 constexpr float kPaneBottom = 22;
+constexpr float kNoticeHeight = 44;
 
 // In the frame, in twips.
 constexpr float kMargin = 120;
@@ -77,12 +78,21 @@ void Layout::PlaceTabStrip() {
   documents_.tabs.Move(left, 0, controls_.form.ScaleWidth - left, controls_.form.ScaleHeight);
 }
 
+float Layout::PlaceNotice() {
+  const TabStrip& strip = documents_.tabs;
+  const float top = strip.Top + kPaneTop;
+  if (!controls_.notice.Visible) return top;
+  controls_.notice.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, kNoticeHeight);
+  return top + kNoticeHeight;
+}
+
 void Layout::PositionControls() {
   PlaceTabStrip();
   const TabStrip& strip = documents_.tabs;
+  const float top = PlaceNotice();
+  const float height = strip.Top + strip.Height - kPaneBottom + kPaneTop - top;
   for (Document* document : {&documents_.joystick, &documents_.macro}) {
-    document->text.Move(strip.Left + kPaneLeft, strip.Top + kPaneTop, strip.Width - kPaneLeft - kPaneRight,
-                        strip.Height - kPaneBottom);
+    document->text.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, height);
   }
   ShowPanes();
 }
@@ -91,8 +101,8 @@ void Layout::ShowBothFiles() {
   PlaceTabStrip();
   const TabStrip& strip = documents_.tabs;
   const float half = strip.Width / 2;
-  const float top = strip.Top + kPaneTop;
-  const float height = strip.Height - kPaneBottom;
+  const float top = PlaceNotice();
+  const float height = strip.Top + strip.Height - kPaneBottom + kPaneTop - top;
   documents_.joystick.text.Move(strip.Left + kPaneLeft, top, half - 4, height);
   documents_.macro.text.Move(strip.Left + half, top, half - 4, height);
   ShowPanes();

@@ -16,6 +16,7 @@ struct LayoutControls {
   ControlArray<CommandButton>& buttons;
   MenuItem& viewMacros;
   MenuItem& tile;
+  Frame& notice;
 };
 
 class Layout {
@@ -38,6 +39,8 @@ class Layout {
   void PositionControls();
   void ShowBothFiles();
   void PlaceTabStrip();
+  /// Where the panes begin, below the bar of the notices where there is one.
+  float PlaceNotice();
   void PlaceFrame();
   [[nodiscard]] float FrameWidth() const;
 

@@ -76,7 +76,8 @@ Mum::Mum(Application& application)
       menus(*this, kMenus),
       application_(application),
       bench_(application.workbench) {
-  for (Component* const control : std::initializer_list<Component*>{&StatusBar, &ProgressBar1, &Picture1}) {
+  for (Component* const control :
+       std::initializer_list<Component*>{&StatusBar, &ProgressBar1, &Picture1, &bench_.journals.timer}) {
     Adopt(*control);
   }
   busy_ = bench_.documents.Busy.Changed.Connect(
@@ -121,6 +122,8 @@ void Mum::MDIForm_Load() {
   MDIForm_Resize();
   if (settings.FlatToolbar == 1) MakeFlat();
   application_.ShowEditor(EditorBegins::WithTheFilesOfTheStart);
+  bench_.recovery.Look();
+  if (bench_.recovery.Texts().size() > 1) application_.Show(ToolId::UnsavedTexts);
   if (settings.ShowTips == 1) application_.Show(ToolId::Tips);
 }
 

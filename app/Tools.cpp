@@ -8,6 +8,7 @@
 #include "tools/pimlet/RAWform.h"
 #include "tools/preferences/Preferences.h"
 #include "tools/programs/Games.h"
+#include "tools/recovery/UnsavedTexts.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
@@ -68,6 +69,7 @@ constexpr ToolRow kTools[] = {
     {ToolId::JoystickWizard, "JoystickWiz", EndsWith::Editor, Raise<JoystickWiz>},
     {ToolId::JoystickAnalyser, "JoyPlot", EndsWith::Editor, ShowAnalyser},
     {ToolId::Speedy, "Speedy", EndsWith::Editor, Raise<Speedy>},
+    {ToolId::UnsavedTexts, "UnsavedTexts", EndsWith::Editor, Raise<UnsavedTexts>},
     {ToolId::ColourSelector, "ColourSelector", EndsWith::Frame, ShowColours},
     {ToolId::KeyTest, "KeyTestForm", EndsWith::Frame, ShowKeyTest},
     {ToolId::ProgramWait, "ProgramWait", EndsWith::Frame, nullptr},

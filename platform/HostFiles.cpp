@@ -1,19 +1,15 @@
 #include "platform/HostFiles.h"
 
-#include <fcntl.h>
 #include <signal.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <charconv>
 #include <chrono>
 #include <filesystem>
 #include <optional>
-#include <system_error>
-#include <utility>
 
+#include "platform/Descriptor.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -29,34 +25,6 @@ constexpr mode_t kFolder = 0777;
 
 /// Temporary files are called so, with the process and a number behind it: .tarvik-1234-0
 constexpr std::string_view kTemporary = ".tarvik-";
-
-Failure SystemFailure(int code, int numberWhenMissing = error::kPathNotFound) {
-  const bool full = code == ENOSPC || code == EDQUOT || code == EFBIG;
-  const bool missing = code == ENOENT || code == ENOTDIR;
-  const int number = full ? error::kDiskFull : missing ? numberWhenMissing : error::kPathAccess;
-  return {number, std::generic_category().message(code), code};
-}
-
-class Descriptor {
- public:
-  Descriptor() = default;
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() { Close(); }
-
-  /// `errno` tells why it is not open afterwards.
-  void Open(const fs::path& path, int flags, mode_t mode = 0) {
-    number_ = open(path.c_str(), flags | O_CLOEXEC, mode);
-  }
-  /// False where the system tells only now that what was written is lost.
-  bool Close() { return number_ < 0 || close(std::exchange(number_, -1)) == 0; }
-
-  [[nodiscard]] bool IsOpen() const { return number_ >= 0; }
-  [[nodiscard]] int number() const { return number_; }
-
- private:
-  int number_ = -1;
-};
 
 std::optional<struct stat> StatusOf(const fs::path& path) {
   struct stat status {};
@@ -91,18 +59,6 @@ int Obstacle(const fs::path& target, const std::optional<struct stat>& old) {
   return S_ISREG(old->st_mode) && MayWrite(target, *old) ? 0 : EACCES;
 }
 
-Outcome<> WriteAll(int file, std::string_view content) {
-  while (!content.empty()) {
-    const ssize_t written = write(file, content.data(), content.size());
-    if (written >= 0) {
-      content.remove_prefix(static_cast<std::size_t>(written));
-    } else if (errno != EINTR) {
-      return SystemFailure(errno);
-    }
-  }
-  return Done{};
-}
-
 /// A new file that is to take the place of another one. It goes away again unless it has done so.
 class Replacement {
  public:
@@ -125,7 +81,7 @@ class Replacement {
 
   Outcome<> Fill(std::string_view content) {
     if (error_ != 0) return SystemFailure(error_);
-    if (auto written = WriteAll(file_.number(), content); !written) return written;
+    if (auto written = file_.WriteAll(content); !written) return written;
     if (old_ && !KeepOwnerAndMode()) return SystemFailure(errno);
     if (fsync(file_.number()) != 0 || !file_.Close()) return SystemFailure(errno);
     return Done{};
@@ -204,22 +160,6 @@ Outcome<> ReplaceFile(const fs::path& target, std::string_view content) {
   return Done{};
 }
 
-Outcome<std::string> ReadAll(const Descriptor& file, std::size_t expected) {
-  constexpr std::size_t kStep = 65536;
-  std::string content;
-  std::size_t size = 0;
-  content.resize(expected + 1);  // one more, so that the end shows without another round
-  while (true) {
-    const ssize_t count = read(file.number(), content.data() + size, content.size() - size);
-    if (count == 0) break;
-    if (count < 0 && errno != EINTR) return SystemFailure(errno);
-    if (count > 0) size += static_cast<std::size_t>(count);
-    if (size == content.size()) content.resize(size + kStep);
-  }
-  content.resize(size);
-  return content;
-}
-
 }  // namespace
 
 bool HostFiles::FileExists(std::string_view path) const {
@@ -281,7 +221,7 @@ Outcome<std::string> HostFiles::Read(std::string_view path) const {
   if (!file.IsOpen() || fstat(file.number(), &status) != 0) return SystemFailure(errno, error::kFileNotFound);
   if (S_ISDIR(status.st_mode)) return SystemFailure(EISDIR);
   if (!S_ISREG(status.st_mode)) return SystemFailure(EACCES);
-  return ReadAll(file, static_cast<std::size_t>(status.st_size));
+  return file.ReadAll(static_cast<std::size_t>(status.st_size));
 }
 
 Outcome<> HostFiles::Write(std::string_view path, std::string_view content) {

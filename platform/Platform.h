@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/Files.h"
+#include "platform/Journals.h"
 #include "platform/Joystick.h"
 #include "platform/Keyboard.h"
 #include "platform/Outcome.h"
@@ -164,6 +165,7 @@ struct Platform {
   Keyboard& keyboard;
   Programs& programs;
   DriveFolders& drives;
+  Journals& journals;
   ScreenSize screen;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string

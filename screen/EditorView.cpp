@@ -5,7 +5,9 @@
 #include <QShortcut>
 
 #include "screen/MumWindow.h"
+#include "screen/pages/FormLayout.h"
 #include "screen/widgets/Conversions.h"
+#include "screen/widgets/Icons.h"
 
 namespace tarvik::screen {
 namespace {
@@ -14,6 +16,8 @@ constexpr int kTabHeight = 23;
 constexpr int kCaptionTop = 3;
 constexpr int kCaptionLeft = 8;
 constexpr int kGripWidth = 8;
+constexpr int kNoticeMargin = 8;
+constexpr int kNoticeIcon = 22;
 constexpr int kLastLowerButton = 11;
 constexpr int kUpperButtons = 6;
 constexpr int kLastUpperButton = 12;
@@ -60,6 +64,7 @@ EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(
   FollowArrays(editor.menus, bindings_);
   MakeMacroFrame();
   MakeTabs();
+  MakeNotice();
   MakePanes();
   OrderFocus();
   bindings_.Shows(editor, *this);
@@ -119,6 +124,23 @@ void EditorView::MakePanes() {
   panes_[1]->setAccessibleName(tr("Macro file"));
   bindings_.Place(editor_.JoystickText, *panes_[0], Unit::Pixel);
   bindings_.Place(editor_.MacroText, *panes_[1], Unit::Pixel);
+}
+
+void EditorView::MakeNotice() {
+  auto* const bar = new QFrame(this);
+  bar->setFrameShape(QFrame::StyledPanel);
+  bar->setAutoFillBackground(true);
+  bindings_.BindControl(editor_.notice.frame, *bar);
+  bindings_.Place(editor_.notice.frame, *bar, Unit::Pixel);
+  const FormLayout in(bindings_);
+  QLabel* const text = Wrapped(in.Show(editor_.notice.text));
+  auto* const picture = new QLabel;
+  picture->setPixmap(Icon("dialog-information").pixmap(kNoticeIcon));
+  auto* const row = new QHBoxLayout(bar);
+  row->setContentsMargins(kNoticeMargin, 0, kNoticeMargin, 0);
+  row->addWidget(picture);
+  row->addWidget(text, 1);
+  for (int i = 0; i < NoticeBar::kMostActions; ++i) row->addWidget(in.Show(editor_.notice.commands(i)));
 }
 
 /// As the eye goes: the upper row of the modifier buttons ends with the one that came last.

@@ -26,6 +26,7 @@ class EditorView : public QWidget, public FormView {
  private:
   void MakeMacroFrame();
   void MakeTabs();
+  void MakeNotice();
   void MakePanes();
   void OrderFocus();
   void PlaceTabs();

@@ -64,7 +64,10 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
       Qt::QueuedConnection);
   menus_ = MakeMenus(mum.menus, bindings_);
   RemoveChild();
-  if (clock == Clock::Real) KeepPanels();
+  if (clock == Clock::Real) {
+    KeepPanels();
+    bindings_.Bind(application.workbench.journals.timer, *new QTimer(this));
+  }
   settling_.setSingleShot(true);
   settling_.setInterval(clock == Clock::Real ? kSettlingTime : 0);
   connect(&settling_, &QTimer::timeout, this, [this] { Settle(); });

@@ -10,11 +10,13 @@
 #include "app/Application.h"
 #include "platform/HostDrives.h"
 #include "platform/HostFiles.h"
+#include "platform/HostJournals.h"
 #include "platform/HostPrograms.h"
 #include "platform/InstanceLock.h"
 #include "platform/ProgramFolder.h"
 #include "screen/Screen.h"
 #include "screen/Toolkit.h"
+#include "screen/services/EndSignals.h"
 #include "screen/services/LockKeys.h"
 #include "screen/services/QtDesktop.h"
 #include "screen/services/QtDialogs.h"
@@ -89,6 +91,7 @@ struct Services {
   HostDrives driveFolders{folder.Path()};
   Drives& drives = driveFolders.Paths();
   HostFiles files{drives};
+  HostJournals journals{HostJournals::PlacesOf(folder.Path())};
   screen::QtDialogs dialogs{drives};
   FirstInFolder lock{folder, driveFolders};
   screen::QtClipboard clipboard;
@@ -111,6 +114,7 @@ struct Services {
                     keyboard,
                     programs,
                     driveFolders,
+                    journals,
                     SizeOfScreen(),
                     drives.FromHost(folder.Path()),
                     CommandLine(QApplication::arguments().mid(1), drives)};
@@ -150,6 +154,10 @@ int main(int argc, char* argv[]) {
     QMetaObject::invokeMethod(
         qApp, [] { qApp->quit(); }, Qt::QueuedConnection);
   });
+  const auto keepUnsaved = [&application] { application.workbench.journals.Write(); };
+  const screen::EndSignals endSignals(keepUnsaved);
+  QObject::connect(&toolkit, &QGuiApplication::commitDataRequest, &toolkit, keepUnsaved,
+                   Qt::DirectConnection);
   if (!application.Start() || application.Ended()) return 0;
   return QApplication::exec();
 }

@@ -92,6 +92,7 @@ constexpr const char* kNoPartnerMacroFile =
 // New.
 
 void FileCommands::Reset() {
+  for (const Document* const document : {&documents_.joystick, &documents_.macro}) Leaves(*document);
   toOpen_ = {};
   lastFileName_.clear();
 }
@@ -127,6 +128,7 @@ void FileCommands::ShowName(const Document& document) {
 
 bool FileCommands::New(Document& document) {
   if (!MayReplace(document, Question::New)) return false;
+  Leaves(document);
   const ProgramEdit edit(documents_.values);
   document.Dirty = saved::kNoText;
   document.text.SetContent({});
@@ -214,6 +216,7 @@ void FileCommands::Remember(const Document& document) {
 }
 
 void FileCommands::TakeFile(Document& document, const NamedFile& file) {
+  Leaves(document);
   document.Path = file.path;
   document.Name = file.name;
   ShowName(document);
@@ -444,11 +447,21 @@ void FileCommands::SaveText(Document& document) {
   if (documents_.settings.UndoClearOnSave == 1) ResetHistory(document);
 }
 
+Outcome<> FileCommands::WriteText(const Document& document, const Pane& text) const {
+  auto written = text.SaveFile(document.Path.Get(), FileFormat::Text);
+  if (!written) return written;
+  const auto read = documents_.platform.files.Read(document.Path.Get());
+  if (!read) return read.failure();
+  if (*read != text.Characters()) return Failure{error::kUnexpected, "The file does not hold the text", 0};
+  return written;
+}
+
 void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   const Trap trap{documents_.errors, tag};
   const Scratch scratch(documents_.scratch);
   scratch->SetContent(RichText(std::string(document.text.Characters())));
-  trap(scratch->SaveFile(document.Path.Get(), FileFormat::Text));
+  const Outcome<> written = WriteText(document, *scratch);
+  trap(written);
   const auto shown = FileName::From(documents_.TabOf(document).Caption.Get());
   if (documents_.settings.CreateBackup == 1 && shown) {
     trap(scratch->SaveFile(documents_.values.BackupDir.Get() / *shown, FileFormat::Text));
@@ -458,6 +471,7 @@ void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   document.Dirty = saved::kSaved;
   documents_.UpdateSavedIcon();
   copies_.Save(document);
+  Written(document, written);
 }
 
 void FileCommands::SaveBoth() {

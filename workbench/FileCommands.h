@@ -58,6 +58,10 @@ class FileCommands {
   /// are recorded under `tag`.
   void WriteToDisk(Document& document, std::string_view tag);
 
+  /// The document's text is about to go: another file comes in its place, or none.
+  Signal<const Document&> Leaves;
+  /// A document was written to its path, or could not be.
+  Signal<Document&, const Outcome<>&> Written;
   /// The macro lists are about to be made anew and want to be seen.
   Signal<> ShowsMacros;
   /// The settings of the files do not fit what the user opens, and who can change them is to be asked for.
@@ -78,6 +82,8 @@ class FileCommands {
   void TakeFile(Document& document, const NamedFile& file);
   void FillPane(Document& document, const Trap& trap);
   void SaveText(Document& document);
+  /// It has succeeded when the file, read again, holds the text.
+  [[nodiscard]] Outcome<> WriteText(const Document& document, const Pane& text) const;
   void OpenMacroThenJoystick(const NamedFile& file, const Trap& trap);
   void OpenJoystickThenMacro(const NamedFile& file, const Trap& trap);
   void OpenMacro(const NamedFile& file, const Trap& trap);

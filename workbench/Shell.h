@@ -36,6 +36,7 @@ enum class ToolId {
   Tips,
   About,
   Log,
+  UnsavedTexts,
 };
 
 /// The pages of the preferences.

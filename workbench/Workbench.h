@@ -6,6 +6,8 @@
 #include "workbench/EditCommands.h"
 #include "workbench/LineBlink.h"
 #include "workbench/LoggedPrograms.h"
+#include "workbench/Recovery.h"
+#include "workbench/UnsavedWork.h"
 
 namespace tarvik {
 
@@ -37,6 +39,10 @@ class Workbench {
   EditCommands edit{documents, insertion};
   FileCommands files{documents, copies, highlighter, macros, lists};
   AutoSave autoSave{documents, files};
+  Notices notices;
+  JournalKeeper journals{platform, errors};
+  UnsavedWork unsaved{journals, documents, files, notices};
+  Recovery recovery{documents, files, insertion, journals, notices};
 
   /// The editor was closed: what was open is forgotten, and no timer runs.
   void Reset();

@@ -16,6 +16,7 @@
 #include "tools/preferences/DrivesForm.h"
 #include "tools/programs/Games.h"
 #include "tools/programs/ProgramWait.h"
+#include "tools/recovery/UnsavedTexts.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
@@ -325,6 +326,18 @@ QLayout* Page(LogForm& form, const FormLayout& in) {
       {Wrapped(in.Show(form.Label1)), lines, Row({in.Show(form.cmdCopy), Stretch(), in.Show(form.cmdOK)})});
 }
 
+QLayout* Page(UnsavedTexts& form, const FormLayout& in) {
+  QWidget* const texts = Named(in.Show(form.List1), QStringLiteral("Texts"));
+  texts->setMaximumHeight(120);
+  QWidget* const inFile = in.Show(form.FileText);
+  QWidget* const unsaved = in.Show(form.LeftText);
+  for (QWidget* const pane : {inFile, unsaved}) pane->setMinimumSize(320, 260);
+  return Column({Wrapped(in.Show(form.Label1)), texts,
+                 Row({Above("In the file now", inFile), Above("Not saved", unsaved)}),
+                 Row({in.Show(form.Command4), Stretch(), in.Show(form.Command1), in.Show(form.Command2),
+                      in.Show(form.Command3), in.Show(form.Command5)})});
+}
+
 QLayout* Page(ViewImage& form, const FormLayout& in) {
   return PicturePage(form, form.Image1, in.Show(form.Image1), QStringLiteral("Picture"), in);
 }
@@ -363,7 +376,7 @@ MakePage PageAmong(Form& form) {
 MakePage PageOf(Form& form) {
   return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, Wizard, Speedy, Title, Heading,
                    SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
-                   EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, ViewImage, SelectPictureForm>(
+                   EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, UnsavedTexts, ViewImage, SelectPictureForm>(
       form);
 }
 

@@ -62,7 +62,15 @@ InsertOptions::InsertOptions(Workbench& bench, Shell& shell)
       macros(*this, bench.macros),
       TemplatesPreview(*this, "TemplatesPreview", bench.platform.files),
       menus(*this, kMenus),
-      writer_(bench) {
+      writer_(bench),
+      logicJournal_(
+          bench.journals,
+          [this] {
+            const Document& joystick = bench_.documents.joystick;
+            return JournalHead{TextKind::Logic, joystick.Path,
+                               "Logic lines for " + joystick.Name.Get().Text()};
+          },
+          [this] { return RichText(LogicLinesOnShow()); }) {
   Caption = "  Composer - to ease your programming somewhat !!!";
   for (const char* const menu : {"mnuRHList", "mnuHatPos", "mnuTrigger", "mnuPortAll", "mnuTemplates"}) {
     menus(menu).Visible = false;  // they only pop up
@@ -101,6 +109,12 @@ void InsertOptions::MakeFrame() {
   Deactivate = [this] { Form_Deactivate(); };
   KeyDown = [this](Key& key) { Form_KeyDown(key); };
   Unload = [this] { Form_Unload(); };
+}
+
+/// The lines were given up, or are in a file.
+void InsertOptions::Form_Unload() {
+  SaveSpaces();
+  logicJournal_.Remove();
 }
 
 void InsertOptions::ShowComposer() {

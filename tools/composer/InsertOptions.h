@@ -111,7 +111,7 @@ class InsertOptions : public ToolForm {
   void Form_Activate();
   void Form_Deactivate();
   void Form_KeyDown(Key& key);
-  void Form_Unload() { SaveSpaces(); }
+  void Form_Unload();
   void SSTab1_Click();
   void PositionComposer();
   void GetSpaces();
@@ -221,8 +221,14 @@ class InsertOptions : public ToolForm {
   void InsertTemplate(Document& document);
   void AddToLogicLine(std::string_view token);
   [[nodiscard]] Outcome<std::string> LogicLine(int index);
+  [[nodiscard]] std::string LogicLinesOnShow() const;
+  void FillLogicLines(const std::vector<std::string>& lines);
+  void LogicLinesChanged();
+  /// Takes back the logic lines that were nowhere else when the program ended.
+  bool TakeBack(const UnsavedText& unsaved);
 
   StatementWriter writer_;
+  Journal logicJournal_;
   std::vector<Connection> connections_;
 };
 

@@ -1,4 +1,6 @@
 // The Composer's pages beside the main one: statements built from fields, templates, and logic lines.
+#include <sstream>
+
 #include "tools/composer/InsertOptions.h"
 #include "workbench/Highlighter.h"
 
@@ -252,8 +254,11 @@ void InsertOptions::MakeLogicPage() {
     const auto makeCurrent = [this, i] { OptionFlag(i).Value = true; };
     RichTexFlag(i).GotFocus = makeCurrent;
     RichTexFlag(i).MouseDown = [makeCurrent](const Mouse&) { makeCurrent(); };
+    connections_.push_back(RichTexFlag(i).Text.Changed.Connect([this] { LogicLinesChanged(); }));
   }
   OptionFlag(0).Value = true;
+  connections_.push_back(bench_.recovery.Returns.Connect(
+      [this](const UnsavedText& unsaved, bool& taken) { taken = taken || TakeBack(unsaved); }));
 }
 
 void InsertOptions::FillLogicLists() {
@@ -329,6 +334,36 @@ void InsertOptions::Command13_Click(int index) {
     insertion.InsertCarriageReturn();
   }
   insertion.EndColInsert();
+  logicJournal_.Remove();
+}
+
+std::string InsertOptions::LogicLinesOnShow() const {
+  std::string lines;
+  for (int i = 0; i < RichTexFlag.Count(); ++i) lines += RichTexFlag(i).Text.Get() + "\r\n";
+  return lines.substr(0, lines.find_last_not_of("\r\n") + 1);
+}
+
+void InsertOptions::LogicLinesChanged() {
+  if (LogicLinesOnShow().empty()) return logicJournal_.Remove();
+  logicJournal_.Begin();
+  logicJournal_.NoteWhole();
+}
+
+bool InsertOptions::TakeBack(const UnsavedText& unsaved) {
+  if (unsaved.head.kind != TextKind::Logic) return false;
+  std::vector<std::string> lines;
+  std::istringstream text(unsaved.text.text);
+  for (std::string line; std::getline(text, line) && lines.size() < tables::kLogicLines;) {
+    lines.push_back(line.substr(0, line.find('\r')));
+  }
+  SSTab1.Tab = kLogic;
+  FillLogicLines(lines);
+  return true;
+}
+
+void InsertOptions::FillLogicLines(const std::vector<std::string>& lines) {
+  for (std::size_t i = 0; i < lines.size(); ++i) RichTexFlag(static_cast<int>(i)).Text = lines[i];
+  SSTabFlags.Tab = 0;
 }
 
 void InsertOptions::FindLogicStatements() {
@@ -340,8 +375,8 @@ void InsertOptions::FindLogicStatements() {
     bench_.platform.dialogs.Show({kNoLogicTitle, kNoLogic, BoxIcon::Information});
     return;
   }
-  for (std::size_t i = 0; i < lines.size(); ++i) RichTexFlag(static_cast<int>(i)).Text = lines[i];
-  SSTabFlags.Tab = 0;
+  FillLogicLines(lines);
+  logicJournal_.Remove();
   OptionFlag(0).Value = true;
 }
 

@@ -57,6 +57,7 @@ class Announced {
 /// wait for a program that has not ended came to its end.
 WaitEnd ShowWait(Workbench& bench, Shell& shell, RunningProgram& program, const std::string& commandLine,
                  int timeout) {
+  bench.journals.Write();  // its timer is held as well, and another program may take the machine along
   const TimersHeld held(shell);
   const std::string waiting = "Waiting for " + commandLine + " to end ...";
   const Announced announced(bench.documents.status.Panels(1), waiting);

@@ -85,7 +85,14 @@ std::string NameIn(const std::string& path) { return path.substr(path.rfind('\\'
 TemplateForm::TemplateForm(Workbench& bench, Shell& shell)
     : ToolForm("TemplateForm", bench, shell),
       menus(*this, kMenus),
-      TemplateText(*this, "TemplateText", bench.platform.files) {
+      TemplateText(*this, "TemplateText", bench.platform.files),
+      journal_(
+          bench.journals,
+          [this] {
+            return JournalHead{TextKind::Template, FileName.Get().empty() ? TemplatePath : FileName,
+                               TemplateName};
+          },
+          [this] { return TemplateText.Content(); }) {
   Caption = "Template Editor";
   menus("mnuPopShow").Visible = false;
   Text1.ToolTipText = "The file's name; a name typed here is a template's";
@@ -107,6 +114,7 @@ TemplateForm::TemplateForm(Workbench& bench, Shell& shell)
 
 void TemplateForm::AttachHandlers() {
   Load = [this] { Form_Load(); };
+  Unload = [this] { journal_.Remove(); };  // the user was asked
   Activate = [this] { Form_Activate(); };
   // The text is not closed in passing.
   KeyDown = [](Key& key) {
@@ -121,11 +129,19 @@ void TemplateForm::AttachHandlers() {
   TemplateText.SelChange = [this] { UpdateCopyItems(); };
   // Colours are part of a template.
   connections_ = {
-      TemplateText.Edited.Connect([this](const PaneEdit&) { TemplateText_Change(); }),
+      TemplateText.Edited.Connect([this](const PaneEdit& edit) {
+        TemplateText_Change();
+        journal_.Note(edit);
+      }),
       bench_.ClipboardChanged.Connect([this] { UpdateCopyItems(); }),
       bench_.settings.TextFilePath.Changed.Connect([this] { ShowDefault(); }),
       TemplateName.Changed.Connect([this] { FileOnShow = TemplateName; }),
-      TemplateChanged.Changed.Connect([this] { Unsaved = TemplateChanged == 1; }),
+      TemplateChanged.Changed.Connect([this] {
+        Unsaved = TemplateChanged == 1;
+        Unsaved ? journal_.Begin() : journal_.Remove();
+      }),
+      bench_.recovery.Returns.Connect(
+          [this](const UnsavedText& unsaved, bool& taken) { taken = taken || TakeBack(unsaved); }),
   };
 }
 
@@ -251,6 +267,22 @@ bool TemplateForm::Save() {
   TemplateName = name;
   TemplateChanged = 0;
   Say(name + " was saved successfully");
+  return true;
+}
+
+bool TemplateForm::TakeBack(const UnsavedText& unsaved) {
+  const JournalHead& head = unsaved.head;
+  if (head.kind != TextKind::Template ||
+      !MayOpen(" has changed and isn't saved. Do you want to save it before opening another file?")) {
+    return false;
+  }
+  const bool isThere = bench_.platform.files.FileExists(head.path);
+  FileName = isThere ? head.path : std::string();
+  TemplatePath = head.path;
+  ShowName(head.name);
+  TemplateText.SetContent(unsaved.text);
+  mnuViewrefreshLayout_Click();
+  TemplateChanged = 1;
   return true;
 }
 

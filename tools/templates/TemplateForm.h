@@ -94,7 +94,10 @@ class TemplateForm : public ToolForm {
   bool Save();
   void New();
   void UpdateCopyItems();
+  /// Takes back what was not saved when the program ended.
+  bool TakeBack(const UnsavedText& unsaved);
 
+  Journal journal_;
   std::vector<Connection> connections_;
 };
 

@@ -10,6 +10,7 @@
 
 #include "platform/Platform.h"
 #include "support/MemoryFiles.h"
+#include "support/MemoryJournals.h"
 #include "support/ScriptedPrinter.h"
 
 namespace tarvik::session {
@@ -194,6 +195,7 @@ struct ScriptedPlatform {
   ScriptedKeyboard keyboard;
   ScriptedPrograms programs;
   ScriptedDrives drives;
+  MemoryJournals journals;
 
   /// A process on this disk, beside any other.
   [[nodiscard]] Platform Process(Files& files, std::string commandLine = "", const Instead& instead = {}) {
@@ -212,6 +214,7 @@ struct ScriptedPlatform {
             keyboard,
             given(instead.programs, static_cast<Programs&>(programs)),
             drives,
+            journals,
             {1920, 1440},
             "c:\\tarvik",
             std::move(commandLine)};

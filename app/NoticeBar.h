@@ -1,0 +1,30 @@
+// The bar above the text: what the user should know of the file on top, and what can be done about it.
+#pragma once
+
+#include "workbench/Workbench.h"
+
+namespace tarvik {
+
+class NoticeBar {
+ public:
+  static constexpr int kMostActions = 4;
+
+  /// Its controls are the form's; `place` is called when the bar comes or goes.
+  NoticeBar(Form& form, Workbench& bench, std::function<void()> place);
+
+  Frame frame;
+  Label text;
+  ControlArray<CommandButton> commands;
+
+  /// As there is something to tell of the file on top, or not.
+  void Show();
+
+ private:
+  void Run(int command) const;
+
+  Workbench& bench_;
+  std::function<void()> place_;
+  std::vector<Connection> connections_;
+};
+
+}  // namespace tarvik

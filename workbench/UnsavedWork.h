@@ -1,0 +1,40 @@
+// The journals of the two documents: each begins with the first change behind a save, and ends when the file
+// is saved, or the user gives the text up.
+#pragma once
+
+#include "workbench/FileCommands.h"
+#include "workbench/Journal.h"
+#include "workbench/Notices.h"
+
+namespace tarvik {
+
+class UnsavedWork {
+ public:
+  UnsavedWork(JournalKeeper& keeper, Documents& documents, FileCommands& files, Notices& notices);
+
+  /// The program ends: what the user was asked about and did not want needs no journal any more. What could
+  /// not be saved has one at the next start.
+  void End();
+
+ private:
+  struct Work {
+    Work(JournalKeeper& keeper, Document& itsDocument);
+
+    Document& document;
+    Journal journal;
+    bool failed = false;  // to be saved, though the document does not say so
+    std::vector<Connection> connections;
+  };
+
+  [[nodiscard]] Work& Of(const Document& document) { return document.IsJoystick() ? joystick_ : macro_; }
+  void Leaves(const Document& document);
+  void Written(Document& document, const Outcome<>& outcome);
+
+  FileCommands& files_;
+  Notices& notices_;
+  Work joystick_;
+  Work macro_;
+  std::vector<Connection> connections_;
+};
+
+}  // namespace tarvik
