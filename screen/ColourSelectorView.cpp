@@ -1,13 +1,32 @@
 #include "screen/ColourSelectorView.h"
 
-#include <QGridLayout>
 #include <QKeyEvent>
 #include <QPushButton>
+
+#include "screen/pages/FormLayout.h"
 
 namespace tarvik::screen {
 namespace {
 
-constexpr int kSwatchSize = 18;
+/// Each colour beside the button that takes it.
+QLayout* Page(ColourSelector& selector, const FormLayout& in) {
+  constexpr int kSwatch = 18;
+  constexpr QMargins kMargins(8, 8, 8, 8);
+  std::vector<QWidget*> cells;
+  for (int i = 0; i < ColourSelector::kColours; ++i) {
+    QWidget* const colour = in.Show(selector.Label1(i));
+    colour->setFixedSize(kSwatch, kSwatch);
+    static_cast<QLabel*>(colour)->setFrameShape(QFrame::Box);
+    QWidget* const button = in.Show(selector.Command1(i));
+    static_cast<QPushButton*>(button)->setAutoDefault(true);  // the one with the focus stands out
+    cells.insert(cells.end(), {colour, button});
+  }
+  QGridLayout* const grid = Grid(cells, 2);
+  grid->setContentsMargins(kMargins);
+  grid->setVerticalSpacing(4);
+  grid->setHorizontalSpacing(8);
+  return grid;
+}
 
 }  // namespace
 
@@ -16,21 +35,7 @@ ColourSelectorView::ColourSelectorView(ColourSelector& selector, QWidget& swatch
   setFrameShape(QFrame::StyledPanel);
   setAttribute(Qt::WA_NoMouseReplay);  // a click on the swatch closes it and does not open it again
   setAccessibleName(tr("Text colour"));
-  auto* const rows = new QGridLayout(this);
-  rows->setContentsMargins(8, 8, 8, 8);
-  rows->setSpacing(4);
-  rows->setHorizontalSpacing(8);
-  for (int i = 0; i < ColourSelector::kColours; ++i) {
-    auto* const colour = new QLabel;
-    colour->setFixedSize(kSwatchSize, kSwatchSize);
-    colour->setFrameShape(QFrame::Box);
-    auto* const button = new QPushButton;
-    button->setAutoDefault(true);
-    rows->addWidget(colour, i, 0);
-    rows->addWidget(button, i, 1);
-    bindings_.Bind(selector.Label1(i), *colour);
-    bindings_.Bind(selector.Command1(i), *button);
-  }
+  setLayout(Page(selector, FormLayout(bindings_)));
   bindings_.Shows(selector, *this);
   bindings_.Bind(selector.Visible, [this] {
     if (!selector_.Visible) {

@@ -1,6 +1,7 @@
 #include "screen/pages/FormLayout.h"
 
 #include <QCheckBox>
+#include <QFormLayout>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -306,7 +307,8 @@ QLabel* Words(const char* text) { return new QLabel(QString::fromUtf8(text)); }
 
 QLabel* LabelOf(const char* text, QWidget* control) {
   QLabel* const label = Words(text);
-  label->setBuddy(Named(control, label->text()));
+  const QString name = label->text();
+  label->setBuddy(Named(control, name.endsWith(u':') ? name.chopped(1) : name));
   return label;
 }
 
@@ -328,12 +330,7 @@ QLabel* Wrapped(QWidget* shown) {
 QLayout* Fields(const std::vector<Field>& fields) {
   auto* const layout = new QFormLayout;
   layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  for (const Field& field : fields) {
-    layout->addRow(QString::fromUtf8(field.label), field.control);
-    QString name = QString::fromUtf8(field.label);
-    if (name.endsWith(u':')) name.chop(1);
-    Named(field.control, name);
-  }
+  for (const Field& field : fields) layout->addRow(field.label, field.control);
   return layout;
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QBoxLayout>
-#include <QFormLayout>
 #include <QGridLayout>
 #include <QLabel>
 #include <variant>
@@ -59,7 +58,7 @@ QWidget* Named(QWidget* control, const QString& name);
 
 /// Words by themselves.
 [[nodiscard]] QLabel* Words(const char* text);
-/// A label whose mnemonic leads to the control, which is read out under the same name.
+/// A label whose mnemonic leads to the control, which is read out under the same name without its colon.
 [[nodiscard]] QLabel* LabelOf(const char* text, QWidget* control);
 
 /// A label with a title's letters.
@@ -67,9 +66,14 @@ QWidget* AsTitle(QWidget* label);
 /// A label whose text is a paragraph, word for word.
 QLabel* Wrapped(QWidget* label);
 
-/// A label with the control that it names; its mnemonic leads there.
+/// A control with its label, on the left of it.
 struct Field {
-  const char* label;
+  /// As `LabelOf`.
+  Field(const char* words, QWidget* named) : label(LabelOf(words, named)), control(named) {}
+  /// A label that is there, of a control that nobody needs to go to or that says by itself what it is.
+  Field(QLabel* beside, QWidget* shown) : label(beside), control(shown) {}
+
+  QLabel* label;
   QWidget* control;
 };
 [[nodiscard]] QLayout* Fields(const std::vector<Field>& fields);

@@ -4,6 +4,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <algorithm>
+#include <utility>
 
 #include "screen/pages/Pages.h"
 #include "screen/widgets/Conversions.h"
@@ -20,26 +21,29 @@ class GuidePages {
  public:
   GuidePages(GuidedForm& form, const FormLayout& in) : form_(form), in_(in) {}
 
-  QVBoxLayout* Next() {
-    auto* const page = new QVBoxLayout;
-    QFormLayout* fields = nullptr;  // rows with words and a control below one another are aligned
+  /// Below what stands above all of its rows.
+  QLayout* Next(std::vector<Piece> pieces = {}) {
+    std::vector<Field> fields;
+    const auto align = [&] {
+      if (!fields.empty()) pieces.emplace_back(Fields(std::exchange(fields, {})));
+    };
     for (const GuideRow& row : form_.pages[page_++].rows) {
-      const bool field = !row.text.empty() && !row.control.empty();
-      if (!field) fields = nullptr;
-      if (field && !fields) page->addLayout(fields = new QFormLayout);
-      if (field) {
-        Add(row, *fields);
-      } else if (row.control.empty()) {
-        page->addWidget(Words(row));
-      } else {
-        page->addLayout(Controls(row.control));
+      if (IsField(row)) {
+        fields.push_back(FieldOf(row));
+        continue;
       }
+      align();
+      pieces.push_back(row.control.empty() ? Piece(Words(row)) : Piece(Controls(row.control)));
     }
-    page->addStretch();
-    return page;
+    align();
+    pieces.emplace_back(Stretch());
+    return Column(pieces);
   }
 
  private:
+  /// Such rows below one another are aligned.
+  static bool IsField(const GuideRow& row) { return !row.text.empty() && !row.control.empty(); }
+
   QLabel* NextWords() { return OnTheWindow(form_.Texts(text_++)); }
 
   /// Without a ground of its own.
@@ -59,11 +63,11 @@ class GuidePages {
     return words;
   }
 
-  void Add(const GuideRow& row, QFormLayout& fields) {
+  Field FieldOf(const GuideRow& row) {
     QLabel* const label = NextWords();
     QWidget* const control = ShowNamed(row.control);
     if (qobject_cast<QLineEdit*>(control)) Named(control, label->text());
-    fields.addRow(label, control);
+    return {label, control};
   }
 
   QLayout* Controls(std::string_view names) {
@@ -116,8 +120,7 @@ QLayout* Page(Wizard& form, const FormLayout& in) {
   GuidePages pages(form, in);
   for (int i = 0; i < form.frames.Count(); ++i) {
     auto* const page = new QWidget;
-    QVBoxLayout* const rows = pages.Next();
-    rows->insertWidget(0, AsTitle(Wrapped(new QLabel(ToScreen(form.frames(i).Caption.Get())))));
+    QLayout* const rows = pages.Next({AsTitle(Wrapped(new QLabel(ToScreen(form.frames(i).Caption.Get()))))});
     rows->setSpacing(page->fontMetrics().height() * 2 / 3);
     page->setLayout(rows);
     stack->addWidget(page);

@@ -225,11 +225,10 @@ QLayout* Page(ProgramWait& form, const FormLayout& in) {
 }
 
 QLayout* Page(EnterFavouritename& form, const FormLayout& in) {
-  auto* const fields = new QFormLayout;
-  fields->addRow(QStringLiteral("Name:"), in.Show(form.Text1));
-  fields->addRow(Words("Joystick file:"), in.ShowPath(form.Label1));
-  fields->addRow(Words("Macro file:"), in.ShowPath(form.Label2));
-  return Column({fields, Stretch(), Row({Stretch(), in.Show(form.Command1), in.Show(form.Command2)})});
+  return Column({Fields({{"Name:", in.Show(form.Text1)},
+                         {Words("Joystick file:"), in.ShowPath(form.Label1)},
+                         {Words("Macro file:"), in.ShowPath(form.Label2)}}),
+                 Stretch(), Row({Stretch(), in.Show(form.Command1), in.Show(form.Command2)})});
 }
 
 QLayout* Page(EnterGameName& form, const FormLayout& in) {
