@@ -27,11 +27,6 @@ TEST(Printers, SayWhatTheUserIsAsked) {
             R"(Save dialog "Save", filter "All|*.*", folder "c:\\my", file "a.b50", ending "b50")");
 }
 
-TEST(Printers, SayWhatTheUserDoes) {
-  EXPECT_EQ(PrintToString(Key{65, shift::kCtrl | shift::kShift}), "key Ctrl+Shift+65");
-  EXPECT_EQ(PrintToString(Mouse{1, shift::kAlt, {15}, {30}}), "Alt+button 1 at 15, 30 twips");
-}
-
 TEST(Printers, SayWhyItFailed) {
   EXPECT_EQ(PrintToString(Outcome<>(Failure{53, "File not found", 2})),
             R"(failure 53 "File not found", the system's 2)");

@@ -1,15 +1,11 @@
-// How a failing expectation shows what a user does to controls and panes.
+// How a failing expectation shows what becomes of the text of a pane.
 #pragma once
 
-#include "controls/PlotBox.h"
 #include "panes/Pane.h"
-#include "support/TextPrinters.h"
+#include "support/ControlPrinters.h"
 
 namespace tarvik {
 
-void PrintTo(const Key& key, std::ostream* out);
-void PrintTo(const Mouse& mouse, std::ostream* out);
-void PrintTo(const Stroke& stroke, std::ostream* out);
 void PrintTo(const PaneEdit& edit, std::ostream* out);
 
 }  // namespace tarvik
