@@ -207,7 +207,10 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"set value TEXT TEXT|:", &Runner::SetValue, Needs::Program},
       {"set PROPERTY TEXT|:", &Runner::Set, Needs::Program},
       {"call Editor.ExtractButtonDefinition TEXT", &Runner::Call, Needs::Program},
-      {"call TEXT", &Runner::Call, Needs::Program},
+      {"call Editor.Form_Activate|Editor.HardwareHasChanged|Editor.DamnFontWasChanged|"
+       "Editor.DeleteUndosFromMemory|Editor.EmergencySaveFiles|Editor.CheckAtLineBeginning|Mum.MakeFlat|"
+       "Mum.ColoursSortOut|Mum.ReleaseGradientInEmergency|Settings.SaveOptions|KeyTestForm.TurnOffCapsLOCK",
+       &Runner::Call, Needs::Program},
       {"choose TEXT", &Runner::Choose},
       {"answer OK|Yes|No|Cancel|later", &Runner::AnswerBox},
       {"clipboard empty", &Runner::FillClipboard},
@@ -247,6 +250,12 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"expect TEXT in FORM NAME TEXT|:", &Runner::ExpectPropertyOf, Needs::Program},
   };
   return sentences;
+}
+
+std::vector<std::string_view> Runner::Shapes() {
+  std::vector<std::string_view> shapes;
+  for (const Sentence& sentence : Sentences()) shapes.emplace_back(sentence.shape);
+  return shapes;
 }
 
 const Runner::Sentence* Runner::SentenceOf(const Line& line) {
@@ -657,9 +666,7 @@ void Runner::Call(const Line& line) {
       {"Mum.ColoursSortOut", [&] { application_->mum().ColoursSortOut(); }},
       {"Settings.SaveOptions", [&] { application_->workbench.settings.SaveOptions(); }},
   };
-  const auto operation = operations.find(Word(line, 1));
-  if (operation == operations.end()) throw Stop{"there is no such operation"};
-  operation->second();
+  operations.at(Word(line, 1))();
 }
 
 /// choose PATH | cancel | later: the next file dialog stays open until a choice comes.

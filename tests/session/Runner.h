@@ -21,6 +21,8 @@ class Runner {
   Runner(MakeDriver makeDriver, const std::string& dataFolder);
   ~Runner();
 
+  /// The shapes of all lines that a session may have.
+  static std::vector<std::string_view> Shapes();
   /// What reads wrong, one text a line, before anything of it runs.
   std::vector<std::string> Check(std::string_view script);
   /// What did not hold, one text a line; empty when the session passed.

@@ -2,6 +2,12 @@
 // it crash.
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <fstream>
+#include <regex>
+#include <set>
+#include <sstream>
+
 #include "session/Runner.h"
 
 namespace tarvik::session {
@@ -169,6 +175,68 @@ TEST(Runner, TellsABoxThatNobodyExpects) {
   const std::string box = std::string(kStarted) + "click Editor.mnuViewIdentify\n";
   EXPECT_THAT(Failures(box), SizeIs(1));
   EXPECT_THAT(Failures(box + "expect no box\nexpect box \"You're kidding me...right?!\"\n"), SizeIs(1));
+}
+
+using Words = std::set<std::string>;
+
+/// The words of a text that the pattern finds.
+Words WordsIn(const std::string& text, const char* pattern) {
+  const std::regex word(pattern);
+  Words found;
+  for (std::sregex_iterator at(text.begin(), text.end(), word), end; at != end; ++at) found.insert((*at)[0]);
+  return found;
+}
+
+/// Of each row of the tables in the instructions for those who write sessions: the words between backquotes.
+std::vector<Words> RowsOfTheInstructions() {
+  std::ifstream file(TARVIK_DATA "/../docs/CONTRIBUTING.md");
+  std::vector<Words> rows;
+  for (std::string line; std::getline(file, line);) {
+    std::string code;
+    if (!line.starts_with("| `")) continue;
+    for (const std::string& span : WordsIn(line, "`[^`]+`")) code += span + ' ';
+    rows.push_back(WordsIn(code, "[A-Za-z_.]+"));
+  }
+  return rows;
+}
+
+/// What a line of the shape may be made of, each with the words that all such lines have: a set for
+/// "expect no file TEXT", and three for "program runs|ends|abandoned". Kinds of words stand in capitals.
+std::vector<Words> WordsToTell(std::string_view shape) {
+  Words always;
+  std::vector<Words> choices;
+  std::istringstream parts{std::string(shape)};
+  for (std::string part; parts >> part;) {
+    Words words;
+    for (const std::string& word : WordsIn(part, "[A-Za-z_.]+")) {
+      const bool isKind = std::all_of(word.begin(), word.end(), [](char c) { return c < 'a'; });
+      if (!isKind || word == "OK") words.insert(word);
+    }
+    const bool isFixed = part.find_first_of("[|") == std::string::npos;
+    (isFixed ? always : choices.emplace_back()).merge(words);
+  }
+  std::vector<Words> sets = {always};
+  for (const Words& choice : choices) {
+    for (const std::string& word : choice) {
+      sets.push_back(always);
+      sets.back().insert(word);
+    }
+  }
+  return sets;
+}
+
+TEST(Instructions, TellEveryLineThatASessionMayHave) {
+  const std::vector<Words> rows = RowsOfTheInstructions();
+  ASSERT_GT(rows.size(), 40U);
+  for (const std::string_view shape : Runner::Shapes()) {
+    for (const Words& words : WordsToTell(shape)) {
+      const auto hasAll = [&words](const Words& row) {
+        return std::includes(row.begin(), row.end(), words.begin(), words.end());
+      };
+      EXPECT_TRUE(std::any_of(rows.begin(), rows.end(), hasAll))
+          << shape << ": " << testing::PrintToString(words);
+    }
+  }
 }
 
 }  // namespace
