@@ -70,6 +70,12 @@ class Editor : public Form {
   void GetOpenSingleOnly();
   void SaveOpenSingleOnly();
 
+  /// The handler of an entry that only shows a tool.
+  template <ToolId tool>
+  void ShowTool() {
+    application_.Show(tool);
+  }
+
   // Preferences.
   void ShowPreferences(int page);
   void mnuPreferencesEdit_Click() { ShowPreferences(page::kFileLocations); }
@@ -204,7 +210,6 @@ class Editor : public Form {
   void mnuSendToKeyTest_Click() { application_.Show(ToolId::KeyTest); }
   void mnuAppsImageViewer_Click() { application_.Show(ToolId::ImageViewer); }
   void mnuAppsTemplate_Click() { application_.Show(ToolId::TemplateEditor); }
-  void mnuAppsJoyAnalyser_Click() { application_.Show(ToolId::JoystickAnalyser); }
   void mnuAppsTMScope_Click();
   void mnuAppsCandCC_Click();
   void mnuF22Setup_Click();
@@ -215,9 +220,6 @@ class Editor : public Form {
   void mnuAppsQuiet_Click();
 
   // Wizards.
-  void mnuhelpWizCreateMacroFile_Click() { application_.Show(ToolId::MacroWizard); }
-  void mnuhelpWizCreateJoyFile_Click() { application_.Show(ToolId::JoystickWizard); }
-  void mnuWizSpeedy_Click() { application_.Show(ToolId::Speedy); }
   void mnuWizBeginnersAdvice_Click();
   void mnuWizOrlanTip1_Click();
   void mnuWizLogic1_Click();

@@ -6,8 +6,10 @@
 #include "tools/favourites/Favourites.h"
 #include "tools/find/FindAndReplace.h"
 #include "tools/pimlet/RAWform.h"
+#include "tools/preferences/DrivesForm.h"
 #include "tools/preferences/Preferences.h"
 #include "tools/programs/Games.h"
+#include "tools/programs/ProgramWait.h"
 #include "tools/recovery/UnsavedTexts.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
@@ -54,31 +56,40 @@ void ShowImageViewer(Workbench& /*bench*/, Shell& shell) {
   form.Image1.SetFocus();
 }
 
+template <class F>
+constexpr ToolRow Row(ToolId id, const char* form, EndsWith end,
+                      void (*show)(Workbench& bench, Shell& shell) = nullptr) {
+  return {id, form, end, [](Shell& shell) -> Form& { return shell.Tool<F>(); }, show};
+}
+
 constexpr ToolRow kTools[] = {
-    {ToolId::Find, "FindAndReplace", EndsWith::Editor, By<FindAndReplace, &FindAndReplace::ShowFind>},
-    {ToolId::Composer, "InsertOptions", EndsWith::Editor, By<InsertOptions, &InsertOptions::ShowComposer>},
-    {ToolId::Heading, "Heading", EndsWith::Editor, InsertHeading},
-    {ToolId::Pimlet, "RAWform", EndsWith::Editor, Raise<RAWform>},
-    {ToolId::Title, "Title", EndsWith::Editor, InsertTitle},
-    {ToolId::Remark, "SingleTextForm", EndsWith::Editor, AskForRemark},
-    {ToolId::Favourite, "EnterFavouritename", EndsWith::Editor, AddToFavourites},
-    {ToolId::Game, "EnterGameName", EndsWith::Editor, AddGame},
-    {ToolId::Drives, "DrivesForm", EndsWith::Editor, nullptr},
-    {ToolId::Preferences, "Preferences", EndsWith::Editor, Modal<Preferences>},
-    {ToolId::MacroWizard, "MacroWizard", EndsWith::Editor, Raise<MacroWizard>},
-    {ToolId::JoystickWizard, "JoystickWiz", EndsWith::Editor, Raise<JoystickWiz>},
-    {ToolId::JoystickAnalyser, "JoyPlot", EndsWith::Editor, ShowAnalyser},
-    {ToolId::Speedy, "Speedy", EndsWith::Editor, Raise<Speedy>},
-    {ToolId::UnsavedTexts, "UnsavedTexts", EndsWith::Editor, Raise<UnsavedTexts>},
-    {ToolId::ColourSelector, "ColourSelector", EndsWith::Frame, ShowColours},
-    {ToolId::KeyTest, "KeyTestForm", EndsWith::Frame, ShowKeyTest},
-    {ToolId::ProgramWait, "ProgramWait", EndsWith::Frame, nullptr},
-    {ToolId::TemplateEditor, "TemplateForm", EndsWith::Program, By<TemplateForm, &TemplateForm::ShowText>},
-    {ToolId::ImageViewer, "ViewImage", EndsWith::Program, ShowImageViewer},
-    {ToolId::PictureDialog, "SelectPictureForm", EndsWith::Program, nullptr},
-    {ToolId::Tips, "frmTip", EndsWith::Program, Modal<frmTip>},
-    {ToolId::About, "frmAbout", EndsWith::Program, Modal<frmAbout>},
-    {ToolId::Log, "LogForm", EndsWith::Program, Modal<LogForm>},
+    Row<FindAndReplace>(ToolId::Find, "FindAndReplace", EndsWith::Editor,
+                        By<FindAndReplace, &FindAndReplace::ShowFind>),
+    Row<InsertOptions>(ToolId::Composer, "InsertOptions", EndsWith::Editor,
+                       By<InsertOptions, &InsertOptions::ShowComposer>),
+    Row<Heading>(ToolId::Heading, "Heading", EndsWith::Editor, InsertHeading),
+    Row<RAWform>(ToolId::Pimlet, "RAWform", EndsWith::Editor, Raise<RAWform>),
+    Row<Title>(ToolId::Title, "Title", EndsWith::Editor, InsertTitle),
+    Row<SingleTextForm>(ToolId::Remark, "SingleTextForm", EndsWith::Editor, AskForRemark),
+    Row<EnterFavouritename>(ToolId::Favourite, "EnterFavouritename", EndsWith::Editor, AddToFavourites),
+    Row<EnterGameName>(ToolId::Game, "EnterGameName", EndsWith::Editor, AddGame),
+    Row<DrivesForm>(ToolId::Drives, "DrivesForm", EndsWith::Editor),
+    Row<Preferences>(ToolId::Preferences, "Preferences", EndsWith::Editor, Modal<Preferences>),
+    Row<MacroWizard>(ToolId::MacroWizard, "MacroWizard", EndsWith::Editor, Raise<MacroWizard>),
+    Row<JoystickWiz>(ToolId::JoystickWizard, "JoystickWiz", EndsWith::Editor, Raise<JoystickWiz>),
+    Row<JoyPlot>(ToolId::JoystickAnalyser, "JoyPlot", EndsWith::Editor, ShowAnalyser),
+    Row<Speedy>(ToolId::Speedy, "Speedy", EndsWith::Editor, Raise<Speedy>),
+    Row<UnsavedTexts>(ToolId::UnsavedTexts, "UnsavedTexts", EndsWith::Editor, Raise<UnsavedTexts>),
+    Row<ColourSelector>(ToolId::ColourSelector, "ColourSelector", EndsWith::Frame, ShowColours),
+    Row<KeyTestForm>(ToolId::KeyTest, "KeyTestForm", EndsWith::Frame, ShowKeyTest),
+    Row<ProgramWait>(ToolId::ProgramWait, "ProgramWait", EndsWith::Frame),
+    Row<TemplateForm>(ToolId::TemplateEditor, "TemplateForm", EndsWith::Program,
+                      By<TemplateForm, &TemplateForm::ShowText>),
+    Row<ViewImage>(ToolId::ImageViewer, "ViewImage", EndsWith::Program, ShowImageViewer),
+    Row<SelectPictureForm>(ToolId::PictureDialog, "SelectPictureForm", EndsWith::Program),
+    Row<frmTip>(ToolId::Tips, "frmTip", EndsWith::Program, Modal<frmTip>),
+    Row<frmAbout>(ToolId::About, "frmAbout", EndsWith::Program, Modal<frmAbout>),
+    Row<LogForm>(ToolId::Log, "LogForm", EndsWith::Program, Modal<LogForm>),
 };
 
 }  // namespace

@@ -15,6 +15,7 @@ struct ToolRow {
   ToolId id;
   const char* form;
   EndsWith end;
+  Form& (*load)(Shell& shell);                   ///< the form, made when it is asked for first
   void (*show)(Workbench& bench, Shell& shell);  ///< null: only another tool shows it
 };
 

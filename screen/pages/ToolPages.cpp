@@ -375,8 +375,8 @@ MakePage PageAmong(Form& form) {
 MakePage PageOf(Form& form) {
   return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, Wizard, Speedy, Title, Heading,
                    SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
-                   EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, UnsavedTexts, ViewImage, SelectPictureForm>(
-      form);
+                   EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, UnsavedTexts, ViewImage,
+                   SelectPictureForm>(form);
 }
 
 }  // namespace tarvik::screen

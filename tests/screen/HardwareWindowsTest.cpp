@@ -124,7 +124,7 @@ class Paints : public QObject {
 class AnalyserWindow : public HardwareWindows {
  protected:
   AnalyserWindow() {
-    application.editor().mnuAppsJoyAnalyser_Click();
+    application.Show(ToolId::JoystickAnalyser);
     QApplication::processEvents();
   }
 
