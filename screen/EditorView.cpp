@@ -143,7 +143,7 @@ void EditorView::MakeNotice() {
   for (int i = 0; i < NoticeBar::kMostActions; ++i) row->addWidget(in.Show(editor_.notice.commands(i)));
 }
 
-/// As the eye goes: the upper row of the modifier buttons ends with the one that came last.
+/// The Tab key goes as the eye does. The upper row of the modifier buttons ends with the last of their array.
 void EditorView::OrderFocus() {
   const auto button = [this](int index) {
     return static_cast<QWidget*>(bindings_.Find(editor_.Command1(index)));
@@ -176,7 +176,7 @@ void EditorView::paintEvent(QPaintEvent*) {
                    ToPixels(strip.Height) - kTabHeight);
 }
 
-/// One of its menu entries may still run.
+/// The view is ended later, since one of its menu entries may still run.
 void EditorView::Retire() {
   hide();
   bindings_.Release();

@@ -93,7 +93,7 @@ void MumWindow::BindWindow() {
   });
 }
 
-/// The time, and the keys that light up.
+/// Keeps the panels of the time and of the lock keys as they are now.
 void MumWindow::KeepPanels() {
   auto* const timer = new QTimer(this);
   const auto show = [this] {
@@ -177,8 +177,8 @@ void MumWindow::ShowWindow() {
   }
 }
 
-/// The window manager would hear nothing of a change back to what it still shows: that waits until it has
-/// made the change before.
+/// The window manager would hear nothing of a change back to the state that it still shows. Such a change
+/// waits until it has made the one before.
 void MumWindow::TakeState() {
   const bool differs = isVisible() && mum_.WindowState != StateOnScreen();
   stateWaits_ = differs && settling_.isActive();

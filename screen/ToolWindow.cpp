@@ -133,7 +133,7 @@ void ToolWindow::ChooseOwner() {
   windowHandle()->setTransientParent(asking && asking != this ? asking->windowHandle() : nullptr);
 }
 
-/// At the frame's right, where it covers little of the text, but all of it on the screen.
+/// A place at the frame's right, where the window covers little of the text and is whole on the screen.
 QPoint ToolWindow::PlaceBeside() {
   adjustSize();
   const QRect frame = frame_.geometry();
@@ -143,13 +143,13 @@ QPoint ToolWindow::PlaceBeside() {
           std::min(frame.top() + kFromTheTop, lowest)};
 }
 
-/// Of a frame that fills the screen, or is about to: at the start it has not grown yet.
+/// The middle of the screen, for a frame that fills it or is about to: at the start it has not grown yet.
 QPoint ToolWindow::PlaceInTheMiddle() {
   adjustSize();
   return frame_.screen()->availableGeometry().center() - rect().center();
 }
 
-/// Where it is within reach, whatever screen it stood on before.
+/// The form's own place, or the nearest one within reach: it may have stood on another screen.
 QPoint ToolWindow::PlaceOfForm() const {
   constexpr int kWithinReach = 80;
   const QRect screen = frame_.screen()->availableGeometry();

@@ -5,7 +5,8 @@
 namespace tarvik::screen {
 namespace {
 
-/// Where the desktop puts its mark. In a file's name the same characters are doubled to stand for themselves.
+/// Stands where the desktop puts its mark for unsaved work. In a file's name the same characters are doubled
+/// to stand for themselves.
 const QLatin1String kMark("[*]");
 
 QString CaptionOf(const Form& form) { return ToScreen(form.Caption.Get()).trimmed(); }

@@ -45,7 +45,7 @@ class Button : public QPushButton {
  public:
   Button() { setAutoDefault(false); }
 
-  /// With air on both sides of its words.
+  /// The words have air on both sides.
   [[nodiscard]] QSize sizeHint() const override {
     constexpr int kAir = 12;
     const int icon = this->icon().isNull() ? 0 : iconSize().width();
@@ -148,7 +148,7 @@ constexpr ShowKind kKinds[] = {
     Only<Frame, ShowFrame>,
 };
 
-/// The letters that are taken, and the giving of one more.
+/// Keeps the letters that are taken, and gives one more.
 class Mnemonics {
  public:
   void Take(const QString& caption) {
@@ -179,7 +179,7 @@ QWidget* PageOf(QWidget* widget) {
   return widget;
 }
 
-/// Enter and Escape press these two, and a code such as "/U" is no word with a letter to spare.
+/// Enter and Escape press OK and Cancel, and a code such as "/U" is no word with a letter to spare.
 bool NeedsNone(const QString& caption) {
   return caption == caption.toUpper() || caption.size() == 1 || caption == QLatin1String("Cancel");
 }

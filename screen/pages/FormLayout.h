@@ -20,7 +20,7 @@ class FormLayout {
  public:
   explicit FormLayout(Bindings& bindings) : bindings_(bindings) {}
 
-  /// By the control's kind.
+  /// Shows a control by its kind.
   QWidget* Show(Control& control) const;
   /// A label whose text is a path, or has one in it.
   QWidget* ShowPath(Label& label) const;
@@ -37,7 +37,7 @@ class FormLayout {
   /// The pages in the order of the tabs.
   QWidget* Show(TabPages& pages, const std::vector<QLayout*>& layouts) const;
 
-  /// For widgets that bind their controls themselves.
+  /// The bindings of the form, for widgets that bind their controls themselves.
   [[nodiscard]] Bindings& bindings() const { return bindings_; }
 
  private:

@@ -21,7 +21,7 @@ class GuidePages {
  public:
   GuidePages(GuidedForm& form, const FormLayout& in) : form_(form), in_(in) {}
 
-  /// Below what stands above all of its rows.
+  /// The layout of the next page, whose rows stand below `pieces`.
   QLayout* Next(std::vector<Piece> pieces = {}) {
     std::vector<Field> fields;
     const auto align = [&] {
@@ -41,12 +41,12 @@ class GuidePages {
   }
 
  private:
-  /// Such rows below one another are aligned.
+  /// Rows with words and a control that stand below one another are aligned.
   static bool IsField(const GuideRow& row) { return !row.text.empty() && !row.control.empty(); }
 
   QLabel* NextWords() { return OnTheWindow(form_.Texts(text_++)); }
 
-  /// Without a ground of its own.
+  /// Shows a label without a ground of its own.
   QLabel* OnTheWindow(Label& label) {
     auto* const shown = qobject_cast<QLabel*>(in_.Show(label));
     shown->setAutoFillBackground(false);

@@ -26,7 +26,7 @@ struct SpokenKey {
   const char* name;
 };
 
-// Of keys whose face is short, or found on two of them.
+// The names of keys whose face is short, or is found on two of them.
 constexpr SpokenKey kSpokenKeys[] = {
     {58, "Left Shift"},   {59, "Right Shift"},   {60, "Left Control"}, {61, "Right Control"},
     {62, "Left Alt"},     {63, "Right Alt"},     {65, "Keypad Enter"}, {66, "Keypad point"},
@@ -253,7 +253,7 @@ void KeyboardView::LeaveStop() {
   if (first != caps_.end()) MakeStop(**first);
 }
 
-/// The nearest key whose middle lies that way; what lies aside counts more than what lies ahead.
+/// The nearest key whose middle lies that way. The distance aside counts more than the distance ahead.
 void KeyboardView::Go(const KeyCap& from, QPoint direction) {
   constexpr int kAside = 3;
   KeyCap* nearest = nullptr;

@@ -46,7 +46,7 @@ class KeyboardView : public QWidget {
   [[nodiscard]] double Scale() const;
   /// Where the Tab key leads to from now on.
   void MakeStop(KeyCap& cap);
-  /// For the stop that cannot be pressed any more.
+  /// Finds another stop of the Tab key when the present one cannot be pressed any more.
   void LeaveStop();
   /// Moves the focus to the next key that can be pressed in a direction, where there is one.
   void Go(const KeyCap& from, QPoint direction);

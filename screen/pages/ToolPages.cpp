@@ -147,7 +147,7 @@ QLayout* Page(RAWform& form, const FormLayout& in) {
 QLayout* LogColumn(Pane& log, const char* title, const FormLayout& in) {
   QWidget* const view = in.Show(log);
   view->setMinimumSize(130, 150);
-  // What came last is in sight.
+  // The end of the log, which came last, is in sight.
   auto* const bar = Require(qobject_cast<QPlainTextEdit*>(view), log, "view").verticalScrollBar();
   QObject::connect(bar, &QScrollBar::rangeChanged, bar, [bar](int, int last) { bar->setValue(last); });
   return Above(title, view);

@@ -174,7 +174,7 @@ void HelpWindow::Search() {
   MarkHits();
 }
 
-/// From the field of the search: to the topic that is read, or to the first that was found.
+/// Goes from the search field to the topic that is read, or to the first that was found.
 void HelpWindow::GoToTopics() {
   if (topics_->count() == 0) return;
   topics_->setFocus();
@@ -200,7 +200,7 @@ bool HelpWindow::ListTopics() {
   return topics_->count() > 0;
 }
 
-/// In the text, what was searched for.
+/// Marks in the text what was searched for.
 void HelpWindow::MarkHits() {
   const std::string words = FromText(words_->text());
   QTextCharFormat marked;

@@ -60,13 +60,13 @@ class HelpWindow : public QDialog {
 
   HelpFile file_;
   FileLook look_;
-  std::vector<std::size_t> read_;  // the topics on the way here and on
-  std::size_t at_ = 0;             // in read_
+  std::vector<std::size_t> read_;  // the topics in the order of reading, for the ways back and forward
+  std::size_t at_ = 0;             // the one of read_ that is shown
   std::optional<std::size_t> shown_;
   QAction* back_;
   QAction* forward_;
   QLineEdit* words_;
-  QLabel* none_;  // no topic has the words
+  QLabel* none_;  // says that no topic has the words
   QListWidget* topics_;
   QTextBrowser* text_;
 };

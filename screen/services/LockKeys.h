@@ -12,13 +12,13 @@ struct LockKeys {
   bool num = false;
 };
 
-/// Nothing where the window system does not tell.
+/// Gives nothing where the window system does not tell.
 [[nodiscard]] std::optional<LockKeys> ReadLockKeys();
 
 class QtKeyboard : public Keyboard {
  public:
   [[nodiscard]] std::optional<int> GetKeyState(int code) override;
-  /// Of the lock keys only Caps Lock.
+  /// Turns off Caps Lock, and none of the other lock keys.
   void TurnOff(int code) override;
 };
 

@@ -69,7 +69,7 @@ std::string QtClipboard::Text() {
 
 std::string QtClipboard::Rtf() { return RtfIn(Content()).toStdString(); }
 
-// The calendar.
+// The desktop and the calendar.
 
 Outcome<> QtDesktop::Open(const std::string& path) {
   const auto host = drives_.ToHost(path);
@@ -84,7 +84,7 @@ Outcome<> QtDesktop::ShowSystemInformation() {
     const char* name;
     QStringList arguments;
   };
-  // A desktop's own page on the machine before the tools that any may have.
+  // A desktop's own page on the machine comes before the tools that any desktop may have.
   const Program programs[] = {
       {"kinfocenter", {}},
       {"gnome-control-center", {QStringLiteral("info-overview")}},
@@ -118,7 +118,7 @@ std::string QtCalendar::TimeOfDay() const {
 
 QtHelp::~QtHelp() { delete window_; }
 
-/// Asked for anew, it comes back from being minimised.
+/// A help window that is asked for again comes back from being minimised.
 HelpWindow& QtHelp::Window(const std::string& file) {
   const auto text = files_.Read(file);
   if (!window_) window_ = new HelpWindow;

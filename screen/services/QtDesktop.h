@@ -31,7 +31,7 @@ class QtDesktop : public Desktop {
  public:
   explicit QtDesktop(const Drives& drives) : drives_(drives) {}
   Outcome<> Open(const std::string& path) override;
-  /// The first that is installed of the programs that desktops have for it.
+  /// Starts the first that is installed of the programs that desktops have for it.
   Outcome<> ShowSystemInformation() override;
 
  private:
@@ -52,7 +52,7 @@ class QtHelp : public Help {
 
   void ShowKeyword(const std::string& file, const std::string& keyword) override;
   void ShowContext(const std::string& file, int context) override;
-  /// How its examples look; black on white without.
+  /// Tells how the examples in the help look. Without it they are black on white.
   std::function<FileLook()> look;
 
  private:

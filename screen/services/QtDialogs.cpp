@@ -53,7 +53,7 @@ Answer ToAnswer(int button) {
 
 Failure Cancelled() { return {error::kDialogCancelled, "Cancel was selected.", 0}; }
 
-/// The ordinary pointer, while the program that waits behind the dialog shows the hourglass.
+/// Shows the ordinary pointer over a dialog while the program that waits behind it shows the hourglass.
 class OrdinaryPointer {
  public:
   OrdinaryPointer() { QApplication::setOverrideCursor(Qt::ArrowCursor); }
@@ -62,14 +62,14 @@ class OrdinaryPointer {
   OrdinaryPointer& operator=(const OrdinaryPointer&) = delete;
 };
 
-/// The one ending of a type, empty where it has none or more.
+/// The ending of a type that has one, and nothing for a type with none or several.
 QString EndingOf(const QString& filter) {
   static const QRegularExpression kOneEnding(QStringLiteral("\\(\\*\\.([^ *?()]+)\\)$"));
   return kOneEnding.match(filter).captured(1);
 }
 
-/// A name without an ending gets that of the type that is chosen, or `otherwise` where the type has none. One
-/// that has an ending the toolkit itself gives the chosen type's.
+/// A name without an ending gets that of the type that is chosen, or `otherwise` where the type has none. To
+/// a name that has an ending the toolkit itself gives that of the type.
 void KeepSuffix(QFileDialog& dialog, const QString& otherwise) {
   const auto take = [&dialog, otherwise](const QString& filter) {
     const QString ending = EndingOf(filter);
@@ -168,7 +168,7 @@ Outcome<Colour> QtDialogs::AskForColour(Colour before) {
   return FromScreenColour(dialog.selectedColor());
 }
 
-/// Taken as it is offered, the font stays what it was: a name of a font that is not installed, too.
+/// A font that is taken as it was offered stays what it was, also where it is not installed.
 Outcome<FontChoice> QtDialogs::AskForFont(const FontChoice& before, bool fixedPitch) {
   const OrdinaryPointer pointer;
   const FontChoice shown = AsShown(before);

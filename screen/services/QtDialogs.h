@@ -26,7 +26,8 @@ class QtDialogs : public Dialogs {
   /// The folder asked for, else the one of the last choice, else the user's own.
   [[nodiscard]] QString StartFolder(const std::string& folder) const;
 
-  /// With the user's own folder and drive c at its side, and the host's file that was chosen in it.
+  /// Runs the dialog with the user's own folder and drive c at its side, and gives the host's file that was
+  /// chosen.
   Outcome<std::string> Run(QFileDialog& dialog);
   Outcome<std::string> RunForFolder(const std::string& title, const QString& folder);
   /// What was chosen, by its path on the drives.

@@ -45,7 +45,7 @@ bool IsWhole(const QString& path) {
          file.readAll().contains("%%EOF");
 }
 
-/// Letters too large for a page are the caller's to notice.
+/// The font in twips. Whoever calls it sees to letters that are too large for a page.
 QFont FontOf(const std::string& name, float points, bool bold) {
   QFont font(ToScreen(name));
   font.setPixelSize(qRound((points < 1 ? ToScreenSize(points) : points) * kTwipsPerPoint));

@@ -60,10 +60,10 @@ bool Start() {
   Sdl().SetMainReady();
   Sdl().SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
   Sdl().SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-  // Those drivers rearrange the axes, and run in threads.
+  // The library's own drivers of such devices rearrange the axes, and run in threads.
   Sdl().SetHint(SDL_HINT_JOYSTICK_HIDAPI, "0");
   if (Sdl().InitSubSystem(SDL_INIT_JOYSTICK) != 0) return false;
-  Sdl().JoystickEventState(SDL_IGNORE);  // it is asked; nobody would read events
+  Sdl().JoystickEventState(SDL_IGNORE);  // the stick is asked for its state, and nobody would read events
   return true;
 }
 
@@ -86,7 +86,7 @@ bool SdlJoystick::Update() {
 
 bool SdlJoystick::IsAttached() const { return stick_ && Sdl().JoystickGetAttached(stick_); }
 
-/// The first stick that came after another one.
+/// Opens the first stick that came after the one with this number.
 void SdlJoystick::Open(int newerThan) {
   for (int i = 0; i < Sdl().NumJoysticks() && !stick_; ++i) {
     if (Sdl().JoystickGetDeviceInstanceID(i) > newerThan) stick_ = Sdl().JoystickOpen(i);

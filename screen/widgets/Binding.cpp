@@ -48,7 +48,7 @@ int ButtonNumber(Qt::MouseButtons buttons) {
          (buttons & Qt::MiddleButton ? 4 : 0);
 }
 
-/// Behind the caption of a tab, as desktops have it in the titles of windows.
+/// Stands behind the caption of a tab with unsaved work, as desktops have it in the titles of windows.
 const QLatin1String kUnsavedMark("*");
 
 QString Escaped(QString text) { return text.replace(u'&', QLatin1String("&&")); }
@@ -68,7 +68,7 @@ class Watcher : public QObject {
   std::function<void(QEvent&)> watch_;
 };
 
-/// The text of a box and what is selected in it, on their way to the line and back. It goes with the line.
+/// Takes the text of a box and what is selected in it to the line and back. It ends with the line.
 class TypedText : public QObject {
  public:
   TypedText(TextBox& box, QLineEdit& line) : QObject(&line), box_(box), line_(line) {

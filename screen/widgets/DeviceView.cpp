@@ -133,7 +133,7 @@ void DeviceView::MakeTabStop(DeviceLabel& label) {
   label.setFocusPolicy(Qt::StrongFocus);
 }
 
-/// In the colours of the desktop, without the labels that are hidden.
+/// Draws the device in the colours of the desktop, without the labels that are hidden.
 void DeviceView::Draw() {
   QByteArray svg = drawing_;
   const qsizetype from = svg.indexOf("<style>") + 7;

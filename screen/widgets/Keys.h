@@ -18,14 +18,14 @@ namespace tarvik::screen {
 /// With Alt, or the desktop's own modifier, a key that would type is a command, or nothing.
 [[nodiscard]] bool TypesNothing(const QKeyEvent& event);
 
-/// For a dialog of the toolkit's own, whose boxes would write the letter.
+/// Keeps commands by letter from a dialog of the toolkit's own, whose boxes would write the letter.
 void LeaveCommandsUntyped(QWidget& dialog);
 
 /// The keys of one window. It remembers which modifiers are down, of which there are two.
 class KeyReader {
  public:
   [[nodiscard]] Key Read(const QKeyEvent& event);
-  /// What goes up elsewhere is not heard of here.
+  /// Lets go of all modifiers: of a key that goes up in another window nothing is heard here.
   void Forget() { held_.clear(); }
 
  private:

@@ -21,7 +21,7 @@ constexpr int kTick = 16;
 constexpr int kLeftButton = 1;
 constexpr int kRightButton = 2;
 
-/// An item's colour, or its tick and as much blank space where there is none.
+/// Paints an item with its colour, or with its tick and as much blank space where there is none.
 class ItemDelegate : public QStyledItemDelegate {
  public:
   ItemDelegate(QWidget& list, Ticks ticks)
@@ -48,7 +48,7 @@ class ItemDelegate : public QStyledItemDelegate {
     option.icon = ticked ? bright ? selectedTick_ : tick_ : QIcon();
   }
 
-  /// With a line around it, and the same in a selected row.
+  /// A colour with a line around it, which looks the same in a selected row.
   static QIcon Swatch(const QColor& colour, const QStyleOptionViewItem& option) {
     const qreal ratio = option.widget->devicePixelRatioF();
     QPixmap swatch(option.decorationSize * ratio);

@@ -26,7 +26,8 @@ struct Destroy {
   void operator()(wmfAPI* api) const { wmf_api_destroy(api); }
 };
 
-/// The library writes its numbers as the user's language has them, and a drawing is in nobody's.
+/// While it lives the library writes its numbers as a drawing needs them, and not as the user's language has
+/// them.
 class PlainNumbers {
  public:
   PlainNumbers() : plain_(newlocale(LC_NUMERIC_MASK, "C", nullptr)), before_(uselocale(plain_)) {}

@@ -172,7 +172,7 @@ void PaneView::ShowEdit(const PaneEdit& edit) {
   AskForSight();
 }
 
-/// Such an edit makes or breaks a line beyond its own characters.
+/// An edit behind a CR or in front of an LF makes or breaks a line beyond its own characters.
 bool PaneView::CutsLineBreak(const PaneEdit& edit) const {
   const std::string_view text = pane_.Characters();
   const std::size_t end = edit.position + edit.inserted.size();

@@ -38,7 +38,7 @@ bool PaneView::event(QEvent* event) {
     return true;
   }
   if (IsMouse(event->type())) {
-    // In the indent beside the text, which is none of the viewport's.
+    // The mouse is in the indent beside the text, which is no part of the viewport.
     const auto& mouse = static_cast<QMouseEvent&>(*event);
     QMouseEvent inText(mouse.type(), viewport()->mapFrom(this, mouse.position()), mouse.globalPosition(),
                        mouse.button(), mouse.buttons(), mouse.modifiers());
@@ -122,7 +122,7 @@ void PaneView::dropEvent(QDropEvent* event) {
   event->accept();
 }
 
-/// Its colours go with it.
+/// The colours of the text go with it.
 void PaneView::MoveSelectionTo(const QPoint& place) {
   pane_.UserMoved(pane_.Selection(), PanePosition(cursorForPosition(place).position()));
 }

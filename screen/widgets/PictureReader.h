@@ -21,13 +21,13 @@ class PictureReader {
   PictureReader(const PictureReader&) = delete;
   PictureReader& operator=(const PictureReader&) = delete;
 
-  /// Begins with the picture in a file's bytes. One that is still being read is given up.
+  /// Begins to read the picture in a file's bytes, and gives up one that is still being read.
   void Read(std::string_view bytes);
   [[nodiscard]] bool IsReading() const { return decoder_.state() != QProcess::NotRunning; }
 
  private:
   void Stop();
-  /// Without a picture where there is none.
+  /// Hands on the picture, which is null where there is none.
   void Finish(const QImage& picture);
 
   std::function<void(QImage)> done_;

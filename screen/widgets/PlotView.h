@@ -22,7 +22,7 @@ class PlotView : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  /// Of its size now, with what there was before.
+  /// The image in the size that the view has now, with what was drawn before.
   QImage& Image();
   void Clear();
   void Draw(const Stroke& stroke);

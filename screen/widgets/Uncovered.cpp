@@ -20,7 +20,7 @@ QRect UncoveredPart(const QWidget& widget, const QRect& line) {
   QRegion left(QRect(line.left(), 0, std::max(1, line.width()), widget.height()) & widget.rect());
   for (const QWidget* const window : QApplication::topLevelWidgets()) {
     if (!IsKeptAbove(*window, widget)) continue;
-    // All that stands beside the window, too, is of no use to a line that goes on below it.
+    // What stands beside the window is of no use either, since a line goes on below the window.
     QRect covered(widget.mapFromGlobal(window->frameGeometry().topLeft()), window->frameGeometry().size());
     if (!covered.intersects(left.boundingRect())) continue;
     covered.setLeft(0);

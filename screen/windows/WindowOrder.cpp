@@ -10,10 +10,10 @@
 namespace tarvik::screen {
 namespace {
 
-/// From the back to the front.
+/// The kinds of windows, from the back to the front.
 enum class Rank { Frame, Tool, Help, Modal };
 
-/// What belongs to a modal window goes with it.
+/// A window that belongs to a modal one is of the same rank.
 Rank RankOf(const QWidget& window) {
   const QWindow* const handle = window.windowHandle();
   const QWindow* const owner = handle ? handle->transientParent() : nullptr;
@@ -90,7 +90,8 @@ WindowOrder::WindowOrder() : stack_(RaiseCovered) { qApp->installEventFilter(thi
 
 namespace {
 
-/// Whatever of the program's windows was clicked while it could not answer.
+/// The focus returns to the window that asked, whichever of the program's windows was clicked while it could
+/// not answer.
 void GiveBackFocus(const QDialog& answered) {
   const bool isTool = dynamic_cast<const CanBeOnTop*>(&answered);
   if (answered.isModal() && !isTool && answered.parentWidget()) AskForWindow(*answered.parentWidget());
@@ -106,7 +107,7 @@ void KeepInSight(QDialog& dialog) {
 
 }  // namespace
 
-/// Its window does not stand on the screen yet while a widget hears that it is shown.
+/// A dialog hears that it is shown before its window stands on the screen.
 bool WindowOrder::eventFilter(QObject* watched, QEvent* event) {
   auto* const dialog = qobject_cast<QDialog*>(watched);
   if (!dialog) return false;
