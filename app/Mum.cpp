@@ -60,10 +60,15 @@ constexpr Installation kInstallations[] = {
     {"c:\\tm", nullptr, "c:\\tm\\programs", nullptr, "c:\\tm\\tm.bat", kPfcs, kNoThrottle},
 };
 
-Twips ToTwips(const std::string& text) {
+/// The number that the key's value begins with, fractions included, or 0. A value that is no number is told.
+Twips ReadTwips(const Profile& stored, const char* key, const char* fallback) {
+  const std::string text = stored.GetString(kMiscellaneous, key, fallback, kPositionBuffer);
+  const char* const end = text.data() + text.size();
   float value = 0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
-  return {std::isfinite(value) ? value : 0};
+  const auto read = std::from_chars(text.data(), end, value);
+  const bool isFinite = std::isfinite(value);
+  if (read.ec != std::errc() || read.ptr != end || !isFinite) stored.TellUnreadable(kMiscellaneous, key);
+  return {isFinite ? value : 0};
 }
 
 }  // namespace
@@ -139,13 +144,10 @@ void Mum::MDIForm_Resize() { Picture1.ToFront(); }
 
 void Mum::GetMumPosition() {
   const Profile stored = bench_.profile.Read();
-  const auto read = [&stored](const char* key, const char* fallback) {
-    return ToTwips(stored.GetString(kMiscellaneous, key, fallback, kPositionBuffer));
-  };
-  Top = read("MumTopAtStartup", "0");
-  Left = read("MumLeftAtStartup", "0");
-  Width = read("MumWidthAtStartup", "13320");
-  Height = read("MumHeightAtStartup", "8895");
+  Top = ReadTwips(stored, "MumTopAtStartup", "0");
+  Left = ReadTwips(stored, "MumLeftAtStartup", "0");
+  Width = ReadTwips(stored, "MumWidthAtStartup", "13320");
+  Height = ReadTwips(stored, "MumHeightAtStartup", "8895");
   MumWindowstate = To16Bits(stored.GetInt(kMiscellaneous, "MumWindowstate", 2));
   if (MumWindowstate != 0) WindowState = 2;
 }

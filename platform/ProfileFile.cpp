@@ -137,8 +137,14 @@ std::string Protected(const std::string& value) {
 Profile ProfileFile::Read() const {
   auto text = files_.Read(path_);
   if (text) return Profile(*std::move(text), unreadable);
-  if (text.failure().number != error::kFileNotFound) unread_ = text.failure();
+  if (text.failure().number != error::kFileNotFound) LeaveAlone(text.failure());
   return {};
+}
+
+void ProfileFile::LeaveAlone(const Failure& failure) const {
+  const bool isNews = !unread_;
+  unread_ = failure;
+  if (isNews && fileUnreadable) fileUnreadable(failure);
 }
 
 std::string ProfileFile::GetString(std::string_view section, std::string_view key, std::string_view fallback,

@@ -70,6 +70,8 @@ class ProfileFile {
   ProfileFile(Files& files, std::string path) : files_(files), path_(std::move(path)) {}
 
   Profile::Unreadable unreadable;
+  /// Hears once that the file is there and cannot be read.
+  std::function<void(const Failure& failure)> fileUnreadable;
 
   /// The file as it is now, empty when it is missing or cannot be read. Whoever reads many keys takes this
   /// once.
@@ -87,6 +89,8 @@ class ProfileFile {
   Outcome<> WriteAll(std::span<const ProfileEntry> entries);
 
  private:
+  void LeaveAlone(const Failure& failure) const;
+
   Files& files_;
   std::string path_;
   mutable std::optional<Failure> unread_;

@@ -18,6 +18,10 @@ void Log::SettingUnreadable(std::string_view section, std::string_view key) {
   Write("Tarvik.ini: " + std::string(key) + " in [" + std::string(section) + "] can't be read as a number");
 }
 
+void Log::SettingsFileUnreadable(const Failure& failure) {
+  Write("Tarvik.ini can't be read, and is left alone: " + InWords(failure));
+}
+
 void Log::Write(std::string_view what) {
   lines_.push_back(calendar_.TimeOfDay() + " " + std::string(what));
   if (lines_.size() > kMost) lines_.pop_front();

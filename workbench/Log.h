@@ -1,6 +1,6 @@
 // What somebody who looks for a fault wants to know of a run: the errors that were recorded, the programs
-// that were started, the settings that could not be read. It is meant to be shown to others, so that nothing
-// of the user's text goes into it, nor the name of a file other than a program's.
+// that were started, what the desktop opened, the settings that could not be read. It is meant to be shown to
+// others, so that nothing of the user's text goes into it, nor the name of a file other than a program's.
 #pragma once
 
 #include <deque>
@@ -19,6 +19,7 @@ class Log {
 
   void ErrorRecorded(std::string_view tag, const Failure& failure);
   void SettingUnreadable(std::string_view section, std::string_view key);
+  void SettingsFileUnreadable(const Failure& failure);
   /// Puts the time before it.
   void Write(std::string_view what);
 

@@ -3,9 +3,9 @@
 namespace tarvik {
 namespace {
 
-Platform With(Programs& programs, const Platform& services) {
+Platform With(Programs& programs, Desktop& desktop, const Platform& services) {
   return {services.files,    services.dialogs,  services.instance, services.clipboard,
-          services.help,     services.calendar, services.printer,  services.desktop,
+          services.help,     services.calendar, services.printer,  desktop,
           services.joystick, services.keyboard, programs,          services.drives,
           services.journals, services.screen,   services.folder,   services.commandLine};
 }
@@ -15,7 +15,8 @@ Platform With(Programs& programs, const Platform& services) {
 Workbench::Workbench(const Platform& services)
     : log(services.calendar),
       programs_(services, log),
-      platform(With(programs_, services)),
+      desktop_(services.desktop, log),
+      platform(With(programs_, desktop_, services)),
       profile(platform.files, platform.folder + "\\Tarvik.ini"),
       settings(profile, errors),
       lists(settings, errors),
@@ -23,6 +24,7 @@ Workbench::Workbench(const Platform& services)
   profile.unreadable = [this](std::string_view section, std::string_view key) {
     log.SettingUnreadable(section, key);
   };
+  profile.fileUnreadable = [this](const Failure& failure) { log.SettingsFileUnreadable(failure); };
 }
 
 void Workbench::Reset() {

@@ -5,6 +5,7 @@
 #include "workbench/AutoSave.h"
 #include "workbench/EditCommands.h"
 #include "workbench/LineBlink.h"
+#include "workbench/LoggedDesktop.h"
 #include "workbench/LoggedPrograms.h"
 #include "workbench/Recovery.h"
 #include "workbench/UnsavedWork.h"
@@ -21,9 +22,10 @@ class Workbench {
 
  private:
   LoggedPrograms programs_;
+  LoggedDesktop desktop_;
 
  public:
-  Platform platform;  ///< with a log of the programs that are started
+  Platform platform;  ///< with a log of the programs that are started, and of what the desktop opens
   Errors errors{log};
   SharedValues values;
   ProfileFile profile;

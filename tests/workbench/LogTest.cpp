@@ -97,6 +97,38 @@ TEST_F(LogTest, NamesTheProgramAndNothingThatItIsTold) {
   EXPECT_EQ(Told(""), kNoProgram + "(arguments: 0)");
 }
 
+TEST_F(LogTest, TellsWhatTheDesktopOpensAndNotWhatItIsCalled) {
+  Desktop& desktop = bench.workbench.platform.desktop;
+  EXPECT_TRUE(desktop.Open("c:\\my diary\\diary.BMP"));
+  EXPECT_TRUE(desktop.Open("c:\\my.txt\\diary"));
+  EXPECT_TRUE(desktop.Open("c:\\a.diary"));
+  EXPECT_TRUE(desktop.Open("c:\\a.my d"));
+  EXPECT_TRUE(desktop.ShowSystemInformation());
+  bench.outside.desktop.opensFiles = bench.outside.desktop.tellsAboutTheMachine = false;
+  EXPECT_FALSE(desktop.Open("c:\\diary.bmp"));
+  EXPECT_FALSE(desktop.ShowSystemInformation());
+  EXPECT_THAT(log.Lines(),
+              ElementsAre("16:00:00 had the desktop open a file that ends in .bmp",
+                          "16:00:00 had the desktop open a file",  //
+                          "16:00:00 had the desktop open a file",  //
+                          "16:00:00 had the desktop open a file",
+                          "16:00:00 had the desktop open its system information",
+                          "16:00:00 the desktop could not open a file that ends in .bmp: error 53, "
+                          "File not found",
+                          "16:00:00 the desktop could not open its system information: error 53, "
+                          "File not found"));
+}
+
+TEST_F(LogTest, TellsOnceThatTheSettingsFileCannotBeRead) {
+  bench.files.Put("c:\\tarvik\\Tarvik.ini", "[Miscellaneous]\r\nUndoMax=7\r\n");
+  bench.files.SetUnreadable("c:\\tarvik\\Tarvik.ini");
+  bench.workbench.settings.GetOptions();
+  bench.workbench.settings.GetColours();
+  EXPECT_THAT(
+      log.Lines(),
+      ElementsAre(testing::StartsWith("16:00:00 Tarvik.ini can't be read, and is left alone: error 7")));
+}
+
 TEST_F(LogTest, TellsWhichSettingsCouldNotBeReadAndNotWhatTheyAre) {
   bench.files.Put(
       "c:\\tarvik\\Tarvik.ini",
