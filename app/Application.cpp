@@ -117,7 +117,7 @@ void Application::Show(ToolId tool) {
   if (found.show) found.show(workbench, *this);
 }
 
-void Application::ShowPreferences(int page) {
+void Application::ShowPreferences(page::Preferences page) {
   workbench.values.PreferencesTab = page;
   Show(ToolId::Preferences);
 }

@@ -46,7 +46,7 @@ class Application : public Shell {
 
   // For the tools.
   void Show(ToolId tool) override;
-  void ShowPreferences(int page) override;
+  void ShowPreferences(page::Preferences page) override;
   [[nodiscard]] MenuItem& Command(std::string_view entry) override;
   void ForwardKey(Key& key) override;
   [[nodiscard]] Form& Frame() override;

@@ -272,11 +272,13 @@ void Editor::DamnFontWasChanged() {
 }
 
 void Editor::GetOpenSingleOnly() {
-  mnuJoyPopUpSingleFile.Checked = bench_.profile.GetInt("Miscellaneous", "OpenSingleFileOnly", 1) != 0;
+  mnuJoyPopUpSingleFile.Checked =
+      bench_.profile.GetInt(section::kMiscellaneous, "OpenSingleFileOnly", 1) != 0;
 }
 
 void Editor::SaveOpenSingleOnly() {
-  bench_.settings.Write("Miscellaneous", "OpenSingleFileOnly", mnuJoyPopUpSingleFile.Checked ? "1" : "0");
+  bench_.settings.Write(section::kMiscellaneous, "OpenSingleFileOnly",
+                        mnuJoyPopUpSingleFile.Checked ? "1" : "0");
 }
 
 // Documents.
@@ -394,7 +396,7 @@ void Editor::FitInsertMenu(std::string_view popUp) {
 void Editor::TabStrip1_Click() {
   Document& document = bench_.documents.Active();
   const std::string caption = bench_.documents.TabOf(document).Caption;
-  bench_.documents.status.Panels(3).Enabled = true;
+  bench_.documents.status.Panels(panel::kLine).Enabled = true;
   if (document.text.Locked) {
     bench_.documents.SayIsProtected(document);
   } else {
@@ -410,9 +412,8 @@ void Editor::TabStrip1_Click() {
 }
 
 void Editor::mnuViewWordWrap_Click() {
-  constexpr int kNoWrapping = 2000;
   const bool wrap = !mnuViewWordWrap.Checked;
-  for (Pane* pane : {&JoystickText, &MacroText}) pane->RightMargin = wrap ? 0 : kNoWrapping;
+  for (Pane* pane : {&JoystickText, &MacroText}) pane->RightMargin = wrap ? margin::kWindow : margin::kNone;
   mnuViewWordWrap.Checked = wrap;
 }
 
@@ -460,7 +461,7 @@ void Editor::mnuInsertWithColour_Click() {
   mnuInsertWithColour.Checked = colour;
   bench_.settings.InsertWithColour = colour ? 1 : 0;
   const Trap trap{bench_.errors, "mnuInsertWithColour_Click"};
-  trap(bench_.profile.Write("Colours", "InsertWithColour", colour ? "1" : "0"));
+  trap(bench_.profile.Write(section::kColours, "InsertWithColour", colour ? "1" : "0"));
 }
 
 void Editor::TextFromTempRichTextBox() {

@@ -77,7 +77,7 @@ class Editor : public Form {
   }
 
   // Preferences.
-  void ShowPreferences(int page);
+  void ShowPreferences(page::Preferences page);
   void mnuPreferencesEdit_Click() { ShowPreferences(page::kFileLocations); }
   void mnuViewEditColours_Click() { ShowPreferences(page::kColours); }
   void mnuAppsEdit_Click() { ShowPreferences(page::kApps); }

@@ -5,17 +5,17 @@
 
 namespace tarvik::tables {
 
-inline constexpr const char* kSlashEntries[] = {"/U  dogfight switch is up",
-                                                "/M  dogfight switch middle position",
-                                                "/D  dogfight switch is down",
-                                                "/I  S3 is held in",
-                                                "/O S3 is out",
-                                                "/A  force analogue",
-                                                "/P  press event",
-                                                "/R  release event",
-                                                "/H  hold down",
-                                                "/N  no repeat",
-                                                "/T  toggle modifier"};
+inline constexpr std::string_view kSlashEntries[] = {"/U  dogfight switch is up",
+                                                     "/M  dogfight switch middle position",
+                                                     "/D  dogfight switch is down",
+                                                     "/I  S3 is held in",
+                                                     "/O S3 is out",
+                                                     "/A  force analogue",
+                                                     "/P  press event",
+                                                     "/R  release event",
+                                                     "/H  hold down",
+                                                     "/N  no repeat",
+                                                     "/T  toggle modifier"};
 
 // Entries without a handler are there and disabled until their tool is. A row without a caption is the hidden
 // first member of an array that is filled while the program runs.

@@ -51,8 +51,8 @@ const MessageBox kQuickTip = {
 
 // Preferences.
 
-/// A new font is in force afterwards.
-void Editor::ShowPreferences(int page) {
+/// A font that the user has chosen there is taken into use.
+void Editor::ShowPreferences(page::Preferences page) {
   application_.ShowPreferences(page);
   bench_.TakeChosenFont();
 }
@@ -102,7 +102,7 @@ void Editor::mnuAppsQuiet_Click() {
 void Editor::mnuHelpOnWeb_Click() {
   const Trap trap{bench_.errors, "ED_mnuHelpOnWeb_Click"};
   if (trap(bench_.platform.desktop.Open(bench_.platform.folder + "\\guide\\index.html"))) return;
-  mum_.StatusBar.Panels(1).Text = std::string("The user guide can't be opened.");
+  bench_.documents.Say("The user guide can't be opened.");
 }
 
 // Wizards.
@@ -114,16 +114,14 @@ void Editor::mnuWizLogic1_Click() { bench_.platform.dialogs.Show(kLogicAdvice); 
 // Keys that the tools pass on.
 
 void Editor::ForwardKey(Key& key) const {
-  constexpr int kF1 = 112;
-  constexpr int kF7 = 118;  // bears no shortcut in the menu
-  constexpr int kF12 = 123;
   std::string shortcut;
   if (key.shift == shift::kCtrl && key.code >= 'A' && key.code <= 'Z') {
     shortcut = std::string("Ctrl+") + static_cast<char>(key.code);
-  } else if (key.shift != shift::kCtrl && key.code > kF1 && key.code <= kF12) {
-    shortcut = "F" + TextOf(key.code - kF1 + 1);
+  } else if (key.shift != shift::kCtrl && key.code > key::kF1 && key.code <= key::kF12) {
+    shortcut = "F" + TextOf(key.code - key::kF1 + 1);
   }
-  MenuItem* const item = key.code == kF7 ? &menus("mnuViewIdentify") : menus.WithShortcut(shortcut);
+  // F7 bears no shortcut in the menu.
+  MenuItem* const item = key.code == key::kF7 ? &menus("mnuViewIdentify") : menus.WithShortcut(shortcut);
   if (shortcut.empty() || !item || !item->Enabled) return;
   item->Click();
   if (key.shift == shift::kCtrl) key = {};

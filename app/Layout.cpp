@@ -133,7 +133,7 @@ void Layout::ToggleTiled() {
 void Layout::FrameMouseMove(const Mouse& mouse) {
   const int x = static_cast<int>(InPixels(mouse.x));
   Frame& frame = controls_.frame;
-  if (mouse.button != 1 || frame.MousePointer != pointer::kWestEast) {
+  if (mouse.button != button::kLeft || frame.MousePointer != pointer::kWestEast) {
     const bool atEdge = x + kGrip >= static_cast<int>(frame.Width);
     frame.MousePointer = atEdge ? pointer::kWestEast : pointer::kDefault;
     return;
@@ -142,7 +142,7 @@ void Layout::FrameMouseMove(const Mouse& mouse) {
   if (width == documents_.settings.MacroFrameWidth) return;
   documents_.settings.MacroFrameWidth = width;
   Place();
-  documents_.settings.Write("Miscellaneous", "MacroFrameWidth", TextOf(width));
+  documents_.settings.Write(section::kMiscellaneous, "MacroFrameWidth", TextOf(width));
 }
 
 }  // namespace tarvik

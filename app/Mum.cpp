@@ -9,7 +9,6 @@
 namespace tarvik {
 namespace {
 
-constexpr const char* kMiscellaneous = "Miscellaneous";
 constexpr std::size_t kPositionBuffer = 100;
 
 constexpr MenuRow<Mum> kMenus[] = {
@@ -62,12 +61,13 @@ constexpr Installation kInstallations[] = {
 
 /// The number that the key's value begins with, fractions included, or 0. A value that is no number is told.
 Twips ReadTwips(const Profile& stored, const char* key, const char* fallback) {
-  const std::string text = stored.GetString(kMiscellaneous, key, fallback, kPositionBuffer);
+  const std::string text = stored.GetString(section::kMiscellaneous, key, fallback, kPositionBuffer);
   const char* const end = text.data() + text.size();
   float value = 0;
   const auto read = std::from_chars(text.data(), end, value);
   const bool isFinite = std::isfinite(value);
-  if (read.ec != std::errc() || read.ptr != end || !isFinite) stored.TellUnreadable(kMiscellaneous, key);
+  if (read.ec != std::errc() || read.ptr != end || !isFinite)
+    stored.TellUnreadable(section::kMiscellaneous, key);
   return {isFinite ? value : 0};
 }
 
@@ -148,14 +148,14 @@ void Mum::GetMumPosition() {
   Left = ReadTwips(stored, "MumLeftAtStartup", "0");
   Width = ReadTwips(stored, "MumWidthAtStartup", "13320");
   Height = ReadTwips(stored, "MumHeightAtStartup", "8895");
-  MumWindowstate = To16Bits(stored.GetInt(kMiscellaneous, "MumWindowstate", 2));
-  if (MumWindowstate != 0) WindowState = 2;
+  MumWindowstate = To16Bits(stored.GetInt(section::kMiscellaneous, "MumWindowstate", window::kMaximised));
+  if (MumWindowstate != window::kNormal) WindowState = window::kMaximised;
 }
 
 void Mum::SaveMumPosition() {
   // A frame that is maximised or minimised keeps the size that it would be restored to.
   const ScreenSize& screen = bench_.platform.screen;
-  if (WindowState != 1) {
+  if (WindowState != window::kMinimised) {
     Top = std::max(Twips{0}, Top.Get());
     Left = std::max(Twips{0}, Left.Get());
     Width = std::min(FromPixels(screen.width), Width.Get());
@@ -163,11 +163,11 @@ void Mum::SaveMumPosition() {
     MumWindowstate = WindowState;
   }
   Ignore(bench_.profile.WriteAll(std::vector<ProfileEntry>{
-      {kMiscellaneous, "MumTopAtStartup", TextOf(Top.Get())},
-      {kMiscellaneous, "MumLeftAtStartup", TextOf(Left.Get())},
-      {kMiscellaneous, "MumWidthAtStartup", TextOf(Width.Get())},
-      {kMiscellaneous, "MumHeightAtStartup", TextOf(Height.Get())},
-      {kMiscellaneous, "MumWindowstate", TextOf(MumWindowstate.Get())},
+      {section::kMiscellaneous, "MumTopAtStartup", TextOf(Top.Get())},
+      {section::kMiscellaneous, "MumLeftAtStartup", TextOf(Left.Get())},
+      {section::kMiscellaneous, "MumWidthAtStartup", TextOf(Width.Get())},
+      {section::kMiscellaneous, "MumHeightAtStartup", TextOf(Height.Get())},
+      {section::kMiscellaneous, "MumWindowstate", TextOf(MumWindowstate.Get())},
   }));
 }
 

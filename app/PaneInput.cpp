@@ -5,14 +5,6 @@
 namespace tarvik {
 namespace {
 
-constexpr int kEnter = 13;
-constexpr int kKeypadEnter = 108;
-constexpr int kEscape = 27;
-constexpr int kInsert = 45;
-constexpr int kF1 = 112;
-constexpr int kInsertPanel = 5;
-constexpr int kRightButton = 2;
-
 /// The word that the caret stands in, before or behind.
 std::string WordAt(const Pane& pane) {
   constexpr std::string_view kBetween = " \t\r\n(),=";
@@ -53,14 +45,14 @@ void PaneInput::KeyDown(Document& document, Key& key) {
     key = {};
     return;
   }
-  const bool enter = key.code == kEnter || key.code == kKeypadEnter;
+  const bool enter = key.code == key::kEnter || key.code == key::kKeypadEnter;
   if (enter && key.shift == 0 && hooks_.findNext(document)) {
     key = {};
     return;
   }
-  if (key.code == kInsert && key.shift == 0) TurnOvertypeOver();
-  if (key.code == kEscape) hooks_.popUp("mnuInsert");
-  if (key.code != kF1) return;
+  if (key.code == key::kInsert && key.shift == 0) TurnOvertypeOver();
+  if (key.code == key::kEscape) hooks_.popUp("mnuInsert");
+  if (key.code != key::kF1) return;
   const std::string selected = document.text.SelText;
   const std::string keyword = selected.empty() ? WordAt(document.text) : selected;
   if (!keyword.empty()) ShowHelp(keyword);
@@ -70,7 +62,7 @@ void PaneInput::TurnOvertypeOver() {
   const bool overtype = !documents_.joystick.text.Overtype;
   for (const Document* document : {&documents_.joystick, &documents_.macro})
     document->text.Overtype = overtype;
-  documents_.status.Panels(kInsertPanel).Enabled = !overtype;
+  documents_.status.Panels(panel::kInsert).Enabled = !overtype;
 }
 
 void PaneInput::ShowHelp(const std::string& keyword) const {
@@ -79,7 +71,7 @@ void PaneInput::ShowHelp(const std::string& keyword) const {
 
 /// The right button's pop-up, with what can be done here and now.
 void PaneInput::MouseDown(const Document& document, const Mouse& mouse) {
-  if (mouse.button != kRightButton) return;
+  if (mouse.button != button::kRight) return;
   hooks_.updateCCPButtons();
   struct Row {
     const char* entry;
@@ -105,7 +97,7 @@ void PaneInput::MouseDown(const Document& document, const Mouse& mouse) {
 }
 
 void PaneInput::KeyPress(Document& document, int character) {
-  typing_ = character != kEscape;
+  typing_ = character != key::kEscape;
   document.Caret = document.text.SelStart;
   document.Undo.KeyPress(character, document.text.Characters().empty());
 }

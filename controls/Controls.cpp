@@ -41,9 +41,7 @@ void Form::SetVisible(bool visible) {
 
 /// Whoever goes to a form wants to see it, whatever way leads there.
 void Form::BringBack() {
-  constexpr int kNormal = 0;
-  constexpr int kMinimised = 1;
-  if (WindowState == kMinimised) WindowState = kNormal;
+  if (WindowState == window::kMinimised) WindowState = window::kNormal;
 }
 
 void Form::Focus(Control& control) {

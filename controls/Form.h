@@ -3,12 +3,19 @@
 #pragma once
 
 #include "controls/Component.h"
+#include "controls/Input.h"
 
 namespace tarvik {
 
 class Control;
 class Menus;
-struct Key;
+
+/// The states of a form's window.
+namespace window {
+inline constexpr int kNormal = 0;
+inline constexpr int kMinimised = 1;
+inline constexpr int kMaximised = 2;
+}  // namespace window
 
 class Form : public Component {
  public:
@@ -29,16 +36,14 @@ class Form : public Component {
   /// The inside, in the unit the form lays its controls out in.
   Property<float> ScaleWidth{*this, "ScaleWidth"};
   Property<float> ScaleHeight{*this, "ScaleHeight"};
-  /// 0 normal, 1 minimised, 2 maximised.
-  Property<int> WindowState{*this, "WindowState", 0};
-  /// Above all other windows.
+  Property<int> WindowState{*this, "WindowState", window::kNormal};
+  /// While it is true the window stays above all others.
   Property<bool> Topmost{*this, "Topmost", false};
   /// While it is shown no other window takes input.
   Property<bool> Modal{*this, "Modal", false};
   /// Every key is the form's own: none is a shortcut, a mnemonic or the way to another control.
   Property<bool> OwnsKeys{*this, "OwnsKeys", false};
-  /// 0 the ordinary pointer, 9 west-east, 11 hourglass, 14 what's-this.
-  Property<int> MousePointer{*this, "MousePointer", 0};
+  Property<int> MousePointer{*this, "MousePointer", pointer::kDefault};
 
   Event<> Load{*this, "Load"};
   Event<> Unload{*this, "Unload"};

@@ -12,14 +12,35 @@ inline constexpr int kCtrl = 2;
 inline constexpr int kAlt = 4;
 }  // namespace shift
 
+/// Buttons of the mouse; while it moves, those that are down are added up.
+namespace button {
+inline constexpr int kLeft = 1;
+inline constexpr int kRight = 2;
+inline constexpr int kMiddle = 4;
+}  // namespace button
+
 struct Mouse {
   int button = 0;  ///< 1 left, 2 right, 4 middle; while moving, the buttons that are down
   int shift = 0;
-  Twips x;  ///< from the control's left edge
-  Twips y;
+  Twips x = {};  ///< from the control's left edge
+  Twips y = {};
 };
 
-/// A key by its Windows virtual-key code. A handler that sets `code` to 0 swallows the key.
+/// Windows virtual-key codes. Those of keys that type are the characters that they type.
+namespace key {
+inline constexpr int kBackspace = 8;
+inline constexpr int kEnter = 13;
+inline constexpr int kEscape = 27;
+inline constexpr int kSpace = 32;
+inline constexpr int kInsert = 45;
+inline constexpr int kDelete = 46;
+inline constexpr int kKeypadEnter = 108;
+inline constexpr int kF1 = 112;
+inline constexpr int kF7 = 118;
+inline constexpr int kF12 = 123;
+}  // namespace key
+
+/// A key by its virtual-key code. A handler that sets `code` to 0 swallows the key.
 struct Key {
   int code = 0;
   int shift = 0;

@@ -5,15 +5,13 @@
 namespace tarvik {
 namespace {
 
-constexpr int kInsert = 45;
-constexpr int kDelete = 46;
-
 struct OlderKey {
   Key key;
   int letter;
 };
-constexpr OlderKey kOlderKeys[] = {
-    {{kDelete, shift::kShift}, 'X'}, {{kInsert, shift::kCtrl}, 'C'}, {{kInsert, shift::kShift}, 'V'}};
+constexpr OlderKey kOlderKeys[] = {{{key::kDelete, shift::kShift}, 'X'},
+                                   {{key::kInsert, shift::kCtrl}, 'C'},
+                                   {{key::kInsert, shift::kShift}, 'V'}};
 
 /// The letter that the key is with Ctrl, or means; 0 where it is neither.
 int CtrlLetter(const Key& key) {

@@ -13,25 +13,26 @@ namespace tarvik {
 template <class F>
 struct MenuRow {
   int level;
-  const char* name;
-  const char* caption;
-  const char* shortcut = "";
+  std::string_view name;
+  std::string_view caption;
+  std::string_view shortcut = {};
   void (F::*handler)() = nullptr;
   int index = -1;  ///< of a member of a menu array, or the first of several
   void (F::*indexedHandler)(int) = nullptr;
-  std::span<const char* const> captions = {};  ///< of the members, for an array of several
+  std::span<const std::string_view> captions = {};  ///< of the members, for an array of several
 };
 
 /// The row of a whole array, its members counted from 0.
 template <class F>
-constexpr MenuRow<F> MenuArray(int level, const char* name, std::span<const char* const> captions,
+constexpr MenuRow<F> MenuArray(int level, std::string_view name, std::span<const std::string_view> captions,
                                void (F::*handler)(int) = nullptr) {
-  return {level, name, captions[0], "", nullptr, 0, handler, captions};
+  return {level, name, captions[0], {}, nullptr, 0, handler, captions};
 }
 
-/// How a window arranges those inside it. Windows of their own have nothing to be arranged in.
-inline constexpr const char* kArrangements[] = {"&Cascade", "Tile &horizontally", "Tile &vertically",
-                                                "&Arrange icons"};
+/// The entries that arrange windows inside another one. The tools have windows of their own, so that these
+/// entries have nothing to do.
+inline constexpr std::string_view kArrangements[] = {"&Cascade", "Tile &horizontally", "Tile &vertically",
+                                                     "&Arrange icons"};
 
 struct MenuEntry {
   int level;
@@ -82,11 +83,11 @@ class Menus {
 
  private:
   template <class F>
-  void Add(F& form, const MenuRow<F>& row, const char* caption, int index, bool enabled) {
+  void Add(F& form, const MenuRow<F>& row, std::string_view caption, int index, bool enabled) {
     MenuItem& item = items_.emplace_back(form, row.name, index < 0 ? std::optional<int>() : index);
-    item.Caption = caption;
-    item.Shortcut = row.shortcut;
-    item.Visible = caption[0] != '\0';
+    item.Caption = std::string(caption);
+    item.Shortcut = std::string(row.shortcut);
+    item.Visible = !caption.empty();
     item.Enabled = enabled;
     if (row.handler) item.Click = [&form, handler = row.handler] { (form.*handler)(); };
     MenuEntry& entry = entries_.emplace_back(MenuEntry{row.level, &item, {}});

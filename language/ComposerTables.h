@@ -93,6 +93,8 @@ inline constexpr WcsRow kWcsButtons[] = {
 inline constexpr std::string_view kHats[] = {"H1", "H2", "H3", "H4", "H"};
 inline constexpr std::string_view kHatPositions[] = {"U", "D", "L", "R", "M"};
 inline constexpr std::string_view kHatCorners[] = {"UL", "DL", "UR", "DR"};
+/// What the menu of a hat calls the corners until it is filled for the first time.
+inline constexpr std::string_view kHatCornersAtFirst[] = {"UL", "UR", "DL", "DR"};
 
 inline constexpr std::string_view kTriggers[] = {"TG1", "TG2"};
 inline constexpr std::string_view kPorts[] = {"PortB1 IS", "PortB2 IS", "PortB3 IS", "PortB4 IS"};

@@ -82,7 +82,7 @@ Statement PortStatement(std::string_view caption, StatementStyle style) {
 
 // In colour it joins what a selection leaves before the caret; in black it takes a blank there.
 Statement SwapTriggersStatement(StatementStyle style) {
-  Statement statement = Styled({{"SWAPTG ", ColourClass::Miscellaneous, true}}, style);
+  Statement statement = Styled({{"SWAPTG ", ColourClass::Miscellaneous, BlankBefore::Never}}, style);
   statement.ownLine = statement.endsLine = true;
   statement.search = statement.Text();
   return statement;
@@ -94,8 +94,8 @@ Statement SlashStatement(std::string_view caption, StatementStyle style) {
 
 Statement BracketStatement(const tables::BracketRow& row, const std::string& value, StatementStyle style) {
   return Styled({{std::string(row.opening), ColourClass::Raw},
-                 {value, ColourClass::Black, true},
-                 {") ", ColourClass::Raw, true}},
+                 {value, ColourClass::Black, BlankBefore::Never},
+                 {") ", ColourClass::Raw, BlankBefore::Never}},
                 style);
 }
 
@@ -112,8 +112,9 @@ Statement TabStatement(const tables::TabRow& row, const BoxTexts& boxes, int axi
     const auto found = boxes.find(otherBox ? field.blackBox : field.box);
     values += " " + (found == boxes.end() ? "" : found->second);
   }
-  return OnOwnLine(
-      {{std::string(keyword) + " ", ColourClass::Miscellaneous}, {values, ColourClass::Black, true}}, style);
+  return OnOwnLine({{std::string(keyword) + " ", ColourClass::Miscellaneous},
+                    {values, ColourClass::Black, BlankBefore::Never}},
+                   style);
 }
 
 // Of a USE statement the first word alone has a colour; the two others of the buttons are one piece.

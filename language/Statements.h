@@ -12,11 +12,14 @@
 
 namespace tarvik {
 
-/// A black piece that does not join is what InsertBlackText writes, blank and swatch included.
+/// Whether a piece takes a blank before it where the caret stands behind something else.
+enum class BlankBefore { WhereNeeded, Never };
+
+/// A black piece that takes its blank is what InsertBlackText writes, blank and swatch included.
 struct Piece {
   std::string text;
   ColourClass colour = ColourClass::Black;
-  bool joins = false;  ///< takes no blank before it, whatever the caret stands behind
+  BlankBefore blank = BlankBefore::WhereNeeded;
 
   bool operator==(const Piece&) const = default;
 };

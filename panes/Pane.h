@@ -33,6 +33,12 @@ struct Replaced {
 
 enum class FileFormat { Rtf, Text };
 
+/// Right margins of a pane: its lines wrap at the edge of its window, or at a margin that no line reaches.
+namespace margin {
+inline constexpr int kWindow = 0;
+inline constexpr int kNone = 2000;
+}  // namespace margin
+
 class Pane : public Control {
  public:
   Pane(Component& parent, std::string_view name, Files& files);
@@ -100,7 +106,7 @@ class Pane : public Control {
   Property<int> SelIndent{*this, "SelIndent", 0};
   Property<Colour> BackColor{*this, "BackColor", kWhite};
   Property<bool> Locked{*this, "Locked", false};
-  Property<int> RightMargin{*this, "RightMargin", 0};
+  Property<int> RightMargin{*this, "RightMargin", margin::kWindow};
   /// What the user types takes the place of what is behind the caret.
   Property<bool> Overtype{*this, "Overtype", false};
 

@@ -19,17 +19,9 @@
 namespace tarvik::screen {
 namespace {
 
-constexpr int kCapsPanel = 4;
-constexpr int kNumPanel = 6;
-constexpr int kClockPanel = 7;
 constexpr int kPanelInterval = 250;  // milliseconds
 constexpr int kSettlingTime = 200;   // milliseconds
 constexpr QSize kSmallest(480, 320);
-
-// Window states of a form.
-constexpr int kNormal = 0;
-constexpr int kMinimised = 1;
-constexpr int kMaximised = 2;
 
 }  // namespace
 
@@ -97,12 +89,12 @@ void MumWindow::BindWindow() {
 void MumWindow::KeepPanels() {
   auto* const timer = new QTimer(this);
   const auto show = [this] {
-    mum_.StatusBar.Panels(kClockPanel).Text = FromScreen(QTime::currentTime().toString(u"hh:mm"));
+    mum_.StatusBar.Panels(panel::kClock).Text = FromScreen(QTime::currentTime().toString(u"hh:mm"));
     if (const auto keys = ReadLockKeys()) {
-      mum_.StatusBar.Panels(kCapsPanel).Enabled = keys->caps;
-      mum_.StatusBar.Panels(kNumPanel).Enabled = keys->num;
+      mum_.StatusBar.Panels(panel::kCaps).Enabled = keys->caps;
+      mum_.StatusBar.Panels(panel::kNum).Enabled = keys->num;
     } else {
-      for (const int panel : {kCapsPanel, kNumPanel}) mum_.StatusBar.Panels(panel).Text = std::string();
+      for (const int panel : {panel::kCaps, panel::kNum}) mum_.StatusBar.Panels(panel).Text = std::string();
     }
   };
   connect(timer, &QTimer::timeout, this, show);
@@ -168,9 +160,9 @@ void MumWindow::PlaceWindow() {
 }
 
 void MumWindow::ShowWindow() {
-  if (mum_.WindowState == kMaximised) {
+  if (mum_.WindowState == window::kMaximised) {
     showMaximized();
-  } else if (mum_.WindowState == kMinimised) {
+  } else if (mum_.WindowState == window::kMinimised) {
     showMinimized();
   } else {
     showNormal();
@@ -201,13 +193,13 @@ bool MumWindow::FitFrame() {
 }
 
 int MumWindow::StateOnScreen() const {
-  return isMinimized() ? kMinimised : isMaximized() ? kMaximised : kNormal;
+  return isMinimized() ? window::kMinimised : isMaximized() ? window::kMaximised : window::kNormal;
 }
 
 /// A window that is changing its state passes through others on the way, with the size of one and the place
 /// of another.
 bool MumWindow::HasPlaceOfItsOwn() const {
-  return isVisible() && !settling_.isActive() && !isFullScreen() && StateOnScreen() == kNormal;
+  return isVisible() && !settling_.isActive() && !isFullScreen() && StateOnScreen() == window::kNormal;
 }
 
 void MumWindow::TakePlace() {

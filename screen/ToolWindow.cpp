@@ -23,8 +23,6 @@ namespace {
 
 constexpr int kFromTheRight = 40;
 constexpr int kFromTheTop = 120;
-constexpr int kNormal = 0;
-constexpr int kMinimised = 1;
 
 /// Whether there is anything in the window that makes use of more room: a list, a text, a picture. What only
 /// holds others does not count.
@@ -65,7 +63,7 @@ ToolWindow::ToolWindow(Application& application, Form& form, const MakePage& mak
   if (form.OwnsKeys) others_.emplace(*this);
   bindings_.Shows(form, *this);
   BindTitle(form, *this, bindings_);
-  bindings_.Bind(form.WindowState, [this] { ShowMinimised(this->form().WindowState == kMinimised); });
+  bindings_.Bind(form.WindowState, [this] { ShowMinimised(this->form().WindowState == window::kMinimised); });
   bindings_.Bind(form.Topmost, [] { ArrangeWindows(); });
   bindings_.Keep(form.Moved.Connect([this] {
     placed_ = true;
@@ -174,7 +172,8 @@ void ToolWindow::showEvent(QShowEvent* event) {
 
 void ToolWindow::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  if (event->type() == QEvent::WindowStateChange) form().WindowState = isMinimized() ? kMinimised : kNormal;
+  if (event->type() == QEvent::WindowStateChange)
+    form().WindowState = isMinimized() ? window::kMinimised : window::kNormal;
 }
 
 void ToolWindow::closeEvent(QCloseEvent* event) {

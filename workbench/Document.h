@@ -77,7 +77,7 @@ class Document : public Component {
     text.SetContent({});
     text.Locked = false;
     text.Overtype = false;
-    text.RightMargin = 0;
+    text.RightMargin = margin::kWindow;
     text.Visible = true;
     Name = FileName();
     Path = std::string();

@@ -4,7 +4,6 @@ namespace tarvik {
 namespace {
 
 constexpr int kPaneIndent = 20;  // pixels
-constexpr int kInsertPanel = 5;
 
 constexpr const char* kSavedStateTips[] = {
     " has no text and isn't saved",
@@ -23,7 +22,7 @@ Documents::Documents(Platform& services, Settings& theSettings, SharedValues& th
   for (Pane* const hidden : {&scratch, &compare}) hidden->Visible = false;
 }
 
-void Documents::Say(const std::string& text) const { status.Panels(1).Text = text; }
+void Documents::Say(const std::string& text) const { status.Panels(panel::kSaid).Text = text; }
 
 void Documents::SayIsProtected(const Document& document) const {
   Say(TabOf(document).Caption.Get() + " is protected and can't be edited.");
@@ -36,7 +35,7 @@ void Documents::ShowCaretLine() { ShowLine(Active(), Active().text.SelStart); }
 /// This is called at every key, so the panel is written only when the line has changed.
 void Documents::ShowLine(const Document& document, std::size_t position) {
   const std::size_t line = 1 + document.text.GetLineFromChar(position);
-  if (std::exchange(shownLine_, line) != line) status.Panels(3).Text = "Line no: " + TextOf(line);
+  if (std::exchange(shownLine_, line) != line) status.Panels(panel::kLine).Text = "Line no: " + TextOf(line);
 }
 
 /// This is called at every key, so the panel is written only when the state has changed.
@@ -45,7 +44,7 @@ void Documents::UpdateSavedIcon() const {
   const int image = document.Dirty + 2;
   const std::string& name = document.Name.Get().Text();
   const std::string_view state = kSavedStateTips[image - 1];
-  Panel& panel = status.Panels(2);
+  Panel& panel = status.Panels(panel::kSavedState);
   panel.Picture = image;
   const std::string& shown = panel.ToolTipText;
   const bool isShown =
@@ -95,7 +94,7 @@ void Documents::Reset() {
   const ProgramEdit edit(values);
   for (Document* const document : {&joystick, &macro}) document->Reset();
   tabs.Begin(1);
-  status.Panels(kInsertPanel).Enabled = true;
+  status.Panels(panel::kInsert).Enabled = true;
   shownLine_.reset();
   UpdateSavedIcon();
 }

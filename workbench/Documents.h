@@ -9,7 +9,11 @@
 
 namespace tarvik {
 
-inline constexpr int kStatusPanels = 8;
+/// The panels of the status bar.
+namespace panel {
+enum { kSaid = 1, kSavedState, kLine, kCaps, kInsert, kNum, kClock, kMacroFile };
+}  // namespace panel
+inline constexpr int kStatusPanels = panel::kMacroFile;
 
 class Documents : public Component {
  public:

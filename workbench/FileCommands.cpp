@@ -42,9 +42,7 @@ constexpr FileWords kJoystickWords = {
     "ED_mnuFileJoystickLoad_Click",
     "ED_SaveJoystickText",
     "Joystick",
-    "|All Joystick file types (*.f22,*.b50,*.adv) |*.f22;*.b50;*.adv |All files (*.*)|*.*",
-    "|F22 joystick file (*.f22) |*.f22|F16 joystick file (*.b50) |*.b50|FCS joystick file (*.adv) |*.adv|All "
-    "files (*.*)|*.*",
+    " joystick file (",
 };
 
 constexpr FileWords kMacroWords = {
@@ -57,9 +55,7 @@ constexpr FileWords kMacroWords = {
     "ED_MnuFileMacroLoad_Click",
     "ED_SaveMacroText",
     "Macro",
-    "|All Macro file types (*.m22,*.m50,*.mdf) |*.m22;*.m50;*.mdf |All files (*.*)|*.*",
-    "|F22 macro file(*.m22) |*.m22|F16 macro file(*.m50) |*.m50|FCS macro file(*.mdf) |*.mdf|All files "
-    "(*.*)|*.*",
+    " macro file(",
 };
 
 const FileWords& WordsOf(const Document& document) {
@@ -98,8 +94,9 @@ void FileCommands::Reset() {
 }
 
 void FileCommands::BeginUntitled() {
-  documents_.status.Panels(8).Text = kNoMacroFile;
-  documents_.status.Panels(8).ToolTipText = "The macros in the macros list are from this file";
+  documents_.status.Panels(panel::kMacroFile).Text = kNoMacroFile;
+  documents_.status.Panels(panel::kMacroFile).ToolTipText =
+      "The macros in the macros list are from this file";
   for (Document* const document : {&documents_.joystick, &documents_.macro}) {
     documents_.ApplyLook(*document);
     NameUntitled(*document);
@@ -137,7 +134,7 @@ bool FileCommands::New(Document& document) {
   if (!document.IsJoystick()) {
     ShowsMacros();
     lists_.ClearAllForNewMacroFile();
-    documents_.status.Panels(8).Text = kNoMacroFile;
+    documents_.status.Panels(panel::kMacroFile).Text = kNoMacroFile;
   }
   document.Caret = 0;
   ResetHistory(document);
@@ -265,7 +262,7 @@ void FileCommands::AnalyseMacroFile() {
   const ProgramEdit edit(documents_.values);
   ShowsMacros();
   lists_.ClearAllForNewMacroFile();
-  documents_.status.Panels(8).Text = documents_.macro.Name.Get().Text();
+  documents_.status.Panels(panel::kMacroFile).Text = documents_.macro.Name.Get().Text();
   lists_.GetEachLineFromMacroFile();
   lists_.ExtractMacrosAndTitles();
 }

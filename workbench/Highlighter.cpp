@@ -36,8 +36,8 @@ void Highlighter::Apply(Document& document) {
   documents_.ApplyLook(documents_.macro);
   ApplyLookOfJoystick(document);
 
-  MakePasses(document.text, document.IsJoystick() ? JoystickPasses() : MacroPasses(), documents_.settings,
-             {documents_.status.Panels(1), documents_.progress, true});
+  MakePasses(document.text, document.IsJoystick() ? JoystickPasses() : MacroPasses(), documents_,
+             CommandProgress::CountOfPasses);
 
   documents_.macro.text.SelStart = documents_.macro.Caret;
   documents_.joystick.text.SelStart = documents_.joystick.Caret;
@@ -53,18 +53,17 @@ void Highlighter::ApplyLookOfJoystick(const Document& coloured) {
   ApplyFontOnly(documents_.joystick.text, documents_.settings);
 }
 
-void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settings,
-                const PassesShown& shown) {
+void MakePasses(Pane& pane, std::span<const Pass> passes, Documents& documents, CommandProgress shown) {
   const int textLength = Clamped(pane.Characters().size());
-  ProgressBar& bar = shown.bar;
+  ProgressBar& bar = documents.progress;
   bar.Visible = true;
   // The bar follows the hits, or counts the passes over commands.
   bool followsHits = true;
   const ColouringProgress progress = {
       [&](const Pass& pass) {
         if (pass.status) {
-          shown.panel.Text = std::string(pass.status);
-          followsHits = pass.progress == 0 || !shown.countsCommands;
+          documents.Say(std::string(pass.status));
+          followsHits = pass.progress == 0 || shown == CommandProgress::Hits;
         }
         bar.Max = followsHits ? textLength : kCommandGroup;
       },
@@ -81,7 +80,7 @@ void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settin
   };
   SyntaxColouring colouring(pane.Characters(), passes);
   colouring.Run(progress);
-  pane.Recolour(0, colouring.Colours(ColoursOf(settings)));
+  pane.Recolour(0, colouring.Colours(ColoursOf(documents.settings)));
   bar.Visible = false;
 }
 

@@ -11,15 +11,12 @@ namespace tarvik {
 /// The colours of the classes, as they are set.
 [[nodiscard]] std::array<Colour, kColourClasses> ColoursOf(const Settings& settings);
 
-/// Where passes tell how far they are.
-struct PassesShown {
-  Panel& panel;
-  ProgressBar& bar;
-  bool countsCommands;  ///< over commands the bar counts the passes; else it follows the hits there too
-};
+/// What the progress bar shows during the passes over commands; during the others it follows the hits.
+enum class CommandProgress { Hits, CountOfPasses };
 
-/// Makes the passes over a pane's text, one after another, and gives it their colours.
-void MakePasses(Pane& pane, std::span<const Pass> passes, const Settings& settings, const PassesShown& shown);
+/// Makes the passes over a pane's text, one after another, and gives it their colours. The status bar tells
+/// how far they are.
+void MakePasses(Pane& pane, std::span<const Pass> passes, Documents& documents, CommandProgress shown);
 
 class Highlighter {
  public:

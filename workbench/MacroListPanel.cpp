@@ -55,13 +55,11 @@ void MacroListPanel::Combo1_Click() {
 }
 
 void MacroListPanel::List1_MouseDown(int index, const Mouse& mouse) {
-  constexpr int kLeft = 1;
-  constexpr int kRight = 2;
   macros_.TakeUnder(List1(index), mouse);
-  const bool finds = mouse.button == kLeft && mouse.shift == shift::kShift;
-  if (List1(index).ListCount() == 0 || (!finds && mouse.button != kRight)) return;
+  const bool finds = mouse.button == button::kLeft && mouse.shift == shift::kShift;
+  if (List1(index).ListCount() == 0 || (!finds && mouse.button != button::kRight)) return;
   PopupListIndex = index;
-  if (mouse.button == kRight) hooks_.popUp();
+  if (mouse.button == button::kRight) hooks_.popUp();
 }
 
 void MacroListPanel::List1_MouseMove(int index, const Mouse& mouse) {

@@ -69,8 +69,9 @@ void MacroLists::ExtractMacrosAndTitles() {
   Fill(AnalyseMacros(records_));
   documents_.Say("Done");
   ShowAll();
-  documents_.status.Panels(8).ToolTipText = "Contains " + TextOf(panel.List1(0).ListCount()) +
-                                            " macros and " + TextOf(headings_.size() - 1) + " macro headings";
+  documents_.status.Panels(panel::kMacroFile).ToolTipText = "Contains " + TextOf(panel.List1(0).ListCount()) +
+                                                            " macros and " + TextOf(headings_.size() - 1) +
+                                                            " macro headings";
 }
 
 void MacroLists::Fill(MacroAnalysis analysis) {
@@ -132,11 +133,10 @@ void MacroLists::ShowCategory(const MacroListPanel& shown) {
 }
 
 void MacroLists::TakeUnder(const ListBox& list, const Mouse& mouse) {
-  constexpr int kLeft = 1;
   if (list.ListCount() == 0 || mouse.button == 0) return;
   TakeFrom(list);
   ShowMacroKeys();
-  if (mouse.button == kLeft && mouse.shift == shift::kShift) FindMacroInJF();
+  if (mouse.button == button::kLeft && mouse.shift == shift::kShift) FindMacroInJF();
 }
 
 void MacroLists::IdentifyMacrosUsed() {

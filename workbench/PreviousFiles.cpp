@@ -7,8 +7,6 @@ namespace {
 
 constexpr std::size_t kPathBuffer = 256;
 constexpr std::size_t kShortBuffer = 100;
-constexpr const char* kFavourites = "Favourites";
-constexpr const char* kApps = "Apps";
 
 constexpr RecordKey kJoystickKeys[] = {{"JFPath", "RecentJFToAdd", kPathBuffer}};
 constexpr RecordKey kMacroKeys[] = {{"MFPath", "RecentMFToAdd", kPathBuffer}};
@@ -27,8 +25,8 @@ constexpr RecordKey kGameKeys[] = {
 
 constexpr ListTraits kJoystickList = {"PreviousJoystickFiles", "JFArrayNum", kJoystickKeys};
 constexpr ListTraits kMacroList = {"PreviousMacroFiles", "MFArrayNum", kMacroKeys};
-constexpr ListTraits kFavouriteList = {kFavourites, "FavArrayNum", kFavouriteKeys};
-constexpr ListTraits kGameList = {"Games", "GameArrayNum", kGameKeys};
+constexpr ListTraits kFavouriteList = {section::kFavourites, "FavArrayNum", kFavouriteKeys};
+constexpr ListTraits kGameList = {section::kGames, "GameArrayNum", kGameKeys};
 
 }  // namespace
 
@@ -58,15 +56,15 @@ void PreviousFiles::ClearAll(RecentList& list) {
 
 void PreviousFiles::GetFavourites() {
   const Profile profile = settings_.File().Read();
-  FavLoadOnStart = To16Bits(profile.GetInt(kFavourites, "FavLoadOnStart", 0));
-  FavNameToLoad = profile.GetString(kFavourites, "FavNameToLoad", "", kShortBuffer);
+  FavLoadOnStart = To16Bits(profile.GetInt(section::kFavourites, "FavLoadOnStart", 0));
+  FavNameToLoad = profile.GetString(section::kFavourites, "FavNameToLoad", "", kShortBuffer);
   Favourites.Read();
 }
 
 void PreviousFiles::SaveFavourites() {
   const Trap trap{errors_, "MODULE SaveFavourites"};
-  trap(Favourites.Save({{kFavourites, "FavLoadOnStart", TextOf(FavLoadOnStart.Get())},
-                        {kFavourites, "FavNameToLoad", Protected(FavNameToLoad)}}));
+  trap(Favourites.Save({{section::kFavourites, "FavLoadOnStart", TextOf(FavLoadOnStart.Get())},
+                        {section::kFavourites, "FavNameToLoad", Protected(FavNameToLoad)}}));
 }
 
 void PreviousFiles::UpdateFavouritesMenu() {
@@ -86,21 +84,21 @@ void PreviousFiles::GetCustomApps() {
   const Profile profile = settings_.File().Read();
   for (int i = 1; CustomApp & app : CustomApps) {
     const std::string number = TextOf(i++);
-    app.name = profile.GetString(kApps, "CustomAppName" + number, "", kShortBuffer);
-    app.path = profile.GetString(kApps, "CustomAppPath" + number, "", kShortBuffer);
-    app.use = To16Bits(profile.GetInt(kApps, "CustomAppUse" + number, 0));
+    app.name = profile.GetString(section::kApps, "CustomAppName" + number, "", kShortBuffer);
+    app.path = profile.GetString(section::kApps, "CustomAppPath" + number, "", kShortBuffer);
+    app.use = To16Bits(profile.GetInt(section::kApps, "CustomAppUse" + number, 0));
   }
   CustomAppsChanged();
 }
 
 void PreviousFiles::SaveApps() {
-  std::vector<ProfileEntry> entries = {{kApps, "ImageFilePath", settings_.ImageFilePath},
-                                       {kApps, "TextFilePath", settings_.TextFilePath}};
+  std::vector<ProfileEntry> entries = {{section::kApps, "ImageFilePath", settings_.ImageFilePath},
+                                       {section::kApps, "TextFilePath", settings_.TextFilePath}};
   for (int i = 1; const CustomApp& app : CustomApps) {
     const std::string number = TextOf(i++);
-    entries.push_back({kApps, "CustomAppName" + number, Protected(app.name)});
-    entries.push_back({kApps, "CustomAppPath" + number, Protected(app.path)});
-    entries.push_back({kApps, "CustomAppUse" + number, TextOf(app.use)});
+    entries.push_back({section::kApps, "CustomAppName" + number, Protected(app.name)});
+    entries.push_back({section::kApps, "CustomAppPath" + number, Protected(app.path)});
+    entries.push_back({section::kApps, "CustomAppUse" + number, TextOf(app.use)});
   }
   Trap{errors_, "MODULE SaveApps"}(settings_.File().WriteAll(entries));
 }

@@ -39,19 +39,18 @@ void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int 
   trap(printer.EndDocument());
 }
 
-void PrintPane(const Pane& pane, const std::string& title, std::string_view tag, const Platform& platform,
-               Errors& errors, Panel& panel) {
+void PrintPane(const Pane& pane, const std::string& title, std::string_view tag, const Documents& documents) {
   if (pane.Characters().empty()) return;
-  panel.Text = "Printing " + title;
-  PrintHeader(platform, Trap{errors, tag}, title);
-  PrintRTF(platform.printer, errors, pane, kMargin, kMargin, kMargin, kMargin);
-  panel.Text = "Finished printing " + title;
+  documents.Say("Printing " + title);
+  PrintHeader(documents.platform, Trap{documents.errors, tag}, title);
+  PrintRTF(documents.platform.printer, documents.errors, pane, kMargin, kMargin, kMargin, kMargin);
+  documents.Say("Finished printing " + title);
 }
 
 void PrintDocument(const Documents& documents, const Document& document) {
   PrintPane(document.text, documents.TabOf(document).Caption,
             document.IsJoystick() ? "ED_mnuFilePrintJoystick_Click" : "ED_mnuFilePrintMacro_Click",
-            documents.platform, documents.errors, documents.status.Panels(1));
+            documents);
 }
 
 void SetUpPrinter(const Documents& documents) {

@@ -10,10 +10,9 @@ namespace tarvik {
 /// the sheet.
 void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int top, int right, int bottom);
 
-/// Prints the pane's text under a title and today's date, and tells so in `panel`; an empty one not.
-/// Failures are recorded under `tag`.
-void PrintPane(const Pane& pane, const std::string& title, std::string_view tag, const Platform& platform,
-               Errors& errors, Panel& panel);
+/// Prints the pane's text under a title and today's date, and tells so in the status bar. An empty pane is
+/// not printed. Failures are recorded under `tag`.
+void PrintPane(const Pane& pane, const std::string& title, std::string_view tag, const Documents& documents);
 
 /// Prints the document under its name and today's date; status panel 1 tells.
 void PrintDocument(const Documents& documents, const Document& document);

@@ -6,11 +6,6 @@
 namespace tarvik {
 namespace {
 
-constexpr const char* kFileLocations = "FileLocations";
-constexpr const char* kMiscellaneous = "Miscellaneous";
-constexpr const char* kApps = "Apps";
-constexpr const char* kColours = "Colours";
-
 // Strings come through buffers of these sizes, and longer ones are cut to one character less.
 constexpr std::size_t kOptionBuffer = 100;
 constexpr std::size_t kColourBuffer = 50;
@@ -27,41 +22,41 @@ struct Option {
 
 // In the order in which they are written.
 constexpr Option kOptions[] = {
-    {kFileLocations, &Settings::B50LoadPath, ""},
-    {kFileLocations, &Settings::ProgramFilesPath, ""},
-    {kFileLocations, &Settings::JoystickExtension, "b50"},
-    {kFileLocations, &Settings::MacroExtension, "m50"},
-    {kFileLocations, &Settings::JoyName, "0"},
-    {kFileLocations, &Settings::ThrottleName, "0"},
-    {kFileLocations, &Settings::RudderName, "0"},
-    {kFileLocations, &Settings::ShowTips, "1", Saved::No},
-    {kFileLocations, &Settings::FirstTimeUsed, "1"},
-    {kFileLocations, &Settings::CandCCPath, ""},
-    {kMiscellaneous, &Settings::AutoSaveEnabled, "0"},
-    {kMiscellaneous, &Settings::AutoSaveTime, "10"},
-    {kMiscellaneous, &Settings::CreateBackup, "1"},
-    {kMiscellaneous, &Settings::DefaultDLYvalue, "60"},
-    {kMiscellaneous, &Settings::ComposerImages, "0"},
-    {kMiscellaneous, &Settings::AllowAggressiveFocus, "0"},
-    {kMiscellaneous, &Settings::UndoMax, "50"},
-    {kMiscellaneous, &Settings::UndoClearOnSave, "0"},
-    {kMiscellaneous, &Settings::HighlightLineOnUndo, "0"},
-    {kMiscellaneous, &Settings::ValidUser, "User unknown"},
-    {kMiscellaneous, &Settings::CheckIdentifyOK, "1"},
-    {kMiscellaneous, &Settings::GradientEffect, "1"},
-    {kMiscellaneous, &Settings::AddCRtoREM, "1"},
-    {kMiscellaneous, &Settings::FlatToolbar, "1"},
-    {kMiscellaneous, &Settings::CanWrapToolbar, "0"},
-    {kMiscellaneous, &Settings::OpenBothOnToolbar, "1"},
-    {kMiscellaneous, &Settings::SaveBothOnToolbar, "0"},
-    {kMiscellaneous, &Settings::CompOnTop, "1"},
-    {kMiscellaneous, &Settings::CompTabsAddCr, "1"},
-    {kMiscellaneous, &Settings::PimletOnTop, "1"},
-    {kMiscellaneous, &Settings::HighlightDefinitions, "0"},
-    {kMiscellaneous, &Settings::MacroFrameWidth, "185"},
-    {kApps, &Settings::ImageFilePath, ""},
-    {kApps, &Settings::TextFilePath, ""},
-    {kColours, &Settings::ApplyColoursOnFileOpen, "1"},
+    {section::kFileLocations, &Settings::B50LoadPath, ""},
+    {section::kFileLocations, &Settings::ProgramFilesPath, ""},
+    {section::kFileLocations, &Settings::JoystickExtension, "b50"},
+    {section::kFileLocations, &Settings::MacroExtension, "m50"},
+    {section::kFileLocations, &Settings::JoyName, "0"},
+    {section::kFileLocations, &Settings::ThrottleName, "0"},
+    {section::kFileLocations, &Settings::RudderName, "0"},
+    {section::kFileLocations, &Settings::ShowTips, "1", Saved::No},
+    {section::kFileLocations, &Settings::FirstTimeUsed, "1"},
+    {section::kFileLocations, &Settings::CandCCPath, ""},
+    {section::kMiscellaneous, &Settings::AutoSaveEnabled, "0"},
+    {section::kMiscellaneous, &Settings::AutoSaveTime, "10"},
+    {section::kMiscellaneous, &Settings::CreateBackup, "1"},
+    {section::kMiscellaneous, &Settings::DefaultDLYvalue, "60"},
+    {section::kMiscellaneous, &Settings::ComposerImages, "0"},
+    {section::kMiscellaneous, &Settings::AllowAggressiveFocus, "0"},
+    {section::kMiscellaneous, &Settings::UndoMax, "50"},
+    {section::kMiscellaneous, &Settings::UndoClearOnSave, "0"},
+    {section::kMiscellaneous, &Settings::HighlightLineOnUndo, "0"},
+    {section::kMiscellaneous, &Settings::ValidUser, "User unknown"},
+    {section::kMiscellaneous, &Settings::CheckIdentifyOK, "1"},
+    {section::kMiscellaneous, &Settings::GradientEffect, "1"},
+    {section::kMiscellaneous, &Settings::AddCRtoREM, "1"},
+    {section::kMiscellaneous, &Settings::FlatToolbar, "1"},
+    {section::kMiscellaneous, &Settings::CanWrapToolbar, "0"},
+    {section::kMiscellaneous, &Settings::OpenBothOnToolbar, "1"},
+    {section::kMiscellaneous, &Settings::SaveBothOnToolbar, "0"},
+    {section::kMiscellaneous, &Settings::CompOnTop, "1"},
+    {section::kMiscellaneous, &Settings::CompTabsAddCr, "1"},
+    {section::kMiscellaneous, &Settings::PimletOnTop, "1"},
+    {section::kMiscellaneous, &Settings::HighlightDefinitions, "0"},
+    {section::kMiscellaneous, &Settings::MacroFrameWidth, "185"},
+    {section::kApps, &Settings::ImageFilePath, ""},
+    {section::kApps, &Settings::TextFilePath, ""},
+    {section::kColours, &Settings::ApplyColoursOnFileOpen, "1"},
 };
 
 struct ColourOption {
@@ -145,8 +140,8 @@ void Settings::GetColours() {
   const Trap trap{errors_, "MODULE GetColours"};
   const Profile profile = file_.Read();
   const auto number = [&](std::string_view key, std::string_view fallback, std::size_t buffer) {
-    const auto read = trap(ToLong(profile.GetString(kColours, key, fallback, buffer)));
-    if (!read) profile.TellUnreadable(kColours, key);
+    const auto read = trap(ToLong(profile.GetString(section::kColours, key, fallback, buffer)));
+    if (!read) profile.TellUnreadable(section::kColours, key);
     return read;
   };
   for (const ColourOption& option : kColourOptions) {
@@ -154,12 +149,12 @@ void Settings::GetColours() {
     const auto colour = number(property.Name(), kColourFallback, kColourBuffer);
     if (colour) property = static_cast<Colour>(*colour);
   }
-  TextFontName = profile.GetString(kColours, "TextFontName", kFontFallback, kColourBuffer);
+  TextFontName = profile.GetString(section::kColours, "TextFontName", kFontFallback, kColourBuffer);
   const auto size = number("TextFontSize", kFontSizeFallback, kFontSizeBuffer);
   if (size) TextFontSize = To16Bits(*size);
-  TextFontBold = To16Bits(profile.GetInt(kColours, "TextFontBold", 0));
-  ApplyColoursOnFileOpen = To16Bits(profile.GetInt(kColours, "ApplyColoursOnFileOpen", 1));
-  InsertWithColour = To16Bits(profile.GetInt(kColours, "InsertWithColour", 1));
+  TextFontBold = To16Bits(profile.GetInt(section::kColours, "TextFontBold", 0));
+  ApplyColoursOnFileOpen = To16Bits(profile.GetInt(section::kColours, "ApplyColoursOnFileOpen", 1));
+  InsertWithColour = To16Bits(profile.GetInt(section::kColours, "InsertWithColour", 1));
 }
 
 void Settings::ColoursSortOut() {
@@ -176,7 +171,7 @@ void Settings::ColoursSortOut() {
 Outcome<> Settings::SaveColours() {
   std::vector<ProfileEntry> entries;
   const auto add = [&entries](const auto& property) {
-    entries.push_back({kColours, std::string(property.Name()), Decimal(property.Get())});
+    entries.push_back({section::kColours, std::string(property.Name()), Decimal(property.Get())});
   };
   for (const ColourOption& option : kColourOptions) add(this->*option.member);
   add(TextFontName);

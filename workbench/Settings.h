@@ -8,6 +8,16 @@
 
 namespace tarvik {
 
+/// The sections of the settings file.
+namespace section {
+inline constexpr const char* kFileLocations = "FileLocations";
+inline constexpr const char* kMiscellaneous = "Miscellaneous";
+inline constexpr const char* kApps = "Apps";
+inline constexpr const char* kColours = "Colours";
+inline constexpr const char* kFavourites = "Favourites";
+inline constexpr const char* kGames = "Games";
+}  // namespace section
+
 class Settings : public Component {
  public:
   Settings(ProfileFile& file, Errors& errors) : Component("Settings"), file_(file), errors_(errors) {}

@@ -52,7 +52,7 @@ class Shell {
   /// that only another one shows does not show itself.
   virtual void Show(ToolId tool) = 0;
   /// Shows the preferences on one of their pages and waits.
-  virtual void ShowPreferences(int page) = 0;
+  virtual void ShowPreferences(page::Preferences page) = 0;
   /// An entry of the editor's menus, to run it or to see whether it can be run.
   [[nodiscard]] virtual MenuItem& Command(std::string_view entry) = 0;
   /// Runs the entry of a key that a tool's window got: a function key, or a letter with Ctrl alone, which is

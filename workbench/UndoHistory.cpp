@@ -74,10 +74,7 @@ void UndoHistory::Clear() {
 }
 
 void UndoHistory::KeyPress(int character, bool paneIsEmpty) {
-  constexpr int kBackspace = 8;
-  constexpr int kEnter = 13;
-  constexpr int kSpace = 32;
-  if (character == kSpace && paneIsEmpty) {
+  if (character == key::kSpace && paneIsEmpty) {
     Start = 0;
     return;
   }
@@ -87,15 +84,15 @@ void UndoHistory::KeyPress(int character, bool paneIsEmpty) {
   }
   Start = 0;
   switch (character) {
-    case kBackspace:
+    case key::kBackspace:
       Start = 1;
       break;
-    case kEnter:
+    case key::kEnter:
       if (!lastKeyWasEnter_) Start = 1;
       lastKeyWasEnter_ = true;
       lastKeyWasSpace_ = false;
       break;
-    case kSpace:
+    case key::kSpace:
       if (!lastKeyWasSpace_) Start = 1;
       lastKeyWasSpace_ = true;
       lastKeyWasEnter_ = false;

@@ -70,7 +70,6 @@ constexpr quint32 kPlaceOf102nd = 94;
 constexpr quint32 kPlaceOfF13 = 191;
 constexpr quint32 kPlaceOfF24 = 202;
 
-constexpr int kF1 = 112;
 constexpr int kF13 = 124;
 constexpr int kAlt = 18;
 constexpr int kKey102nd = 226;
@@ -110,7 +109,7 @@ int CodeOnKeypad(int key) { return IsDigit(key) ? kKeypad0 + key - Qt::Key_0 : C
 
 int OwnCode(int key) {
   if (IsLetter(key) || IsDigit(key)) return key;
-  if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return kF1 + key - Qt::Key_F1;
+  if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return key::kF1 + key - Qt::Key_F1;
   const std::size_t digit = key < 0x80 ? kShiftedDigits.find(static_cast<char>(key)) : std::string_view::npos;
   if (digit != std::string_view::npos) return Qt::Key_0 + static_cast<int>(digit);
   return CodeIn(kKeys, key);

@@ -18,8 +18,6 @@ namespace tarvik::screen {
 namespace {
 
 constexpr int kTick = 16;
-constexpr int kLeftButton = 1;
-constexpr int kRightButton = 2;
 
 /// Paints an item with its colour, or with its tick and as much blank space where there is none.
 class ItemDelegate : public QStyledItemDelegate {
@@ -276,8 +274,8 @@ void ListStack::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ListStack::ClickItem() {
   if (!front_ || !currentIndex().isValid()) return;
-  front_->MouseDown({kLeftButton, 0, {}, {}});
-  front_->MouseUp({kLeftButton, 0, {}, {}});
+  front_->MouseDown({button::kLeft});
+  front_->MouseUp({button::kLeft});
 }
 
 /// A move by keys shows the macro as a click does.
@@ -289,12 +287,12 @@ void ListStack::keyPressEvent(QKeyEvent* event) {
   }
   const int before = currentIndex().row();
   QListView::keyPressEvent(event);
-  if (front_ && currentIndex().row() != before) front_->MouseDown({kLeftButton, 0, {}, {}});
+  if (front_ && currentIndex().row() != before) front_->MouseDown({button::kLeft});
 }
 
 void ListStack::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
-  if (event->reason() == QContextMenuEvent::Keyboard && front_) front_->MouseDown({kRightButton, 0, {}, {}});
+  if (event->reason() == QContextMenuEvent::Keyboard && front_) front_->MouseDown({button::kRight});
 }
 
 void ListStack::focusInEvent(QFocusEvent* event) {

@@ -69,7 +69,7 @@ void PaneView::BindLook(Bindings& bindings) {
   bindings.Bind(pane_.SelIndent,
                 [this] { setViewportMargins(std::max(0, pane_.SelIndent - kTextMargin), 0, 0, 0); });
   bindings.Bind(pane_.RightMargin,
-                [this] { setLineWrapMode(pane_.RightMargin == 0 ? WidgetWidth : NoWrap); });
+                [this] { setLineWrapMode(pane_.RightMargin == margin::kWindow ? WidgetWidth : NoWrap); });
   bindings.Bind(pane_.Overtype, [this] { setOverwriteMode(pane_.Overtype); });
   bindings.Bind(pane_.Locked, [this] {
     setTextInteractionFlags(pane_.Locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard

@@ -10,9 +10,6 @@
 namespace tarvik::screen {
 namespace {
 
-constexpr int kRightButton = 2;
-constexpr int kLeftButton = 1;
-
 bool IsMouse(QEvent::Type type) {
   return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonRelease ||
          type == QEvent::MouseButtonDblClick || type == QEvent::MouseMove;
@@ -141,7 +138,7 @@ void PaneView::mouseReleaseEvent(QMouseEvent* event) {
   QPlainTextEdit::mouseReleaseEvent(event);
   const Mouse mouse = ToMouse(*event);
   pane_.MouseUp(mouse);
-  if (mouse.button == kLeftButton) pane_.Click();
+  if (mouse.button == button::kLeft) pane_.Click();
 }
 
 void PaneView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -153,7 +150,7 @@ void PaneView::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
   if (event->reason() != QContextMenuEvent::Keyboard) return;  // the press of the button has been told
   const QPoint caret = cursorRect().bottomLeft();
-  pane_.MouseDown({kRightButton, 0, FromPixels(caret.x()), FromPixels(caret.y())});
+  pane_.MouseDown({button::kRight, 0, FromPixels(caret.x()), FromPixels(caret.y())});
 }
 
 }  // namespace tarvik::screen

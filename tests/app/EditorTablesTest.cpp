@@ -16,7 +16,7 @@ using Row = MenuRow<Editor>;
 bool HasHandler(const Row& row) { return row.handler || row.indexedHandler; }
 
 std::string FullName(const Row& row) {
-  return row.index < 0 ? row.name : std::string(row.name) + "(" + TextOf(row.index) + ")";
+  return std::string(row.name) + (row.index < 0 ? "" : "(" + TextOf(row.index) + ")");
 }
 
 std::vector<const Row*> AllRows() {
@@ -47,7 +47,7 @@ std::vector<const Row*> WayTo(const Row (&table)[N], const Row& row) {
 TEST(EditorTables, NoShortcutIsGivenTwice) {
   std::set<std::string> seen;
   for (const Row& row : tables::kMenus) {
-    const std::string shortcut = row.shortcut;
+    const std::string shortcut(row.shortcut);
     if (shortcut.empty()) continue;
     EXPECT_TRUE(seen.insert(shortcut).second) << shortcut << " of " << FullName(row);
     EXPECT_THAT(shortcut, testing::MatchesRegex("Ctrl\\+[A-Z]|F[0-9]+"));
@@ -56,7 +56,7 @@ TEST(EditorTables, NoShortcutIsGivenTwice) {
 
 /// Of an entry one, of an array one for each member.
 std::vector<std::string> CaptionsOf(const Row& row) {
-  if (row.captions.empty()) return {row.caption};
+  if (row.captions.empty()) return {std::string(row.caption)};
   return {row.captions.begin(), row.captions.end()};
 }
 
@@ -66,7 +66,7 @@ TEST(EditorTables, NoMnemonicIsGivenTwiceInAMenu) {
     for (const Row& row : table) {
       if (row.level == 0 && !bar) continue;
       const std::vector<const Row*> way = WayTo(table, row);
-      const std::string menu = way.size() < 2 ? "the menu bar" : way[way.size() - 2]->name;
+      const std::string menu(way.size() < 2 ? "the menu bar" : way[way.size() - 2]->name);
       for (const std::string& caption : CaptionsOf(row)) {
         const std::size_t mark = caption.find('&');
         if (mark == std::string::npos) continue;
@@ -128,7 +128,7 @@ class EditorTablesInUse : public testing::Test {
   template <std::size_t N>
   static bool IsOpen(const Menus& menus, const Row (&table)[N], const Row& row) {
     for (const Row* step : WayTo(table, row)) {
-      const bool grows = *step->caption == '\0';  // its first member is hidden
+      const bool grows = step->caption.empty();  // its first member is hidden
       const auto index = step->index < 0 ? std::optional<int>() : step->index + (grows ? 1 : 0);
       const MenuItem& item = menus(step->name, index);
       if (!item.Enabled || !item.Visible) return false;

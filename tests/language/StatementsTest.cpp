@@ -210,11 +210,11 @@ TEST(ComposerStatements, APortIsLookedForByItsNameAndWaitsForItsControl) {
 }
 
 TEST(ComposerStatements, SwappedTriggersAreALineWhateverTheTabsAddAndJoinOnlyInColour) {
-  Statement expected{{{"SWAPTG ", kMiscellaneous, true}}};
+  Statement expected{{{"SWAPTG ", kMiscellaneous, BlankBefore::Never}}};
   expected.ownLine = expected.endsLine = true;
   expected.search = "SWAPTG ";
   EXPECT_EQ(SwapTriggersStatement(kColourStyle), expected);
-  expected.pieces = {{"SWAPTG ", kBlack, false}};
+  expected.pieces = {{"SWAPTG ", kBlack}};
   EXPECT_EQ(SwapTriggersStatement(kBlackStyle), expected);
 }
 
@@ -250,9 +250,10 @@ TEST(ComposerStatements, DelayAndRepeatHaveColouredBracketsAndABlackValue) {
     EXPECT_EQ(row.box, rows[i].second);
     const std::string opening(row.opening);
     for (const std::string value : {"60", "", "x y"}) {
-      EXPECT_EQ(
-          BracketStatement(row, value, kColourLine),
-          (Statement{{{opening, ColourClass::Raw}, {value, kBlack, true}, {") ", ColourClass::Raw, true}}}));
+      EXPECT_EQ(BracketStatement(row, value, kColourLine),
+                (Statement{{{opening, ColourClass::Raw},
+                            {value, kBlack, BlankBefore::Never},
+                            {") ", ColourClass::Raw, BlankBefore::Never}}}));
       EXPECT_EQ(BracketStatement(row, value, kBlackLine), (Statement{{{opening + value + ") "}}}));
     }
   }
@@ -359,7 +360,7 @@ TEST_P(TabPage, JoinsItsFieldsBehindAColouredKeyword) {
     std::string keyword = expected.start.substr(0, expected.start.find(' '));
     if (keyword == "?") keyword = axis == 0 ? "JSX" : axis == 1 ? "JSY" : "RDDR";
     const std::string rest = expected.start.substr(expected.start.find(' ') + 1) + values;
-    Statement statement{{{keyword + " ", kMiscellaneous}, {rest, kBlack, true}}};
+    Statement statement{{{keyword + " ", kMiscellaneous}, {rest, kBlack, BlankBefore::Never}}};
     statement.ownLine = true;
     EXPECT_EQ(TabStatement(row, boxes, axis, kColourStyle), statement);
     statement.endsLine = true;

@@ -377,15 +377,13 @@ class FormDriver : public Driver {
 
   /// The Enter key presses the button with the focus, else the default one; Escape the Cancel button.
   static bool PressesButton(Form& form, const Key& key) {
-    constexpr int kEnter = 13;
-    constexpr int kEscape = 27;
-    if ((key.code != kEnter && key.code != kEscape) || dynamic_cast<Pane*>(form.ActiveControl()))
+    if ((key.code != key::kEnter && key.code != key::kEscape) || dynamic_cast<Pane*>(form.ActiveControl()))
       return false;
     auto* const focused = dynamic_cast<CommandButton*>(form.ActiveControl());
-    if (key.code == kEnter && focused) return focused->Click(), true;
+    if (key.code == key::kEnter && focused) return focused->Click(), true;
     for (Component* child : form.Children()) {
       auto* const button = dynamic_cast<CommandButton*>(child);
-      if (!button || !(key.code == kEnter ? button->Default : button->Cancel)) continue;
+      if (!button || !(key.code == key::kEnter ? button->Default : button->Cancel)) continue;
       if (button->Enabled) button->Click();
       return true;
     }
@@ -397,12 +395,10 @@ class FormDriver : public Driver {
   }
 
   static bool EditIn(TextBox& box, const Key& key) {
-    constexpr int kBackspace = 8;
     constexpr int kEnd = 35;
     constexpr int kHome = 36;
-    constexpr int kDelete = 46;
     const std::size_t length = box.Text.Get().size();
-    const bool deletes = key.code == kBackspace || key.code == kDelete;
+    const bool deletes = key.code == key::kBackspace || key.code == key::kDelete;
     if (!deletes && key.code != kHome && key.code != kEnd) return false;
     box.SetFocus();
     if (!deletes) {
@@ -410,11 +406,11 @@ class FormDriver : public Driver {
       box.SelLength = 0;
       return true;
     }
-    if (key.code == kBackspace && box.SelLength == 0U && box.SelStart > 0U) {
+    if (key.code == key::kBackspace && box.SelLength == 0U && box.SelStart > 0U) {
       box.SelStart = box.SelStart - 1;
       box.SelLength = 1;
     }
-    if (key.code == kDelete && box.SelLength == 0U) box.SelLength = box.SelStart < length ? 1 : 0;
+    if (key.code == key::kDelete && box.SelLength == 0U) box.SelLength = box.SelStart < length ? 1 : 0;
     box.SelText = std::string();
     return true;
   }

@@ -11,7 +11,6 @@ namespace {
 
 constexpr Colour kRed{255};
 constexpr Colour kBlue{0xFF0000};
-constexpr int kBackspace = 8;
 
 /// Somebody at work in a pane with a history, as the editor ties the two together.
 class Work {
@@ -25,8 +24,9 @@ class Work {
   void Press(int character) {
     history.KeyPress(character, pane.Characters().empty());
     const Range selection = pane.Selection();
-    if (character != kBackspace) {
-      pane.UserReplaced(selection, character == 13 ? "\r\n" : std::string(1, static_cast<char>(character)));
+    if (character != key::kBackspace) {
+      pane.UserReplaced(selection,
+                        character == key::kEnter ? "\r\n" : std::string(1, static_cast<char>(character)));
     } else if (selection.length) {
       pane.UserReplaced(selection, "");
     } else if (selection.start) {
@@ -169,8 +169,8 @@ TEST_F(UndoHistoryTest, BlanksAndLineBreaksEndEachOthersRuns) {
 
 TEST_F(UndoHistoryTest, EveryBackspaceIsAStep) {
   Type("abc");
-  Press(kBackspace);
-  Press(kBackspace);
+  Press(key::kBackspace);
+  Press(key::kBackspace);
   Look("a", ".", 1);
   Counts(3, 0);
   Undo();
@@ -182,7 +182,7 @@ TEST_F(UndoHistoryTest, EveryBackspaceIsAStep) {
 TEST_F(UndoHistoryTest, ABackspaceDoesNotEndARunOfBlanks) {
   Type("a");
   Type("  ");
-  Press(kBackspace);
+  Press(key::kBackspace);
   Type(" ");
   Look("a  ", "...", 3);
   Counts(3, 0);
@@ -375,9 +375,9 @@ class Snapshots {
       start = 0;
     } else if (slots.size() != 1) {
       start = 0;
-      if (key == kBackspace) {
+      if (key == key::kBackspace) {
         start = 1;
-      } else if (key == 13) {
+      } else if (key == key::kEnter) {
         if (!enters) start = 1;
         enters = true;
         spaces = false;
@@ -462,7 +462,7 @@ void UndoHistoryAgainstSnapshots::DoAnything() {
     case 3:
     case 4: {
       const int key = keys[Below(keys.size())];
-      if (key == kBackspace && pane.Selection().End() == 0) return;
+      if (key == key::kBackspace && pane.Selection().End() == 0) return;
       model.KeyPress(key, Length() == 0);
       Press(key);
       return model.Change(pane, undoMax);

@@ -73,7 +73,7 @@ void Title::Form_Unload() {
 void Title::SaveThePersonsName() {
   bench_.settings.ValidUser = Text3.Text.Get();
   const Trap trap{bench_.errors, "TITLE SaveThePersonsName"};
-  trap(bench_.profile.Write("Miscellaneous", "ValidUser", bench_.settings.ValidUser.Get()));
+  trap(bench_.profile.Write(section::kMiscellaneous, "ValidUser", bench_.settings.ValidUser.Get()));
 }
 
 std::vector<std::string> Title::Lines() const {
@@ -162,7 +162,7 @@ void SingleTextForm::Close(const std::string& text) {
 void SingleTextForm::SaveCRthang() {
   bench_.settings.AddCRtoREM = CheckAddCR.Value;
   const Trap trap{bench_.errors, "TITLE SaveCRthang"};
-  trap(bench_.profile.Write("Miscellaneous", "AddCRtoREM", TextOf(CheckAddCR.Value.Get())));
+  trap(bench_.profile.Write(section::kMiscellaneous, "AddCRtoREM", TextOf(CheckAddCR.Value.Get())));
 }
 
 void AskForRemark(Workbench& bench, Shell& shell) {

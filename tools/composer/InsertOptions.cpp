@@ -8,11 +8,6 @@ namespace {
 
 using M = InsertOptions;
 
-constexpr const char* kHatEntries[] = {"U", "D", "L", "R", "M"};
-constexpr const char* kHatCornerEntries[] = {"UL", "UR", "DL", "DR"};
-constexpr const char* kTriggerEntries[] = {"TG1", "TG2"};
-constexpr const char* kPortEntries[] = {"PortB1 IS", "PortB2 IS", "PortB3 IS", "PortB4 IS"};
-
 constexpr MenuRow<InsertOptions> kMenus[] = {
     {0, "mnuRHList", "List"},
     {1, "mnuRHListInsert", "&Insert into Joystick file", "", &M::mnuRHListInsert_Click},
@@ -22,15 +17,15 @@ constexpr MenuRow<InsertOptions> kMenus[] = {
     {1, "mnuRHListEdit", "&Edit", "", &M::mnuRHListEdit_Click},
 
     {0, "mnuHatPos", "Hat"},
-    MenuArray(1, "MnuHatPostion", kHatEntries, &M::MnuHatPostion_Click),
+    MenuArray(1, "MnuHatPostion", tables::kHatPositions, &M::MnuHatPostion_Click),
     {1, "mnuHatDivider", "-"},
-    MenuArray(1, "MnuHatCornerPostion", kHatCornerEntries, &M::MnuHatCornerPostion_Click),
+    MenuArray(1, "MnuHatCornerPostion", tables::kHatCornersAtFirst, &M::MnuHatCornerPostion_Click),
 
     {0, "mnuTrigger", "Trigger"},
-    MenuArray(1, "mnuTrig", kTriggerEntries, &M::mnuTrig_Click),
+    MenuArray(1, "mnuTrig", tables::kTriggers, &M::mnuTrig_Click),
 
     {0, "mnuPortAll", "Port"},
-    MenuArray(1, "mnuPort", kPortEntries, &M::mnuPort_Click),
+    MenuArray(1, "mnuPort", tables::kPorts, &M::mnuPort_Click),
 
     {0, "mnuTemplates", "&Templates"},
     {1, "mnuInsertInto", "&Insert into"},
@@ -40,9 +35,7 @@ constexpr MenuRow<InsertOptions> kMenus[] = {
     {1, "mnuQuickie", "Just a &quickie ...", "", &M::mnuQuickie_Click},
 };
 
-constexpr const char* kSection = "Miscellaneous";
 constexpr Twips kPlace{10};  // for a window that would be out of sight
-constexpr int kMinimised = 1;
 
 constexpr const char* kTipTitle = "Keep the Composer in memory for increased speed";
 constexpr const char* kTip =
@@ -175,7 +168,7 @@ void InsertOptions::Form_KeyDown(Key& key) {
 void InsertOptions::PositionComposer() {
   const Profile profile = bench_.profile.Read();
   const auto place = [&profile](const char* key, int extent) {
-    const int stored = profile.GetInt(kSection, key, static_cast<int>(kPlace.count));
+    const int stored = profile.GetInt(section::kMiscellaneous, key, static_cast<int>(kPlace.count));
     return WithinScreen({static_cast<float>(stored)}, extent);
   };
   const ScreenSize& screen = bench_.platform.screen;
@@ -185,10 +178,10 @@ void InsertOptions::PositionComposer() {
 void InsertOptions::GetSpaces() {
   const Profile profile = bench_.profile.Read();
   const auto text = [&profile](const char* key, int fallback) {
-    return TextOf(To16Bits(profile.GetInt(kSection, key, fallback)));
+    return TextOf(To16Bits(profile.GetInt(section::kMiscellaneous, key, fallback)));
   };
   const auto tick = [&profile](CheckBox& box, Property<int>& member, int fallback) {
-    box.Value = profile.GetInt(kSection, member.Name(), fallback) == 0 ? 0 : 1;
+    box.Value = profile.GetInt(section::kMiscellaneous, member.Name(), fallback) == 0 ? 0 : 1;
     member = box.Value;
   };
   boxes("Text1(8)").Text = text("NumberOfBlanks", 5);
@@ -207,15 +200,15 @@ void InsertOptions::SaveSpaces() {
   for (const Property<int>* member :
        {&NumberOfBlanks, &DefaultRPTvalue, &settings.DefaultDLYvalue, &AlwaysInsert, &COMPaddCR,
         &settings.CompTabsAddCr, &COMPreturnFocus, &COMPMacrosTickedCopy}) {
-    entries.push_back({kSection, std::string(member->Name()), member->ToText()});
+    entries.push_back({section::kMiscellaneous, std::string(member->Name()), member->ToText()});
   }
-  if (WindowState != kMinimised) {
+  if (WindowState != window::kMinimised) {
     const ScreenSize& screen = bench_.platform.screen;
     const auto place = [](Twips at, int extent) {
       return TextOf(static_cast<int>(WithinScreen(at, extent).count));
     };
-    entries.push_back({kSection, "ComposerTop", place(Top, screen.height)});
-    entries.push_back({kSection, "ComposerLeft", place(Left, screen.width)});
+    entries.push_back({section::kMiscellaneous, "ComposerTop", place(Top, screen.height)});
+    entries.push_back({section::kMiscellaneous, "ComposerLeft", place(Left, screen.width)});
   }
   const Trap trap{bench_.errors, "COMPOSER SaveSpaces"};
   trap(bench_.profile.WriteAll(entries));

@@ -164,8 +164,7 @@ void InsertOptions::MakeTemplatesPage() {
   TemplatesPreview.ToolTipText = "Double click here to insert into your file";
   TemplatesPreview.DblClick = [this] { TemplatesPreview_DblClick(); };
   TemplatesPreview.MouseDown = [this](const Mouse& mouse) {
-    constexpr int kRight = 2;
-    if (mouse.button == kRight) PopUp("mnuTemplates");
+    if (mouse.button == button::kRight) PopUp("mnuTemplates");
   };
 }
 

@@ -59,7 +59,7 @@ void StatementWriter::WritePiece(const Piece& piece) {
   SharedValues& values = bench_.values;
   values.InsertionText = piece.text;
   values.InsertionColour = ColoursOf(bench_.settings)[static_cast<std::size_t>(piece.colour)];
-  if (piece.joins) {
+  if (piece.blank == BlankBefore::Never) {
     insertion.InsertColouredStringNoSpace(values.InsertionText, values.InsertionColour);
   } else if (piece.colour == ColourClass::Black) {
     insertion.InsertBlackText();

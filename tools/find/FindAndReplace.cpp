@@ -10,8 +10,7 @@ namespace {
 
 constexpr const char* kFirst = "Find first";
 constexpr const char* kNext = "Find next";
-constexpr int kEscape = 27;
-enum Tab { kFindTab, kReplaceTab, kGotoTab };
+enum FindTab { kFindTab, kReplaceTab, kGotoTab };
 
 std::string Quoted(const std::string& text) { return "\"" + text + "\""; }
 
@@ -35,15 +34,15 @@ struct FindAndReplace::Page {
   CheckBox& matchCase;
   CheckBox& wholeWord;
   CommandButton& find;
-  bool replaces;
+  FindTab tab;
 };
 
 FindAndReplace::Page FindAndReplace::FindPage() {
-  return {ComboTextFind, OptionJoystickF, OptionMacroF, MatchCaseF, WholeWordF, Command1, false};
+  return {ComboTextFind, OptionJoystickF, OptionMacroF, MatchCaseF, WholeWordF, Command1, kFindTab};
 }
 
 FindAndReplace::Page FindAndReplace::ReplacePage() {
-  return {ComboTextReplaceFind, OptionJoystickR, OptionMacroR, MatchCaseR, WholeWordR, Command3, true};
+  return {ComboTextReplaceFind, OptionJoystickR, OptionMacroR, MatchCaseR, WholeWordR, Command3, kReplaceTab};
 }
 
 FindAndReplace::FindAndReplace(Workbench& bench, Shell& shell) : ToolForm("FindAndReplace", bench, shell) {
@@ -98,7 +97,7 @@ void FindAndReplace::Form_Load() {
 }
 
 void FindAndReplace::Form_KeyDown(Key& key) {
-  if (key.code != kEscape) return;
+  if (key.code != key::kEscape) return;
   key = {};
   shell_.Unload(*this);
 }
@@ -187,7 +186,7 @@ bool FindAndReplace::IsReady(const Page& page) {
   } else {
     return true;
   }
-  if (page.replaces) page.text.SetFocus();
+  if (page.tab == kReplaceTab) page.text.SetFocus();
   return false;
 }
 
@@ -208,8 +207,8 @@ void FindAndReplace::Search(const Page& page) {
   hit_.reset();
   if (!hit) return NotFound(page, document, first);
   page.find.Caption = kNext;
-  if (page.replaces) Set(Replacing::Allowed);
-  if (!page.replaces && document.IsJoystick()) {
+  if (page.tab == kReplaceTab) Set(Replacing::Allowed);
+  if (page.tab != kReplaceTab && document.IsJoystick()) {
     page.find.MakeDefault();
     document.text.SetFocus();
   } else {
@@ -219,7 +218,7 @@ void FindAndReplace::Search(const Page& page) {
   // hit.
   document.SelLength = SearchText.Get().size();
   document.Caret = *hit + SearchText.Get().size();
-  hit_ = Hit{&document, document.text.Selection(), document.text.SelText, page.replaces};
+  hit_ = Hit{&document, document.text.Selection(), document.text.SelText, page.tab == kReplaceTab};
 }
 
 bool FindAndReplace::GoOnFrom(const Document& document) {
@@ -238,10 +237,10 @@ void FindAndReplace::NotFound(const Page& page, Document& document, bool first) 
   } else {
     Show("You found 'em all!", "No further instances of " + text + " found in " + caption);
     page.find.Caption = kFirst;
-    if (page.replaces) Set(Replacing::Refused);
+    if (page.tab == kReplaceTab) Set(Replacing::Refused);
   }
   document.text.SelStart = document.Caret;
-  if (first && !page.replaces) {
+  if (first && page.tab != kReplaceTab) {
     page.find.SetFocus();
   } else {
     page.text.SetFocus();

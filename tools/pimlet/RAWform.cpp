@@ -11,14 +11,10 @@ namespace {
 constexpr Twips kWidth{12855};
 constexpr Twips kHeight{8850};
 
-constexpr const char* kMiscellaneous = "Miscellaneous";
 constexpr int kFallbackPlace = 200;
 
 constexpr int kMinus = 47;
-constexpr int kEnter = 13;
-constexpr int kEscape = 27;
 constexpr int kColourButton = 7;
-constexpr int kMinimised = 1;
 enum AddKind { kNothing, kText, kRaw };
 
 constexpr const char* kAddTip = "Paste into the combined selection";
@@ -47,7 +43,7 @@ const MessageBox kLayoutWarning = {
     "2 will give me the desired \" symbol.",
     BoxIcon::Information};
 
-constexpr const char* kDelays[] = {"20", "40", "60", "80", "100", "150", "200", "300", "400", "500"};
+constexpr std::string_view kDelays[] = {"20", "40", "60", "80", "100", "150", "200", "300", "400", "500"};
 
 constexpr MenuRow<RAWform> kMenus[] = {
     {0, "mnuFile", "&File"},
@@ -154,24 +150,24 @@ void RAWform::PositionPimlet() {
   const Profile stored = bench_.profile.Read();
   const auto read = [&stored](const char* key, Twips size, int end) {
     const int centred = static_cast<int>((FromPixels(end) - size).count / 2);
-    return Twips{static_cast<float>(OnScreen(stored.GetInt(kMiscellaneous, key, centred), end))};
+    return Twips{static_cast<float>(OnScreen(stored.GetInt(section::kMiscellaneous, key, centred), end))};
   };
   MoveTo(read("PimletLeft", Width, screen.width), read("PimletTop", Height, screen.height));
-  const int addCR = To16Bits(stored.GetInt(kMiscellaneous, "AddPimletCR", 0));
+  const int addCR = To16Bits(stored.GetInt(section::kMiscellaneous, "AddPimletCR", 0));
   CheckAddCRPimlet.Value = addCR == 1 ? 1 : 0;
   AddCR = addCR;
 }
 
 void RAWform::SavePosition() {
-  if (WindowState == kMinimised) return;
+  if (WindowState == window::kMinimised) return;
   const ScreenSize& screen = bench_.platform.screen;
   const auto place = [](Twips at, int end) {
     return TextOf(OnScreen(static_cast<int>(std::lround(at.count)), end));
   };
   Ignore(bench_.profile.WriteAll(std::vector<ProfileEntry>{
-      {kMiscellaneous, "PimletTop", place(Top, screen.height)},
-      {kMiscellaneous, "PimletLeft", place(Left, screen.width)},
-      {kMiscellaneous, "AddPimletCR", TextOf(AddCR.Get())},
+      {section::kMiscellaneous, "PimletTop", place(Top, screen.height)},
+      {section::kMiscellaneous, "PimletLeft", place(Left, screen.width)},
+      {section::kMiscellaneous, "AddPimletCR", TextOf(AddCR.Get())},
   }));
 }
 
@@ -283,8 +279,8 @@ void RAWform::TotalCombinedText_Change() {
 
 /// It is one line, in a box that would take these keys for itself.
 void RAWform::TotalCombinedText_KeyDown(Key& key) {
-  if (key.code == kEscape) Command2_Click();
-  if (key.code == kEnter || key.code == kEscape) key = {};
+  if (key.code == key::kEscape) Command2_Click();
+  if (key.code == key::kEnter || key.code == key::kEscape) key = {};
 }
 
 void RAWform::Command9_Click(int index) {

@@ -127,9 +127,8 @@ void DrivesForm::Store(char letter, const std::string& folder) {
   const Trap trap{bench_.errors, "DRIVES Store"};
   const bool stored = trap(bench_.profile.Write("Drives", {&letter, 1}, Protected(folder))).has_value();
   const std::string now = FromUtf8(FolderOf(letter));
-  bench_.documents.status.Panels(1).Text = "Drive " + DriveOf(letter) +
-                                           (now.empty() ? " is no more" : " is now " + now) +
-                                           (stored ? "" : ", until I end: Tarvik.ini can't be written");
+  Say("Drive " + DriveOf(letter) + (now.empty() ? " is no more" : " is now " + now) +
+      (stored ? "" : ", until I end: Tarvik.ini can't be written"));
   ShowDrives();
 }
 

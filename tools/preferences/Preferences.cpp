@@ -15,7 +15,6 @@ namespace {
 constexpr const char* kAutoSaveInvalid =
     "The value you entered isn't valid. I'm changing it to 10 minutes to prevent an error ocurring.";
 
-constexpr int kLeftButton = 1;
 constexpr int kLeastUndo = 10;
 constexpr int kMostUndo = 30000;
 constexpr int kAutoSaveMinutes = 10;
@@ -114,7 +113,7 @@ void Preferences::AttachHandlers() {
   ComboThrottle.Click = [this] { settings_.ThrottleName = ComboThrottle.ListIndex; };
   ComboRudders.Click = [this] { settings_.RudderName = ComboRudders.ListIndex; };
   List1.MouseUp = [this](const Mouse& mouse) {
-    if (mouse.button == kLeftButton) List1_Click();
+    if (mouse.button == button::kLeft) List1_Click();
   };
   List1.DblClick = [this] { List1_Click(); };  // the Enter key
   CheckBox1.Click = [this] { settings_.ApplyColoursOnFileOpen = CheckBox1.Value; };

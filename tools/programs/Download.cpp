@@ -5,13 +5,6 @@
 namespace tarvik {
 namespace {
 
-// A window state of the frame.
-constexpr int kMinimised = 1;
-
-// What the loader is waited for with.
-constexpr int kMinimisedWithoutFocus = 6;  // without effect
-constexpr int kNoLimit = -1;
-
 constexpr const char* kNoControlCentre =
     "You need to enter the path in preferences for the Thrustmaster Control Centre";
 constexpr const char* kWhyPath =
@@ -74,7 +67,7 @@ void ChangeToRootOf(Workbench& bench, const std::string& path, const Trap& trap)
 void RunLoader(Workbench& bench, Shell& shell, const std::string& file) {
   const bool quiet = shell.Command("mnuAppsQuiet").Checked;
   const std::string commandLine = bench.settings.B50LoadPath.Get() + " " + file + (quiet ? " Q" : "");
-  Ignore(ShellAndWait(bench, shell, commandLine, kMinimisedWithoutFocus, kNoLimit));
+  Ignore(ShellAndWait(bench, shell, commandLine));
 }
 
 void SendToJoystick(Workbench& bench, Shell& shell) {
@@ -91,7 +84,7 @@ void SendToJoystick(Workbench& bench, Shell& shell) {
   trap(bench.platform.files.ChangeFolder(FolderOfControlCentre(bench.settings)));
   Form& frame = shell.Frame();
   const int before = frame.WindowState;
-  frame.WindowState = kMinimised;
+  frame.WindowState = window::kMinimised;
   RunLoader(bench, shell, joystick.Path);
   frame.WindowState = before;
   bench.documents.FocusActiveText();

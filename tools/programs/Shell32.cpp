@@ -7,7 +7,6 @@
 namespace tarvik {
 namespace {
 
-constexpr int kNoLimit = -1;
 const Failure kBusy{70, "Permission denied", 0};
 
 Failure StartFailed(Failure why) {
@@ -77,14 +76,13 @@ WaitEnd ShowWait(Workbench& bench, Shell& shell, RunningProgram& program, const 
 }  // namespace
 
 Outcome<WaitEnd> ShellAndWait(Workbench& bench, Shell& shell, const std::string& commandLine,
-                              std::optional<int> /*windowStyle*/, std::optional<int> timeout) {
+                              std::optional<int> /*windowStyle*/, int timeout) {
   if (shell.LoadedTool<ProgramWait>()) return StartFailed(kBusy);
   auto program = bench.platform.programs.StartToWait(commandLine, WindowStyle::Normal);
   if (!program) return StartFailed(program.failure());
   const bool running = (*program)->State() == ProgramState::Running;
-  const WaitEnd unfinished = running
-                                 ? ShowWait(bench, shell, **program, commandLine, timeout.value_or(kNoLimit))
-                                 : WaitEnd::Abandoned;
+  const WaitEnd unfinished =
+      running ? ShowWait(bench, shell, **program, commandLine, timeout) : WaitEnd::Abandoned;
   return (*program)->State() == ProgramState::Ended ? WaitEnd::Ended : unfinished;
 }
 

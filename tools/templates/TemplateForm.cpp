@@ -118,7 +118,7 @@ void TemplateForm::AttachHandlers() {
   Activate = [this] { Form_Activate(); };
   // The text is not closed in passing.
   KeyDown = [](Key& key) {
-    if (key.code == kEscape) key = {};
+    if (key.code == key::kEscape) key = {};
   };
   CmndPrint.ToolTipText = "Print (Ctrl+P)";
   ToggleButton1.Click = [this] { ToggleButton1_Click(); };
@@ -339,8 +339,7 @@ void TemplateForm::mnuEditTarvikini_Click() {
 }
 
 void TemplateForm::mnuFilePrint_Click() {
-  PrintPane(TemplateText, TemplateName, "TEMPLATE mnuFilePrint_Click", bench_.platform, bench_.errors,
-            bench_.documents.status.Panels(1));
+  PrintPane(TemplateText, TemplateName, "TEMPLATE mnuFilePrint_Click", bench_.documents);
 }
 
 // The clipboard.
@@ -382,14 +381,14 @@ void TemplateForm::TemplateText_KeyDown(Key& key) {
 }
 
 void TemplateForm::TemplateText_MouseDown(const Mouse& mouse) {
-  if (mouse.button != kRightButton) return;
+  if (mouse.button != button::kRight) return;
   UpdateCopyItems();
   PopUp("mnuPopShow");
 }
 
 void TemplateForm::ToggleButton1_Click() {
   ToggleButton1.Turn(!ToggleButton1.On());
-  TemplateText.RightMargin = ToggleButton1.On() ? 0 : kNoWrapping;
+  TemplateText.RightMargin = ToggleButton1.On() ? margin::kWindow : margin::kNone;
 }
 
 void TemplateForm::mnuViewrefreshLayout_Click() {
@@ -400,7 +399,7 @@ void TemplateForm::mnuViewrefreshLayout_Click() {
 
 // Colours.
 
-void TemplateForm::EditPreferences(int page) {
+void TemplateForm::EditPreferences(page::Preferences page) {
   shell_.ShowPreferences(page);
   if (bench_.values.TemplateFontChanged == 1) mnuViewrefreshLayout_Click();
 }
@@ -422,8 +421,7 @@ void TemplateForm::ColourTemplateText() {
   mnuTextToBlack_Click();
   Say("Applying colour highlighting to " + Text1.Text.Get() + ". Please wait ...");
   mnuViewrefreshLayout_Click();
-  MakePasses(TemplateText, JoystickPasses(), bench_.settings,
-             {bench_.documents.status.Panels(1), bench_.documents.progress, false});
+  MakePasses(TemplateText, JoystickPasses(), bench_.documents, CommandProgress::Hits);
   TemplateText.SelStart = start;
   TemplateText_Change();
   Say("Done");

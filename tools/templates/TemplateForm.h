@@ -78,7 +78,7 @@ class TemplateForm : public ToolForm {
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
 
  private:
-  void EditPreferences(int page);
+  void EditPreferences(page::Preferences page);
   void AttachHandlers();
   /// Asks about unsaved work, which goes when the user says so.
   bool MayLeave(const char* question, const char* refused);

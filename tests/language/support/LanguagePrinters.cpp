@@ -17,7 +17,7 @@ void PrintTo(const MacroCategory& category, std::ostream* out) {
 void PrintTo(const Piece& piece, std::ostream* out) {
   constexpr const char* kClasses[] = {"black", "button", "slash", "raw", "miscellaneous", "comment"};
   *out << Quoted(piece.text) << " " << kClasses[static_cast<std::size_t>(piece.colour)]
-       << (piece.joins ? " joins" : "");
+       << (piece.blank == BlankBefore::Never ? " without a blank" : "");
 }
 
 void PrintTo(const Statement& statement, std::ostream* out) {

@@ -24,10 +24,10 @@ class Shell32Test : public testing::Test {
     };
   }
   void End(ProgramState state) { program.outside.programs.state = state; }
-  Outcome<WaitEnd> Wait(std::optional<int> style = {}, std::optional<int> timeout = {}) {
+  Outcome<WaitEnd> Wait(std::optional<int> style = {}, int timeout = kNoLimit) {
     return ShellAndWait(program.application.workbench, program.application, "c:\\x.exe", style, timeout);
   }
-  void ExpectEnd(WaitEnd end, std::optional<int> timeout = {}) {
+  void ExpectEnd(WaitEnd end, int timeout = kNoLimit) {
     const Outcome<WaitEnd> waited = Wait({}, timeout);
     ASSERT_TRUE(waited) << waited.failure().text;
     EXPECT_EQ(*waited, end);
