@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
 #include <string_view>
 
 namespace tarvik {
@@ -12,9 +13,20 @@ namespace tarvik {
 struct Endings {
   std::string_view joystick;
   std::string_view macro;
+  std::string_view inDialogs;
 };
 
-inline constexpr Endings kEndings[] = {{"f22", "m22"}, {"b50", "m50"}, {"adv", "mdf"}};
+inline constexpr Endings kEndings[] = {{"f22", "m22", "F22"}, {"b50", "m50", "F16"}, {"adv", "mdf", "FCS"}};
+
+/// The patterns of this file of all joysticks, for the filter of a file dialog.
+[[nodiscard]] inline std::string Patterns(std::string_view Endings::*file, std::string_view between = ";") {
+  std::string patterns;
+  for (const Endings& each : kEndings) {
+    if (!patterns.empty()) patterns += between;
+    patterns += "*." + std::string(each.*file);
+  }
+  return patterns;
+}
 
 /// The two languages of joystick files: buttons by numbers (S1, T1), or by what they are (TG, RKR UP).
 enum class Dialect { Numbered, Plain };
@@ -58,8 +70,11 @@ template <class Row, std::size_t N>
   return number >= 0 && number < static_cast<int>(N) ? &rows[number] : nullptr;
 }
 
-/// Numbers above those of the joysticks are plain ones.
-[[nodiscard]] constexpr bool IsPlain(int joystick) { return joystick > kFlcs; }
+/// A number in the settings that is beyond the table on either side counts as its nearest row.
+[[nodiscard]] constexpr bool IsPlain(int joystick) {
+  const int row = std::clamp(joystick, 0, static_cast<int>(std::size(kJoysticks)) - 1);
+  return kJoysticks[row].dialect == Dialect::Plain;
+}
 
 /// The number of the joystick that a joystick file's ending tells: the F-22 Pro for an ending of none.
 [[nodiscard]] constexpr int JoystickOf(std::string_view ending) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "language/Controllers.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -26,9 +27,9 @@ struct FileWords {
   const char* opened;  ///< null: nothing more is said
   const char* loadTag;
   const char* saveTag;
-  const char* kind;      ///< in the filters' first description
-  const char* allTypes;  ///< the filters' second entry
-  const char* saveTypes;
+  std::string_view Endings::*ending;
+  const char* kind;        ///< in the filters
+  const char* kindToSave;  ///< in the filters of saving, behind a family of joysticks
 };
 
 constexpr FileWords kJoystickWords = {
@@ -41,6 +42,7 @@ constexpr FileWords kJoystickWords = {
     nullptr,
     "ED_mnuFileJoystickLoad_Click",
     "ED_SaveJoystickText",
+    &Endings::joystick,
     "Joystick",
     " joystick file (",
 };
@@ -54,6 +56,7 @@ constexpr FileWords kMacroWords = {
     "Finished",
     "ED_MnuFileMacroLoad_Click",
     "ED_SaveMacroText",
+    &Endings::macro,
     "Macro",
     " macro file(",
 };
@@ -62,15 +65,31 @@ const FileWords& WordsOf(const Document& document) {
   return document.IsJoystick() ? kJoystickWords : kMacroWords;
 }
 
-std::string Filter(const FileWords& words, const std::string& extension, const char* rest) {
-  return std::string(words.kind) + " file (*." + extension + ")|*." + extension + rest;
+constexpr const char* kAllFiles = "|All files (*.*)|*.*";
+
+std::string OwnType(const FileWords& words, const std::string& extension) {
+  return std::string(words.kind) + " file (*." + extension + ")|*." + extension;
+}
+
+std::string FilterToOpen(const FileWords& words, const std::string& extension) {
+  return OwnType(words, extension) + "|All " + words.kind + " file types (" + Patterns(words.ending, ",") +
+         ") |" + Patterns(words.ending) + " " + kAllFiles;
+}
+
+std::string FilterToSave(const FileWords& words, const std::string& extension) {
+  std::string filter = OwnType(words, extension);
+  for (const Endings& each : kEndings) {
+    const std::string pattern = "*." + std::string(each.*words.ending);
+    filter += "|" + std::string(each.inDialogs) + words.kindToSave + pattern + ") |" + pattern;
+  }
+  return filter + kAllFiles;
 }
 
 std::string PairFilter(const std::string& joystick, const std::string& macro) {
   return "Thrustmaster files for your hardware |*." + joystick + ";*." + macro +
          "|Joystick file for your hardware (*." + joystick + ")|*." + joystick +
-         "|Macro file for your hardware (*." + macro + ")|*." + macro +
-         "|All Thrustmaster files |*.f22;*.b50;*.adv;*.m22;*.m50;*.mdf|All files (*.*)|*.*";
+         "|Macro file for your hardware (*." + macro + ")|*." + macro + "|All Thrustmaster files |" +
+         Patterns(&Endings::joystick) + ";" + Patterns(&Endings::macro) + kAllFiles;
 }
 
 constexpr const char* kNoJoystickFile =
@@ -242,7 +261,7 @@ void FileCommands::Load(Document& document) {
   const Trap trap{documents_.errors, words.loadTag};
   if (toOpen_.path.empty()) documents_.Say(words.opening);
   const std::string extension = (documents_.settings.*document.traits.extension).Get();
-  const auto file = FileToOpen({}, Filter(words, extension, words.allTypes));
+  const auto file = FileToOpen({}, FilterToOpen(words, extension));
   if (!file || !CanRead(file->path, trap)) return;
   const ProgramEdit edit(documents_.values);
   if (document.IsJoystick()) {
@@ -427,7 +446,7 @@ void FileCommands::SaveAs(Document& document) {
   }
   const auto chosen = ChooseFile({FileDialogKind::Save,
                                   {},
-                                  Filter(words, extension, words.saveTypes),
+                                  FilterToSave(words, extension),
                                   documents_.settings.ProgramFilesPath,
                                   suggestion,
                                   extension});

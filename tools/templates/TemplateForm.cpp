@@ -1,5 +1,6 @@
 #include "tools/templates/TemplateForm.h"
 
+#include "language/Controllers.h"
 #include "text/CodePage.h"
 #include "workbench/EditCommands.h"
 #include "workbench/HelpTopics.h"
@@ -14,12 +15,6 @@ constexpr const char* kUntitled = "untitled.rtf";
 constexpr const char* kCurrentFolder = ".";
 constexpr const char* kIniName = "Tarvik.ini";
 constexpr const char* kNoDefaultTip = "Open default template/text file (see Preferences)";
-constexpr const char* kFilter =
-    "Templates (*.rtf)|*.rtf|Joystick files |*.f22;*.b50;*.adv|Macro files |*.m22;*.m50;*.mdf|"
-    "Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|All files (*.*)|*.*";
-constexpr int kNoWrapping = 2000;
-constexpr int kRightButton = 2;
-constexpr int kEscape = 27;
 
 constexpr MenuRow<TemplateForm> kMenus[] = {
     {0, "mnuFile", "&File"},
@@ -77,6 +72,11 @@ constexpr CommandRow kCommandRows[TemplateForm::kCommands] = {
     {"Save", "Save templates in the folder Templates, other files where they came from (Ctrl+S)"},
     {"New", "New template (Ctrl+N)"},
 };
+
+std::string Filter() {
+  return "Templates (*.rtf)|*.rtf|Joystick files |" + Patterns(&Endings::joystick) + "|Macro files |" +
+         Patterns(&Endings::macro) + "|Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|All files (*.*)|*.*";
+}
 
 std::string NameIn(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
 
@@ -241,7 +241,7 @@ void TemplateForm::Open() {
   const Trap trap{bench_.errors, "TEMPLATE Command1_Click"};
   if (!MayOpen(" has changed and isn't saved. Do you want to save it before opening another file?")) return;
   const auto chosen =
-      bench_.platform.dialogs.AskForFile({FileDialogKind::Open, {}, kFilter, kCurrentFolder, {}, {}});
+      bench_.platform.dialogs.AskForFile({FileDialogKind::Open, {}, Filter(), kCurrentFolder, {}, {}});
   if (!chosen || !LoadText(LowerCase(*chosen), trap)) return;
   Say(TemplatePath.Get() + " was opened successfully");
   ShowName(NameIn(*chosen));
