@@ -2,7 +2,7 @@
 
 namespace tarvik {
 
-ColourSelector::ColourSelector(Workbench& bench, Shell& /*shell*/) : Form("ColourSelector"), bench_(bench) {
+ColourSelector::ColourSelector(Workbench& bench, Shell& shell) : ToolForm("ColourSelector", bench, shell) {
   for (int i = 0; i < kColours; ++i) {
     Command1(i).Caption = kColourChoices[i].caption;
     Command1(i).Click = [this, i] { Command1_Click(i); };

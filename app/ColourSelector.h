@@ -2,11 +2,11 @@
 #pragma once
 
 #include "workbench/ColourChoices.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class ColourSelector : public Form {
+class ColourSelector : public ToolForm {
  public:
   static constexpr int kColours = std::size(kColourChoices);
 
@@ -19,9 +19,6 @@ class ColourSelector : public Form {
   void Form_Deactivate() { Visible = false; }
   void Form_LostFocus() { Visible = false; }
   void Command1_Click(int index);
-
- private:
-  Workbench& bench_;
 };
 
 }  // namespace tarvik

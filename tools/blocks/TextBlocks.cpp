@@ -104,7 +104,7 @@ void Title::Command1_Click() {
   insertion.BeginColInsert();
   WriteLines(bench_, Lines());
   insertion.EndColInsert();
-  shell_.Unload(*this);
+  Close();
 }
 
 void InsertTitle(Workbench& /*bench*/, Shell& shell) { shell.ShowModal(shell.Tool<Title>()); }
@@ -121,7 +121,7 @@ Heading::Heading(Workbench& bench, Shell& shell) : ToolForm("Heading", bench, sh
 
 void Heading::Command1_Click(int index) {
   bench_.values.REMText = index == 0 ? Combo1.Text.Get() : "";
-  shell_.Unload(*this);
+  Close();
 }
 
 void InsertHeading(Workbench& bench, Shell& shell) {
@@ -156,7 +156,7 @@ void SingleTextForm::Form_Load() {
 void SingleTextForm::Close(const std::string& text) {
   bench_.values.REMText = text;
   SaveCRthang();
-  shell_.Unload(*this);
+  ToolForm::Close();
 }
 
 void SingleTextForm::SaveCRthang() {

@@ -23,7 +23,7 @@ EnterFavouritename::EnterFavouritename(Workbench& bench, Shell& shell)
 
 void EnterFavouritename::Command1_Click() {
   if (!Text1.Empty()) bench_.lists.FavName = Text1.Text.Get();
-  shell_.Unload(*this);
+  Close();
 }
 
 std::string SuggestedName(const std::string& path) {

@@ -77,7 +77,7 @@ void FindAndReplace::AttachHandlers() {
     option->Click = [this] { SearchTarget = 2; };
   }
   for (CommandButton* const button : {&Command2, &Command4, &Command8, &Command9}) {
-    button->Click = [this] { shell_.Unload(*this); };
+    button->Click = [this] { Close(); };
   }
   ComboTextFind.Change = [this] { Command1.Caption = kFirst; };
   ComboTextReplaceFind.Change = [this] { Command3.Caption = kFirst; };
@@ -99,7 +99,7 @@ void FindAndReplace::Form_Load() {
 void FindAndReplace::Form_KeyDown(Key& key) {
   if (key.code != key::kEscape) return;
   key = {};
-  shell_.Unload(*this);
+  Close();
 }
 
 // Showing.

@@ -101,8 +101,7 @@ void SayWhyNot(Workbench& bench, const Outcome<>& run) {
 
 }  // namespace
 
-EnterGameName::EnterGameName(Workbench& bench, Shell& shell)
-    : Form("EnterGameName"), bench_(bench), shell_(shell) {
+EnterGameName::EnterGameName(Workbench& bench, Shell& shell) : ToolForm("EnterGameName", bench, shell) {
   Caption = "Enter game details - click on the help buttons for information";
   Topmost = true;
   for (int i = 0; TextBox * box : {&Text1, &Text2, &Text3, &Text4}) {
@@ -176,7 +175,7 @@ void EnterGameName::Command2_Click() {
 void EnterGameName::Command3_Click() {
   bench_.lists.GameDialogOK = 1;
   CopyToRecord();
-  shell_.Unload(*this);
+  Close();
 }
 
 void EnterGameName::Command5_Click() {

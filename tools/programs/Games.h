@@ -2,13 +2,12 @@
 // the game, and closes the program.
 #pragma once
 
-#include "controls/Controls.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
 /// Asks for a game's details.
-class EnterGameName : public Form {
+class EnterGameName : public ToolForm {
  public:
   explicit EnterGameName(Workbench& bench, Shell& shell);
 
@@ -29,16 +28,13 @@ class EnterGameName : public Form {
   void Command1_Click(int index);
   void Command2_Click();
   void Command3_Click();
-  void Command4_Click() { shell_.Unload(*this); }
+  void Command4_Click() { Close(); }
   void Command5_Click();
   void Command6_Click();
 
  private:
   void AttachHandlers();
   void CopyToRecord();
-
-  Workbench& bench_;
-  Shell& shell_;
 };
 
 /// Asks for a game, and puts it first in the list.

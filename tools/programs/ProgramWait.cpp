@@ -2,7 +2,7 @@
 
 namespace tarvik {
 
-ProgramWait::ProgramWait(Workbench& /*bench*/, Shell& shell) : Form("ProgramWait"), shell_(shell) {
+ProgramWait::ProgramWait(Workbench& bench, Shell& shell) : ToolForm("ProgramWait", bench, shell) {
   constexpr int kLook = 50;  // milliseconds
   Caption = "Please wait ...";
   Label1.BackColor = ToggleLabel::kOff;

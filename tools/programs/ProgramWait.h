@@ -1,12 +1,11 @@
 // The small window that stands while a program is waited for. Its button, or closing it, stops the program.
 #pragma once
 
-#include "controls/Controls.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class ProgramWait : public Form {
+class ProgramWait : public ToolForm {
  public:
   explicit ProgramWait(Workbench& bench, Shell& shell);
 
@@ -18,11 +17,8 @@ class ProgramWait : public Form {
   /// Milliseconds that it has stood.
   Property<int> Waited{*this, "Waited", 0};
 
-  void Command1_Click() { shell_.Unload(*this); }
+  void Command1_Click() { Close(); }
   void Timer1_Timer() { Waited = Waited + Timer1.Interval; }
-
- private:
-  Shell& shell_;
 };
 
 }  // namespace tarvik

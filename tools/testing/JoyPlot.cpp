@@ -37,10 +37,7 @@ constexpr MenuRow<JoyPlot> kMenus[] = {
     {1, "mnuZoom", "&Zoom", "", &JoyPlot::mnuZoom_Click},
     // Windows of their own have nothing to be arranged in.
     {0, "mnuWindow", "&Window"},
-    {1, "mnuArrange", "&Cascade", "", nullptr, 0},
-    {1, "mnuArrange", "Tile &horizontally", "", nullptr, 1},
-    {1, "mnuArrange", "Tile &vertically", "", nullptr, 2},
-    {1, "mnuArrange", "&Arrange icons", "", nullptr, 3},
+    MenuArray<JoyPlot>(1, "mnuArrange", kArrangements),
     {0, "mnuHelp", "&Help"},
     {1, "mnuHelpOverview", "&Overview", "", &JoyPlot::mnuHelpOverview_Click},
     {1, "mnuHelpDivider1", "-"},
@@ -54,8 +51,7 @@ Colour CentreColour(int position) {
 
 }  // namespace
 
-JoyPlot::JoyPlot(Workbench& bench, Shell& shell)
-    : Form("JoyPlot"), menus(*this, kMenus), bench_(bench), shell_(shell) {
+JoyPlot::JoyPlot(Workbench& bench, Shell& shell) : ToolForm("JoyPlot", bench, shell), menus(*this, kMenus) {
   Caption = "Joystick motion analayser";
   ScaleWidth = kInside;
   ScaleHeight = kInside;
@@ -122,8 +118,7 @@ void JoyPlot::JoyTimer_Timer() {
   PlotX = info->x;
   PlotY = info->y;
   DrawMarker(kBlack, PlotOn ? kBlue : kBlack);
-  bench_.documents.status.Panels(1).Text =
-      "Joystick position: x = " + PlotX.ToText() + ", y = " + PlotY.ToText();
+  Say("Joystick position: x = " + PlotX.ToText() + ", y = " + PlotY.ToText());
   // The marker and the trace have painted over the lines.
   DrawCentreLines(0, CentreColour(PlotX), CentreColour(PlotY));
   if (GridOn) DrawGrid();

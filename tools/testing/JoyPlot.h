@@ -3,11 +3,11 @@
 
 #include "controls/Menu.h"
 #include "controls/PlotBox.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class JoyPlot : public Form {
+class JoyPlot : public ToolForm {
  public:
   explicit JoyPlot(Workbench& bench, Shell& shell);
 
@@ -33,7 +33,7 @@ class JoyPlot : public Form {
   /// Fits the picture to the form and begins it anew.
   void Form_Resize();
   void JoyTimer_Timer();
-  void mnuexit_Click() { shell_.Unload(*this); }
+  void mnuexit_Click() { Close(); }
   void mnuClear_Click() { PicJoy.Cls(); }
   void mnuPlot_Click();
   void mnuMaintain_Click();
@@ -55,9 +55,6 @@ class JoyPlot : public Form {
   void DrawMarker(Colour outline, Colour diagonals);
   void DrawDiagonals(Colour colour);
   void DrawGrid();
-
-  Workbench& bench_;
-  Shell& shell_;
 };
 
 }  // namespace tarvik

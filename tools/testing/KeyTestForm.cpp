@@ -84,13 +84,11 @@ int BarLength(int value, float longest) {
 }  // namespace
 
 KeyTestForm::KeyTestForm(Workbench& bench, Shell& shell)
-    : Form("KeyTestForm"),
+    : ToolForm("KeyTestForm", bench, shell),
       menus(*this, kMenus),
       RTFKeysText(*this, "RTFKeysText", bench.platform.files),
       RTFKeysDownText(*this, "RTFKeysDownText", bench.platform.files),
-      RTFKeysUpText(*this, "RTFKeysUpText", bench.platform.files),
-      bench_(bench),
-      shell_(shell) {
+      RTFKeysUpText(*this, "RTFKeysUpText", bench.platform.files) {
   Caption = "Tarvik Keys and Joystick detector";
   OwnsKeys = true;
   for (Pane* const log : {&RTFKeysText, &RTFKeysDownText, &RTFKeysUpText}) log->Locked = true;

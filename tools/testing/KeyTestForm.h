@@ -5,11 +5,11 @@
 #include "controls/Menu.h"
 #include "controls/PlotBox.h"
 #include "panes/Pane.h"
-#include "workbench/Shell.h"
+#include "workbench/ToolForm.h"
 
 namespace tarvik {
 
-class KeyTestForm : public Form {
+class KeyTestForm : public ToolForm {
  public:
   static constexpr int kClearTimes = 5;
   static constexpr int kButtons = 4;
@@ -63,8 +63,8 @@ class KeyTestForm : public Form {
   void Form_KeyUp(const Key& key);
   void Form_Unload() { JoystickTimer.Enabled = false; }
   void RTFKeysText_LostFocus() { RTFKeysText.SetFocus(); }
-  void Command1_Click() { shell_.Unload(*this); }
-  void mnuClose_Click() { shell_.Unload(*this); }
+  void Command1_Click() { Close(); }
+  void mnuClose_Click() { Close(); }
   void mnuClearAll_Click() { ClearTextBoxes(); }
   void mnuClear500_Click(int index);
   void Timer1_Timer();
@@ -91,8 +91,6 @@ class KeyTestForm : public Form {
   void ShowThrottle();
   void ShowRudder();
 
-  Workbench& bench_;
-  Shell& shell_;
   JoyInfo info_;
   JoyCaps caps_;
 };

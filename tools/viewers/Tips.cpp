@@ -67,8 +67,8 @@ void frmTip::DisplayCurrentTip() {
 void frmTip::cmdOK_Click() {
   bench_.settings.ShowTips = chkLoadTipsAtStartup.Value;
   const Trap trap{bench_.errors, "TIPS cmdOK_Click"};
-  trap(bench_.profile.Write("FileLocations", "ShowTips", TextOf(bench_.settings.ShowTips.Get())));
-  shell_.Unload(*this);
+  trap(bench_.profile.Write(section::kFileLocations, "ShowTips", TextOf(bench_.settings.ShowTips.Get())));
+  Close();
 }
 
 frmAbout::frmAbout(Workbench& bench, Shell& shell) : ToolForm("frmAbout", bench, shell) {

@@ -161,7 +161,7 @@ void SelectPictureForm::file1_Click() {
 /// Without a picked file the picture stays the one it was.
 void SelectPictureForm::Command2_Click() {
   if (!Label1.Caption.Get().empty()) bench_.settings.ImageFilePath = Label1.Caption;
-  shell_.Unload(*this);
+  Close();
 }
 
 }  // namespace tarvik

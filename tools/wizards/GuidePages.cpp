@@ -9,7 +9,7 @@ constexpr std::string_view kPage = "# ";
 constexpr std::string_view kExample = "    ";
 
 GuideRow RowOf(std::string_view line) {
-  if (line.starts_with(kExample)) return {line.substr(kExample.size()), {}, true};
+  if (line.starts_with(kExample)) return {.text = line.substr(kExample.size()), .example = true};
   if (!line.ends_with(']')) return {line, {}};
   const std::size_t bracket = line.rfind('[');
   const std::string_view control = line.substr(bracket + 1, line.size() - bracket - 2);

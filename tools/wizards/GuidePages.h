@@ -10,8 +10,9 @@ namespace tarvik {
 /// A paragraph, a control, or a control with the words that name it.
 struct GuideRow {
   std::string_view text;
-  std::string_view control;  ///< one of the form's, as "Text1(0)"; several, apart by blanks, side by side
-  bool example = false;      ///< the text is a line of a file
+  std::string_view control =
+      {};                ///< one of the form's, as "Text1(0)"; several, apart by blanks, side by side
+  bool example = false;  ///< the text is a line of a file
 };
 
 struct GuidePage {

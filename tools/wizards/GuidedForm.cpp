@@ -2,7 +2,8 @@
 
 namespace tarvik {
 
-GuidedForm::GuidedForm(std::string_view name, std::string_view guide) : Form(name), pages(ReadGuide(guide)) {
+GuidedForm::GuidedForm(std::string_view name, std::string_view guide, Workbench& bench, Shell& shell)
+    : ToolForm(name, bench, shell), pages(ReadGuide(guide)) {
   Topmost = true;
   for (const GuidePage& page : pages) {
     for (const GuideRow& row : page.rows) {

@@ -31,10 +31,7 @@ constexpr Command kCommands[] = {
 }  // namespace
 
 JoystickWiz::JoystickWiz(Workbench& bench, Shell& shell)
-    : Wizard(kTraits, shell),
-      BTNinFrame(*this, "BTNinFrame", std::size(kCommands)),
-      bench_(bench),
-      shell_(shell) {
+    : Wizard(kTraits, bench, shell), BTNinFrame(*this, "BTNinFrame", std::size(kCommands)) {
   for (int i = 0; i < BTNinFrame.Count(); ++i) {
     BTNinFrame(i).Caption = std::string(kCommands[i].toolTip);
     BTNinFrame(i).ToolTipText = std::string(kCommands[i].toolTip);

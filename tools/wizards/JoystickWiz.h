@@ -30,9 +30,6 @@ class JoystickWiz : public Wizard {
 
  private:
   InsertOptions& ComposerAt(int page);
-
-  Workbench& bench_;
-  Shell& shell_;
 };
 
 }  // namespace tarvik

@@ -75,8 +75,7 @@ void MacroMaker::Text1_Change() {
 
 /// From the name the Enter key goes on to the keys; there it is the default button's.
 void MacroMaker::Text1_KeyDown(Key& key) {
-  constexpr int kEnter = 13;
-  if (key.code != kEnter || form_.ActiveControl() != &Text1(kName)) return;
+  if (key.code != key::kEnter || form_.ActiveControl() != &Text1(kName)) return;
   Text1(kKeys).SetFocus();
   key = {};
 }

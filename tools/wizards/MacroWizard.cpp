@@ -20,7 +20,7 @@ constexpr MacroMaker::Command kOwnCommands[] = {
 }  // namespace
 
 MacroWizard::MacroWizard(Workbench& bench, Shell& shell)
-    : Wizard(kTraits, shell), MacroMaker(*this, bench, shell, kOwnCommands) {}
+    : Wizard(kTraits, bench, shell), MacroMaker(*this, bench, shell, kOwnCommands) {}
 
 void MacroWizard::Turned() {
   if (Page != kMacroPage) return Wizard::Turned();

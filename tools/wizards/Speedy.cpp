@@ -16,7 +16,7 @@ constexpr MacroMaker::Command kOwnCommands[] = {
 }  // namespace
 
 Speedy::Speedy(Workbench& bench, Shell& shell)
-    : GuidedForm("Speedy", words::kSpeedy), MacroMaker(*this, bench, shell, kOwnCommands) {
+    : GuidedForm("Speedy", words::kSpeedy, bench, shell), MacroMaker(*this, bench, shell, kOwnCommands) {
   Caption = "Speedy - for fast macro files";
   SSTab1.Click = [this] { SSTab1_Click(); };
 }

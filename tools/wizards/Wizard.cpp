@@ -2,12 +2,11 @@
 
 namespace tarvik {
 
-Wizard::Wizard(const Traits& traits, Shell& shell)
-    : GuidedForm(traits.name, traits.guide),
+Wizard::Wizard(const Traits& traits, Workbench& bench, Shell& shell)
+    : GuidedForm(traits.name, traits.guide, bench, shell),
       frames(*this, traits.frames, static_cast<int>(pages.size())),
       buttons(*this, traits.buttons, 4),
-      traits_(traits),
-      shell_(shell) {
+      traits_(traits) {
   constexpr float kMargin = 5;
   Caption = std::string(traits.caption);
   for (int i = 0; i < frames.Count(); ++i) {
@@ -39,7 +38,7 @@ void Wizard::Button_Click(int index) {
   if (index == kNext) return TurnTo(std::min(Page + 1, last));
   if (index == kBack) return TurnTo(std::max(Page - 1, 0));
   if (index == kFinish && Page < last) return TurnTo(last);
-  shell_.Unload(*this);
+  Close();
 }
 
 }  // namespace tarvik

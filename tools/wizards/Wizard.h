@@ -3,7 +3,6 @@
 #pragma once
 
 #include "tools/wizards/GuidedForm.h"
-#include "workbench/Shell.h"
 
 namespace tarvik {
 
@@ -21,7 +20,7 @@ class Wizard : public GuidedForm {
 
   enum Button { kFinish, kNext, kBack, kCancel };
 
-  Wizard(const Traits& traits, Shell& shell);
+  Wizard(const Traits& traits, Workbench& bench, Shell& shell);
 
   /// The number of the page on show, from 0.
   Property<int> Page{*this, "Page", 0};
@@ -40,7 +39,6 @@ class Wizard : public GuidedForm {
   void TurnTo(int page);
 
   const Traits traits_;
-  Shell& shell_;
 };
 
 }  // namespace tarvik
