@@ -89,7 +89,7 @@ void Editor::SetUpControls() {
     Command1(i).MouseDown = [this](const Mouse&) { Command1_MouseDown(); };
     Command1(i).MouseMove = [this](const Mouse&) { Command1_MouseMove(); };
   }
-  bench_.macros.panel.Serve({[this] { layout_.ResetFramePointer(); }, [this] { ShowPopUp("mnuRHList"); }});
+  bench_.macros.panel.SetHooks({[this] { layout_.ResetFramePointer(); }, [this] { ShowPopUp("mnuRHList"); }});
   Timer1.Elapsed = [this] { Timer1_Timer(); };
   TimerBlinkLine.Elapsed = [this] { TimerBlinkLine_Timer(); };
   input_.Attach(Joystick);

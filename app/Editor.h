@@ -105,7 +105,7 @@ class Editor : public Form {
   void mnuPreviousClearAllM_Click();
   void mnuFileExit_Click() { application_.CloseMum(); }
   void mnuPreferencesProtectMacroFile_Click();
-  void Timer1_Timer() { bench_.autoSave.Minute(); }
+  void Timer1_Timer() { bench_.autoSave.CountMinute(); }
   /// A last attempt to save both files when things have gone wrong. Ready for an active error report; nothing
   /// calls it yet.
   void EmergencySaveFiles();

@@ -16,36 +16,36 @@ constexpr std::string_view kLockMake = "#E0 #12 ";
 constexpr std::string_view kLockBreak = "#E0 #F0 #12 ";
 
 /// The bytes around a key's own: the modifier goes down before it and comes up behind it.
-struct Wrap {
+struct ModifierBytes {
   std::string_view down;
   std::string_view up;
 };
-constexpr Wrap kCtrl = {"#14 ", " #F0 #14"};
-constexpr Wrap kAlt = {"#11 ", " #F0 #11"};
-constexpr Wrap kShift = {"#12 ", " #F0 #12"};
-constexpr Wrap kUnshift = {"#E0 #F0 #12 ", " #E0 #12"};
+constexpr ModifierBytes kCtrl = {"#14 ", " #F0 #14"};
+constexpr ModifierBytes kAlt = {"#11 ", " #F0 #11"};
+constexpr ModifierBytes kShift = {"#12 ", " #F0 #12"};
+constexpr ModifierBytes kUnshift = {"#E0 #F0 #12 ", " #E0 #12"};
 
 std::string Text(std::string_view text) { return std::string(text); }
 
 /// The key's own text, and what tells of Shift beside it.
-struct Named {
+struct NamedKey {
   std::string text;
   ShiftInKeyText shift = ShiftInKeyText::No;
 };
 
-Named Name(const KeyRow& row, std::string_view caption, const Naming& naming) {
+NamedKey Name(const KeyRow& row, std::string_view caption, const KeyNaming& naming) {
   if (row.mark == Mark::Aux && naming.JoyName == kF22Pro) return {"AUX" + Text(row.name)};
   if (row.mark != Mark::Face || naming.UseSHF) return {Text(row.name)};
   return {row.key == kSeven ? "&" : Text(caption), ShiftInKeyText::Yes};
 }
 
-void Surround(Keystrings& keys, const Wrap& wrap) {
+void Surround(Keystrings& keys, const ModifierBytes& wrap) {
   keys.MakeCode.insert(0, wrap.down);
   keys.BreakCode += wrap.up;
 }
 
 /// Ctrl goes down first and comes up last, Shift is nearest to the key.
-void AddModifiers(Keystrings& keys, const KeyRow& row, const Held& held) {
+void AddModifiers(Keystrings& keys, const KeyRow& row, const HeldModifiers& held) {
   const bool unshifts = row.mark == Mark::Aux || row.mark == Mark::Unshifts;
   if (held.numLock && row.mark == Mark::Aux) {
     keys.MakeCode.insert(0, kLockMake);
@@ -59,15 +59,15 @@ void AddModifiers(Keystrings& keys, const KeyRow& row, const Held& held) {
 
 }  // namespace
 
-std::string GetModifier(const Held& held, ShiftInKeyText shift) {
+std::string GetModifier(const HeldModifiers& held, ShiftInKeyText shift) {
   const int sum =
       (held.shift && shift == ShiftInKeyText::No ? 1 : 0) + (held.ctrl ? 2 : 0) + (held.alt ? 4 : 0);
   return Text(kModifiers[sum]);
 }
 
-Keystrings GetKeystrings(const KeyRow& row, std::string_view caption, const Held& held,
-                         const Naming& naming) {
-  const Named named = Name(row, caption, naming);
+Keystrings GetKeystrings(const KeyRow& row, std::string_view caption, const HeldModifiers& held,
+                         const KeyNaming& naming) {
+  const NamedKey named = Name(row, caption, naming);
   Keystrings keys = {named.text, Text(row.make), Text(row.breaks), {}};
   if (row.name != kNotSupported) {
     keys.KeyText.insert(0, GetModifier(held, named.shift));

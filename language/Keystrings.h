@@ -7,7 +7,7 @@
 
 namespace tarvik {
 
-struct Held {
+struct HeldModifiers {
   bool shift = false;
   bool ctrl = false;
   bool alt = false;
@@ -15,7 +15,7 @@ struct Held {
 };
 
 /// What the user has chosen about names.
-struct Naming {
+struct KeyNaming {
   int JoyName = 0;
   /// Shift is spelt out, "SHF 1"; else the face on show tells it, "!".
   bool UseSHF = false;
@@ -35,10 +35,10 @@ struct Keystrings {
 enum class ShiftInKeyText { No, Yes };
 
 /// The words for what is held; Shift is left out where the key's own text tells it.
-[[nodiscard]] std::string GetModifier(const Held& held, ShiftInKeyText shift);
+[[nodiscard]] std::string GetModifier(const HeldModifiers& held, ShiftInKeyText shift);
 
 /// `caption` is the key's face as it is on show.
-[[nodiscard]] Keystrings GetKeystrings(const KeyRow& row, std::string_view caption, const Held& held,
-                                       const Naming& naming);
+[[nodiscard]] Keystrings GetKeystrings(const KeyRow& row, std::string_view caption, const HeldModifiers& held,
+                                       const KeyNaming& naming);
 
 }  // namespace tarvik

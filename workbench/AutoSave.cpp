@@ -16,7 +16,7 @@ void AutoSave::Restart() {
   if (documents_.settings.AutoSaveEnabled == 1) timer.Enabled = true;
 }
 
-void AutoSave::Minute() {
+void AutoSave::CountMinute() {
   if (++minutes_ < documents_.settings.AutoSaveTime) return;
   minutes_ = 0;
   AutoSaveFile();

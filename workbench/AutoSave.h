@@ -15,8 +15,8 @@ class AutoSave {
 
   /// Begins to count anew; the timer runs when the setting says so.
   void Restart();
-  /// A minute has passed.
-  void Minute();
+  /// Counts a minute that has passed.
+  void CountMinute();
   /// Writes each modified file, an untitled one too, where its path says.
   void AutoSaveFile();
 

@@ -169,7 +169,7 @@ bool FileCommands::New(Document& document) {
 
 bool FileCommands::AskToSave(Document& document, const SaveQuestion& question) {
   if (document.Dirty != saved::kModified) return true;
-  return MayGo(documents_.platform.dialogs, document.Name.Get().Text(), question, [&] {
+  return MayDiscard(documents_.platform.dialogs, document.Name.Get().Text(), question, [&] {
     documents_.Select(document);
     Save(document);
     return document.Dirty != saved::kModified;

@@ -24,7 +24,7 @@ class MacroListPanel {
     std::function<void()> popUp = [] {};          ///< shows the menu of a list
     std::function<void()> inserted = [] {};       ///< a macro was inserted
   };
-  void Serve(Hooks hooks) { hooks_ = std::move(hooks); }
+  void SetHooks(Hooks hooks) { hooks_ = std::move(hooks); }
 
   void ClearAllForNewMacroFile();
   /// Takes the lists of another one over, with "All" in front.

@@ -15,9 +15,9 @@ struct SaveQuestion {
 };
 
 /// Asks whether the file is to be saved, and has `save` save it: false when it could not. The result: whether
-/// the work may go.
-inline bool MayGo(Dialogs& dialogs, const std::string& name, const SaveQuestion& question,
-                  const std::function<bool()>& save) {
+/// what is in hand may be given up now.
+inline bool MayDiscard(Dialogs& dialogs, const std::string& name, const SaveQuestion& question,
+                       const std::function<bool()>& save) {
   const Answer answer = dialogs.Show(
       {" Save " + name + " now?", name + question.text, BoxIcon::Question, BoxButtons::YesNoCancel});
   if (answer != Answer::Yes) return answer == Answer::No;

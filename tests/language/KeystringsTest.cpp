@@ -15,17 +15,17 @@ void PrintTo(const Keystrings& keys, std::ostream* out) {
 namespace {
 
 constexpr const char* kGolden = TARVIK_DATA "/../tests/language/keystrings.txt";
-constexpr Held kNothing = {};
-constexpr Held kShift = {.shift = true};
-constexpr Held kAltShift = {.shift = true, .alt = true};
-constexpr Naming kFaces = {1, false};
-constexpr Naming kSpeltOut = {1, true};
+constexpr HeldModifiers kNothing = {};
+constexpr HeldModifiers kShift = {.shift = true};
+constexpr HeldModifiers kAltShift = {.shift = true, .alt = true};
+constexpr KeyNaming kFaces = {1, false};
+constexpr KeyNaming kSpeltOut = {1, true};
 
-std::string FaceOf(const KeyRow& row, const Held& held) {
+std::string FaceOf(const KeyRow& row, const HeldModifiers& held) {
   return held.shift && *row.shiftCaption ? row.shiftCaption : row.caption;
 }
 
-Keystrings Of(int key, const Held& held = kNothing, const Naming& naming = kFaces) {
+Keystrings Of(int key, const HeldModifiers& held = kNothing, const KeyNaming& naming = kFaces) {
   const KeyRow& row = *FindKey(key);
   return GetKeystrings(row, FaceOf(row, held), held, naming);
 }
@@ -38,7 +38,7 @@ Keystrings Made(const std::string& text, const std::string& make, const std::str
 
 /// Key, what is held, make, break and the names: on an F22 Pro spelt out and by the face, then on other
 /// sticks. Where the second half of the names is the first again, it is left out.
-std::string Line(const KeyRow& row, const Held& held) {
+std::string Line(const KeyRow& row, const HeldModifiers& held) {
   std::vector<std::string> names;
   Keystrings keys;
   for (const int joystick : {0, 1}) {
@@ -128,7 +128,7 @@ TEST(Keystrings, F2BreaksWithOneByteAndABlank) {
 
 TEST(Keystrings, PauseAndPrintScreenAreNotSupportedWhateverIsHeld) {
   for (int bits = 0; bits < 16; ++bits) {
-    const Held held = {(bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0, (bits & 8) != 0};
+    const HeldModifiers held = {(bits & 1) != 0, (bits & 2) != 0, (bits & 4) != 0, (bits & 8) != 0};
     EXPECT_EQ(Of(99, held, kSpeltOut), Made("not supported", "#E1 #14 #77 #E1 #F0 #14 #77", ""));
     EXPECT_EQ(Of(100, held, {0, true}), Made("not supported", "#E0 #12 #E0 #7C", "#E0 #F0 #7C #E0 #F0 #12"));
   }
@@ -169,7 +169,7 @@ TEST(Keystrings, AltWithShiftAloneLacksItsBlankAndItsBytes) {
 }
 
 TEST(Keystrings, ModifiersGoDownCtrlAltShiftAndComeUpInReverse) {
-  const auto names = [](const Held& held) { return GetModifier(held, ShiftInKeyText::No); };
+  const auto names = [](const HeldModifiers& held) { return GetModifier(held, ShiftInKeyText::No); };
   EXPECT_EQ(names({}), "");
   EXPECT_EQ(names({.shift = true}), "SHF ");
   EXPECT_EQ(names({.ctrl = true}), "CTL ");

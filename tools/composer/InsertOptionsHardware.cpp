@@ -8,7 +8,7 @@ namespace tarvik {
 namespace {
 
 /// The values of ComposerImages.
-enum Images { kByPreferences, kAll, kByFile };
+enum HardwareShown { kByPreferences, kAll, kByFile };
 
 constexpr int kPictures = 4;
 
@@ -54,10 +54,10 @@ void InsertOptions::MakeHardware() {
 }
 
 void InsertOptions::MakeMainPage() {
-  macros.Serve({[] {}, [this] { PopUp("mnuRHList"); },
-                [this] {
-                  if (COMPaddCR == 1) bench_.insertion.InsertCarriageReturn();
-                }});
+  macros.SetHooks({[] {}, [this] { PopUp("mnuRHList"); },
+                   [this] {
+                     if (COMPaddCR == 1) bench_.insertion.InsertCarriageReturn();
+                   }});
   CheckCopyTicks.ToolTipText = "Use only if you're changing the ticks in the Editor's macro list regularly";
   CheckCopyTicks.Click = [this] { COMPMacrosTickedCopy = CheckCopyTicks.Value; };
   CheckAddCR.ToolTipText = "Doesn't apply if you're using drag and drop";

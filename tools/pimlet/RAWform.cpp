@@ -198,7 +198,7 @@ void RAWform::ShowKeystrings() {
 Keystrings RAWform::GetKeystrings() const {
   const KeyRow* const row = FindKey(SelectedKey);
   if (!row) return {};
-  const Held held = {ToggleButton1.On(), ToggleButton2.On(), ToggleButton3.On(), ToggleButton4.On()};
+  const HeldModifiers held = {ToggleButton1.On(), ToggleButton2.On(), ToggleButton3.On(), ToggleButton4.On()};
   return tarvik::GetKeystrings(*row, Command1(row->key).Caption.Get(), held,
                                {bench_.settings.JoyName, CheckUseSHFUK.Value == 1});
 }

@@ -69,9 +69,9 @@ Outcome<> Run(Workbench& bench, Shell& shell) {
 
 /// Saves each document that is modified, and takes it for saved whatever came of that, so that nothing is
 /// asked at the end of the program. When the program goes on, what is not saved counts as modified again.
-class FilesForTheEnd {
+class FilesTakenForSaved {
  public:
-  explicit FilesForTheEnd(Workbench& bench) {
+  explicit FilesTakenForSaved(Workbench& bench) {
     for (Document* const document : {&bench.documents.joystick, &bench.documents.macro}) {
       if (document->Dirty != saved::kModified) continue;
       bench.documents.Select(*document);
@@ -197,7 +197,7 @@ void AddGame(Workbench& bench, Shell& shell) {
 
 void StartGame(Workbench& bench, Shell& shell, int index) {
   PreviousFiles& lists = bench.lists;
-  const FilesForTheEnd files(bench);
+  const FilesTakenForSaved files(bench);
   lists.Games.Take(index);
   lists.UpdateGamesMenu();
   const Outcome<> run = Run(bench, shell);

@@ -37,15 +37,15 @@ class TimersHeld {
   std::vector<Timer*> held_;
 };
 
-/// Status panel 1 says what is waited for, and afterwards what it said before.
-class Announced {
+/// While it lives the status bar says what is waited for; afterwards it says again what it said before.
+class WaitAnnouncement {
  public:
-  Announced(Panel& panel, const std::string& text) : panel_(panel), before_(panel.Text) {
+  WaitAnnouncement(Panel& panel, const std::string& text) : panel_(panel), before_(panel.Text) {
     panel_.Text = text;
   }
-  ~Announced() { panel_.Text = before_; }
-  Announced(const Announced&) = delete;
-  Announced& operator=(const Announced&) = delete;
+  ~WaitAnnouncement() { panel_.Text = before_; }
+  WaitAnnouncement(const WaitAnnouncement&) = delete;
+  WaitAnnouncement& operator=(const WaitAnnouncement&) = delete;
 
  private:
   Panel& panel_;
@@ -59,7 +59,7 @@ WaitEnd ShowWait(Workbench& bench, Shell& shell, RunningProgram& program, const 
   bench.journals.Write();  // its timer is held as well, and another program may take the machine along
   const TimersHeld held(shell);
   const std::string waiting = "Waiting for " + commandLine + " to end ...";
-  const Announced announced(bench.documents.status.Panels(1), waiting);
+  const WaitAnnouncement announcement(bench.documents.status.Panels(panel::kSaid), waiting);
   auto& window = shell.Tool<ProgramWait>();
   window.Label1.Caption = waiting;
   window.Modal = true;

@@ -176,8 +176,8 @@ void TemplateForm::UpdateLabelColours() {
 
 bool TemplateForm::MayLeave(const char* question, const char* refused) {
   if (TemplateChanged != 1) return true;
-  return MayGo(bench_.platform.dialogs, TemplateName, {question, "Ooops!", refused},
-               [this] { return Save(); });
+  return MayDiscard(bench_.platform.dialogs, TemplateName, {question, "Ooops!", refused},
+                    [this] { return Save(); });
 }
 
 bool TemplateForm::MayOpen(const char* question) {
