@@ -1,15 +1,16 @@
 #include "screen/Toolkit.h"
 
-#include <exception>
 #include <filesystem>
 #include <new>
 
 namespace tarvik::screen {
+namespace {
 
-bool Toolkit::notify(QObject* receiver, QEvent* event) {
+/// The failure that stands for the exception in hand.
+Failure WhatWasThrown() {
   Failure failure{error::kUnexpected, {}, 0};
   try {
-    return QApplication::notify(receiver, event);
+    throw;
   } catch (const std::bad_alloc&) {
     failure.number = error::kOutOfMemory;
   } catch (const std::filesystem::filesystem_error& thrown) {
@@ -17,14 +18,21 @@ bool Toolkit::notify(QObject* receiver, QEvent* event) {
   } catch (const std::exception& thrown) {
     failure.text = thrown.what();
   }
-  Tell(failure);
-  return true;
+  return failure;
 }
 
-/// What cannot even be recorded, for want of memory, is passed over: the texts go on.
-void Toolkit::Tell(const Failure& failure) const noexcept {
+}  // namespace
+
+bool Toolkit::notify(QObject* receiver, QEvent* event) {
+  bool taken = true;
+  Run([&] { taken = QApplication::notify(receiver, event); });
+  return taken;
+}
+
+/// An exception that cannot even be recorded, for want of memory, is passed over: the texts go on.
+void Toolkit::TellWhatWasThrown() const noexcept {
   try {
-    if (failed) failed(failure);
+    if (failed) failed(WhatWasThrown());
   } catch (...) {
     return;
   }

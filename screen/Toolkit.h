@@ -1,8 +1,9 @@
 // The toolkit's application, which every event passes through: the one place where what a handler throws is
-// caught.
+// caught, and what the start of the program throws.
 #pragma once
 
 #include <QApplication>
+#include <exception>
 #include <functional>
 
 #include "platform/Outcome.h"
@@ -17,10 +18,23 @@ class Toolkit : public QApplication {
   /// Hears of each exception.
   std::function<void(const Failure&)> failed;
 
+  /// Runs what no event has brought about as a handler is run. False: it has thrown.
+  template <class Work>
+  bool Run(const Work& work) const {
+    try {
+      work();
+      return true;
+    } catch (const std::exception&) {
+      TellWhatWasThrown();
+      return false;
+    }
+  }
+
   bool notify(QObject* receiver, QEvent* event) override;
 
  private:
-  void Tell(const Failure& failure) const noexcept;
+  /// For a catch clause only.
+  void TellWhatWasThrown() const noexcept;
 };
 
 }  // namespace tarvik::screen

@@ -22,6 +22,7 @@
 #include "screen/services/QtDialogs.h"
 #include "screen/services/QtPrinter.h"
 #include "screen/services/SdlJoystick.h"
+#include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
 #include "screen/widgets/Picture.h"
 #include "text/CodePage.h"
@@ -134,6 +135,19 @@ void NameProgram() {
   QApplication::setWindowIcon(screen::Icon("tarvik"));
 }
 
+/// Whether the user has something to go on with. A start that throws ends there and is recorded; what is on
+/// show by then is used all the same.
+bool IsOnShow(const Application& application) {
+  const Form* const frame = application.FindForm("Mum");
+  return frame && frame->Visible;
+}
+
+void TellWhyNothingIsOnShow(const Errors& errors) {
+  QMessageBox::critical(
+      nullptr, QStringLiteral("Tarvik"),
+      QStringLiteral("Tarvik can't start: %1").arg(screen::ToScreen(errors.ErrorText.Get())));
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
@@ -158,6 +172,11 @@ int main(int argc, char* argv[]) {
   const screen::EndSignals endSignals(keepUnsaved);
   QObject::connect(&toolkit, &QGuiApplication::commitDataRequest, &toolkit, keepUnsaved,
                    Qt::DirectConnection);
-  if (!application.Start() || application.Ended()) return 0;
+  const bool started = toolkit.Run([&application] { application.Start(); });
+  if (application.Ended()) return 0;
+  if (!started && !IsOnShow(application)) {
+    TellWhyNothingIsOnShow(application.workbench.errors);
+    return 1;
+  }
   return QApplication::exec();
 }

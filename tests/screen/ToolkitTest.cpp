@@ -34,5 +34,19 @@ TEST(Toolkit, TellsThatThereIsNoMemoryWithoutAskingForMore) {
   EXPECT_EQ(failures[0].text, "");
 }
 
+TEST(Toolkit, TellsWhatIsThrownWhereNoEventIsHandled) {
+  auto& toolkit = dynamic_cast<Toolkit&>(*qApp);
+  std::vector<Failure> failures;
+  toolkit.failed = [&failures](const Failure& failure) { failures.push_back(failure); };
+  bool whole = false;
+  EXPECT_TRUE(toolkit.Run([&whole] { whole = true; }));
+  EXPECT_TRUE(whole);
+  EXPECT_TRUE(failures.empty());
+  EXPECT_FALSE(toolkit.Run([] { throw std::logic_error("Mum.tool(7) is not there"); }));
+  ASSERT_EQ(failures.size(), 1U);
+  EXPECT_EQ(failures[0].text, "Mum.tool(7) is not there");
+  toolkit.failed = nullptr;
+}
+
 }  // namespace
 }  // namespace tarvik::screen
