@@ -25,7 +25,7 @@ class Application : public Shell {
 
   Workbench workbench;
 
-  /// From process start to the work area. False: another instance runs, and this process is to end.
+  /// Starts the program, up to its work area. False: another instance runs, and this process is to end.
   bool Start();
   [[nodiscard]] Mum& mum() const { return *mum_; }
   /// The editor, visible while it is loaded. After it was closed alone it is a fresh one that nobody sees,
@@ -40,11 +40,11 @@ class Application : public Shell {
   /// False: the user keeps it running.
   bool CloseMum();
 
-  /// For whatever shows the forms: the user is at this form now. It hears of it, and so does the tool that
-  /// was left for the editor or the frame.
+  /// Whatever shows the forms calls this when the user has come to a form. The form hears of it, and so does
+  /// the tool that was left for the editor or the frame.
   void Activated(Form& form);
 
-  // For the tools.
+  // What the tools ask of their shell.
   void Show(ToolId tool) override;
   void ShowPreferences(page::Preferences page) override;
   [[nodiscard]] MenuItem& Command(std::string_view entry) override;
@@ -58,7 +58,7 @@ class Application : public Shell {
   bool CloseProgram() override { return CloseMum(); }
   [[nodiscard]] bool Ended() const override { return ended_; }
 
-  /// Ends those tools that are loaded and end with this.
+  /// Ends the loaded tools that by the table of the tools end with this.
   void UnloadTools(EndsWith end);
 
   /// Every form that is loaded, the frame first.
@@ -68,7 +68,7 @@ class Application : public Shell {
   /// A process-wide value or a setting by its name, or null.
   [[nodiscard]] PropertyBase* FindValue(std::string_view name) const;
 
-  /// For whatever shows the forms.
+  /// These tell whatever shows the forms which of them come and go.
   Signal<Form&> Loaded;
   Signal<Form&> Unloading;
   Signal<> HasEnded;

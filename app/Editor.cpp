@@ -328,7 +328,7 @@ void Editor::mnuPreviousClearAllM_Click() {
   menus("mnuFilePrevious").Enabled = false;
 }
 
-/// The tab that was selected is not selected again.
+/// Each file is saved as the one on top. The macro file stays on top afterwards.
 void Editor::EmergencySaveFiles() {
   for (const Document* document : {&Joystick, &Macro}) {
     bench_.documents.Select(*document);

@@ -20,7 +20,7 @@ class Editor : public Form {
 
   explicit Editor(Application& application);
 
-  // Controls. What the files are edited in is the workbench's, and stands here.
+  // Controls. Those in which the files are edited are the workbench's; they have their places here.
   Pane& JoystickText;
   Pane& MacroText;
   Pane& TempRichTextBox;
@@ -246,7 +246,7 @@ class Editor : public Form {
   void FirstTimeFlow();
   void ShowPopUp(std::string_view name);
   bool FindNext(const Document& document);
-  /// The Insert menu comes without its last two lines where it pops up.
+  /// Leaves out the Insert menu's last two entries where it pops up.
   void FitInsertMenu(std::string_view popUp);
   /// In what's-this mode a click asks for help instead, and ends the mode.
   void HelpOnWhatsThis(int topic);

@@ -201,7 +201,7 @@ inline constexpr MenuRow<Editor> kPopUps[] = {
     {1, "mnuRHListEdit", "&Edit", "", &Editor::mnuRHListEdit_Click},
 };
 
-/// What a toolbar button runs: the entry of that name, by the selected tab where there are two.
+/// A toolbar button runs the entry of that name; where it has two, the selected tab tells which.
 struct ToolbarRow {
   int button;
   const char* tip;

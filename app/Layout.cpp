@@ -9,14 +9,14 @@ constexpr int kNarrowestFrame = 185;
 constexpr float kNarrowestText = 100;  // pixels of the form that the frame leaves to the files
 constexpr int kGrip = 8;               // pixels at the frame's right edge
 
-// In the tab strip, in pixels.
+// Distances in the tab strip, in pixels.
 constexpr float kPaneLeft = 3;
 constexpr float kPaneTop = 23;
 constexpr float kPaneRight = 3;
 constexpr float kPaneBottom = 22;
 constexpr float kNoticeHeight = 44;
 
-// In the frame, in twips.
+// Distances in the frame, in twips.
 constexpr float kMargin = 120;
 constexpr float kComboTop = 300;
 constexpr float kComboHeight = 360;

@@ -15,7 +15,7 @@ class Mum : public Form {
   explicit Mum(Application& application);
 
   Toolbar Toolbar1{*this, "Toolbar1", kToolbarButtons};
-  // The workbench's, which stand here.
+  // These controls are the workbench's; they have their places here.
   tarvik::StatusBar& StatusBar;
   ProgressBar& ProgressBar1;
   PictureBox& Picture1;
@@ -23,7 +23,7 @@ class Mum : public Form {
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
 
-  /// 0 normal, other values maximised, as stored.
+  /// The state that is stored: 0 is normal, all others are maximised.
   Property<int> MumWindowstate{*this, "MumWindowstate", 0};
 
   /// What the status bar says while there is no editor.

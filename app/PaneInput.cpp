@@ -123,7 +123,7 @@ void PaneInput::GotFocus(Document& document) {
 void PaneInput::Change(Document& document) {
   document.SelLength = 0;
   if (documents_.values.LoadingFile == 1) return;
-  // What no key types is a step of its own: a drop, and whatever else comes from the desktop.
+  // A change that no key has typed, such as a drop, is a step of its own.
   if (!std::exchange(typing_, false)) document.Undo.BeginCommandBehindItsChange(documents_.settings.UndoMax);
   documents_.TextChanged(document);
   document.Undo.Start = 1;

@@ -34,7 +34,7 @@ class PaneInput {
   void RememberCaret(Document& document);
   /// The caret of a pane moved, or text before it came or went.
   void CaretMoved(const Document& document) const;
-  /// For both files, as the status bar's panel tells.
+  /// Changes between inserting and overtyping in both files, and tells so in the status bar.
   void TurnOvertypeOver();
   void ShowHelp(const std::string& keyword) const;
 

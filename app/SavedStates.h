@@ -11,9 +11,9 @@ class SavedStates {
  public:
   SavedStates(Documents& documents, Mum& mum) : documents_(documents), mum_(mum) {}
 
-  /// From now on; the editor is loaded.
+  /// Begins to follow the files of the editor, which has been loaded.
   void Follow();
-  /// The frame shows no file any more.
+  /// Ends that: the frame shows no file any more.
   void Stop();
 
  private:

@@ -19,7 +19,7 @@ struct ToolRow {
   void (*show)(Workbench& bench, Shell& shell);  ///< null: only another tool shows it
 };
 
-/// In the order in which they end.
+/// The tools in the order in which they end.
 [[nodiscard]] std::span<const ToolRow> Tools();
 
 }  // namespace tarvik

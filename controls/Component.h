@@ -166,7 +166,7 @@ class Component {
   /// Takes a component that was made elsewhere among the children of this one, until another one takes it.
   void Adopt(Component& child);
 
-  /// As a person writes it: "Toolbar1", "List1(2)".
+  /// The name as a person writes it: "Toolbar1", "List1(2)".
   [[nodiscard]] std::string FullName() const;
   [[nodiscard]] Component* FindChild(std::string_view name, std::optional<int> index) const;
   [[nodiscard]] PropertyBase* FindProperty(std::string_view name) const;

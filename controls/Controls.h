@@ -11,7 +11,7 @@
 
 namespace tarvik {
 
-/// One item a line.
+/// The items as one text, each on a line of its own.
 std::string Lines(const std::vector<std::string>& items);
 
 class Control : public Component {
@@ -35,7 +35,7 @@ class Control : public Component {
   Event<const Mouse&> MouseUp{*this, "MouseUp"};
 
   void Move(float left, float top, float width, float height);
-  /// Gives it the focus of its form.
+  /// Gives the control the focus of its form.
   void SetFocus();
   /// Brings the control in front of its siblings.
   void ToFront() { Raised(); }
@@ -96,7 +96,7 @@ class CheckBox : public Control {
   CheckBox(Component& parent, std::string_view name, std::string caption);
   Property<std::string> Caption{*this, "Caption"};
   Attribute<int> Value{*this, "Value", [this] { return value_; }, [this](int value) { Set(value); }};
-  /// After every change of Value, by the user or by code.
+  /// Fires after every change of Value, by the user or by code.
   Event<> Click{*this, "Click"};
 
  private:
@@ -105,7 +105,7 @@ class CheckBox : public Control {
   int value_ = 0;
 };
 
-/// One of several: setting one takes the mark from the others of its group, or of its array.
+/// An option out of several: setting one takes the mark from the others of its group, or of its array.
 class OptionButton : public Control {
  public:
   OptionButton(Component& parent, std::string_view name, std::string caption, int group = 0);
@@ -113,7 +113,7 @@ class OptionButton : public Control {
       : Control(parent, name, index), group_(name) {}
   Property<std::string> Caption{*this, "Caption"};
   Attribute<bool> Value{*this, "Value", [this] { return value_; }, [this](bool value) { Set(value); }};
-  /// When it gets the mark, by the user or by code.
+  /// Fires when the option gets the mark, by the user or by code.
   Event<> Click{*this, "Click"};
 
  private:
@@ -128,7 +128,7 @@ class TextBox : public Control {
  public:
   using Control::Control;
 
-  /// Setting it puts the caret in front.
+  /// Setting the text puts the caret in front of it.
   Attribute<std::string> Text{*this, "Text", [this] { return text_; },
                               [this](const std::string& text) { SetText(text, 0); }};
   Property<std::size_t> SelStart{*this, "SelStart", 0};
@@ -140,7 +140,7 @@ class TextBox : public Control {
   /// The text changed, by the user or by code.
   Event<> Change{*this, "Change"};
 
-  /// What the user made of the text, with the caret where it is now.
+  /// Takes over what the user has made of the text, and where the caret is now.
   void SetText(const std::string& text, std::size_t caret);
   void SelectAll();
   [[nodiscard]] bool Empty() const { return text_.empty(); }
@@ -160,7 +160,7 @@ class EntryBox : public TextBox {
   [[nodiscard]] const std::vector<std::string>& List() const { return items_; }
   /// Adds the text unless an item equals it exactly.
   void Remember(const std::string& text);
-  /// What picking an item does.
+  /// Does what the user's picking of an item does.
   void Pick(int index);
 
   Attribute<std::string> Items{*this, "Items", [this] { return Lines(items_); }};
@@ -183,12 +183,12 @@ class TabPages : public Control {
 
   TabPages(Component& parent, std::string_view name, const std::vector<std::string>& captions);
 
-  /// 0-based.
+  /// The pages, counted from 0.
   [[nodiscard]] Page& Pages(int index) const { return Require(pages_, index, *this, "Pages"); }
   [[nodiscard]] int Count() const { return static_cast<int>(pages_.size()); }
   /// The page on show, 0-based.
   Attribute<int> Tab{*this, "Tab", [this] { return tab_; }, [this](int tab) { Set(tab); }};
-  /// After every change of Tab, by the user or by code.
+  /// Fires after every change of Tab, by the user or by code.
   Event<> Click{*this, "Click"};
 
  private:
@@ -265,7 +265,7 @@ class ListBox : public Control {
   void Fill(std::vector<std::string> items);
   void FillInOrder(std::vector<std::string> items);
   void Clear() { Fill({}); }
-  /// One tick for each item, in the order of the list.
+  /// The ticks of the items, in the order of the list.
   void Tick(std::vector<bool> ticks);
   /// A colour beside each item, in the order of the list.
   void Paint(std::vector<Colour> colours);
@@ -333,7 +333,7 @@ class TabStrip : public Control {
  public:
   TabStrip(Component& parent, std::string_view name, int count);
 
-  /// 1-based.
+  /// The tabs, counted from 1.
   [[nodiscard]] Tab& Tabs(int index) const { return Require(tabs_, index, *this, "Tabs", 1); }
   [[nodiscard]] int Count() const { return static_cast<int>(tabs_.size()); }
   [[nodiscard]] int SelectedIndex() const { return SelectedItem; }
@@ -363,7 +363,7 @@ class Toolbar : public Control {
  public:
   Toolbar(Component& parent, std::string_view name, int count);
 
-  /// 1-based.
+  /// The buttons, counted from 1.
   [[nodiscard]] ToolbarButton& Buttons(int index) const {
     return Require(buttons_, index, *this, "Buttons", 1);
   }
@@ -389,7 +389,7 @@ class StatusBar : public Control {
  public:
   StatusBar(Component& parent, std::string_view name, int count);
 
-  /// 1-based.
+  /// The panels, counted from 1.
   [[nodiscard]] Panel& Panels(int index) const { return Require(panels_, index, *this, "Panels", 1); }
   [[nodiscard]] int Count() const { return static_cast<int>(panels_.size()); }
 

@@ -28,7 +28,7 @@ class Form : public Component {
   /// Showing it, also once more, brings it back from being minimised.
   Attribute<bool> Visible{*this, "Visible", [this] { return visible_; },
                           [this](bool visible) { SetVisible(visible); }};
-  /// On the screen.
+  /// Where the window stands on the screen.
   Property<Twips> Left{*this, "Left"};
   Property<Twips> Top{*this, "Top"};
   Property<Twips> Width{*this, "Width"};
@@ -39,7 +39,7 @@ class Form : public Component {
   Property<int> WindowState{*this, "WindowState", window::kNormal};
   /// While it is true the window stays above all others.
   Property<bool> Topmost{*this, "Topmost", false};
-  /// While it is shown no other window takes input.
+  /// While it is true, and the form is shown, no other window takes input.
   Property<bool> Modal{*this, "Modal", false};
   /// Every key is the form's own: none is a shortcut, a mnemonic or the way to another control.
   Property<bool> OwnsKeys{*this, "OwnsKeys", false};
@@ -66,11 +66,12 @@ class Form : public Component {
 
   /// The menus of the form's window, or null. Those whose entry is hidden only pop up.
   [[nodiscard]] virtual const Menus* MenuBar() const { return nullptr; }
-  /// For whatever shows a pop-up menu at the pointer or the caret; it tells when the menu has closed.
+  /// Asks whatever shows the form for a pop-up menu at the pointer or the caret; PopUpClosed is its answer
+  /// when the menu has closed.
   Signal<std::string_view> PopUp;
   virtual void PopUpClosed(std::string_view /*name*/) {}
 
-  /// Puts its window there.
+  /// Puts the form's window there.
   void MoveTo(Twips left, Twips top) {
     Left = left;
     Top = top;
@@ -78,12 +79,12 @@ class Form : public Component {
   }
   Signal<> Moved;
 
-  /// Shows it, whole and in front of the others.
+  /// Shows the form, whole and in front of the others.
   void Show() {
     Visible = true;
     Raise();
   }
-  /// Brings it in front of the others.
+  /// Brings the form in front of the others.
   void Raise() {
     BringBack();
     Raised();
@@ -95,7 +96,7 @@ class Form : public Component {
   /// Moves the focus: the old control hears of the loss before the new one of the gain. The form comes back
   /// from being minimised.
   void Focus(Control& control);
-  /// Also when a control is to get the focus that it has: on screen it may be elsewhere.
+  /// Tells also that the control with the focus is to get it once more: on screen the focus may be elsewhere.
   Signal<> ActiveControlChanged;
 
  private:

@@ -20,7 +20,7 @@ inline constexpr int kMiddle = 4;
 }  // namespace button
 
 struct Mouse {
-  int button = 0;  ///< 1 left, 2 right, 4 middle; while moving, the buttons that are down
+  int button = 0;
   int shift = 0;
   Twips x = {};  ///< from the control's left edge
   Twips y = {};

@@ -13,7 +13,8 @@ constexpr OlderKey kOlderKeys[] = {{{key::kDelete, shift::kShift}, 'X'},
                                    {{key::kInsert, shift::kCtrl}, 'C'},
                                    {{key::kInsert, shift::kShift}, 'V'}};
 
-/// The letter that the key is with Ctrl, or means; 0 where it is neither.
+/// The letter of a key that is pressed with Ctrl alone, or the one that an older key stands for; 0 for all
+/// other keys.
 int CtrlLetter(const Key& key) {
   for (const OlderKey& older : kOlderKeys) {
     if (older.key.code == key.code && older.key.shift == key.shift) return older.letter;

@@ -57,7 +57,7 @@ class Menus {
   /// counted from 1, and shows them. The captions are users' texts.
   void Fill(std::string_view array, const std::vector<std::string>& captions);
 
-  /// In the order of the table.
+  /// The entries in the order of the table.
   [[nodiscard]] std::span<const MenuEntry> Entries() const { return entries_; }
   [[nodiscard]] MenuItem& operator()(std::string_view name, std::optional<int> index = {}) const {
     for (const MenuEntry& entry : entries_) {
@@ -77,7 +77,7 @@ class Menus {
   /// and paste, which mean the same; the entry runs when it is enabled.
   bool RunCtrlLetter(const Key& key) const;
 
-  /// For whatever shows the menus: the entry that the new one stands behind, and the new one.
+  /// Tells whatever shows the menus behind which entry a new one stands.
   Signal<MenuItem&, MenuItem&> Loaded;
   Signal<MenuItem&> Unloading;
 

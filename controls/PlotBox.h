@@ -30,7 +30,7 @@ class PlotBox : public PictureBox {
   Property<Colour> ForeColor{*this, "ForeColor", kBlack};
   Property<int> DrawStyle{*this, "DrawStyle", drawstyle::kSolid};
   Property<int> DrawWidth{*this, "DrawWidth", 1};
-  /// What the upper left corner stands for in both directions, and what the lower right one does.
+  /// The value at the upper left corner in both directions, and the one at the lower right corner.
   Property<float> ScaleLow{*this, "ScaleLow", 0};
   Property<float> ScaleHigh{*this, "ScaleHigh", 1};
 

@@ -9,7 +9,8 @@
 
 namespace tarvik {
 
-/// The endings of the two files of a joystick, without the point.
+/// The endings of the two files of a joystick, without the point, and what the file dialogs call their
+/// family.
 struct Endings {
   std::string_view joystick;
   std::string_view macro;

@@ -25,7 +25,7 @@ inline constexpr KeyNameRow kKeyNames[] = {
     {127, "F16"},
 };
 
-/// Empty for a key without one.
+/// The name of a key; empty for a key that has none.
 [[nodiscard]] constexpr const char* KeyName(int code) {
   for (const KeyNameRow& row : kKeyNames) {
     if (row.code == code) return row.name;
@@ -39,7 +39,7 @@ struct ModifierWords {
   const char* alone;
 };
 
-/// By the mask: 1 Shift, 2 Ctrl, 4 Alt.
+/// The words of a mask, in which Shift is 1, Ctrl 2 and Alt 4.
 inline constexpr ModifierWords kModifierWords[8] = {
     {"", ""},
     {"Shift + ", "SHF"},

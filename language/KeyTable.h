@@ -14,7 +14,7 @@ enum class Mark {
   Unshifts,  ///< cancels the keyboard's own shift state too, with an ordinary name
 };
 
-/// In twips from the keyboard's upper left corner.
+/// Where a key stands, in twips from the keyboard's upper left corner.
 struct Place {
   int left;
   int top;
@@ -144,7 +144,7 @@ inline constexpr auto kKeys = std::to_array<KeyRow>({
 });
 // clang-format on
 
-/// Null for a number that no key has.
+/// The key of a number; null where no key has it.
 constexpr const KeyRow* FindKey(int key) {
   for (const KeyRow& row : kKeys) {
     if (row.key == key) return &row;

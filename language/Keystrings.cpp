@@ -7,7 +7,7 @@ namespace {
 
 constexpr int kSeven = 7;
 
-// By Shift 1, Ctrl 2 and Alt 4 added up. Alt with Shift has no blank behind it.
+// The words for what is held, by the sum of Shift 1, Ctrl 2 and Alt 4. Alt with Shift has no blank behind it.
 constexpr std::string_view kAltShift = "ALT SHF";
 constexpr std::string_view kModifiers[] = {"",     "SHF ",    "CTL ",     "CTL SHF ",
                                            "ALT ", kAltShift, "CTL ALT ", "CTL ALT SHF "};

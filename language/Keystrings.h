@@ -17,11 +17,11 @@ struct HeldModifiers {
 /// What the user has chosen about names.
 struct KeyNaming {
   int JoyName = 0;
-  /// Shift is spelt out, "SHF 1"; else the face on show tells it, "!".
+  /// Whether Shift is spelt out, as in "SHF 1"; else the face on show tells of it, as "!" does.
   bool UseSHF = false;
 };
 
-/// In the order of the boxes that show them.
+/// What a key is called and sends, in the order of the boxes that show it.
 struct Keystrings {
   std::string KeyText;
   std::string MakeCode;

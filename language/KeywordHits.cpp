@@ -10,7 +10,7 @@ namespace {
 
 using PassSet = std::uint64_t;  // a bit for each pass of a table
 
-/// For one character, the passes whose keywords may have it as their first, second and third one.
+/// The passes whose keywords may have a character as their first, second and third one.
 constexpr std::size_t kPlaces = 3;
 using Wanted = std::array<PassSet, kPlaces>;
 

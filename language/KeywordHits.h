@@ -11,7 +11,7 @@ namespace tarvik {
 
 class KeywordHits {
  public:
-  /// For at most 64 passes, and a text below 4 GB.
+  /// Takes at most 64 passes, and a text below 4 GB.
   KeywordHits(std::string_view text, std::span<const Pass> passes);
 
   /// The positions of all hits of a pass's text under its options, in order; of a FollowedWord, those before

@@ -1,5 +1,5 @@
 // What the Composer's logic tab writes: tokens for a line that is put together in a box, and the lines as
-// statements. Values in, values out, as in Statements.h.
+// statements. It knows values and no form, as Statements.h does.
 #pragma once
 
 #include "language/Statements.h"

@@ -1,4 +1,4 @@
-// Reads a macro file as the program understands it: records, headings and macro names. No controls, no pane.
+// Reads a macro file as the program understands it: records, headings and macro names. It knows no form.
 #pragma once
 
 #include <string>

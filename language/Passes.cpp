@@ -15,7 +15,8 @@ constexpr int kCase = find::kMatchCase;
 constexpr int kWordAndCase = find::kWholeWord | find::kMatchCase;
 constexpr char kNone = '\0';
 
-/// Where the macro file's pass differs from the joystick file's; what is not said is the same.
+/// How a pass over the macro file differs from the one over the joystick file. What a row leaves out is the
+/// same in both.
 struct MacroDeviation {
   enum class Presence { Made, Missing } presence = Presence::Made;
   std::optional<int> options = std::nullopt;

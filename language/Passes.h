@@ -30,7 +30,7 @@ struct Pass {
   int options;  ///< of the search, see find::
   char follow;  ///< the follow character of FollowedWord
   ColourClass colour;
-  const char* status;  ///< what status panel 1 says from this pass on; null for no change
+  const char* status;  ///< what the status bar says from this pass on; null for no change
   int progress;        ///< of 15, for a pass of the commands' group; 0 where the bar follows the hits
 };
 

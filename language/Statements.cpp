@@ -80,7 +80,7 @@ Statement PortStatement(std::string_view caption, StatementStyle style) {
   return statement;
 }
 
-// In colour it joins what a selection leaves before the caret; in black it takes a blank there.
+// In colour no blank goes before it, also behind other text; in black it takes one there.
 Statement SwapTriggersStatement(StatementStyle style) {
   Statement statement = Styled({{"SWAPTG ", ColourClass::Miscellaneous, BlankBefore::Never}}, style);
   statement.ownLine = statement.endsLine = true;

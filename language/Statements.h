@@ -1,6 +1,6 @@
 // The statements that the Composer writes, as the pieces of text that its form hands to the coloured
-// insertion. Values in, values out: no form and no pane. Nothing is validated, what the controls say is what
-// is written.
+// insertion. They are made of values alone, without a form or a pane. Nothing is validated: what the controls
+// say is written.
 #pragma once
 
 #include <map>
@@ -56,8 +56,8 @@ struct HatTokens {
 /// not bear a T-number.
 [[nodiscard]] bool IsRocker(int button, std::string_view caption);
 
-/// A hat's position or a trigger, and BTN before it unless the PORT latch is armed: then nothing is looked
-/// for.
+/// A hat's position or a trigger with BTN before it. While the PORT latch is armed there is no BTN, and the
+/// statement is not looked for.
 [[nodiscard]] Statement ControlStatement(std::string_view token, bool portArmed, StatementStyle style);
 /// A button of BTN. A rocker is looked for also while the PORT latch is armed, and leaves it armed.
 [[nodiscard]] Statement ButtonStatement(int button, std::string_view caption, bool portArmed,

@@ -12,7 +12,7 @@ SyntaxColouring::SyntaxColouring(std::string_view text, std::span<const Pass> pa
       passes_(passes),
       hits_(text, passes),
       classes_(text.size() + sizeof(std::uint64_t), ColourClass::Black) {
-  // Behind the text stands what no character is, so that the last run ends like any other.
+  // A class that no character has stands behind the text, so that the last run ends like any other.
   constexpr auto kBehind = static_cast<ColourClass>(kColourClasses);
   std::fill(classes_.begin() + static_cast<std::ptrdiff_t>(text.size()), classes_.end(), kBehind);
 }
@@ -68,7 +68,7 @@ std::size_t SyntaxColouring::HandleWordAndOperand(const Pass& pass, std::size_t 
 std::size_t SyntaxColouring::HandleModifier(const Pass& pass, std::size_t hit) {
   const std::size_t behind = hit + 1;
   const bool stops = behind < text_.size() && (text_[behind] == ' ' || text_[behind] == '\r');
-  // Nothing stands before the text's first character to speak against it, whatever follows.
+  // At the start of the text a slash counts as a modifier whatever follows it.
   const bool modifies = hit == 0 || (text_[hit - 1] == ' ' && !stops);
   const std::size_t end = modifies ? std::min(behind + 1, text_.size()) : behind;
   if (modifies) Paint(hit, end, pass.colour);

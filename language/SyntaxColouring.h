@@ -9,7 +9,7 @@
 
 namespace tarvik {
 
-/// Who shows how far the work is. Any of the three may be empty.
+/// What hears how far the work is. Any of the three functions may be empty.
 struct ColouringProgress {
   std::function<void(const Pass&)> before;
   std::function<void(std::size_t)> hit;  ///< its position

@@ -82,7 +82,7 @@ class Pane : public Control {
                       const std::function<void(std::size_t)>& hitAt);
   /// Extends the selection forward from its start, up to the first character of `set` or the end of the text.
   void Span(std::string_view set);
-  /// 0-based, of the text's own lines, wrapped or not.
+  /// The line of a character, 0-based; lines are the text's own, wrapped or not.
   [[nodiscard]] std::size_t GetLineFromChar(std::size_t position) const;
 
   Attribute<std::string> Text{

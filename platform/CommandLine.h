@@ -22,8 +22,8 @@ struct ParsedCommand {
 
 enum class ProgramKind { None, Native, Windows, Dos };
 
-/// By its first bytes. A .com program and a batch file have no signature: they are taken for what their name
-/// says when they are nothing else.
+/// Tells it by its first bytes. A .com program and a batch file have no signature: they are taken for what
+/// their name says when they are nothing else.
 [[nodiscard]] ProgramKind KindOf(const std::filesystem::path& file);
 
 }  // namespace tarvik

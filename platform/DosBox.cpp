@@ -50,7 +50,7 @@ bool IsDosName(std::string_view name) {
   return !stem.empty() && fits(stem, 8) && fits(ending, 3);
 }
 
-/// For a whole path in lower case.
+/// Whether DOS can take the path, which is a whole one in lower case.
 bool IsDosPath(std::string_view path, std::size_t longest) {
   if (path.size() > longest) return false;
   path.remove_prefix(std::min<std::size_t>(3, path.size()));
@@ -151,7 +151,7 @@ Outcome<> WriteFile(const fs::path& path, const std::string& content) {
   return Done{};
 }
 
-/// Where nothing else is said DOSBox would take a text terminal for its screen when it has no other.
+/// Keeps DOSBox from taking a text terminal for its screen when it has no other.
 std::vector<std::string> Environment() { return {"SDL_VIDEODRIVER=x11"}; }
 
 class DosBoxProgram : public RunningProgram {

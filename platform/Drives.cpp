@@ -25,7 +25,7 @@ bool IsFolder(const fs::path& path) {
   return fs::is_directory(path, ignored);
 }
 
-/// True for a link without a target too.
+/// Whether something has that path, a link without a target included.
 bool IsTaken(const fs::path& path) {
   std::error_code ignored;
   return fs::exists(fs::symlink_status(path, ignored));
@@ -37,7 +37,7 @@ fs::path Absolute(const fs::path& path) {
   return whole.has_filename() ? whole : whole.parent_path();
 }
 
-/// With the links on the way to it resolved. A link at the end stays one.
+/// The path with the links on the way to it resolved. A link at its end stays one.
 fs::path WithoutLinks(const fs::path& path) {
   std::error_code error;
   const fs::path folder = fs::weakly_canonical(path.parent_path(), error);
@@ -135,7 +135,7 @@ std::optional<fs::path> Drives::Find(const LogicalPath& path) const {
   for (const std::string& name : path.names) {
     walked.names.push_back(name);
     auto match = Match(host, name);
-    // Where several have that name, the one on the way to a picked file is meant.
+    // Of several folders with that name, the one on the way to a picked file is meant.
     if (!match) match = LookUp(holders_, walked);
     if (!match) return std::nullopt;
     host = *match;

@@ -42,7 +42,7 @@ class Drives {
   Outcome<> ChangeDrive(std::string_view path);
   /// Makes `path` the current folder of its drive; the current drive stays. Fails for what is no folder.
   Outcome<> ChangeFolder(std::string_view path);
-  /// Of the current drive, as "c:\tm"; "c:\" for the root.
+  /// The current folder of the current drive, as "c:\tm"; "c:\" for the root.
   [[nodiscard]] std::string CurrentFolder() const { return FullPath("."); }
   /// The path from the root of its drive, in lower case; it may be relative. Empty for the empty path.
   [[nodiscard]] std::string FullPath(std::string_view path) const;

@@ -18,7 +18,7 @@ class FileName {
     if (text.empty() || leads) return {};
     return FileName(text);
   }
-  /// Of what stands behind the last separator of a path.
+  /// The name that stands behind the last separator of a path.
   static std::optional<FileName> Of(std::string_view path) { return From(path.substr(path.rfind('\\') + 1)); }
 
   [[nodiscard]] const std::string& Text() const { return text_; }

@@ -24,7 +24,7 @@ class HostDrives : public DriveFolders {
   void MakeOwnDrive() const;
   std::string FromHost(const std::string& path) override { return drives_.FromHost(path); }
 
-  /// For those that look files up.
+  /// The drives as those have them that look files up.
   [[nodiscard]] Drives& Paths() { return drives_; }
 
  private:

@@ -14,7 +14,7 @@ InstanceLock::~InstanceLock() {
 
 bool InstanceLock::Acquire() {
   if (descriptor_ >= 0) return true;
-  // Closed in started programs: they would go on holding the lock when this one has ended.
+  // The file is closed in started programs, which would hold the lock when this one has ended.
   const int descriptor = open(file_.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0666);
   if (descriptor < 0) return true;
   if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {

@@ -11,7 +11,7 @@ inline constexpr int kNoDevice = 165;
 inline constexpr int kUnplugged = 167;
 }  // namespace joystick
 
-/// Of the axes beside X and Y, those that the stick has.
+/// Which axes the stick has beside X and Y.
 struct JoyCaps {
   bool hasZ = false;  ///< throttle
   bool hasR = false;  ///< rudder

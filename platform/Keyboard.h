@@ -14,7 +14,7 @@ class Keyboard {
   virtual ~Keyboard() = default;
   /// 1 while the lock of the key is on and 0 while it is off; nothing where the window system does not tell.
   [[nodiscard]] virtual std::optional<int> GetKeyState(int code) = 0;
-  /// Where the window system lets it.
+  /// Turns the lock of the key off, where the window system allows it.
   virtual void TurnOff(int code) = 0;
 };
 

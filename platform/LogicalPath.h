@@ -16,7 +16,7 @@ struct LogicalPath {
   std::vector<std::string> names{};
   bool mustBeFolder = false;  ///< it ended in a separator
 
-  /// In lower case: "c:\" for the root, "c:\tm\f22" for a folder.
+  /// The text of the path in lower case: "c:\" for the root, "c:\tm\f22" for a folder.
   [[nodiscard]] std::string Text() const;
 };
 

@@ -46,7 +46,7 @@ class [[nodiscard]] Outcome {
   const T& operator*() const& { return *value_; }
   T* operator->() { return &*value_; }
   const T* operator->() const { return &*value_; }
-  /// One with the number 0 where it worked.
+  /// The failure; its number is 0 where the operation worked.
   [[nodiscard]] const Failure& failure() const { return failure_; }
   /// The value alone, or nothing.
   [[nodiscard]] std::optional<T> Take() && { return std::move(value_); }

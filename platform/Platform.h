@@ -79,7 +79,7 @@ class Clipboard {
   /// Replaces what is there; an empty part is left out, and with both empty nothing is there.
   virtual void Put(const std::string& text, const std::string& rtf) = 0;
   [[nodiscard]] virtual bool HasText() = 0;
-  /// Empty when there is none. A character that the code page lacks is a "?".
+  /// The text, empty when there is none. A character that the code page lacks is a "?".
   [[nodiscard]] virtual std::string Text() = 0;
   [[nodiscard]] virtual std::string Rtf() = 0;
   /// Called when another program changed what is there.
@@ -120,11 +120,11 @@ class Calendar {
   virtual ~Calendar() = default;
   [[nodiscard]] virtual std::string ShortDate() const = 0;
   [[nodiscard]] virtual std::string LongDate() const = 0;
-  /// As 07:45:12.
+  /// The time, as 07:45:12.
   [[nodiscard]] virtual std::string TimeOfDay() const = 0;
 };
 
-/// In pixels.
+/// The size of the screen in pixels.
 struct ScreenSize {
   int width = 0;
   int height = 0;
@@ -141,7 +141,7 @@ struct Drive {
 class DriveFolders {
  public:
   virtual ~DriveFolders() = default;
-  /// Those that have a folder, by their letters. Drive c is among them, and z, the host's root.
+  /// The drives that have a folder, by their letters. Drive c is among them, and z, the host's root.
   [[nodiscard]] virtual std::vector<Drive> All() const = 0;
   /// Fails for a folder that is not there, and for z.
   virtual Outcome<> Set(char letter, const std::string& folder) = 0;

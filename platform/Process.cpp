@@ -43,7 +43,7 @@ class Image {
     envp_.push_back(nullptr);
   }
 
-  /// In the child. Comes back only when it failed, with the reason in errno.
+  /// Runs in the child, and comes back only when it has failed, with the reason in errno.
   void Run() const {
     if (!folder_.empty() && ::chdir(folder_.c_str()) != 0) return;
     const int nothing = ::open("/dev/null", O_RDWR);
@@ -77,7 +77,7 @@ class FailurePipe {
     [[maybe_unused]] const auto written = ::write(ends_[1], &code, sizeof code);
     ::_exit(kNotFoundInShell);
   }
-  /// In the parent.
+  /// Runs in the parent, and gives what became of the child.
   Outcome<> Hear() {
     ::close(ends_[1]);
     ends_[1] = -1;
@@ -153,7 +153,7 @@ ProgramState ChildProcess::State() {
   return ended_;
 }
 
-/// Asks first, and does not ask again.
+/// The child is asked to end first, and ended when it does not.
 void ChildProcess::Stop() {
   using namespace std::chrono_literals;
   constexpr int kLooks = 50;

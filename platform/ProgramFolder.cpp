@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// In the user's folder: what was copied there, a line for each file with its time, size and name.
+/// The list of what was copied to the user's folder: a line for each file with its time, size and name.
 constexpr const char* kRecord = "installed.txt";
 
 bool HasData(const fs::path& folder) {
@@ -39,7 +39,7 @@ struct Stamp {
   bool operator==(const Stamp&) const = default;
 };
 
-/// That of no file where there is none.
+/// The stamp of a file; an empty one where there is no such file.
 Stamp StampOf(const fs::path& file) {
   std::error_code ignored;
   if (!fs::is_regular_file(file, ignored)) return {};
@@ -47,7 +47,7 @@ Stamp StampOf(const fs::path& file) {
   return {std::chrono::floor<std::chrono::seconds>(time).count(), fs::file_size(file, ignored)};
 }
 
-/// Whole or not at all, and with the time of the original.
+/// Copies the file whole or not at all, and with the time of the original.
 bool Copy(const fs::path& from, const fs::path& to) {
   const fs::path partial = to.string() + "." + std::to_string(getpid());
   std::error_code failure;
@@ -104,7 +104,7 @@ void FillFolder(const fs::path& own, const fs::path& installed, const fs::path& 
   if (record != before) WriteRecord(record, own / kRecord);
 }
 
-/// Empty where there can be none.
+/// The path of a new temporary folder; empty where there can be none.
 fs::path NewTemporaryFolder() {
   std::error_code failure;
   std::string name = (fs::temp_directory_path(failure) / "tarvik-XXXXXX").string();

@@ -19,9 +19,9 @@ class ProgramFolder {
   /// `$XDG_DATA_HOME/tarvik`, or `.local/share/tarvik` in the user's home; empty for a user without a home.
   [[nodiscard]] static std::filesystem::path UsersOwn();
 
-  /// Where the user's folder cannot be written it is a new temporary one.
+  /// The folder; a new temporary one where the user's own cannot be written.
   [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-  /// False for a temporary folder: the next start will not know of it.
+  /// Whether the folder lasts: the next start will not know of a temporary one.
   [[nodiscard]] bool Lasts() const { return lasts_; }
 
  private:

@@ -65,14 +65,14 @@ class Document : public Component {
 
   Property<FileName> Name{*this, traits.name};
   Property<std::string> Path{*this, traits.path};
-  /// -1 no text and unsaved, 0 saved, 1 modified.
+  /// One of the saved states.
   Property<int> Dirty{*this, traits.dirty, saved::kNoText};
   /// Where the user last was; insertions go on from here.
   Property<std::size_t> Caret{*this, traits.caret};
   Property<std::size_t> SelLength{*this, traits.selLength};
   UndoHistory Undo{*this, traits.undoIndex, traits.undoStart, text};
 
-  /// Empty, and without anything of the file that it was.
+  /// Empties the document, and forgets everything of the file that it was.
   void Reset() {
     text.SetContent({});
     text.Locked = false;

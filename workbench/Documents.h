@@ -24,14 +24,14 @@ class Documents : public Component {
   SharedValues& values;
   Errors& errors;
 
-  // Of the frame.
+  // Controls that have their places in the frame.
   StatusBar status{*this, "StatusBar", kStatusPanels};
   ProgressBar progress{*this, "ProgressBar1"};
   PictureBox swatch{*this, "Picture1"};
-  /// Something takes its time.
+  /// While it is true the program works on something that takes its time.
   Property<bool> Busy{*this, "Busy", false};
 
-  // Of the editor.
+  // Controls that have their places in the editor.
   TabStrip tabs{*this, "TabStrip1", 2};
   Pane joystickText{*this, "JoystickText", platform.files};
   Pane macroText{*this, "MacroText", platform.files};
@@ -48,16 +48,16 @@ class Documents : public Component {
   void Select(const Document& document) { tabs.Select(document.traits.tab); }
   /// Gives the focus to the file on top.
   void FocusActiveText() { Active().text.SetFocus(); }
-  /// Status panel 1.
+  /// Tells the user something in the status bar.
   void Say(const std::string& text) const;
-  /// Status panel 1, when the user would edit a protected file.
+  /// Tells the user, who would edit a protected file, that it is one.
   void SayIsProtected(const Document& document) const;
-  /// Status panel 3: the line of the document's caret memory.
+  /// Shows in the status bar which line the document's caret memory is in.
   void ShowLineNumber(const Document& document);
-  /// The same of the caret in the document of the selected tab. Its pane announces each move, so that no
-  /// command has to think of it; only a change of the tab asks for it by hand.
+  /// Shows the line of the caret in the document of the selected tab. Its pane announces each move, so that
+  /// no command has to think of it; only a change of the tab asks for it by hand.
   void ShowCaretLine();
-  /// Status panel 2: the saved state of the document of the selected tab.
+  /// Shows in the status bar whether the document of the selected tab is saved.
   void UpdateSavedIcon() const;
   /// Gives the pane the user's font, indent and the document's background.
   void ApplyLook(const Document& document) const;
@@ -66,7 +66,7 @@ class Documents : public Component {
   void Reformat();
   /// Marks the document as modified and records the change for undo.
   void TextChanged(Document& document);
-  /// Both documents empty and without anything of the files that they were.
+  /// Empties both documents, and forgets everything of the files that they were.
   void Reset();
 
   /// What undo and redo can do in the document on top has changed.
@@ -77,12 +77,12 @@ class Documents : public Component {
  private:
   void ShowLine(const Document& document, std::size_t position);
 
-  std::optional<std::size_t> shownLine_;  // in status panel 3
+  std::optional<std::size_t> shownLine_;  // in the status bar
 };
 
 /// Gives a pane the user's font, and the indent of all panes.
 void ApplyFont(Pane& pane, const Settings& settings);
-/// The same without the indent.
+/// Does the same without the indent.
 void ApplyFontOnly(Pane& pane, const Settings& settings);
 
 /// Keeps the change handlers from counting what program code does to a pane as an edit.

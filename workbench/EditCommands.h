@@ -29,7 +29,8 @@ class EditCommands {
 
   void Copy();
   void Cut();
-  /// With its colours when it comes from a program that gives them; one step of undo.
+  /// Pastes the clipboard's text, with its colours when it comes from a program that gives them, as one step
+  /// of undo.
   void Paste();
   void Delete();
   void SelectAll();
@@ -37,7 +38,7 @@ class EditCommands {
   /// new line end at the line's end.
   void CheckAtLineBeginning();
 
-  /// What lies on the clipboard is the program's own now.
+  /// Fires when the program has put something of its own on the clipboard.
   Signal<> Copied;
 
  private:

@@ -52,7 +52,7 @@ class Trap {
   std::string tag_;
 };
 
-/// For light procedures: goes on past a failure with no record.
+/// Passes the outcome of a light procedure on, and leaves its failure unrecorded.
 template <class T>
 std::optional<T> Ignore(Outcome<T> outcome) {
   return std::move(outcome).Take();

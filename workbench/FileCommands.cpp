@@ -17,7 +17,7 @@ constexpr const char* kMacroRefused =
     " wasn't saved, so I won't continue to load up a new macro file just in case you pressed the cancel "
     "button by accident.";
 
-/// Where the life of the two files differs in words.
+/// The words in which the commands differ for the two files.
 struct FileWords {
   const char* newQuestion;
   const char* loadQuestion;
@@ -128,7 +128,7 @@ void FileCommands::NameUntitled(Document& document) {
   const std::string extension = (documents_.settings.*document.traits.extension).Get();
   // The settings file may hold anything, also an extension that is none.
   document.Name = FileName::From("untitled." + extension).value_or(*FileName::From("untitled."));
-  // No separator between the two: an untitled file is never saved there by hand.
+  // No separator stands between the two: nobody saves an untitled file to this path by hand.
   document.Path = documents_.settings.ProgramFilesPath.Get() + document.Name.Get().Text();
   ShowName(document);
 }
@@ -454,7 +454,7 @@ void FileCommands::SaveAs(Document& document) {
   document.Path = chosen->path;
   document.Name = chosen->name;
   SaveText(document);
-  // Only now, so that the backup has gone under the caption before.
+  // The caption changes only now: the backup has gone under the one before.
   ShowName(document);
 }
 

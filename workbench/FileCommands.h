@@ -20,26 +20,26 @@ class FileCommands {
         lists_(lists),
         previous_(previous) {}
 
-  /// Name, path and tab of a file that has none yet.
+  /// Gives a file that has no name yet one, with its path and the caption of its tab.
   void NameUntitled(Document& document);
   /// Asks about unsaved work first. False: the user keeps the document.
   bool New(Document& document);
   void Load(Document& document);
-  /// A joystick file together with its macro file, from either of the two.
+  /// Opens a joystick file together with its macro file, from either of the two.
   void OpenPair();
-  /// The same without a dialog, from the first of these files that belongs to a pair, else from the first
-  /// one.
+  /// Does the same without a dialog, from the first of these files that belongs to a pair, else from the
+  /// first one.
   void OpenPairAmong(const std::vector<std::string>& paths);
   void Save(Document& document);
   void SaveAs(Document& document);
   void SaveBoth();
-  /// At the end of the program, the macro file first. False: the program goes on.
+  /// Asks about both files at the end of the program, the macro file first. False: the program goes on.
   bool MayExit();
   /// Reads the macro file and fills the macro lists.
   void AnalyseMacroFile();
-  /// The same by the user's wish, from a file with macros that is saved.
+  /// Does the same by the user's wish, from a file with macros that is saved.
   void UpdateMacros();
-  /// Both files new and untitled, and nothing analysed: what the editor begins with.
+  /// Makes both files new and untitled, with nothing analysed: the editor begins so.
   void BeginUntitled();
   /// Forgets what was opened last.
   void Reset();

@@ -22,7 +22,7 @@ struct NamedFile {
 /// The last three characters, whatever they are: how the program tells files apart.
 [[nodiscard]] std::string_view Ending(std::string_view name);
 [[nodiscard]] std::string WithEnding(std::string name, std::string_view ending);
-/// By the endings of all controllers.
+/// Whether the name has the ending that this file has with any of the controllers.
 [[nodiscard]] bool IsJoystickFile(std::string_view name);
 [[nodiscard]] bool IsMacroFile(std::string_view name);
 

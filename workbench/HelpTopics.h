@@ -23,7 +23,7 @@ inline constexpr int kImageViewer = 7040;
 inline constexpr int kRawCodes = 8170;
 inline constexpr int kSpiking = 9410;
 
-/// All of the above.
+/// All topics above.
 [[nodiscard]] std::vector<int> All();
 }  // namespace topic
 

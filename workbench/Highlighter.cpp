@@ -57,7 +57,6 @@ void MakePasses(Pane& pane, std::span<const Pass> passes, Documents& documents, 
   const int textLength = Clamped(pane.Characters().size());
   ProgressBar& bar = documents.progress;
   bar.Visible = true;
-  // The bar follows the hits, or counts the passes over commands.
   bool followsHits = true;
   const ColouringProgress progress = {
       [&](const Pass& pass) {

@@ -17,9 +17,9 @@ class LineBlink {
   void HighlightLineAtIP();
   /// Highlights the line and lets it flash.
   void Start();
-  /// Ends it, whatever is highlighted.
+  /// Ends the flashing, whatever is highlighted.
   void Stop();
-  /// One of the three steps that follow.
+  /// Takes one of the three steps that follow.
   void Step();
 
  private:

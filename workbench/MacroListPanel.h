@@ -18,7 +18,7 @@ class MacroListPanel {
   /// Member of `List1` on which the pop-up menu was opened.
   Property<int> PopupListIndex;
 
-  /// What the window does besides.
+  /// What the window does when the user works in the lists.
   struct Hooks {
     std::function<void()> pointerInside = [] {};  ///< the mouse is over a list, and no more beside it
     std::function<void()> popUp = [] {};          ///< shows the menu of a list

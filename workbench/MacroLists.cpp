@@ -226,7 +226,7 @@ void MacroLists::Insert(const ListBox& list) {
   pane.SelStart = caret;
   pane.SelColor = kBlack;
   pane.SelText = (joinsText ? " " : "") + name + " ";
-  // With a blank before the name this is one short of its end.
+  // Where a blank was put before the name the caret is thus one short of the name's end.
   document.Caret = caret + name.size() + 1;
   pane.SelStart = document.Caret;
   pane.SetFocus();

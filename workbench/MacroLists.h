@@ -23,10 +23,10 @@ class MacroLists {
   void GetEachLineFromMacroFile();
   void ExtractMacrosAndTitles();
 
-  /// Shows the definition of SelectedMacro in status panel 1, and selects it in the macro file when that is
+  /// Shows the definition of SelectedMacro in the status bar, and selects it in the macro file when that is
   /// on show.
   void ShowMacroKeys();
-  /// The same with the macro file on top.
+  /// Does the same with the macro file on top.
   void ShowInMacroFile();
   /// "All", then the headings of the macro file in its order; each has the list of its index.
   [[nodiscard]] const std::vector<std::string>& MacroHeadings() const { return headings_; }

@@ -38,7 +38,7 @@ class PreviousFiles : public Component {
   Property<std::string>& GameDIRPath = Games.InHand("GameDIRPath");
   Property<std::string>& GameJF = Games.InHand("GameJF");
   Property<std::string>& GameUseJF = Games.InHand("GameUseJF");  ///< "1": download GameJF first
-  /// 1 when the window for a game ended with OK.
+  /// It is 1 when the window for a game has ended with OK.
   Property<int> GameDialogOK{*this, "GameDialogOK", 0};
   Property<int> FavLoadOnStart{*this, "FavLoadOnStart", 0};
   Property<std::string> FavNameToLoad{*this, "FavNameToLoad"};

@@ -14,7 +14,7 @@ void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int 
 /// not printed. Failures are recorded under `tag`.
 void PrintPane(const Pane& pane, const std::string& title, std::string_view tag, const Documents& documents);
 
-/// Prints the document under its name and today's date; status panel 1 tells.
+/// Prints the document under its name and today's date, and tells so in the status bar.
 void PrintDocument(const Documents& documents, const Document& document);
 
 /// Lets the user choose where everything is printed from now on.

@@ -5,7 +5,7 @@
 namespace tarvik {
 namespace {
 
-/// A number that is not there is 0.
+/// A number that a record lacks is read as 0, which says nothing.
 bool SaysSomething(const std::string& part) { return !part.empty() && part != "0"; }
 
 }  // namespace

@@ -34,7 +34,7 @@ class RecentList {
   [[nodiscard]] int Count() const { return static_cast<int>(records_.size()); }
   /// The part of the record in hand with this name, one of those in the traits.
   [[nodiscard]] Property<std::string>& InHand(std::string_view name);
-  /// By exact comparison.
+  /// Whether a record has exactly that name.
   [[nodiscard]] bool Contains(std::string_view name) const;
   /// What tells the records apart, in the order of the list.
   [[nodiscard]] std::vector<std::string> Names() const;

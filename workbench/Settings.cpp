@@ -20,7 +20,7 @@ struct Option {
   Saved saved = Saved::Yes;
 };
 
-// In the order in which they are written.
+// The options in the order in which they are written.
 constexpr Option kOptions[] = {
     {section::kFileLocations, &Settings::B50LoadPath, ""},
     {section::kFileLocations, &Settings::ProgramFilesPath, ""},

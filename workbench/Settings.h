@@ -87,7 +87,7 @@ class Settings : public Component {
   /// Sets the factory colour scheme and writes it; InsertWithColour is set but not written.
   void ColoursSortOut();
 
-  /// For the few keys that forms write themselves, at once.
+  /// Writes one of the few keys that forms store by themselves, at once.
   void Write(std::string_view section, std::string_view key, std::string_view value);
   [[nodiscard]] ProfileFile& File() { return file_; }
 

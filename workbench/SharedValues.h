@@ -17,7 +17,7 @@ class SharedValues : public Component {
   Property<Folder> RtfDir{*this, "RtfDir"};
   Property<std::string> CommandLine{*this, "CommandLine"};
 
-  /// 1 while program code rewrites a pane, so that its change handler does not count it as an edit.
+  /// It is 1 while program code rewrites a pane, so that its change handler does not count it as an edit.
   Property<int> LoadingFile{*this, "LoadingFile", 0};
   Property<int> FontChanged{*this, "FontChanged", 0};
   Property<int> TemplateFontChanged{*this, "TemplateFontChanged", 0};
@@ -33,7 +33,7 @@ class SharedValues : public Component {
   /// The macro name last taken from a list, and the list in front.
   Property<std::string> SelectedMacro{*this, "SelectedMacro"};
   Property<int> SelectedCategoryList{*this, "SelectedCategoryList", 0};
-  /// 1 when the macro lists were rebuilt or ticked, until a tool that copies them has done so.
+  /// It is 1 from when the macro lists change until a tool that copies them has done so.
   Property<int> MacroListChanged{*this, "MacroListChanged", 0};
 };
 

@@ -17,7 +17,7 @@ class UndoHistory {
 
   /// The slot on show in the pane: 1 when nothing is undone.
   Property<int> Index;
-  /// 1: the next change opens a new snapshot. 0: it is absorbed in slot 1.
+  /// With 1 the next change opens a new snapshot; with 0 it is absorbed in slot 1.
   Property<int> Start;
 
   [[nodiscard]] int UpperBound() const { return static_cast<int>(slots_.size()); }
@@ -61,7 +61,7 @@ class UndoHistory {
   void Show(const Edits& edits, int slot);
   /// A new slot 1, made out of slot 1 by `fromOlder`; the oldest one falls off at the full depth.
   void Push(std::size_t caret, Edits fromOlder, int undoMax);
-  /// From slot 1 to the slot on show.
+  /// The edits that lead from slot 1 to the slot on show.
   [[nodiscard]] Edits WayToShown();
   void TakeBackUnrecorded();
 

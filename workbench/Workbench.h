@@ -48,7 +48,7 @@ class Workbench {
 
   /// The editor was closed: what was open is forgotten, and no timer runs.
   void Reset();
-  /// A new file in place of the document, unless the user keeps that one.
+  /// Puts a new file in the place of the document, unless the user keeps that one.
   void NewFile(Document& document);
   /// Empties the history of both documents.
   void ForgetUndos();

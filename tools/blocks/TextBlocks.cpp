@@ -11,7 +11,7 @@ constexpr std::size_t kRuleSigns = 48;
 constexpr std::size_t kLineWidth = 52;      // of a title
 constexpr std::size_t kWidestCentred = 50;  // "Rem " and the text stay below it
 
-/// Nothing for a number that is no row's.
+/// The words of a row in the title; empty for a number that no row has.
 template <class Rows>
 std::string InTitle(const Rows& rows, int number) {
   const auto* const row = RowOf(rows, number);

@@ -66,7 +66,7 @@ InsertOptions::InsertOptions(Workbench& bench, Shell& shell)
           [this] { return RichText(LogicLinesOnShow()); }) {
   Caption = "  Composer - to ease your programming somewhat !!!";
   for (const char* const menu : {"mnuRHList", "mnuHatPos", "mnuTrigger", "mnuPortAll", "mnuTemplates"}) {
-    menus(menu).Visible = false;  // they only pop up
+    menus(menu).Visible = false;  // these menus only pop up
   }
   MakeHardware();
   MakeMainPage();
@@ -154,7 +154,8 @@ void InsertOptions::Form_Deactivate() {
   if (COMPreturnFocus != 0) bench_.documents.FocusActiveText();
 }
 
-/// Hidden by its own button, it is left for the file on top, whatever had the focus there before.
+/// Whoever hides the Composer by its own button goes back to the file on top, whatever had the focus there
+/// before.
 void InsertOptions::Command6_Click() {
   Visible = false;
   Form_Deactivate();
@@ -240,7 +241,7 @@ std::string InsertOptions::MacroNameForMDEF() const {
 
 // Below the pages.
 
-/// The entry of the editor has run; for that of the preferences a new hardware may have been chosen.
+/// Runs behind the editor's entry. The user may have chosen other hardware in the preferences.
 void InsertOptions::Command5_Click(int index) {
   constexpr int kPreferences = 1;
   if (index != kPreferences) return;

@@ -94,7 +94,7 @@ class InsertOptions : public ToolForm {
   Property<int> DefaultRPTvalue{*this, "DefaultRPTvalue", 2};
   Property<int> AlwaysInsert{*this, "AlwaysInsert", 0};
   Property<int> COMPaddCR{*this, "COMPaddCR", 0};
-  /// 1: the last statement was not looked for or not found; 0: the caret stands behind it.
+  /// It is 1 when the last statement was not looked for or not found, and 0 when the caret is behind it.
   Property<int> InsertAfterSearch{*this, "InsertAfterSearch", 1};
   Property<int> COMPreturnFocus{*this, "COMPreturnFocus", 1};
   Property<int> COMPMacrosTickedCopy{*this, "COMPMacrosTickedCopy", 0};

@@ -57,7 +57,7 @@ void InsertOptions::MakeStatementPages() {
   }
 }
 
-/// The focus goes to the first field; the last page of the throttle has buttons alone.
+/// Gives the focus to the first field. The last page of the throttle has none, only buttons.
 void InsertOptions::PreparePage(const tables::StatementTabRow& row) {
   constexpr int kDigitalThrottle = 5;
   const int page = StripOf(row).Tab;
@@ -119,7 +119,7 @@ void InsertOptions::FillMiceListBoxes() {
 
 void InsertOptions::Option1_Click(int index) {
   MouseList(index).ToFront();
-  MouseList(index).ListIndex = -1;  // an item chosen before is taken for a new choice
+  MouseList(index).ListIndex = -1;  // so that an item chosen before counts as a new choice
   MouseList(index).ListIndex = 0;
 }
 
@@ -137,7 +137,7 @@ void InsertOptions::Command2_Click(int index) {
   writer_.Write(ValueStatement(row, boxes(row.box).Text, Style()));
 }
 
-/// Before a kind of mouse is chosen the first list is in front.
+/// The kind of mouse that is chosen; the first one as long as none is.
 int InsertOptions::KindOfMouse() const {
   for (int i = 0; i < Option1.Count(); ++i) {
     if (Option1(i).Value) return i;
@@ -183,7 +183,7 @@ void InsertOptions::FillTemplates() {
   }
 }
 
-/// It is read anew, also where it was current before: its file may have been edited.
+/// Reads the template anew, even if it was current before: its file may have been edited.
 void InsertOptions::MakeTemplateCurrent(int item) {
   if (Templates.ListIndex == item) return Templates_Click();
   Templates.ListIndex = item;
@@ -203,7 +203,8 @@ void InsertOptions::Templates_MouseMove(const Mouse& mouse) {
   }
 }
 
-/// Over what is selected in the file, with its colours, as one step of undo. The caret goes behind it.
+/// Replaces what is selected in the file by the template with its colours, as one step of undo. The caret
+/// goes behind it.
 void InsertOptions::InsertTemplate(Document& document) {
   if (TemplatesPreview.Characters().empty()) return;
   document.Undo.BeginCommand(bench_.settings.UndoMax);
@@ -219,7 +220,7 @@ void InsertOptions::Command11_Click(int index) {
   InsertTemplate(document);
 }
 
-/// Whichever file is on top stays there.
+/// Inserts into the macro file, also while the joystick file is on top, which stays there.
 void InsertOptions::mnuMacrofile_Click() { InsertTemplate(bench_.documents.macro); }
 
 void InsertOptions::mnuQuickie_Click() {
@@ -267,7 +268,7 @@ void InsertOptions::FillLogicLists() {
   }
 }
 
-/// Whatever works on the current line brings its page to the front.
+/// Takes the option's line for the current one, and brings its page to the front.
 void InsertOptions::WhichLogicText() {
   for (int i = 0; i < OptionFlag.Count(); ++i) {
     if (OptionFlag(i).Value) CurrentLogicLine = i;
@@ -284,7 +285,7 @@ void InsertOptions::OptionFlag_Click(int index) {
   RichTexFlag(index).BackColor = kCurrentLine;
 }
 
-/// At the caret of the current line, in place of what is selected there.
+/// Writes the token at the caret of the current line, in place of what is selected there.
 void InsertOptions::AddToLogicLine(std::string_view token) {
   WhichLogicText();
   TextBox& line = RichTexFlag(CurrentLogicLine);
@@ -312,7 +313,7 @@ Outcome<std::string> InsertOptions::LogicLine(int index) {
   return Failure{kNoSuchControl, "Control array element '" + std::to_string(index) + "' doesn't exist", 0};
 }
 
-/// All lines, the current line, or the lines of the joystick file back into the boxes.
+/// Writes all lines or the current one, or fetches the lines of the joystick file back into the boxes.
 void InsertOptions::Command13_Click(int index) {
   if (index == 2) return FindLogicStatements();
   if (index == 1) {

@@ -63,7 +63,7 @@ void OpenFavourite(Workbench& bench, int index) {
   const bool bothThere = files.FileExists(lists.FavMFPath.Get()) && files.FileExists(lists.FavJFPath.Get());
   bench.files.OpenFavourite(lists.FavMFPath);
   bench.files.OpenFavourite(lists.FavJFPath);
-  // What could not be opened stays told in the status bar.
+  // Where a file could not be opened the status bar keeps saying so.
   if (bothThere && bench.settings.CheckIdentifyOK == 1) bench.macros.IdentifyMacrosUsed();
 }
 

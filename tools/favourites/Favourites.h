@@ -26,7 +26,7 @@ class EnterFavouritename : public ToolForm {
 /// Asks for a name for the two files in hand, and puts them first in the list.
 void AddToFavourites(Workbench& bench, Shell& shell);
 
-/// Opens both files of the favourite; 1-based.
+/// Opens both files of the favourite of that row, counted from 1.
 void OpenFavourite(Workbench& bench, int index);
 
 }  // namespace tarvik

@@ -271,7 +271,7 @@ bool FindAndReplace::SelectHit() {
   return true;
 }
 
-/// Only what was found is replaced, also when it is no longer selected; the caret stands behind it.
+/// Replaces only what was found, even when it is no longer selected. The caret goes behind it.
 void FindAndReplace::ReplaceText() {
   if (!SelectHit()) return;
   TakeReplacement();

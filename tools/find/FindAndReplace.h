@@ -46,13 +46,13 @@ class FindAndReplace : public ToolForm {
 
   Property<std::string> SearchText{*this, "SearchText"};
   Property<std::string> ReplacementText{*this, "ReplacementText"};
-  /// Where the last search found the text; -1: nowhere.
+  /// The position at which the last search found the text; -1 where it did not.
   Property<int> SearchHit{*this, "SearchHit", -1};
   Property<int> SearchOptions{*this, "SearchOptions", 0};
   // Once set by a search they stay until the form is closed.
   Property<int> MatchCaseOption{*this, "MatchCaseOption", 0};
   Property<int> WholeWordOption{*this, "WholeWordOption", 0};
-  /// 1 the joystick file, 2 the macro file.
+  /// The file to search: 1 is the joystick file, 2 the macro file.
   Property<int> SearchTarget{*this, "SearchTarget", 1};
 
   /// Show the form on one of its pages, with what is selected in the file on top as the text to look for.

@@ -85,7 +85,7 @@ bool HasAll(std::string_view text, const std::vector<std::string>& words) {
                      [&lower](const std::string& word) { return !HitsOf(word, lower).empty(); });
 }
 
-/// What is searched beside the title.
+/// The keywords and the text of a topic, which are searched beside its title.
 std::string WholeOf(const HelpTopic& topic) {
   std::string whole;
   for (const std::string& keyword : topic.keywords) whole += keyword + "\n";

@@ -25,7 +25,7 @@ class HelpFile {
   explicit HelpFile(std::string_view text);
 
   [[nodiscard]] const std::vector<HelpTopic>& Topics() const { return topics_; }
-  /// Null where no topic has the number.
+  /// The topic of that number, null where none has it.
   [[nodiscard]] const HelpTopic* WithContext(int context) const;
   /// The topic with this keyword, else the first with one that begins with it, else that of the first word,
   /// without its number where it has one; else null. Case and blanks around it do not matter.

@@ -7,7 +7,7 @@
 namespace tarvik {
 namespace {
 
-// As large as its window comes up, in twips.
+// The size that the window comes up with, in twips.
 constexpr Twips kWidth{12855};
 constexpr Twips kHeight{8850};
 
@@ -61,7 +61,7 @@ constexpr MenuRow<RAWform> kMenus[] = {
 
 std::string Raw(const std::string& codes) { return "RAW (" + codes + ")"; }
 
-/// A place on the screen that the window can be seen at.
+/// The place, moved to where the window can be seen on the screen.
 int OnScreen(int place, int pixels) {
   return place < 0 || static_cast<float>(place) > FromPixels(pixels).count ? kFallbackPlace : place;
 }
@@ -277,7 +277,7 @@ void RAWform::TotalCombinedText_Change() {
   for (const int i : {0, 1}) CommandINS(i).Enabled = !TotalCombinedText.Characters().empty();
 }
 
-/// It is one line, in a box that would take these keys for itself.
+/// The line has one line only, in a box that would otherwise take these keys for itself.
 void RAWform::TotalCombinedText_KeyDown(Key& key) {
   if (key.code == key::kEscape) Command2_Click();
   if (key.code == key::kEnter || key.code == key::kEscape) key = {};

@@ -52,7 +52,7 @@ class RAWform : public ToolForm {
 
   /// The key last clicked; -1 before the first click.
   Property<int> SelectedKey{*this, "SelectedKey", -1};
-  /// What came last into the line: 0 nothing, 1 text, 2 codes.
+  /// The kind of what came last into the line: 0 is nothing, 1 text, 2 codes.
   Property<int> LastAddKind{*this, "LastAddKind", 0};
   Property<int> AddCR{*this, "AddCR", 0};
 

@@ -5,7 +5,7 @@
 
 namespace tarvik {
 
-/// Starts one of them; 1-based.
+/// Starts the program of that row, counted from 1.
 void RunCustomApp(Workbench& bench, int index);
 
 }  // namespace tarvik

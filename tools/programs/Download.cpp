@@ -24,7 +24,7 @@ struct F22Row {
   const char* tag;
 };
 
-/// In the order of F22Utility.
+/// The utilities in the order of F22Utility.
 constexpr F22Row kF22Utilities[] = {
     {"f22setup.exe", "Setup", "ED_mnuF22Setup_Click"},
     {"f22clear.exe", "f22clear", "ED_mnuF22Clear_Click"},

@@ -30,7 +30,7 @@ constexpr const char* kNotRun =
 
 using Step = std::function<Outcome<>()>;
 
-/// One after another, until one fails.
+/// Takes one step after another, until one fails.
 Outcome<> InOrder(std::initializer_list<Step> steps) {
   for (const Step& step : steps) {
     if (auto done = step(); !done) return done;
@@ -106,7 +106,7 @@ EnterGameName::EnterGameName(Workbench& bench, Shell& shell) : ToolForm("EnterGa
   Topmost = true;
   for (int i = 0; TextBox * box : {&Text1, &Text2, &Text3, &Text4}) {
     box->Text = std::string(kSamples[i++]);
-    // A sample is there to be typed over.
+    // The user types over a sample.
     box->GotFocus = [box] {
       if (box->Text.Get().starts_with("eg")) box->SelectAll();
     };

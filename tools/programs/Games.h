@@ -40,7 +40,7 @@ class EnterGameName : public ToolForm {
 /// Asks for a game, and puts it first in the list.
 void AddGame(Workbench& bench, Shell& shell);
 
-/// 1-based.
+/// Starts the game of that row of the list, counted from 1.
 void StartGame(Workbench& bench, Shell& shell, int index);
 
 }  // namespace tarvik

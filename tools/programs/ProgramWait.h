@@ -11,10 +11,10 @@ class ProgramWait : public ToolForm {
 
   Label Label1{*this, "Label1"};
   CommandButton Command1{*this, "Command1", "&Stop the program"};
-  /// Has the wait look at the program.
+  /// At each tick the wait looks whether the program still runs.
   Timer Timer1{*this, "Timer1"};
 
-  /// Milliseconds that it has stood.
+  /// For how many milliseconds the window has stood.
   Property<int> Waited{*this, "Waited", 0};
 
   void Command1_Click() { Close(); }

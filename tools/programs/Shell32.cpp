@@ -14,7 +14,7 @@ Failure StartFailed(Failure why) {
   return why;
 }
 
-/// The timers of all forms stand still meanwhile.
+/// While it lives the timers of all forms stand still.
 class TimersHeld {
  public:
   explicit TimersHeld(const Shell& shell) {

@@ -116,7 +116,7 @@ void TemplateForm::AttachHandlers() {
   Load = [this] { Form_Load(); };
   Unload = [this] { journal_.Remove(); };  // the user was asked
   Activate = [this] { Form_Activate(); };
-  // The text is not closed in passing.
+  // The Escape key does not close the window: a text is not to go by accident.
   KeyDown = [](Key& key) {
     if (key.code == key::kEscape) key = {};
   };
@@ -127,7 +127,7 @@ void TemplateForm::AttachHandlers() {
   TemplateText.KeyDown = [this](Key& key) { TemplateText_KeyDown(key); };
   TemplateText.MouseDown = [this](const Mouse& mouse) { TemplateText_MouseDown(mouse); };
   TemplateText.SelChange = [this] { UpdateCopyItems(); };
-  // Colours are part of a template.
+  // A change of colours counts as a change, since they are part of a template.
   connections_ = {
       TemplateText.Edited.Connect([this](const PaneEdit& edit) {
         TemplateText_Change();
@@ -202,7 +202,7 @@ void TemplateForm::ShowName(const std::string& name) {
   Text1.Text = name;
 }
 
-/// Its text comes from no file: nothing goes back to the last one.
+/// The text that follows comes from no file, so that saving it touches the file before it no more.
 void TemplateForm::NameUntitled() {
   TemplatePath = TemplateFolder.Get() + kUntitled;
   FileName = std::string();
@@ -251,7 +251,7 @@ void TemplateForm::Open() {
 /// False when the file could not be written: the text is then as unsaved as before.
 bool TemplateForm::Save() {
   const Trap trap{bench_.errors, "TEMPLATE Command1_Click"};
-  // The focus that is still there while a menu is used has a typed name to finish.
+  // While a menu is used the focus stays in the box, which has then a typed name to finish.
   if (Text1.Empty() || (ActiveControl() == &Text1 && Text1.Text.Get() != TemplateName.Get()))
     Text1_LostFocus();
   const std::string name = Text1.Text;

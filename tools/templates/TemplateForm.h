@@ -26,7 +26,7 @@ class TemplateForm : public ToolForm {
   NamedControls<Label> swatches{*this};  ///< ColourLabel1 to ColourLabel6
   ToggleLabel ToggleButton1{*this, "ToggleButton1", "Word wrap"};
 
-  /// 1 when there is something to save.
+  /// It is 1 when there is something to save.
   Property<int> TemplateChanged{*this, "TemplateChanged", 0};
   Property<std::string> TemplateFolder{*this, "TemplateFolder"};
   Property<std::string> TemplatePath{*this, "TemplatePath"};
@@ -80,14 +80,14 @@ class TemplateForm : public ToolForm {
  private:
   void EditPreferences(page::Preferences page);
   void AttachHandlers();
-  /// Asks about unsaved work, which goes when the user says so.
+  /// Asks about unsaved work. False: the user keeps it.
   bool MayLeave(const char* question, const char* refused);
   bool MayOpen(const char* question);
   void NameUntitled();
   void OpenDefault(const Trap& trap);
-  /// The button for the default template goes by whether there is one.
+  /// Enables the button for the default template where there is one.
   void ShowDefault();
-  /// On failure all stays as it was.
+  /// Loads a file into the pane; on failure all stays as it was.
   bool LoadText(const std::string& path, const Trap& trap);
   void ShowName(const std::string& name);
   void Open();

@@ -8,7 +8,7 @@
 namespace tarvik {
 namespace {
 
-// In the joystick's units.
+// Sizes in the joystick's units.
 constexpr float kCentre = 32768;
 constexpr int kCentredFrom = 32269;
 constexpr int kCentredTo = 33267;
@@ -35,7 +35,6 @@ constexpr MenuRow<JoyPlot> kMenus[] = {
     {1, "mnuGrid", "Show &grid", "", &JoyPlot::mnuGrid_Click},
     {1, "mnuDivider2", "-"},
     {1, "mnuZoom", "&Zoom", "", &JoyPlot::mnuZoom_Click},
-    // Windows of their own have nothing to be arranged in.
     {0, "mnuWindow", "&Window"},
     MenuArray<JoyPlot>(1, "mnuArrange", kArrangements),
     {0, "mnuHelp", "&Help"},
@@ -73,7 +72,7 @@ void JoyPlot::Form_Load() {
   Visible = true;
 }
 
-/// The toolbar makes room.
+/// The editor's toolbar is of no use here and goes.
 void JoyPlot::Form_Activate() { shell_.HideToolbar(); }
 
 void JoyPlot::JoyPlotSetup() {
@@ -114,7 +113,7 @@ void JoyPlot::JoyTimer_Timer() {
     return;
   }
   DrawMarker(PicJoy.BackColor, PicJoy.BackColor);
-  if (PlotOn) DrawDiagonals(kBlue);  // which stay: the trace
+  if (PlotOn) DrawDiagonals(kBlue);  // these lines stay, as the trace
   PlotX = info->x;
   PlotY = info->y;
   DrawMarker(kBlack, PlotOn ? kBlue : kBlack);
@@ -124,7 +123,7 @@ void JoyPlot::JoyTimer_Timer() {
   if (GridOn) DrawGrid();
 }
 
-/// The box stays open for as long as the user likes, and one of it is enough.
+/// The timer stops first: while the box is open it would bring up the next one.
 void JoyPlot::StopWith(const char* text) {
   JoyTimer.Enabled = false;
   bench_.platform.dialogs.Show({"Tarvik", text, BoxIcon::None, BoxButtons::Ok});
@@ -135,7 +134,7 @@ void JoyPlot::DrawCentreLines(float low, Colour vertical, Colour horizontal) {
   PicJoy.Line(low, kCentre, ScaleHigh, kCentre, horizontal);
 }
 
-/// A diamond around the position, with its two diagonals.
+/// The marker is a diamond around the position, with its two diagonals.
 void JoyPlot::DrawMarker(Colour outline, Colour diagonals) {
   const auto x = static_cast<float>(PlotX);
   const auto y = static_cast<float>(PlotY);

@@ -15,17 +15,17 @@ class JoyPlot : public ToolForm {
   PlotBox PicJoy{*this, "PicJoy"};
   Timer JoyTimer{*this, "JoyTimer"};
 
-  // Where the marker is.
+  // The position that the marker shows.
   Property<int> PlotX{*this, "PlotX", 0};
   Property<int> PlotY{*this, "PlotY", 0};
   // The part of the joystick's range that is on show.
   Property<float> ScaleHigh{*this, "ScaleHigh"};
   Property<float> ScaleLow{*this, "ScaleLow"};
-  // -1 for yes.
+  // What the menu's entries of these names say: -1 where they are ticked, and 0.
   Property<int> GridOn{*this, "GridOn", 0};
   Property<int> MaintainOn{*this, "MaintainOn", 0};
   Property<int> PlotOn{*this, "PlotOn", 0};
-  /// Of the joystick.
+  /// The error of the last try to find the joystick; 0 where there was none.
   Property<int> LastError{*this, "LastError", 0};
 
   void Form_Load();
@@ -48,7 +48,7 @@ class JoyPlot : public ToolForm {
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
 
  private:
-  /// Turns an entry's check mark over. -1 when it now has one.
+  /// Turns an entry's check mark over, and gives -1 when the entry now has one and 0 when it has none.
   int Flip(std::string_view entry);
   void StopWith(const char* text);
   void DrawCentreLines(float low, Colour vertical, Colour horizontal);

@@ -58,7 +58,7 @@ bool IsModifier(int keyCode) { return keyCode >= kShiftKey && keyCode <= kAltKey
 
 void CaretToEnd(Pane& log) { log.SelStart = log.Content().size(); }
 
-/// What comes next has the same colour, until another one is set.
+/// The text gets the colour of what stands before it.
 void Append(Pane& log, const std::string& text) {
   CaretToEnd(log);
   const Colour colour = log.SelColor;
@@ -142,7 +142,7 @@ void KeyTestForm::Form_KeyDown(Key& key) {
   if (ClearPending == 1) ClearTextBoxes();
   Timer1.Enabled = false;
   ClearPending = 0;
-  // Otherwise the letters that follow would be logged as capitals.
+  // With the lock left on, the letters that follow would be logged as capitals.
   if (key.code == kCapsLock) TurnOffCapsLOCK();
   NextColour();
   CaretToEnd(RTFKeysUpText);
@@ -264,7 +264,7 @@ void KeyTestForm::JoystickStuff() {
   JoystickTimer.Enabled = there;
 }
 
-/// Without a stick its bars and lamps are grey, and the status says why.
+/// The bars and lamps are grey while there is no stick, and the status says why.
 void KeyTestForm::ShowWhetherThere(bool there) {
   for (Label* const bar : {&LabelTHR, &LabelRDDR}) {
     bar->BackColor = there ? ToggleLabel::kOn : kGrey;
@@ -283,7 +283,7 @@ void KeyTestForm::JoystickTimer_Timer() {
     status.Caption = std::string("Status: Joystick error");
     return;
   }
-  // One that is unplugged stays on show where it was.
+  // A stick that is unplugged stays on show where it was.
   if (read) info_ = *read;
   status.Caption = std::string(read ? "Status: Joystick connected" : "Status: Joystick unplugged");
   ShowPoint();

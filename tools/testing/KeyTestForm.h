@@ -40,17 +40,18 @@ class KeyTestForm : public ToolForm {
 
   Property<Colour> KeyColour{*this, "KeyColour"};
   Property<int> ColourStep{*this, "ColourStep", 1};
-  /// When 1, the next such event does no more than to take the flag down. Nothing raises the first two.
+  /// A flag that is 1 lets the next event of its kind pass unnoticed, which sets the flag to 0. Nothing sets
+  /// the first two to 1.
   Property<int> SkipKeyDown{*this, "SkipKeyDown", 0};
   Property<int> SkipKeyUp{*this, "SkipKeyUp", 0};
   Property<int> SkipKeyPress{*this, "SkipKeyPress", 0};
-  /// 1: the next press empties the logs.
+  /// While it is 1 the next press empties the logs.
   Property<int> ClearPending{*this, "ClearPending", 0};
-  /// -1 while a time for emptying the logs is chosen.
+  /// It is -1 while a time for emptying the logs is chosen, and 0 otherwise.
   Property<int> AutoClear{*this, "AutoClear", 0};
   /// What WhichKey said of the last key that was pressed.
   Property<std::string> KeyName{*this, "KeyName"};
-  /// Of the joystick.
+  /// What the last reading of the joystick gave.
   Property<int> LastError{*this, "LastError", 0};
   Property<int> LastX{*this, "LastX", 0};
   Property<int> LastY{*this, "LastY", 0};

@@ -15,7 +15,7 @@ class LogForm : public ToolForm {
   CommandButton cmdCopy{*this, "cmdCopy", "&Copy", &LogForm::cmdCopy_Click};
   CommandButton cmdOK{*this, "cmdOK", "&OK", &LogForm::Close};
 
-  /// All of it, for a message to somebody else.
+  /// Copies the whole log, for a message to somebody else.
   void cmdCopy_Click();
 
  private:

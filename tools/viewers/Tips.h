@@ -19,7 +19,7 @@ class frmTip : public ToolForm {
   CommandButton cmdNextTip{*this, "cmdNextTip", "&Next Tip", &frmTip::cmdNextTip_Click};
   CommandButton cmdOK{*this, "cmdOK", "&OK", &frmTip::cmdOK_Click};
 
-  /// 1-based; 0 where there are no tips.
+  /// The number of the tip on show, counted from 1; 0 where there are no tips.
   Property<int> CurrentTip{*this, "CurrentTip", 0};
 
   void Form_Load();

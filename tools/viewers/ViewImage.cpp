@@ -30,7 +30,7 @@ std::string Joined(const std::string& folder, const std::string& name) {
   return folder + (folder.ends_with('\\') ? "" : "\\") + name;
 }
 
-/// Nothing of a file that cannot be read.
+/// A file that cannot be read gives an empty picture.
 void LoadInto(ImageBox& image, const std::string& path, const Files& files) {
   const auto bytes = Ignore(files.Read(path));
   image.Load(path, bytes ? *bytes : std::string());

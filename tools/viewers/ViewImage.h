@@ -45,7 +45,7 @@ class SelectPictureForm : public ToolForm {
   CommandButton Command1{*this, "Command1", "Cancel", &SelectPictureForm::Close};
   CommandButton Command2{*this, "Command2", "OK", &SelectPictureForm::Command2_Click};
 
-  /// Of Dir1.
+  /// The folder that Dir1 shows.
   Property<std::string> Path{*this, "Path"};
 
   void Form_Load();

@@ -78,7 +78,7 @@ void JoystickWiz::ShowRATE() {
   composer.Command2(0).MakeDefault();
 }
 
-/// The trigger of the game port on the first trigger, a line end, and the Composer out of the way.
+/// Writes the game port's trigger for the first trigger and a line end, and hides the Composer.
 void JoystickWiz::InsertPortB() {
   InsertOptions& composer = ComposerAt(InsertOptions::kComposer);
   composer.ArmPort();

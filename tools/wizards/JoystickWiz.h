@@ -17,7 +17,7 @@ class JoystickWiz : public Wizard {
 
   void BTNinFrame_Click(int index);
 
-  // What they do.
+  // The commands of the buttons.
   void OpenMacroFile() { bench_.files.Load(bench_.documents.macro); }
   void CreateFile() { bench_.NewFile(bench_.documents.joystick); }
   void SaveFile() { bench_.files.Save(bench_.documents.Active()); }

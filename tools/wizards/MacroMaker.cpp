@@ -73,7 +73,7 @@ void MacroMaker::Text1_Change() {
   Preview.Caption = name + " = " + Text1(kKeys).Text.Get();
 }
 
-/// From the name the Enter key goes on to the keys; there it is the default button's.
+/// In the box of the name the Enter key goes on to the keys, where it presses the default button.
 void MacroMaker::Text1_KeyDown(Key& key) {
   if (key.code != key::kEnter || form_.ActiveControl() != &Text1(kName)) return;
   Text1(kKeys).SetFocus();

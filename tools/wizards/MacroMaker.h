@@ -30,7 +30,7 @@ class MacroMaker {
   void Text1_Change();
   void Text1_KeyDown(Key& key);
 
-  // What buttons do.
+  // The commands of the buttons.
   void CreateFile() { bench_.NewFile(bench_.documents.macro); }
   void CreateAndSaveFile();
   void InsertTitle() { shell_.Show(ToolId::Title); }
@@ -43,7 +43,7 @@ class MacroMaker {
   void CloseForm() { shell_.Unload(form_); }
 
  protected:
-  /// Ready for the next macro: the name has the focus, and Enter inserts.
+  /// Makes ready for the next macro: the name gets the focus, and Enter inserts.
   void PrepareMacro();
 
  private:

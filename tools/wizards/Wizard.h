@@ -32,7 +32,7 @@ class Wizard : public GuidedForm {
   void Button_Click(int index);
 
  protected:
-  /// After every turn of a page.
+  /// Called after every turn of a page.
   virtual void Turned() { buttons(kNext).MakeDefault(); }
 
  private:
