@@ -80,7 +80,8 @@ std::string FilterToSave(const FileWords& words, const std::string& extension) {
   std::string filter = OwnType(words, extension);
   for (const Endings& each : kEndings) {
     const std::string pattern = "*." + std::string(each.*words.ending);
-    filter += "|" + std::string(each.inDialogs) + words.kindToSave + pattern + ") |" + pattern;
+    filter.append("|").append(each.inDialogs).append(words.kindToSave).append(pattern);
+    filter.append(") |").append(pattern);
   }
   return filter + kAllFiles;
 }
