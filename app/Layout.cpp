@@ -7,7 +7,6 @@ namespace {
 
 constexpr int kNarrowestFrame = 185;
 constexpr float kNarrowestText = 100;  // pixels of the form that the frame leaves to the files
-constexpr int kGrip = 8;               // pixels at the frame's right edge
 
 // Distances in the tab strip, in pixels.
 constexpr float kPaneLeft = 3;
@@ -25,17 +24,17 @@ constexpr float kButtonWidth = 352;
 constexpr float kWideButtonWidth = 410;
 constexpr float kButtonHeight = 405;
 constexpr float kGap = 30;
-constexpr int kUpperButtons = 6;
-constexpr int kLowerButtons = 12;  // one past the last of the lower row
-constexpr int kLastButton = 12;    // stands in the upper row
+
+bool IsInUpperRow(int button) { return button < modifier::kFirstLower || button > modifier::kLastLower; }
 
 }  // namespace
 
 Layout::Layout(Documents& documents, LayoutControls controls) : documents_(documents), controls_(controls) {
   controls_.categories.Move(kMargin, kComboTop, 0, kComboHeight);
-  for (int i = 0; i <= kLastButton; ++i) {
-    const bool upper = i < kUpperButtons || i == kLastButton;
-    const float column = static_cast<float>(i == kLastButton ? kUpperButtons : i % kUpperButtons);
+  for (int i = 0; i <= modifier::kLastUpper; ++i) {
+    const bool upper = IsInUpperRow(i);
+    const auto column =
+        static_cast<float>(i == modifier::kLastUpper ? modifier::kFirstLower : i % modifier::kFirstLower);
     const float width = upper ? kButtonWidth : kWideButtonWidth;
     controls_.buttons(i).Move(kMargin + column * (width + kGap / 2), 0, width, kButtonHeight);
   }
@@ -68,8 +67,8 @@ void Layout::PlaceFrame() {
   }
   const float upperRow = kListTop + listHeight + kGap;
   const float lowerRow = upperRow + controls_.buttons(0).Height + kGap;
-  for (int i = 0; i <= kLastButton; ++i) {
-    controls_.buttons(i).Top = i >= kUpperButtons && i < kLowerButtons ? lowerRow : upperRow;
+  for (int i = 0; i <= modifier::kLastUpper; ++i) {
+    controls_.buttons(i).Top = IsInUpperRow(i) ? upperRow : lowerRow;
   }
 }
 
@@ -134,7 +133,7 @@ void Layout::FrameMouseMove(const Mouse& mouse) {
   const int x = static_cast<int>(InPixels(mouse.x));
   Frame& frame = controls_.frame;
   if (mouse.button != button::kLeft || frame.MousePointer != pointer::kWestEast) {
-    const bool atEdge = x + kGrip >= static_cast<int>(frame.Width);
+    const bool atEdge = x + kFrameGrip >= static_cast<int>(frame.Width);
     frame.MousePointer = atEdge ? pointer::kWestEast : pointer::kDefault;
     return;
   }

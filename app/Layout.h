@@ -7,6 +7,17 @@
 
 namespace tarvik {
 
+/// The width of the strip at the macro frame's right edge by which the user drags it, in pixels.
+inline constexpr int kFrameGrip = 8;
+
+/// The modifier buttons stand in two rows in the order of their indices. Only the last one of all stands at
+/// the end of the upper row.
+namespace modifier {
+inline constexpr int kFirstLower = 6;
+inline constexpr int kLastLower = 11;
+inline constexpr int kLastUpper = 12;
+}  // namespace modifier
+
 /// The controls that the layout places.
 struct LayoutControls {
   Form& form;

@@ -15,12 +15,8 @@ namespace {
 constexpr int kTabHeight = 23;
 constexpr int kCaptionTop = 3;
 constexpr int kCaptionLeft = 8;
-constexpr int kGripWidth = 8;
 constexpr int kNoticeMargin = 8;
 constexpr int kNoticeIcon = 22;
-constexpr int kLastLowerButton = 11;
-constexpr int kUpperButtons = 6;
-constexpr int kLastUpperButton = 12;
 
 /// The macro frame: a caption, and a line along the edge that can be dragged.
 class FrameView : public QWidget {
@@ -45,7 +41,7 @@ class FrameView : public QWidget {
     painter.setPen(palette().color(QPalette::Mid));
     const int centre = height() / 2;
     for (const int dot : {-6, -2, 2, 6}) {
-      painter.fillRect(width() - kGripWidth / 2 - 1, centre + dot, 2, 2, palette().color(QPalette::Mid));
+      painter.fillRect(width() - kFrameGrip / 2 - 1, centre + dot, 2, 2, palette().color(QPalette::Mid));
     }
   }
 
@@ -148,9 +144,9 @@ void EditorView::OrderFocus() {
   const auto button = [this](int index) {
     return static_cast<QWidget*>(bindings_.Find(editor_.Command1(index)));
   };
-  setTabOrder(button(kUpperButtons - 1), button(kLastUpperButton));
-  setTabOrder(button(kLastUpperButton), button(kUpperButtons));
-  setTabOrder(button(kLastLowerButton), tabs_);
+  setTabOrder(button(modifier::kFirstLower - 1), button(modifier::kLastUpper));
+  setTabOrder(button(modifier::kLastUpper), button(modifier::kFirstLower));
+  setTabOrder(button(modifier::kLastLower), tabs_);
   setTabOrder(tabs_, panes_[0]);
   setTabOrder(panes_[0], panes_[1]);
 }
