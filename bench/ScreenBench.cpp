@@ -1,5 +1,6 @@
-// tarvik_screen_bench: a key from its press to the painted text, in a 1 MB file, beside a bare text edit; a
-// click in the Composer beside the search it needs, and its second showing beside the first.
+// tarvik_screen_bench: a key from its press to the painted text, in a 1 MB file, beside a bare text edit; the
+// same with a journal on the disk, beside one without; a click in the Composer beside the search it needs,
+// and its second showing beside the first.
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
@@ -7,8 +8,10 @@
 #include "Compare.h"
 #include "Samples.h"
 #include "app/Editor.h"
+#include "platform/HostJournals.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
+#include "support/TemporaryFolder.h"
 #include "tools/composer/InsertOptions.h"
 
 namespace {
@@ -69,6 +72,53 @@ void CompareTheComposer(Application& application, QPlainTextEdit& edit) {
   Report("click in the Composer in 1 MB, beside its search", click, Goal::AtMost, 2);
 }
 
+/// A program that shows a file of so many bytes, with its journals in a folder of the disk.
+class Typist {
+ public:
+  explicit Typist(std::size_t bytes) {
+    files_.PutFolder("c:\\tarvik");
+    files_.Put("c:\\my\\large.b50", JoystickFile(bytes));
+    files_.Put("c:\\tarvik\\Tarvik.ini", "[FileLocations]\r\nShowTips=0\r\nFirstTimeUsed=0\r\n");
+    application_.Start();
+    edit_ = dynamic_cast<QPlainTextEdit*>(screen_.Find(application_.editor().JoystickText));
+    PutCaretInTheMiddle(*edit_);
+    Press(*edit_);
+  }
+
+  /// As by somebody who types ten keys a second.
+  void Type() {
+    constexpr int kKeysToWrite = 5;
+    Press(*edit_);
+    if (++keys_ % kKeysToWrite == 0) application_.workbench.journals.Write();
+  }
+  /// The text counts as given up; only a save would begin the journal anew.
+  void StopTheJournal() { application_.workbench.files.Leaves(application_.workbench.documents.joystick); }
+
+ private:
+  MemoryFiles files_;
+  TemporaryFolder folder_;
+  HostJournals journals_{{folder_.path() / "journal"}};
+  session::ScriptedPlatform outside_;
+  Platform platform_ = outside_.Process(files_, "c:\\my\\large.b50", {.journals = &journals_});
+  Application application_{platform_};
+  screen::Screen screen_{application_, screen::Clock::Scripted};
+  QPlainTextEdit* edit_ = nullptr;
+  int keys_ = 0;
+};
+
+/// Of two windows one has the focus and paints a caret, so that each takes its turn at being the one with a
+/// journal.
+void CompareTheJournal(std::size_t bytes, const std::string& size) {
+  Medians sum{0, 0};
+  for (const std::size_t kept : {0U, 1U}) {
+    Typist typists[] = {Typist(bytes), Typist(bytes)};
+    typists[1 - kept].StopTheJournal();
+    const Medians once = Measure([&] { typists[kept].Type(); }, [&] { typists[1 - kept].Type(); }, 25);
+    sum = {sum.own + once.own, sum.peer + once.peer};
+  }
+  Report("key to paint with a journal, beside one without, " + size, sum, Goal::AtMost, 1.05);
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -96,5 +146,7 @@ int main(int count, char** arguments) {
 
   const Medians times = Measure([&] { Press(*own); }, [&] { Press(bare); }, 15);
   Report("key to paint in 1 MB, beside a bare text edit", times, Goal::AtMost, 2);
+  CompareTheJournal(30'000, "30 KB");
+  CompareTheJournal(1'000'000, "1 MB");
   CompareTheComposer(application, *own);
 }

@@ -138,8 +138,8 @@ std::vector<std::string> HostJournals::Left() const {
     }
   }
   std::sort(found.begin(), found.end());
-  std::vector<std::string> names;
-  for (auto& [time, name] : found) names.push_back(std::move(name));
+  std::vector<std::string> names(found.size());
+  std::ranges::transform(found, names.begin(), [](auto& each) { return std::move(each.second); });
   return names;
 }
 

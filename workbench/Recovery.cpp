@@ -126,8 +126,9 @@ std::string Recovery::FreeNameBeside(const std::string& path) const {
   const std::size_t dot = std::max(path.rfind('.'), path.rfind('\\') + 1);
   const std::string stem = path.substr(0, dot) + "-recovered";
   const std::string ending = dot < path.size() ? path.substr(dot) : "";
+  const auto numbered = [&](int number) { return stem + "-" + TextOf(number) + ending; };
   std::string name = stem + ending;
-  for (int i = 2; documents_.platform.files.FileExists(name); ++i) name = stem + "-" + TextOf(i) + ending;
+  for (int i = 2; documents_.platform.files.FileExists(name); ++i) name = numbered(i);
   return name;
 }
 

@@ -109,6 +109,46 @@ TEST(Documents, NameSessionsThatAreThere) {
   EXPECT_GT(count, 3);
 }
 
+/// Of a promise, "Suite.Name" or "Suite.Beginning…"; ".Name" is of the suite before it.
+std::vector<std::string> TestsNamedIn(const std::string& row) {
+  std::vector<std::string> tests;
+  std::string suite;
+  for (std::string name : FirstGroups(row, std::regex(R"(`((?:[A-Z]\w+)?\.[A-Z]\w+)(?:…)?`)"))) {
+    const std::size_t dot = name.find('.');
+    if (dot > 0) suite = name.substr(0, dot);
+    tests.push_back(suite + name.substr(dot));
+  }
+  return tests;
+}
+
+/// All unit tests, as "Suite.Name".
+std::string AllTests() {
+  const std::regex test(R"(\nTEST(?:_F|_P)?\((\w+),\s*(\w+)\))");
+  std::string tests;
+  for (const auto& entry : fs::recursive_directory_iterator(kRoot / "tests")) {
+    if (entry.path().extension() != ".cpp") continue;
+    const std::string text = TemporaryFolder::Content(entry.path());
+    for (std::sregex_iterator at(text.begin(), text.end(), test), end; at != end; ++at) {
+      tests += "\n" + (*at)[1].str() + "." + (*at)[2].str();
+    }
+  }
+  return tests;
+}
+
+TEST(Documents, NameATestForEveryPromise) {
+  const std::string tests = AllTests();
+  const std::string text = TemporaryFolder::Content(kRoot / "docs/your-files.md");
+  const std::string table = text.substr(text.find("| Promise |"), text.find("## What is not promised"));
+  int promises = 0;
+  for (const std::string& row : FirstGroups(table, std::regex(R"(\n(\|[^\n]+))"))) {
+    if (row.starts_with("|---")) continue;
+    ++promises;
+    EXPECT_THAT(row, testing::ContainsRegex("`[^`]+`")) << "no test is named";
+    for (const std::string& named : TestsNamedIn(row)) EXPECT_THAT(tests, testing::HasSubstr("\n" + named));
+  }
+  EXPECT_GT(promises, 10);
+}
+
 /// The row that the first hour changes stands as it says in the file that it names.
 TEST(Documents, BeginAnExampleWithWhatIsThere) {
   const std::string lesson = TemporaryFolder::Content(kRoot / "docs/first-hour.md");

@@ -18,7 +18,7 @@ class UnsavedTexts : public ToolForm {
   CommandButton Command1{*this, "Command1", "&Bring back", &UnsavedTexts::Command1_Click};
   CommandButton Command2{*this, "Command2", "&Keep both", &UnsavedTexts::Command2_Click};
   CommandButton Command3{*this, "Command3", "&Throw away", &UnsavedTexts::Command3_Click};
-  CommandButton Command4{*this, "Command4", "&Next difference", &UnsavedTexts::Command4_Click};
+  CommandButton Command4{*this, "Command4", "Ne&xt difference", &UnsavedTexts::Command4_Click};
   CommandButton Command5{*this, "Command5", "&Later", &UnsavedTexts::Close};
 
   void Command1_Click() { WithPicked(&Recovery::BringBack); }

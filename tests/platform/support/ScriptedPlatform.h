@@ -180,6 +180,7 @@ struct Instead {
   Help* help = nullptr;
   Printer* printer = nullptr;
   Programs* programs = nullptr;
+  Journals* journals = nullptr;
 };
 
 /// All of it.
@@ -214,7 +215,7 @@ struct ScriptedPlatform {
             keyboard,
             given(instead.programs, static_cast<Programs&>(programs)),
             drives,
-            journals,
+            given(instead.journals, static_cast<Journals&>(journals)),
             {1920, 1440},
             "c:\\tarvik",
             std::move(commandLine)};
