@@ -13,7 +13,6 @@ constexpr float kPaneLeft = 3;
 constexpr float kPaneTop = 23;
 constexpr float kPaneRight = 3;
 constexpr float kPaneBottom = 22;
-constexpr float kNoticeHeight = 44;
 
 // Distances in the frame, in twips.
 constexpr float kMargin = 120;
@@ -80,9 +79,10 @@ void Layout::PlaceTabStrip() {
 float Layout::PlaceNotice() {
   const TabStrip& strip = documents_.tabs;
   const float top = strip.Top + kPaneTop;
-  if (!controls_.notice.Visible) return top;
-  controls_.notice.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, kNoticeHeight);
-  return top + kNoticeHeight;
+  NoticeBar& notice = controls_.notice;
+  if (!notice.frame.Visible) return top;
+  notice.frame.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, notice.Height());
+  return top + notice.Height();
 }
 
 void Layout::PositionControls() {

@@ -3,7 +3,7 @@
 // twips.
 #pragma once
 
-#include "workbench/Documents.h"
+#include "app/NoticeBar.h"
 
 namespace tarvik {
 
@@ -27,7 +27,7 @@ struct LayoutControls {
   ControlArray<CommandButton>& buttons;
   MenuItem& viewMacros;
   MenuItem& tile;
-  Frame& notice;
+  NoticeBar& notice;
 };
 
 class Layout {

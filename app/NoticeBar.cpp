@@ -13,6 +13,7 @@ NoticeBar::NoticeBar(Form& form, Workbench& bench, std::function<void()> place)
           bench.documents.tabs.SelectedItem.Changed.Connect([this] { Show(); }),
       } {
   frame.Visible = false;
+  text.BackColor = ToggleLabel::kOff;
   for (int i = 0; i < kMostActions; ++i) commands(i).Click = [this, i] { Run(i); };
 }
 
@@ -27,6 +28,10 @@ void NoticeBar::Show() {
   if (frame.Visible == (notice != nullptr)) return;
   frame.Visible = notice != nullptr;
   place_();
+}
+
+void NoticeBar::Need(float pixels) {
+  if (std::exchange(height_, pixels) != pixels && frame.Visible) place_();
 }
 
 /// The action may take the notice away in which it stands.

@@ -110,7 +110,12 @@ Outcome<> Pane::LoadFile(std::string_view path) {
 }
 
 Outcome<> Pane::SaveFile(std::string_view path, FileFormat format) const {
-  return files_.Write(path, format == FileFormat::Text ? content_.text : TextRTF.Get());
+  const std::string content = format == FileFormat::Text ? content_.text : TextRTF.Get();
+  if (auto written = files_.Write(path, content); !written) return written;
+  const auto read = files_.Read(path);
+  if (!read) return read.failure();
+  if (*read != content) return Failure{error::kUnexpected, "The file does not hold what was written", 0};
+  return Done{};
 }
 
 void Pane::Select(Range range) { MoveSelection(Clipped(range)); }

@@ -57,7 +57,8 @@ class Pane : public Control {
   void ApplyEdit(const PaneEdit& edit);
   /// Loads a file: RTF as RTF, anything else as plain text in black. On failure the pane stays as it was.
   Outcome<> LoadFile(std::string_view path);
-  /// Replaces the file with the plain text, byte for byte, or with the content as RTF.
+  /// Replaces the file with the plain text, byte for byte, or with the content as RTF. It has succeeded when
+  /// the file, read again, holds that.
   Outcome<> SaveFile(std::string_view path, FileFormat format = FileFormat::Rtf) const;
 
   // The selection.

@@ -17,6 +17,7 @@ namespace fs = std::filesystem;
 
 constexpr mode_t kOwnersFolder = 0700;
 constexpr mode_t kOwnersFile = 0600;
+constexpr off_t kLargest = off_t{1} << 28;  // bytes: more than any text makes
 constexpr const char* kEnding = ".journal";
 
 /// Makes what was written to a file last through a power cut, while the program goes on.
@@ -34,6 +35,11 @@ class Flusher {
 
   /// The system flushes one file once at a time. Where one flush runs and another waits behind it, that one
   /// takes along what was written meanwhile.
+  [[nodiscard]] bool IsIdle() const {
+    return std::ranges::none_of(requests_,
+                                [](const aiocb& request) { return aio_error(&request) == EINPROGRESS; });
+  }
+
   void Flush(int file) {
     const auto idle = std::find_if(requests_.begin(), requests_.end(),
                                    [](const aiocb& request) { return aio_error(&request) != EINPROGRESS; });
@@ -58,7 +64,8 @@ class HostJournalFile : public JournalFile {
       file_.Open(path_, O_WRONLY | O_APPEND | O_CREAT | O_EXCL, kOwnersFile);
       if (!file_.IsOpen() && errno != EEXIST) return;
     }
-    if (file_.IsOpen()) flock(file_.number(), LOCK_EX | LOCK_NB);
+    // Somebody who looks whether the journal is written holds the lock for a moment.
+    while (file_.IsOpen() && flock(file_.number(), LOCK_EX) != 0 && errno == EINTR) continue;
     folder_.Open(folder, O_RDONLY | O_DIRECTORY);
     if (folder_.IsOpen()) folderFlusher_.Flush(folder_.number());
   }
@@ -71,6 +78,8 @@ class HostJournalFile : public JournalFile {
     return written;
   }
 
+  [[nodiscard]] bool IsDurable() const override { return flusher_.IsIdle() && folderFlusher_.IsIdle(); }
+
   void Remove() override { unlink(path_.c_str()); }
 
  private:
@@ -81,14 +90,16 @@ class HostJournalFile : public JournalFile {
   Flusher flusher_;
 };
 
-/// True for a folder that is the user's own and nobody else's, which it is made where it can be.
-bool IsPrivate(const fs::path& folder) {
-  mkdir(folder.c_str(), kOwnersFolder);
+/// Whatever somebody else put in its place is none.
+bool IsOwnFolder(const fs::path& folder) {
   struct stat status {};
-  if (lstat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode) || status.st_uid != geteuid()) {
-    return false;
-  }
-  return (status.st_mode & ~kOwnersFolder & 07777) == 0 || chmod(folder.c_str(), kOwnersFolder) == 0;
+  return lstat(folder.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid();
+}
+
+/// True for a folder that is the user's own and nobody else's, which it is made where it can be.
+bool IsMadePrivate(const fs::path& folder) {
+  mkdir(folder.c_str(), kOwnersFolder);
+  return IsOwnFolder(folder) && chmod(folder.c_str(), kOwnersFolder) == 0;
 }
 
 bool IsWritten(const fs::path& journal) {
@@ -113,7 +124,7 @@ std::vector<fs::path> HostJournals::PlacesOf(const fs::path& programFolder) {
 Outcome<std::unique_ptr<JournalFile>> HostJournals::Begin(std::string_view bytes) {
   Failure failure = SystemFailure(ENOENT);
   for (const fs::path& place : places_) {
-    if (!IsPrivate(place)) continue;
+    if (!IsMadePrivate(place)) continue;
     auto file = std::make_unique<HostJournalFile>(place);
     if (!file->IsOpen()) {
       failure = SystemFailure(errno);
@@ -130,6 +141,7 @@ Outcome<std::unique_ptr<JournalFile>> HostJournals::Begin(std::string_view bytes
 std::vector<std::string> HostJournals::Left() const {
   std::vector<std::pair<fs::file_time_type, std::string>> found;
   for (const fs::path& place : places_) {
+    if (!IsOwnFolder(place)) continue;
     std::error_code error;
     for (fs::directory_iterator at(place, error), end; !error && at != end; at.increment(error)) {
       std::error_code unknown;
@@ -149,6 +161,7 @@ Outcome<std::string> HostJournals::Read(const std::string& name) const {
   struct stat status {};
   if (!file.IsOpen() || fstat(file.number(), &status) != 0) return SystemFailure(errno, error::kFileNotFound);
   if (!S_ISREG(status.st_mode)) return SystemFailure(EACCES);
+  if (status.st_size > kLargest) return SystemFailure(EFBIG);
   return file.ReadAll(static_cast<std::size_t>(status.st_size));
 }
 

@@ -18,6 +18,8 @@ class JournalFile {
   virtual ~JournalFile() = default;
   /// Afterwards the bytes outlive the process; the disk gets them a moment later, and nobody waits for that.
   virtual Outcome<> Append(std::string_view bytes) = 0;
+  /// True once the disk has all that was appended.
+  [[nodiscard]] virtual bool IsDurable() const = 0;
   /// Nobody needs it any more; nothing is appended afterwards.
   virtual void Remove() = 0;
 };

@@ -5,9 +5,7 @@
 #include <QShortcut>
 
 #include "screen/MumWindow.h"
-#include "screen/pages/FormLayout.h"
 #include "screen/widgets/Conversions.h"
-#include "screen/widgets/Icons.h"
 
 namespace tarvik::screen {
 namespace {
@@ -15,8 +13,6 @@ namespace {
 constexpr int kTabHeight = 23;
 constexpr int kCaptionTop = 3;
 constexpr int kCaptionLeft = 8;
-constexpr int kNoticeMargin = 8;
-constexpr int kNoticeIcon = 22;
 
 /// The macro frame: a caption, and a line along the edge that can be dragged.
 class FrameView : public QWidget {
@@ -60,7 +56,7 @@ EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(
   FollowArrays(editor.menus, bindings_);
   MakeMacroFrame();
   MakeTabs();
-  MakeNotice();
+  notice_ = new NoticeView(editor.notice, bindings_, this);
   MakePanes();
   OrderFocus();
   bindings_.Shows(editor, *this);
@@ -122,23 +118,6 @@ void EditorView::MakePanes() {
   bindings_.Place(editor_.MacroText, *panes_[1], Unit::Pixel);
 }
 
-void EditorView::MakeNotice() {
-  auto* const bar = new QFrame(this);
-  bar->setFrameShape(QFrame::StyledPanel);
-  bar->setAutoFillBackground(true);
-  bindings_.BindControl(editor_.notice.frame, *bar);
-  bindings_.Place(editor_.notice.frame, *bar, Unit::Pixel);
-  const FormLayout in(bindings_);
-  QLabel* const text = Wrapped(in.Show(editor_.notice.text));
-  auto* const picture = new QLabel;
-  picture->setPixmap(Icon("dialog-information").pixmap(kNoticeIcon));
-  auto* const row = new QHBoxLayout(bar);
-  row->setContentsMargins(kNoticeMargin, 0, kNoticeMargin, 0);
-  row->addWidget(picture);
-  row->addWidget(text, 1);
-  for (int i = 0; i < NoticeBar::kMostActions; ++i) row->addWidget(in.Show(editor_.notice.commands(i)));
-}
-
 /// The Tab key goes as the eye does. The upper row of the modifier buttons ends with the last of their array.
 void EditorView::OrderFocus() {
   const auto button = [this](int index) {
@@ -147,7 +126,9 @@ void EditorView::OrderFocus() {
   setTabOrder(button(modifier::kFirstLower - 1), button(modifier::kLastUpper));
   setTabOrder(button(modifier::kLastUpper), button(modifier::kFirstLower));
   setTabOrder(button(modifier::kLastLower), tabs_);
-  setTabOrder(tabs_, panes_[0]);
+  QWidget* last = tabs_;
+  for (QWidget* const next : notice_->buttons()) setTabOrder(std::exchange(last, next), next);
+  setTabOrder(last, panes_[0]);
   setTabOrder(panes_[0], panes_[1]);
 }
 

@@ -5,6 +5,7 @@
 
 #include "app/Editor.h"
 #include "screen/FormView.h"
+#include "screen/NoticeView.h"
 #include "screen/widgets/ListStack.h"
 #include "screen/widgets/MenuBuilder.h"
 #include "screen/widgets/PaneView.h"
@@ -26,7 +27,6 @@ class EditorView : public QWidget, public FormView {
  private:
   void MakeMacroFrame();
   void MakeTabs();
-  void MakeNotice();
   void MakePanes();
   void OrderFocus();
   void PlaceTabs();
@@ -36,6 +36,7 @@ class EditorView : public QWidget, public FormView {
   std::vector<std::unique_ptr<QMenu>> popUps_;
   ListStack* list_ = nullptr;
   QTabBar* tabs_ = nullptr;
+  NoticeView* notice_ = nullptr;
   PaneView* panes_[2] = {};
 };
 

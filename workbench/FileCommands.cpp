@@ -134,6 +134,14 @@ void FileCommands::NameUntitled(Document& document) {
   ShowName(document);
 }
 
+void FileCommands::NameAfter(Document& document, const std::string& path) {
+  const auto file = FileAt(path);
+  if (!file) return;
+  document.Path = file->path;
+  document.Name = file->name;
+  ShowName(document);
+}
+
 void FileCommands::ResetHistory(Document& document) {
   document.Undo.Clear();
   documents_.HistoryChanged();
@@ -464,20 +472,11 @@ void FileCommands::SaveText(Document& document) {
   if (documents_.settings.UndoClearOnSave == 1) ResetHistory(document);
 }
 
-Outcome<> FileCommands::WriteText(const Document& document, const Pane& text) const {
-  auto written = text.SaveFile(document.Path.Get(), FileFormat::Text);
-  if (!written) return written;
-  const auto read = documents_.platform.files.Read(document.Path.Get());
-  if (!read) return read.failure();
-  if (*read != text.Characters()) return Failure{error::kUnexpected, "The file does not hold the text", 0};
-  return written;
-}
-
 void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   const Trap trap{documents_.errors, tag};
   const Scratch scratch(documents_.scratch);
   scratch->SetContent(RichText(std::string(document.text.Characters())));
-  const Outcome<> written = WriteText(document, *scratch);
+  const Outcome<> written = scratch->SaveFile(document.Path.Get(), FileFormat::Text);
   trap(written);
   const auto shown = FileName::From(documents_.TabOf(document).Caption.Get());
   if (documents_.settings.CreateBackup == 1 && shown) {

@@ -22,6 +22,8 @@ class FileCommands {
 
   /// Gives a file that has no name yet one, with its path and the caption of its tab.
   void NameUntitled(Document& document);
+  /// The document, which is new, is that of the path again, where no file is any more.
+  void NameAfter(Document& document, const std::string& path);
   /// Asks about unsaved work first. False: the user keeps the document.
   bool New(Document& document);
   void Load(Document& document);
@@ -82,8 +84,6 @@ class FileCommands {
   void TakeFile(Document& document, const NamedFile& file);
   void FillPane(Document& document, const Trap& trap);
   void SaveText(Document& document);
-  /// It has succeeded when the file, read again, holds the text.
-  [[nodiscard]] Outcome<> WriteText(const Document& document, const Pane& text) const;
   void OpenMacroThenJoystick(const NamedFile& file, const Trap& trap);
   void OpenJoystickThenMacro(const NamedFile& file, const Trap& trap);
   void OpenMacro(const NamedFile& file, const Trap& trap);

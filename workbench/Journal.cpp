@@ -1,6 +1,8 @@
 #include "workbench/Journal.h"
 
 #include <algorithm>
+#include <new>
+#include <utility>
 
 namespace tarvik {
 namespace {
@@ -18,9 +20,21 @@ JournalKeeper::JournalKeeper(const Platform& platform, Errors& errors)
   timer.Elapsed = [this] { Write(); };
 }
 
+/// What one journal lacks is no reason to leave out the others. It is told once, when it begins and when it
+/// ends.
 bool JournalKeeper::Write() {
   timer.Enabled = false;
-  return std::ranges::count_if(journals_, [](Journal* journal) { return !journal->Write(); }) == 0;
+  std::optional<Failure> failure;
+  for (Journal* const journal : journals_) {
+    if (const auto written = journal->Write(); !written) failure = written.failure();
+  }
+  const bool failed = std::exchange(failure_, failure).has_value();
+  if (failure && !failed) {
+    errors_.Record("Journal", *failure);
+    KeepsNothing(*failure);
+  }
+  if (failed && !failure) KeepsAgain();
+  return !failure;
 }
 
 // One.
@@ -33,33 +47,42 @@ Journal::Journal(JournalKeeper& keeper, Head head, Whole whole)
 Journal::~Journal() { std::erase(keeper_.journals_, this); }
 
 void Journal::Begin() {
-  if (std::exchange(begun_, true)) return;
-  needsWhole_ = true;
-  Awaken();
+  if (!std::exchange(begun_, true)) NeedWhole();
 }
 
+/// Where memory is short the text is written as a whole later on.
 void Journal::Note(const PaneEdit& edit) {
   if (!begun_ || needsWhole_) return;
-  noted_ += EditRecord(edit);
+  try {
+    noted_ += EditRecord(edit);
+  } catch (const std::bad_alloc&) {
+    return NeedWhole();
+  }
   Awaken();
 }
 
 void Journal::NoteWhole() {
-  if (!begun_) return;
+  if (begun_) NeedWhole();
+}
+
+void Journal::NeedWhole() {
   needsWhole_ = true;
+  noted_.clear();
   Awaken();
 }
 
 void Journal::Remove() {
-  if (file_) file_->Remove();
-  file_.reset();
+  for (auto* const file : {&file_, &former_}) {
+    if (*file) (*file)->Remove();
+    file->reset();
+  }
   noted_.clear();
-  begun_ = needsWhole_ = failed_ = false;
+  begun_ = needsWhole_ = false;
 }
 
 void Journal::Leave() {
   if (!begun_) return;
-  Write();
+  keeper_.Write();
   const bool left = file_ != nullptr;
   file_.reset();
   Remove();
@@ -72,33 +95,48 @@ std::string Journal::Time() const {
   return keeper_.calendar_.ShortDate() + " " + keeper_.calendar_.TimeOfDay();
 }
 
-bool Journal::Write() {
-  if (!begun_ || (!needsWhole_ && noted_.empty())) return true;
-  return Append() || WriteWhole();
-}
-
-bool Journal::Append() {
-  if (!file_ || needsWhole_ || noted_.size() > room_) return false;
-  room_ -= noted_.size();
-  return Ignore(file_->Append(std::exchange(noted_, {}) + TimeRecord(Time()))).has_value();
-}
-
-/// The old journal stays until the new one holds all. Where nothing takes it, that is tried again and again.
-bool Journal::WriteWhole() {
-  const RichText text = whole_();
-  noted_.clear();
-  auto next = keeper_.store_.Begin(HeadRecord(head_()) + TextRecord(text) + TimeRecord(Time()));
-  needsWhole_ = !next;
-  if (!next) {
-    if (!std::exchange(failed_, true)) keeper_.errors_.Record("Journal", next.failure());
-    Awaken();
-    return false;
+Outcome<> Journal::Write() {
+  try {
+    RemoveFormer();
+    if (!begun_ || (!needsWhole_ && noted_.empty())) return Done{};
+    if (file_ && !needsWhole_ && noted_.size() <= room_ && Append()) return Done{};
+    return WriteWhole();
+  } catch (const std::bad_alloc&) {
+    NeedWhole();
+    return Failure{error::kOutOfMemory, "Out of memory", 0};
   }
-  if (file_) file_->Remove();
-  file_ = *std::move(next);
-  failed_ = false;
+}
+
+Outcome<> Journal::Append() {
+  auto appended = file_->Append(noted_ + TimeRecord(Time()));
+  room_ -= noted_.size();
+  noted_.clear();
+  return appended;
+}
+
+/// Where nothing takes it, that is tried again and again; the journal there is stays.
+Outcome<> Journal::WriteWhole() {
+  needsWhole_ = true;
+  noted_.clear();
+  const RichText text = whole_();
+  auto next = keeper_.store_.Begin(HeadRecord(head_()) + TextRecord(text) + TimeRecord(Time()));
+  if (!next) {
+    Awaken();
+    return next.failure();
+  }
+  if (former_) former_->Remove();
+  former_ = std::exchange(file_, *std::move(next));
+  needsWhole_ = false;
   room_ = std::max(kLeastRoom, text.size());
-  return true;
+  RemoveFormer();
+  return Done{};
+}
+
+void Journal::RemoveFormer() {
+  if (!former_) return;
+  if (!file_->IsDurable()) return Awaken();
+  former_->Remove();
+  former_.reset();
 }
 
 }  // namespace tarvik

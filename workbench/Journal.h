@@ -28,6 +28,9 @@ class JournalKeeper {
 
   /// A journal was left behind: its text is neither saved nor given up.
   Signal<> TextLeft;
+  /// No disk takes what is typed; and takes it again.
+  Signal<const Failure&> KeepsNothing;
+  Signal<> KeepsAgain;
 
  private:
   friend class Journal;
@@ -36,6 +39,7 @@ class JournalKeeper {
   Calendar& calendar_;
   Errors& errors_;
   std::vector<Journal*> journals_;
+  std::optional<Failure> failure_;  // of the last writing
 };
 
 class Journal {
@@ -65,21 +69,22 @@ class Journal {
   friend class JournalKeeper;
 
   void Awaken();
-  /// False where what is noted is on no disk.
-  bool Write();
-  /// False where the text must be written as a whole.
-  bool Append();
-  bool WriteWhole();
+  /// What is noted does not make the text any more, or never did.
+  void NeedWhole();
+  Outcome<> Write();
+  Outcome<> Append();
+  Outcome<> WriteWhole();
+  void RemoveFormer();
   [[nodiscard]] std::string Time() const;
 
   JournalKeeper& keeper_;
   Head head_;
   Whole whole_;
   std::unique_ptr<JournalFile> file_;
+  std::unique_ptr<JournalFile> former_;  // it stays until the disk has the journal that took its place
   std::string noted_;
   bool begun_ = false;
   bool needsWhole_ = false;
-  bool failed_ = false;   // to be written, which was recorded
   std::size_t room_ = 0;  // bytes that may be appended before the journal is folded
 };
 

@@ -1,6 +1,7 @@
 #include "workbench/Recovery.h"
 
 #include <algorithm>
+#include <new>
 
 #include "text/CodePage.h"
 #include "text/Rtf.h"
@@ -13,6 +14,13 @@ constexpr std::size_t kMostKept = 30;
 std::string LinesDiffer(std::size_t lines) {
   if (lines == 0) return "as in the file";
   return lines == 1 ? "1 line differs" : TextOf(lines) + " lines differ";
+}
+
+bool IsUntitled(const JournalHead& head) { return head.name.starts_with("untitled"); }
+
+/// Files of one name in two folders are told apart.
+const std::string& ShownName(const JournalHead& head) {
+  return IsUntitled(head) || head.kind == TextKind::Logic ? head.name : head.path;
 }
 
 bool IsRich(const UnsavedText& unsaved) {
@@ -31,21 +39,39 @@ Recovery::Recovery(Documents& documents, FileCommands& files, ColouredInsertion&
       store_(documents.platform.journals),
       left_(keeper.TextLeft.Connect([this] { Look(); })) {}
 
-/// A journal in which nothing is whole has nothing to give; it is not touched either.
+/// A journal in which nothing is whole has nothing to give. One whose text is what its file holds has nothing
+/// to add, and goes.
 void Recovery::Look() {
   texts_.clear();
-  const std::vector<std::string> names = store_.Left();
-  for (auto name = names.rbegin(); name != names.rend(); ++name) {
-    if (texts_.size() == kMostKept) {
-      store_.Remove(*name);
-      continue;
+  std::vector<std::string> names = store_.Left();
+  std::ranges::reverse(names);
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    if (i >= kMostKept) {
+      store_.Remove(names[i]);
+    } else if (auto unsaved = Read(names[i])) {
+      texts_.push_back({names[i], *std::move(unsaved)});
+      if (!IsInItsFile(texts_.back())) continue;
+      texts_.pop_back();
+      store_.Remove(names[i]);
     }
-    const auto bytes = store_.Read(*name);
-    auto unsaved = bytes ? ReadJournal(*bytes) : std::nullopt;
-    if (unsaved) texts_.push_back({*name, *std::move(unsaved)});
   }
   Tell();
   Changed();
+}
+
+std::optional<UnsavedText> Recovery::Read(const std::string& journal) const {
+  try {
+    const auto bytes = store_.Read(journal);
+    return bytes ? ReadJournal(*bytes) : std::nullopt;
+  } catch (const std::bad_alloc&) {
+    return {};
+  }
+}
+
+bool Recovery::IsInItsFile(const LeftText& left) const {
+  if (!documents_.platform.files.FileExists(left.unsaved.head.path)) return false;
+  const RichText now = InFile(left);
+  return IsRich(left.unsaved) ? now == left.unsaved.text : now.text == left.unsaved.text.text;
 }
 
 void Recovery::Tell() {
@@ -53,11 +79,11 @@ void Recovery::Tell() {
   const NoticeAction compare{"Compare ...", [this] { WantsPage(); }};
   if (texts_.size() > 1) {
     return notices_.Show(Matter::TextsLeft, nullptr,
-                         {TextOf(texts_.size()) + " texts were not saved when Tarvik ended.", {compare}});
+                         {TextOf(texts_.size()) + " texts were not saved.", {compare}});
   }
   const std::string journal = texts_.front().journal;
   notices_.Show(Matter::TextsLeft, nullptr,
-                {"Not saved when Tarvik ended: " + Describe(texts_.front()),
+                {"Not saved: " + Describe(texts_.front()),
                  {compare,
                   {"Bring back", [this, journal] { BringBack(journal); }},
                   {"Keep both", [this, journal] { KeepBoth(journal); }},
@@ -84,14 +110,17 @@ std::string Recovery::Describe(const LeftText& left) const {
   const std::string differ =
       isThere ? LinesDiffer(LinesOf(DifferencesOf(InFile(left).text, unsaved.text.text))) : "in no file";
   const std::string part = unsaved.isWhole ? "" : ", the last of it damaged";
-  return unsaved.head.name + ", " + unsaved.written + ", " + differ + part;
+  return ShownName(unsaved.head) + ", " + unsaved.written + ", " + differ + part;
 }
 
+/// Also where the file is open already: what is in its window may be saved nowhere either.
 bool Recovery::Open(Document& document, const JournalHead& head) {
   const std::string path = LowerCase(head.path);
-  const bool isOpen = document.Path.Get() == path && document.Dirty != saved::kModified;
-  if (isOpen) return true;
-  if (!documents_.platform.files.FileExists(path)) return files_.New(document);
+  if (!documents_.platform.files.FileExists(path)) {
+    if (!files_.New(document)) return false;
+    if (!IsUntitled(head)) files_.NameAfter(document, path);
+    return true;
+  }
   files_.OpenWithoutDialog(path);
   files_.Load(document);
   files_.OpenWithDialogs();
@@ -118,25 +147,31 @@ void Recovery::BringBack(const std::string& journal) {
   if (unsaved.head.kind == TextKind::Macro) isBack = BringBackInto(documents_.macro, unsaved);
   Returns(unsaved, isBack);
   if (!isBack || !keeper_.Write()) return;
-  documents_.Say(unsaved.head.name + " is back, and not saved yet");
+  documents_.Say(ShownName(unsaved.head) + " is back, and not saved yet");
   ThrowAway(journal);
 }
 
-std::string Recovery::FreeNameBeside(const std::string& path) const {
-  const std::size_t dot = std::max(path.rfind('.'), path.rfind('\\') + 1);
-  const std::string stem = path.substr(0, dot) + "-recovered";
-  const std::string ending = dot < path.size() ? path.substr(dot) : "";
-  const auto numbered = [&](int number) { return stem + "-" + TextOf(number) + ending; };
-  std::string name = stem + ending;
-  for (int i = 2; documents_.platform.files.FileExists(name); ++i) name = numbered(i);
-  return name;
+/// An untitled text goes where the user's files are.
+std::string Recovery::FreeNameBeside(const JournalHead& head) const {
+  const std::string& own = documents_.settings.ProgramFilesPath;
+  const std::string folder = !IsUntitled(head) ? head.path.substr(0, head.path.rfind('\\') + 1)
+                             : own.empty()     ? documents_.platform.folder + "\\"
+                                               : own + "\\";
+  const std::string name = IsUntitled(head) ? head.name : head.path.substr(head.path.rfind('\\') + 1);
+  const std::size_t dot = std::min(name.rfind('.'), name.size());
+  const auto numbered = [&](const std::string& number) {
+    return folder + name.substr(0, dot) + "-recovered" + number + name.substr(dot);
+  };
+  std::string free = numbered({});
+  for (int i = 2; documents_.platform.files.FileExists(free); ++i) free = numbered("-" + TextOf(i));
+  return free;
 }
 
 void Recovery::KeepBoth(const std::string& journal) {
   const LeftText* const left = Find(journal);
   if (!left) return;
   const Trap trap{documents_.errors, "Recovery KeepBoth"};
-  const std::string path = FreeNameBeside(left->unsaved.head.path);
+  const std::string path = FreeNameBeside(left->unsaved.head);
   const Scratch scratch(documents_.scratch);
   scratch->SetContent(left->unsaved.text);
   if (!trap(scratch->SaveFile(path, IsRich(left->unsaved) ? FileFormat::Rtf : FileFormat::Text))) {

@@ -46,11 +46,13 @@ class Recovery {
   Signal<const UnsavedText&, bool&> Returns;
 
  private:
+  [[nodiscard]] std::optional<UnsavedText> Read(const std::string& journal) const;
+  [[nodiscard]] bool IsInItsFile(const LeftText& left) const;
   void Tell();
   bool BringBackInto(Document& document, const UnsavedText& unsaved);
   /// False when the user keeps what is there.
   bool Open(Document& document, const JournalHead& head);
-  [[nodiscard]] std::string FreeNameBeside(const std::string& path) const;
+  [[nodiscard]] std::string FreeNameBeside(const JournalHead& head) const;
   [[nodiscard]] const LeftText* Find(const std::string& journal) const;
 
   Documents& documents_;

@@ -20,7 +20,8 @@ UnsavedWork::Work::Work(JournalKeeper& keeper, Document& itsDocument)
 }
 
 UnsavedWork::UnsavedWork(JournalKeeper& keeper, Documents& documents, FileCommands& files, Notices& notices)
-    : files_(files),
+    : keeper_(keeper),
+      files_(files),
       notices_(notices),
       joystick_(keeper, documents.joystick),
       macro_(keeper, documents.macro),
@@ -28,30 +29,41 @@ UnsavedWork::UnsavedWork(JournalKeeper& keeper, Documents& documents, FileComman
           files.Leaves.Connect([this](const Document& document) { Leaves(document); }),
           files.Written.Connect(
               [this](Document& document, const Outcome<>& outcome) { Written(document, outcome); }),
+          keeper.KeepsNothing.Connect([this](const Failure& failure) { KeepsNothing(failure); }),
+          keeper.KeepsAgain.Connect([this] { notices_.Remove(Matter::NotKept, nullptr); }),
       } {}
 
-/// Of a document that counts as modified the user was asked; one whose save failed counts as saved.
+/// Whoever is asked about a document that counts as modified, and lets it go, gives the text up. One that
+/// counts as saved and is not went unasked.
 void UnsavedWork::Leaves(const Document& document) {
-  Work& work = Of(document);
+  Journal& journal = Of(document).journal;
   notices_.Remove(Matter::SaveFailed, &document);
-  if (std::exchange(work.failed, false) && document.Dirty != saved::kModified) return work.journal.Leave();
-  work.journal.Remove();
+  if (document.Dirty == saved::kModified) {
+    journal.Remove();
+  } else {
+    journal.Leave();
+  }
 }
 
 void UnsavedWork::Written(Document& document, const Outcome<>& outcome) {
-  Work& work = Of(document);
-  work.failed = !outcome;
-  if (!work.failed) {
-    work.journal.Remove();
+  Journal& journal = Of(document).journal;
+  if (outcome) {
+    journal.Remove();
     return notices_.Remove(Matter::SaveFailed, &document);
   }
-  work.journal.Begin();
-  work.journal.NoteWhole();  // it may go by another name now
+  journal.Begin();
+  journal.NoteWhole();  // it may go by another name now
+  const char* const kept = keeper_.Write() ? ". What you have typed is kept all the same."
+                                           : ". What you have typed is in this window and nowhere else.";
   notices_.Show(Matter::SaveFailed, &document,
-                {document.Path.Get() + " could not be written: " + outcome.failure().text +
-                     ". What you have typed is kept all the same.",
+                {document.Path.Get() + " could not be written: " + outcome.failure().text + kept,
                  {{"Try again", [this, &document] { files_.Save(document); }},
                   {"Save elsewhere ...", [this, &document] { files_.SaveAs(document); }}}});
+}
+
+void UnsavedWork::KeepsNothing(const Failure& failure) {
+  notices_.Show(Matter::NotKept, nullptr,
+                {"What you type is on no disk until you save it: " + failure.text + ".", {}});
 }
 
 void UnsavedWork::End() {

@@ -22,14 +22,15 @@ class UnsavedWork {
 
     Document& document;
     Journal journal;
-    bool failed = false;  // to be saved, though the document does not say so
     std::vector<Connection> connections;
   };
 
   [[nodiscard]] Work& Of(const Document& document) { return document.IsJoystick() ? joystick_ : macro_; }
   void Leaves(const Document& document);
   void Written(Document& document, const Outcome<>& outcome);
+  void KeepsNothing(const Failure& failure);
 
+  JournalKeeper& keeper_;
   FileCommands& files_;
   Notices& notices_;
   Work joystick_;

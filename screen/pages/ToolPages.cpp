@@ -326,15 +326,16 @@ QLayout* Page(LogForm& form, const FormLayout& in) {
 }
 
 QLayout* Page(UnsavedTexts& form, const FormLayout& in) {
-  QWidget* const texts = Named(in.Show(form.List1), QStringLiteral("Texts"));
+  QWidget* const texts = Named(in.Show(form.Texts), QStringLiteral("Texts"));
+  texts->setMinimumHeight(48);
   texts->setMaximumHeight(120);
   QWidget* const inFile = in.Show(form.FileText);
-  QWidget* const unsaved = in.Show(form.LeftText);
-  for (QWidget* const pane : {inFile, unsaved}) pane->setMinimumSize(320, 260);
-  return Column({Wrapped(in.Show(form.Label1)), texts,
+  QWidget* const unsaved = in.Show(form.UnsavedText);
+  for (QWidget* const pane : {inFile, unsaved}) pane->setMinimumSize(180, 120);
+  return Column({Wrapped(in.Show(form.Explanation)), texts,
                  Row({Above("In the file now", inFile), Above("Not saved", unsaved)}),
-                 Row({in.Show(form.Command4), Stretch(), in.Show(form.Command1), in.Show(form.Command2),
-                      in.Show(form.Command3), in.Show(form.Command5)})});
+                 Row({in.Show(form.NextDifference), Stretch(), in.Show(form.BringBack),
+                      in.Show(form.KeepBoth), in.Show(form.ThrowAway), in.Show(form.Later)})});
 }
 
 QLayout* Page(ViewImage& form, const FormLayout& in) {

@@ -33,10 +33,17 @@ EndSignals::EndSignals(std::function<void()> beforeEnd) {
   connect(notifier, &QSocketNotifier::activated, this, [beforeEnd = std::move(beforeEnd)] {
     unsigned char told = SIGTERM;
     if (read(pipeEnds[0], &told, 1) != 1) return;
-    beforeEnd();
+    try {
+      beforeEnd();
+    } catch (...) {
+      EndBy(told);
+    }
     EndBy(told);
   });
-  for (const int number : kSignals) std::signal(number, Tell);
+  for (const int number : kSignals) {
+    // Whoever started the program may have told it to ignore one, as nohup does.
+    if (std::signal(number, Tell) == SIG_IGN) std::signal(number, SIG_IGN);
+  }
 }
 
 EndSignals::~EndSignals() {

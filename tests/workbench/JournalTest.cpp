@@ -211,7 +211,7 @@ TEST(Journal, ADamagedOneGivesWhatIsWholeAndSaysSo) {
   bare.workbench.recovery.Look();
   ASSERT_THAT(bare.workbench.recovery.Texts(), SizeIs(1));
   EXPECT_EQ(bare.workbench.recovery.Describe(bare.workbench.recovery.Texts().front()),
-            "a.m50, later, in no file, the last of it damaged");
+            "c:\\my\\a.m50, later, in no file, the last of it damaged");
   EXPECT_THAT(bare.outside.journals.content, SizeIs(2)) << "nothing is thrown away by itself";
 }
 

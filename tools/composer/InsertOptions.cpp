@@ -104,10 +104,10 @@ void InsertOptions::MakeFrame() {
   Unload = [this] { Form_Unload(); };
 }
 
-/// The lines were given up, or are in a file.
+/// Nobody asks about logic lines that are in no file.
 void InsertOptions::Form_Unload() {
   SaveSpaces();
-  logicJournal_.Remove();
+  logicJournal_.Leave();
 }
 
 void InsertOptions::ShowComposer() {

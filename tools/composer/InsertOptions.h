@@ -222,7 +222,6 @@ class InsertOptions : public ToolForm {
   void AddToLogicLine(std::string_view token);
   [[nodiscard]] Outcome<std::string> LogicLine(int index);
   [[nodiscard]] std::string LogicLinesOnShow() const;
-  void FillLogicLines(const std::vector<std::string>& lines);
   void LogicLinesChanged();
   /// Takes back the logic lines that were nowhere else when the program ended.
   bool TakeBack(const UnsavedText& unsaved);

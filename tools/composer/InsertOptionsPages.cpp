@@ -334,7 +334,7 @@ void InsertOptions::Command13_Click(int index) {
     insertion.InsertCarriageReturn();
   }
   insertion.EndColInsert();
-  logicJournal_.Remove();
+  if (bench_.journals.Write()) logicJournal_.Remove();  // they are in the file's journal
 }
 
 std::string InsertOptions::LogicLinesOnShow() const {
@@ -349,21 +349,25 @@ void InsertOptions::LogicLinesChanged() {
   logicJournal_.NoteWhole();
 }
 
+/// Into boxes that are empty: what the user has typed since stays.
 bool InsertOptions::TakeBack(const UnsavedText& unsaved) {
   if (unsaved.head.kind != TextKind::Logic) return false;
   std::vector<std::string> lines;
   std::istringstream text(unsaved.text.text);
-  for (std::string line; std::getline(text, line) && lines.size() < tables::kLogicLines;) {
-    lines.push_back(line.substr(0, line.find('\r')));
+  for (std::string line; std::getline(text, line);) lines.push_back(line.substr(0, line.find('\r')));
+  if (!LogicLinesOnShow().empty()) std::erase(lines, "");
+  std::vector<TextBox*> boxes;
+  for (int i = 0; i < RichTexFlag.Count(); ++i) {
+    if (RichTexFlag(i).Empty()) boxes.push_back(&RichTexFlag(i));
+  }
+  if (boxes.size() < lines.size()) {
+    Say("The logic page has no room for these lines");
+    return false;
   }
   SSTab1.Tab = kLogic;
-  FillLogicLines(lines);
-  return true;
-}
-
-void InsertOptions::FillLogicLines(const std::vector<std::string>& lines) {
-  for (std::size_t i = 0; i < lines.size(); ++i) RichTexFlag(static_cast<int>(i)).Text = lines[i];
   SSTabFlags.Tab = 0;
+  for (std::size_t i = 0; i < lines.size(); ++i) boxes[i]->Text = lines[i];
+  return true;
 }
 
 void InsertOptions::FindLogicStatements() {
@@ -375,7 +379,8 @@ void InsertOptions::FindLogicStatements() {
     bench_.platform.dialogs.Show({kNoLogicTitle, kNoLogic, BoxIcon::Information});
     return;
   }
-  FillLogicLines(lines);
+  for (std::size_t i = 0; i < lines.size(); ++i) RichTexFlag(static_cast<int>(i)).Text = lines[i];
+  SSTabFlags.Tab = 0;
   logicJournal_.Remove();
   OptionFlag(0).Value = true;
 }

@@ -22,23 +22,23 @@ RichText Marked(const std::string& text, const std::vector<Difference>& differen
 
 UnsavedTexts::UnsavedTexts(Workbench& bench, Shell& shell) : ToolForm("UnsavedTexts", bench, shell) {
   Caption = "Texts that were not saved";
-  Label1.Caption =
-      "These texts were not saved when Tarvik ended. Nothing happens to them, or to a file, until you say "
+  Explanation.Caption =
+      "These texts were not saved. Nothing happens to them, or to a file, until you say "
       "so.";
-  Label1.BackColor = ToggleLabel::kOff;
-  Command1.ToolTipText = "Opens the file and puts this text in its place, to be looked at and saved";
-  Command2.ToolTipText = "Writes this text into a new file beside the other one";
-  Command3.ToolTipText = "Forgets this text";
-  Command5.ToolTipText = "Leaves all as it is, until the next start";
-  Command5.Cancel = true;
-  for (Pane* const pane : {&FileText, &LeftText}) {
+  Explanation.BackColor = ToggleLabel::kOff;
+  BringBack.ToolTipText = "Opens the file and puts this text in its place, to be looked at and saved";
+  KeepBoth.ToolTipText = "Writes this text into a new file beside the other one";
+  ThrowAway.ToolTipText = "Forgets this text";
+  Later.ToolTipText = "Leaves all as it is, until the next start";
+  Later.Cancel = true;
+  for (Pane* const pane : {&FileText, &UnsavedText}) {
     ApplyFont(*pane, bench.settings);
     pane->Locked = true;
     pane->RightMargin = kNoWrapping;
   }
   connections_ = {
       bench.recovery.Changed.Connect([this] { FillList(); }),
-      List1.ListIndex.Changed.Connect([this] { ShowPicked(); }),
+      Texts.ListIndex.Changed.Connect([this] { ShowPicked(); }),
   };
   FillList();
 }
@@ -46,41 +46,42 @@ UnsavedTexts::UnsavedTexts(Workbench& bench, Shell& shell) : ToolForm("UnsavedTe
 void UnsavedTexts::FillList() {
   const Recovery& recovery = bench_.recovery;
   std::vector<std::string> lines;
-  for (const tarvik::LeftText& left : recovery.Texts()) lines.push_back(recovery.Describe(left));
+  for (const LeftText& left : recovery.Texts()) lines.push_back(recovery.Describe(left));
   const bool any = !lines.empty();
-  List1.FillInOrder(std::move(lines));
-  List1.ListIndex = any ? 0 : -1;
-  for (CommandButton* const command : {&Command1, &Command2, &Command3, &Command4}) command->Enabled = any;
+  Texts.FillInOrder(std::move(lines));
+  Texts.ListIndex = any ? 0 : -1;
+  for (CommandButton* const command : {&BringBack, &KeepBoth, &ThrowAway, &NextDifference})
+    command->Enabled = any;
   ShowPicked();
 }
 
 void UnsavedTexts::ShowPicked() {
   differences_.clear();
   next_ = 0;
-  const int picked = List1.ListIndex;
+  const int picked = Texts.ListIndex;
   if (picked < 0) {
-    for (Pane* const pane : {&FileText, &LeftText}) pane->SetContent({});
+    for (Pane* const pane : {&FileText, &UnsavedText}) pane->SetContent({});
     return;
   }
-  const tarvik::LeftText& left = bench_.recovery.Texts()[static_cast<std::size_t>(picked)];
+  const LeftText& left = bench_.recovery.Texts()[static_cast<std::size_t>(picked)];
   const std::string inFile = bench_.recovery.InFile(left).text;
   const std::string& unsaved = left.unsaved.text.text;
   differences_ = DifferencesOf(inFile, unsaved);
   FileText.SetContent(Marked(inFile, differences_, &Difference::before, kGone));
-  LeftText.SetContent(Marked(unsaved, differences_, &Difference::after, kCome));
-  Command4.Enabled = !differences_.empty();
-  if (!differences_.empty()) Command4_Click();
+  UnsavedText.SetContent(Marked(unsaved, differences_, &Difference::after, kCome));
+  NextDifference.Enabled = !differences_.empty();
+  if (!differences_.empty()) NextDifference_Click();
 }
 
-void UnsavedTexts::Command4_Click() {
+void UnsavedTexts::NextDifference_Click() {
   const Difference& difference = differences_[next_];
   next_ = (next_ + 1) % differences_.size();
   FileText.Select(difference.before);
-  LeftText.Select(difference.after);
+  UnsavedText.Select(difference.after);
 }
 
 void UnsavedTexts::WithPicked(void (Recovery::*act)(const std::string& journal)) {
-  const std::string journal = bench_.recovery.Texts()[static_cast<std::size_t>(List1.ListIndex)].journal;
+  const std::string journal = bench_.recovery.Texts()[static_cast<std::size_t>(Texts.ListIndex)].journal;
   (bench_.recovery.*act)(journal);
   if (bench_.recovery.Texts().empty()) Close();
 }

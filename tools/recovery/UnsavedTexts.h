@@ -11,21 +11,22 @@ class UnsavedTexts : public ToolForm {
  public:
   UnsavedTexts(Workbench& bench, Shell& shell);
 
-  Label Label1{*this, "Label1"};
-  ListBox List1{*this, "List1"};  ///< a line for each text, the newest first
+  Label Explanation{*this, "Explanation"};
+  ListBox Texts{*this, "Texts"};  ///< a line for each text, the newest first
   Pane FileText{*this, "FileText", bench_.platform.files};
-  Pane LeftText{*this, "LeftText", bench_.platform.files};
-  CommandButton Command1{*this, "Command1", "&Bring back", &UnsavedTexts::Command1_Click};
-  CommandButton Command2{*this, "Command2", "&Keep both", &UnsavedTexts::Command2_Click};
-  CommandButton Command3{*this, "Command3", "&Throw away", &UnsavedTexts::Command3_Click};
-  CommandButton Command4{*this, "Command4", "Ne&xt difference", &UnsavedTexts::Command4_Click};
-  CommandButton Command5{*this, "Command5", "&Later", &UnsavedTexts::Close};
+  Pane UnsavedText{*this, "UnsavedText", bench_.platform.files};
+  CommandButton BringBack{*this, "BringBack", "&Bring back", &UnsavedTexts::BringBack_Click};
+  CommandButton KeepBoth{*this, "KeepBoth", "&Keep both", &UnsavedTexts::KeepBoth_Click};
+  CommandButton ThrowAway{*this, "ThrowAway", "&Throw away", &UnsavedTexts::ThrowAway_Click};
+  CommandButton NextDifference{*this, "NextDifference", "Ne&xt difference",
+                               &UnsavedTexts::NextDifference_Click};
+  CommandButton Later{*this, "Later", "&Later", &UnsavedTexts::Close};
 
-  void Command1_Click() { WithPicked(&Recovery::BringBack); }
-  void Command2_Click() { WithPicked(&Recovery::KeepBoth); }
-  void Command3_Click() { WithPicked(&Recovery::ThrowAway); }
+  void BringBack_Click() { WithPicked(&Recovery::BringBack); }
+  void KeepBoth_Click() { WithPicked(&Recovery::KeepBoth); }
+  void ThrowAway_Click() { WithPicked(&Recovery::ThrowAway); }
   /// Goes to it in both texts, and from the last one to the first.
-  void Command4_Click();
+  void NextDifference_Click();
 
  private:
   void FillList();

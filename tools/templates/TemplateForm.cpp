@@ -276,13 +276,14 @@ bool TemplateForm::TakeBack(const UnsavedText& unsaved) {
       !MayOpen(" has changed and isn't saved. Do you want to save it before opening another file?")) {
     return false;
   }
-  const bool isThere = bench_.platform.files.FileExists(head.path);
-  FileName = isThere ? head.path : std::string();
+  const bool isTemplate = LowerCase(head.path).ends_with(".rtf");
+  FileName = isTemplate && !bench_.platform.files.FileExists(head.path) ? std::string() : head.path;
   TemplatePath = head.path;
   ShowName(head.name);
   TemplateText.SetContent(unsaved.text);
   mnuViewrefreshLayout_Click();
   TemplateChanged = 1;
+  journal_.NoteWhole();  // by this name from now on
   return true;
 }
 

@@ -47,6 +47,7 @@ class MemoryJournals : public Journals {
       journals_.content[name_] += bytes;
       return Done{};
     }
+    [[nodiscard]] bool IsDurable() const override { return true; }
     void Remove() override { journals_.content.erase(name_); }
 
    private:
