@@ -17,7 +17,7 @@ std::optional<fs::path> FileOf(const std::string& path, const Drives& drives) {
   auto host = drives.ToHost(path);
   std::error_code error;
   if (!host || !fs::is_regular_file(*host, error)) return std::nullopt;
-  return host;
+  return *std::move(host);
 }
 
 /// The command whose program is `name`, at the beginning of the line up to `end`.

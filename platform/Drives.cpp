@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/Descriptor.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -15,9 +16,19 @@ namespace fs = std::filesystem;
 
 constexpr char kRootDrive = 'z';
 
-bool Exists(const fs::path& path) {
-  std::error_code ignored;
-  return fs::exists(path, ignored);
+Failure Missing() { return SystemFailure(ENOENT); }
+
+/// Only this failure says that there is nothing. With any other one nobody knows.
+bool IsMissing(const Failure& failure) { return failure.systemCode == ENOENT; }
+
+/// The path, if something has it; `look` says whether that is to follow links.
+Outcome<fs::path> Existing(const fs::path& path, fs::file_status (*look)(const fs::path&, std::error_code&)) {
+  std::error_code error;
+  const fs::file_status status = look(path, error);
+  if (fs::exists(status)) return path;
+  const bool nobodyCanHaveIt = error == std::errc::filename_too_long;
+  const bool missing = status.type() == fs::file_type::not_found || nobodyCanHaveIt;
+  return missing ? Missing() : SystemFailure(error.value());
 }
 
 bool IsFolder(const fs::path& path) {
@@ -25,11 +36,8 @@ bool IsFolder(const fs::path& path) {
   return fs::is_directory(path, ignored);
 }
 
-/// Whether something has that path, a link without a target included.
-bool IsTaken(const fs::path& path) {
-  std::error_code ignored;
-  return fs::exists(fs::symlink_status(path, ignored));
-}
+/// The path, if something has it, a link without a target included.
+Outcome<fs::path> Taken(const fs::path& path) { return Existing(path, fs::symlink_status); }
 
 fs::path Absolute(const fs::path& path) {
   std::error_code error;
@@ -64,19 +72,26 @@ std::string LogicalName(const fs::path& hostName) {
   return name;
 }
 
-/// What the folder has under a logical name.
-std::optional<fs::path> Match(const fs::path& folder, const std::string& name) {
-  if (IsName(name) && IsTaken(folder / ToUtf8(name))) return folder / ToUtf8(name);
+/// What the folder has under a logical name that is not the exact one. Of several nobody knows which is
+/// meant.
+Outcome<fs::path> MatchByCase(const fs::path& folder, const std::string& name) {
   const std::string wanted = LowerCase(name);
-  std::optional<fs::path> match;
+  Outcome<fs::path> match = Missing();
   std::error_code error;
   for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
        entry.increment(error)) {
     if (LogicalName(entry->path().filename()) != wanted) continue;
-    if (match) return std::nullopt;
+    if (match) return Missing();
     match = entry->path();
   }
+  if (error) return SystemFailure(error == std::errc::not_a_directory ? ENOENT : error.value());
   return match;
+}
+
+/// What the folder has under a logical name.
+Outcome<fs::path> Match(const fs::path& folder, const std::string& name) {
+  auto exact = IsName(name) ? Taken(folder / ToUtf8(name)) : Missing();
+  return IsMissing(exact.failure()) ? MatchByCase(folder, name) : exact;
 }
 
 struct Placed {
@@ -103,8 +118,6 @@ std::optional<fs::path> LookUp(const std::map<std::string, fs::path>& known, con
   return found == known.end() ? std::nullopt : std::optional(found->second);
 }
 
-Failure PathNotFound() { return {error::kPathNotFound, "Path not found", ENOENT}; }
-
 }  // namespace
 
 Drives::Drives(const Folders& folders) {
@@ -127,44 +140,48 @@ void Drives::SetFolder(char letter, const std::string& folder) {
   if (current_.drive() == drive) current_.SetDrive('c');
 }
 
-std::optional<fs::path> Drives::Find(const LogicalPath& path) const {
+Outcome<fs::path> Drives::Find(const LogicalPath& path) const {
   const auto root = folders_.find(path.drive);
-  if (root == folders_.end()) return std::nullopt;
+  if (root == folders_.end()) return Missing();
   fs::path host = root->second;
   LogicalPath walked{.drive = path.drive};
   for (const std::string& name : path.names) {
     walked.names.push_back(name);
-    auto match = Match(host, name);
+    const auto match = Match(host, name);
     // Of several folders with that name, the one on the way to a picked file is meant.
-    if (!match) match = LookUp(holders_, walked);
-    if (!match) return std::nullopt;
-    host = *match;
+    const auto holder = match ? std::nullopt : LookUp(holders_, walked);
+    if (!match && !holder) return match.failure();
+    host = match ? *match : *holder;
   }
   return host;
 }
 
-std::optional<fs::path> Drives::ToHost(std::string_view path) const {
+Outcome<fs::path> Drives::ToHost(std::string_view path) const {
   const auto whole = current_.Complete(path);
-  if (!whole) return std::nullopt;
-  auto host = LookUp(picked_, *whole);
-  if (!host || !Exists(*host)) host = Find(*whole);
-  if (!host || !Exists(*host) || (whole->mustBeFolder && !IsFolder(*host))) return std::nullopt;
+  if (!whole) return Missing();
+  const auto picked = LookUp(picked_, *whole);
+  Outcome<fs::path> host = picked ? Existing(*picked, fs::status) : Missing();
+  if (IsMissing(host.failure())) host = Find(*whole);
+  if (host) host = Existing(*host, fs::status);
+  if (host && whole->mustBeFolder && !IsFolder(*host)) return Missing();
   return host;
 }
 
-std::optional<fs::path> Drives::ToHostNew(std::string_view path) const {
+Outcome<fs::path> Drives::ToHostNew(std::string_view path) const {
   auto folder = current_.Complete(path);
-  if (!folder || folder->mustBeFolder || folder->names.empty()) return std::nullopt;
-  auto picked = LookUp(picked_, *folder);
-  if (picked && IsTaken(*picked)) return picked;
+  if (!folder || folder->mustBeFolder || folder->names.empty()) return Missing();
+  const auto picked = LookUp(picked_, *folder);
+  if (picked && !IsMissing(Taken(*picked).failure())) return *picked;
   const std::string name = folder->names.back();
   folder->names.pop_back();
   const auto host = Find(*folder);
-  if (!host || !IsFolder(*host)) return std::nullopt;
-  auto match = Match(*host, name);
+  if (!host) return host.failure();
+  if (!IsFolder(*host)) return Missing();
+  const auto match = Match(*host, name);
   if (match && !picked) return match;
+  if (!match && !IsMissing(match.failure())) return match.failure();
   if (!match && IsName(name)) return *host / ToUtf8(LowerCase(name));
-  return picked;
+  return picked ? Outcome<fs::path>(*picked) : Missing();
 }
 
 std::string Drives::FromHost(const fs::path& host) {
@@ -188,14 +205,14 @@ std::string Drives::FromHost(const fs::path& host) {
 Outcome<> Drives::ChangeDrive(std::string_view path) {
   const auto whole = current_.Complete(path);
   const auto root = whole ? folders_.find(whole->drive) : folders_.end();
-  if (root == folders_.end() || !IsFolder(root->second)) return PathNotFound();
+  if (root == folders_.end() || !IsFolder(root->second)) return Missing();
   current_.SetDrive(whole->drive);
   return Done{};
 }
 
 Outcome<> Drives::ChangeFolder(std::string_view path) {
   const auto host = ToHost(path);
-  if (!host || !IsFolder(*host)) return PathNotFound();
+  if (!host || !IsFolder(*host)) return Missing();
   current_.SetFolder(*current_.Complete(path));
   return Done{};
 }

@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,14 +23,15 @@ class Drives {
 
   /// The existing file or folder of that path: the one that `FromHost` gave the path to; else, name by name,
   /// the exact name, or the only one that is the same but for its case. A "?" finds only what `FromHost`
-  /// writes as "?".
-  [[nodiscard]] std::optional<std::filesystem::path> ToHost(std::string_view path) const;
+  /// writes as "?". The failure has the system's code: with ENOENT there is none, with any other that is not
+  /// known.
+  [[nodiscard]] Outcome<std::filesystem::path> ToHost(std::string_view path) const;
 
   /// Where writing to that path has to go: to the file that is there, a link without a target included, and
   /// otherwise to a new one with the lower-case name. A path from `FromHost` never leads to another file
-  /// that is there already than the one it was given for. Nothing if the folder is not there or the name
-  /// cannot be one.
-  [[nodiscard]] std::optional<std::filesystem::path> ToHostNew(std::string_view path) const;
+  /// that is there already than the one it was given for. A failure if the folder is not there, the name
+  /// cannot be one, or nobody knows what is there.
+  [[nodiscard]] Outcome<std::filesystem::path> ToHostNew(std::string_view path) const;
 
   /// The path of a host file, existing or not, in lower case, on the drive whose folder holds it most
   /// closely. Since two files may get the same path, `host` is remembered: that path means this file until it
@@ -53,7 +53,7 @@ class Drives {
   [[nodiscard]] const std::map<char, std::filesystem::path>& HostFolders() const { return folders_; }
 
  private:
-  [[nodiscard]] std::optional<std::filesystem::path> Find(const LogicalPath& path) const;
+  [[nodiscard]] Outcome<std::filesystem::path> Find(const LogicalPath& path) const;
 
   std::map<char, std::filesystem::path> folders_;
   std::map<std::string, std::filesystem::path> picked_;

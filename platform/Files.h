@@ -15,7 +15,8 @@ class Files {
   virtual ~Files() = default;
 
   /// True for an existing file that is not a folder. A name that cannot be one (with quotation marks,
-  /// wildcards, empty) is simply a file that does not exist.
+  /// wildcards, empty) is simply a file that does not exist. False as well where the system does not tell:
+  /// who would write over the file asks `Read`, whose failure 53 alone says that there is none.
   [[nodiscard]] virtual bool FileExists(std::string_view path) const = 0;
   [[nodiscard]] virtual bool FolderExists(std::string_view path) const = 0;
 

@@ -180,7 +180,7 @@ std::vector<std::string> HostFiles::NamesIn(std::string_view folder,
   const auto host = drives_.ToHost(folder);
   const std::string inside = std::string(folder) + (folder.ends_with('\\') ? "" : "\\");
   std::error_code error;
-  for (fs::directory_iterator at(host.value_or(fs::path()), error), end; !error && at != end;
+  for (fs::directory_iterator at(host ? *host : fs::path(), error), end; !error && at != end;
        at.increment(error)) {
     std::string name = FromUtf8(at->path().filename().string());
     if ((this->*is)(inside + name)) names.push_back(std::move(name));
@@ -214,7 +214,7 @@ std::string HostFiles::DriveLetters() const {
 
 Outcome<std::string> HostFiles::Read(std::string_view path) const {
   const auto host = drives_.ToHost(path);
-  if (!host) return SystemFailure(ENOENT, error::kFileNotFound);
+  if (!host) return SystemFailure(host.failure().systemCode, error::kFileNotFound);
   Descriptor file;
   file.Open(*host, O_RDONLY | O_NONBLOCK);  // a pipe that nobody writes to would wait here for ever
   struct stat status {};
@@ -226,7 +226,7 @@ Outcome<std::string> HostFiles::Read(std::string_view path) const {
 
 Outcome<> HostFiles::Write(std::string_view path, std::string_view content) {
   const auto host = drives_.ToHostNew(path);
-  if (!host) return SystemFailure(ENOENT);
+  if (!host) return host.failure();
   const auto target = FollowLinks(*host);
   if (!target) return target.failure();
   return ReplaceFile(*target, content);
@@ -235,7 +235,7 @@ Outcome<> HostFiles::Write(std::string_view path, std::string_view content) {
 Outcome<> HostFiles::MakeFolder(std::string_view path) {
   while (path.ends_with('\\') || path.ends_with('/')) path.remove_suffix(1);
   const auto host = drives_.ToHostNew(path);
-  if (!host) return SystemFailure(ENOENT);
+  if (!host) return host.failure();
   const auto parent = StatusOf(host->parent_path());
   if (parent && !MayWrite(host->parent_path(), *parent)) return SystemFailure(EACCES);
   if (mkdir(host->c_str(), kFolder) != 0) return SystemFailure(errno);

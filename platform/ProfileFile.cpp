@@ -14,6 +14,12 @@ constexpr std::string_view kLineEnds = "\r\n";
 constexpr std::string_view kNewLine = "\r\n";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
+/// No settings are as long. A start looks up some hundred keys, each from the beginning.
+constexpr std::size_t kLongest = std::size_t{1} << 20;
+
+constexpr std::string_view kBackup = ".bak";
+constexpr std::string_view kDamaged = ".damaged";
+
 std::string_view Trim(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
   return text.substr(0, text.find_last_not_of(kBlanks) + 1);
@@ -38,9 +44,19 @@ struct Line {
 };
 
 Line LineAt(std::string_view text, std::size_t begin) {
-  const std::size_t end = std::min(text.find_first_of(kLineEnds, begin), text.size());
+  const auto isEnd = [](char c) { return c == '\r' || c == '\n'; };
+  const auto* const found = std::find_if(text.begin() + begin, text.end(), isEnd);
+  const auto end = static_cast<std::size_t>(found - text.begin());
   const std::size_t width = text.substr(end, 2) == "\r\n" ? 2 : 1;
   return {begin, end, std::min(end + width, text.size())};
+}
+
+std::string_view Content(std::string_view text, const Line& line) {
+  return Trim(text.substr(line.begin, line.end - line.begin));
+}
+
+std::size_t FirstLine(std::string_view text) {
+  return text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
 }
 
 bool IsSection(std::string_view line) { return line.starts_with('['); }
@@ -62,10 +78,10 @@ struct Place {
 
 Place Find(std::string_view text, std::string_view section, std::string_view key) {
   Place place{.insertAt = text.size()};
-  std::size_t next = text.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
+  std::size_t next = FirstLine(text);
   while (next < text.size()) {
     const Line line = LineAt(text, next);
-    const std::string_view content = Trim(text.substr(line.begin, line.end - line.begin));
+    const std::string_view content = Content(text, line);
     next = line.next;
     if (IsSection(content)) {
       if (place.sectionFound) break;
@@ -83,6 +99,25 @@ Place Find(std::string_view text, std::string_view section, std::string_view key
 std::pair<std::size_t, std::size_t> ValueRange(std::string_view text, const Line& line) {
   const std::size_t equals = text.find('=', line.begin);
   return {std::min(text.find_first_not_of(kBlanks, equals + 1), line.end), line.end};
+}
+
+bool HasSection(std::string_view text) {
+  for (std::size_t next = FirstLine(text); next < text.size();) {
+    const Line line = LineAt(text, next);
+    if (IsSection(Content(text, line))) return true;
+    next = line.next;
+  }
+  return false;
+}
+
+/// What is no such text was not left by a program or a user that wrote settings to their end.
+bool IsWhole(const std::string& text) {
+  return text.size() <= kLongest && text.find('\0') == text.npos && HasSection(text);
+}
+
+/// The path of a file that lies beside the settings and has another ending.
+std::string Beside(const std::string& path, std::string_view ending) {
+  return path.substr(0, path.rfind('.')) + std::string(ending);
 }
 
 }  // namespace
@@ -134,11 +169,41 @@ std::string Protected(const std::string& value) {
   return WithoutQuotes(Trim(whole)) == whole ? value : '"' + value + '"';
 }
 
+ProfileFile::ProfileFile(Files& files, std::string path)
+    : files_(files),
+      path_(std::move(path)),
+      backup_(Beside(path_, kBackup)),
+      aside_(Beside(path_, kDamaged)) {}
+
+std::optional<std::string> ProfileFile::Backup() const {
+  auto text = files_.Read(backup_);
+  return text && IsWhole(*text) ? std::optional(*std::move(text)) : std::nullopt;
+}
+
+Outcome<ProfileFile::Loaded> ProfileFile::Load() const {
+  auto own = files_.Read(path_);
+  if (!own) {
+    if (own.failure().number == error::kFileNotFound) return Loaded{};
+    return own.failure();
+  }
+  if (IsWhole(*own)) return Loaded{*std::move(own)};
+  if (auto backup = Backup()) return Loaded{*std::move(backup), *std::move(own)};
+  if (own->size() > kLongest) return Failure{error::kFileTooStrange, "The file is too long", 0};
+  return Loaded{*std::move(own)};
+}
+
 Profile ProfileFile::Read() const {
-  auto text = files_.Read(path_);
-  if (text) return Profile(*std::move(text), unreadable);
-  if (text.failure().number != error::kFileNotFound) LeaveAlone(text.failure());
-  return {};
+  auto loaded = Load();
+  if (!loaded) {
+    LeaveAlone(loaded.failure());
+    return Profile(Backup().value_or(""), unreadable);
+  }
+  if (loaded->damaged) TellDamaged();
+  return Profile(std::move(loaded->text), unreadable);
+}
+
+void ProfileFile::TellDamaged() const {
+  if (!std::exchange(toldDamaged_, true) && fileDamaged) fileDamaged();
 }
 
 void ProfileFile::LeaveAlone(const Failure& failure) const {
@@ -163,14 +228,17 @@ Outcome<> ProfileFile::Write(std::string_view section, std::string_view key, std
 
 Outcome<> ProfileFile::WriteAll(std::span<const ProfileEntry> entries) {
   if (unread_) return *unread_;
-  Profile profile;
-  if (files_.FileExists(path_)) {
-    auto text = files_.Read(path_);
-    if (!text) return text.failure();
-    profile = Profile(*std::move(text));
+  auto loaded = Load();
+  if (!loaded) return loaded.failure();
+  if (loaded->damaged && !loaded->damaged->empty()) {
+    if (auto kept = files_.Write(aside_, *loaded->damaged); !kept) return kept;
   }
+  Profile profile(std::move(loaded->text));
   for (const ProfileEntry& entry : entries) profile.Set(entry.section, entry.key, entry.value);
-  return files_.Write(path_, profile.text());
+  auto written = files_.Write(path_, profile.text());
+  // Where this fails the backup stays as it was, and is whole.
+  if (written) static_cast<void>(files_.Write(backup_, profile.text()));
+  return written;
 }
 
 }  // namespace tarvik

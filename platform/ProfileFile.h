@@ -63,18 +63,24 @@ struct ProfileEntry {
   std::string value;
 };
 
-/// The settings file on the disk. Once it was there and could not be read, it is left alone: whoever asked
-/// has got the fallbacks, and they are not to take the place of the user's settings.
+/// The settings file on the disk, and its backup, which is written behind it and has the same name with the
+/// ending ".bak". The backup stands in for a file that is damaged: too long for settings, with a NUL in it,
+/// or without any section. What the damaged file held goes to a third one with the ending ".damaged" before
+/// it is written over.
+///
+/// Once the file was there and could not be read, it is left alone: whoever asked has got the backup's values
+/// or the fallbacks, and they are not to take the place of the user's settings.
 class ProfileFile {
  public:
-  ProfileFile(Files& files, std::string path) : files_(files), path_(std::move(path)) {}
+  ProfileFile(Files& files, std::string path);
 
   Profile::Unreadable unreadable;
   /// Hears once that the file is there and cannot be read.
   std::function<void(const Failure& failure)> fileUnreadable;
+  /// Hears once that the file is damaged and its backup counts.
+  std::function<void()> fileDamaged;
 
-  /// The file as it is now, empty when it is missing or cannot be read. Whoever reads many keys takes this
-  /// once.
+  /// The file as it is now, empty when it is missing. Whoever reads many keys takes this once.
   [[nodiscard]] Profile Read() const;
 
   [[nodiscard]] std::string GetString(std::string_view section, std::string_view key,
@@ -89,10 +95,23 @@ class ProfileFile {
   Outcome<> WriteAll(std::span<const ProfileEntry> entries);
 
  private:
+  struct Loaded {
+    std::string text{};
+    std::optional<std::string> damaged{};  ///< what the file holds, where `text` is the backup's
+  };
+
+  /// The text of the settings, empty only where there is no such file, and a failure where nobody knows.
+  [[nodiscard]] Outcome<Loaded> Load() const;
+  /// The text of the backup, where there is a whole one.
+  [[nodiscard]] std::optional<std::string> Backup() const;
   void LeaveAlone(const Failure& failure) const;
+  void TellDamaged() const;
 
   Files& files_;
   std::string path_;
+  std::string backup_;
+  std::string aside_;
+  mutable bool toldDamaged_ = false;
   mutable std::optional<Failure> unread_;
 };
 

@@ -22,6 +22,8 @@ void Log::SettingsFileUnreadable(const Failure& failure) {
   Write("Tarvik.ini can't be read, and is left alone: " + InWords(failure));
 }
 
+void Log::SettingsFileDamaged() { Write("Tarvik.ini is damaged, and its backup Tarvik.bak is used"); }
+
 void Log::Write(std::string_view what) {
   lines_.push_back(calendar_.TimeOfDay() + " " + std::string(what));
   if (lines_.size() > kMost) lines_.pop_front();

@@ -20,6 +20,7 @@ class Log {
   void ErrorRecorded(std::string_view tag, const Failure& failure);
   void SettingUnreadable(std::string_view section, std::string_view key);
   void SettingsFileUnreadable(const Failure& failure);
+  void SettingsFileDamaged();
   /// Puts the time before it.
   void Write(std::string_view what);
 

@@ -24,6 +24,7 @@ Workbench::Workbench(const Platform& services)
   profile.unreadable = [this](std::string_view section, std::string_view key) {
     log.SettingUnreadable(section, key);
   };
+  profile.fileDamaged = [this] { log.SettingsFileDamaged(); };
   profile.fileUnreadable = [this](const Failure& failure) { log.SettingsFileUnreadable(failure); };
 }
 

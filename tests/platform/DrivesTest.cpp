@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <cerrno>
 #include <string>
 
 #include "platform/Drives.h"
@@ -57,6 +59,35 @@ TEST_F(DrivesTest, TheExactNameGoesFirstAndTwoOthersAreNone) {
   EXPECT_EQ(Seen("c:\\a.B50"), "(none)");
 }
 
+/// As long as it lives no file and no folder can be opened.
+class NothingOpens {
+ public:
+  NothingOpens() {
+    getrlimit(RLIMIT_NOFILE, &before_);
+    const rlimit none{0, before_.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &none);
+  }
+  ~NothingOpens() { setrlimit(RLIMIT_NOFILE, &before_); }
+  NothingOpens(const NothingOpens&) = delete;
+  NothingOpens& operator=(const NothingOpens&) = delete;
+
+ private:
+  rlimit before_{};
+};
+
+TEST_F(DrivesTest, WhatCannotBeLookedAtIsNotTakenForMissing) {
+  temporary.Put("dos/Tarvik.ini", "settings");
+  fs::create_symlink("loop.b50", temporary.path() / "dos/loop.b50");
+  EXPECT_EQ(drives.ToHost("c:\\none.ini").failure().systemCode, ENOENT);
+  EXPECT_EQ(drives.ToHost("c:\\loop.b50").failure().systemCode, ELOOP);
+  {
+    const NothingOpens poor;
+    EXPECT_EQ(drives.ToHost("c:\\tarvik.ini").failure().systemCode, EMFILE);
+    EXPECT_EQ(drives.ToHostNew("c:\\tarvik.ini").failure().systemCode, EMFILE);
+  }
+  EXPECT_EQ(New("c:\\tarvik.ini"), "dos/Tarvik.ini");
+}
+
 TEST_F(DrivesTest, AccentedNamesAreFoundInEitherCase) {
   temporary.Put("dos/\u00DCbung \u20AC.b50", "accents");
   EXPECT_EQ(Seen("c:\\\xFC"
@@ -103,7 +134,7 @@ TEST_F(DrivesTest, NamesThatNoDriveCanHoldAreReachedToo) {
     const std::string path = drives.FromHost(host);
     EXPECT_EQ(Seen(path), name);
     const Drives nextStart({{'c', (temporary.path() / "dos").string()}});
-    EXPECT_EQ(nextStart.ToHost(path), host);
+    EXPECT_EQ(nextStart.ToHost(path).Take(), host);
     fs::remove(host);
   }
 }
@@ -173,7 +204,7 @@ TEST_F(DrivesTest, ADriveOrFolderThatIsNotThereCannotBecomeCurrent) {
 
 TEST_F(DrivesTest, ZIsTheRootOfTheHostWhateverIsSaid) {
   const Drives other({{'z', temporary.path().string()}});
-  EXPECT_EQ(other.ToHost("z:\\"), fs::path("/"));
+  EXPECT_EQ(other.ToHost("z:\\").Take(), fs::path("/"));
   temporary.Put("outside.b50", "outside");
   EXPECT_EQ(Seen(Root() + "\\OUTSIDE.B50"), "outside");
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <string>
 #include <vector>
 
@@ -187,14 +188,14 @@ class CountingFiles : public MemoryFiles {
   int writes = 0;
 };
 
-TEST(ProfileFile, FortyKeysCostOneWriteToTheDisk) {
+TEST(ProfileFile, FortyKeysCostOneWriteOfEachFile) {
   CountingFiles files;
   ProfileFile file(files, "c:\\tarvik.ini");
   std::vector<ProfileEntry> entries;
   for (int i = 0; i < 40; ++i)
     entries.push_back({"Games", "GameName" + std::to_string(i), std::to_string(i)});
   EXPECT_TRUE(file.WriteAll(entries));
-  EXPECT_EQ(files.writes, 1);
+  EXPECT_EQ(files.writes, 2) << "the file and its backup";
   const Profile profile = file.Read();
   for (int i = 0; i < 40; ++i) EXPECT_EQ(profile.GetInt("Games", "GameName" + std::to_string(i), -1), i);
 }
@@ -232,6 +233,126 @@ TEST_F(ProfileFileTest, FallbacksForAFileThatCouldNotBeReadDoNotTakeItsPlaceWhen
   files.Put(kPath, text);
   EXPECT_EQ(file.Write("Apps", "TextFilePath", "fallback").failure().number, error::kPathAccess);
   EXPECT_EQ(Content(), text);
+}
+
+/// Nobody can look at the settings file at the first call, and everybody at the next ones.
+class FilesThatFailOnce : public MemoryFiles {
+ public:
+  [[nodiscard]] bool FileExists(std::string_view path) const override {
+    return !Fails() && MemoryFiles::FileExists(path);
+  }
+  [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override {
+    if (Fails()) return Failure{error::kPathAccess, "Input/output error", EIO};
+    return MemoryFiles::Read(path);
+  }
+  int callsUntilFailure = 0;
+
+ private:
+  [[nodiscard]] bool Fails() const { return passed_++ == callsUntilFailure; }
+
+  mutable int passed_ = 0;
+};
+
+TEST(ProfileFile, OnePassingErrorWipesNoSettings) {
+  for (int call = 0; call < 6; ++call) {
+    FilesThatFailOnce files;
+    files.callsUntilFailure = call;
+    files.Put(kPath, "[Apps]\r\nTextFilePath=1\r\n[Miscellaneous]\r\nUndoMax=7\r\n");
+    ProfileFile file(files, kPath);
+    static_cast<void>(file.Write("Miscellaneous", "UndoMax", "8"));
+    static_cast<void>(file.Write("Miscellaneous", "UndoMax", "9"));
+    EXPECT_EQ(Profile(*files.Content(kPath)).GetInt("Apps", "TextFilePath", 0), 1) << "call " << call;
+  }
+}
+
+constexpr const char* kBackup = "c:\\tarvik\\tarvik.bak";
+constexpr const char* kAside = "c:\\tarvik\\tarvik.damaged";
+
+TEST_F(ProfileFileTest, TheBackupHoldsTheSame) {
+  ASSERT_TRUE(file.Write("Miscellaneous", "UndoMax", "7"));
+  ASSERT_TRUE(file.Write("Miscellaneous", "UndoMax", "8"));
+  EXPECT_EQ(files.Content(kBackup), Content());
+}
+
+TEST_F(ProfileFileTest, ABackupThatCannotBeWrittenIsNoFailure) {
+  files.Put(kBackup, "[Apps]\r\n");
+  files.SetReadOnly(kBackup);
+  EXPECT_TRUE(file.Write("Miscellaneous", "UndoMax", "7"));
+}
+
+/// What a damaged file holds.
+class DamagedProfile : public ProfileFileTest, public testing::WithParamInterface<std::string> {
+ protected:
+  DamagedProfile() {
+    file.fileDamaged = [this] { ++told; };
+    file.fileUnreadable = [this](const Failure&) { ++unreadable; };
+    files.Put(kPath, GetParam());
+  }
+  int told = 0;
+  int unreadable = 0;
+};
+
+TEST_P(DamagedProfile, IsReplacedByTheBackupAndPutAside) {
+  files.Put(kBackup, "[Miscellaneous]\r\nUndoMax=7\r\nMine=1\r\n");
+  EXPECT_EQ(file.GetInt("Miscellaneous", "UndoMax", 50), 7);
+  EXPECT_EQ(file.GetInt("Miscellaneous", "UndoMax", 50), 7);
+  EXPECT_EQ(told, 1);
+  EXPECT_EQ(Content(), GetParam()) << "reading changes nothing";
+  ASSERT_TRUE(file.Write("Miscellaneous", "UndoMax", "8"));
+  EXPECT_EQ(Content(), "[Miscellaneous]\r\nUndoMax=8\r\nMine=1\r\n");
+  EXPECT_EQ(files.Content(kAside).value_or(""), GetParam());
+}
+
+TEST_P(DamagedProfile, IsNotWrittenOverWhereItCannotBePutAside) {
+  if (GetParam().empty()) return;
+  files.Put(kBackup, "[Miscellaneous]\r\nUndoMax=7\r\n");
+  files.Put(kAside, "");
+  files.SetReadOnly(kAside);
+  EXPECT_FALSE(file.Write("Miscellaneous", "UndoMax", "8"));
+  EXPECT_EQ(Content(), GetParam());
+}
+
+TEST_P(DamagedProfile, KeepsItsBytesWithoutABackup) {
+  static_cast<void>(file.Write("Miscellaneous", "Other", "8"));
+  EXPECT_TRUE(Content().starts_with(GetParam()));
+  EXPECT_EQ(told, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, DamagedProfile,
+                         testing::Values("", "\r\n", "UndoMax=3\r\n", std::string(1094, '\0'),
+                                         std::string("[Miscellaneous]\r\nUndoMax=\0\r\n", 28),
+                                         "[Miscellaneous]\r\n" + std::string(1 << 20, 'x')));
+
+TEST_F(ProfileFileTest, OfTwoDamagedFilesTheFirstCounts) {
+  files.Put(kPath, "UndoMax=3\r\n");
+  files.Put(kBackup, "");
+  ASSERT_TRUE(file.Write("Miscellaneous", "UndoMax", "8"));
+  EXPECT_EQ(Content(), "UndoMax=3\r\n[Miscellaneous]\r\nUndoMax=8\r\n");
+}
+
+TEST_F(ProfileFileTest, AFileThatTheUserTookAwayIsNotBroughtBack) {
+  files.Put(kBackup, "[Miscellaneous]\r\nUndoMax=7\r\n");
+  EXPECT_EQ(file.GetInt("Miscellaneous", "UndoMax", 50), 50);
+}
+
+TEST_F(ProfileFileTest, TheBackupIsReadWhereTheFileCannotBe) {
+  files.Put(kPath, "[Miscellaneous]\r\nUndoMax=9\r\n");
+  files.Put(kBackup, "[Miscellaneous]\r\nUndoMax=7\r\n");
+  files.SetUnreadable(kPath);
+  EXPECT_EQ(file.GetInt("Miscellaneous", "UndoMax", 50), 7);
+  EXPECT_FALSE(file.Write("Miscellaneous", "UndoMax", "8"));
+  EXPECT_EQ(Content(), "[Miscellaneous]\r\nUndoMax=9\r\n");
+}
+
+TEST_F(ProfileFileTest, AFileThatIsTooLongIsToldAndLeftAlone) {
+  const std::string text = "[Miscellaneous]\r\nUndoMax=7\r\n" + std::string(50 << 20, '\n');
+  files.Put(kPath, text);
+  Failure told;
+  file.fileUnreadable = [&told](const Failure& failure) { told = failure; };
+  EXPECT_EQ(file.GetInt("Miscellaneous", "UndoMax", 50), 50);
+  EXPECT_EQ(told.text, "The file is too long");
+  EXPECT_FALSE(file.Write("Miscellaneous", "UndoMax", "8"));
+  EXPECT_TRUE(Content() == text);
 }
 
 TEST_F(ProfileFileTest, AFileThatWasMissingWhenItWasReadIsCreated) {
