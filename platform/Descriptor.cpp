@@ -1,7 +1,10 @@
 #include "platform/Descriptor.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <system_error>
+
+#include "platform/FileSize.h"
 
 namespace tarvik {
 
@@ -34,6 +37,7 @@ Outcome<std::string> Descriptor::ReadAll(std::size_t expected) const {
     if (count == 0) break;
     if (count < 0 && errno != EINTR) return SystemFailure(errno);
     if (count > 0) size += static_cast<std::size_t>(count);
+    if (size > std::max(expected, kLargestFile)) return TooLarge();
     if (size == content.size()) content.resize(size + kStep);
   }
   content.resize(size);

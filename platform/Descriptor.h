@@ -35,7 +35,7 @@ class Descriptor {
   [[nodiscard]] int number() const { return number_; }
 
   [[nodiscard]] Outcome<> WriteAll(std::string_view content) const;
-  /// To the end, wherever that is; `expected` bytes are probably there.
+  /// To the end, wherever that is, but for a file that grows and grows; `expected` bytes are probably there.
   [[nodiscard]] Outcome<std::string> ReadAll(std::size_t expected) const;
 
  private:

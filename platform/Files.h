@@ -31,7 +31,7 @@ class Files {
   /// The letters of the drives that are there.
   [[nodiscard]] virtual std::string DriveLetters() const = 0;
 
-  /// The whole content, byte for byte.
+  /// The whole content, byte for byte. A file that is larger than `kLargestFile` is a failure.
   [[nodiscard]] virtual Outcome<std::string> Read(std::string_view path) const = 0;
 
   /// Replaces or creates the file in one step: afterwards the disk holds the whole old content or the whole

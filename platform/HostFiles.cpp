@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "platform/Descriptor.h"
+#include "platform/FileSize.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -221,7 +222,8 @@ Outcome<std::string> HostFiles::Read(std::string_view path) const {
   if (!file.IsOpen() || fstat(file.number(), &status) != 0) return SystemFailure(errno, error::kFileNotFound);
   if (S_ISDIR(status.st_mode)) return SystemFailure(EISDIR);
   if (!S_ISREG(status.st_mode)) return SystemFailure(EACCES);
-  return file.ReadAll(static_cast<std::size_t>(status.st_size));
+  const auto size = static_cast<std::size_t>(status.st_size);
+  return size > kLargestFile ? TooLarge() : file.ReadAll(size);
 }
 
 Outcome<> HostFiles::Write(std::string_view path, std::string_view content) {

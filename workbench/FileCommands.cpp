@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "language/Controllers.h"
+#include "platform/FileSize.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -225,8 +226,10 @@ std::optional<NamedFile> FileCommands::ChooseFile(const FileRequest& request) {
 
 /// A file that cannot be read is told, and the document in its place stays.
 bool FileCommands::CanRead(const std::string& path, const Trap& trap) {
-  if (trap(documents_.platform.files.Read(path))) return true;
-  documents_.Say(path + " can't be opened");
+  auto content = documents_.platform.files.Read(path);
+  const bool tooLarge = IsTooLarge(content.failure());
+  if (trap(std::move(content))) return true;
+  documents_.Say(path + (tooLarge ? " is larger than 64 MB" : " can't be opened"));
   return false;
 }
 

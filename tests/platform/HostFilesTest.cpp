@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/FileSize.h"
 #include "platform/HostFiles.h"
 #include "platform/InstanceLock.h"
 #include "support/TemporaryFolder.h"
@@ -204,6 +205,16 @@ TEST_F(HostFilesTest, ADeviceOrPipeIsNotReplaced) {
   ASSERT_EQ(mkfifo(Host("pipe").c_str(), 0600), 0);
   EXPECT_EQ(files.Write("c:\\pipe", "new").failure().number, error::kPathAccess);
   EXPECT_TRUE(fs::is_fifo(Host("pipe")));
+}
+
+TEST_F(HostFilesTest, AFileThatIsLargerThanTheLargestIsNotRead) {
+  temporary.Put("dos/a.b50", "");
+  fs::resize_file(Host("a.b50"), kLargestFile);
+  EXPECT_TRUE(files.Read("c:\\a.b50"));
+  fs::resize_file(Host("a.b50"), kLargestFile + 1);
+  EXPECT_TRUE(IsTooLarge(files.Read("c:\\a.b50").failure()));
+  fs::resize_file(Host("a.b50"), std::uintmax_t{1} << 40);
+  EXPECT_TRUE(IsTooLarge(files.Read("c:\\a.b50").failure()));
 }
 
 TEST_F(HostFilesTest, WritingIntoAMissingFolderFails) {

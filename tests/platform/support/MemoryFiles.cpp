@@ -5,6 +5,8 @@
 #include <cerrno>
 #include <utility>
 
+#include "platform/FileSize.h"
+
 namespace tarvik {
 namespace {
 
@@ -119,7 +121,7 @@ Outcome<std::string> MemoryFiles::Read(std::string_view path) const {
   const Entry* entry = Find(path);
   if (!entry) return Failure{error::kFileNotFound, "File not found", ENOENT};
   if (entry->isFolder || entry->unreadable) return PathAccess();
-  return entry->content;
+  return entry->content.size() > kLargestFile ? Outcome<std::string>(TooLarge()) : entry->content;
 }
 
 Outcome<LogicalPath> MemoryFiles::PlaceFor(std::string_view path) const {
