@@ -48,7 +48,7 @@ class Image {
     if (!folder_.empty() && ::chdir(folder_.c_str()) != 0) return;
     const int nothing = ::open("/dev/null", O_RDWR);
     for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) ::dup2(nothing, standard);
-    ::signal(SIGPIPE, SIG_DFL);
+    for (const int ignored : {SIGPIPE, SIGXFSZ}) ::signal(ignored, SIG_DFL);
     ::execve(file_.c_str(), argv_.data(), envp_.data());
   }
 
@@ -98,6 +98,8 @@ void Reap(int id) {
 }
 
 }  // namespace
+
+void IgnoreFileSizeSignal() { std::signal(SIGXFSZ, SIG_IGN); }
 
 /// The program is a grandchild, which the system takes over at once.
 Outcome<> StartDetached(const ProcessStart& start) {

@@ -11,6 +11,9 @@
 
 namespace tarvik {
 
+/// From now on writing beyond the limit for the size of a file is a failure, and does not end this process.
+void IgnoreFileSizeSignal();
+
 /// What to run: the file, its arguments (without the file itself), where, and what its environment has beside
 /// ours where that says nothing of it.
 struct ProcessStart {

@@ -13,6 +13,7 @@
 #include "platform/HostJournals.h"
 #include "platform/HostPrograms.h"
 #include "platform/InstanceLock.h"
+#include "platform/Process.h"
 #include "platform/ProgramFolder.h"
 #include "screen/Screen.h"
 #include "screen/Toolkit.h"
@@ -152,6 +153,7 @@ void TellWhyNothingIsOnShow(const Errors& errors) {
 
 int main(int argc, char* argv[]) {
   if (const auto decoded = screen::RunAsDecoder(argc, argv)) return *decoded;
+  IgnoreFileSizeSignal();
   screen::Toolkit toolkit(argc, argv);
   NameProgram();
   const ProgramFolder folder(Host(QApplication::applicationFilePath()), ProgramFolder::UsersOwn());

@@ -15,6 +15,7 @@
 #include "platform/FileSize.h"
 #include "platform/HostFiles.h"
 #include "platform/InstanceLock.h"
+#include "platform/Process.h"
 #include "support/TemporaryFolder.h"
 
 namespace tarvik {
@@ -228,7 +229,7 @@ TEST_F(HostFilesTest, WhenTheDiskTakesNoMoreTheOldFileStaysAndNothingElseIsLeft)
   const pid_t child = fork();
   if (child == 0) {
     const rlimit limit{1000, 1000};
-    signal(SIGXFSZ, SIG_IGN);
+    IgnoreFileSizeSignal();
     setrlimit(RLIMIT_FSIZE, &limit);
     const auto written = files.Write("c:\\a.b50", std::string(5000, 'x'));
     _exit(written ? 0 : written.failure().number);

@@ -13,6 +13,7 @@
 #include "app/Editor.h"
 #include "platform/HostFiles.h"
 #include "platform/InstanceLock.h"
+#include "platform/Process.h"
 #include "support/ScriptedPlatform.h"
 
 namespace {
@@ -61,6 +62,7 @@ class User {
 }  // namespace
 
 int main(int count, char** arguments) {
+  IgnoreFileSizeSignal();
   const std::vector<std::string> given(arguments + 1, arguments + count);
   const bool loop = given.size() == 5 && given[3] == "--loop";
   if (given.size() != 3 && !loop) return kWrongUse;
