@@ -1,6 +1,8 @@
 #include "platform/DosBox.h"
 
 #include <stdlib.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -25,6 +27,12 @@ constexpr std::size_t kLongestMount = 200;
 constexpr const char* kSettings = "dosbox.conf";
 constexpr const char* kBatch = "job.bat";
 constexpr const char* kMark = "DONE";
+
+/// The folder's own name, with six letters behind it, and a file in it as long as it ends with us.
+constexpr const char* kFolder = "tarvik-";
+constexpr const char* kOwned = "OWNED";
+
+constexpr char kHost = 'z';
 
 // The joystick stays with this program, and nothing waits for a key.
 constexpr const char* kOptions =
@@ -114,15 +122,19 @@ Outcome<> LinkDrives(const std::string& letters, const Drives& drives, const fs:
   return Done{};
 }
 
+/// The root of the host is for reading: only a disc that nobody can write to stops DOSBox from writing.
+std::string Mount(char letter, const std::string& place) {
+  const std::string disc = letter == kHost ? " -t cdrom" : "";
+  return "mount " + std::string(1, letter) + " \"" + place + "/" + letter + "\"" + disc + "\n";
+}
+
 std::string Settings(const std::string& letters, char virtualDrive, char ownDrive, const fs::path& folder,
                      WindowStyle style) {
   const std::string place = PercentDoubled(folder.native());
   std::string text = kOptions;
   if (style == WindowStyle::Maximised) text += "[render]\nscaler=normal3x\n";
   text += "[autoexec]\n@echo off\nmount -z " + std::string(1, virtualDrive) + "\n";
-  for (const char letter : letters) {
-    text += "mount " + std::string(1, letter) + " \"" + place + "/" + letter + "\"\n";
-  }
+  for (const char letter : letters) text += Mount(letter, place);
   text += "mount " + std::string(1, ownDrive) + " \"" + place + "\"\n";
   return text + "call " + On(ownDrive, kBatch) + "\nexit\n";
 }
@@ -151,6 +163,18 @@ Outcome<> WriteFile(const fs::path& path, const std::string& content) {
   return Done{};
 }
 
+/// Whether it is a folder of ours whose process has ended. One that is being made has no such file yet.
+bool IsLeftOver(const fs::path& folder) {
+  struct stat status {};
+  if (lstat(folder.c_str(), &status) != 0 || !S_ISDIR(status.st_mode) || status.st_uid != geteuid()) {
+    return false;
+  }
+  std::error_code error;
+  Descriptor own;
+  own.Open(folder, O_RDONLY | O_DIRECTORY | O_NOFOLLOW);
+  return own.IsOpen() && flock(own.number(), LOCK_EX | LOCK_NB) == 0 && fs::exists(folder / kOwned, error);
+}
+
 /// Keeps DOSBox from taking a text terminal for its screen when it has no other.
 std::vector<std::string> Environment() { return {"SDL_VIDEODRIVER=x11"}; }
 
@@ -174,11 +198,34 @@ class DosBoxProgram : public RunningProgram {
 
 Outcome<std::unique_ptr<DosBoxFolder>> DosBoxFolder::Make() {
   std::error_code error;
-  std::string name = (fs::temp_directory_path(error) / "tarvik-XXXXXX").string();
+  std::string name = (fs::temp_directory_path(error) / kFolder).string() + "XXXXXX";
   if (error || name.size() > kLongestMount || name.find('"') != name.npos || !::mkdtemp(name.data())) {
     return Failure{error::kPathAccess, "Path/File access error", errno};
   }
   return std::unique_ptr<DosBoxFolder>(new DosBoxFolder(name));
+}
+
+DosBoxFolder::DosBoxFolder(fs::path path) : path_(std::move(path)) {
+  own_.Open(path_, O_RDONLY | O_DIRECTORY);
+  if (own_.IsOpen() && flock(own_.number(), LOCK_EX | LOCK_NB) == 0) std::ofstream(path_ / kOwned).close();
+}
+
+void DosBoxFolder::Release() {
+  std::error_code ignored;
+  fs::remove(path_ / kOwned, ignored);
+  path_.clear();
+}
+
+void DosBoxFolder::RemoveLeftOvers() {
+  std::error_code error;
+  const fs::path temporary = fs::temp_directory_path(error);
+  if (error) return;
+  for (fs::directory_iterator at(temporary, error), end; !error && at != end; at.increment(error)) {
+    std::error_code ignored;
+    const fs::path& folder = at->path();
+    const bool named = folder.filename().native().starts_with(kFolder);
+    if (named && IsLeftOver(folder)) fs::remove_all(folder, ignored);
+  }
 }
 
 DosBoxFolder::~DosBoxFolder() {

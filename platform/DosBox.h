@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/CommandLine.h"
+#include "platform/Descriptor.h"
 #include "platform/Drives.h"
 #include "platform/Process.h"
 
@@ -17,6 +18,8 @@ namespace tarvik {
 class DosBoxFolder {
  public:
   static Outcome<std::unique_ptr<DosBoxFolder>> Make();
+  /// Removes the folders of processes that were killed.
+  static void RemoveLeftOvers();
   ~DosBoxFolder();
   DosBoxFolder(const DosBoxFolder&) = delete;
   DosBoxFolder& operator=(const DosBoxFolder&) = delete;
@@ -25,12 +28,13 @@ class DosBoxFolder {
   /// DOSBox's exit status tells nothing: the batch file ends with leaving a mark here.
   [[nodiscard]] bool HasMark() const;
   /// Leaves the folder to somebody else.
-  void Release() { path_.clear(); }
+  void Release();
 
  private:
-  explicit DosBoxFolder(std::filesystem::path path) : path_(std::move(path)) {}
+  explicit DosBoxFolder(std::filesystem::path path);
 
   std::filesystem::path path_;
+  Descriptor own_;  ///< the folder, locked as long as we live
 };
 
 /// A run of DOSBox that is ready to start. Failure 5 for what DOS cannot be told: a program or current folder

@@ -127,7 +127,7 @@ Outcome<ChildProcess> ChildProcess::Start(const ProcessStart& start) {
   if (child < 0) return FailureOf(errno);
   if (child == 0) {
     ::setpgid(0, 0);
-    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (::getppid() != ours) ::_exit(kNotFoundInShell);  // it died in between
     image.Run();
     failure.Fail(errno);

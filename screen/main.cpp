@@ -8,6 +8,7 @@
 #include <iostream>
 
 #include "app/Application.h"
+#include "platform/DosBox.h"
 #include "platform/HostDrives.h"
 #include "platform/HostFiles.h"
 #include "platform/HostJournals.h"
@@ -158,6 +159,7 @@ int main(int argc, char* argv[]) {
   NameProgram();
   const ProgramFolder folder(Host(QApplication::applicationFilePath()), ProgramFolder::UsersOwn());
   TellIfNothingLasts(folder);
+  DosBoxFolder::RemoveLeftOvers();
   Services services(folder);
   Application application(services.platform);
   const Connection logged = LogToStandardError(application.workbench.log);

@@ -6,8 +6,11 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <thread>
 
+#include "platform/DosBox.h"
 #include "platform/HostPrograms.h"
 #include "support/PlatformPrinters.h"
 #include "support/TemporaryFolder.h"
@@ -47,6 +50,15 @@ bool Lives(int id) {
 
 bool Goes(int id) {
   return Within(20s, [id] { return !Lives(id); });
+}
+
+/// Whether a process was started with the folder in its command line.
+bool IsInUse(const fs::path& folder) {
+  for (const auto& process : fs::directory_iterator("/proc")) {
+    const std::string line = ContentOf(process.path() / "cmdline");
+    if (line.find(folder.string()) != std::string::npos) return true;
+  }
+  return false;
 }
 
 /// Sets a variable of the environment for as long as it lives.
@@ -91,6 +103,16 @@ class ProgramsTest : public testing::Test {
     const auto started = programs.StartToWait(commandLine, WindowStyle::Normal);
     EXPECT_TRUE(started) << commandLine << ": " << started.failure().text;
     return started ? Wait(**started) : ProgramState::Abandoned;
+  }
+  /// Starts the program in a process that is killed once the program has written a line to the file.
+  void KillWhileItRuns(const std::string& commandLine, const fs::path& line) {
+    const pid_t other = ::fork();
+    if (other == 0) {
+      const auto started = programs.StartToWait(commandLine, WindowStyle::Normal);
+      NumberIn(line);
+      ::kill(::getpid(), SIGKILL);
+    }
+    ::waitpid(other, nullptr, 0);
   }
   int FailureOf(const std::string& commandLine) {
     const auto started = programs.StartToWait(commandLine, WindowStyle::Normal);
@@ -227,13 +249,13 @@ TEST_F(ProgramsTest, AProgramThatIsWaitedForEndsWithWhoWaits) {
 
 TEST_F(ProgramsTest, AProgramThatIsWaitedForEndsWhenThisProcessIsKilled) {
   Put(c_ / "load.sh", kEndless);
-  const pid_t other = ::fork();
-  if (other == 0) {
-    const auto started = programs.StartToWait("c:\\load.sh " + out_.string(), WindowStyle::Normal);
-    NumberIn(out_);
-    ::kill(::getpid(), SIGKILL);
-  }
-  ::waitpid(other, nullptr, 0);
+  KillWhileItRuns("c:\\load.sh " + out_.string(), out_);
+  EXPECT_TRUE(Goes(NumberIn(out_)));
+}
+
+TEST_F(ProgramsTest, AProgramThatDoesNotHeedEndsToo) {
+  Put(c_ / "load.sh", "#!/bin/sh\ntrap '' TERM\necho $$ > \"$1\"\nwhile :; do sleep 0.01; done\n");
+  KillWhileItRuns("c:\\load.sh " + out_.string(), out_);
   EXPECT_TRUE(Goes(NumberIn(out_)));
 }
 
@@ -356,6 +378,46 @@ TEST_F(DosProgramsTest, TheRootOfTheHostIsDriveZ) {
   EXPECT_EQ(RunToItsEnd("z:\\tmp\\" + place.filename().string() + "\\load.com z"), ProgramState::Ended);
   EXPECT_EQ(Tail(c_ / "tm" / "f22"), " z");
   fs::remove_all(place);
+}
+
+TEST_F(DosProgramsTest, NobodyWritesToTheRootOfTheHost) {
+  const fs::path place = fs::path("/tmp/tv" + std::to_string(::getpid() % 100000));
+  fs::create_directories(place);
+  std::ofstream(place / "kept.txt") << "kept\r\n";
+  const std::string z = "z:\\tmp\\" + place.filename().string() + "\\";
+  Put(c_ / "go.bat",
+      "echo x>" + z + "new.txt\r\necho x>>" + z + "kept.txt\r\ndel " + z + "kept.txt\r\nmd " + z +
+          "folder\r\ncopy " + z + "kept.txt c:\\read.txt\r\n",
+      false);
+  EXPECT_EQ(RunToItsEnd("c:\\go.bat"), ProgramState::Ended);
+  EXPECT_EQ(ContentOf(c_ / "READ.TXT"), "kept\r\n");
+  EXPECT_EQ(ContentOf(place / "kept.txt"), "kept\r\n");
+  EXPECT_EQ(std::distance(fs::directory_iterator(place), fs::directory_iterator()), 1);
+  fs::remove_all(place);
+}
+
+TEST_F(DosProgramsTest, WhoGivesTheRootALetterMayWriteToIt) {
+  const fs::path place = fs::path("/tmp/tv" + std::to_string(::getpid() % 100000));
+  fs::create_directories(place);
+  drives = Drives({{'c', c_.string()}, {'r', "/"}});
+  Put(c_ / "go.bat", "echo x>r:\\tmp\\" + place.filename().string() + "\\new.txt\r\n", false);
+  EXPECT_EQ(RunToItsEnd("c:\\go.bat"), ProgramState::Ended);
+  EXPECT_EQ(ContentOf(place / "NEW.TXT"), "x\r\n");
+  fs::remove_all(place);
+}
+
+TEST_F(DosProgramsTest, OfAProcessThatIsKilledNothingStays) {
+  Put(c_ / "tm" / "go.bat", "echo 1>c:\\here.txt\r\necho.>>c:\\here.txt\r\nc:\\tm\\loop.com\r\n", false);
+  Put(c_ / "tm" / "loop.com", Bytes(kNeverEnds));
+  KillWhileItRuns("c:\\tm\\go.bat", c_ / "HERE.TXT");
+  ASSERT_FALSE(fs::is_empty(temporary_));
+  const fs::path folder = fs::directory_iterator(temporary_)->path();
+  EXPECT_TRUE(Within(20s, [&folder] { return !IsInUse(folder); })) << "DOSBox ends with who started it";
+  auto other = programs.StartToWait("c:\\tm\\loop.com", WindowStyle::Normal);
+  ASSERT_TRUE(other);
+  DosBoxFolder::RemoveLeftOvers();
+  EXPECT_FALSE(fs::exists(folder));
+  EXPECT_FALSE(fs::is_empty(temporary_)) << "the folder of one that lives stays";
 }
 
 TEST_F(DosProgramsTest, AFolderThatMayNotBeWrittenStopsNoProgram) {
