@@ -1,6 +1,7 @@
 #include "workbench/FileCommands.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "language/Controllers.h"
 #include "platform/FileSize.h"
@@ -208,12 +209,13 @@ void FileCommands::OpenWithoutDialog(const std::string& path) {
 }
 
 std::optional<NamedFile> FileCommands::FileToOpen(const std::string& title, const std::string& filter) {
-  if (toOpen_.path.empty()) {
+  const std::string path = std::exchange(toOpen_.path, {});
+  if (path.empty()) {
     const std::string& folder = documents_.settings.ProgramFilesPath;
     return ChooseFile({FileDialogKind::Open, title, filter, folder, {}, {}});
   }
   const auto name = FileName::From(LowerCase(toOpen_.name.Text()));
-  return NamedFile{LowerCase(toOpen_.path), name.value_or(FileName())};
+  return NamedFile{LowerCase(path), name.value_or(FileName())};
 }
 
 std::optional<NamedFile> FileCommands::ChooseFile(const FileRequest& request) {
@@ -251,13 +253,36 @@ void FileCommands::TakeFile(Document& document, const NamedFile& file) {
   Remember(document);
 }
 
+/// The former text must not be saved under the name of a file whose text never came.
+void FileCommands::MakeUntitled(Document& document) {
+  document.text.SetContent({});
+  NameUntitled(document);
+}
+
+/// Where memory runs out on the way the document is an untitled one, and the other one is as it was.
+void FileCommands::Open(Document& document, const NamedFile& file, const Trap& trap) {
+  try {
+    TakeFile(document, file);
+    if (!document.IsJoystick()) {
+      AnalyseMacroFile();
+      documents_.Say("Finished opening up macro file and extracting macros from it");
+    }
+    FillPane(document, trap);
+  } catch (...) {
+    MakeUntitled(document);
+    document.Dirty = saved::kNoText;
+    ResetHistory(document);
+    documents_.Say(file.path + " can't be opened");
+    throw;
+  }
+}
+
 /// The coloured copy when it is true to the file, else the file itself, coloured. A file that went bad since
 /// it was looked at gives an untitled document: the former text must not be saved in its place.
 void FileCommands::FillPane(Document& document, const Trap& trap) {
   if (!copies_.Load(document)) {
     if (!trap(document.text.LoadFile(document.Path.Get()))) {
-      document.text.SetContent({});
-      NameUntitled(document);
+      MakeUntitled(document);
     }
     if (documents_.settings.ApplyColoursOnFileOpen == 1) highlighter_.Apply(document);
   }
@@ -276,13 +301,8 @@ void FileCommands::Load(Document& document) {
   const auto file = FileToOpen({}, FilterToOpen(words, extension));
   if (!file || !CanRead(file->path, trap)) return;
   const ProgramEdit edit(documents_.values);
-  if (document.IsJoystick()) {
-    TakeFile(document, *file);
-    FillPane(document, trap);
-    lists_.ClearMacroTicks();
-  } else {
-    OpenMacro(*file, trap);
-  }
+  Open(document, *file, trap);
+  if (document.IsJoystick()) lists_.ClearMacroTicks();
   documents_.Select(document);
   documents_.UpdateSavedIcon();
   documents_.HistoryChanged();
@@ -325,13 +345,6 @@ void FileCommands::UpdateMacros() {
   AnalyseMacroFile();
 }
 
-void FileCommands::OpenMacro(const NamedFile& file, const Trap& trap) {
-  TakeFile(documents_.macro, file);
-  AnalyseMacroFile();
-  documents_.Say("Finished opening up macro file and extracting macros from it");
-  FillPane(documents_.macro, trap);
-}
-
 void FileCommands::OpenPair() {
   const Trap trap{documents_.errors, "ED_mnuFileOpen_Click"};
   if (!MayReplace(documents_.joystick, Question::OpenPair) ||
@@ -371,7 +384,7 @@ void FileCommands::OpenFavourite(const std::string& path) {
 }
 
 void FileCommands::OpenMacroThenJoystick(const NamedFile& file, const Trap& trap) {
-  OpenMacro(file, trap);
+  Open(documents_.macro, file, trap);
   documents_.Select(documents_.macro);
   documents_.UpdateSavedIcon();
   const auto partner = JoystickFileBeside(file);
@@ -382,14 +395,12 @@ void FileCommands::OpenMacroThenJoystick(const NamedFile& file, const Trap& trap
     return;
   }
   if (!CanRead(partner->path, trap)) return;
-  TakeFile(documents_.joystick, *partner);
-  FillPane(documents_.joystick, trap);
+  Open(documents_.joystick, *partner, trap);
   FinishPair();
 }
 
 void FileCommands::OpenJoystickThenMacro(const NamedFile& file, const Trap& trap) {
-  TakeFile(documents_.joystick, file);
-  FillPane(documents_.joystick, trap);
+  Open(documents_.joystick, file, trap);
   documents_.Select(documents_.joystick);
   documents_.UpdateSavedIcon();
   documents_.Say("Looking for associated macro file");
@@ -402,7 +413,7 @@ void FileCommands::OpenJoystickThenMacro(const NamedFile& file, const Trap& trap
     return;
   }
   if (!CanRead(partner->path, trap)) return;
-  OpenMacro(*partner, trap);
+  Open(documents_.macro, *partner, trap);
   FinishPair();
 }
 

@@ -81,12 +81,13 @@ class FileCommands {
   void ShowName(const Document& document);
   void Remember(const Document& document);
   bool CanRead(const std::string& path, const Trap& trap);
+  void MakeUntitled(Document& document);
   void TakeFile(Document& document, const NamedFile& file);
+  void Open(Document& document, const NamedFile& file, const Trap& trap);
   void FillPane(Document& document, const Trap& trap);
   void SaveText(Document& document);
   void OpenMacroThenJoystick(const NamedFile& file, const Trap& trap);
   void OpenJoystickThenMacro(const NamedFile& file, const Trap& trap);
-  void OpenMacro(const NamedFile& file, const Trap& trap);
   void TellUnrecognised();
   void FinishPair();
 

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include "support/BareWorkbench.h"
 
 namespace tarvik {
@@ -40,6 +42,54 @@ TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerTex
   EXPECT_EQ(files.Content("c:\\my\\former.b50"), "the former text\r\n");
   EXPECT_EQ(bare.workbench.errors.ErrorText.Get(), "Input/output error");
   EXPECT_EQ(joystick.text.Text.Get(), "more ");
+}
+
+/// A disk of which the failing file takes more memory than there is, from the second reading on.
+class EndlessFiles : public FailingFiles {
+ public:
+  Outcome<std::string> Read(std::string_view path) const override {
+    auto read = FailingFiles::Read(path);
+    if (!read && path == failing) throw std::bad_alloc();
+    return read;
+  }
+};
+
+TEST(FileCommands, MemoryThatRunsOutWhileOneDocumentIsOpenedLeavesTheOtherAlive) {
+  for (const char* const failing : {"c:\\my\\big.b50", "c:\\my\\big.m50"}) {
+    for (int readings = 0; readings < 3; ++readings) {
+      EndlessFiles files;
+      for (const char* const ending : {"b50", "m50"}) {
+        files.Put(std::string("c:\\my\\former.") + ending, "the former text\r\n");
+        files.Put(std::string("c:\\my\\big.") + ending, "its own text\r\n");
+      }
+      BareWorkbench bare(&files);
+      FileCommands& commands = bare.workbench.files;
+      Documents& documents = bare.workbench.documents;
+      commands.OpenFavourite("c:\\my\\former.b50");
+      commands.OpenFavourite("c:\\my\\former.m50");
+      files.failing = failing;
+      files.left = readings;
+      bool thrown = false;
+      try {
+        commands.OpenFavourite(failing);
+      } catch (const std::bad_alloc&) {
+        thrown = true;
+      }
+      const bool isJoystick = files.failing.ends_with("b50");
+      Document& opened = isJoystick ? documents.joystick : documents.macro;
+      Document& other = isJoystick ? documents.macro : documents.joystick;
+      EXPECT_TRUE(thrown || opened.text.Text.Get() == "its own text\r\n") << failing << readings;
+      EXPECT_EQ(other.text.Text.Get(), "the former text\r\n");
+      files.failing.clear();
+      for (Document* const document : {&opened, &other}) {
+        document->text.UserReplaced({0, 0}, "more ");
+        documents.TextChanged(*document);
+        if (!document->IsUntitled()) commands.Save(*document);
+      }
+      EXPECT_NE(files.Content(failing), "more the former text\r\n") << failing << readings;
+      EXPECT_EQ(files.Content(other.Path.Get()), "more the former text\r\n");
+    }
+  }
 }
 
 }  // namespace
