@@ -79,6 +79,18 @@ void ColourExamples(QTextDocument& document, const FileLook& look) {
   }
 }
 
+/// The topic that is read. Topics have no pictures: what a help file from elsewhere names as one may be
+/// anything on the disk, and have no end.
+class TopicText : public QTextBrowser {
+ public:
+  QVariant loadResource(int type, const QUrl& /*name*/) override {
+    if (type != QTextDocument::ImageResource) return {};
+    QImage nothing(1, 1, QImage::Format_ARGB32_Premultiplied);
+    nothing.fill(Qt::transparent);
+    return nothing;
+  }
+};
+
 std::size_t TopicOf(const QListWidgetItem& item) { return item.data(Qt::UserRole).toUInt(); }
 
 }  // namespace
@@ -87,7 +99,7 @@ HelpWindow::HelpWindow()
     : words_(new QLineEdit),
       none_(new QLabel(tr("No topic has these words."))),
       topics_(new QListWidget),
-      text_(new QTextBrowser) {
+      text_(new TopicText) {
   setWindowTitle(tr("Tarvik help"));
   resize(kSize.boundedTo(RoomOnScreen(*this)));
   topics_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

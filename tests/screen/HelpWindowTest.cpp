@@ -1,0 +1,30 @@
+// The help window, where only the toolkit can show it.
+#include <gtest/gtest.h>
+
+#include <QAbstractTextDocumentLayout>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QTextDocument>
+
+#include "screen/services/HelpWindow.h"
+
+namespace tarvik::screen {
+namespace {
+
+TEST(HelpWindow, OpensNoFileThatATopicNamesAsItsPicture) {
+  const QTemporaryDir folder;
+  const QString picture = folder.filePath(QStringLiteral("tall.png"));
+  QImage tall(10, 5000, QImage::Format_RGB32);
+  tall.fill(Qt::red);
+  ASSERT_TRUE(tall.save(picture));
+  HelpWindow window;
+  window.Open(HelpFile("# One\n<!-- 1: -->\nBefore ![](" + picture.toStdString() + ") <img src=\"" +
+                       picture.toStdString() + "\"> behind.\n"));
+  window.ShowContext(1);
+  const auto* const text = window.findChild<QTextBrowser*>();
+  EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("behind.")));
+  EXPECT_LT(text->document()->documentLayout()->documentSize().height(), 1000);
+}
+
+}  // namespace
+}  // namespace tarvik::screen
