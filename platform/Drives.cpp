@@ -177,7 +177,7 @@ Outcome<fs::path> Drives::ToHostNew(std::string_view path) const {
   const auto host = Find(*folder);
   if (!host) return host.failure();
   if (!IsFolder(*host)) return Missing();
-  const auto match = Match(*host, name);
+  auto match = Match(*host, name);
   if (match && !picked) return match;
   if (!match && !IsMissing(match.failure())) return match.failure();
   if (!match && IsName(name)) return *host / ToUtf8(LowerCase(name));

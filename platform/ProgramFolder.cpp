@@ -65,6 +65,8 @@ bool Copy(const fs::path& from, const fs::path& to) {
 using Record = std::map<std::string, Stamp>;
 
 Record ReadRecord(const fs::path& file) {
+  std::error_code ignored;
+  if (!fs::is_regular_file(file, ignored)) return {};  // a pipe would wait for somebody who writes to it
   Record record;
   std::ifstream stream(file);
   Stamp stamp;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/stat.h>
 
 #include <chrono>
 #include <string>
@@ -124,6 +125,13 @@ TEST_F(ProgramFolderTest, AFileThatCouldNotBeCopiedComesAtALaterStart) {
   fs::remove(own / "Templates");
   Start();
   EXPECT_EQ(Own("Templates/Title.rtf"), "title");
+}
+
+TEST_F(ProgramFolderTest, APipeInPlaceOfTheRecordKeepsNobodyWaiting) {
+  temporary.Make("home/.local/share/tarvik");
+  ASSERT_EQ(mkfifo((own / "installed.txt").c_str(), 0600), 0);
+  Start();
+  EXPECT_EQ(Own("tarvik.hlp"), "help");
 }
 
 TEST_F(ProgramFolderTest, CopiesCanBeWrittenAndNothingElseIsLeftBehind) {
