@@ -101,6 +101,7 @@ void Application::Load(std::unique_ptr<Form> form) {
 }
 
 void Application::Activated(Form& form) {
+  workbench.foreign.Look();  // the user may come from another program
   const bool toMain = &form == editor_.get() || &form == mum_.get();
   Form& now = toMain && EditorIsLoaded() ? *editor_ : form;
   Form* const left = std::exchange(active_, &now);

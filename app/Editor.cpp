@@ -175,6 +175,8 @@ void Editor::FollowWorkbench() {
         if (unsaved.head.kind == TextKind::Logic) application_.Show(ToolId::Composer);
       }),
       bench_.recovery.WantsPage.Connect([this] { application_.Show(ToolId::UnsavedTexts); }),
+      bench_.foreign.WantsComparison.Connect(
+          [this](const Comparison&) { application_.Show(ToolId::CompareTexts); }),
       bench_.ToolbarSettingsChanged.Connect([this] { UpdateToolBarOpenSaveTooltips(); }),
       bench_.AutoSaveSettingsChanged.Connect([this] { AutoSaveHasChanged(); }),
       bench_.HardwareSettingsChanged.Connect([this] { HardwareHasChanged(); }),

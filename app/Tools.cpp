@@ -10,6 +10,7 @@
 #include "tools/preferences/Preferences.h"
 #include "tools/programs/Games.h"
 #include "tools/programs/ProgramWait.h"
+#include "tools/recovery/CompareTexts.h"
 #include "tools/recovery/UnsavedTexts.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
@@ -80,6 +81,7 @@ constexpr ToolRow kTools[] = {
     Row<JoyPlot>(ToolId::JoystickAnalyser, "JoyPlot", EndsWith::Editor, ShowAnalyser),
     Row<Speedy>(ToolId::Speedy, "Speedy", EndsWith::Editor, Raise<Speedy>),
     Row<UnsavedTexts>(ToolId::UnsavedTexts, "UnsavedTexts", EndsWith::Editor, Raise<UnsavedTexts>),
+    Row<CompareTexts>(ToolId::CompareTexts, "CompareTexts", EndsWith::Editor, Raise<CompareTexts>),
     Row<ColourSelector>(ToolId::ColourSelector, "ColourSelector", EndsWith::Frame, ShowColours),
     Row<KeyTestForm>(ToolId::KeyTest, "KeyTestForm", EndsWith::Frame, ShowKeyTest),
     Row<ProgramWait>(ToolId::ProgramWait, "ProgramWait", EndsWith::Frame),

@@ -2,6 +2,7 @@
 // Windows-1252 code page. Names are looked up without regard to case.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -9,6 +10,16 @@
 #include "platform/Outcome.h"
 
 namespace tarvik {
+
+/// What the disk tells of a file without reading it: where one of these is another one, the file may be.
+struct FileState {
+  std::uint64_t size = 0;
+  std::uint64_t identity = 0;  ///< another one where a file took its place
+  std::int64_t modified = 0;   ///< nanoseconds, and the next one too
+  std::int64_t changed = 0;    ///< also at what only touches its times or its permissions
+
+  bool operator==(const FileState&) const = default;
+};
 
 class Files {
  public:
@@ -30,6 +41,9 @@ class Files {
 
   /// The letters of the drives that are there.
   [[nodiscard]] virtual std::string DriveLetters() const = 0;
+
+  /// The failure of a file that is not there is `error::kFileNotFound`; after any other one nobody knows.
+  [[nodiscard]] virtual Outcome<FileState> State(std::string_view path) const = 0;
 
   /// The whole content, byte for byte. A file that is larger than `kLargestFile` is a failure.
   [[nodiscard]] virtual Outcome<std::string> Read(std::string_view path) const = 0;

@@ -32,6 +32,11 @@ std::optional<struct stat> StatusOf(const fs::path& path) {
   return stat(path.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
 }
 
+std::int64_t Nanoseconds(const struct timespec& time) {
+  constexpr std::int64_t kInASecond = 1'000'000'000;
+  return time.tv_sec * kInASecond + time.tv_nsec;
+}
+
 bool MayWrite(const fs::path& path, const struct stat& status) {
   return (status.st_mode & kAnyMayWrite) != 0 && access(path.c_str(), W_OK) == 0;
 }
@@ -211,6 +216,18 @@ std::string HostFiles::DriveLetters() const {
     if (FolderExists(std::string{letter, ':', '\\'})) letters += letter;
   }
   return letters;
+}
+
+Outcome<FileState> HostFiles::State(std::string_view path) const {
+  const auto host = drives_.ToHost(path);
+  struct stat status {};
+  if (!host) return SystemFailure(ENOENT, error::kFileNotFound);
+  if (stat(host->c_str(), &status) != 0) return SystemFailure(errno, error::kFileNotFound);
+  if (S_ISDIR(status.st_mode)) return SystemFailure(EISDIR);
+  return FileState{.size = static_cast<std::uint64_t>(status.st_size),
+                   .identity = status.st_ino,
+                   .modified = Nanoseconds(status.st_mtim),
+                   .changed = Nanoseconds(status.st_ctim)};
 }
 
 Outcome<std::string> HostFiles::Read(std::string_view path) const {

@@ -21,6 +21,7 @@ class HostFiles : public Files {
                                                  std::string_view ending) const override;
   [[nodiscard]] std::vector<std::string> FoldersIn(std::string_view folder) const override;
   [[nodiscard]] std::string DriveLetters() const override;
+  [[nodiscard]] Outcome<FileState> State(std::string_view path) const override;
   [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
 
   /// A link stays a link: the file it leads to is replaced. A file keeps its mode and, as far as the system

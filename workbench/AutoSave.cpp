@@ -7,7 +7,8 @@ constexpr int kMinute = 60000;  // milliseconds
 
 }  // namespace
 
-AutoSave::AutoSave(Documents& documents, FileCommands& files) : documents_(documents), files_(files) {
+AutoSave::AutoSave(Documents& documents, FileCommands& files, ForeignChanges& foreign)
+    : documents_(documents), files_(files), foreign_(foreign) {
   timer.Interval = kMinute;
 }
 
@@ -24,8 +25,9 @@ void AutoSave::CountMinute() {
 
 void AutoSave::AutoSaveFile() {
   for (Document* document : {&documents_.joystick, &documents_.macro}) {
+    if (document->Dirty != saved::kModified || foreign_.HasChanged(*document)) continue;
     // The history stays as it is, whatever is set for a save by hand.
-    if (document->Dirty == saved::kModified) files_.WriteToDisk(*document, "ED_AutoSaveFile");
+    files_.WriteToDisk(*document, "ED_AutoSaveFile");
   }
 }
 

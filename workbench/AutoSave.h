@@ -1,7 +1,7 @@
 // Saves modified files by the clock: every so many minutes, between events, also under an open dialog.
 #pragma once
 
-#include "workbench/FileCommands.h"
+#include "workbench/ForeignChanges.h"
 
 namespace tarvik {
 
@@ -9,7 +9,7 @@ class AutoSave {
   Documents& documents_;  // the timer is made in it
 
  public:
-  AutoSave(Documents& documents, FileCommands& files);
+  AutoSave(Documents& documents, FileCommands& files, ForeignChanges& foreign);
 
   Timer timer{documents_, "Timer1"};
 
@@ -17,11 +17,13 @@ class AutoSave {
   void Restart();
   /// Counts a minute that has passed.
   void CountMinute();
-  /// Writes each modified file, an untitled one too, where its path says.
+  /// Writes each modified file, an untitled one too, where its path says. What another program wrote there
+  /// stays, and the document stays modified.
   void AutoSaveFile();
 
  private:
   FileCommands& files_;
+  ForeignChanges& foreign_;
   int minutes_ = 0;
 };
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/FileName.h"
+#include "workbench/SeenFile.h"
 #include "workbench/Settings.h"
 #include "workbench/UndoHistory.h"
 
@@ -71,6 +72,7 @@ class Document : public Component {
   Property<std::size_t> Caret{*this, traits.caret};
   Property<std::size_t> SelLength{*this, traits.selLength};
   UndoHistory Undo{*this, traits.undoIndex, traits.undoStart, text};
+  SeenFile seen;  ///< the file at its path, as it was when it was last read or written
 
   /// Empties the document, and forgets everything of the file that it was.
   void Reset() {
@@ -85,6 +87,7 @@ class Document : public Component {
     Caret = 0;
     SelLength = 0;
     Undo.Clear();
+    seen.Forget();
   }
 
   [[nodiscard]] bool IsJoystick() const { return traits.tab == 1; }

@@ -133,6 +133,7 @@ void FileCommands::NameUntitled(Document& document) {
   document.Name = FileName::From("untitled." + extension).value_or(*FileName::From("untitled."));
   // No separator stands between the two: nobody saves an untitled file to this path by hand.
   document.Path = documents_.settings.ProgramFilesPath.Get() + document.Name.Get().Text();
+  document.seen.Forget();
   ShowName(document);
 }
 
@@ -277,15 +278,25 @@ void FileCommands::Open(Document& document, const NamedFile& file, const Trap& t
   }
 }
 
-/// The coloured copy when it is true to the file, else the file itself, coloured. A file that went bad since
-/// it was looked at gives an untitled document: the former text must not be saved in its place.
+/// What is seen before the pane is filled can only be older than what fills it: a change in between shows.
+FileCommands::Read FileCommands::ReadInto(Document& document, const Trap& trap) {
+  Ignore(document.seen.See(documents_.platform.files, document.Path.Get()));
+  if (copies_.Load(document)) return Read::Coloured;
+  return trap(document.text.LoadFile(document.Path.Get())) ? Read::Plain : Read::Nothing;
+}
+
+void FileCommands::ColourWhatWasRead(Document& document, Read read) {
+  if (read != Read::Coloured && documents_.settings.ApplyColoursOnFileOpen == 1) highlighter_.Apply(document);
+}
+
+/// A file that went bad since it was looked at gives an untitled document: the former text must not be saved
+/// in its place.
 void FileCommands::FillPane(Document& document, const Trap& trap) {
-  if (!copies_.Load(document)) {
-    if (!trap(document.text.LoadFile(document.Path.Get()))) {
-      MakeUntitled(document);
-    }
-    if (documents_.settings.ApplyColoursOnFileOpen == 1) highlighter_.Apply(document);
+  const Read read = ReadInto(document, trap);
+  if (read == Read::Nothing) {
+    MakeUntitled(document);
   }
+  ColourWhatWasRead(document, read);
   document.Caret = 0;
   document.text.SelStart = 0;
   document.Dirty = saved::kSaved;
@@ -474,6 +485,8 @@ void FileCommands::SaveAs(Document& document) {
                                   suggestion,
                                   extension});
   if (!chosen) return;
+  // Whoever picks another file that is there has agreed that it goes.
+  if (chosen->path != document.Path.Get()) Ignore(document.seen.See(documents_.platform.files, chosen->path));
   document.Path = chosen->path;
   document.Name = chosen->name;
   SaveText(document);
@@ -484,6 +497,32 @@ void FileCommands::SaveAs(Document& document) {
 void FileCommands::SaveText(Document& document) {
   WriteToDisk(document, WordsOf(document).saveTag);
   if (documents_.settings.UndoClearOnSave == 1) ResetHistory(document);
+}
+
+Outcome<> FileCommands::KeepOthersVersion(Document& document) {
+  Files& files = documents_.platform.files;
+  const OnDisk now = document.seen.Look(files, document.Path.Get());
+  if (now != OnDisk::Changed && now != OnDisk::NeverSeen) return Done{};
+  const auto bytes = files.Read(document.Path.Get());
+  if (!bytes) return bytes.failure();
+  const std::string& name = document.Name.Get().Text();
+  const std::size_t dot = std::min(name.rfind('.'), name.size());
+  const auto own = FileName::From(name.substr(0, dot) + "-other-" + MarkOf(*bytes) + name.substr(dot));
+  if (!own) return Failure{error::kPathNotFound, "The file has no name", 0};
+  const std::string kept = documents_.values.BackupDir.Get() / *own;
+  auto written = files.Write(kept, *bytes);
+  if (written) KeptOthers(document, kept);
+  return written;
+}
+
+Outcome<> FileCommands::WriteText(Document& document, const Pane& text) {
+  if (auto kept = KeepOthersVersion(document); !kept) return kept;
+  auto written = text.SaveFile(document.Path.Get(), FileFormat::Text);
+  if (!written) return written;
+  const auto read = document.seen.See(documents_.platform.files, document.Path.Get());
+  if (!read) return read.failure();
+  if (*read != text.Characters()) return Failure{error::kUnexpected, "The file does not hold the text", 0};
+  return written;
 }
 
 void FileCommands::WriteToDisk(Document& document, std::string_view tag) {

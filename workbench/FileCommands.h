@@ -60,10 +60,22 @@ class FileCommands {
   /// are recorded under `tag`.
   void WriteToDisk(Document& document, std::string_view tag);
 
+  /// How a file came into a pane: by its coloured copy, which was true to it, or itself, or not at all.
+  enum class Read { Coloured, Plain, Nothing };
+  /// Fills the pane with what the document's file holds now; the pane stays where that cannot be read.
+  [[nodiscard]] Read ReadInto(Document& document, const Trap& trap);
+  /// The coloured copy has its colours; the file itself gets them as the settings say.
+  void ColourWhatWasRead(Document& document, Read read);
+  /// Puts what is at the document's path into the backups, under a name of its own, unless the document
+  /// comes from there.
+  Outcome<> KeepOthersVersion(Document& document);
+
   /// The document's text is about to go: another file comes in its place, or none.
   Signal<const Document&> Leaves;
   /// A document was written to its path, or could not be.
   Signal<Document&, const Outcome<>&> Written;
+  /// What another program wrote to the document's path is in the file of that path now.
+  Signal<Document&, const std::string&> KeptOthers;
   /// The macro lists are about to be made anew and want to be seen.
   Signal<> ShowsMacros;
   /// The settings of the files do not fit what the user opens, and who can change them is to be asked for.
@@ -86,6 +98,8 @@ class FileCommands {
   void Open(Document& document, const NamedFile& file, const Trap& trap);
   void FillPane(Document& document, const Trap& trap);
   void SaveText(Document& document);
+  /// It has succeeded when the file, read again, holds the text.
+  [[nodiscard]] Outcome<> WriteText(Document& document, const Pane& text);
   void OpenMacroThenJoystick(const NamedFile& file, const Trap& trap);
   void OpenJoystickThenMacro(const NamedFile& file, const Trap& trap);
   void TellUnrecognised();

@@ -37,6 +37,7 @@ enum class ToolId {
   About,
   Log,
   UnsavedTexts,
+  CompareTexts,
 };
 
 /// The pages of the preferences.

@@ -40,8 +40,9 @@ class Workbench {
   LineBlink blink{documents};
   EditCommands edit{documents, insertion};
   FileCommands files{documents, copies, highlighter, macros, lists};
-  AutoSave autoSave{documents, files};
   Notices notices;
+  ForeignChanges foreign{documents, files, insertion, notices};
+  AutoSave autoSave{documents, files, foreign};
   JournalKeeper journals{platform, errors};
   UnsavedWork unsaved{journals, documents, files, notices};
   Recovery recovery{documents, files, insertion, journals, notices};

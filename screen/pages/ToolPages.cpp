@@ -16,6 +16,7 @@
 #include "tools/preferences/DrivesForm.h"
 #include "tools/programs/Games.h"
 #include "tools/programs/ProgramWait.h"
+#include "tools/recovery/CompareTexts.h"
 #include "tools/recovery/UnsavedTexts.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
@@ -325,17 +326,24 @@ QLayout* Page(LogForm& form, const FormLayout& in) {
       {Wrapped(in.Show(form.Label1)), lines, Row({in.Show(form.cmdCopy), Stretch(), in.Show(form.cmdOK)})});
 }
 
+QLayout* Panes(SideBySide& texts, const char* before, const char* after, const FormLayout& in) {
+  QWidget* const panes[] = {in.Show(texts.before), in.Show(texts.after)};
+  for (QWidget* const pane : panes) pane->setMinimumSize(180, 120);
+  return Row({Above(before, panes[0]), Above(after, panes[1])});
+}
+
+QLayout* Page(CompareTexts& form, const FormLayout& in) {
+  return Column({Wrapped(in.Show(form.Label1)), Panes(form.texts, "In the file", "In this window", in),
+                 Row({in.Show(form.Command1), Stretch(), in.Show(form.Command2)})});
+}
+
 QLayout* Page(UnsavedTexts& form, const FormLayout& in) {
   QWidget* const texts = Named(in.Show(form.Texts), QStringLiteral("Texts"));
   texts->setMinimumHeight(48);
   texts->setMaximumHeight(120);
-  QWidget* const inFile = in.Show(form.FileText);
-  QWidget* const unsaved = in.Show(form.UnsavedText);
-  for (QWidget* const pane : {inFile, unsaved}) pane->setMinimumSize(180, 120);
-  return Column({Wrapped(in.Show(form.Explanation)), texts,
-                 Row({Above("In the file now", inFile), Above("Not saved", unsaved)}),
-                 Row({in.Show(form.NextDifference), Stretch(), in.Show(form.BringBack),
-                      in.Show(form.KeepBoth), in.Show(form.ThrowAway), in.Show(form.Later)})});
+  return Column({Wrapped(in.Show(form.Explanation)), texts, Panes(form.texts, "In the file now", "Not saved", in),
+                 Row({in.Show(form.NextDifference), Stretch(), in.Show(form.BringBack), in.Show(form.KeepBoth),
+                      in.Show(form.ThrowAway), in.Show(form.Later)})});
 }
 
 QLayout* Page(ViewImage& form, const FormLayout& in) {
@@ -376,8 +384,8 @@ MakePage PageAmong(Form& form) {
 MakePage PageOf(Form& form) {
   return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, Wizard, Speedy, Title, Heading,
                    SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
-                   EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, UnsavedTexts, ViewImage,
-                   SelectPictureForm>(form);
+                   EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, CompareTexts, UnsavedTexts,
+                   ViewImage, SelectPictureForm>(form);
 }
 
 }  // namespace tarvik::screen

@@ -195,6 +195,21 @@ TEST_F(HostFilesTest, InAReadOnlyFolderTheOldFileStays) {
   EXPECT_EQ(Names(), std::vector<std::string>{"a.b50"});
 }
 
+TEST_F(HostFilesTest, TheStateTellsOfEachChangeAndOfAFileThatIsNotThere) {
+  temporary.Put("dos/a.b50", "one");
+  const auto before = files.State("c:\\a.b50");
+  ASSERT_TRUE(before);
+  EXPECT_EQ(*files.State("c:\\A.B50"), *before);
+  temporary.Put("dos/b.b50", "two");
+  fs::last_write_time(Host("b.b50"), fs::last_write_time(Host("a.b50")));
+  fs::rename(Host("b.b50"), Host("a.b50"));
+  ASSERT_TRUE(files.State("c:\\a.b50"));
+  EXPECT_NE(*files.State("c:\\a.b50"), *before);
+  fs::remove(Host("a.b50"));
+  EXPECT_EQ(files.State("c:\\a.b50").failure().number, error::kFileNotFound);
+  EXPECT_EQ(files.State("c:\\").failure().number, error::kPathAccess);
+}
+
 TEST_F(HostFilesTest, AFolderInTheWayStays) {
   temporary.Make("dos/a.b50");
   EXPECT_EQ(files.Write("c:\\a.b50", "new").failure().number, error::kPathAccess);

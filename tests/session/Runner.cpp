@@ -208,7 +208,8 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"set PROPERTY TEXT|:", &Runner::Set, Needs::Program},
       {"call Editor.ExtractButtonDefinition TEXT", &Runner::Call, Needs::Program},
       {"call Editor.Form_Activate|Editor.HardwareHasChanged|Editor.DamnFontWasChanged|"
-       "Editor.DeleteUndosFromMemory|Editor.EmergencySaveFiles|Editor.CheckAtLineBeginning|Mum.MakeFlat|"
+       "Editor.DeleteUndosFromMemory|Editor.EmergencySaveFiles|Editor.CheckAtLineBeginning|Mum.Activated|"
+       "Mum.MakeFlat|"
        "Mum.ColoursSortOut|Mum.ReleaseGradientInEmergency|Settings.SaveOptions|KeyTestForm.TurnOffCapsLOCK",
        &Runner::Call, Needs::Program},
       {"choose TEXT", &Runner::Choose},
@@ -662,6 +663,7 @@ void Runner::Call(const Line& line) {
       {"Editor.EmergencySaveFiles", [&] { editor()->EmergencySaveFiles(); }},
       {"Editor.CheckAtLineBeginning", [&] { editor()->CheckAtLineBeginning(); }},
       {"Mum.ReleaseGradientInEmergency", [&] { application_->mum().ReleaseGradientInEmergency(); }},
+      {"Mum.Activated", [&] { application_->Activated(application_->mum()); }},
       {"Mum.MakeFlat", [&] { application_->mum().MakeFlat(); }},
       {"Mum.ColoursSortOut", [&] { application_->mum().ColoursSortOut(); }},
       {"Settings.SaveOptions", [&] { application_->workbench.settings.SaveOptions(); }},

@@ -1,25 +1,6 @@
 #include "tools/recovery/UnsavedTexts.h"
 
 namespace tarvik {
-namespace {
-
-constexpr int kNoWrapping = 2000;
-constexpr Colour kGone = Rgb(178, 24, 24);
-constexpr Colour kCome = Rgb(0, 112, 48);
-
-/// Black, but for the lines that the other text lacks.
-RichText Marked(const std::string& text, const std::vector<Difference>& differences, Range Difference::*side,
-                Colour colour) {
-  RichText marked(text);
-  for (const Difference& difference : differences) {
-    const Range range = difference.*side;
-    marked.colours.Replace(range, ColourRuns(range.length, colour));
-  }
-  return marked;
-}
-
-}  // namespace
-
 UnsavedTexts::UnsavedTexts(Workbench& bench, Shell& shell) : ToolForm("UnsavedTexts", bench, shell) {
   Caption = "Texts that were not saved";
   Explanation.Caption =
@@ -31,11 +12,6 @@ UnsavedTexts::UnsavedTexts(Workbench& bench, Shell& shell) : ToolForm("UnsavedTe
   ThrowAway.ToolTipText = "Forgets this text";
   Later.ToolTipText = "Leaves all as it is, until the next start";
   Later.Cancel = true;
-  for (Pane* const pane : {&FileText, &UnsavedText}) {
-    ApplyFont(*pane, bench.settings);
-    pane->Locked = true;
-    pane->RightMargin = kNoWrapping;
-  }
   connections_ = {
       bench.recovery.Changed.Connect([this] { FillList(); }),
       Texts.ListIndex.Changed.Connect([this] { ShowPicked(); }),
@@ -56,28 +32,11 @@ void UnsavedTexts::FillList() {
 }
 
 void UnsavedTexts::ShowPicked() {
-  differences_.clear();
-  next_ = 0;
   const int picked = Texts.ListIndex;
-  if (picked < 0) {
-    for (Pane* const pane : {&FileText, &UnsavedText}) pane->SetContent({});
-    return;
-  }
+  if (picked < 0) return texts.Show({}, {});
   const LeftText& left = bench_.recovery.Texts()[static_cast<std::size_t>(picked)];
-  const std::string inFile = bench_.recovery.InFile(left).text;
-  const std::string& unsaved = left.unsaved.text.text;
-  differences_ = DifferencesOf(inFile, unsaved);
-  FileText.SetContent(Marked(inFile, differences_, &Difference::before, kGone));
-  UnsavedText.SetContent(Marked(unsaved, differences_, &Difference::after, kCome));
-  NextDifference.Enabled = !differences_.empty();
-  if (!differences_.empty()) NextDifference_Click();
-}
-
-void UnsavedTexts::NextDifference_Click() {
-  const Difference& difference = differences_[next_];
-  next_ = (next_ + 1) % differences_.size();
-  FileText.Select(difference.before);
-  UnsavedText.Select(difference.after);
+  texts.Show(bench_.recovery.InFile(left).text, left.unsaved.text.text);
+  NextDifference.Enabled = texts.Differ();
 }
 
 void UnsavedTexts::WithPicked(void (Recovery::*act)(const std::string& journal)) {

@@ -2,8 +2,7 @@
 // done about it.
 #pragma once
 
-#include "panes/Pane.h"
-#include "workbench/ToolForm.h"
+#include "tools/recovery/SideBySide.h"
 
 namespace tarvik {
 
@@ -13,28 +12,23 @@ class UnsavedTexts : public ToolForm {
 
   Label Explanation{*this, "Explanation"};
   ListBox Texts{*this, "Texts"};  ///< a line for each text, the newest first
-  Pane FileText{*this, "FileText", bench_.platform.files};
-  Pane UnsavedText{*this, "UnsavedText", bench_.platform.files};
+  SideBySide texts{*this, bench_, "FileText", "UnsavedText"};
   CommandButton BringBack{*this, "BringBack", "&Bring back", &UnsavedTexts::BringBack_Click};
   CommandButton KeepBoth{*this, "KeepBoth", "&Keep both", &UnsavedTexts::KeepBoth_Click};
   CommandButton ThrowAway{*this, "ThrowAway", "&Throw away", &UnsavedTexts::ThrowAway_Click};
-  CommandButton NextDifference{*this, "NextDifference", "Ne&xt difference",
-                               &UnsavedTexts::NextDifference_Click};
+  CommandButton NextDifference{*this, "NextDifference", "Ne&xt difference", &UnsavedTexts::NextDifference_Click};
   CommandButton Later{*this, "Later", "&Later", &UnsavedTexts::Close};
 
   void BringBack_Click() { WithPicked(&Recovery::BringBack); }
   void KeepBoth_Click() { WithPicked(&Recovery::KeepBoth); }
   void ThrowAway_Click() { WithPicked(&Recovery::ThrowAway); }
-  /// Goes to it in both texts, and from the last one to the first.
-  void NextDifference_Click();
+  void NextDifference_Click() { texts.GoToNext(); }
 
  private:
   void FillList();
   void ShowPicked();
   void WithPicked(void (Recovery::*act)(const std::string& journal));
 
-  std::vector<Difference> differences_;
-  std::size_t next_ = 0;
   std::vector<Connection> connections_;
 };
 

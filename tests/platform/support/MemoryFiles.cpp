@@ -26,7 +26,7 @@ void MemoryFiles::Put(std::string_view path, std::string_view content) {
   const auto whole = current_.Complete(path);
   assert(whole && !whole->names.empty());
   PutFolder(Parent(*whole).Text());
-  entries_[whole->Text()] = {.content = std::string(content)};
+  entries_[whole->Text()] = {.content = std::string(content), .written = ++writes_};
 }
 
 void MemoryFiles::PutFolder(std::string_view path) {
@@ -117,6 +117,13 @@ std::string MemoryFiles::DriveLetters() const {
   return letters;
 }
 
+Outcome<FileState> MemoryFiles::State(std::string_view path) const {
+  const Entry* entry = Find(path);
+  if (!entry) return Failure{error::kFileNotFound, "File not found", ENOENT};
+  if (entry->isFolder) return PathAccess();
+  return FileState{.size = entry->content.size(), .modified = entry->written, .changed = entry->written};
+}
+
 Outcome<std::string> MemoryFiles::Read(std::string_view path) const {
   const Entry* entry = Find(path);
   if (!entry) return Failure{error::kFileNotFound, "File not found", ENOENT};
@@ -141,7 +148,9 @@ Outcome<> MemoryFiles::Write(std::string_view path, std::string_view content) {
   if (old && (old->isFolder || old->readOnly)) return PathAccess();
   if (room_ && content.size() > *room_) return Failure{error::kDiskFull, "Disk full", ENOSPC};
   if (room_) *room_ -= content.size();
-  entries_[place->Text()].content = content;
+  Entry& entry = entries_[place->Text()];
+  entry.content = content;
+  entry.written = ++writes_;
   return Done{};
 }
 

@@ -46,6 +46,7 @@ class MemoryFiles : public Files {
                                                  std::string_view ending) const override;
   [[nodiscard]] std::vector<std::string> FoldersIn(std::string_view folder) const override;
   [[nodiscard]] std::string DriveLetters() const override;
+  [[nodiscard]] Outcome<FileState> State(std::string_view path) const override;
   [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
   Outcome<> Write(std::string_view path, std::string_view content) override;
   Outcome<> MakeFolder(std::string_view path) override;
@@ -58,6 +59,7 @@ class MemoryFiles : public Files {
     bool readOnly = false;
     bool unreadable = false;
     std::string content{};
+    std::int64_t written = 0;
   };
 
   [[nodiscard]] std::vector<std::string> NamesIn(std::string_view folder, bool folders) const;
@@ -67,6 +69,7 @@ class MemoryFiles : public Files {
   [[nodiscard]] Outcome<LogicalPath> PlaceFor(std::string_view path) const;
 
   std::map<std::string, Entry> entries_;  ///< by whole path in lower case
+  std::int64_t writes_ = 0;               ///< the clock of the disk
   std::optional<std::size_t> room_;
   CurrentFolders current_;
 };
