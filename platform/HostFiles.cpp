@@ -2,6 +2,7 @@
 
 #include <signal.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 #include <algorithm>
 #include <charconv>
@@ -26,6 +27,8 @@ constexpr mode_t kFolder = 0777;
 
 /// Temporary files are called so, with the process and a number behind it: .tarvik-1234-0
 constexpr std::string_view kTemporary = ".tarvik-";
+/// Old contents of files that are written in place are called so, and stay where the process dies meanwhile.
+constexpr std::string_view kOldContent = ".tarvik-old-";
 
 std::optional<struct stat> StatusOf(const fs::path& path) {
   struct stat status {};
@@ -54,68 +57,97 @@ Outcome<fs::path> FollowLinks(fs::path path) {
   return path;
 }
 
-/// What forbids replacing `target`, or 0.
+bool TakesNewFiles(const fs::path& folder) {
+  const auto status = StatusOf(folder);
+  return status && MayWrite(folder, *status);
+}
+
+/// What forbids writing `target`, or 0.
 int Obstacle(const fs::path& target, const std::optional<struct stat>& old) {
-  const fs::path folder = target.parent_path();
-  const auto folderStatus = StatusOf(folder);
-  if (!folderStatus) return ENOENT;
-  if (!MayWrite(folder, *folderStatus)) return EACCES;
-  if (!old) return 0;
+  if (!StatusOf(target.parent_path())) return ENOENT;
+  if (!old) return TakesNewFiles(target.parent_path()) ? 0 : EACCES;
   if (S_ISDIR(old->st_mode)) return EISDIR;
   return S_ISREG(old->st_mode) && MayWrite(target, *old) ? 0 : EACCES;
 }
 
-/// A new file that is to take the place of another one. It goes away again unless it has done so.
-class Replacement {
+/// What a file system says that has no such thing, or does not let us have it.
+bool IsForbidden(int code) { return code == EPERM || code == ENOTSUP; }
+
+/// Access lists are among them. What the system does not give, or does not take, is left out.
+void CopyAttributes(const fs::path& from, const Descriptor& to) {
+  const auto filled = [](const auto& get) {
+    std::string bytes(static_cast<std::size_t>(std::max<ssize_t>(get(nullptr, 0), 0)), '\0');
+    bytes.resize(static_cast<std::size_t>(std::max<ssize_t>(get(bytes.data(), bytes.size()), 0)));
+    return bytes;
+  };
+  const std::string names =
+      filled([&](char* bytes, std::size_t size) { return listxattr(from.c_str(), bytes, size); });
+  for (std::size_t at = 0; at < names.size();) {
+    const std::string name = names.c_str() + at;
+    at += name.size() + 1;
+    const std::string value = filled(
+        [&](char* bytes, std::size_t size) { return getxattr(from.c_str(), name.c_str(), bytes, size); });
+    fsetxattr(to.number(), name.c_str(), value.data(), value.size(), 0);
+  }
+}
+
+/// A new file that goes away again unless it takes the place of another one, or is to stay.
+class TemporaryFile {
  public:
-  /// Opened for the owner alone where it stands in for `old`, which may be private.
-  Replacement(const fs::path& folder, const std::optional<struct stat>& old) : old_(old) {
+  TemporaryFile(const fs::path& folder, std::string_view beginning, mode_t mode) {
     constexpr int kMostTries = 100;
-    const std::string stem = std::string(kTemporary) + std::to_string(getpid()) + "-";
+    const std::string stem = std::string(beginning) + std::to_string(getpid()) + "-";
     for (int i = 0; i < kMostTries && !file_.IsOpen(); ++i) {
       path_ = folder / (stem + std::to_string(i));
-      file_.Open(path_, O_WRONLY | O_CREAT | O_EXCL, old ? kOwnerOnly : kReadWriteAll);
+      file_.Open(path_, O_WRONLY | O_CREAT | O_EXCL, mode);
       if (!file_.IsOpen() && errno != EEXIST) break;  // an earlier process may have died and left one
     }
     if (!file_.IsOpen()) error_ = errno;
   }
-  Replacement(const Replacement&) = delete;
-  Replacement& operator=(const Replacement&) = delete;
-  ~Replacement() {
-    if (error_ == 0 && !replaced_) unlink(path_.c_str());
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~TemporaryFile() {
+    if (error_ == 0 && !stays_) unlink(path_.c_str());
   }
 
-  Outcome<> Fill(std::string_view content) {
+  Outcome<> Fill(std::string_view content) const {
     if (error_ != 0) return SystemFailure(error_);
-    if (auto written = file_.WriteAll(content); !written) return written;
-    if (old_ && !KeepOwnerAndMode()) return SystemFailure(errno);
+    return file_.WriteAll(content);
+  }
+
+  /// Only the mode has to be taken, where there are modes. A new owner costs a file its set-id bits, so it
+  /// comes first; an access list has a part in the mode, so it comes before that. Whoever may not give a file
+  /// away may give it to a group of theirs.
+  Outcome<> TakeAfter(const fs::path& old, const struct stat& status) const {
+    constexpr auto kSameOwner = static_cast<uid_t>(-1);
+    if (fchown(file_.number(), status.st_uid, status.st_gid) != 0 &&
+        fchown(file_.number(), kSameOwner, status.st_gid) != 0) {
+      errno = 0;
+    }
+    CopyAttributes(old, file_);
+    if (fchmod(file_.number(), status.st_mode & kPermissions) != 0 && !IsForbidden(errno))
+      return SystemFailure(errno);
+    return Done{};
+  }
+
+  Outcome<> Flush() {
     if (fsync(file_.number()) != 0 || !file_.Close()) return SystemFailure(errno);
     return Done{};
   }
 
   Outcome<> Replace(const fs::path& target) {
-    replaced_ = rename(path_.c_str(), target.c_str()) == 0;
-    if (!replaced_) return SystemFailure(errno);
+    stays_ = rename(path_.c_str(), target.c_str()) == 0;
+    if (!stays_) return SystemFailure(errno);
     return Done{};
   }
 
- private:
-  /// Only the mode has to succeed. A new owner costs a file its set-id bits, so it comes first. Whoever may
-  /// not give a file away may give it to a group of theirs.
-  bool KeepOwnerAndMode() {
-    constexpr auto kSameOwner = static_cast<uid_t>(-1);
-    if (fchown(file_.number(), old_->st_uid, old_->st_gid) != 0 &&
-        fchown(file_.number(), kSameOwner, old_->st_gid) != 0) {
-      errno = 0;
-    }
-    return fchmod(file_.number(), old_->st_mode & kPermissions) == 0;
-  }
+  void Stay() { stays_ = true; }
 
-  std::optional<struct stat> old_;
+ private:
   fs::path path_;
   Descriptor file_;
   int error_ = 0;
-  bool replaced_ = false;
+  bool stays_ = false;
 };
 
 /// Makes a rename last through a power cut. Not every file system can, and the file is whole either way.
@@ -155,15 +187,65 @@ void RemoveLeftovers(const fs::path& folder) {
   }
 }
 
-Outcome<> ReplaceFile(const fs::path& target, std::string_view content) {
-  const auto old = StatusOf(target);
-  if (const int code = Obstacle(target, old); code != 0) return SystemFailure(code);
-  Replacement replacement(target.parent_path(), old);
+/// A file that stands in for another one, which may be private, is the owner's alone until it takes after it.
+Outcome<> ReplaceFile(const fs::path& target, const std::optional<struct stat>& old,
+                      std::string_view content) {
+  TemporaryFile replacement(target.parent_path(), kTemporary, old ? kOwnerOnly : kReadWriteAll);
   if (auto filled = replacement.Fill(content); !filled) return filled;
+  if (old) {
+    if (auto taken = replacement.TakeAfter(target, *old); !taken) return taken;
+  }
+  if (auto flushed = replacement.Flush(); !flushed) return flushed;
   if (auto replaced = replacement.Replace(target); !replaced) return replaced;
   FlushFolder(target.parent_path());
-  RemoveLeftovers(target.parent_path());
   return Done{};
+}
+
+/// Room is asked for first, so that a full disk is told before anything has changed.
+Outcome<> Overwrite(const Descriptor& file, std::string_view content) {
+  const auto size = static_cast<off_t>(content.size());
+  const int code = size == 0 ? 0 : posix_fallocate(file.number(), 0, size);
+  if (code != 0 && code != EOPNOTSUPP) return SystemFailure(code);
+  if (lseek(file.number(), 0, SEEK_SET) != 0) return SystemFailure(errno);
+  if (auto written = file.WriteAll(content); !written) return written;
+  if (ftruncate(file.number(), size) != 0 || fsync(file.number()) != 0) return SystemFailure(errno);
+  return Done{};
+}
+
+/// The file keeps its other names and everything that the system has noted of it. Its old content lies beside
+/// it, or among the temporary files of the system, until the new one is on the disk; it goes back at a
+/// failure, and stays there where it cannot.
+Outcome<> WriteInPlace(const fs::path& target, std::string_view content) {
+  Descriptor file;
+  file.Open(target, O_RDWR);
+  if (!file.IsOpen()) return SystemFailure(errno);
+  const auto before = file.ReadAll(0);
+  if (!before) return before.failure();
+  const fs::path folder = target.parent_path();
+  std::error_code none;
+  TemporaryFile copy(TakesNewFiles(folder) ? folder : fs::temp_directory_path(none), kOldContent, kOwnerOnly);
+  if (auto filled = copy.Fill(*before); !filled) return filled;
+  if (auto flushed = copy.Flush(); !flushed) return flushed;
+  auto written = Overwrite(file, content);
+  if (!written && !Overwrite(file, *before)) copy.Stay();
+  return written;
+}
+
+/// Whether no other file may take this one's place, though it may be written itself: in a folder whose files
+/// are their owners' alone, or where it is a place of its own in the tree of files.
+bool IsRefused(const Outcome<>& replaced) {
+  const int code = replaced.failure().systemCode;
+  return !replaced && (code == EACCES || code == EPERM || code == EBUSY);
+}
+
+Outcome<> WriteFile(const fs::path& target, std::string_view content) {
+  const auto old = StatusOf(target);
+  if (const int code = Obstacle(target, old); code != 0) return SystemFailure(code);
+  const bool mayBeReplaced = !old || (old->st_nlink == 1 && TakesNewFiles(target.parent_path()));
+  auto written = mayBeReplaced ? ReplaceFile(target, old, content) : WriteInPlace(target, content);
+  if (mayBeReplaced && old && IsRefused(written)) written = WriteInPlace(target, content);
+  if (written) RemoveLeftovers(target.parent_path());
+  return written;
 }
 
 }  // namespace
@@ -248,7 +330,7 @@ Outcome<> HostFiles::Write(std::string_view path, std::string_view content) {
   if (!host) return host.failure();
   const auto target = FollowLinks(*host);
   if (!target) return target.failure();
-  return ReplaceFile(*target, content);
+  return WriteFile(*target, content);
 }
 
 Outcome<> HostFiles::MakeFolder(std::string_view path) {

@@ -25,8 +25,10 @@ class HostFiles : public Files {
   [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
 
   /// A link stays a link: the file it leads to is replaced. A file keeps its mode and, as far as the system
-  /// lets us, its owner and group. A file or folder whose mode forbids writing is a failure, also for those
-  /// whom no mode stops. Temporary files that a process left beside it when it died go away an hour later.
+  /// lets us, its owner and group, its access list and its attributes. One that has other names too, or that
+  /// nothing may take the place of, is written in place. A file whose mode forbids writing is a failure, also
+  /// for those whom no mode stops, and so is a new one in a folder of that kind. Temporary files that a
+  /// process left beside it when it died go away an hour later.
   Outcome<> Write(std::string_view path, std::string_view content) override;
 
   Outcome<> MakeFolder(std::string_view path) override;

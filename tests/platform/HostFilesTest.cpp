@@ -4,6 +4,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -185,14 +186,99 @@ TEST_F(HostFilesTest, AReadOnlyFileStaysAsItIs) {
   EXPECT_EQ(Content("a.b50"), "old");
 }
 
-TEST_F(HostFilesTest, InAReadOnlyFolderTheOldFileStays) {
-  temporary.Put("dos/a.b50", "old");
+TEST_F(HostFilesTest, InAReadOnlyFolderAFileIsWrittenInPlaceAndNoneIsMade) {
+  temporary.Put("dos/a.b50", "the old one, which is longer");
   ASSERT_EQ(chmod(Host("").c_str(), 0555), 0);
-  EXPECT_EQ(files.Write("c:\\a.b50", "new").failure().number, error::kPathAccess);
+  EXPECT_TRUE(files.Write("c:\\a.b50", "new"));
   EXPECT_EQ(files.Write("c:\\b.b50", "new").failure().number, error::kPathAccess);
   EXPECT_EQ(files.MakeFolder("c:\\tm").failure().number, error::kPathAccess);
-  EXPECT_EQ(Content("a.b50"), "old");
+  EXPECT_EQ(Content("a.b50"), "new");
   EXPECT_EQ(Names(), std::vector<std::string>{"a.b50"});
+}
+
+TEST_F(HostFilesTest, AReadOnlyFileInAReadOnlyFolderStaysAsItIs) {
+  temporary.Put("dos/a.b50", "old");
+  ASSERT_EQ(chmod(Host("a.b50").c_str(), 0444), 0);
+  ASSERT_EQ(chmod(Host("").c_str(), 0555), 0);
+  EXPECT_EQ(files.Write("c:\\a.b50", "new").failure().number, error::kPathAccess);
+  EXPECT_EQ(Content("a.b50"), "old");
+}
+
+TEST_F(HostFilesTest, AllNamesOfAFileLeadToWhatWasWritten) {
+  temporary.Put("dos/a.b50", "the old one, which is longer");
+  fs::create_hard_link(Host("a.b50"), Host("b.b50"));
+  ASSERT_TRUE(files.Write("c:\\a.b50", "new"));
+  EXPECT_EQ(Content("a.b50"), "new");
+  EXPECT_EQ(Content("b.b50"), "new");
+  EXPECT_EQ(fs::hard_link_count(Host("a.b50")), 2U);
+  EXPECT_EQ(Names(), (std::vector<std::string>{"a.b50", "b.b50"}));
+}
+
+TEST_F(HostFilesTest, WhatCannotBeWrittenInPlaceLeavesTheOldContent) {
+  const std::string old(900, 'o');
+  temporary.Put("dos/a.b50", old);
+  fs::create_hard_link(Host("a.b50"), Host("b.b50"));
+  const pid_t child = fork();
+  if (child == 0) {
+    const rlimit limit{1000, 1000};
+    signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &limit);
+    const auto written = files.Write("c:\\a.b50", std::string(5000, 'x'));
+    _exit(written ? 0 : written.failure().number);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(WEXITSTATUS(status), error::kDiskFull);
+  EXPECT_EQ(Content("b.b50"), old);
+  EXPECT_EQ(Names(), (std::vector<std::string>{"a.b50", "b.b50"}));
+}
+
+TEST_F(HostFilesTest, AFileOfSomebodyElseInAFolderOfOwnersIsWrittenInPlace) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can be two people";
+  constexpr uid_t kOwner = 1234;
+  constexpr uid_t kColleague = 1235;
+  temporary.Put("dos/a.b50", "old");
+  ASSERT_EQ(chmod(temporary.path().c_str(), 0755), 0);
+  ASSERT_EQ(chmod(Host("").c_str(), 01777), 0);
+  ASSERT_EQ(chmod(Host("a.b50").c_str(), 0666), 0);
+  ASSERT_EQ(chown(Host("a.b50").c_str(), kOwner, kOwner), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    const bool other = setgroups(0, nullptr) == 0 && setgid(kColleague) == 0 && setuid(kColleague) == 0;
+    _exit(other && files.Write("c:\\a.b50", "new") ? 0 : 1);
+  }
+  int status = 1;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  struct stat after {};
+  ASSERT_EQ(stat(Host("a.b50").c_str(), &after), 0);
+  EXPECT_EQ(after.st_uid, kOwner);
+  EXPECT_EQ(Content("a.b50"), "new");
+  EXPECT_EQ(Names(), std::vector<std::string>{"a.b50"});
+}
+
+TEST_F(HostFilesTest, AWriteKeepsTheAttributesAndTheAccessList) {
+  temporary.Put("dos/a.b50", "old");
+  const std::string path = Host("a.b50").string();
+  if (setxattr(path.c_str(), "user.tarvik", "mine", 4, 0) != 0) GTEST_SKIP() << "the disk has none";
+  // The version; the owner, user 1234, the group, the mask and the others, each with what they may do.
+  const std::string list(
+      "\2\0\0\0\1\0\6\0\377\377\377\377\2\0\6\0\322\4\0\0\4\0\4\0\377\377\377\377"
+      "\20\0\6\0\377\377\377\377\40\0\0\0\377\377\377\377",
+      44);
+  const bool hasList = setxattr(path.c_str(), "system.posix_acl_access", list.data(), list.size(), 0) == 0;
+  ASSERT_TRUE(files.Write("c:\\a.b50", "new"));
+  const auto attribute = [&path](const char* name) {
+    std::string value(100, '\0');
+    value.resize(static_cast<std::size_t>(
+        std::max<ssize_t>(getxattr(path.c_str(), name, value.data(), value.size()), 0)));
+    return value;
+  };
+  EXPECT_EQ(attribute("user.tarvik"), "mine");
+  if (hasList) {
+    EXPECT_EQ(attribute("system.posix_acl_access"), list);
+  }
+  EXPECT_EQ(Content("a.b50"), "new");
 }
 
 TEST_F(HostFilesTest, TheStateTellsOfEachChangeAndOfAFileThatIsNotThere) {
