@@ -521,8 +521,9 @@ Outcome<> FileCommands::WriteText(Document& document, const Pane& text) {
   if (!written) return written;
   const auto read = document.seen.See(documents_.platform.files, document.Path.Get());
   if (!read) return read.failure();
-  if (*read != text.Characters()) return Failure{error::kUnexpected, "The file does not hold the text", 0};
-  return written;
+  if (*read == text.Characters()) return written;
+  document.seen.Forget();  // it may be another program's
+  return Failure{error::kUnexpected, "The file does not hold the text", 0};
 }
 
 void FileCommands::WriteToDisk(Document& document, std::string_view tag) {

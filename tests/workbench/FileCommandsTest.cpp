@@ -92,5 +92,34 @@ TEST(FileCommands, MemoryThatRunsOutWhileOneDocumentIsOpenedLeavesTheOtherAlive)
   }
 }
 
+TEST(FileCommands, WhatAnotherProgramWritesRightBehindASaveIsNoSaveAndIsKeptByTheNextOne) {
+  class SharedDisk : public MemoryFiles {
+   public:
+    Outcome<> Write(std::string_view path, std::string_view content) override {
+      auto written = MemoryFiles::Write(path, content);
+      if (path == "c:\\my\\a.b50" && std::exchange(isDisturbed, false)) Put(path, "theirs");
+      return written;
+    }
+    bool isDisturbed = true;
+  } disk;
+  disk.Put("c:\\my\\a.b50", "old");
+  disk.PutFolder("c:\\tarvik\\backup");
+  BareWorkbench bare(&disk);
+  bare.workbench.values.BackupDir = Folder("c:\\tarvik\\backup\\");
+  FileCommands& commands = bare.workbench.files;
+  commands.OpenWithoutDialog("c:\\my\\a.b50");
+  commands.Load(bare.joystick);
+  bare.joystick.text.UserReplaced({0, 3}, "mine");
+  commands.Save(bare.joystick);
+  EXPECT_NE(bare.workbench.notices.Of(bare.joystick), nullptr);
+  std::vector<std::string> kept;
+  const Connection told = commands.KeptOthers.Connect(
+      [&kept](const Document&, const std::string& path) { kept.push_back(path); });
+  commands.Save(bare.joystick);
+  EXPECT_EQ(disk.Content("c:\\my\\a.b50"), "mine");
+  ASSERT_EQ(kept.size(), 1U);
+  EXPECT_EQ(disk.Content(kept.front()), "theirs");
+}
+
 }  // namespace
 }  // namespace tarvik
