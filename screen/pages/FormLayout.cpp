@@ -185,10 +185,21 @@ bool NeedsNone(const QString& caption) {
 }
 
 template <class Widget>
+QList<Widget*> On(QWidget& window, const QWidget* page) {
+  QList<Widget*> found = window.findChildren<Widget*>();
+  found.removeIf(
+      [page](Widget* widget) { return PageOf(widget) != page || widget->property(kNoMnemonic).toBool(); });
+  return found;
+}
+
+template <class Widget>
+void TakeEach(QWidget& window, const QWidget* page, Mnemonics& mnemonics) {
+  for (const auto* const widget : On<Widget>(window, page)) mnemonics.Take(widget->text());
+}
+
+template <class Widget>
 void GiveEach(QWidget& window, const QWidget* page, Mnemonics& mnemonics) {
-  for (auto* const widget : window.findChildren<Widget*>()) {
-    if (PageOf(widget) != page || widget->property(kNoMnemonic).toBool()) continue;
-    mnemonics.Take(widget->text());
+  for (auto* const widget : On<Widget>(window, page)) {
     const QString caption = widget->text();
     if (caption.contains(u'&') || NeedsNone(caption)) continue;
     if constexpr (std::is_same_v<Widget, QLabel>) {
@@ -201,7 +212,10 @@ void GiveEach(QWidget& window, const QWidget* page, Mnemonics& mnemonics) {
   }
 }
 
+/// What has a letter of its own keeps it, and all others take what is left.
 void GiveOn(QWidget& window, const QWidget* page, Mnemonics& mnemonics) {
+  TakeEach<QLabel>(window, page, mnemonics);
+  TakeEach<QAbstractButton>(window, page, mnemonics);
   GiveEach<QLabel>(window, page, mnemonics);
   GiveEach<QAbstractButton>(window, page, mnemonics);
 }

@@ -333,7 +333,7 @@ QLayout* Panes(SideBySide& texts, const char* before, const char* after, const F
 }
 
 QLayout* Page(CompareTexts& form, const FormLayout& in) {
-  return Column({Wrapped(in.Show(form.Label1)), Panes(form.texts, "In the file", "In this window", in),
+  return Column({Wrapped(in.Show(form.Label1)), Panes(form.texts, "In the file", "In the editor", in),
                  Row({in.Show(form.Command1), Stretch(), in.Show(form.Command2)})});
 }
 

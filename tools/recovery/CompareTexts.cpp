@@ -14,8 +14,8 @@ void CompareTexts::Fill(const Comparison& comparison) {
   texts.Show(comparison.inFile, comparison.here);
   Command1.Enabled = texts.Differ();
   Label1.Caption =
-      comparison.file + (texts.Differ() ? " differs in the marked lines from the text in this window."
-                                        : " holds the same text as this window.");
+      comparison.file + (texts.Differ() ? " differs in the marked lines from the text in the editor."
+                                        : " holds the same text as the editor.");
 }
 
 }  // namespace tarvik
