@@ -1,7 +1,6 @@
 // The help window, where only the toolkit can show it.
 #include <gtest/gtest.h>
 
-#include <QAbstractTextDocumentLayout>
 #include <QImage>
 #include <QTemporaryDir>
 #include <QTextDocument>
@@ -22,7 +21,8 @@ TEST(HelpWindowPictures, OpensNoFileThatATopicNamesAsItsPicture) {
   window.ShowContext(1);
   const auto* const text = window.findChild<QTextBrowser*>();
   EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("behind.")));
-  EXPECT_LT(text->document()->documentLayout()->documentSize().height(), 1000);
+  const QVariant found = text->document()->resource(QTextDocument::ImageResource, QUrl(picture));
+  EXPECT_EQ(found.value<QImage>().size(), QSize(1, 1));
 }
 
 }  // namespace
