@@ -530,7 +530,7 @@ void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   const Trap trap{documents_.errors, tag};
   const Scratch scratch(documents_.scratch);
   scratch->SetContent(RichText(std::string(document.text.Characters())));
-  const Outcome<> written = scratch->SaveFile(document.Path.Get(), FileFormat::Text);
+  const Outcome<> written = WriteText(document, *scratch);
   trap(written);
   const auto shown = FileName::From(documents_.TabOf(document).Caption.Get());
   if (documents_.settings.CreateBackup == 1 && shown) {
