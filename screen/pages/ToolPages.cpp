@@ -341,9 +341,10 @@ QLayout* Page(UnsavedTexts& form, const FormLayout& in) {
   QWidget* const texts = Named(in.Show(form.Texts), QStringLiteral("Texts"));
   texts->setMinimumHeight(48);
   texts->setMaximumHeight(120);
-  return Column({Wrapped(in.Show(form.Explanation)), texts, Panes(form.texts, "In the file now", "Not saved", in),
-                 Row({in.Show(form.NextDifference), Stretch(), in.Show(form.BringBack), in.Show(form.KeepBoth),
-                      in.Show(form.ThrowAway), in.Show(form.Later)})});
+  return Column({Wrapped(in.Show(form.Explanation)), texts,
+                 Panes(form.texts, "In the file now", "Not saved", in),
+                 Row({in.Show(form.NextDifference), Stretch(), in.Show(form.BringBack),
+                      in.Show(form.KeepBoth), in.Show(form.ThrowAway), in.Show(form.Later)})});
 }
 
 QLayout* Page(ViewImage& form, const FormLayout& in) {

@@ -16,7 +16,8 @@ class UnsavedTexts : public ToolForm {
   CommandButton BringBack{*this, "BringBack", "&Bring back", &UnsavedTexts::BringBack_Click};
   CommandButton KeepBoth{*this, "KeepBoth", "&Keep both", &UnsavedTexts::KeepBoth_Click};
   CommandButton ThrowAway{*this, "ThrowAway", "&Throw away", &UnsavedTexts::ThrowAway_Click};
-  CommandButton NextDifference{*this, "NextDifference", "Ne&xt difference", &UnsavedTexts::NextDifference_Click};
+  CommandButton NextDifference{*this, "NextDifference", "Ne&xt difference",
+                               &UnsavedTexts::NextDifference_Click};
   CommandButton Later{*this, "Later", "&Later", &UnsavedTexts::Close};
 
   void BringBack_Click() { WithPicked(&Recovery::BringBack); }
