@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "language/Controllers.h"
 #include "platform/FileSize.h"
 #include "text/CodePage.h"
+#include "workbench/FileWords.h"
 
 namespace tarvik {
 namespace {
@@ -15,86 +15,6 @@ constexpr const char* kRefusedTitle = "Hmmm...let me think...";
 constexpr const char* kExitRefusedTitle = "Ooops!";
 constexpr const char* kExitQuestion = " has changed and isn't saved. Do you want to save it before exiting?";
 constexpr const char* kExitRefused = " wasn't saved. Exit program aborted.";
-constexpr const char* kMacroRefused =
-    " wasn't saved, so I won't continue to load up a new macro file just in case you pressed the cancel "
-    "button by accident.";
-
-/// The words in which the commands differ for the two files.
-struct FileWords {
-  const char* newQuestion;
-  const char* loadQuestion;
-  const char* refused;
-  const char* created;
-  const char* opening;
-  const char* opened;  ///< null: nothing more is said
-  const char* loadTag;
-  const char* saveTag;
-  std::string_view Endings::*ending;
-  const char* kind;        ///< in the filters
-  const char* kindToSave;  ///< in the filters of saving, behind a family of joysticks
-};
-
-constexpr FileWords kJoystickWords = {
-    " has changed and isn't saved. Do you want to save it creating a different joystick file?",
-    " has changed and isn't saved. Do you want to save it before opening a different joystick file?",
-    " wasn't saved, so I won't continue to load up a new joystick file just in case you pressed the cancel "
-    "button by accident.",
-    "New joystick file created",
-    "Opening joystick file",
-    nullptr,
-    "ED_mnuFileJoystickLoad_Click",
-    "ED_SaveJoystickText",
-    &Endings::joystick,
-    "Joystick",
-    " joystick file (",
-};
-
-constexpr FileWords kMacroWords = {
-    " has changed and isn't saved. Do you want to save it before creating a new macro file?",
-    " has changed and isn't saved. Do you want to save it before opening a different macro file?",
-    kMacroRefused,
-    "New macro file created",
-    "Opening file",
-    "Finished",
-    "ED_MnuFileMacroLoad_Click",
-    "ED_SaveMacroText",
-    &Endings::macro,
-    "Macro",
-    " macro file(",
-};
-
-const FileWords& WordsOf(const Document& document) {
-  return document.IsJoystick() ? kJoystickWords : kMacroWords;
-}
-
-constexpr const char* kAllFiles = "|All files (*.*)|*.*";
-
-std::string OwnType(const FileWords& words, const std::string& extension) {
-  return std::string(words.kind) + " file (*." + extension + ")|*." + extension;
-}
-
-std::string FilterToOpen(const FileWords& words, const std::string& extension) {
-  return OwnType(words, extension) + "|All " + words.kind + " file types (" + Patterns(words.ending, ",") +
-         ") |" + Patterns(words.ending) + " " + kAllFiles;
-}
-
-std::string FilterToSave(const FileWords& words, const std::string& extension) {
-  std::string filter = OwnType(words, extension);
-  for (const Endings& each : kEndings) {
-    const std::string pattern = "*." + std::string(each.*words.ending);
-    filter.append("|").append(each.inDialogs).append(words.kindToSave).append(pattern);
-    filter.append(") |").append(pattern);
-  }
-  return filter + kAllFiles;
-}
-
-std::string PairFilter(const std::string& joystick, const std::string& macro) {
-  return "Thrustmaster files for your hardware |*." + joystick + ";*." + macro +
-         "|Joystick file for your hardware (*." + joystick + ")|*." + joystick +
-         "|Macro file for your hardware (*." + macro + ")|*." + macro + "|All Thrustmaster files |" +
-         Patterns(&Endings::joystick) + ";" + Patterns(&Endings::macro) + kAllFiles;
-}
-
 constexpr const char* kNoJoystickFile =
     "I couldn't find a joystick file associated with this macro file. Either this is because it has a "
     "different name, is located in a different directory,or it does not exist.";
@@ -192,7 +112,8 @@ bool FileCommands::MayReplace(Document& document, Question question) {
   const FileWords& words = WordsOf(document);
   const char* const text = question == Question::New ? words.newQuestion : words.loadQuestion;
   // Opening a pair refuses in the macro file's words for both files.
-  const char* const refused = question == Question::OpenPair ? kMacroRefused : words.refused;
+  const char* const refused =
+      question == Question::OpenPair ? WordsOf(documents_.macro).refused : words.refused;
   return AskToSave(document, {text, kRefusedTitle, refused});
 }
 
