@@ -100,6 +100,20 @@ TEST_F(HostJournalsTest, ALinkInTheFoldersPlaceIsNotFollowed) {
   EXPECT_TRUE(fs::is_empty(folder_.path() / "elsewhere"));
 }
 
+TEST_F(HostJournalsTest, WhatSomebodyElseLaidInThePlaceIsNotRead) {
+  constexpr uid_t kNobody = 65534;
+  { ASSERT_TRUE(journals_.Begin("one")); }
+  if (chown(first_.c_str(), kNobody, kNobody) != 0) GTEST_SKIP() << "only root gives a folder away";
+  EXPECT_THAT(journals_.Left(), IsEmpty());
+}
+
+TEST_F(HostJournalsTest, OneThatIsTooLargeIsAFailureAndNotAllOfTheMemory) {
+  { ASSERT_TRUE(journals_.Begin("one")); }
+  const std::string name = journals_.Left().front();
+  fs::resize_file(name, std::uintmax_t{1} << 40);
+  EXPECT_FALSE(journals_.Read(name));
+}
+
 TEST_F(HostJournalsTest, WithNoPlaceAtAllItIsAFailure) {
   EXPECT_FALSE(HostJournals({folder_.path() / "no" / "where"}).Begin("one"));
   EXPECT_THAT(HostJournals({folder_.path() / "no" / "where"}).Left(), IsEmpty());

@@ -162,12 +162,14 @@ TEST(Journal, AFullDiskIsTriedAgain) {
   Type(bare.joystick, "b");
   EXPECT_FALSE(bare.workbench.journals.Write());
   EXPECT_EQ(Kept(bare), "a") << "what was kept stays";
+  ASSERT_NE(bare.workbench.notices.Of(bare.macro), nullptr) << "the user knows, at both files";
   EXPECT_EQ(bare.workbench.errors.ErrorTag.Get(), "Journal");
   EXPECT_TRUE(bare.workbench.journals.timer.Enabled);
   Type(bare.joystick, "c");
   bare.outside.journals.fails = false;
   EXPECT_TRUE(bare.workbench.journals.Write());
   EXPECT_EQ(Kept(bare), "abc");
+  EXPECT_EQ(bare.workbench.notices.Of(bare.macro), nullptr);
   EXPECT_THAT(bare.outside.journals.content, SizeIs(1));
 }
 
