@@ -60,6 +60,8 @@ class Pane : public Control {
   /// Replaces the file with the plain text, byte for byte, or with the content as RTF. It has succeeded when
   /// the file, read again, holds that.
   Outcome<> SaveFile(std::string_view path, FileFormat format = FileFormat::Rtf) const;
+  /// The same; the file is open to nobody then whom the file `of` is not open to.
+  Outcome<> SaveCopy(std::string_view path, FileFormat format, std::string_view of) const;
 
   // The selection.
 
@@ -124,6 +126,9 @@ class Pane : public Control {
   Signal<> SelectionChanged;
 
  private:
+  [[nodiscard]] std::string Bytes(FileFormat format) const;
+  /// A file that was written holds the content.
+  [[nodiscard]] Outcome<> Holds(std::string_view path, const std::string& content) const;
   [[nodiscard]] Range Clipped(Range range) const;
   [[nodiscard]] Colour InsertionColour() const;
   void Replace(Range range, const RichText& content);

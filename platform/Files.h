@@ -52,6 +52,13 @@ class Files {
   /// new one. A file that may not be written, a folder of that name and a missing folder are failures.
   virtual Outcome<> Write(std::string_view path, std::string_view content) = 0;
 
+  /// As `Write`. Afterwards nobody may read or write the file who may not do so with the file `of`, but its
+  /// owner.
+  virtual Outcome<> WriteCopy(std::string_view path, std::string_view content, std::string_view of) = 0;
+
+  /// Takes a file away; of a link the link alone. A folder is a failure.
+  virtual Outcome<> Delete(std::string_view path) = 0;
+
   /// Creates one folder; its parent must exist.
   virtual Outcome<> MakeFolder(std::string_view path) = 0;
 

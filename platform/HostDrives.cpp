@@ -60,4 +60,10 @@ void HostDrives::MakeOwnDrive() const {
   if (c != folders.end() && c->second == ownDrive_) fs::create_directory(ownDrive_, ignored);
 }
 
+std::string HostDrives::ToHost(const std::string& path) const {
+  const auto there = drives_.ToHost(path);
+  const auto host = there ? there : drives_.ToHostNew(path);
+  return host ? host->string() : "";
+}
+
 }  // namespace tarvik

@@ -23,6 +23,7 @@ class HostDrives : public DriveFolders {
   /// Makes drive c's folder beside the executable, where it is that one.
   void MakeOwnDrive() const;
   std::string FromHost(const std::string& path) override { return drives_.FromHost(path); }
+  [[nodiscard]] std::string ToHost(const std::string& path) const override;
 
   /// The drives as those have them that look files up.
   [[nodiscard]] Drives& Paths() { return drives_; }

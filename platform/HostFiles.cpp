@@ -91,6 +91,39 @@ void CopyAttributes(const fs::path& from, const Descriptor& to) {
   }
 }
 
+/// What a file may be open to beyond its owner: no more than another one, or to anything.
+class Bounds {
+ public:
+  Bounds() = default;
+  /// The file's owner alone may read and write where nobody knows what `of` is open to.
+  explicit Bounds(const fs::path& of)
+      : of_(StatusOf(of).value_or(kNobodyElse)), hasAccessList_(HasAccessList(of)) {}
+
+  /// The members of another group are strangers to the other file, and an access list can mean anybody.
+  Outcome<> Apply(const Descriptor& file) const {
+    struct stat own {};
+    if (!of_) return Done{};
+    if (fstat(file.number(), &own) != 0) return SystemFailure(errno);
+    mode_t group = (of_->st_mode & S_IRWXG) >> 3;
+    mode_t others = of_->st_mode & S_IRWXO;
+    if (hasAccessList_ || own.st_gid != of_->st_gid) group = others = group & others;
+    const mode_t allowed = S_IRWXU | group << 3 | others;
+    if (fchmod(file.number(), own.st_mode & kPermissions & allowed) != 0 && !IsForbidden(errno))
+      return SystemFailure(errno);
+    return Done{};
+  }
+
+ private:
+  static constexpr struct stat kNobodyElse {};
+
+  static bool HasAccessList(const fs::path& path) {
+    return getxattr(path.c_str(), "system.posix_acl_access", nullptr, 0) > 0;
+  }
+
+  std::optional<struct stat> of_;
+  bool hasAccessList_ = false;
+};
+
 /// A new file that goes away again unless it takes the place of another one, or is to stay.
 class TemporaryFile {
  public:
@@ -128,6 +161,12 @@ class TemporaryFile {
     if (fchmod(file_.number(), status.st_mode & kPermissions) != 0 && !IsForbidden(errno))
       return SystemFailure(errno);
     return Done{};
+  }
+
+  /// Gives up what the bounds do not allow.
+  Outcome<> Keep(const Bounds& bounds) const {
+    if (error_ != 0) return SystemFailure(error_);
+    return bounds.Apply(file_);
   }
 
   Outcome<> Flush() {
@@ -188,12 +227,14 @@ void RemoveLeftovers(const fs::path& folder) {
 }
 
 /// A file that stands in for another one, which may be private, is the owner's alone until it takes after it.
-Outcome<> ReplaceFile(const fs::path& target, const std::optional<struct stat>& old,
-                      std::string_view content) {
+Outcome<> ReplaceFile(const fs::path& target, const std::optional<struct stat>& old, std::string_view content,
+                      const Bounds& bounds) {
   TemporaryFile replacement(target.parent_path(), kTemporary, old ? kOwnerOnly : kReadWriteAll);
+  if (auto kept = replacement.Keep(bounds); !kept) return kept;
   if (auto filled = replacement.Fill(content); !filled) return filled;
   if (old) {
     if (auto taken = replacement.TakeAfter(target, *old); !taken) return taken;
+    if (auto kept = replacement.Keep(bounds); !kept) return kept;
   }
   if (auto flushed = replacement.Flush(); !flushed) return flushed;
   if (auto replaced = replacement.Replace(target); !replaced) return replaced;
@@ -215,10 +256,11 @@ Outcome<> Overwrite(const Descriptor& file, std::string_view content) {
 /// The file keeps its other names and everything that the system has noted of it. Its old content lies beside
 /// it, or among the temporary files of the system, until the new one is on the disk; it goes back at a
 /// failure, and stays there where it cannot.
-Outcome<> WriteInPlace(const fs::path& target, std::string_view content) {
+Outcome<> WriteInPlace(const fs::path& target, std::string_view content, const Bounds& bounds) {
   Descriptor file;
   file.Open(target, O_RDWR);
   if (!file.IsOpen()) return SystemFailure(errno);
+  if (auto kept = bounds.Apply(file); !kept) return kept;
   const auto before = file.ReadAll(0);
   if (!before) return before.failure();
   const fs::path folder = target.parent_path();
@@ -238,14 +280,22 @@ bool IsRefused(const Outcome<>& replaced) {
   return !replaced && (code == EACCES || code == EPERM || code == EBUSY);
 }
 
-Outcome<> WriteFile(const fs::path& target, std::string_view content) {
+Outcome<> WriteFile(const fs::path& target, std::string_view content, const Bounds& bounds) {
   const auto old = StatusOf(target);
   if (const int code = Obstacle(target, old); code != 0) return SystemFailure(code);
   const bool mayBeReplaced = !old || (old->st_nlink == 1 && TakesNewFiles(target.parent_path()));
-  auto written = mayBeReplaced ? ReplaceFile(target, old, content) : WriteInPlace(target, content);
-  if (mayBeReplaced && old && IsRefused(written)) written = WriteInPlace(target, content);
+  auto written =
+      mayBeReplaced ? ReplaceFile(target, old, content, bounds) : WriteInPlace(target, content, bounds);
+  if (mayBeReplaced && old && IsRefused(written)) written = WriteInPlace(target, content, bounds);
   if (written) RemoveLeftovers(target.parent_path());
   return written;
+}
+
+Outcome<> WriteWithin(const Bounds& bounds, const Outcome<fs::path>& host, std::string_view content) {
+  if (!host) return host.failure();
+  const auto target = FollowLinks(*host);
+  if (!target) return target.failure();
+  return WriteFile(*target, content, bounds);
 }
 
 }  // namespace
@@ -326,11 +376,19 @@ Outcome<std::string> HostFiles::Read(std::string_view path) const {
 }
 
 Outcome<> HostFiles::Write(std::string_view path, std::string_view content) {
+  return WriteWithin({}, drives_.ToHostNew(path), content);
+}
+
+Outcome<> HostFiles::WriteCopy(std::string_view path, std::string_view content, std::string_view of) {
+  const auto original = drives_.ToHost(of);
+  return WriteWithin(Bounds(original ? *original : fs::path()), drives_.ToHostNew(path), content);
+}
+
+Outcome<> HostFiles::Delete(std::string_view path) {
   const auto host = drives_.ToHostNew(path);
   if (!host) return host.failure();
-  const auto target = FollowLinks(*host);
-  if (!target) return target.failure();
-  return WriteFile(*target, content);
+  if (unlink(host->c_str()) != 0) return SystemFailure(errno, error::kFileNotFound);
+  return Done{};
 }
 
 Outcome<> HostFiles::MakeFolder(std::string_view path) {

@@ -31,6 +31,8 @@ class HostFiles : public Files {
   /// process left beside it when it died go away an hour later.
   Outcome<> Write(std::string_view path, std::string_view content) override;
 
+  Outcome<> WriteCopy(std::string_view path, std::string_view content, std::string_view of) override;
+  Outcome<> Delete(std::string_view path) override;
   Outcome<> MakeFolder(std::string_view path) override;
   Outcome<> ChangeDrive(std::string_view path) override;
   Outcome<> ChangeFolder(std::string_view path) override;

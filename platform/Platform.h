@@ -122,6 +122,8 @@ class Calendar {
   [[nodiscard]] virtual std::string LongDate() const = 0;
   /// The time, as 07:45:12.
   [[nodiscard]] virtual std::string TimeOfDay() const = 0;
+  /// Date and time as names of files can hold them and sort by them: 2026-11-22 07.45.12
+  [[nodiscard]] virtual std::string Stamp() const = 0;
 };
 
 /// The size of the screen in pixels.
@@ -149,6 +151,8 @@ class DriveFolders {
   virtual void Remove(char letter) = 0;
   /// The path under which the program knows a file or folder of the host.
   virtual std::string FromHost(const std::string& path) = 0;
+  /// The file or folder of the host that a path of the program means, there or not; empty where none can.
+  [[nodiscard]] virtual std::string ToHost(const std::string& path) const = 0;
 };
 
 /// Everything from outside in one hand.

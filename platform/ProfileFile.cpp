@@ -231,13 +231,13 @@ Outcome<> ProfileFile::WriteAll(std::span<const ProfileEntry> entries) {
   auto loaded = Load();
   if (!loaded) return loaded.failure();
   if (loaded->damaged && !loaded->damaged->empty()) {
-    if (auto kept = files_.Write(aside_, *loaded->damaged); !kept) return kept;
+    if (auto kept = files_.WriteCopy(aside_, *loaded->damaged, path_); !kept) return kept;
   }
   Profile profile(std::move(loaded->text));
   for (const ProfileEntry& entry : entries) profile.Set(entry.section, entry.key, entry.value);
   auto written = files_.Write(path_, profile.text());
   // Where this fails the backup stays as it was, and is whole.
-  if (written) static_cast<void>(files_.Write(backup_, profile.text()));
+  if (written) static_cast<void>(files_.WriteCopy(backup_, profile.text(), path_));
   return written;
 }
 

@@ -8,7 +8,7 @@ std::string ColouredCopies::PathOf(const Document& document) const {
 
 void ColouredCopies::Save(const Document& document) {
   const Trap trap{documents_.errors, document.IsJoystick() ? "SaveColouredTextJF" : "SaveColouredTextMF"};
-  trap(document.text.SaveFile(PathOf(document), FileFormat::Rtf));
+  trap(document.text.SaveCopy(PathOf(document), FileFormat::Rtf, document.Path.Get()));
 }
 
 bool ColouredCopies::Exists(const Document& document) const {

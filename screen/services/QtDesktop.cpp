@@ -114,6 +114,10 @@ std::string QtCalendar::TimeOfDay() const {
   return QTime::currentTime().toString(QStringLiteral("hh:mm:ss")).toStdString();
 }
 
+std::string QtCalendar::Stamp() const {
+  return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh.mm.ss")).toStdString();
+}
+
 // The help.
 
 QtHelp::~QtHelp() { delete window_; }

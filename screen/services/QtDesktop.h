@@ -43,6 +43,7 @@ class QtCalendar : public Calendar {
   [[nodiscard]] std::string ShortDate() const override;
   [[nodiscard]] std::string LongDate() const override;
   [[nodiscard]] std::string TimeOfDay() const override;
+  [[nodiscard]] std::string Stamp() const override;
 };
 
 class QtHelp : public Help {

@@ -70,6 +70,16 @@ TEST_F(HostDrivesTest, AChangeIsInForceAtOnce) {
   EXPECT_EQ(drives.Paths().CurrentFolder(), "c:\\");
 }
 
+TEST_F(HostDrivesTest, TheHostsPathIsToldOfWhatIsThereAndOfWhatMayCome) {
+  HostDrives drives(Host("own"));
+  ASSERT_TRUE(drives.Set('d', Host("dos")));
+  EXPECT_EQ(drives.ToHost("d:\\A.B50"), Host("dos/a.b50"));
+  EXPECT_EQ(drives.ToHost("d:\\New.b50"), Host("dos/new.b50"));
+  EXPECT_EQ(drives.ToHost("d:\\"), Host("dos"));
+  EXPECT_EQ(drives.ToHost("d:\\gone\\a.b50"), "");
+  EXPECT_EQ(drives.ToHost("q:\\a.b50"), "");
+}
+
 TEST_F(HostDrivesTest, AChangedDriveStandsAtItsRoot) {
   folder.Make("dos/tm");
   HostDrives drives(Host("own"));

@@ -40,6 +40,12 @@ class HostFilesTest : public testing::Test {
     return names;
   }
 
+  mode_t ModeOf(const std::string& name) const {
+    struct stat status {};
+    EXPECT_EQ(stat(Host(name).c_str(), &status), 0);
+    return status.st_mode & 07777U;
+  }
+
   TemporaryFolder temporary;
   Drives drives{{{'c', Host("").string()}}};
   HostFiles files{drives};
@@ -279,6 +285,56 @@ TEST_F(HostFilesTest, AWriteKeepsTheAttributesAndTheAccessList) {
     EXPECT_EQ(attribute("system.posix_acl_access"), list);
   }
   EXPECT_EQ(Content("a.b50"), "new");
+}
+
+TEST_F(HostFilesTest, ACopyIsOpenToNobodyWhomTheFileIsNotOpenTo) {
+  struct Case {
+    mode_t of;
+    mode_t copy;
+    mode_t then;
+  };
+  constexpr mode_t kNoCopyYet = 0;
+  umask(0);
+  for (const Case& c : {Case{0600, kNoCopyYet, 0600}, Case{0640, 0666, 0640}, Case{0604, 0660, 0600},
+                        Case{0666, 0600, 0600}, Case{0444, 0644, 0644}}) {
+    temporary.Put("dos/a.b50", "text");
+    ASSERT_EQ(chmod(Host("a.b50").c_str(), c.of), 0);
+    fs::remove(Host("copy.b50"));
+    if (c.copy != kNoCopyYet) {
+      temporary.Put("dos/copy.b50", "old");
+      ASSERT_EQ(chmod(Host("copy.b50").c_str(), c.copy), 0);
+    }
+    ASSERT_TRUE(files.WriteCopy("c:\\copy.b50", "text", "c:\\a.b50"));
+    EXPECT_EQ(ModeOf("copy.b50"), c.then) << std::oct << c.of << " " << c.copy;
+    EXPECT_EQ(Content("copy.b50"), "text");
+  }
+  umask(022);
+}
+
+TEST_F(HostFilesTest, ACopyOfWhatNobodyKnowsIsItsOwnersAlone) {
+  ASSERT_TRUE(files.WriteCopy("c:\\copy.b50", "text", "c:\\gone.b50"));
+  EXPECT_EQ(ModeOf("copy.b50"), 0600U);
+}
+
+TEST_F(HostFilesTest, ACopyOfAnotherGroupsFileIsNotOpenToTheOwnGroup) {
+  if (geteuid() != 0) GTEST_SKIP() << "only root can give a file to any group";
+  temporary.Put("dos/a.b50", "text");
+  ASSERT_EQ(chown(Host("a.b50").c_str(), 0, 2345), 0);
+  ASSERT_EQ(chmod(Host("a.b50").c_str(), 0660), 0);
+  ASSERT_TRUE(files.WriteCopy("c:\\copy.b50", "text", "c:\\a.b50"));
+  EXPECT_EQ(ModeOf("copy.b50"), 0600U);
+}
+
+TEST_F(HostFilesTest, AFileIsTakenAwayAndOfALinkTheLinkAlone) {
+  temporary.Put("dos/a.b50", "text");
+  fs::create_symlink("a.b50", Host("link.b50"));
+  EXPECT_TRUE(files.Delete("c:\\link.b50"));
+  EXPECT_EQ(Names(), std::vector<std::string>{"a.b50"});
+  EXPECT_TRUE(files.Delete("c:\\A.B50"));
+  EXPECT_TRUE(Names().empty());
+  EXPECT_EQ(files.Delete("c:\\a.b50").failure().systemCode, ENOENT);
+  temporary.Make("dos/folder");
+  EXPECT_FALSE(files.Delete("c:\\folder"));
 }
 
 TEST_F(HostFilesTest, TheStateTellsOfEachChangeAndOfAFileThatIsNotThere) {

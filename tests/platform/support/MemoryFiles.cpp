@@ -154,6 +154,14 @@ Outcome<> MemoryFiles::Write(std::string_view path, std::string_view content) {
   return Done{};
 }
 
+Outcome<> MemoryFiles::Delete(std::string_view path) {
+  const Entry* entry = Find(path);
+  if (!entry) return Failure{error::kFileNotFound, "File not found", ENOENT};
+  if (entry->isFolder || entry->readOnly) return PathAccess();
+  Remove(path);
+  return Done{};
+}
+
 Outcome<> MemoryFiles::MakeFolder(std::string_view path) {
   const auto place = PlaceFor(path);
   if (!place) return place.failure();

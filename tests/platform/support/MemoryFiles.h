@@ -49,6 +49,11 @@ class MemoryFiles : public Files {
   [[nodiscard]] Outcome<FileState> State(std::string_view path) const override;
   [[nodiscard]] Outcome<std::string> Read(std::string_view path) const override;
   Outcome<> Write(std::string_view path, std::string_view content) override;
+  /// This disk has no permissions to bound.
+  Outcome<> WriteCopy(std::string_view path, std::string_view content, std::string_view) override {
+    return Write(path, content);
+  }
+  Outcome<> Delete(std::string_view path) override;
   Outcome<> MakeFolder(std::string_view path) override;
   Outcome<> ChangeDrive(std::string_view path) override;
   Outcome<> ChangeFolder(std::string_view path) override;

@@ -119,6 +119,15 @@ std::string ScriptedDrives::FromHost(const std::string& path) {
   return "c:" + own;
 }
 
+std::string ScriptedDrives::ToHost(const std::string& path) const {
+  const auto whole = CurrentFolders().Complete(path);
+  const auto root = whole ? folders_.find(whole->drive) : folders_.end();
+  if (root == folders_.end()) return {};
+  std::string host = root->second + whole->Text().substr(2);
+  std::replace(host.begin(), host.end(), '\\', '/');
+  return host;
+}
+
 void ScriptedDrives::Give(char letter, const std::string& folder) {
   const std::string root{letter, ':', '\\'};
   files->Remove(root);

@@ -161,6 +161,7 @@ class ScriptedDrives : public DriveFolders {
   void Remove(char letter) override;
   /// Every file of this host lies on drive c.
   std::string FromHost(const std::string& path) override;
+  [[nodiscard]] std::string ToHost(const std::string& path) const override;
 
   MemoryFiles* files = nullptr;  ///< whose drives they are
   std::set<std::string> there{"/", kOwnFolder};

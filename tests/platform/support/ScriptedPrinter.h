@@ -39,6 +39,7 @@ class FixedCalendar : public Calendar {
   [[nodiscard]] std::string ShortDate() const override { return "14/12/97"; }
   [[nodiscard]] std::string LongDate() const override { return "14 December 1997"; }
   [[nodiscard]] std::string TimeOfDay() const override { return "16:00:00"; }
+  [[nodiscard]] std::string Stamp() const override { return "1997-12-14 16.00.00"; }
 };
 
 }  // namespace tarvik
