@@ -32,6 +32,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuFileSave", "&Save", "Ctrl+S", &Editor::mnuFileSave_Click},
     {1, "mnuFileSaveAs", "Sa&ve as ...", "", &Editor::mnuFileSaveAs_Click},
     {1, "mnuFileSaveBoth", "Save &both files", "", &Editor::mnuFileSaveBoth_Click},
+    {1, "mnuFileEarlierVersions", "Earlier vers&ions ...", "", &Editor::ShowTool<ToolId::EarlierVersions>},
     {1, "mnuFileDivider3", "-"},
     {1, "mnuFilePrintJoystick", "P&rint joystick file", "Ctrl+P", &Editor::mnuFilePrintJoystick_Click},
     {1, "mnuFilePrintMacro", "Prin&t macro file", "", &Editor::mnuFilePrintMacro_Click},

@@ -11,6 +11,7 @@
 #include "tools/programs/Games.h"
 #include "tools/programs/ProgramWait.h"
 #include "tools/recovery/CompareTexts.h"
+#include "tools/recovery/EarlierVersions.h"
 #include "tools/recovery/UnsavedTexts.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
@@ -82,6 +83,8 @@ constexpr ToolRow kTools[] = {
     Row<Speedy>(ToolId::Speedy, "Speedy", EndsWith::Editor, Raise<Speedy>),
     Row<UnsavedTexts>(ToolId::UnsavedTexts, "UnsavedTexts", EndsWith::Editor, Raise<UnsavedTexts>),
     Row<CompareTexts>(ToolId::CompareTexts, "CompareTexts", EndsWith::Editor, Raise<CompareTexts>),
+    Row<EarlierVersions>(ToolId::EarlierVersions, "EarlierVersions", EndsWith::Editor,
+                         Modal<EarlierVersions>),
     Row<ColourSelector>(ToolId::ColourSelector, "ColourSelector", EndsWith::Frame, ShowColours),
     Row<KeyTestForm>(ToolId::KeyTest, "KeyTestForm", EndsWith::Frame, ShowKeyTest),
     Row<ProgramWait>(ToolId::ProgramWait, "ProgramWait", EndsWith::Frame),

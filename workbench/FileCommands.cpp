@@ -214,9 +214,7 @@ void FileCommands::ColourWhatWasRead(Document& document, Read read) {
 /// in its place.
 void FileCommands::FillPane(Document& document, const Trap& trap) {
   const Read read = ReadInto(document, trap);
-  if (read == Read::Nothing) {
-    MakeUntitled(document);
-  }
+  if (read == Read::Nothing) MakeUntitled(document);
   ColourWhatWasRead(document, read);
   document.Caret = 0;
   document.text.SelStart = 0;
@@ -426,14 +424,9 @@ Outcome<> FileCommands::KeepOthersVersion(Document& document) {
   if (now != OnDisk::Changed && now != OnDisk::NeverSeen) return Done{};
   const auto bytes = files.Read(document.Path.Get());
   if (!bytes) return bytes.failure();
-  const std::string& name = document.Name.Get().Text();
-  const std::size_t dot = std::min(name.rfind('.'), name.size());
-  const auto own = FileName::From(name.substr(0, dot) + "-other-" + MarkOf(*bytes) + name.substr(dot));
-  if (!own) return Failure{error::kPathNotFound, "The file has no name", 0};
-  const std::string kept = documents_.values.BackupDir.Get() / *own;
-  auto written = files.Write(kept, *bytes);
-  if (written) KeptOthers(document, kept);
-  return written;
+  auto kept = versions_.Keep(document, *bytes, Author::OtherProgram);
+  if (kept) KeptOthers(document, versions_.PathOf(document, versions_.Of(document).front()));
+  return kept;
 }
 
 Outcome<> FileCommands::WriteText(Document& document, const Pane& text) {
@@ -447,15 +440,26 @@ Outcome<> FileCommands::WriteText(Document& document, const Pane& text) {
   return Failure{error::kUnexpected, "The file does not hold the text", 0};
 }
 
+/// Under the name that the document had until now.
+Outcome<> FileCommands::WriteBackup(const Document& document, const Pane& text) const {
+  const auto shown = FileName::From(documents_.TabOf(document).Caption.Get());
+  if (!shown) return Done{};
+  const Folder& backups = documents_.values.BackupDir;
+  return text.SaveCopy(backups / *shown, FileFormat::Text, document.Path.Get());
+}
+
+/// The document comes before its backups and versions: where the disk has room for one of them, it is this.
 void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   const Trap trap{documents_.errors, tag};
   const Scratch scratch(documents_.scratch);
   scratch->SetContent(RichText(std::string(document.text.Characters())));
+  const auto before = Ignore(documents_.platform.files.Read(document.Path.Get()));
   const Outcome<> written = WriteText(document, *scratch);
   trap(written);
-  const auto shown = FileName::From(documents_.TabOf(document).Caption.Get());
-  if (documents_.settings.CreateBackup == 1 && shown) {
-    trap(scratch->SaveFile(documents_.values.BackupDir.Get() / *shown, FileFormat::Text));
+  if (documents_.settings.CreateBackup == 1) {
+    trap(WriteBackup(document, *scratch));
+    if (written && before) trap(versions_.Keep(document, *before, Author::User));
+    if (written) trap(versions_.Keep(document, scratch->Characters(), Author::User));
   }
   Remember(document);
   documents_.Say(document.Path.Get() + " saved successfully.");

@@ -7,18 +7,20 @@
 #include "workbench/MacroLists.h"
 #include "workbench/PreviousFiles.h"
 #include "workbench/SaveQuestion.h"
+#include "workbench/Versions.h"
 
 namespace tarvik {
 
 class FileCommands {
  public:
   FileCommands(Documents& documents, ColouredCopies& copies, Highlighter& highlighter, MacroLists& lists,
-               PreviousFiles& previous)
+               PreviousFiles& previous, Versions& versions)
       : documents_(documents),
         copies_(copies),
         highlighter_(highlighter),
         lists_(lists),
-        previous_(previous) {}
+        previous_(previous),
+        versions_(versions) {}
 
   /// Gives a file that has no name yet one, with its path and the caption of its tab.
   void NameUntitled(Document& document);
@@ -66,15 +68,14 @@ class FileCommands {
   [[nodiscard]] Read ReadInto(Document& document, const Trap& trap);
   /// The coloured copy has its colours; the file itself gets them as the settings say.
   void ColourWhatWasRead(Document& document, Read read);
-  /// Puts what is at the document's path into the backups, under a name of its own, unless the document
-  /// comes from there.
+  /// Makes what is at the document's path one of its versions, unless the document comes from there.
   Outcome<> KeepOthersVersion(Document& document);
 
   /// The document's text is about to go: another file comes in its place, or none.
   Signal<const Document&> Leaves;
   /// A document was written to its path, or could not be.
   Signal<Document&, const Outcome<>&> Written;
-  /// What another program wrote to the document's path is in the file of that path now.
+  /// What another program wrote to the document's path is a version of it now, in the file of that path.
   Signal<Document&, const std::string&> KeptOthers;
   /// The macro lists are about to be made anew and want to be seen.
   Signal<> ShowsMacros;
@@ -100,6 +101,7 @@ class FileCommands {
   void SaveText(Document& document);
   /// It has succeeded when the file, read again, holds the text.
   [[nodiscard]] Outcome<> WriteText(Document& document, const Pane& text);
+  Outcome<> WriteBackup(const Document& document, const Pane& text) const;
   void OpenMacroThenJoystick(const NamedFile& file, const Trap& trap);
   void OpenJoystickThenMacro(const NamedFile& file, const Trap& trap);
   void TellUnrecognised();
@@ -110,6 +112,7 @@ class FileCommands {
   Highlighter& highlighter_;
   MacroLists& lists_;
   PreviousFiles& previous_;
+  Versions& versions_;
   NamedFile toOpen_;          // without a dialog, when it has a path
   std::string lastFileName_;  // what the file dialog shows next
 };

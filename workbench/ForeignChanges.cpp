@@ -52,10 +52,11 @@ void ForeignChanges::TellOfLoss(Document& document) {
 }
 
 void ForeignChanges::TellOfKept(Document& document, const std::string& kept) {
-  notices_.Show(Matter::VersionKept, &document,
-                {"What another program wrote to " + document.Path.Get() + " is in " + kept + " now.",
-                 {{"Compare ...", [this, &document, kept] { Compare(document, kept); }},
-                  {"Close", [this, &document] { notices_.Remove(Matter::VersionKept, &document); }}}});
+  notices_.Show(
+      Matter::VersionKept, &document,
+      {"What another program wrote to " + document.Path.Get() + " is among its earlier versions now.",
+       {{"Compare ...", [this, &document, kept] { Compare(document, kept); }},
+        {"Close", [this, &document] { notices_.Remove(Matter::VersionKept, &document); }}}});
 }
 
 void ForeignChanges::Compare(const Document& document, const std::string& path) {

@@ -38,6 +38,7 @@ enum class ToolId {
   Log,
   UnsavedTexts,
   CompareTexts,
+  EarlierVersions,
 };
 
 /// The pages of the preferences.

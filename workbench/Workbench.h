@@ -39,7 +39,8 @@ class Workbench {
   MacroLists macros{documents};
   LineBlink blink{documents};
   EditCommands edit{documents, insertion};
-  FileCommands files{documents, copies, highlighter, macros, lists};
+  Versions versions{documents};
+  FileCommands files{documents, copies, highlighter, macros, lists, versions};
   Notices notices;
   ForeignChanges foreign{documents, files, insertion, notices};
   AutoSave autoSave{documents, files, foreign};

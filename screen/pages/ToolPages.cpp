@@ -17,6 +17,7 @@
 #include "tools/programs/Games.h"
 #include "tools/programs/ProgramWait.h"
 #include "tools/recovery/CompareTexts.h"
+#include "tools/recovery/EarlierVersions.h"
 #include "tools/recovery/UnsavedTexts.h"
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
@@ -333,18 +334,29 @@ QLayout* Panes(SideBySide& texts, const char* before, const char* after, const F
 }
 
 QLayout* Page(CompareTexts& form, const FormLayout& in) {
-  return Column({Wrapped(in.Show(form.Label1)), Panes(form.texts, "In the file", "In the editor", in),
-                 Row({in.Show(form.Command1), Stretch(), in.Show(form.Command2)})});
+  return Column({Wrapped(in.Show(form.Explanation)), Panes(form.texts, "In the file", "In the editor", in),
+                 Row({in.Show(form.NextDifference), Stretch(), in.Show(form.Done)})});
+}
+
+QWidget* ListAbovePanes(ListBox& list, const char* name, const FormLayout& in) {
+  QWidget* const lines = Named(in.Show(list), QLatin1String(name));
+  lines->setMinimumHeight(48);
+  lines->setMaximumHeight(120);
+  return lines;
 }
 
 QLayout* Page(UnsavedTexts& form, const FormLayout& in) {
-  QWidget* const texts = Named(in.Show(form.Texts), QStringLiteral("Texts"));
-  texts->setMinimumHeight(48);
-  texts->setMaximumHeight(120);
-  return Column({Wrapped(in.Show(form.Explanation)), texts,
+  return Column({Wrapped(in.Show(form.Explanation)), ListAbovePanes(form.Texts, "Texts", in),
                  Panes(form.texts, "In the file now", "Not saved", in),
                  Row({in.Show(form.NextDifference), Stretch(), in.Show(form.BringBack),
                       in.Show(form.KeepBoth), in.Show(form.ThrowAway), in.Show(form.Later)})});
+}
+
+QLayout* Page(EarlierVersions& form, const FormLayout& in) {
+  return Column({Wrapped(in.Show(form.Explanation)), ListAbovePanes(form.Versions, "Versions", in),
+                 Panes(form.texts, "Earlier version", "In the editor", in),
+                 Row({in.Show(form.NextDifference), Stretch(), in.Show(form.RestoreLines),
+                      in.Show(form.RestoreAll), in.Show(form.Done)})});
 }
 
 QLayout* Page(ViewImage& form, const FormLayout& in) {
@@ -386,7 +398,7 @@ MakePage PageOf(Form& form) {
   return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, Wizard, Speedy, Title, Heading,
                    SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
                    EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, CompareTexts, UnsavedTexts,
-                   ViewImage, SelectPictureForm>(form);
+                   EarlierVersions, ViewImage, SelectPictureForm>(form);
 }
 
 }  // namespace tarvik::screen

@@ -9,12 +9,13 @@ class CompareTexts : public ToolForm {
  public:
   CompareTexts(Workbench& bench, Shell& shell);
 
-  Label Label1{*this, "Label1"};
+  Label Explanation{*this, "Explanation"};
   SideBySide texts{*this, bench_, "FileText", "DocumentText"};
-  CommandButton Command1{*this, "Command1", "&Next difference", &CompareTexts::Command1_Click};
-  CommandButton Command2{*this, "Command2", "&Close", &CompareTexts::Close};
+  CommandButton NextDifference{*this, "NextDifference", "&Next difference",
+                               &CompareTexts::NextDifference_Click};
+  CommandButton Done{*this, "Done", "&Close", &CompareTexts::Close};
 
-  void Command1_Click() { texts.GoToNext(); }
+  void NextDifference_Click() { texts.GoToNext(); }
 
  private:
   void Fill(const Comparison& comparison);

@@ -36,6 +36,20 @@ void SideBySide::Show(const std::string& beforeText, const std::string& afterTex
   GoToNext();
 }
 
+std::vector<Difference> SideBySide::Picked() const {
+  const Range picked = before.Selection();
+  const auto touches = [picked](Range range) {
+    if (range.length == 0 || picked.length == 0)
+      return range.start <= picked.End() && picked.start <= range.End();
+    return range.start < picked.End() && picked.start < range.End();
+  };
+  std::vector<Difference> found;
+  for (const Difference& difference : differences_) {
+    if (touches(difference.before)) found.push_back(difference);
+  }
+  return found;
+}
+
 void SideBySide::GoToNext() {
   if (differences_.empty()) return;
   const Difference& difference = differences_[next_];

@@ -17,6 +17,12 @@ class SideBySide {
   /// Both stand at the first place where they differ.
   void Show(const std::string& beforeText, const std::string& afterText);
   [[nodiscard]] bool Differ() const { return !differences_.empty(); }
+  [[nodiscard]] const std::vector<Difference>& Differences() const { return differences_; }
+  /// Those that the user's selection in the first text touches.
+  [[nodiscard]] std::vector<Difference> Picked() const;
+  [[nodiscard]] std::string TextBefore(Range range) const {
+    return std::string(before.Characters().substr(range.start, range.length));
+  }
   /// Goes to the next difference in both texts, and from the last one to the first.
   void GoToNext();
 
