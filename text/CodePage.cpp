@@ -1,6 +1,11 @@
 #include "text/CodePage.h"
 
+#include <utf8proc.h>
+
 #include <algorithm>
+#include <cstdlib>
+#include <memory>
+#include <new>
 
 namespace tarvik {
 namespace {
@@ -47,6 +52,35 @@ char32_t TakeUtf8(std::string_view& text) {
   return c;
 }
 
+/// How much of the front of `text` can be composed in one go: none of it where it begins with a byte that is
+/// no UTF-8. The marks upon one letter are put in order by their number squared, so no more than so many are
+/// taken at once.
+std::size_t ComposableFront(std::string_view text) {
+  constexpr int kMostMarks = 30;
+  const auto* const bytes = reinterpret_cast<const utf8proc_uint8_t*>(text.data());
+  std::size_t at = 0;
+  for (int marks = 0; at < text.size() && marks < kMostMarks;) {
+    utf8proc_int32_t character = 0;
+    const auto length =
+        utf8proc_iterate(bytes + at, static_cast<utf8proc_ssize_t>(text.size() - at), &character);
+    if (length <= 0) break;
+    marks = utf8proc_get_property(character)->combining_class == 0 ? 0 : marks + 1;
+    at += static_cast<std::size_t>(length);
+  }
+  return at;
+}
+
+std::string ComposedFront(std::string_view text) {
+  utf8proc_uint8_t* made = nullptr;
+  const auto length = utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
+                                   static_cast<utf8proc_ssize_t>(text.size()), &made,
+                                   static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_COMPOSE));
+  const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owned(made, &std::free);
+  if (length == UTF8PROC_ERROR_NOMEM) throw std::bad_alloc();
+  if (length < 0) return std::string(text);
+  return {reinterpret_cast<const char*>(made), static_cast<std::size_t>(length)};
+}
+
 }  // namespace
 
 char32_t ToUnicode(char byte) {
@@ -67,12 +101,34 @@ std::string ToUtf8(std::string_view text) {
   return result;
 }
 
-std::string FromUtf8(std::string_view text) {
+std::string Composed(std::string_view utf8) {
+  // No character below U+0300 changes, and the bytes of the others begin so.
+  constexpr unsigned char kFirstLead = 0xCC;
+  if (std::ranges::all_of(utf8, [](char c) { return Byte(c) < kFirstLead; })) return std::string(utf8);
   std::string result;
-  result.reserve(text.size());
-  while (!text.empty()) result += FromUnicode(TakeUtf8(text));
+  result.reserve(utf8.size());
+  while (!utf8.empty()) {
+    const std::size_t front = ComposableFront(utf8);
+    const std::size_t taken = std::max<std::size_t>(front, 1);
+    result += front == 0 ? std::string(utf8.substr(0, taken)) : ComposedFront(utf8.substr(0, taken));
+    utf8.remove_prefix(taken);
+  }
   return result;
 }
+
+Converted ConvertedFromUtf8(std::string_view text) {
+  const std::string composed = Composed(text);
+  Converted converted;
+  converted.text.reserve(composed.size());
+  for (std::string_view rest = composed; !rest.empty();) {
+    const char32_t character = TakeUtf8(rest);
+    converted.text += FromUnicode(character);
+    if (converted.text.back() == '?' && character != '?') ++converted.lost;
+  }
+  return converted;
+}
+
+std::string FromUtf8(std::string_view text) { return ConvertedFromUtf8(text).text; }
 
 std::string LowerCase(std::string_view text) {
   std::string result(text);

@@ -60,8 +60,21 @@ inline constexpr auto kWord = [] {
 /// The byte of a character, "?" for one that the code page lacks.
 [[nodiscard]] char FromUnicode(char32_t character);
 
+/// The same characters in Unicode's composed form (NFC): a letter and its accent are one where there is such
+/// a character. Bytes that are no UTF-8 stay as they are.
+[[nodiscard]] std::string Composed(std::string_view utf8);
+
 [[nodiscard]] std::string ToUtf8(std::string_view text);
-/// Characters that the code page lacks, and bytes that are no UTF-8, become "?".
+
+/// Text that came from Unicode, and how many of its characters the code page lacks: each is a "?" there.
+struct Converted {
+  std::string text;
+  std::size_t lost = 0;
+};
+
+/// It is composed first. Bytes that are no UTF-8 become "?" too.
+[[nodiscard]] Converted ConvertedFromUtf8(std::string_view text);
+/// The same for texts of which nobody wants to know what was lost, such as names.
 [[nodiscard]] std::string FromUtf8(std::string_view text);
 
 [[nodiscard]] inline char ToLower(char character) { return codepage::kLower[codepage::Byte(character)]; }

@@ -40,6 +40,41 @@ TEST(CodePage, BytesThatAreNoUtf8AreQuestionMarks) {
   EXPECT_EQ(FromUtf8("\xC3\xA9\xC3"), "\xE9?");
 }
 
+TEST(Composed, ALetterAndItsAccentAreOneCharacter) {
+  EXPECT_EQ(Composed("e\xCC\x81t\x65\xCC\x81"), "\xC3\xA9t\xC3\xA9");
+  EXPECT_EQ(Composed("\xE2\x84\xAB"), "\xC3\x85");  // the sign of the unit
+  EXPECT_EQ(FromUtf8("e\xCC\x81"), "\xE9");
+}
+
+TEST(Composed, WhatIsComposedOrHasNoAccentStays) {
+  EXPECT_EQ(Composed(ToUtf8(EveryByte())), ToUtf8(EveryByte()));
+  EXPECT_EQ(Composed(""), "");
+  EXPECT_EQ(Composed("\xD1\x82\xF0\x9F\x98\x80"), "\xD1\x82\xF0\x9F\x98\x80");
+}
+
+TEST(Composed, BytesThatAreNoUtf8Stay) {
+  for (const std::string_view broken :
+       {"\xE9", "\xCC", "a\xFF\xFE", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\x80\xD1", "\xC0\x80"}) {
+    EXPECT_EQ(Composed(broken), broken);
+    EXPECT_EQ(Composed(std::string(broken) + "e\xCC\x81"), std::string(broken) + "\xC3\xA9");
+    EXPECT_EQ(Composed("e\xCC\x81" + std::string(broken)), "\xC3\xA9" + std::string(broken));
+  }
+  EXPECT_EQ(Composed(std::string("\0e\xCC\x81\0", 5)), std::string("\0\xC3\xA9\0", 4));
+}
+
+TEST(Composed, AnyNumberOfAccentsTakesNoTime) {
+  std::string marks = "e";
+  for (int i = 0; i < 500000; ++i) marks += i % 2 ? "\xCC\xA3" : "\xCC\x81";  // each before the one before it
+  EXPECT_GT(Composed(marks).size(), 900000U);
+}
+
+TEST(CodePage, CharactersThatAreLostAreCounted) {
+  EXPECT_EQ(ConvertedFromUtf8("a?\xC3\xA9").lost, 0U);
+  const Converted converted = ConvertedFromUtf8("a\xC5\x82?\xF0\x9F\x98\x80.\xFF");
+  EXPECT_EQ(converted.text, "a???.?");
+  EXPECT_EQ(converted.lost, 3U);
+}
+
 TEST(CodePage, AccentedLettersFoldTheirCase) {
   EXPECT_EQ(LowerCase("BTN \xC0\xC9\xD6\xDE"), "btn \xE0\xE9\xF6\xFE");
   EXPECT_EQ(LowerCase("\x8A\x8C\x8E\x9F"), "\x9A\x9C\x9E\xFF");
