@@ -65,52 +65,68 @@ bool Holds(const fs::path& folder, const fs::path& path) {
   return std::mismatch(folder.begin(), folder.end(), path.begin(), path.end()).first == folder.end();
 }
 
-std::string LogicalName(const fs::path& hostName) {
-  std::string name = LowerCase(FromUtf8(hostName.string()));
-  std::replace_if(
-      name.begin(), name.end(), [](char c) { return !IsNameCharacter(c); }, '?');
-  return name;
-}
-
-/// What the folder has under a logical name that is not the exact one. Of several nobody knows which is
-/// meant.
-Outcome<fs::path> MatchByCase(const fs::path& folder, const std::string& name) {
-  const std::string wanted = LowerCase(name);
-  Outcome<fs::path> match = Missing();
+Outcome<LogicalNames> NamesIn(const fs::path& folder) {
+  std::vector<std::string> names;
   std::error_code error;
   for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
        entry.increment(error)) {
-    if (LogicalName(entry->path().filename()) != wanted) continue;
-    if (match) return Missing();
-    match = entry->path();
+    names.push_back(entry->path().filename().string());
   }
   if (error) return SystemFailure(error == std::errc::not_a_directory ? ENOENT : error.value());
-  return match;
+  return LogicalNames(std::move(names));
 }
 
-/// What the folder has under a logical name.
+/// What the folder has under a logical name. The one that is spelled just so has it, whoever else is there.
 Outcome<fs::path> Match(const fs::path& folder, const std::string& name) {
-  auto exact = IsName(name) ? Taken(folder / ToUtf8(name)) : Missing();
-  return IsMissing(exact.failure()) ? MatchByCase(folder, name) : exact;
+  if (!IsName(name)) return Missing();
+  const std::string lower = LowerCase(name);
+  auto exact = Taken(folder / ToUtf8(lower));
+  if (!IsMissing(exact.failure())) return exact;
+  const auto names = NamesIn(folder);
+  if (!names) return names.failure();
+  const auto found = names->Find(lower);
+  return found ? folder / *found : Outcome<fs::path>(Missing());
 }
 
-struct Placed {
-  LogicalPath path;
-  fs::path host;
+/// Where a host file lies: on which drive, and the names on the way to it.
+struct Place {
+  char drive = kRootDrive;
+  fs::path folder;
+  std::vector<std::string> names{};
 };
 
-/// The path on the drive whose folder holds `host` most closely.
-Placed Place(const std::map<char, fs::path>& folders, const fs::path& host) {
+/// The place on the drive whose folder holds `host` most closely.
+Place PlaceOf(const std::map<char, fs::path>& folders, const fs::path& host) {
   auto closest = folders.find(kRootDrive);
   for (auto drive = folders.begin(); drive != folders.end(); ++drive) {
     const bool longer = drive->second.native().size() > closest->second.native().size();
     if (longer && Holds(drive->second, host)) closest = drive;
   }
-  Placed placed{{.drive = closest->first}, host};
+  Place place{closest->first, closest->second};
   const auto depth = std::distance(closest->second.begin(), closest->second.end());
-  std::transform(std::next(host.begin(), depth), host.end(), std::back_inserter(placed.path.names),
-                 LogicalName);
-  return placed;
+  std::transform(std::next(host.begin(), depth), host.end(), std::back_inserter(place.names),
+                 [](const fs::path& name) { return name.string(); });
+  return place;
+}
+
+/// The name as the host has it, or will have it where there is none: then in lower case, where nobody else is
+/// spelled so.
+std::string HostNameOf(const fs::path& folder, const std::string& name) {
+  const auto plain = PlainName(name);
+  if (!plain || !IsMissing(Taken(folder / name).failure())) return name;
+  const std::string lower = ToUtf8(*plain);
+  return IsMissing(Taken(folder / lower).failure()) ? lower : name;
+}
+
+/// The names of the folder, with one that may not be there yet. Where nobody can tell them it stands alone,
+/// as one does that is spelled as its logical name.
+LogicalNames NamesWith(const fs::path& folder, const std::string& name) {
+  const auto plain = PlainName(name);
+  const bool isExact = plain && ToUtf8(*plain) == name;
+  const auto found = isExact ? Missing() : NamesIn(folder);
+  std::vector<std::string> names = found ? found->HostNames() : std::vector<std::string>();
+  if (std::find(names.begin(), names.end(), name) == names.end()) names.push_back(name);
+  return LogicalNames(std::move(names));
 }
 
 std::optional<fs::path> LookUp(const std::map<std::string, fs::path>& known, const LogicalPath& path) {
@@ -128,9 +144,7 @@ Drives::Drives(const Folders& folders) {
 void Drives::SetFolder(char letter, const std::string& folder) {
   const char drive = ToLower(letter);
   if (!IsDriveLetter(drive) || drive == kRootDrive) return;
-  const auto isOnIt = [drive](const auto& known) { return known.first.front() == drive; };
-  std::erase_if(picked_, isOnIt);
-  std::erase_if(holders_, isOnIt);
+  std::erase_if(held_, [drive](const auto& held) { return held.first.front() == drive; });
   current_.SetFolder({.drive = drive});
   if (!folder.empty()) {
     folders_[drive] = Absolute(folder);
@@ -143,15 +157,13 @@ void Drives::SetFolder(char letter, const std::string& folder) {
 Outcome<fs::path> Drives::Find(const LogicalPath& path) const {
   const auto root = folders_.find(path.drive);
   if (root == folders_.end()) return Missing();
-  fs::path host = root->second;
+  Outcome<fs::path> host = root->second;
   LogicalPath walked{.drive = path.drive};
   for (const std::string& name : path.names) {
     walked.names.push_back(name);
-    const auto match = Match(host, name);
-    // Of several folders with that name, the one on the way to a picked file is meant.
-    const auto holder = match ? std::nullopt : LookUp(holders_, walked);
-    if (!match && !holder) return match.failure();
-    host = match ? *match : *holder;
+    const auto held = LookUp(held_, walked);
+    host = held ? Taken(*held) : Match(*host, name);
+    if (!host) break;
   }
   return host;
 }
@@ -159,9 +171,7 @@ Outcome<fs::path> Drives::Find(const LogicalPath& path) const {
 Outcome<fs::path> Drives::ToHost(std::string_view path) const {
   const auto whole = current_.Complete(path);
   if (!whole) return Missing();
-  const auto picked = LookUp(picked_, *whole);
-  Outcome<fs::path> host = picked ? Existing(*picked, fs::status) : Missing();
-  if (IsMissing(host.failure())) host = Find(*whole);
+  Outcome<fs::path> host = Find(*whole);
   if (host) host = Existing(*host, fs::status);
   if (host && whole->mustBeFolder && !IsFolder(*host)) return Missing();
   return host;
@@ -170,36 +180,63 @@ Outcome<fs::path> Drives::ToHost(std::string_view path) const {
 Outcome<fs::path> Drives::ToHostNew(std::string_view path) const {
   auto folder = current_.Complete(path);
   if (!folder || folder->mustBeFolder || folder->names.empty()) return Missing();
-  const auto picked = LookUp(picked_, *folder);
-  if (picked && !IsMissing(Taken(*picked).failure())) return *picked;
+  if (const auto held = LookUp(held_, *folder)) return *held;
   const std::string name = folder->names.back();
   folder->names.pop_back();
   const auto host = Find(*folder);
   if (!host) return host.failure();
   if (!IsFolder(*host)) return Missing();
   auto match = Match(*host, name);
-  if (match && !picked) return match;
-  if (!match && !IsMissing(match.failure())) return match.failure();
-  if (!match && IsName(name)) return *host / ToUtf8(LowerCase(name));
-  return picked ? Outcome<fs::path>(*picked) : Missing();
+  if (match || !IsMissing(match.failure()) || !IsName(name)) return match;
+  return *host / ToUtf8(LowerCase(name));
+}
+
+/// A path that is held to another file, which is there, is not to be taken.
+std::string Drives::NameOf(const LogicalNames& names, LogicalPath folder, const fs::path& host) const {
+  return names.NameOf(host.filename().string(), [&](const std::string& name) {
+    folder.names.push_back(name);
+    const auto held = LookUp(held_, folder);
+    folder.names.pop_back();
+    return !held || *held == host || IsMissing(Taken(*held).failure());
+  });
 }
 
 std::string Drives::FromHost(const fs::path& host) {
   const fs::path whole = Absolute(host);
   if (whole.empty()) return {};
-  Placed placed = Place(folders_, whole);
-  if (placed.path.drive == kRootDrive) {
-    Placed behindLinks = Place(WithoutLinks(folders_), WithoutLinks(whole));
-    if (behindLinks.path.drive != kRootDrive) placed = std::move(behindLinks);
+  Place place = PlaceOf(folders_, whole);
+  if (place.drive == kRootDrive) {
+    Place behindLinks = PlaceOf(WithoutLinks(folders_), WithoutLinks(whole));
+    if (behindLinks.drive != kRootDrive) place = std::move(behindLinks);
   }
-  std::string result = placed.path.Text();
-  picked_[result] = placed.host;
-  while (!placed.path.names.empty()) {
-    holders_[placed.path.Text()] = placed.host;
-    placed.path.names.pop_back();
-    placed.host = placed.host.parent_path();
+  if (!place.names.empty()) place.names.back() = HostNameOf(whole.parent_path(), place.names.back());
+  LogicalPath path{.drive = place.drive};
+  fs::path at = place.folder;
+  for (const std::string& name : place.names) {
+    path.names.push_back(NameOf(NamesWith(at, name), path, at / name));
+    at /= name;
+    held_[path.Text()] = at;
   }
-  return result;
+  return path.Text();
+}
+
+void Drives::Hold(std::string_view path, const fs::path& host) {
+  if (const auto whole = current_.Complete(path)) held_[whole->Text()] = host;
+}
+
+std::vector<Drives::Entry> Drives::EntriesOf(std::string_view folder) const {
+  const auto host = ToHost(folder);
+  const auto names = host ? NamesIn(*host) : host.failure();
+  if (!names) return {};
+  const LogicalPath inside = *current_.Complete(folder);
+  std::vector<Entry> entries;
+  for (const std::string& name : names->HostNames()) {
+    const fs::path place = *host / name;
+    const std::string logical = NameOf(*names, inside, place);
+    const std::string shown = FromUtf8(name);
+    entries.push_back({LowerCase(shown) == logical ? shown : logical, place});
+  }
+  return entries;
 }
 
 Outcome<> Drives::ChangeDrive(std::string_view path) {

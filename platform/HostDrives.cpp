@@ -66,4 +66,10 @@ std::string HostDrives::ToHost(const std::string& path) const {
   return host ? host->string() : "";
 }
 
+std::string HostDrives::Hold(const std::string& path) {
+  std::string host = ToHost(path);
+  if (!host.empty()) drives_.Hold(path, host);
+  return host;
+}
+
 }  // namespace tarvik

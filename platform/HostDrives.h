@@ -24,6 +24,7 @@ class HostDrives : public DriveFolders {
   void MakeOwnDrive() const;
   std::string FromHost(const std::string& path) override { return drives_.FromHost(path); }
   [[nodiscard]] std::string ToHost(const std::string& path) const override;
+  std::string Hold(const std::string& path) override;
 
   /// The drives as those have them that look files up.
   [[nodiscard]] Drives& Paths() { return drives_; }

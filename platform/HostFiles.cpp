@@ -8,6 +8,7 @@
 #include <charconv>
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "platform/Descriptor.h"
@@ -298,6 +299,17 @@ Outcome<> WriteWithin(const Bounds& bounds, const Outcome<fs::path>& host, std::
   return WriteFile(*target, content, bounds);
 }
 
+/// Of those that count.
+std::vector<std::string> NamesOf(const std::vector<Drives::Entry>& entries,
+                                 const std::function<bool(const Drives::Entry&)>& counts) {
+  std::vector<std::string> names;
+  for (const Drives::Entry& entry : entries) {
+    if (counts(entry)) names.push_back(entry.name);
+  }
+  std::sort(names.begin(), names.end(), SortsBefore);
+  return names;
+}
+
 }  // namespace
 
 bool HostFiles::FileExists(std::string_view path) const {
@@ -312,34 +324,19 @@ bool HostFiles::FolderExists(std::string_view path) const {
   return status && S_ISDIR(status->st_mode);
 }
 
-std::vector<std::string> HostFiles::NamesIn(std::string_view folder,
-                                            bool (HostFiles::*is)(std::string_view) const) const {
-  std::vector<std::string> names;
-  const auto host = drives_.ToHost(folder);
-  const std::string inside = std::string(folder) + (folder.ends_with('\\') ? "" : "\\");
-  std::error_code error;
-  for (fs::directory_iterator at(host ? *host : fs::path(), error), end; !error && at != end;
-       at.increment(error)) {
-    std::string name = FromUtf8(at->path().filename().string());
-    if ((this->*is)(inside + name)) names.push_back(std::move(name));
-  }
-  std::sort(names.begin(), names.end(), SortsBefore);
-  return names;
-}
-
 std::vector<std::string> HostFiles::FilesIn(std::string_view folder, std::string_view ending) const {
-  std::vector<std::string> names = NamesIn(folder, &HostFiles::FileExists);
-  std::erase_if(names, [wanted = LowerCase(ending)](const std::string& name) {
-    return !LowerCase(name).ends_with(wanted);
+  return NamesOf(drives_.EntriesOf(folder), [wanted = LowerCase(ending)](const Drives::Entry& entry) {
+    const auto status = StatusOf(entry.host);
+    return status && !S_ISDIR(status->st_mode) && LowerCase(entry.name).ends_with(wanted);
   });
-  return names;
 }
 
 /// Hidden folders are left out.
 std::vector<std::string> HostFiles::FoldersIn(std::string_view folder) const {
-  std::vector<std::string> names = NamesIn(folder, &HostFiles::FolderExists);
-  std::erase_if(names, [](const std::string& name) { return name.starts_with('.'); });
-  return names;
+  return NamesOf(drives_.EntriesOf(folder), [](const Drives::Entry& entry) {
+    const auto status = StatusOf(entry.host);
+    return status && S_ISDIR(status->st_mode) && !entry.host.filename().native().starts_with('.');
+  });
 }
 
 std::string HostFiles::DriveLetters() const {

@@ -38,9 +38,6 @@ class HostFiles : public Files {
   Outcome<> ChangeFolder(std::string_view path) override;
 
  private:
-  [[nodiscard]] std::vector<std::string> NamesIn(std::string_view folder,
-                                                 bool (HostFiles::*is)(std::string_view) const) const;
-
   Drives& drives_;
 };
 

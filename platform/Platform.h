@@ -153,6 +153,9 @@ class DriveFolders {
   virtual std::string FromHost(const std::string& path) = 0;
   /// The file or folder of the host that a path of the program means, there or not; empty where none can.
   [[nodiscard]] virtual std::string ToHost(const std::string& path) const = 0;
+  /// The same. As long as the program runs, and the drive is what it is, the path means that file and no
+  /// other one, also when it is gone.
+  virtual std::string Hold(const std::string& path) = 0;
 };
 
 /// Everything from outside in one hand.

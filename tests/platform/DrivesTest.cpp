@@ -1,8 +1,11 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
 #include <cerrno>
+#include <map>
 #include <string>
+#include <vector>
 
 #include "platform/Drives.h"
 #include "support/TemporaryFolder.h"
@@ -34,6 +37,9 @@ class DrivesTest : public testing::Test {
 
   std::string Root() const { return "z:" + LowerCase(Backslashes(temporary.path().string())); }
 
+  /// The drives of a program that starts now.
+  Drives NextStart() const { return Drives({{'c', (temporary.path() / "dos").string()}}); }
+
   static std::string Backslashes(std::string text) {
     for (char& c : text) c = c == '/' ? '\\' : c;
     return text;
@@ -51,12 +57,123 @@ TEST_F(DrivesTest, AFileIsFoundInEitherCase) {
   EXPECT_EQ(Seen("c:/tm/f22/fire.b50"), "fire");
 }
 
-TEST_F(DrivesTest, TheExactNameGoesFirstAndTwoOthersAreNone) {
+TEST_F(DrivesTest, OfTwoNamesThatDifferInCaseTheLowerOneHasTheNameInWhateverCase) {
   temporary.Put("dos/a.b50", "lower");
-  temporary.Put("dos/A.b50", "upper");
-  EXPECT_EQ(Seen("c:\\a.b50"), "lower");
-  EXPECT_EQ(Seen("c:\\A.b50"), "upper");
-  EXPECT_EQ(Seen("c:\\a.B50"), "(none)");
+  const fs::path upper = temporary.Put("dos/A.b50", "upper");
+  for (const char* const path : {"c:\\a.b50", "c:\\A.b50", "c:\\A.B50"}) {
+    EXPECT_EQ(Seen(path), "lower") << path;
+    EXPECT_EQ(New(path), "dos/a.b50") << path;
+  }
+  EXPECT_EQ(Seen(drives.FromHost(upper)), "upper");
+}
+
+TEST_F(DrivesTest, ANameThatTwoCouldHaveIsNobodys) {
+  temporary.Put("dos/Flight.b50", "one");
+  temporary.Put("dos/FLIGHT.B50", "two");
+  EXPECT_EQ(Seen("c:\\flight.b50"), "(none)");
+  EXPECT_EQ(Seen("c:\\Flight.b50"), "(none)");
+  EXPECT_EQ(New("c:\\Flight.b50"), "dos/flight.b50") << "a third one";
+}
+
+/// All of them are seen under paths of their own, also by the next start and by one that looks for one of
+/// them alone.
+TEST_F(DrivesTest, EachFileHasAPathOfItsOwn) {
+  const std::vector<std::string> names = {"Flight.b50",
+                                          "flight.b50",
+                                          "FLIGHT.B50",
+                                          "\u0442\u0435\u0441\u0442.b50",
+                                          "\u0444\u0430\u0439\u043B.b50",
+                                          "\u00E9.b50",
+                                          "e\u0301.b50",
+                                          "say \"hi\".b50",
+                                          "say *hi*.b50",
+                                          "a\\b.b50",
+                                          "what?.b50",
+                                          "tab\t.b50",
+                                          "bad\xFF.b50",
+                                          "bad\xFE.b50",
+                                          "\u2603",
+                                          "\u2605",
+                                          ".\u2603",
+                                          "\u2603.~1",
+                                          "\u2603.\u2605.b50",
+                                          "e\u0301"};
+  std::map<std::string, std::string> paths;
+  for (const std::string& name : names) temporary.Put("dos/" + name, name);
+  for (const std::string& name : names) {
+    const std::string path = drives.FromHost(temporary.path() / "dos" / name);
+    EXPECT_TRUE(paths.emplace(path, name).second) << path << " has " << name << " too";
+    EXPECT_EQ(path, LowerCase(path));
+    EXPECT_EQ(path.ends_with(".b50"), LowerCase(name).ends_with(".b50")) << path;
+  }
+  for (const auto& [path, name] : paths) {
+    const fs::path host = temporary.path() / "dos" / name;
+    EXPECT_EQ(NextStart().ToHost(path).Take(), host) << path;
+    EXPECT_EQ(NextStart().ToHostNew(path).Take(), host) << path;
+    EXPECT_EQ(NextStart().FromHost(host), path);
+  }
+}
+
+TEST_F(DrivesTest, AComposedAndADecomposedLetterAreTheSameUntilBothAreThere) {
+  temporary.Put("dos/e\u0301.b50", "decomposed");
+  EXPECT_EQ(Seen("c:\\\xE9.b50"), "decomposed");
+  EXPECT_EQ(New("c:\\\xC9.b50"), "dos/e\u0301.b50");
+  temporary.Put("dos/\u00E9.b50", "composed");
+  EXPECT_EQ(Seen("c:\\\xE9.b50"), "composed");
+  EXPECT_EQ(Seen(drives.FromHost(temporary.path() / "dos/e\u0301.b50")), "decomposed");
+}
+
+TEST_F(DrivesTest, AnAliasIsThatOfItsFileWhateverElseComesAndGoes) {
+  const fs::path upper = temporary.Put("dos/Flight.b50", "upper");
+  const fs::path lower = temporary.Put("dos/flight.b50", "lower");
+  const std::string alias = NextStart().FromHost(upper);
+  EXPECT_EQ(alias.substr(0, 5), "c:\\fl");
+  EXPECT_EQ(alias.substr(9), "~1.b50");
+  temporary.Put("dos/FLIGHT.b50", "another");
+  EXPECT_EQ(NextStart().ToHost(alias).Take(), upper);
+  fs::remove(lower);
+  EXPECT_EQ(NextStart().ToHost(alias).Take(), upper);
+  fs::remove(upper);
+  EXPECT_FALSE(NextStart().ToHost(alias));
+  EXPECT_EQ(NextStart().ToHostNew(alias)->filename().string(), alias.substr(3)) << "nobody's file";
+}
+
+TEST_F(DrivesTest, AnAliasThatIsARealNameIsAnotherOne) {
+  const fs::path host = temporary.Put("dos/\u2603.b50", "snow");
+  const std::string first = NextStart().FromHost(host);
+  temporary.Put("dos/" + first.substr(3), "real");
+  const std::string second = NextStart().FromHost(host);
+  EXPECT_NE(second, first);
+  EXPECT_THAT(second, testing::EndsWith("~2.b50"));
+  EXPECT_EQ(Seen(first), "real");
+  EXPECT_EQ(Seen(second), "snow");
+  temporary.Put("dos/" + LowerCase(second.substr(3)), "real too");
+  EXPECT_THAT(NextStart().FromHost(host), testing::EndsWith("~3.b50"));
+}
+
+TEST_F(DrivesTest, AFolderThatComesLaterIsTheOneThatWasMeant) {
+  const fs::path stick = temporary.path() / "dos/STICK";
+  const std::string path = drives.FromHost(stick / "a.b50");
+  EXPECT_EQ(path, "c:\\stick\\a.b50");
+  EXPECT_FALSE(fs::exists(stick));
+  temporary.Put("dos/STICK/a.b50", "stick");
+  EXPECT_EQ(Seen(path), "stick");
+  temporary.Put("dos/STICK/a.m50", "macros");
+  EXPECT_EQ(Seen("c:\\stick\\a.m50"), "macros");
+}
+
+TEST_F(DrivesTest, AFolderOnTheWayHasANameOfItsOwnToo) {
+  for (const char* const folder : {"Maps", "maps", "\u0442\u0435\u0441\u0442", "say \"hi\""}) {
+    const fs::path host = temporary.Put(std::string("dos/") + folder + "/A.b50", folder);
+    temporary.Put(std::string("dos/") + folder + "/a.m50", std::string(folder) + " macros");
+    const std::string path = drives.FromHost(host);
+    EXPECT_EQ(Seen(path), folder);
+    const Drives next = NextStart();
+    EXPECT_EQ(next.ToHost(path).Take(), host);
+    EXPECT_EQ(next.ToHost(path.substr(0, path.size() - 3) + "m50").Take(), host.parent_path() / "a.m50");
+    EXPECT_EQ(next.ToHostNew(path.substr(0, path.rfind('\\')) + "\\New.b50").Take(),
+              host.parent_path() / "new.b50");
+  }
 }
 
 /// As long as it lives no file and no folder can be opened.
@@ -88,6 +205,23 @@ TEST_F(DrivesTest, WhatCannotBeLookedAtIsNotTakenForMissing) {
   EXPECT_EQ(New("c:\\tarvik.ini"), "dos/Tarvik.ini");
 }
 
+TEST_F(DrivesTest, WhereAFolderCannotBeLookedAtAPathLeadsToItsFileAllTheSame) {
+  const fs::path upper = temporary.Put("dos/Flight.b50", "upper");
+  const fs::path snow = temporary.Put("dos/\u2603/A.b50", "snow");
+  std::string path;
+  std::string snowy;
+  {
+    const NothingOpens poor;
+    path = drives.FromHost(upper);
+    snowy = drives.FromHost(snow);
+    EXPECT_EQ(drives.ToHost(path).Take(), upper);
+    EXPECT_EQ(drives.ToHostNew(snowy).Take(), snow);
+  }
+  temporary.Put("dos/flight.b50", "lower");
+  EXPECT_EQ(Seen(path), "upper");
+  EXPECT_EQ(Seen(snowy), "snow");
+}
+
 TEST_F(DrivesTest, AccentedNamesAreFoundInEitherCase) {
   temporary.Put("dos/\u00DCbung \u20AC.b50", "accents");
   EXPECT_EQ(Seen("c:\\\xFC"
@@ -95,63 +229,44 @@ TEST_F(DrivesTest, AccentedNamesAreFoundInEitherCase) {
             "accents");
 }
 
-TEST_F(DrivesTest, TheFileThatWasPickedIsTheFileThatIsOpened) {
-  temporary.Put("dos/a.b50", "lower");
+TEST_F(DrivesTest, APathThatIsHeldMeansNoOtherFileWhateverComesAndGoes) {
   const fs::path upper = temporary.Put("dos/A.b50", "upper");
   EXPECT_EQ(drives.FromHost(upper), "c:\\a.b50");
+  const fs::path lower = temporary.Put("dos/a.b50", "lower");
   EXPECT_EQ(Seen("c:\\a.b50"), "upper");
   EXPECT_EQ(New("c:\\a.b50"), "dos/A.b50");
+  const std::string other = drives.FromHost(lower);
+  EXPECT_EQ(Seen(other), "lower");
+  EXPECT_EQ(Seen("c:\\a.b50"), "upper");
   fs::remove(upper);
-  EXPECT_EQ(Seen("c:\\a.b50"), "lower");
+  EXPECT_EQ(Seen("c:\\a.b50"), "(none)");
+  EXPECT_EQ(New("c:\\a.b50"), "dos/A.b50");
+  EXPECT_EQ(NextStart().ToHost("c:\\a.b50").Take(), lower);
+}
+
+TEST_F(DrivesTest, APathWhoseFileIsGoneCanBeHeldToAnotherOne) {
+  const fs::path upper = temporary.Put("dos/A.b50", "upper");
+  EXPECT_EQ(drives.FromHost(upper), "c:\\a.b50");
+  fs::rename(upper, temporary.path() / "dos/a.b50");
+  EXPECT_EQ(drives.FromHost(temporary.path() / "dos/a.b50"), "c:\\a.b50");
+  EXPECT_EQ(Seen("c:\\a.b50"), "upper");
 }
 
 TEST_F(DrivesTest, ANewNameThatWasPickedNeverOverwritesAnother) {
   temporary.Put("dos/Fire.b50", "old");
   EXPECT_EQ(drives.FromHost(temporary.path() / "dos/FIRE.b50"), "c:\\fire.b50");
-  EXPECT_EQ(New("c:\\fire.b50"), "dos/FIRE.b50");
-}
-
-TEST_F(DrivesTest, ANameOutsideTheCodePageCanBePicked) {
-  const fs::path snow = temporary.Put("dos/\u2603.b50", "snow");
-  const fs::path star = temporary.Put("dos/\u2605.b50", "star");
-  EXPECT_EQ(Seen("c:\\?.b50"), "(none)");
-  EXPECT_EQ(drives.FromHost(snow), "c:\\?.b50");
-  EXPECT_EQ(Seen("c:\\?.b50"), "snow");
-  EXPECT_EQ(drives.FromHost(star), "c:\\?.b50");
-  EXPECT_EQ(Seen("C:\\?.B50"), "star");
-}
-
-TEST_F(DrivesTest, TheOnlyNameOutsideTheCodePageIsFoundWithoutBeingPicked) {
-  temporary.Put("dos/\u2603.b50", "snow");
-  temporary.Put("dos/xy.b50", "not this");
-  EXPECT_EQ(Seen("c:\\?.b50"), "snow");
-  EXPECT_EQ(Seen("c:\\??.b50"), "(none)");
-}
-
-TEST_F(DrivesTest, NamesThatNoDriveCanHoldAreReachedToo) {
-  for (const char* name : {"say \"hi\".b50", "a\\b.b50", "what?.b50", "tab\t.b50", "bad\xFF.b50"}) {
-    const fs::path host = temporary.Put(std::string("dos/") + name, name);
-    const std::string path = drives.FromHost(host);
-    EXPECT_EQ(Seen(path), name);
-    const Drives nextStart({{'c', (temporary.path() / "dos").string()}});
-    EXPECT_EQ(nextStart.ToHost(path).Take(), host);
-    fs::remove(host);
-  }
+  EXPECT_EQ(New("c:\\fire.b50"), "dos/fire.b50");
+  temporary.Put("dos/fire.b50", "older");
+  const std::string third = drives.FromHost(temporary.path() / "dos/FIRE.b50");
+  EXPECT_EQ(New(third), "dos/FIRE.b50");
+  EXPECT_EQ(Seen(third), "(none)");
 }
 
 TEST_F(DrivesTest, ANewFileOutsideTheCodePageGetsThePickedName) {
   const std::string path = drives.FromHost(temporary.path() / "dos/\u2603.b50");
   EXPECT_EQ(New(path), "dos/\u2603.b50");
-  EXPECT_EQ(New("c:\\x?.b50"), "(none)");
-}
-
-TEST_F(DrivesTest, AFileBesideAPickedOneIsFoundWhereSeveralFoldersHaveThatName) {
-  temporary.Put("dos/\u2603/a.b50", "a");
-  temporary.Put("dos/\u2603/a.m50", "macros");
-  temporary.Put("dos/\u2605/a.m50", "others");
-  EXPECT_EQ(Seen("c:\\?\\a.m50"), "(none)");
-  EXPECT_EQ(drives.FromHost(temporary.path() / "dos/\u2603/a.b50"), "c:\\?\\a.b50");
-  EXPECT_EQ(Seen("c:\\?\\a.m50"), "macros");
+  const fs::path host = temporary.Put("dos/\u2603.b50", "snow");
+  EXPECT_EQ(NextStart().ToHost(path).Take(), host);
 }
 
 TEST_F(DrivesTest, ANewFileGetsTheLowerCaseName) {
@@ -211,13 +326,14 @@ TEST_F(DrivesTest, ZIsTheRootOfTheHostWhateverIsSaid) {
 
 TEST_F(DrivesTest, APickedPathIsShownUnderTheClosestDrive) {
   temporary.Make("dos-old");
+  temporary.Make("dos/tm/Maps");
   Drives nested({{'c', (temporary.path() / "dos").string()}, {'e', (temporary.path() / "dos/tm").string()}});
-  EXPECT_EQ(nested.FromHost(temporary.path() / "dos/tm/F22/X.b50"), "e:\\f22\\x.b50");
+  EXPECT_EQ(nested.FromHost(temporary.path() / "dos/tm/Maps/X.b50"), "e:\\maps\\x.b50");
   EXPECT_EQ(nested.FromHost(temporary.path() / "dos/X.b50"), "c:\\x.b50");
   EXPECT_EQ(nested.FromHost(temporary.path() / "dos/"), "c:\\");
   EXPECT_EQ(nested.FromHost(temporary.path() / "dos-old/x.b50"), Root() + "\\dos-old\\x.b50");
   EXPECT_EQ(nested.FromHost("/"), "z:\\");
-  EXPECT_EQ(nested.FromHost("//usr//lib/../Bin/"), "z:\\usr\\bin");
+  EXPECT_EQ(nested.FromHost("//usr//lib/../bin/"), "z:\\usr\\bin");
   EXPECT_EQ(nested.FromHost(""), "");
 }
 

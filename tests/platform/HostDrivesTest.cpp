@@ -80,6 +80,20 @@ TEST_F(HostDrivesTest, TheHostsPathIsToldOfWhatIsThereAndOfWhatMayCome) {
   EXPECT_EQ(drives.ToHost("q:\\a.b50"), "");
 }
 
+TEST_F(HostDrivesTest, APathThatIsHeldMeansThatFileUntilItsDriveIsAnotherOne) {
+  HostDrives drives(Host("own"));
+  ASSERT_TRUE(drives.Set('d', Host("dos")));
+  HostFiles files(drives.Paths());
+  EXPECT_EQ(drives.Hold("d:\\a.b50"), Host("dos/a.b50"));
+  folder.Put("dos/A.B50", "another");
+  fs::remove(Host("dos/a.b50"));
+  EXPECT_FALSE(files.FileExists("d:\\a.b50"));
+  EXPECT_EQ(drives.ToHost("d:\\a.b50"), Host("dos/a.b50"));
+  ASSERT_TRUE(drives.Set('d', Host("cd")));
+  EXPECT_EQ(files.Read("d:\\a.b50").Take(), "from cd");
+  EXPECT_EQ(drives.Hold("q:\\a.b50"), "");
+}
+
 TEST_F(HostDrivesTest, AChangedDriveStandsAtItsRoot) {
   folder.Make("dos/tm");
   HostDrives drives(Host("own"));

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -60,6 +61,23 @@ TEST_F(HostFilesTest, WhatLiesInAFolderIsToldByItsKind) {
   EXPECT_EQ(files.FilesIn("c:\\", ".png"), pictures);
   EXPECT_TRUE(files.FoldersIn("c:\\missing").empty());
   EXPECT_EQ(files.DriveLetters(), "cz");
+}
+
+TEST_F(HostFilesTest, WhatIsListedIsReachedByThatNameAndNothingElseIs) {
+  const std::vector<std::string> names = {
+      "A.txt",      "a.txt",       "B.txt",    "\u0442\u0435\u0441\u0442.txt", "\u0444\u0430\u0439\u043B.txt",
+      "\u00E9.txt", "e\u0301.txt", "\"*\".txt"};
+  for (const std::string& name : names) temporary.Put("dos/" + name, name);
+  drives.FromHost(Host("A.txt"));
+  std::set<std::string> seen;
+  const std::vector<std::string> listed = files.FilesIn("c:\\", ".TXT");
+  for (const std::string& name : listed) seen.insert(*files.Read("c:\\" + name));
+  EXPECT_EQ(seen, std::set<std::string>(names.begin(), names.end()));
+  EXPECT_EQ(std::count(listed.begin(), listed.end(), "B.txt"), 1);
+  for (const char* const folder : {"Maps", "maps", ".\u2603", "\u2603"}) fs::create_directory(Host(folder));
+  const std::vector<std::string> folders = files.FoldersIn("c:\\");
+  EXPECT_EQ(folders.size(), 3U);
+  for (const std::string& name : folders) EXPECT_TRUE(files.FolderExists("c:\\" + name)) << name;
 }
 
 TEST_F(HostFilesTest, WhatWasWrittenIsReadByteForByte) {
@@ -450,6 +468,18 @@ TEST_F(HostFilesTest, OfTwoNamesThatDifferInCaseThePickedOneIsWritten) {
   ASSERT_TRUE(files.Write(path, "new"));
   EXPECT_EQ(Content("A.b50"), "new");
   EXPECT_EQ(Content("a.b50"), "lower");
+}
+
+TEST_F(HostFilesTest, AFileThatIsGoneIsNotWrittenIntoOneWhoseNameDiffersInCase) {
+  temporary.Put("dos/a.b50", "lower");
+  const std::string path = drives.FromHost(Host("a.b50"));
+  temporary.Put("dos/A.b50", "upper");
+  fs::remove(Host("a.b50"));
+  EXPECT_FALSE(files.FileExists(path));
+  EXPECT_EQ(files.Read(path).failure().number, error::kFileNotFound);
+  ASSERT_TRUE(files.Write(path, "new"));
+  EXPECT_EQ(Content("A.b50"), "upper");
+  EXPECT_EQ(Content("a.b50"), "new");
 }
 
 TEST_F(HostFilesTest, AFileOutsideTheCodePageIsWrittenUnderItsName) {

@@ -114,16 +114,22 @@ Outcome<> ScriptedDrives::Set(char letter, const std::string& folder) {
 void ScriptedDrives::Remove(char letter) { Give(letter, letter == 'c' ? kOwnFolder : ""); }
 
 std::string ScriptedDrives::FromHost(const std::string& path) {
-  std::string own = path.substr(std::string_view(kOwnFolder).size());
-  std::replace(own.begin(), own.end(), '/', '\\');
-  return "c:" + own;
+  auto closest = folders_.find('z');
+  for (auto drive = folders_.begin(); drive != folders_.end(); ++drive) {
+    const bool holds = path == drive->second || path.starts_with(drive->second + "/");
+    if (holds && drive->second.size() > closest->second.size()) closest = drive;
+  }
+  const std::string root = closest->second == "/" ? "" : closest->second;
+  std::string rest = path.substr(root.size());
+  std::replace(rest.begin(), rest.end(), '/', '\\');
+  return std::string{closest->first, ':'} + (rest.empty() ? "\\" : rest);
 }
 
 std::string ScriptedDrives::ToHost(const std::string& path) const {
   const auto whole = CurrentFolders().Complete(path);
   const auto root = whole ? folders_.find(whole->drive) : folders_.end();
   if (root == folders_.end()) return {};
-  std::string host = root->second + whole->Text().substr(2);
+  std::string host = (root->second == "/" ? "" : root->second) + whole->Text().substr(2);
   std::replace(host.begin(), host.end(), '\\', '/');
   return host;
 }

@@ -159,9 +159,10 @@ class ScriptedDrives : public DriveFolders {
   [[nodiscard]] std::vector<Drive> All() const override;
   Outcome<> Set(char letter, const std::string& folder) override;
   void Remove(char letter) override;
-  /// Every file of this host lies on drive c.
   std::string FromHost(const std::string& path) override;
   [[nodiscard]] std::string ToHost(const std::string& path) const override;
+  /// No two names on this host differ in case alone.
+  std::string Hold(const std::string& path) override { return ToHost(path); }
 
   MemoryFiles* files = nullptr;  ///< whose drives they are
   std::set<std::string> there{"/", kOwnFolder};
