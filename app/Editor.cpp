@@ -315,11 +315,11 @@ void Editor::mnuPreferencesProtectMacroFile_Click() {
   TabStrip1.Tabs(2).Image = protect ? kProtectedTabImage : kNormalTabImage;
 }
 
-void Editor::OpenPrevious(std::string_view array, int index) {
-  const std::string path = menus(array, index).Caption;
+void Editor::OpenPrevious(const RecentList& list, int index) {
+  const std::string path = list.PathNow(index);
   if (bench_.platform.files.FileExists(path)) return OpenPreviouslySavedFiles(path);
   bench_.platform.dialogs.Show({"Can't find file",
-                                "There's a problem here ... I couldn't find " + path +
+                                "There's a problem here ... I couldn't find " + list.Part(index, 0) +
                                     " which probably means you've deleted it or moved it. Sorry!",
                                 BoxIcon::Information});
 }

@@ -99,8 +99,8 @@ class Editor : public Form {
   void mnuFilePrinterSetup_Click() { SetUpPrinter(bench_.documents); }
   void mnuRHMPrint_Click();
   void mnuJoyPopUpSingleFile_Click() { mnuJoyPopUpSingleFile.Checked = !mnuJoyPopUpSingleFile.Checked; }
-  void mnuJFArray_Click(int index) { OpenPrevious("mnuJFArray", index); }
-  void mnuMFArray_Click(int index) { OpenPrevious("mnuMFArray", index); }
+  void mnuJFArray_Click(int index) { OpenPrevious(bench_.lists.JoystickFiles, index); }
+  void mnuMFArray_Click(int index) { OpenPrevious(bench_.lists.MacroFiles, index); }
   void mnuPreviousClearAllJ_Click() { bench_.lists.ClearAll(bench_.lists.JoystickFiles); }
   void mnuPreviousClearAllM_Click();
   void mnuFileExit_Click() { application_.CloseMum(); }
@@ -242,7 +242,7 @@ class Editor : public Form {
   void AdoptControls();
   void SetUpToolbar();
   void OpenFilesOfTheStart();
-  void OpenPrevious(std::string_view array, int index);
+  void OpenPrevious(const RecentList& list, int index);
   void FirstTimeFlow();
   void ShowPopUp(std::string_view name);
   bool FindNext(const Document& document);

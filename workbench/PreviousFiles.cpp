@@ -8,19 +8,17 @@ namespace {
 constexpr std::size_t kPathBuffer = 256;
 constexpr std::size_t kShortBuffer = 100;
 
-constexpr RecordKey kJoystickKeys[] = {{"JFPath", "RecentJFToAdd", kPathBuffer}};
-constexpr RecordKey kMacroKeys[] = {{"MFPath", "RecentMFToAdd", kPathBuffer}};
+constexpr RecordKey kJoystickKeys[] = {{"JFPath", "RecentJFToAdd", kPathBuffer, PartKind::File}};
+constexpr RecordKey kMacroKeys[] = {{"MFPath", "RecentMFToAdd", kPathBuffer, PartKind::File}};
 constexpr RecordKey kFavouriteKeys[] = {
     {"FavName", "FavName", kPathBuffer},
-    {"FavJFPath", "FavJFPath", kPathBuffer},
-    {"FavMFPath", "FavMFPath", kPathBuffer},
+    {"FavJFPath", "FavJFPath", kPathBuffer, PartKind::File},
+    {"FavMFPath", "FavMFPath", kPathBuffer, PartKind::File},
 };
 constexpr RecordKey kGameKeys[] = {
-    {"GameName", "GameName", kShortBuffer},
-    {"GamePath", "GamePath", kShortBuffer},
-    {"GameDIRPath", "GameDIRPath", kShortBuffer},
-    {"GameJF", "GameJF", kShortBuffer},
-    {"GameUseJF", "GameUseJF", 0},
+    {"GameName", "GameName", kShortBuffer},          {"GamePath", "GamePath", kShortBuffer},
+    {"GameDIRPath", "GameDIRPath", kShortBuffer},    {"GameJF", "GameJF", kShortBuffer, PartKind::File},
+    {"GameUseJF", "GameUseJF", 0, PartKind::Number},
 };
 
 constexpr ListTraits kJoystickList = {"PreviousJoystickFiles", "JFArrayNum", kJoystickKeys};
@@ -30,12 +28,12 @@ constexpr ListTraits kGameList = {section::kGames, "GameArrayNum", kGameKeys};
 
 }  // namespace
 
-PreviousFiles::PreviousFiles(Settings& settings, Errors& errors)
+PreviousFiles::PreviousFiles(Settings& settings, Errors& errors, DriveFolders& drives)
     : Component("PreviousFiles"),
-      JoystickFiles(*this, kJoystickList, settings.File()),
-      MacroFiles(*this, kMacroList, settings.File()),
-      Favourites(*this, kFavouriteList, settings.File()),
-      Games(*this, kGameList, settings.File()),
+      JoystickFiles(*this, kJoystickList, settings.File(), drives),
+      MacroFiles(*this, kMacroList, settings.File(), drives),
+      Favourites(*this, kFavouriteList, settings.File(), drives),
+      Games(*this, kGameList, settings.File(), drives),
       settings_(settings),
       errors_(errors) {}
 

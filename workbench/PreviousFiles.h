@@ -20,7 +20,7 @@ class PreviousFiles : public Component {
  public:
   static constexpr int kCustomApps = 4;
 
-  PreviousFiles(Settings& settings, Errors& errors);
+  PreviousFiles(Settings& settings, Errors& errors, DriveFolders& drives);
 
   RecentList JoystickFiles;
   RecentList MacroFiles;

@@ -19,7 +19,7 @@ Workbench::Workbench(const Platform& services)
       platform(With(programs_, desktop_, services)),
       profile(platform.files, platform.folder + "\\Tarvik.ini"),
       settings(profile, errors),
-      lists(settings, errors),
+      lists(settings, errors, platform.drives),
       documents(platform, settings, values, errors) {
   profile.unreadable = [this](std::string_view section, std::string_view key) {
     log.SettingUnreadable(section, key);

@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 
-#include "support/MemoryFiles.h"
+#include "platform/HostDrives.h"
+#include "platform/HostFiles.h"
+#include "support/ScriptedPlatform.h"
+#include "support/TemporaryFolder.h"
 #include "workbench/RecentList.h"
 
 namespace tarvik {
@@ -9,7 +12,7 @@ namespace {
 using testing::ElementsAre;
 
 constexpr RecordKey kKeys[] = {
-    {"Name", "NameInHand", 10}, {"Path", "PathInHand", 20}, {"Use", "UseInHand", 0}};
+    {"Name", "NameInHand", 10}, {"Path", "PathInHand", 20}, {"Use", "UseInHand", 0, PartKind::Number}};
 constexpr ListTraits kTraits = {"Things", "ThingNum", kKeys};
 
 class RecentListOnDisk : public testing::Test {
@@ -31,7 +34,8 @@ class RecentListOnDisk : public testing::Test {
   MemoryFiles files;
   ProfileFile file{files, "c:\\t\\a.ini"};
   Component owner{"Owner"};
-  RecentList list{owner, kTraits, file};
+  session::ScriptedDrives drives;
+  RecentList list{owner, kTraits, file, drives};
 };
 
 TEST_F(RecentListOnDisk, PutsTheLastUsedFirst) {
@@ -134,6 +138,129 @@ TEST_F(RecentListOnDisk, TellsWhoeverShowsIt) {
   list.Read();
   ASSERT_TRUE(list.Clear());
   EXPECT_EQ(told, 3);
+}
+
+// Files on a host where names may differ in case alone.
+
+constexpr RecordKey kFileKeys[] = {{"File", "FileInHand", 256, PartKind::File}};
+constexpr ListTraits kFileTraits = {"Files", "FileNum", kFileKeys};
+
+/// What a program has from its start to its end.
+struct OneRun {
+  explicit OneRun(const std::filesystem::path& own) : drives(own) { list.Read(); }
+
+  void Use(const std::string& path) {
+    list.InHand("FileInHand") = path;
+    list.Use();
+    EXPECT_TRUE(list.Save());
+  }
+  /// What the file of a record holds, "(none)" where it is not there.
+  std::string Seen(int index) {
+    const auto content = files.Read(list.PathNow(index));
+    return content ? *content : "(none)";
+  }
+
+  HostDrives drives;
+  HostFiles files{drives.Paths()};
+  ProfileFile file{files, drives.FromHost(drives.All().front().folder) + "tarvik.ini"};
+  Component owner{"Owner"};
+  RecentList list{owner, kFileTraits, file, drives};
+};
+
+class RecentListOnHost : public testing::Test {
+ protected:
+  RecentListOnHost() {
+    folder.Make("own/drive_c");
+    folder.Make("old");
+    folder.Make("new");
+  }
+  std::string Host(const std::string& name) const { return (folder.path() / name).string(); }
+  std::unique_ptr<OneRun> Start() const { return std::make_unique<OneRun>(Host("own")); }
+
+  TemporaryFolder folder;
+};
+
+TEST_F(RecentListOnHost, AnEntryIsItsFileAlsoWhenATwinCame) {
+  folder.Put("own/drive_c/Flight.b50", "mine");
+  Start()->Use("c:\\flight.b50");
+  folder.Put("own/drive_c/flight.b50", "another");
+  const auto run = Start();
+  EXPECT_THAT(run->list.Names(), ElementsAre("c:\\flight.b50"));
+  EXPECT_EQ(run->Seen(1), "mine");
+  run->list.Take(1);
+  EXPECT_EQ(*run->files.Read(run->list.InHand("FileInHand").Get()), "mine");
+}
+
+TEST_F(RecentListOnHost, AnEntryWhoseFileIsGoneIsNoOtherFile) {
+  for (const auto& [gone, other] : {std::pair("Flight.b50", "flight.b50"), {"flight.b50", "FLIGHT.b50"}}) {
+    folder.Put(std::string("own/drive_c/") + gone, "mine");
+    Start()->Use("c:\\flight.b50");
+    std::filesystem::remove(Host(std::string("own/drive_c/") + gone));
+    folder.Put(std::string("own/drive_c/") + other, "another");
+    EXPECT_EQ(Start()->Seen(1), "(none)") << gone;
+    std::filesystem::remove(Host(std::string("own/drive_c/") + other));
+  }
+}
+
+TEST_F(RecentListOnHost, AnEntryGoesWithItsFileWhenTheDriveIsMoved) {
+  folder.Put("old/a.b50", "mine");
+  folder.Put("new/a.b50", "another");
+  const auto run = Start();
+  ASSERT_TRUE(run->drives.Set('d', Host("old")));
+  run->Use("d:\\a.b50");
+  ASSERT_TRUE(run->drives.Set('d', Host("new")));
+  EXPECT_EQ(run->Seen(1), "mine");
+  ASSERT_TRUE(run->drives.Set('e', Host("old")));
+  EXPECT_EQ(run->list.PathNow(1), "e:\\a.b50");
+}
+
+TEST_F(RecentListOnHost, AFileInUseIsNotMistakenForOneThatComesMeanwhile) {
+  folder.Put("own/drive_c/Flight.b50", "mine");
+  const auto run = Start();
+  run->Use("c:\\flight.b50");
+  folder.Put("own/drive_c/flight.b50", "another");
+  EXPECT_EQ(*run->files.Read("c:\\flight.b50"), "mine");
+}
+
+TEST_F(RecentListOnHost, TwoFilesThatHadOnePathAreTwoEntries) {
+  folder.Put("own/drive_c/Flight.b50", "first");
+  Start()->Use("c:\\flight.b50");
+  folder.Put("own/drive_c/flight.b50", "second");
+  Start()->Use("c:\\flight.b50");
+  const auto run = Start();
+  EXPECT_THAT(run->list.Names(), ElementsAre("c:\\flight.b50", "c:\\flight.b50"));
+  EXPECT_EQ(run->Seen(1), "second");
+  EXPECT_EQ(run->Seen(2), "first");
+  run->Use(run->list.PathNow(2));
+  EXPECT_EQ(run->list.Count(), 2);
+  EXPECT_EQ(run->Seen(1), "first");
+}
+
+TEST_F(RecentListOnHost, WithoutAWordOfTheHostAnEntryIsWhatItsPathMeans) {
+  folder.Put("own/drive_c/Flight.b50", "mine");
+  folder.Put("own/drive_c/tarvik.ini", "[Files]\r\nFileNum=2\r\nFile1=c:\\flight.b50\r\nFile2=c:\\a.b50\r\n");
+  EXPECT_EQ(Start()->Seen(1), "mine");
+  EXPECT_EQ(Start()->Seen(2), "(none)");
+}
+
+TEST_F(RecentListOnHost, APathThatWasChangedByHandCounts) {
+  folder.Put("own/drive_c/a.b50", "a");
+  folder.Put("own/drive_c/b.b50", "b");
+  Start()->Use("c:\\a.b50");
+  ASSERT_TRUE(Start()->file.Write("Files", "File1", "c:\\b.b50"));
+  EXPECT_EQ(Start()->Seen(1), "b");
+  const auto run = Start();
+  run->list.SetPart(1, 0, "c:\\a.b50");
+  EXPECT_EQ(run->Seen(1), "a");
+}
+
+TEST_F(RecentListOnHost, AClearedListForgetsTheHostsPaths) {
+  folder.Put("own/drive_c/a.b50", "a");
+  const auto run = Start();
+  run->Use("c:\\a.b50");
+  EXPECT_THAT(run->file.Read().text(), testing::HasSubstr(Host("own/drive_c/a.b50")));
+  ASSERT_TRUE(run->list.Clear());
+  EXPECT_THAT(run->file.Read().text(), testing::Not(testing::HasSubstr(Host("own"))));
 }
 
 }  // namespace

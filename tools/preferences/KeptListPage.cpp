@@ -78,6 +78,7 @@ void KeptListPage::Choose(std::size_t part, const std::string& filter) {
                             : dialogs.AskForFile({FileDialogKind::Open, "", filter, folder, "", ""}));
   if (!chosen) return;
   box.Text = LowerCase(*chosen);
+  traits_.list.SetPart(row + 1, part, box.Text);  // the same path may be another file now
   traits_.save();
 }
 
