@@ -15,7 +15,7 @@ constexpr std::size_t kLeastRoom = 1 << 16;  // bytes of changes beside however 
 // All of them.
 
 JournalKeeper::JournalKeeper(const Platform& platform, Errors& errors)
-    : store_(platform.journals), calendar_(platform.calendar), errors_(errors) {
+    : store_(platform.journals), calendar_(platform.calendar), drives_(platform.drives), errors_(errors) {
   timer.Interval = kWait;
   timer.Elapsed = [this] { Write(); };
 }
@@ -119,7 +119,9 @@ Outcome<> Journal::WriteWhole() {
   needsWhole_ = true;
   noted_.clear();
   const RichText text = whole_();
-  auto next = keeper_.store_.Begin(HeadRecord(head_()) + TextRecord(text) + TimeRecord(Time()));
+  JournalHead head = head_();
+  head.host = keeper_.drives_.ToHost(head.path);
+  auto next = keeper_.store_.Begin(HeadRecord(head) + TextRecord(text) + TimeRecord(Time()));
   if (!next) {
     Awaken();
     return next.failure();

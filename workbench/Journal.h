@@ -37,6 +37,7 @@ class JournalKeeper {
 
   Journals& store_;
   Calendar& calendar_;
+  DriveFolders& drives_;
   Errors& errors_;
   std::vector<Journal*> journals_;
   std::optional<Failure> failure_;  // of the last writing
@@ -47,7 +48,8 @@ class Journal {
   using Head = std::function<JournalHead()>;
   using Whole = std::function<RichText()>;
 
-  /// What the text is, and the text itself, are asked for whenever the journal is written anew.
+  /// What the text is, and the text itself, are asked for whenever the journal is written anew. The path of
+  /// its file on the host comes from its path.
   Journal(JournalKeeper& keeper, Head head, Whole whole);
   Journal(const Journal&) = delete;
   Journal& operator=(const Journal&) = delete;

@@ -114,6 +114,7 @@ bool TakeHead(Reader& reader, UnsavedText& unsaved) {
   unsaved.head.kind = static_cast<TextKind>(reader.Take<unsigned char>());
   unsaved.head.path = reader.TakeText();
   unsaved.head.name = reader.TakeText();
+  if (!reader.AtEnd()) unsaved.head.host = reader.TakeText();
   return reader.IsSound() && unsaved.head.kind >= TextKind::Joystick && unsaved.head.kind <= TextKind::Logic;
 }
 
@@ -147,6 +148,7 @@ std::string HeadRecord(const JournalHead& head) {
   said += static_cast<char>(head.kind);
   Put(said, head.path);
   Put(said, head.name);
+  Put(said, head.host);
   return Record(RecordKind::Head, said);
 }
 

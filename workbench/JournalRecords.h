@@ -15,8 +15,9 @@ enum class TextKind : unsigned char { Joystick = 1, Macro = 2, Template = 3, Log
 
 struct JournalHead {
   TextKind kind = TextKind::Joystick;
-  std::string path;  ///< of its file, also of one that was never saved
-  std::string name;  ///< by which the user knows it
+  std::string path;    ///< of its file, also of one that was never saved
+  std::string name;    ///< by which the user knows it
+  std::string host{};  ///< the host's path of the file; empty where nobody knew, as in journals of long ago
 };
 
 /// What a journal holds.

@@ -59,10 +59,14 @@ void Recovery::Look() {
   Changed();
 }
 
+/// The text belongs to the file of the host that it was written for, whatever path that has now.
 std::optional<UnsavedText> Recovery::Read(const std::string& journal) const {
   try {
     const auto bytes = store_.Read(journal);
-    return bytes ? ReadJournal(*bytes) : std::nullopt;
+    auto unsaved = bytes ? ReadJournal(*bytes) : std::nullopt;
+    if (unsaved && !unsaved->head.host.empty())
+      unsaved->head.path = documents_.platform.drives.FromHost(unsaved->head.host);
+    return unsaved;
   } catch (const std::bad_alloc&) {
     return {};
   }

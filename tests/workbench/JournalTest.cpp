@@ -12,7 +12,7 @@ namespace {
 
 using ::testing::SizeIs;
 
-const JournalHead kHead{TextKind::Macro, "c:\\my\\a.m50", "a.m50"};
+const JournalHead kHead{TextKind::Macro, "c:\\my\\a.m50", "a.m50", "/opt/tarvik/drive_c/my/a.m50"};
 
 PaneEdit Inserted(std::size_t position, const std::string& text, Colour colour = kBlack) {
   return {position, {}, RichText(text, colour)};
@@ -29,10 +29,24 @@ TEST(JournalRecords, WhatWasWrittenIsRead) {
   EXPECT_EQ(read->head.kind, TextKind::Macro);
   EXPECT_EQ(read->head.path, "c:\\my\\a.m50");
   EXPECT_EQ(read->head.name, "a.m50");
+  EXPECT_EQ(read->head.host, "/opt/tarvik/drive_c/my/a.m50");
   EXPECT_EQ(read->text.text, "Flaps = g h");
   EXPECT_EQ(read->text.colours.At(10), Colour{255});
   EXPECT_EQ(read->written, "later");
   EXPECT_TRUE(read->isWhole);
+}
+
+TEST(JournalRecords, WhatKnewNothingOfTheHostIsReadToo) {
+  const std::string head(
+      "TVJ1\x22\0\0\0\x88\x11\xA4\x23\x10\x49\x66\x82\1\2\x0B\0\0\0\0\0\0\0c:\\my\\a.m50\5\0\0\0\0\0\0\0a."
+      "m50",
+      50);
+  const auto read = ReadJournal(head + TextRecord(RichText("Gear = g")));
+  ASSERT_TRUE(read);
+  EXPECT_TRUE(read->isWhole);
+  EXPECT_EQ(read->head.path, "c:\\my\\a.m50");
+  EXPECT_EQ(read->head.name, "a.m50");
+  EXPECT_EQ(read->head.host, "");
 }
 
 TEST(JournalRecords, ColoursAloneAreAnEdit) {
@@ -190,6 +204,32 @@ TEST(Journal, ASaveThatTheFileDoesNotHoldIsNone) {
   EXPECT_EQ(Kept(bare), "BTN S1");
   ASSERT_NE(bare.workbench.notices.Of(bare.joystick), nullptr);
   EXPECT_EQ(bare.workbench.notices.Of(bare.macro), nullptr);
+}
+
+TEST(Journal, ATextComesBackToTheFileThatItBelongsToWhateverItsPathMeansNow) {
+  BareWorkbench bare;
+  bare.outside.drives.there = {"/opt/tarvik/drive_c", "/mnt/old", "/mnt/new"};
+  DriveFolders& drives = bare.platform.drives;
+  ASSERT_TRUE(drives.Set('d', "/mnt/old"));
+  bare.files.Put("d:\\a.b50", "BTN S1");
+  bare.workbench.files.OpenWithoutDialog("d:\\a.b50");
+  bare.workbench.files.Load(bare.joystick);
+  Type(bare.joystick, "REM ");
+  bare.workbench.journals.Write();
+  BareWorkbench next(&bare.files);
+  next.outside.journals.content = bare.outside.journals.content;
+  next.outside.drives.there = bare.outside.drives.there;
+  ASSERT_TRUE(next.platform.drives.Set('d', "/mnt/new"));
+  ASSERT_TRUE(next.platform.drives.Set('e', "/mnt/old"));
+  next.files.Put("d:\\a.b50", "another");
+  next.files.Put("e:\\a.b50", "BTN S1");
+  next.workbench.recovery.Look();
+  ASSERT_THAT(next.workbench.recovery.Texts(), SizeIs(1));
+  next.workbench.recovery.BringBack(next.workbench.recovery.Texts().front().journal);
+  EXPECT_EQ(next.joystick.Path.Get(), "e:\\a.b50");
+  EXPECT_EQ(next.joystick.text.Characters(), "REM BTN S1");
+  next.workbench.files.Save(next.joystick);
+  EXPECT_EQ(next.files.Content("d:\\a.b50"), "another");
 }
 
 TEST(Journal, NoMoreThanThirtyOldOnesStay) {
