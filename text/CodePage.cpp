@@ -18,19 +18,6 @@ constexpr std::array<char16_t, 32> kUpperControls = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-void AppendUtf8(std::string& out, char32_t c) {
-  if (c < 0x80) {
-    out += static_cast<char>(c);
-  } else if (c < 0x800) {
-    out += static_cast<char>(0xC0 | (c >> 6));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  } else {
-    out += static_cast<char>(0xE0 | (c >> 12));
-    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  }
-}
-
 constexpr char32_t kNoCharacter = 0xFFFD;
 
 /// Takes the next character off the front of `text`; kNoCharacter for a byte that begins none.
@@ -92,6 +79,29 @@ char FromUnicode(char32_t character) {
   if (character < 0x80 || (character >= 0xA0 && character < 0x100)) return static_cast<char>(character);
   const auto found = std::find(kUpperControls.begin(), kUpperControls.end(), character);
   return found == kUpperControls.end() ? '?' : static_cast<char>(0x80 + (found - kUpperControls.begin()));
+}
+
+void AppendUtf8(std::string& out, char32_t c) {
+  const auto follow = [&](int bits) { out += static_cast<char>(0x80 | ((c >> bits) & 0x3F)); };
+  if (c < 0x80) {
+    out += static_cast<char>(c);
+  } else if (c < 0x800) {
+    out += static_cast<char>(0xC0 | (c >> 6));
+    follow(0);
+  } else if (c < 0x10000) {
+    out += static_cast<char>(0xE0 | (c >> 12));
+    follow(6);
+    follow(0);
+  } else {
+    out += static_cast<char>(0xF0 | (c >> 18));
+    for (const int bits : {12, 6, 0}) follow(bits);
+  }
+}
+
+std::size_t LengthOfUtf8(std::string_view text) {
+  if (text.empty()) return 0;
+  std::string_view rest = text;
+  return TakeUtf8(rest) == kNoCharacter && !text.starts_with("\xEF\xBF\xBD") ? 0 : text.size() - rest.size();
 }
 
 std::string ToUtf8(std::string_view text) {

@@ -65,6 +65,9 @@ inline constexpr auto kWord = [] {
 [[nodiscard]] std::string Composed(std::string_view utf8);
 
 [[nodiscard]] std::string ToUtf8(std::string_view text);
+void AppendUtf8(std::string& out, char32_t character);
+/// How many bytes the first character of `text` has in UTF-8, 0 where none begins there.
+[[nodiscard]] std::size_t LengthOfUtf8(std::string_view text);
 
 /// Text that came from Unicode, and how many of its characters the code page lacks: each is a "?" there.
 struct Converted {

@@ -68,15 +68,7 @@ class Places {
   std::vector<Difference> found_;
 };
 
-}  // namespace
-
-std::vector<Difference> DifferencesOf(std::string_view before, std::string_view after) {
-  if (before == after) return {};
-  const Lines old = LinesIn(before);
-  const Lines now = LinesIn(after);
-  if ((old.size() + now.size()) * Lacking(old, now) > kMostWork) {
-    return {{{0, before.size()}, {0, after.size()}, std::max(old.size(), now.size())}};
-  }
+std::vector<Difference> Compared(const Lines& old, const Lines& now) {
   dtl::Diff<std::string_view, Lines> compared(old, now);
   compared.onHuge();
   compared.compose();
@@ -87,6 +79,27 @@ std::vector<Difference> DifferencesOf(std::string_view before, std::string_view 
     if (edit.type == dtl::SES_ADD) places.Come(line);
   }
   return std::move(places).Finish();
+}
+
+}  // namespace
+
+std::vector<Difference> DifferencesOf(std::string_view before, std::string_view after) {
+  if (before == after) return {};
+  const Lines old = LinesIn(before);
+  const Lines now = LinesIn(after);
+  if ((old.size() + now.size()) * Lacking(old, now) > kMostWork) {
+    return {{{0, before.size()}, {0, after.size()}, std::max(old.size(), now.size())}};
+  }
+  return Compared(old, now);
+}
+
+std::vector<Difference> DifferencesByCharacter(std::string_view before, std::string_view after) {
+  const auto characters = [](std::string_view text) {
+    Lines each;
+    for (std::size_t at = 0; at < text.size(); ++at) each.push_back(text.substr(at, 1));
+    return each;
+  };
+  return Compared(characters(before), characters(after));
 }
 
 std::size_t LinesOf(const std::vector<Difference>& differences) {

@@ -22,6 +22,9 @@ struct Difference {
 /// a whole: to look for the few would take too long.
 [[nodiscard]] std::vector<Difference> DifferencesOf(std::string_view before, std::string_view after);
 
+/// The same by single characters, for texts of a few thousand: it costs their length squared.
+[[nodiscard]] std::vector<Difference> DifferencesByCharacter(std::string_view before, std::string_view after);
+
 /// The lines of all of them.
 [[nodiscard]] std::size_t LinesOf(const std::vector<Difference>& differences);
 
