@@ -30,6 +30,8 @@ void PaneInput::Attach(Document& document) {
   pane.LostFocus = [&document] { document.SelLength = document.text.SelLength; };
   pane.Change = [this, &document] { Change(document); };
   connections_.push_back(pane.SelectionChanged.Connect([this, &document] { CaretMoved(document); }));
+  connections_.push_back(
+      pane.CharactersLost.Connect([this](std::size_t characters) { documents_.SayLost(characters); }));
   connections_.push_back(pane.Edited.Connect([this, &document](const PaneEdit& edit) {
     if (!edit.OnlyColours()) CaretMoved(document);
   }));

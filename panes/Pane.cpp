@@ -32,7 +32,11 @@ Pane::Pane(Component& parent, std::string_view name, Files& files)
                                     content_.colours.Slice(selection_));
             return WriteRtf(selected, {{SelFontName.Get(), SelFontSize, SelBold}, SelIndent});
           },
-          [this](const std::string& rtf) { ReplaceSelection(ReadRtf(rtf)); }),
+          [this](const std::string& rtf) {
+            const RtfContent read = ContentOfRtf(rtf);
+            ReplaceSelection(read.text);
+            if (read.lost > 0) CharactersLost(read.lost);
+          }),
       SelColor(
           *this, "SelColor",
           [this] { return selection_.length ? content_.colours.At(selection_.start) : InsertionColour(); },
@@ -105,7 +109,8 @@ void Pane::Replace(Range range, const RichText& content) {
 Outcome<> Pane::LoadFile(std::string_view path) {
   auto bytes = files_.Read(path);
   if (!bytes) return bytes.failure();
-  SetContent(LooksLikeRtf(*bytes) ? ReadRtf(*bytes) : RichText(WithPaneLineBreaks(*bytes)));
+  auto rich = RtfInFile(*bytes);
+  SetContent(rich ? *std::move(rich) : RichText(WithPaneLineBreaks(*bytes)));
   return Done{};
 }
 

@@ -124,6 +124,8 @@ class Pane : public Control {
   /// Every change of the content, after it was made.
   Signal<const PaneEdit&> Edited;
   Signal<> SelectionChanged;
+  /// So many characters came from outside that the code page lacks. Each is a "?" in the text.
+  Signal<std::size_t> CharactersLost;
 
  private:
   [[nodiscard]] std::string Bytes(FileFormat format) const;

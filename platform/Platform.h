@@ -14,6 +14,7 @@
 #include "platform/Outcome.h"
 #include "platform/Printer.h"
 #include "platform/Programs.h"
+#include "text/CodePage.h"
 #include "text/Colour.h"
 
 namespace tarvik {
@@ -79,8 +80,8 @@ class Clipboard {
   /// Replaces what is there; an empty part is left out, and with both empty nothing is there.
   virtual void Put(const std::string& text, const std::string& rtf) = 0;
   [[nodiscard]] virtual bool HasText() = 0;
-  /// The text, empty when there is none. A character that the code page lacks is a "?".
-  [[nodiscard]] virtual std::string Text() = 0;
+  /// The text, empty when there is none.
+  [[nodiscard]] virtual Converted Text() = 0;
   [[nodiscard]] virtual std::string Rtf() = 0;
   /// Called when another program changed what is there.
   std::function<void()> changed;

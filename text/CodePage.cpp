@@ -126,6 +126,15 @@ std::string Composed(std::string_view utf8) {
   return result;
 }
 
+std::optional<char> WithMark(char letter, char32_t mark) {
+  constexpr char32_t kFirstMark = 0x300;
+  if (mark < kFirstMark) return {};
+  std::string both = ToUtf8({&letter, 1});
+  AppendUtf8(both, mark);
+  const Converted made = ConvertedFromUtf8(both);
+  return made.text.size() == 1 && made.lost == 0 ? std::optional(made.text.front()) : std::nullopt;
+}
+
 Converted ConvertedFromUtf8(std::string_view text) {
   const std::string composed = Composed(text);
   Converted converted;

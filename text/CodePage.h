@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -68,6 +69,9 @@ inline constexpr auto kWord = [] {
 void AppendUtf8(std::string& out, char32_t character);
 /// How many bytes the first character of `text` has in UTF-8, 0 where none begins there.
 [[nodiscard]] std::size_t LengthOfUtf8(std::string_view text);
+
+/// The one character that a letter makes with an accent behind it, where the code page has that.
+[[nodiscard]] std::optional<char> WithMark(char letter, char32_t mark);
 
 /// Text that came from Unicode, and how many of its characters the code page lacks: each is a "?" there.
 struct Converted {

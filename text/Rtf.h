@@ -1,6 +1,7 @@
 // Rich Text Format in and out: how panes store, copy and save their coloured text.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,11 +29,22 @@ struct RtfLook {
 /// The text and the colours of an RTF document of any program. Everything else in it is passed over; of a
 /// broken or truncated document, and of bytes that are no RTF at all, it takes what it can, and it never
 /// fails. Every paragraph mark is a line break, the last one too. Line breaks are CR LF, characters that the
-/// code page lacks are
-/// "?", and text without a colour is black.
+/// code page lacks, be
+/// it with an accent of their own, are "?", and text without a colour is black.
 [[nodiscard]] RichText ReadRtf(std::string_view rtf);
 
-/// Whether a file with these contents is to be taken as RTF and not as plain text.
+/// The same, and how many characters the code page lacks.
+struct RtfContent {
+  RichText text;
+  std::size_t lost = 0;
+};
+[[nodiscard]] RtfContent ContentOfRtf(std::string_view rtf);
+
+/// What a file holds that is an RTF document from its first byte to its last; nothing where it is another
+/// one, also one that only begins like RTF.
+[[nodiscard]] std::optional<RichText> RtfInFile(std::string_view bytes);
+
+/// Whether text from another program is to be taken as RTF.
 [[nodiscard]] bool LooksLikeRtf(std::string_view bytes);
 
 }  // namespace tarvik

@@ -15,6 +15,7 @@ namespace {
 using codepage::Byte;
 
 constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr bool IsBlank(char c) { return c == ' ' || c == '\r' || c == '\n' || c == '\t' || c == '\0'; }
 constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 constexpr auto kReadAsIs = [] {
@@ -61,6 +62,11 @@ class Reader {
   }
 
   RichText Read();
+  [[nodiscard]] std::size_t Lost() const { return lost_; }
+  /// The document has ended, and nothing is behind it.
+  [[nodiscard]] bool AtEnd() const {
+    return closed_ && std::all_of(at_, end_, [](char c) { return IsBlank(c); });
+  }
 
  private:
   struct State {
@@ -87,6 +93,7 @@ class Reader {
   void SetColour(Colour colour);
   void FlushRun();
 
+  void TakeCharacter(char32_t character);
   void Character(const Control&, char character) { text_ += character; }
   void LineBreak(const Control&, char) { text_ += "\r\n"; }
   void ColourNumber(const Control& control, char);
@@ -102,6 +109,8 @@ class Reader {
   ColourRuns runs_;
   std::size_t runStart_ = 0;  // from here on the text is of the current colour
   std::size_t afterCr_ = std::string::npos;
+  std::size_t lost_ = 0;
+  bool closed_ = false;
   int toSkip_ = 0;  // what is left of the fallback of the last \u
   State state_;
   std::vector<State> outer_;
@@ -205,6 +214,7 @@ RichText Reader::Read() {
     } else if (c == '{') {
       Open();
     } else if (c == '}' && !Close()) {
+      closed_ = true;
       break;
     }
   }
@@ -334,8 +344,21 @@ void Reader::Unicode(const Control& control, char) {
   const auto character =
       static_cast<char32_t>(control.number < 0 ? control.number + 0x10000 : control.number);
   const bool secondHalf = character >= 0xDC00 && character < 0xE000;  // the "?" is given for the first half
-  if (!secondHalf) TakeByte(FromUnicode(character));
+  if (!secondHalf) TakeCharacter(character);
   toSkip_ = state_.fallback;
+}
+
+/// An accent joins the letter before it.
+void Reader::TakeCharacter(char32_t character) {
+  if (text_.size() > runStart_) {
+    if (const auto joined = WithMark(text_.back(), character)) {
+      text_.back() = *joined;
+      return;
+    }
+  }
+  const char byte = FromUnicode(character);
+  if (byte == '?' && character != '?') ++lost_;
+  TakeByte(byte);
 }
 
 void Reader::Fallback(const Control& control, char) {
@@ -395,11 +418,23 @@ void Reader::ReadColours(const Control&, char) {
 
 }  // namespace
 
-RichText ReadRtf(std::string_view rtf) {
+RtfContent ContentOfRtf(std::string_view rtf) {
   // The one document whose last paragraph mark is no line break: nothing stands before it.
   if (rtf.starts_with(kEmptyRtf)) return {};
-  return Reader(rtf).Read();
+  Reader reader(rtf);
+  RichText text = reader.Read();
+  return {std::move(text), reader.Lost()};
 }
+
+std::optional<RichText> RtfInFile(std::string_view bytes) {
+  if (!LooksLikeRtf(bytes)) return {};
+  Reader reader(bytes);
+  RichText text = reader.Read();
+  if (!reader.AtEnd()) return {};
+  return bytes.starts_with(kEmptyRtf) ? RichText() : std::move(text);
+}
+
+RichText ReadRtf(std::string_view rtf) { return ContentOfRtf(rtf).text; }
 
 bool LooksLikeRtf(std::string_view bytes) { return bytes.starts_with("{\\rtf"); }
 

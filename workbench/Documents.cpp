@@ -28,6 +28,11 @@ void Documents::SayIsProtected(const Document& document) const {
   Say(TabOf(document).Caption.Get() + " is protected and can't be edited.");
 }
 
+void Documents::SayLost(std::size_t characters) const {
+  const std::string many = characters == 1 ? "1 character is" : TextOf(characters) + " characters are";
+  Say(many + " not in the code page of the files, and became \"?\"");
+}
+
 void Documents::ShowLineNumber(const Document& document) { ShowLine(document, document.Caret); }
 
 void Documents::ShowCaretLine() { ShowLine(Active(), Active().text.SelStart); }

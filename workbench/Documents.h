@@ -52,6 +52,8 @@ class Documents : public Component {
   void Say(const std::string& text) const;
   /// Tells the user, who would edit a protected file, that it is one.
   void SayIsProtected(const Document& document) const;
+  /// Tells the user that so many characters became a "?".
+  void SayLost(std::size_t characters) const;
   /// Shows in the status bar which line the document's caret memory is in.
   void ShowLineNumber(const Document& document);
   /// Shows the line of the caret in the document of the selected tab. Its pane announces each move, so that

@@ -15,7 +15,8 @@ Clipping::Clipping(Clipboard& clipboard) : rtf_(clipboard.Rtf()) {
 
 void Clipping::ReplaceSelectionOf(Pane& pane) const {
   if (rtf_.empty()) {
-    pane.SelText = text_;
+    pane.SelText = text_.text;
+    if (text_.lost > 0) pane.CharactersLost(text_.lost);
   } else {
     pane.SelRTF = rtf_;
   }

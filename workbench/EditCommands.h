@@ -14,12 +14,12 @@ void CopySelection(const Pane& pane, Clipboard& clipboard);
 class Clipping {
  public:
   explicit Clipping(Clipboard& clipboard);
-  [[nodiscard]] bool Empty() const { return rtf_.empty() && text_.empty(); }
+  [[nodiscard]] bool Empty() const { return rtf_.empty() && text_.text.empty(); }
   void ReplaceSelectionOf(Pane& pane) const;
 
  private:
   std::string rtf_;
-  std::string text_;
+  Converted text_;
 };
 
 class EditCommands {

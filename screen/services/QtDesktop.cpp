@@ -62,10 +62,7 @@ void QtClipboard::Put(const std::string& text, const std::string& rtf) {
   QGuiApplication::clipboard()->setMimeData(data);
 }
 
-std::string QtClipboard::Text() {
-  const QString text = Content().text();
-  return text.isEmpty() ? std::string() : FromText(text);
-}
+Converted QtClipboard::Text() { return ConvertedFromText(Content().text()); }
 
 std::string QtClipboard::Rtf() { return RtfIn(Content()).toStdString(); }
 

@@ -18,7 +18,7 @@ class QtClipboard : public QObject, public Clipboard {
 
   void Put(const std::string& text, const std::string& rtf) override;
   bool HasText() override { return hasText_; }
-  std::string Text() override;
+  Converted Text() override;
   std::string Rtf() override;
 
  private:

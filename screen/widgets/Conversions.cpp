@@ -32,6 +32,10 @@ bool IsLineEnd(QChar character) {
   return character == u'\n' || character == QChar::ParagraphSeparator || character == QChar::LineSeparator;
 }
 
+QString ComposedText(QStringView text) {
+  return QString::fromStdString(Composed(text.toUtf8().toStdString()));
+}
+
 }  // namespace
 
 QChar ToScreen(char byte) { return QChar(ShownBytes()[static_cast<unsigned char>(byte)]); }
@@ -58,21 +62,26 @@ QString ToScreen(std::string_view text) {
   return shown;
 }
 
-std::string FromScreen(QStringView text) {
-  std::string written;
-  written.reserve(static_cast<std::size_t>(text.size()));
-  for (qsizetype i = 0; i < text.size(); ++i) {
-    if (IsLineEnd(text[i])) {
-      written += "\r\n";
-    } else if (text[i].isHighSurrogate() && i + 1 < text.size() && text[i + 1].isLowSurrogate()) {
-      written += '?';
-      ++i;
-    } else {
-      written += FromScreen(text[i]);
+Converted ConvertedFromScreen(QStringView text) {
+  const QString composed = ComposedText(text);
+  Converted written;
+  written.text.reserve(static_cast<std::size_t>(composed.size()));
+  for (qsizetype i = 0; i < composed.size(); ++i) {
+    const QChar character = composed[i];
+    if (IsLineEnd(character)) {
+      written.text += "\r\n";
+      continue;
     }
+    const bool isPair =
+        character.isHighSurrogate() && i + 1 < composed.size() && composed[i + 1].isLowSurrogate();
+    if (isPair) ++i;
+    written.text += FromScreen(character);
+    if (written.text.back() == '?' && character != u'?') ++written.lost;
   }
   return written;
 }
+
+std::string FromScreen(QStringView text) { return ConvertedFromScreen(text).text; }
 
 QString AsText(std::string_view text) {
   QString shown = ToScreen(text);
@@ -85,10 +94,12 @@ QString AsText(std::string_view text) {
   return shown;
 }
 
-std::string FromText(QString text) {
+Converted ConvertedFromText(QString text) {
   text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
-  return FromScreen(text);
+  return ConvertedFromScreen(text);
 }
+
+std::string FromText(const QString& text) { return ConvertedFromText(text).text; }
 
 QString AsWritten(QStringView text) { return ToScreen(FromText(text.toString())); }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "text/CodePage.h"
 #include "text/RichText.h"
 
 namespace tarvik::screen {
@@ -18,12 +19,15 @@ namespace tarvik::screen {
 
 /// CR LF becomes one line feed.
 [[nodiscard]] QString ToScreen(std::string_view text);
-/// Line and paragraph ends become CR LF; each character that the code page lacks becomes one "?".
+/// Letters and their accents are composed; line and paragraph ends become CR LF; each character that the code
+/// page lacks becomes one "?".
+[[nodiscard]] Converted ConvertedFromScreen(QStringView text);
 [[nodiscard]] std::string FromScreen(QStringView text);
 /// Text for other programs and from them: with the characters themselves, control characters too, and line
 /// feeds.
 [[nodiscard]] QString AsText(std::string_view text);
-[[nodiscard]] std::string FromText(QString text);
+[[nodiscard]] Converted ConvertedFromText(QString text);
+[[nodiscard]] std::string FromText(const QString& text);
 /// The text as it would come back: without what the code page lacks.
 [[nodiscard]] QString AsWritten(QStringView text);
 

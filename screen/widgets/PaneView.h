@@ -7,6 +7,7 @@
 
 #include "panes/Pane.h"
 #include "screen/widgets/Binding.h"
+#include "text/CodePage.h"
 
 namespace tarvik::screen {
 
@@ -61,7 +62,8 @@ class PaneView : public QPlainTextEdit {
   void TakeSelection();
   [[nodiscard]] std::string DocumentText(int from, int to) const;
   [[nodiscard]] Range SelectionOnScreen() const;
-  [[nodiscard]] QString PressKeys(const QString& text);
+  [[nodiscard]] QString PressKeys(std::string_view text);
+  void TellLost(const Converted& taken);
   void MoveSelectionTo(const QPoint& place);
 
   void PaintBlock(QPainter& painter, const QTextBlock& block, const QPointF& offset, int caret) const;

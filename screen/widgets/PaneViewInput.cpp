@@ -51,15 +51,19 @@ bool PaneView::focusNextPrevChild(bool next) {
 }
 
 /// Each character is a key press that the form may change or cancel; what is left comes back.
-QString PaneView::PressKeys(const QString& text) {
+QString PaneView::PressKeys(std::string_view text) {
   QString pressed;
-  for (const char byte : FromScreen(text)) {
+  for (const char byte : text) {
     int character = static_cast<unsigned char>(byte);
     pane_.KeyPress(character);
     if (character == 0) continue;
     pressed += character < 0x20 ? QChar(character) : ToScreen(static_cast<char>(character));
   }
   return pressed;
+}
+
+void PaneView::TellLost(const Converted& taken) {
+  if (taken.lost > 0 && !pane_.Locked) pane_.CharactersLost(taken.lost);
 }
 
 void PaneView::keyPressEvent(QKeyEvent* event) {
@@ -69,8 +73,10 @@ void PaneView::keyPressEvent(QKeyEvent* event) {
   pane_.KeyDown(key);
   if (key.code == 0 || TypesNothing(*event)) return;
   QString text = event->text();
+  Converted typed;
   if (!text.isEmpty() && event->key() != Qt::Key_Delete) {
-    text = PressKeys(text);
+    typed = ConvertedFromScreen(text);
+    text = PressKeys(typed.text);
     if (text.isEmpty()) return;
   }
   if (IsCtrlLetter(*event) && !EditsNatively(event->key())) return;
@@ -78,6 +84,7 @@ void PaneView::keyPressEvent(QKeyEvent* event) {
   QKeyEvent native(QEvent::KeyPress, event->key(), enter ? Qt::NoModifier : event->modifiers(), text,
                    event->isAutoRepeat());
   QPlainTextEdit::keyPressEvent(&native);
+  TellLost(typed);
 }
 
 void PaneView::keyReleaseEvent(QKeyEvent* event) {
@@ -89,20 +96,23 @@ void PaneView::keyReleaseEvent(QKeyEvent* event) {
 
 void PaneView::inputMethodEvent(QInputMethodEvent* event) {
   QInputMethodEvent pressed(event->preeditString(), event->attributes());
+  const Converted typed = ConvertedFromText(event->commitString());
   if (!event->commitString().isEmpty() && !pane_.Locked) {
-    pressed.setCommitString(PressKeys(AsWritten(event->commitString())), event->replacementStart(),
-                            event->replacementLength());
+    pressed.setCommitString(PressKeys(typed.text), event->replacementStart(), event->replacementLength());
   }
   QPlainTextEdit::inputMethodEvent(&pressed);
+  TellLost(typed);
   event->accept();
 }
 
 void PaneView::insertFromMimeData(const QMimeData* data) {
   if (pane_.Locked || !data->hasText()) return;
   QTextCursor cursor = textCursor();
-  cursor.insertText(AsWritten(data->text()));
+  const Converted taken = ConvertedFromText(data->text());
+  cursor.insertText(ToScreen(taken.text));
   setTextCursor(cursor);
   ensureCursorVisible();
+  TellLost(taken);
 }
 
 void PaneView::dropEvent(QDropEvent* event) {

@@ -147,7 +147,7 @@ class HourOfWork : public testing::TestWithParam<unsigned> {
     } else {
       editor.mnuEditCopy_Click();
     }
-    ASSERT_EQ(program.outside.clipboard.Text(), clip_.text);
+    ASSERT_EQ(program.outside.clipboard.Text().text, clip_.text);
     Record();
   }
 

@@ -40,7 +40,7 @@ TEST_F(LogWindow, CopiesThePickedLineByKeyAndAllLinesByItsButton) {
   QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
   EXPECT_EQ(QGuiApplication::clipboard()->text(), "16:00:00 two");
   QTest::mouseClick(&Find<QWidget>(form.cmdCopy), Qt::LeftButton);
-  EXPECT_EQ(outside.clipboard.Text(), "16:00:00 one\r\n16:00:00 two\r\n");
+  EXPECT_EQ(outside.clipboard.Text().text, "16:00:00 one\r\n16:00:00 two\r\n");
 }
 
 TEST_F(LogWindow, ShowsLettersOfTheCodePage) {

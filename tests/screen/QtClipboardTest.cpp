@@ -33,7 +33,7 @@ TEST_F(QtClipboardTest, OtherProgramsGetTextAndRtfUnderTheirOwnTypes) {
   EXPECT_EQ(data.data(QStringLiteral("text/rtf")), "{\\rtf1 x}");
   EXPECT_EQ(data.data(QStringLiteral("application/rtf")), "{\\rtf1 x}");
   EXPECT_TRUE(clipboard.HasText());
-  EXPECT_EQ(clipboard.Text(), "BTN S1\r\n\xC9t\xE9 \x80");
+  EXPECT_EQ(clipboard.Text().text, "BTN S1\r\n\xC9t\xE9 \x80");
   EXPECT_EQ(clipboard.Rtf(), "{\\rtf1 x}");
 }
 
@@ -45,7 +45,7 @@ TEST_F(QtClipboardTest, ControlCharactersGoOutAsThemselves) {
 TEST_F(QtClipboardTest, TextFromOutsideComesInTheCodePageWithItsLineBreaks) {
   desktop.setText(QString::fromUtf8("one\ntwo\r\nthree\rфour 😀 –"));
   EXPECT_TRUE(clipboard.HasText());
-  EXPECT_EQ(clipboard.Text(), "one\r\ntwo\r\nthree\r\n?our ? \x96");
+  EXPECT_EQ(clipboard.Text().text, "one\r\ntwo\r\nthree\r\n?our ? \x96");
   EXPECT_EQ(clipboard.Rtf(), "");
 }
 
@@ -60,7 +60,7 @@ TEST_F(QtClipboardTest, RtfFromOutsideIsTakenUnderAnyOfItsTypes) {
 TEST_F(QtClipboardTest, WhatIsNoTextIsNothingToPaste) {
   desktop.setMimeData(Carrying("image/png", "\x89PNG"));
   EXPECT_FALSE(clipboard.HasText());
-  EXPECT_EQ(clipboard.Text(), "");
+  EXPECT_EQ(clipboard.Text().text, "");
   EXPECT_EQ(clipboard.Rtf(), "");
 }
 

@@ -702,7 +702,7 @@ void Runner::FillClipboard(const Line& line) {
 
 // What is seen.
 
-void Runner::ExpectClipboard(const Line& line) { Compare(Wanted(line, 2), outside_.clipboard.Text()); }
+void Runner::ExpectClipboard(const Line& line) { Compare(Wanted(line, 2), outside_.clipboard.Text().text); }
 
 /// expect help "FILE TOPIC", in the order they were asked for
 void Runner::ExpectHelp(const Line& line) {

@@ -305,6 +305,25 @@ TEST(ReadRtf, AnyDamageLeavesASoundResult) {
   }
 }
 
+TEST(RtfInFile, IsADocumentFromTheFirstByteToTheLast) {
+  for (const char* const rtf : {"{\\rtf1 a}", "{\\rtf1 a}\r\n \t\n", "{\\rtf1 {\\b a}\\}}"})
+    EXPECT_TRUE(RtfInFile(rtf)) << rtf;
+  EXPECT_TRUE(RtfInFile(std::string("{\\rtf1 a}\r\n\0", 12)));
+  EXPECT_EQ(RtfInFile(kEmptyRtf), RichText());
+  for (const char* const none :
+       {"", "a", "{\\rtf1 a", "{\\rtf1 {a}", "{\\rtf1 a}b", "{\\rtf1 a\\}", "{\\rtf", "{\\rtf1 a}}"}) {
+    EXPECT_FALSE(RtfInFile(none)) << none;
+  }
+  EXPECT_FALSE(RtfInFile(std::string(kEmptyRtf) + "BTN S1"));
+}
+
+TEST(ContentOfRtf, CountsWhatTheCodePageLacksAndJoinsAccents) {
+  EXPECT_EQ(ContentOfRtf("{\\rtf1 e\\u769? \\u1092?\\u-10179?\\u-8704? ?}").text.text, "\xE9 ?? ?");
+  EXPECT_EQ(ContentOfRtf("{\\rtf1 e\\u769? \\u1092?\\u-10179?\\u-8704? ?}").lost, 2U);
+  EXPECT_EQ(ContentOfRtf("{\\rtf1 \\u769?k\\u769?}").text.text, "?k?");
+  EXPECT_EQ(ContentOfRtf("{\\rtf1 \\'e9 \\u233?}").lost, 0U);
+}
+
 TEST(LooksLikeRtf, OnlyWhatBeginsAsRtfDoes) {
   EXPECT_TRUE(LooksLikeRtf("{\\rtf1 a}"));
   EXPECT_TRUE(LooksLikeRtf("{\\rtf"));

@@ -133,6 +133,8 @@ void TemplateForm::AttachHandlers() {
         TemplateText_Change();
         journal_.Note(edit);
       }),
+      TemplateText.CharactersLost.Connect(
+          [this](std::size_t characters) { bench_.documents.SayLost(characters); }),
       bench_.ClipboardChanged.Connect([this] { UpdateCopyItems(); }),
       bench_.settings.TextFilePath.Changed.Connect([this] { ShowDefault(); }),
       TemplateName.Changed.Connect([this] { FileOnShow = TemplateName; }),

@@ -57,8 +57,10 @@ class ScriptedClipboard : public Clipboard {
     rtf_ = rtf;
   }
   bool HasText() override { return !text_.empty() || !rtf_.empty(); }
-  std::string Text() override { return text_; }
+  Converted Text() override { return {text_, lost}; }
   std::string Rtf() override { return rtf_; }
+
+  std::size_t lost = 0;  ///< characters of the text that the code page lacks
 
   /// What another program does.
   void PutFromOutside(const std::string& text, const std::string& rtf) {
