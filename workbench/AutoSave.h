@@ -17,8 +17,8 @@ class AutoSave {
   void Restart();
   /// Counts a minute that has passed.
   void CountMinute();
-  /// Writes each modified file, an untitled one too, where its path says. What another program wrote there
-  /// stays, and the document stays modified.
+  /// Writes each modified file, an untitled one too, where its path says. What another program wrote there,
+  /// or in another encoding, stays, and the document stays modified.
   void AutoSaveFile();
 
  private:

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/FileName.h"
+#include "workbench/Origin.h"
 #include "workbench/SeenFile.h"
 #include "workbench/Settings.h"
 #include "workbench/UndoHistory.h"
@@ -73,6 +74,7 @@ class Document : public Component {
   Property<std::size_t> SelLength{*this, traits.selLength};
   UndoHistory Undo{*this, traits.undoIndex, traits.undoStart, text};
   SeenFile seen;  ///< the file at its path, as it was when it was last read or written
+  Origin origin;  ///< what the text does not show of the file that it came from
 
   /// Empties the document, and forgets everything of the file that it was.
   void Reset() {
@@ -88,6 +90,7 @@ class Document : public Component {
     SelLength = 0;
     Undo.Clear();
     seen.Forget();
+    origin = {};
   }
 
   [[nodiscard]] bool IsJoystick() const { return traits.tab == 1; }

@@ -54,6 +54,7 @@ void FileCommands::NameUntitled(Document& document) {
   // No separator stands between the two: nobody saves an untitled file to this path by hand.
   document.Path = documents_.settings.ProgramFilesPath.Get() + document.Name.Get().Text();
   document.seen.Forget();
+  document.origin = {};
   ShowName(document);
 }
 
@@ -201,9 +202,14 @@ void FileCommands::Open(Document& document, const NamedFile& file, const Trap& t
 
 /// What is seen before the pane is filled can only be older than what fills it: a change in between shows.
 FileCommands::Read FileCommands::ReadInto(Document& document, const Trap& trap) {
-  Ignore(document.seen.See(documents_.platform.files, document.Path.Get()));
-  if (copies_.Load(document)) return Read::Coloured;
-  return trap(document.text.LoadFile(document.Path.Get())) ? Read::Plain : Read::Nothing;
+  const auto bytes = Ignore(document.seen.See(documents_.platform.files, document.Path.Get()));
+  const Read read = copies_.Load(document)                              ? Read::Coloured
+                    : trap(document.text.LoadFile(document.Path.Get())) ? Read::Plain
+                                                                        : Read::Nothing;
+  if (read == Read::Nothing) return read;
+  document.origin = bytes ? Origin(*bytes) : Origin();
+  WasRead(document);
+  return read;
 }
 
 void FileCommands::ColourWhatWasRead(Document& document, Read read) {
@@ -405,7 +411,10 @@ void FileCommands::SaveAs(Document& document) {
                                   extension});
   if (!chosen) return;
   // Whoever picks another file that is there has agreed that it goes.
-  if (chosen->path != document.Path.Get()) Ignore(document.seen.See(documents_.platform.files, chosen->path));
+  if (chosen->path != document.Path.Get()) {
+    Ignore(document.seen.See(documents_.platform.files, chosen->path));
+    document.origin.Accept();
+  }
   document.Path = chosen->path;
   document.Name = chosen->name;
   SaveText(document);
@@ -430,12 +439,16 @@ Outcome<> FileCommands::KeepOthersVersion(Document& document) {
 }
 
 Outcome<> FileCommands::WriteText(Document& document, const Pane& text) {
+  const std::string bytes = document.origin.BytesFor(text.Characters());
+  if (!document.origin.MayBecome(bytes)) {
+    return Failure{error::kUnexpected, "It is in " + std::string(document.origin.EncodingName()), 0};
+  }
   if (auto kept = KeepOthersVersion(document); !kept) return kept;
-  auto written = text.SaveFile(document.Path.Get(), FileFormat::Text);
+  auto written = documents_.platform.files.Write(document.Path.Get(), bytes);
   if (!written) return written;
   const auto read = document.seen.See(documents_.platform.files, document.Path.Get());
   if (!read) return read.failure();
-  if (*read == text.Characters()) return written;
+  if (*read == bytes) return written;
   document.seen.Forget();  // it may be another program's
   return Failure{error::kUnexpected, "The file does not hold the text", 0};
 }

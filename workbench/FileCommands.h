@@ -73,6 +73,8 @@ class FileCommands {
 
   /// The document's text is about to go: another file comes in its place, or none.
   Signal<const Document&> Leaves;
+  /// A document's text is what its file holds, from now on.
+  Signal<Document&> WasRead;
   /// A document was written to its path, or could not be.
   Signal<Document&, const Outcome<>&> Written;
   /// What another program wrote to the document's path is a version of it now, in the file of that path.

@@ -4,6 +4,7 @@
 
 #include "workbench/AutoSave.h"
 #include "workbench/EditCommands.h"
+#include "workbench/ForeignEncodings.h"
 #include "workbench/LineBlink.h"
 #include "workbench/LoggedDesktop.h"
 #include "workbench/LoggedPrograms.h"
@@ -43,6 +44,7 @@ class Workbench {
   FileCommands files{documents, copies, highlighter, macros, lists, versions};
   Notices notices;
   ForeignChanges foreign{documents, files, insertion, notices};
+  ForeignEncodings encodings{documents, files, insertion, notices};
   AutoSave autoSave{documents, files, foreign};
   JournalKeeper journals{platform, errors};
   UnsavedWork unsaved{journals, documents, files, notices};

@@ -1,0 +1,71 @@
+#include "workbench/ForeignEncodings.h"
+
+namespace tarvik {
+
+ForeignEncodings::ForeignEncodings(Documents& documents, FileCommands& files, ColouredInsertion& insertion,
+                                   Notices& notices)
+    : documents_(documents),
+      files_(files),
+      insertion_(insertion),
+      notices_(notices),
+      connections_{
+          files.WasRead.Connect([this](Document& document) { WasRead(document); }),
+          files.Leaves.Connect(
+              [this](const Document& document) { notices_.Remove(Matter::OtherEncoding, &document); }),
+          files.Written.Connect(
+              [this](Document& document, const Outcome<>& outcome) { Written(document, outcome); }),
+      } {}
+
+void ForeignEncodings::WasRead(Document& document) {
+  if (!document.origin.IsForeign()) return notices_.Remove(Matter::OtherEncoding, &document);
+  Tell(document, document.Path.Get() + " is in " + std::string(document.origin.EncodingName()) +
+                     ", and shown byte by byte. It is not saved until you have chosen.");
+}
+
+/// Whoever saves the text elsewhere has chosen.
+void ForeignEncodings::Written(Document& document, const Outcome<>& outcome) {
+  if (!document.origin.IsForeign()) return notices_.Remove(Matter::OtherEncoding, &document);
+  if (outcome) return;
+  Tell(document, document.Path.Get() + " was not saved, because it is in " +
+                     std::string(document.origin.EncodingName()) + ". Choose, and then save it once more.");
+}
+
+void ForeignEncodings::Tell(Document& document, const std::string& text) {
+  notices_.Show(Matter::OtherEncoding, &document,
+                {text,
+                 {{"Convert", [this, &document] { Convert(document); }},
+                  {"Keep as it is", [this, &document] { KeepAsItIs(document); }},
+                  {"Save elsewhere ...", [this, &document] { files_.SaveAs(document); }}}});
+}
+
+void ForeignEncodings::Accept(Document& document) {
+  document.origin.Accept();
+  document.seen.Forget();
+  notices_.Remove(Matter::OtherEncoding, &document);
+}
+
+void ForeignEncodings::Convert(Document& document) {
+  if (document.text.Locked) return documents_.SayIsProtected(document);
+  const Converted converted = document.origin.InCodePage(document.text.Characters());
+  documents_.Select(document);
+  insertion_.BeginColInsert();
+  document.text.SetContent(RichText(WithPaneLineBreaks(converted.text)));
+  document.Caret = 0;
+  insertion_.EndColInsert();
+  document.origin = Origin(converted.text);
+  Accept(document);
+  files_.ColourWhatWasRead(document, FileCommands::Read::Plain);
+  documents_.Say(document.Path.Get() + " is converted, and not saved yet");
+  if (converted.lost > 0) document.text.CharactersLost(converted.lost);
+}
+
+/// What a save that was held back has not written is still to be saved.
+void ForeignEncodings::KeepAsItIs(Document& document) {
+  const bool differs = !document.origin.MayBecome(document.origin.BytesFor(document.text.Characters()));
+  Accept(document);
+  if (!differs) return;
+  document.Dirty = saved::kModified;
+  documents_.UpdateSavedIcon();
+}
+
+}  // namespace tarvik
