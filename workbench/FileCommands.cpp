@@ -438,15 +438,15 @@ Outcome<> FileCommands::KeepOthersVersion(Document& document) {
   return kept;
 }
 
-Outcome<> FileCommands::WriteText(Document& document, const Pane& text) {
-  const std::string bytes = document.origin.BytesFor(text.Characters());
+Outcome<> FileCommands::WriteDocument(Document& document, const std::string& bytes) {
+  Files& files = documents_.platform.files;
   if (!document.origin.MayBecome(bytes)) {
     return Failure{error::kUnexpected, "It is in " + std::string(document.origin.EncodingName()), 0};
   }
   if (auto kept = KeepOthersVersion(document); !kept) return kept;
-  auto written = documents_.platform.files.Write(document.Path.Get(), bytes);
+  auto written = files.Write(document.Path.Get(), bytes);
   if (!written) return written;
-  const auto read = document.seen.See(documents_.platform.files, document.Path.Get());
+  const auto read = document.seen.See(files, document.Path.Get());
   if (!read) return read.failure();
   if (*read == bytes) return written;
   document.seen.Forget();  // it may be another program's
@@ -454,25 +454,24 @@ Outcome<> FileCommands::WriteText(Document& document, const Pane& text) {
 }
 
 /// Under the name that the document had until now.
-Outcome<> FileCommands::WriteBackup(const Document& document, const Pane& text) const {
+Outcome<> FileCommands::WriteBackup(const Document& document, const std::string& bytes) const {
   const auto shown = FileName::From(documents_.TabOf(document).Caption.Get());
   if (!shown) return Done{};
   const Folder& backups = documents_.values.BackupDir;
-  return text.SaveCopy(backups / *shown, FileFormat::Text, document.Path.Get());
+  return documents_.platform.files.WriteCopy(backups / *shown, bytes, document.Path.Get());
 }
 
 /// The document comes before its backups and versions: where the disk has room for one of them, it is this.
 void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   const Trap trap{documents_.errors, tag};
-  const Scratch scratch(documents_.scratch);
-  scratch->SetContent(RichText(std::string(document.text.Characters())));
+  const std::string bytes = document.origin.BytesFor(document.text.Characters());
   const auto before = Ignore(documents_.platform.files.Read(document.Path.Get()));
-  const Outcome<> written = WriteText(document, *scratch);
+  const Outcome<> written = WriteDocument(document, bytes);
   trap(written);
   if (documents_.settings.CreateBackup == 1) {
-    trap(WriteBackup(document, *scratch));
+    trap(WriteBackup(document, bytes));
     if (written && before) trap(versions_.Keep(document, *before, Author::User));
-    if (written) trap(versions_.Keep(document, scratch->Characters(), Author::User));
+    if (written) trap(versions_.Keep(document, bytes, Author::User));
   }
   Remember(document);
   documents_.Say(document.Path.Get() + " saved successfully.");

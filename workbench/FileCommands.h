@@ -101,9 +101,9 @@ class FileCommands {
   void Open(Document& document, const NamedFile& file, const Trap& trap);
   void FillPane(Document& document, const Trap& trap);
   void SaveText(Document& document);
-  /// It has succeeded when the file, read again, holds the text.
-  [[nodiscard]] Outcome<> WriteText(Document& document, const Pane& text);
-  Outcome<> WriteBackup(const Document& document, const Pane& text) const;
+  /// It has succeeded when the file, read again, holds the bytes.
+  [[nodiscard]] Outcome<> WriteDocument(Document& document, const std::string& bytes);
+  [[nodiscard]] Outcome<> WriteBackup(const Document& document, const std::string& bytes) const;
   void OpenMacroThenJoystick(const NamedFile& file, const Trap& trap);
   void OpenJoystickThenMacro(const NamedFile& file, const Trap& trap);
   void TellUnrecognised();
