@@ -80,6 +80,12 @@ class HostJournalFile : public JournalFile {
 
   [[nodiscard]] bool IsDurable() const override { return flusher_.IsIdle() && folderFlusher_.IsIdle(); }
 
+  Outcome<> Flush() override {
+    if (fsync(file_.number()) != 0 || !folder_.IsOpen() || fsync(folder_.number()) != 0)
+      return SystemFailure(errno);
+    return Done{};
+  }
+
   void Remove() override { unlink(path_.c_str()); }
 
  private:

@@ -20,6 +20,8 @@ class JournalFile {
   virtual Outcome<> Append(std::string_view bytes) = 0;
   /// True once the disk has all that was appended.
   [[nodiscard]] virtual bool IsDurable() const = 0;
+  /// Returns when the disk has all that was appended: for those who throw away what it stands for.
+  virtual Outcome<> Flush() = 0;
   /// Nobody needs it any more; nothing is appended afterwards.
   virtual void Remove() = 0;
 };

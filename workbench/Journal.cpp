@@ -37,6 +37,10 @@ bool JournalKeeper::Write() {
   return !failure;
 }
 
+bool JournalKeeper::WriteAndFlush() {
+  return Write() && std::ranges::all_of(journals_, [](const Journal* journal) { return journal->Flush(); });
+}
+
 // One.
 
 Journal::Journal(JournalKeeper& keeper, Head head, Whole whole)

@@ -25,6 +25,8 @@ class JournalKeeper {
 
   /// Writes what was noted so far, without waiting for the timer. False where not all of it could be.
   bool Write();
+  /// The same, and has the disk take it at once.
+  bool WriteAndFlush();
 
   /// A journal was left behind: its text is neither saved nor given up.
   Signal<> TextLeft;
@@ -74,6 +76,7 @@ class Journal {
   /// What is noted does not make the text any more, or never did.
   void NeedWhole();
   Outcome<> Write();
+  [[nodiscard]] bool Flush() const { return !file_ || file_->Flush(); }
   Outcome<> Append();
   Outcome<> WriteWhole();
   void RemoveFormer();

@@ -141,7 +141,7 @@ bool Recovery::BringBackInto(Document& document, const UnsavedText& unsaved) {
   return true;
 }
 
-/// The old journal goes only when a new one holds the text.
+/// The old journal goes only when a new one is on the disk and holds the text.
 void Recovery::BringBack(const std::string& journal) {
   const LeftText* const left = Find(journal);
   if (!left) return;
@@ -150,13 +150,20 @@ void Recovery::BringBack(const std::string& journal) {
   if (unsaved.head.kind == TextKind::Joystick) isBack = BringBackInto(documents_.joystick, unsaved);
   if (unsaved.head.kind == TextKind::Macro) isBack = BringBackInto(documents_.macro, unsaved);
   Returns(unsaved, isBack);
-  if (!isBack || !keeper_.Write()) return;
+  if (!isBack || !keeper_.WriteAndFlush()) return;
   documents_.Say(ShownName(unsaved.head) + " is back, and not saved yet");
   ThrowAway(journal);
 }
 
+/// A name of which nobody knows whether it is taken is not free.
+bool Recovery::IsFree(const std::string& path) const {
+  const auto state = documents_.platform.files.State(path);
+  return !state && state.failure().number == error::kFileNotFound;
+}
+
 /// An untitled text goes where the user's files are.
-std::string Recovery::FreeNameBeside(const JournalHead& head) const {
+std::optional<std::string> Recovery::FreeNameBeside(const JournalHead& head) const {
+  constexpr int kMostTries = 1000;
   const std::string& own = documents_.settings.ProgramFilesPath;
   const std::string folder = !IsUntitled(head) ? head.path.substr(0, head.path.rfind('\\') + 1)
                              : own.empty()     ? documents_.platform.folder + "\\"
@@ -167,21 +174,22 @@ std::string Recovery::FreeNameBeside(const JournalHead& head) const {
     return folder + name.substr(0, dot) + "-recovered" + number + name.substr(dot);
   };
   std::string free = numbered({});
-  for (int i = 2; documents_.platform.files.FileExists(free); ++i) free = numbered("-" + TextOf(i));
-  return free;
+  for (int i = 2; i < kMostTries && !IsFree(free); ++i) free = numbered("-" + TextOf(i));
+  return IsFree(free) ? std::optional(free) : std::nullopt;
 }
 
 void Recovery::KeepBoth(const std::string& journal) {
   const LeftText* const left = Find(journal);
   if (!left) return;
   const Trap trap{documents_.errors, "Recovery KeepBoth"};
-  const std::string path = FreeNameBeside(left->unsaved.head);
+  const auto path = FreeNameBeside(left->unsaved.head);
+  if (!path) return documents_.Say("The text can't be written beside its file");
   const Scratch scratch(documents_.scratch);
   scratch->SetContent(left->unsaved.text);
-  if (!trap(scratch->SaveFile(path, IsRich(left->unsaved) ? FileFormat::Rtf : FileFormat::Text))) {
-    return documents_.Say(path + " can't be written");
+  if (!trap(scratch->SaveFile(*path, IsRich(left->unsaved) ? FileFormat::Rtf : FileFormat::Text))) {
+    return documents_.Say(*path + " can't be written");
   }
-  documents_.Say("The text is in " + path);
+  documents_.Say("The text is in " + *path);
   ThrowAway(journal);
 }
 

@@ -52,7 +52,8 @@ class Recovery {
   bool BringBackInto(Document& document, const UnsavedText& unsaved);
   /// False when the user keeps what is there.
   bool Open(Document& document, const JournalHead& head);
-  [[nodiscard]] std::string FreeNameBeside(const JournalHead& head) const;
+  [[nodiscard]] bool IsFree(const std::string& path) const;
+  [[nodiscard]] std::optional<std::string> FreeNameBeside(const JournalHead& head) const;
   [[nodiscard]] const LeftText* Find(const std::string& journal) const;
 
   Documents& documents_;

@@ -232,6 +232,43 @@ TEST(Journal, ATextComesBackToTheFileThatItBelongsToWhateverItsPathMeansNow) {
   EXPECT_EQ(next.files.Content("d:\\a.b50"), "another");
 }
 
+TEST(Journal, ATextThatIsBackIsThrownAwayOnceTheDiskHasItAgain) {
+  BareWorkbench bare;
+  bare.outside.journals.content["journal 1"] =
+      HeadRecord({TextKind::Joystick, "c:\\my\\a.b50", "a.b50"}) + TextRecord(RichText("BTN S1"));
+  bare.outside.journals.cannotFlush = true;
+  bare.workbench.recovery.Look();
+  bare.workbench.recovery.BringBack("journal 1");
+  EXPECT_EQ(bare.joystick.text.Characters(), "BTN S1");
+  EXPECT_TRUE(bare.outside.journals.content.contains("journal 1"));
+  bare.joystick.Dirty = saved::kSaved;
+  bare.outside.journals.cannotFlush = false;
+  bare.workbench.recovery.BringBack("journal 1");
+  EXPECT_FALSE(bare.outside.journals.content.contains("journal 1"));
+}
+
+/// A disk that does not tell what has such a name.
+class SilentOfRecovered : public MemoryFiles {
+ public:
+  Outcome<FileState> State(std::string_view path) const override {
+    if (path.find("-recovered") != path.npos) return Failure{error::kPathAccess, "Input/output error", EIO};
+    return MemoryFiles::State(path);
+  }
+};
+
+TEST(Journal, ATextIsWrittenUnderNoNameThatMayBeTaken) {
+  SilentOfRecovered disk;
+  BareWorkbench bare(&disk);
+  disk.Put("c:\\my\\a.b50", "BTN S1");
+  bare.outside.journals.content["journal 1"] =
+      HeadRecord({TextKind::Joystick, "c:\\my\\a.b50", "a.b50"}) + TextRecord(RichText("BTN S2"));
+  bare.workbench.recovery.Look();
+  const std::vector<std::string> before = disk.List();
+  bare.workbench.recovery.KeepBoth("journal 1");
+  EXPECT_EQ(disk.List(), before);
+  EXPECT_TRUE(bare.outside.journals.content.contains("journal 1"));
+}
+
 TEST(Journal, NoMoreThanThirtyOldOnesStay) {
   BareWorkbench bare;
   for (int i = 0; i < 35; ++i) {

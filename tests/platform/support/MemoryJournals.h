@@ -31,6 +31,7 @@ class MemoryJournals : public Journals {
   /// By name; those that a process writes are among them.
   std::map<std::string, std::string> content;
   bool fails = false;
+  bool cannotFlush = false;
 
  private:
   class File : public JournalFile {
@@ -48,6 +49,10 @@ class MemoryJournals : public Journals {
       return Done{};
     }
     [[nodiscard]] bool IsDurable() const override { return true; }
+    Outcome<> Flush() override {
+      if (journals_.cannotFlush) return Failure{error::kUnexpected, "Input/output error", 0};
+      return Done{};
+    }
     void Remove() override { journals_.content.erase(name_); }
 
    private:
