@@ -1,8 +1,12 @@
 // A library to be preloaded: makes the N-th call of a kind fail, or stops the process at it. Told by the
 // environment:
-//   FAIL_CALL   open (for writing), read, write, fsync, close, rename, fchmod, fchown, mkdir; any: all of
-//   them FAIL_NTH    N, from 1 on; calls on the standard streams do not count FAIL_HOW    an errno; "short":
-//   half of a write is done; "kill": the process dies before the call
+//   FAIL_CALL
+//     open (for writing), look (opening for reading), stat (and lstat, fstat), access, read, write, fsync,
+//     close, rename, unlink, fchmod, fchown, mkdir; any: all of them that write, and read and close
+//   FAIL_NTH
+//     N, from 1 on; calls on the standard streams do not count
+//   FAIL_HOW
+//     an errno; "short": half of a write is done; "kill": the process dies before the call
 // A call that was met is told on the standard error. A failing close has closed all the same.
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -32,7 +36,8 @@ Function* Real(const char* name) {
 bool IsMet(std::string_view call) {
   static int calls = 0;
   const std::string_view wanted = Variable("FAIL_CALL");
-  if (wanted != call && wanted != "any") return false;
+  const bool looksOnly = call == "look" || call == "stat" || call == "access";
+  if (wanted != call && (wanted != "any" || looksOnly)) return false;
   if (++calls != atoi(Variable("FAIL_NTH").data())) return false;
   Real<ssize_t(int, const void*, size_t)>("write")(2, "met\n", 4);
   if (Variable("FAIL_HOW") == "kill") raise(SIGKILL);
@@ -53,7 +58,8 @@ int open(const char* path, int flags, ...) {
   va_start(list, flags);
   const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(list, mode_t) : 0;
   va_end(list);
-  if ((flags & O_ACCMODE) != O_RDONLY && IsMet("open")) return Fail();
+  const bool reads = (flags & O_ACCMODE) == O_RDONLY;
+  if (IsMet(reads ? "look" : "open")) return Fail();
   return Real<int(const char*, int, ...)>("open")(path, flags, mode);
 }
 
@@ -74,6 +80,26 @@ int close(int file) {
   const bool met = file > STDERR_FILENO && IsMet("close");
   const int result = Real<int(int)>("close")(file);
   return met ? Fail() : result;
+}
+
+int stat(const char* path, struct stat* status) noexcept {
+  return IsMet("stat") ? Fail() : Real<int(const char*, struct stat*)>("stat")(path, status);
+}
+
+int lstat(const char* path, struct stat* status) noexcept {
+  return IsMet("stat") ? Fail() : Real<int(const char*, struct stat*)>("lstat")(path, status);
+}
+
+int fstat(int file, struct stat* status) noexcept {
+  return file > STDERR_FILENO && IsMet("stat") ? Fail() : Real<int(int, struct stat*)>("fstat")(file, status);
+}
+
+int access(const char* path, int how) noexcept {
+  return IsMet("access") ? Fail() : Real<int(const char*, int)>("access")(path, how);
+}
+
+int unlink(const char* path) noexcept {
+  return IsMet("unlink") ? Fail() : Real<int(const char*)>("unlink")(path);
 }
 
 int fsync(int file) { return IsMet("fsync") ? Fail() : Real<int(int)>("fsync")(file); }
