@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "Bytes.h"
 #include "support/LiteralReplaceAll.h"
 #include "support/MemoryFiles.h"
 #include "text/CodePage.h"
@@ -21,19 +22,6 @@ struct Model {
     const auto at = colours.begin() + static_cast<std::ptrdiff_t>(start);
     colours.insert(colours.erase(at, at + static_cast<std::ptrdiff_t>(length)), with.size(), colour);
   }
-};
-
-/// Hands out the fuzzer's bytes as numbers.
-class Bytes {
- public:
-  Bytes(const unsigned char* data, std::size_t size) : data_(data), size_(size) {}
-  [[nodiscard]] bool Empty() const { return at_ >= size_; }
-  std::size_t Below(std::size_t limit) { return Empty() || limit == 0 ? 0 : data_[at_++] % limit; }
-
- private:
-  const unsigned char* data_;
-  std::size_t size_;
-  std::size_t at_ = 0;
 };
 
 struct Fixture final : Form {

@@ -1,35 +1,21 @@
 // A user who does anything: bytes become keys, clicks on menu entries and buttons, picks, drops and passing
 // time, over the whole program: the editor, and every tool that is open, with the editor and without it.
-// After each of them both panes and their histories are sound.
+// The disk runs full and has room again. After each of them both panes and their histories are sound, and a
+// document that counts as saved is what its file holds, unless a notice says otherwise.
 #include <algorithm>
 #include <cstdlib>
 
+#include "Bytes.h"
 #include "app/Program.h"
 #include "session/Driver.h"
 #include "support/SoundDocument.h"
 #include "support/UserFiles.h"
 #include "text/CodePage.h"
+#include "text/Rtf.h"
 
 namespace {
 
 using namespace tarvik;
-
-/// Hands out the fuzzer's bytes as numbers.
-class Bytes {
- public:
-  Bytes(const unsigned char* data, std::size_t size) : data_(data), size_(size) {}
-  [[nodiscard]] bool Empty() const { return at_ >= size_; }
-  std::size_t Below(std::size_t limit) { return Empty() || limit == 0 ? 0 : data_[at_++] % limit; }
-  template <class T, std::size_t N>
-  const T& OneOf(const T (&items)[N]) {
-    return items[Below(N)];
-  }
-
- private:
-  const unsigned char* data_;
-  std::size_t size_;
-  std::size_t at_ = 0;
-};
 
 /// Colours and fonts are numbers; all other answers come from the queues.
 class FuzzDialogs : public session::ScriptedDialogs {
@@ -81,11 +67,30 @@ class User {
     }
     dialogs_.boxes.clear();
     dialogs_.requests.clear();
+    if (bytes_.Below(32) == 31) ChangeTheDisk();
     RequireSound(application_.editor().Joystick);
     RequireSound(application_.editor().Macro);
+    RequireSaved(application_.editor().Joystick);
+    RequireSaved(application_.editor().Macro);
   }
 
  private:
+  void ChangeTheDisk() {
+    const std::size_t room = bytes_.Below(256);
+    if (room > 200) return program_.files().StopFailing();
+    program_.files().FailAfter(room);
+  }
+
+  /// What another program or the other document wrote to its path is none of its own.
+  void RequireSaved(Document& document) {
+    if (document.Dirty != saved::kSaved || document.IsUntitled()) return;
+    if (application_.workbench.notices.Of(document)) return;
+    if (document.seen.Look(program_.files(), document.Path.Get()) != OnDisk::AsSeen) return;
+    const std::string inFile = program_.files().Content(document.Path.Get()).value_or("");
+    if (LooksLikeRtf(inFile) || WithPaneLineBreaks(inFile) == document.text.Characters()) return;
+    std::abort();
+  }
+
   void UseEditor() {
     Editor& editor = application_.editor();
     Pane& pane = bytes_.Below(2) ? editor.MacroText : editor.JoystickText;
