@@ -119,7 +119,9 @@ Outcome<std::string> QtDialogs::AskForFile(const FileRequest& request) {
   dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setNameFilters(NameFilters(request.filter));
   if (save) KeepSuffix(dialog, ToScreen(request.defaultExtension));
-  if (!request.fileName.empty()) dialog.selectFile(ToScreen(request.fileName));
+  // What is offered has a path on the drives, which on the host would be a strange name.
+  const auto offered = drives_.ToHostNew(request.fileName);
+  if (offered) dialog.selectFile(QFile::decodeName(offered->c_str()));
   return OnDrives(Run(dialog));
 }
 

@@ -125,6 +125,26 @@ TEST_F(QtDialogsTest, ANameWithoutAnEndingGetsThatOfTheTypeThatIsChosen) {
   }
 }
 
+TEST_F(QtDialogsTest, AFileThatIsOfferedIsTheFileOfThatPath) {
+  const TemporaryFolder temporary;
+  temporary.Put("tm/Flight.b50", "");
+  temporary.Put("tm/\u2603.b50", "");
+  drives = Drives{{{'c', temporary.path()}}};
+  const std::string snow = drives.FromHost(temporary.path() / "tm/\u2603.b50");
+  for (const std::string& path : {std::string("c:\\tm\\flight.b50"), std::string("c:\\tm\\new.b50"), snow}) {
+    QString offered;
+    Once<QFileDialog>([&offered](QFileDialog& dialog) {
+      offered = dialog.findChild<QLineEdit*>("fileNameEdit")->text();
+      static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+    });
+    const auto chosen =
+        dialogs.AskForFile({FileDialogKind::Save, {}, "All files (*.*)|*.*", "c:\\", path, {}});
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(*chosen, path);
+    EXPECT_FALSE(offered.contains(u'\\')) << offered.toStdString();
+  }
+}
+
 /// A mnemonic that leads nowhere would become part of a file's name.
 TEST_F(QtDialogsTest, ALetterWithAltTypesNothing) {
   QString typed;
