@@ -16,6 +16,12 @@ constexpr const char* kHostFiles = "HostFiles";
 constexpr char kMark = '|';
 constexpr std::size_t kHostBuffer = 5000;
 
+/// The path as it stands before what is known of its file.
+std::string Marked(std::string path) {
+  path += kMark;
+  return path;
+}
+
 /// A path of the host that the settings file can hold.
 bool CanBeStored(const std::string& host) { return host.find_first_of("\r\n") == std::string::npos; }
 
@@ -60,7 +66,7 @@ RecentList::Field RecentList::ReadField(const Profile& profile, std::size_t part
   Field read{profile.GetString(traits_.section, name, "", key.buffer), {}};
   if (key.kind != PartKind::File) return read;
   const std::string known = profile.GetString(kHostFiles, name, "", kHostBuffer);
-  const std::string path = read.text + kMark;
+  const std::string path = Marked(read.text);
   if (known.starts_with(path)) read.host = known.substr(path.size());
   return read;
 }
@@ -93,6 +99,10 @@ void RecentList::Use() {
     record.push_back({text, traits_.keys[part].kind == PartKind::File ? drives_.Hold(text) : ""});
   }
   const auto sameName = [&record](const Record& each) { return IsSame(each, record); };
+  for (Record& other : records_) {
+    Field& former = other.front();  // another file that had the path stands under the one it has now
+    if (former.text == record.front().text && !sameName(other)) former.text = Now(former);
+  }
   auto replaced = records_.end();
   if (!records_.empty() && sameName(records_.front())) {
     replaced = records_.begin();
@@ -138,7 +148,7 @@ void RecentList::AddEntries(std::vector<ProfileEntry>& entries, std::size_t reco
     const std::string key = KeyOf(part, record);
     entries.push_back({std::string(traits_.section), key, Protected(text)});
     if (!host.empty() && CanBeStored(host))
-      entries.push_back({kHostFiles, key, Protected(text + kMark + host)});
+      entries.push_back({kHostFiles, key, Protected(Marked(text) + host)});
   }
 }
 
