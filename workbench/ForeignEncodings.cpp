@@ -46,13 +46,12 @@ void ForeignEncodings::Accept(Document& document) {
 
 void ForeignEncodings::Convert(Document& document) {
   if (document.text.Locked) return documents_.SayIsProtected(document);
-  const Converted converted = document.origin.InCodePage(document.text.Characters());
+  const Converted converted = document.origin.Convert(document.text.Characters());
   documents_.Select(document);
   insertion_.BeginColInsert();
-  document.text.SetContent(RichText(WithPaneLineBreaks(converted.text)));
+  document.text.SetContent(RichText(converted.text));
   document.Caret = 0;
   insertion_.EndColInsert();
-  document.origin = Origin(converted.text);
   Accept(document);
   files_.ColourWhatWasRead(document, FileCommands::Read::Plain);
   documents_.Say(document.Path.Get() + " is converted, and not saved yet");
