@@ -82,6 +82,8 @@ float Layout::PlaceNotice() {
   NoticeBar& notice = controls_.notice;
   if (!notice.frame.Visible) return top;
   notice.frame.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, notice.Height());
+  // With another width it may need another height, and has said so while it was moved.
+  notice.frame.Height = notice.Height();
   return top + notice.Height();
 }
 
