@@ -24,7 +24,7 @@ TEST_F(NoticeViewTest, TheTextBeginsBelowItHoweverWideTheWindowBecomes) {
   application.workbench.notices.Show(Matter::NotKept, &joystick,
                                      {"Something is to be told.", {{"Do it", [] {}}}});
   QApplication::processEvents();
-  const auto& bar = Find<NoticeView>(application.editor()->notice.frame);
+  const auto& bar = Find<NoticeView>(application.editor().notice.frame);
   const auto& text = Find<PaneView>(joystick.text);
   for (const int width : {1200, 500, 1300, 640, 1100}) {
     Resize(width);

@@ -44,6 +44,18 @@ TEST(FileCommands, AFileThatFailsWhileItIsOpenedIsNotOverwrittenWithTheFormerTex
   EXPECT_EQ(joystick.text.Text.Get(), "more ");
 }
 
+TEST(FileCommands, AFileThatIsSavedAsItWasHasOneVersionWhateverItsLinesEndWith) {
+  for (const char* const bytes : {"BTN S1\r\n", "BTN S1\nBTN S2\n", "BTN S1\rBTN S2\n"}) {
+    MemoryFiles files;
+    files.Put("c:\\my\\a.b50", bytes);
+    BareWorkbench bare(&files);
+    bare.workbench.files.OpenFavourite("c:\\my\\a.b50");
+    bare.workbench.files.Save(bare.joystick);
+    EXPECT_EQ(files.Content("c:\\my\\a.b50"), bytes);
+    EXPECT_EQ(bare.workbench.versions.Of(bare.joystick).size(), 1U);
+  }
+}
+
 /// A disk of which the failing file takes more memory than there is, from the second reading on.
 class EndlessFiles : public FailingFiles {
  public:
