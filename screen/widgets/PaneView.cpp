@@ -50,6 +50,7 @@ PaneView::PaneView(Pane& pane, Bindings& bindings, QWidget* parent) : QPlainText
   viewport()->setAttribute(Qt::WA_NoMousePropagation);
   ShowAll();
   BindLook(bindings);
+  ShowSelection();
   ListenToPane(bindings);
   ListenToUser();
 }

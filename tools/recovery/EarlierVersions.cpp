@@ -40,6 +40,7 @@ void EarlierVersions::FillList() {
 std::string EarlierVersions::Describe(const Version& version) const {
   const auto state = bench_.platform.files.State(bench_.versions.PathOf(bench_.documents.Active(), version));
   std::string line = version.saved;
+  std::ranges::replace(line, '.', ':');  // which stand in its file's name for colons
   if (state) line += ", " + TextOf(state->size) + (state->size == 1 ? " byte" : " bytes");
   if (version.author == Author::OtherProgram) line += ", by another program";
   return line;
