@@ -1,20 +1,14 @@
 // Any bytes on the clipboard, as text and as RTF, pasted over any selection and copied again: the document
 // stays sound, what was copied is what was selected, and each paste is one step of undo.
-#include <algorithm>
 #include <cstdlib>
 
-#include "Bytes.h"
+#include "Selecting.h"
 #include "support/BareWorkbench.h"
 #include "support/SoundDocument.h"
 
 namespace {
 
 using namespace tarvik;
-
-void Select(Pane& pane, Bytes& bytes) {
-  const std::size_t start = bytes.Below(pane.Characters().size() + 1);
-  pane.Select({start, bytes.Below(pane.Characters().size() - start + 1)});
-}
 
 void CheckCopy(BareWorkbench& bench) {
   const Pane& pane = bench.joystick.text;
@@ -31,10 +25,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   Pane& pane = bench.joystick.text;
   while (!bytes.Empty()) {
     const std::string before(pane.Characters());
-    const std::string text = bytes.Next(bytes.Below(32));
+    const std::string text = WithPaneLineBreaks(bytes.Next(bytes.Below(32)));
     const std::string rtf = bytes.Below(2) == 0 ? "" : "{\\rtf1\\ansi " + bytes.Next(bytes.Below(128));
     bench.outside.clipboard.PutFromOutside(text, rtf);
-    Select(pane, bytes);
+    SelectSome(pane, bytes);
     bench.workbench.edit.Paste();
     RequireSound(bench.joystick);
     CheckCopy(bench);

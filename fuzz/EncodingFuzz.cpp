@@ -1,5 +1,6 @@
 // Takes arbitrary bytes for a file and for what its text has become: line ends come back, and every encoding
 // gives some text.
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 
@@ -9,6 +10,8 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tarvik;
+  constexpr std::size_t kFew = 512;  // whose comparison takes no time
+  size = std::min(size, kFew);
   const std::string_view all(reinterpret_cast<const char*>(data), size);
   const std::size_t half = size == 0 ? 0 : data[0] * size / 256;
   const std::string_view file = all.substr(0, half);

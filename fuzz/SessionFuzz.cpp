@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "Bytes.h"
+#include "Selecting.h"
 #include "app/Program.h"
 #include "session/Driver.h"
 #include "support/SoundDocument.h"
@@ -114,7 +114,7 @@ class User {
         UseList(pane);
         break;
       case 6:
-        Select(pane);
+        SelectSome(pane, bytes_);
         break;
       case 7:
         for (Timer* timer : {&editor.Timer1, &editor.TimerBlinkLine}) {
@@ -175,19 +175,6 @@ class User {
     if (entry.item->Name() != "mnuFileExit") driver_->Click(*entry.item);
   }
 
-  /// Nobody can click between the two characters of a line break.
-  static std::size_t Place(const Pane& pane, std::size_t at) {
-    const std::string_view text = pane.Characters();
-    const bool inBreak = at > 0 && at < text.size() && text[at - 1] == '\r' && text[at] == '\n';
-    return inBreak ? at - 1 : at;
-  }
-
-  void Select(Pane& pane) {
-    const std::size_t start = Place(pane, bytes_.Below(256));
-    const std::size_t end = Place(pane, start + bytes_.Below(8));
-    pane.Select({start, end - start});
-  }
-
   void UseList(Pane& pane) {
     Editor& editor = application_.editor();
     const int category = static_cast<int>(bytes_.Below(4));
@@ -203,7 +190,7 @@ class User {
         driver_->RightClick(list);
         break;
       default:
-        driver_->Drop(list, pane, Place(pane, bytes_.Below(256)));
+        driver_->Drop(list, pane, CaretPlace(pane, bytes_.Below(256)));
     }
   }
 
