@@ -1,0 +1,191 @@
+#include <algorithm>
+
+#include "app/Editor.h"
+#include "session/RunnerParts.h"
+#include "text/CodePage.h"
+
+namespace tarvik::session {
+
+// Before the start.
+
+void Runner::File(const Line& line) { files_.Put(Word(line, 1), FileContent(line)); }
+
+/// repeat PATH COUNT [open]: the indented lines that many times over, each % in them the number of the time;
+/// where the file is open all in one line.
+void Runner::Repeat(const Line& line) {
+  const bool open = line.words.back() == "open";
+  std::string content;
+  for (int time = 1; time <= Number(line, 2); ++time) {
+    for (const std::string& text : line.block) {
+      for (const char c : text) content += c == '%' ? TextOf(time) : std::string(1, c);
+      if (!open) content += "\r\n";
+    }
+  }
+  files_.Put(Word(line, 1), content);
+}
+
+void Runner::Bytes(const Line& line) { files_.Put(Word(line, 1), FromHex(line.words, 2)); }
+void Runner::Folder(const Line& line) { files_.PutFolder(Word(line, 1)); }
+void Runner::ReadOnly(const Line& line) { files_.SetReadOnly(Word(line, 1)); }
+void Runner::Unreadable(const Line& line) { files_.SetUnreadable(Word(line, 1)); }
+void Runner::Remove(const Line& line) { files_.Remove(Word(line, 1)); }
+
+void Runner::Ini(const Line& line) {
+  ProfileFile profile(files_, std::string(kFolder) + "\\tarvik.ini");
+  if (!profile.Write(Word(line, 1), Word(line, 2), Word(line, 3)))
+    throw Stop{"the settings file can't be written"};
+}
+
+/// without FirstTimeUsed|ShowTips: the settings file says nothing of it.
+void Runner::LeaveOut(const Line& line) { defaults_.erase(Word(line, 1)); }
+
+void Runner::DiskRoom(const Line& line) {
+  if (Word(line, 1) == "enough") return files_.StopFailing();
+  files_.FailAfter(static_cast<std::size_t>(std::stoul(Word(line, 1))));
+}
+
+/// The choice in the printer's set-up is a name, "cancel" or "fails".
+void Runner::SetPrinter(const Line& line) {
+  const std::string& what = Word(line, 1);
+  const auto number = [&] { return std::stoul(Word(line, 2)); };
+  if (what == "none") {
+    outside_.printer.callsLeft = 0;
+  } else if (what == "gone") {
+    outside_.printer.callsLeft = number();
+  } else if (what == "lines") {
+    outside_.printer.linesPerPage = number();
+  } else {
+    outside_.printer.choice = Word(line, 2);
+  }
+}
+
+/// A stick that is named in any way but "none" is there.
+void Runner::SetJoystick(const Line& line) {
+  ScriptedJoystick& stick = outside_.joystick;
+  const std::string& what = Word(line, 1);
+  stick.isThere = what != "none";
+  if (what == "unplugged") stick.error = joystick::kUnplugged;
+  if (what == "plugged") stick.error = 0;
+}
+
+/// What it has beside x and y.
+void Runner::SetJoystickAxes(const Line& line) {
+  const std::string& axes = Word(line, 2);
+  outside_.joystick.isThere = true;
+  outside_.joystick.caps = {axes.find('z') != std::string::npos, axes == "r" || axes == "zr"};
+}
+
+/// Where its axes are, which buttons are down as a mask, and what reading it gives.
+void Runner::MoveJoystick(const Line& line) {
+  ScriptedJoystick& stick = outside_.joystick;
+  stick.isThere = true;
+  const std::map<std::string, std::function<void(int)>> parts = {
+      {"error", [&](int number) { stick.error = number; }},
+      {"x", [&](int number) { stick.info.x = number; }},
+      {"y", [&](int number) { stick.info.y = number; }},
+      {"z", [&](int number) { stick.info.z = number; }},
+      {"r", [&](int number) { stick.info.r = number; }},
+      {"buttons", [&](int mask) { stick.info.buttons = static_cast<unsigned>(mask); }},
+  };
+  for (std::size_t i = 1; i + 1 < line.words.size(); i += 2) parts.at(line.words[i])(Number(line, i + 1));
+}
+
+/// lock caps|num NUMBER|unknown
+void Runner::SetLock(const Line& line) {
+  const int code = Word(line, 1) == "caps" ? kCapsLock : kNumLock;
+  outside_.keyboard.locks.erase(code);
+  if (Word(line, 2) != "unknown") outside_.keyboard.locks[code] = Number(line, 2);
+}
+
+/// program runs: the next one that is waited for does not end by itself; ends|abandoned: what becomes of it;
+/// fails NUMBER: the next one does not start.
+void Runner::SetProgram(const Line& line) {
+  const std::map<std::string, ProgramState> states = {
+      {"runs", ProgramState::Running}, {"ends", ProgramState::Ended}, {"abandoned", ProgramState::Abandoned}};
+  ScriptedPrograms& programs = outside_.programs;
+  programs_.push_back(&line);
+  const auto state = states.find(Word(line, 1));
+  if (state != states.end()) {
+    programs.state = state->second;
+  } else {
+    programs.fails = Number(line, 2);
+  }
+}
+
+/// sysinfo none
+void Runner::SetSystemInformation(const Line& line) {
+  outside_.desktop.tellsAboutTheMachine = Word(line, 1) != "none";
+}
+
+/// hostfolder PATH: a folder of the host, which a drive can stand for
+void Runner::HostFolder(const Line& line) { outside_.drives.there.insert(ToUtf8(Word(line, 1))); }
+
+// The process.
+
+void Runner::Start(const Line& line) {
+  const std::string commandLine = line.words.size() > 1 ? line.words[1] : "";
+  if (application_) {
+    // A second process beside the first.
+    Platform second = outside_.Process(files_, commandLine);
+    Application(second).Start();
+    return;
+  }
+  StartProgram(commandLine);
+}
+
+/// The settings file says what the runner has for it, unless it says something of its own.
+void Runner::StartProgram(const std::string& commandLine) {
+  ProfileFile profile(files_, std::string(kFolder) + "\\tarvik.ini");
+  for (const auto& [key, value] : defaults_) {
+    if (profile.GetString("FileLocations", key, "", 2).empty())
+      Ignore(profile.Write("FileLocations", key, value));
+  }
+  platform_ = std::make_unique<Platform>(outside_.Process(files_, commandLine));
+  application_ = std::make_unique<Application>(*platform_);
+  driver_ = makeDriver_(*application_);
+  formLoaded_ = application_->Loaded.Connect([this](Form& form) {
+    poppedUp_.push_back(form.PopUp.Connect([this](std::string_view name) { popUp_ = name; }));
+  });
+  application_->Start();
+}
+
+void Runner::Close(const Line& line) { driver_->Close(*FindAs<Form>(Word(line, 1))); }
+
+/// Nothing can die in the middle of one of its own handlers, which go on when this returns.
+void Runner::Killed(const Line&) {
+  if (depth_ > 1) throw Stop{"it can't be killed while a modal form, a box or a dialog is open"};
+  elapsed_.clear();
+  driver_.reset();
+  application_.reset();
+  outside_.instance.held = false;
+}
+
+void Runner::Wait(const Line& line) {
+  const std::string& time = Word(line, 1);
+  int left = std::stoi(time) * (time.ends_with("ms") ? 1 : 1000);
+  while (application_) {
+    std::vector<Timer*> running;
+    int next = left;
+    for (const Form* form : application_->Forms()) {
+      for (Component* child : form->Children()) {
+        auto* timer = dynamic_cast<Timer*>(child);
+        if (!timer || !timer->Enabled || timer->Interval <= 0) continue;
+        running.push_back(timer);
+        next = std::min(next, timer->Interval - elapsed_[timer]);
+      }
+    }
+    std::erase_if(elapsed_, [&](const auto& each) {
+      return std::find(running.begin(), running.end(), each.first) == running.end();
+    });
+    left -= next;
+    for (Timer* timer : running) elapsed_[timer] += next;
+    for (Timer* timer : running) {
+      if (elapsed_[timer] < timer->Interval) continue;
+      elapsed_[timer] = 0;
+      timer->Elapsed();
+    }
+    if (left == 0) return;
+  }
+}
+
+}  // namespace tarvik::session
