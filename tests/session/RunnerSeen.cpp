@@ -1,3 +1,4 @@
+// The runner: what is seen.
 #include <algorithm>
 
 #include "session/RunnerParts.h"

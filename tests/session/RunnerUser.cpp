@@ -1,3 +1,5 @@
+// The runner: what the user does.
+#include <algorithm>
 
 #include "app/Editor.h"
 #include "session/RunnerParts.h"

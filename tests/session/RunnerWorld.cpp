@@ -1,3 +1,4 @@
+// The runner: the world before the start, and the process.
 #include <algorithm>
 
 #include "app/Editor.h"
