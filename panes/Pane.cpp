@@ -109,8 +109,7 @@ void Pane::Replace(Range range, const RichText& content) {
 Outcome<> Pane::LoadFile(std::string_view path) {
   auto bytes = files_.Read(path);
   if (!bytes) return bytes.failure();
-  auto rich = RtfInFile(*bytes);
-  SetContent(rich ? *std::move(rich) : RichText(WithPaneLineBreaks(*bytes)));
+  SetContent(ShownOfFile(*bytes));
   return Done{};
 }
 

@@ -13,16 +13,27 @@ constexpr std::string_view kMarkUtf8 = "\xEF\xBB\xBF";
 constexpr std::string_view kMarkLittle = "\xFF\xFE";
 constexpr std::string_view kMarkBig = "\xFE\xFF";
 
-constexpr bool IsAscii(char c) { return Byte(c) < 0x80; }
+/// How many sequences of UTF-8 there are, and how many bytes of 0x80 and above belong to none.
+struct BytesBeyondAscii {
+  std::size_t sequences = 0;
+  std::size_t stray = 0;
+};
 
-bool IsUtf8BeyondAscii(std::string_view bytes) {
-  if (std::ranges::all_of(bytes, IsAscii)) return false;
+BytesBeyondAscii BeyondAscii(std::string_view bytes) {
+  BytesBeyondAscii found;
   while (!bytes.empty()) {
     const std::size_t length = LengthOfUtf8(bytes);
-    if (length == 0) return false;
-    bytes.remove_prefix(length);
+    if (length > 1) ++found.sequences;
+    if (length == 0) ++found.stray;
+    bytes.remove_prefix(std::max<std::size_t>(length, 1));
   }
-  return true;
+  return found;
+}
+
+/// One damaged byte among many characters is no other encoding.
+bool IsUtf8BeyondAscii(std::string_view bytes) {
+  const BytesBeyondAscii found = BeyondAscii(bytes);
+  return found.sequences > 2 * found.stray;
 }
 
 /// Of the bytes from `first` on, every second one.
@@ -32,16 +43,24 @@ std::size_t NulsAmong(std::string_view bytes, std::size_t first) {
   return count;
 }
 
-/// Text may have a few characters beyond Latin, the high bytes of which are not NUL.
+bool IsControl(unsigned low) { return low < ' ' && low != '\t' && low != '\r' && low != '\n'; }
+
+/// Whether no character of what may be UTF-16 is a control character; `high` is where their higher bytes are.
+bool HasNoControls(std::string_view bytes, std::size_t high) {
+  for (std::size_t at = 0; at < bytes.size(); at += 2) {
+    if (bytes[at + high] == '\0' && IsControl(Byte(bytes[at + 1 - high]))) return false;
+  }
+  return true;
+}
+
+/// The blanks, line ends and figures of any script have a NUL, which no text of the code page has.
 Encoding Utf16WithoutMark(std::string_view bytes) {
   constexpr std::size_t kFewest = 4;
-  const std::size_t characters = bytes.size() / 2;
   if (bytes.size() % 2 != 0 || bytes.size() < kFewest) return Encoding::CodePage;
   const std::size_t even = NulsAmong(bytes, 0);
   const std::size_t odd = NulsAmong(bytes, 1);
-  const auto mostOf = [&](std::size_t nuls) { return nuls * 10 >= characters * 9; };
-  if (even == 0 && mostOf(odd)) return Encoding::Utf16Little;
-  if (odd == 0 && mostOf(even)) return Encoding::Utf16Big;
+  if (even == 0 && odd > 0 && HasNoControls(bytes, 1)) return Encoding::Utf16Little;
+  if (odd == 0 && even > 0 && HasNoControls(bytes, 0)) return Encoding::Utf16Big;
   return Encoding::CodePage;
 }
 
@@ -167,6 +186,15 @@ Encoding EncodingOf(std::string_view bytes) {
   if (bytes.starts_with(kMarkBig)) return Encoding::Utf16Big;
   if (bytes.starts_with(kMarkUtf8) || IsUtf8BeyondAscii(bytes)) return Encoding::Utf8;
   return Utf16WithoutMark(bytes);
+}
+
+bool IsStillIn(Encoding encoding, std::string_view text) {
+  if (encoding == Encoding::CodePage) return false;
+  if (encoding == Encoding::Utf8) {
+    const BytesBeyondAscii found = BeyondAscii(text);
+    return text.starts_with(kMarkUtf8) || found.sequences > found.stray;
+  }
+  return text.starts_with(kMarkLittle) || text.starts_with(kMarkBig) || text.find('\0') != text.npos;
 }
 
 std::string_view NameOf(Encoding encoding) {

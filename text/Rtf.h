@@ -43,6 +43,8 @@ struct RtfContent {
 /// What a file holds that is an RTF document from its first byte to its last; nothing where it is another
 /// one, also one that only begins like RTF.
 [[nodiscard]] std::optional<RichText> RtfInFile(std::string_view bytes);
+/// What a pane shows of a file with these contents: RTF as RTF, anything else as plain text in black.
+[[nodiscard]] RichText ShownOfFile(std::string_view bytes);
 
 /// Whether text from another program is to be taken as RTF.
 [[nodiscard]] bool LooksLikeRtf(std::string_view bytes);

@@ -434,6 +434,11 @@ std::optional<RichText> RtfInFile(std::string_view bytes) {
   return bytes.starts_with(kEmptyRtf) ? RichText() : std::move(text);
 }
 
+RichText ShownOfFile(std::string_view bytes) {
+  auto rich = RtfInFile(bytes);
+  return rich ? *std::move(rich) : RichText(WithPaneLineBreaks(bytes));
+}
+
 RichText ReadRtf(std::string_view rtf) { return ContentOfRtf(rtf).text; }
 
 bool LooksLikeRtf(std::string_view bytes) { return bytes.starts_with("{\\rtf"); }

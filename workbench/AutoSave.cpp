@@ -25,7 +25,7 @@ void AutoSave::CountMinute() {
 
 void AutoSave::AutoSaveFile() {
   for (Document* document : {&documents_.joystick, &documents_.macro}) {
-    if (document->Dirty != saved::kModified || document->origin.IsForeign()) continue;
+    if (document->Dirty != saved::kModified || document->IsForeign()) continue;
     if (foreign_.HasChanged(*document)) continue;
     // The history stays as it is, whatever is set for a save by hand.
     files_.WriteToDisk(*document, "ED_AutoSaveFile");

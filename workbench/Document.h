@@ -93,6 +93,8 @@ class Document : public Component {
     origin = {};
   }
 
+  /// Its text is in another encoding, and the user has not chosen yet.
+  [[nodiscard]] bool IsForeign() const { return origin.IsForeign(text.Characters()); }
   [[nodiscard]] bool IsJoystick() const { return traits.tab == 1; }
   [[nodiscard]] bool IsUntitled() const { return Name.Get().Text().starts_with("untitled"); }
 };

@@ -440,7 +440,7 @@ Outcome<> FileCommands::KeepOthersVersion(Document& document) {
 
 Outcome<> FileCommands::WriteDocument(Document& document, const std::string& bytes) {
   Files& files = documents_.platform.files;
-  if (!document.origin.MayBecome(bytes)) {
+  if (!document.origin.MayBeWritten(document.text.Characters())) {
     return Failure{error::kUnexpected, "It is in " + std::string(document.origin.EncodingName()), 0};
   }
   if (auto kept = KeepOthersVersion(document); !kept) return kept;
@@ -461,6 +461,14 @@ Outcome<> FileCommands::WriteBackup(const Document& document, const std::string&
   return documents_.platform.files.WriteCopy(backups / *shown, bytes, document.Path.Get());
 }
 
+void FileCommands::KeepVersions(Document& document, const std::optional<std::string>& before,
+                                const std::string& now, const Trap& trap) {
+  auto kept = before ? versions_.Keep(document, *before, Author::User) : Outcome<>(Done{});
+  if (kept) kept = versions_.Keep(document, now, Author::User);
+  trap(kept);
+  VersionsKept(document, kept);
+}
+
 /// The document comes before its backups and versions: where the disk has room for one of them, it is this.
 void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   const Trap trap{documents_.errors, tag};
@@ -470,8 +478,7 @@ void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   trap(written);
   if (documents_.settings.CreateBackup == 1) {
     trap(WriteBackup(document, bytes));
-    if (written && before) trap(versions_.Keep(document, *before, Author::User));
-    if (written) trap(versions_.Keep(document, bytes, Author::User));
+    if (written) KeepVersions(document, before, bytes, trap);
   }
   Remember(document);
   documents_.Say(document.Path.Get() + " saved successfully.");

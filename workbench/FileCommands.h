@@ -79,6 +79,8 @@ class FileCommands {
   Signal<Document&, const Outcome<>&> Written;
   /// What another program wrote to the document's path is a version of it now, in the file of that path.
   Signal<Document&, const std::string&> KeptOthers;
+  /// What was saved is a version of the document, or could not become one.
+  Signal<const Document&, const Outcome<>&> VersionsKept;
   /// The macro lists are about to be made anew and want to be seen.
   Signal<> ShowsMacros;
   /// The settings of the files do not fit what the user opens, and who can change them is to be asked for.
@@ -103,6 +105,8 @@ class FileCommands {
   void SaveText(Document& document);
   /// It has succeeded when the file, read again, holds the bytes.
   [[nodiscard]] Outcome<> WriteDocument(Document& document, const std::string& bytes);
+  void KeepVersions(Document& document, const std::optional<std::string>& before, const std::string& now,
+                    const Trap& trap);
   [[nodiscard]] Outcome<> WriteBackup(const Document& document, const std::string& bytes) const;
   void OpenMacroThenJoystick(const NamedFile& file, const Trap& trap);
   void OpenJoystickThenMacro(const NamedFile& file, const Trap& trap);

@@ -1,6 +1,9 @@
 #include "workbench/ForeignChanges.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "text/Rtf.h"
 
 namespace tarvik {
 
@@ -12,11 +15,14 @@ ForeignChanges::ForeignChanges(Documents& documents, FileCommands& files, Colour
       notices_(notices),
       connections_{
           files.Leaves.Connect([this](const Document& document) {
-            for (const Matter matter : {Matter::FileChanged, Matter::VersionKept})
+            for (const Matter matter : {Matter::FileChanged, Matter::VersionKept, Matter::NoVersion})
               notices_.Remove(matter, &document);
           }),
           files.Written.Connect([this](const Document& document, const Outcome<>& outcome) {
             if (outcome) notices_.Remove(Matter::FileChanged, &document);
+          }),
+          files.VersionsKept.Connect([this](const Document& document, const Outcome<>& outcome) {
+            TellOfVersions(document, outcome);
           }),
           files.KeptOthers.Connect(
               [this](Document& document, const std::string& kept) { TellOfKept(document, kept); }),
@@ -59,25 +65,38 @@ void ForeignChanges::TellOfKept(Document& document, const std::string& kept) {
         {"Close", [this, &document] { notices_.Remove(Matter::VersionKept, &document); }}}});
 }
 
+/// The file itself is saved.
+void ForeignChanges::TellOfVersions(const Document& document, const Outcome<>& outcome) {
+  if (outcome) return notices_.Remove(Matter::NoVersion, &document);
+  notices_.Show(
+      Matter::NoVersion, &document,
+      {"No earlier version of " + document.Path.Get() + " can be kept: " + outcome.failure().text + ".",
+       {{"Close", [this, &document] { notices_.Remove(Matter::NoVersion, &document); }}}});
+}
+
 void ForeignChanges::Compare(const Document& document, const std::string& path) {
   const Trap trap{documents_.errors, "ForeignChanges Compare"};
   const auto bytes = trap(documents_.platform.files.Read(path));
   if (!bytes) return documents_.Say(path + " can't be opened");
-  WantsComparison({path, WithPaneLineBreaks(*bytes), std::string(document.text.Characters())});
+  WantsComparison({path, ShownOfFile(*bytes).text, std::string(document.text.Characters())});
 }
 
 /// A document that was modified stays so: undo can bring back what is saved nowhere, and changes no state.
 void ForeignChanges::Reload(Document& document) {
+  if (document.text.Locked) return documents_.SayIsProtected(document);
   const Trap trap{documents_.errors, "ForeignChanges Reload"};
   const std::size_t caret = document.Caret;
   const bool wasModified = document.Dirty == saved::kModified;
   documents_.Select(document);
+  const Origin before = document.origin;
+  std::string textBefore(document.text.Characters());
   insertion_.BeginColInsert();
   const FileCommands::Read read = files_.ReadInto(document, trap);
   document.Caret = std::min(caret, document.text.Characters().size());
   document.text.SelStart = document.Caret;
   insertion_.EndColInsert();
   if (read == FileCommands::Read::Nothing) return documents_.Say(document.Path.Get() + " can't be opened");
+  document.origin.Follow(before, std::move(textBefore), std::string(document.text.Characters()));
   notices_.Remove(Matter::FileChanged, &document);
   files_.ColourWhatWasRead(document, read);
   if (wasModified) return;

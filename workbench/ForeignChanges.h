@@ -36,6 +36,7 @@ class ForeignChanges {
   void Compare(const Document& document, const std::string& path);
   void TellOfChange(Document& document);
   void TellOfLoss(Document& document);
+  void TellOfVersions(const Document& document, const Outcome<>& outcome);
   void TellOfKept(Document& document, const std::string& kept);
 
   Documents& documents_;

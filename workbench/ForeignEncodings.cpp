@@ -1,5 +1,7 @@
 #include "workbench/ForeignEncodings.h"
 
+#include <utility>
+
 namespace tarvik {
 
 ForeignEncodings::ForeignEncodings(Documents& documents, FileCommands& files, ColouredInsertion& insertion,
@@ -9,23 +11,34 @@ ForeignEncodings::ForeignEncodings(Documents& documents, FileCommands& files, Co
       insertion_(insertion),
       notices_(notices),
       connections_{
-          files.WasRead.Connect([this](Document& document) { WasRead(document); }),
-          files.Leaves.Connect(
-              [this](const Document& document) { notices_.Remove(Matter::OtherEncoding, &document); }),
+          files.WasRead.Connect([this](Document& document) { LookAt(document); }),
+          files.Leaves.Connect([this](const Document& document) {
+            told_.erase(&document);
+            notices_.Remove(Matter::OtherEncoding, &document);
+          }),
+          documents.joystick.text.Edited.Connect([this](const PaneEdit&) { WasEdited(documents_.joystick); }),
+          documents.macro.text.Edited.Connect([this](const PaneEdit&) { WasEdited(documents_.macro); }),
           files.Written.Connect(
               [this](Document& document, const Outcome<>& outcome) { Written(document, outcome); }),
       } {}
 
-void ForeignEncodings::WasRead(Document& document) {
-  if (!document.origin.IsForeign()) return notices_.Remove(Matter::OtherEncoding, &document);
+void ForeignEncodings::LookAt(Document& document) {
+  const bool wasTold = std::exchange(told_[&document], document.IsForeign());
+  if (!told_[&document]) return notices_.Remove(Matter::OtherEncoding, &document);
+  if (wasTold) return;
   Tell(document, document.Path.Get() + " is in " + std::string(document.origin.EncodingName()) +
                      ", and shown byte by byte. It is not saved until you have chosen.");
 }
 
+/// Undo takes a conversion back, and a text that is brought back may be converted.
+void ForeignEncodings::WasEdited(Document& document) {
+  if (document.origin.HasOtherEncoding()) LookAt(document);
+}
+
 /// Whoever saves the text elsewhere has chosen.
 void ForeignEncodings::Written(Document& document, const Outcome<>& outcome) {
-  if (!document.origin.IsForeign()) return notices_.Remove(Matter::OtherEncoding, &document);
-  if (outcome) return;
+  LookAt(document);
+  if (outcome || !document.IsForeign()) return;
   Tell(document, document.Path.Get() + " was not saved, because it is in " +
                      std::string(document.origin.EncodingName()) + ". Choose, and then save it once more.");
 }
@@ -38,21 +51,14 @@ void ForeignEncodings::Tell(Document& document, const std::string& text) {
                   {"Save elsewhere ...", [this, &document] { files_.SaveAs(document); }}}});
 }
 
-void ForeignEncodings::Accept(Document& document) {
-  document.origin.Accept();
-  document.seen.Forget();
-  notices_.Remove(Matter::OtherEncoding, &document);
-}
-
 void ForeignEncodings::Convert(Document& document) {
   if (document.text.Locked) return documents_.SayIsProtected(document);
-  const Converted converted = document.origin.Convert(document.text.Characters());
+  const Converted converted = document.origin.InCodePage(document.text.Characters());
   documents_.Select(document);
   insertion_.BeginColInsert();
   document.text.SetContent(RichText(converted.text));
   document.Caret = 0;
   insertion_.EndColInsert();
-  Accept(document);
   files_.ColourWhatWasRead(document, FileCommands::Read::Plain);
   documents_.Say(document.Path.Get() + " is converted, and not saved yet");
   if (converted.lost > 0) document.text.CharactersLost(converted.lost);
@@ -60,8 +66,9 @@ void ForeignEncodings::Convert(Document& document) {
 
 /// What a save that was held back has not written is still to be saved.
 void ForeignEncodings::KeepAsItIs(Document& document) {
-  const bool differs = !document.origin.MayBecome(document.origin.BytesFor(document.text.Characters()));
-  Accept(document);
+  const bool differs = !document.origin.MayBeWritten(document.text.Characters());
+  document.origin.Accept();
+  LookAt(document);
   if (!differs) return;
   document.Dirty = saved::kModified;
   documents_.UpdateSavedIcon();

@@ -2,6 +2,8 @@
 // text is to be converted. Until then nothing takes the file's place.
 #pragma once
 
+#include <map>
+
 #include "workbench/ColouredInsertion.h"
 #include "workbench/FileCommands.h"
 #include "workbench/Notices.h"
@@ -18,16 +20,16 @@ class ForeignEncodings {
   void KeepAsItIs(Document& document);
 
  private:
-  void WasRead(Document& document);
+  void LookAt(Document& document);
+  void WasEdited(Document& document);
   void Written(Document& document, const Outcome<>& outcome);
   void Tell(Document& document, const std::string& text);
-  /// What is in the file now goes into the backups before it is written over.
-  void Accept(Document& document);
 
   Documents& documents_;
   FileCommands& files_;
   ColouredInsertion& insertion_;
   Notices& notices_;
+  std::map<const Document*, bool> told_;  // whether the document was foreign when it was last looked at
   std::vector<Connection> connections_;
 };
 

@@ -1,6 +1,7 @@
 #include "workbench/Recovery.h"
 
 #include <algorithm>
+#include <iterator>
 #include <new>
 
 #include "text/CodePage.h"
@@ -50,7 +51,7 @@ void Recovery::Look() {
       store_.Remove(names[i]);
     } else if (auto unsaved = Read(names[i])) {
       texts_.push_back({names[i], *std::move(unsaved)});
-      if (!IsInItsFile(texts_.back())) continue;
+      if (!IsInItsFile(texts_.back()) && !IsThereTwice()) continue;
       texts_.pop_back();
       store_.Remove(names[i]);
     }
@@ -76,6 +77,15 @@ bool Recovery::IsInItsFile(const LeftText& left) const {
   if (!documents_.platform.files.FileExists(left.unsaved.head.path)) return false;
   const RichText now = InFile(left);
   return IsRich(left.unsaved) ? now == left.unsaved.text : now.text == left.unsaved.text.text;
+}
+
+/// A journal and the one that took its place may both be left, with the same text.
+bool Recovery::IsThereTwice() const {
+  const UnsavedText& last = texts_.back().unsaved;
+  return std::any_of(texts_.begin(), std::prev(texts_.end()), [&last](const LeftText& left) {
+    const UnsavedText& other = left.unsaved;
+    return other.head.kind == last.head.kind && other.head.path == last.head.path && other.text == last.text;
+  });
 }
 
 void Recovery::Tell() {
@@ -104,7 +114,7 @@ RichText Recovery::InFile(const LeftText& left) const {
   if (left.unsaved.head.kind == TextKind::Logic) return {};  // they were to go into that file
   const auto bytes = Ignore(documents_.platform.files.Read(left.unsaved.head.path));
   if (!bytes) return {};
-  return IsRich(left.unsaved) ? ReadRtf(*bytes) : RichText(WithPaneLineBreaks(*bytes));
+  return ShownOfFile(*bytes);
 }
 
 std::string Recovery::Describe(const LeftText& left) const {
@@ -178,15 +188,28 @@ std::optional<std::string> Recovery::FreeNameBeside(const JournalHead& head) con
   return IsFree(free) ? std::optional(free) : std::nullopt;
 }
 
+/// As it would be written into its own file, and open to nobody whom that is not open to.
+Outcome<> Recovery::WriteBeside(const UnsavedText& unsaved, const std::string& path) const {
+  Files& files = documents_.platform.files;
+  const Scratch scratch(documents_.scratch);
+  scratch->SetContent(unsaved.text);
+  if (IsRich(unsaved)) return scratch->SaveCopy(path, FileFormat::Rtf, unsaved.head.path);
+  const auto own = Ignore(files.Read(unsaved.head.path));
+  const std::string bytes = (own ? Origin(*own) : Origin()).BytesFor(unsaved.text.text);
+  if (auto written = files.WriteCopy(path, bytes, unsaved.head.path); !written) return written;
+  const auto read = files.Read(path);
+  if (!read) return read.failure();
+  if (*read != bytes) return Failure{error::kUnexpected, "The file does not hold the text", 0};
+  return Done{};
+}
+
 void Recovery::KeepBoth(const std::string& journal) {
   const LeftText* const left = Find(journal);
   if (!left) return;
   const Trap trap{documents_.errors, "Recovery KeepBoth"};
   const auto path = FreeNameBeside(left->unsaved.head);
   if (!path) return documents_.Say("The text can't be written beside its file");
-  const Scratch scratch(documents_.scratch);
-  scratch->SetContent(left->unsaved.text);
-  if (!trap(scratch->SaveFile(*path, IsRich(left->unsaved) ? FileFormat::Rtf : FileFormat::Text))) {
+  if (!trap(WriteBeside(left->unsaved, *path))) {
     return documents_.Say(*path + " can't be written");
   }
   documents_.Say("The text is in " + *path);

@@ -48,10 +48,12 @@ class Recovery {
  private:
   [[nodiscard]] std::optional<UnsavedText> Read(const std::string& journal) const;
   [[nodiscard]] bool IsInItsFile(const LeftText& left) const;
+  [[nodiscard]] bool IsThereTwice() const;
   void Tell();
   bool BringBackInto(Document& document, const UnsavedText& unsaved);
   /// False when the user keeps what is there.
   bool Open(Document& document, const JournalHead& head);
+  [[nodiscard]] Outcome<> WriteBeside(const UnsavedText& unsaved, const std::string& path) const;
   [[nodiscard]] bool IsFree(const std::string& path) const;
   [[nodiscard]] std::optional<std::string> FreeNameBeside(const JournalHead& head) const;
   [[nodiscard]] const LeftText* Find(const std::string& journal) const;

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <chrono>
 
+#include "text/Encoding.h"
+#include "text/Rtf.h"
 #include "workbench/SeenFile.h"
 
 namespace tarvik {
@@ -14,6 +16,7 @@ namespace {
 constexpr std::size_t kDigits = 6;
 constexpr std::size_t kStampLength = 19;
 constexpr std::string_view kOther = " other";
+constexpr std::size_t kMostOfName = 60;
 
 std::optional<std::size_t> NumberIn(std::string_view digits) {
   std::size_t number = 0;
@@ -37,11 +40,15 @@ std::int64_t SecondOf(std::string_view stamp) {
   return seconds.count();
 }
 
+/// As much of a name as leaves room for what is put beside it: no file system takes more than 255 bytes, and
+/// a character of the code page can have three there.
+std::string Cut(std::string_view name) { return std::string(name.substr(0, kMostOfName)); }
+
 std::string NameOf(std::size_t number, const std::string& stamp, Author author, const std::string& document) {
-  const std::string digits = TextOf(number);
+  const std::string digits = tarvik::TextOf(number);
   std::string name = std::string(kDigits - std::min(kDigits, digits.size()), '0') + digits + " " + stamp;
   if (author == Author::OtherProgram) name += kOther;
-  return name + document.substr(std::min(document.rfind('.'), document.size()));
+  return name + Cut(document.substr(std::min(document.rfind('.'), document.size())));
 }
 
 /// Nothing for a file that somebody else put there.
@@ -74,8 +81,8 @@ std::size_t MissedLeast(std::span<const std::int64_t> saved, std::int64_t now) {
 Folder Versions::FolderOf(const Document& document) const {
   const std::string host = documents_.platform.drives.ToHost(document.Path);
   const std::string& path = host.empty() ? document.Path.Get() : host;
-  return Folder(documents_.values.BackupDir.Get().Path() + "versions\\" + document.Name.Get().Text() + "-" +
-                MarkOf(path) + "\\");
+  return Folder(documents_.values.BackupDir.Get().Path() + "versions\\" + Cut(document.Name.Get().Text()) +
+                "-" + MarkOf(path) + "\\");
 }
 
 std::string Versions::PathOf(const Document& document, const Version& version) const {
@@ -89,6 +96,14 @@ std::vector<Version> Versions::Of(const Document& document) const {
   }
   std::ranges::sort(versions, std::greater(), &Version::number);
   return versions;
+}
+
+Outcome<std::string> Versions::TextOf(const Document& document, const Version& version) const {
+  auto bytes = documents_.platform.files.Read(PathOf(document, version));
+  if (!bytes) return bytes;
+  const Encoding encoding = EncodingOf(*bytes);
+  return ShownOfFile(encoding == Encoding::CodePage ? *bytes : InCodePage(*bytes, *bytes, encoding).text)
+      .text;
 }
 
 Outcome<> Versions::Keep(const Document& document, std::string_view text, Author author) const {
@@ -115,8 +130,9 @@ Outcome<> Versions::Keep(const Document& document, std::string_view text, Author
 void Versions::Thin(const Document& document) const {
   std::vector<Version> versions = Of(document);
   std::ranges::reverse(versions);
-  std::vector<std::int64_t> saved;
-  for (const Version& version : versions) saved.push_back(SecondOf(version.saved));
+  std::vector<std::int64_t> saved(versions.size());
+  std::ranges::transform(versions, saved.begin(),
+                         [](const Version& version) { return SecondOf(version.saved); });
   while (versions.size() > kMost) {
     const auto least = static_cast<std::ptrdiff_t>(MissedLeast(saved, saved.back()));
     Ignore(documents_.platform.files.Delete(PathOf(document, *(versions.begin() + least))));

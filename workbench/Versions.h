@@ -29,6 +29,8 @@ class Versions {
   Outcome<> Keep(const Document& document, std::string_view text, Author author) const;
   /// The newest first.
   [[nodiscard]] std::vector<Version> Of(const Document& document) const;
+  /// As a pane shows it, taken out of whatever encoding it is in.
+  [[nodiscard]] Outcome<std::string> TextOf(const Document& document, const Version& version) const;
   [[nodiscard]] std::string PathOf(const Document& document, const Version& version) const;
 
  private:

@@ -36,7 +36,8 @@ TEST(EncodingOf, EveryOtherByteTellsUtf16) {
   EXPECT_EQ(EncodingOf(Little(u"BTN S1 Fire\r\n")), Encoding::Utf16Little);
   EXPECT_EQ(EncodingOf(Big(u"BTN S1 Fire\r\n")), Encoding::Utf16Big);
   EXPECT_EQ(EncodingOf(Little(u"BTN S1 \u20AC Fire and more\r\n")), Encoding::Utf16Little);
-  for (const std::string& other : {"B\0"s, "B\0T"s, "B\0T\0N"s, "\0\0\0\0"s, "BTN\0\0\0"s, "a\0bcd\0"s})
+  EXPECT_EQ(EncodingOf(Little(u"REM \u0442\u0435\u0441\u0442\r\n")), Encoding::Utf16Little);
+  for (const std::string& other : {"B\0"s, "B\0T"s, "B\0T\0N"s, "\0\0\0\0"s, "BTN\0\0\0"s, "a\0\1\0"s})
     EXPECT_EQ(EncodingOf(other), Encoding::CodePage) << testing::PrintToString(other);
 }
 
@@ -44,6 +45,16 @@ TEST(EncodingOf, CharactersBeyondAsciiTellUtf8) {
   EXPECT_EQ(EncodingOf("Fl\xC3\xBCge"), Encoding::Utf8);
   EXPECT_EQ(EncodingOf("\xF0\x9F\x98\x80"), Encoding::Utf8);
   EXPECT_EQ(EncodingOf("\xEF\xBF\xBD"), Encoding::Utf8);
+  EXPECT_EQ(EncodingOf("\xC3\xA9\xC3\xA9\xE2\x82\xAC \xFF"), Encoding::Utf8) << "one byte is damaged";
+}
+
+TEST(IsStillIn, ATextThatWasConvertedIsNoMore) {
+  const std::string utf16 = Little(u"\uFEFFB\u00E9\r\nC");
+  EXPECT_TRUE(IsStillIn(Encoding::Utf16Little, utf16 + "x"));
+  EXPECT_FALSE(IsStillIn(Encoding::Utf16Little, InCodePage(utf16, utf16, Encoding::Utf16Little).text));
+  EXPECT_TRUE(IsStillIn(Encoding::Utf8, "\xC3\xA9\xC3\xA9 and \xE9"));
+  EXPECT_FALSE(IsStillIn(Encoding::Utf8, "\xE9 and e"));
+  EXPECT_FALSE(IsStillIn(Encoding::CodePage, utf16));
 }
 
 TEST(EncodingOf, FilesOfTheCodePageAreWhatTheyAre) {

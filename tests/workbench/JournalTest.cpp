@@ -247,6 +247,26 @@ TEST(Journal, ATextThatIsBackIsThrownAwayOnceTheDiskHasItAgain) {
   EXPECT_FALSE(bare.outside.journals.content.contains("journal 1"));
 }
 
+class CopiesNoted : public MemoryFiles {
+ public:
+  Outcome<> WriteCopy(std::string_view path, std::string_view content, std::string_view of) override {
+    copies.push_back(std::string(path) + " of " + std::string(of));
+    return MemoryFiles::WriteCopy(path, content, of);
+  }
+  std::vector<std::string> copies;
+};
+
+TEST(Journal, ATextThatIsKeptBesideItsFileIsNoMoreOpenThanThat) {
+  CopiesNoted disk;
+  BareWorkbench bare(&disk);
+  disk.Put("c:\\my\\a.b50", "BTN S1");
+  bare.outside.journals.content["journal 1"] =
+      HeadRecord({TextKind::Joystick, "c:\\my\\a.b50", "a.b50"}) + TextRecord(RichText("BTN S2"));
+  bare.workbench.recovery.Look();
+  bare.workbench.recovery.KeepBoth("journal 1");
+  EXPECT_THAT(disk.copies, testing::ElementsAre("c:\\my\\a-recovered.b50 of c:\\my\\a.b50"));
+}
+
 /// A disk that does not tell what has such a name.
 class SilentOfRecovered : public MemoryFiles {
  public:
@@ -281,6 +301,18 @@ TEST(Journal, NoMoreThanThirtyOldOnesStay) {
   EXPECT_EQ(bare.workbench.recovery.Texts().front().unsaved.head.name, "34");
   EXPECT_EQ(bare.workbench.recovery.Texts().back().unsaved.head.name, "5");
   EXPECT_THAT(bare.outside.journals.content, SizeIs(30));
+}
+
+TEST(Journal, OneTextIsOfferedOnce) {
+  BareWorkbench bare;
+  for (const char* const text : {"x", "x", "y"}) {
+    const JournalHead head{TextKind::Joystick, "c:\\a.b50", "a.b50"};
+    bare.outside.journals.content["journal " + TextOf(bare.outside.journals.content.size())] =
+        HeadRecord(head) + TextRecord(RichText(text));
+  }
+  bare.workbench.recovery.Look();
+  EXPECT_THAT(bare.workbench.recovery.Texts(), SizeIs(2));
+  EXPECT_THAT(bare.outside.journals.content, SizeIs(2));
 }
 
 TEST(Journal, ADamagedOneGivesWhatIsWholeAndSaysSo) {

@@ -103,6 +103,14 @@ TEST_F(VersionsTest, WhatSomebodyPutsAmongThemIsNone) {
   EXPECT_THAT(Texts(), ElementsAre("second", "first"));
 }
 
+TEST_F(VersionsTest, ALongNameLeavesRoomForWhatIsPutBesideIt) {
+  Open("c:\\my\\" + std::string(200, 'a') + "." + std::string(45, 'b'));
+  Save("second");
+  const std::string path = versions.PathOf(bench.joystick, versions.Of(bench.joystick).front());
+  EXPECT_LT(path.size(), 200U);
+  EXPECT_THAT(Texts(), ElementsAre("second", "first"));
+}
+
 TEST(MissedLeast, TheOldOnesThinOutFirst) {
   constexpr std::int64_t kHour = 3600;
   const std::vector<std::int64_t> hourly = {0, kHour, 2 * kHour, 3 * kHour, 4 * kHour};

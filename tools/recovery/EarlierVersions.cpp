@@ -8,14 +8,14 @@ EarlierVersions::EarlierVersions(Workbench& bench, Shell& shell) : ToolForm("Ear
   Caption = "Earlier versions";
   Explanation.BackColor = ToggleLabel::kOff;
   RestoreLines.ToolTipText =
-      "Puts the marked lines that are selected in the earlier version back into the text; undo takes them "
-      "out";
+      "Makes the marked lines that are selected, on either side, what they were; undo brings them back";
   RestoreAll.ToolTipText = "Makes the text what it was in this version; undo brings it back";
   Done.ToolTipText = "Leaves the text as it is";
   Done.Cancel = true;
   connections_ = {
       Versions.ListIndex.Changed.Connect([this] { ShowPicked(); }),
-      texts.before.SelectionChanged.Connect([this] { RestoreLines.Enabled = !texts.Picked().empty(); }),
+      texts.before.SelectionChanged.Connect([this] { ShowWhatCanBeRestored(); }),
+      texts.after.SelectionChanged.Connect([this] { ShowWhatCanBeRestored(); }),
   };
   FillList();
 }
@@ -30,8 +30,8 @@ void EarlierVersions::FillList() {
       any ? "What " + document.Path.Get() +
                 " held when it was saved, the newest first. Marked lines differ from the text "
                 "in the editor."
-          : "Nothing is kept of " + document.Path.Get() +
-                " yet. Each save keeps a version while backups are made.";
+          : "There is no earlier version of " + document.Path.Get() +
+                ". While backups are made, each save keeps one.";
   Versions.FillInOrder(std::move(lines));
   Versions.ListIndex = any ? 0 : -1;
   ShowPicked();
@@ -48,20 +48,25 @@ std::string EarlierVersions::Describe(const Version& version) const {
 
 void EarlierVersions::ShowPicked() {
   const Document& document = bench_.documents.Active();
+  const Trap trap{bench_.errors, "EarlierVersions ShowPicked"};
   const int picked = Versions.ListIndex;
-  std::string here(document.text.Characters());
-  if (picked < 0) {
-    texts.Show(here, here);
+  const auto text = picked < 0
+                        ? std::nullopt
+                        : trap(bench_.versions.TextOf(document, versions_[static_cast<std::size_t>(picked)]));
+  if (picked >= 0 && !text) Say("This version can't be opened");
+  if (text) {
+    texts.Show(*text, std::string(document.text.Characters()));
   } else {
-    const Trap trap{bench_.errors, "EarlierVersions ShowPicked"};
-    const Version& version = versions_[static_cast<std::size_t>(picked)];
-    const auto bytes = trap(bench_.platform.files.Read(bench_.versions.PathOf(document, version)));
-    if (!bytes) bench_.documents.Say("This version can't be opened");
-    const std::string text = bytes ? WithPaneLineBreaks(*bytes) : here;
-    texts.Show(text, std::move(here));
+    texts.Show({}, {});
   }
-  for (CommandButton* const command : {&RestoreAll, &NextDifference}) command->Enabled = texts.Differ();
-  RestoreLines.Enabled = !texts.Picked().empty();
+  ShowWhatCanBeRestored();
+}
+
+void EarlierVersions::ShowWhatCanBeRestored() {
+  const bool isProtected = bench_.documents.Active().text.Locked;
+  NextDifference.Enabled = texts.Differ();
+  RestoreAll.Enabled = texts.Differ() && !isProtected;
+  RestoreLines.Enabled = !texts.Picked().empty() && !isProtected;
 }
 
 /// From the last one to the first, so that those before it stand where they stood.
@@ -74,7 +79,7 @@ void EarlierVersions::Restore(const std::vector<Difference>& differences) {
   }
   document.Caret = document.text.SelStart;
   bench_.insertion.EndColInsert();
-  bench_.documents.Say("The lines are back; Undo takes them out again");
+  Say("The lines are as they were; Undo brings the others back");
   ShowPicked();
 }
 

@@ -20,13 +20,17 @@ class EarlierVersions : public ToolForm {
   CommandButton RestoreAll{*this, "RestoreAll", "Restore &all", &EarlierVersions::RestoreAll_Click};
   CommandButton Done{*this, "Done", "&Close", &EarlierVersions::Close};
 
-  void NextDifference_Click() { texts.GoToNext(); }
+  void NextDifference_Click() {
+    texts.GoToNext();
+    ShowWhatCanBeRestored();
+  }
   void RestoreLines_Click() { Restore(texts.Picked()); }
   void RestoreAll_Click() { Restore(texts.Differences()); }
 
  private:
   void FillList();
   void ShowPicked();
+  void ShowWhatCanBeRestored();
   [[nodiscard]] std::string Describe(const Version& version) const;
   /// Puts the version's lines into the document, in one step of undo.
   void Restore(const std::vector<Difference>& differences);

@@ -22,6 +22,7 @@ RichText Marked(const std::string& text, const std::vector<Difference>& differen
 SideBySide::SideBySide(Form& form, Workbench& bench, std::string_view beforeName, std::string_view afterName)
     : before(form, beforeName, bench.platform.files), after(form, afterName, bench.platform.files) {
   for (Pane* const pane : {&before, &after}) {
+    connections_.push_back(pane->SelectionChanged.Connect([this, pane] { selectedIn_ = pane; }));
     ApplyFont(*pane, bench.settings);
     pane->Locked = true;
     pane->RightMargin = margin::kNone;
@@ -37,15 +38,11 @@ void SideBySide::Show(const std::string& beforeText, const std::string& afterTex
 }
 
 std::vector<Difference> SideBySide::Picked() const {
-  const Range picked = before.Selection();
-  const auto touches = [picked](Range range) {
-    if (range.length == 0 || picked.length == 0)
-      return range.start <= picked.End() && picked.start <= range.End();
-    return range.start < picked.End() && picked.start < range.End();
-  };
+  const Range picked = selectedIn_->Selection();
   std::vector<Difference> found;
   for (const Difference& difference : differences_) {
-    if (touches(difference.before)) found.push_back(difference);
+    const Range range = selectedIn_ == &before ? difference.before : difference.after;
+    if (range.start < picked.End() && picked.start < range.End()) found.push_back(difference);
   }
   return found;
 }
@@ -56,6 +53,7 @@ void SideBySide::GoToNext() {
   next_ = (next_ + 1) % differences_.size();
   before.Select(difference.before);
   after.Select(difference.after);
+  selectedIn_ = difference.before.length > 0 ? &before : &after;
 }
 
 }  // namespace tarvik

@@ -18,7 +18,8 @@ class SideBySide {
   void Show(const std::string& beforeText, const std::string& afterText);
   [[nodiscard]] bool Differ() const { return !differences_.empty(); }
   [[nodiscard]] const std::vector<Difference>& Differences() const { return differences_; }
-  /// Those that the user's selection in the first text touches.
+  /// Those that the selection touches in the text where the user selected last, or in which the last one that
+  /// was gone to has lines.
   [[nodiscard]] std::vector<Difference> Picked() const;
   [[nodiscard]] std::string TextBefore(Range range) const {
     return std::string(before.Characters().substr(range.start, range.length));
@@ -29,6 +30,8 @@ class SideBySide {
  private:
   std::vector<Difference> differences_;
   std::size_t next_ = 0;
+  const Pane* selectedIn_ = &before;
+  std::vector<Connection> connections_;
 };
 
 }  // namespace tarvik
