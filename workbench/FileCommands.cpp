@@ -413,7 +413,7 @@ void FileCommands::SaveAs(Document& document) {
   // Whoever picks another file that is there has agreed that it goes.
   if (chosen->path != document.Path.Get()) {
     Ignore(document.seen.See(documents_.platform.files, chosen->path));
-    document.origin.Accept();
+    if (document.IsForeign()) document.origin.Accept();
   }
   document.Path = chosen->path;
   document.Name = chosen->name;

@@ -23,14 +23,16 @@ Origin::Origin(const std::string& bytes) {
 }
 
 void Origin::Follow(const Origin& before, std::string textBefore, std::string textNow) {
-  former_ = std::make_shared<const Former>(Former{before, std::move(textBefore), std::move(textNow)});
+  Former former{before, std::move(textBefore), std::move(textNow)};
+  former.origin.former_.reset();  // one is enough: each holds two texts
+  former_ = std::make_shared<const Former>(std::move(former));
 }
 
 /// Whichever text it is closer to.
 const Origin& Origin::Of(std::string_view text) const {
   if (!former_) return *this;
   const auto differs = [text](const std::string& from) { return LinesOf(DifferencesOf(from, text)); };
-  return differs(former_->text) < differs(former_->textNow) ? former_->origin.Of(text) : *this;
+  return differs(former_->text) < differs(former_->textNow) ? former_->origin : *this;
 }
 
 bool Origin::IsForeign(std::string_view text) const {
