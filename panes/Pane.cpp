@@ -117,23 +117,12 @@ std::string Pane::Bytes(FileFormat format) const {
   return format == FileFormat::Text ? content_.text : TextRTF.Get();
 }
 
-Outcome<> Pane::Holds(std::string_view path, const std::string& content) const {
-  const auto read = files_.Read(path);
-  if (!read) return read.failure();
-  if (*read != content) return Failure{error::kUnexpected, "The file does not hold what was written", 0};
-  return Done{};
-}
-
 Outcome<> Pane::SaveFile(std::string_view path, FileFormat format) const {
-  const std::string content = Bytes(format);
-  if (auto written = files_.Write(path, content); !written) return written;
-  return Holds(path, content);
+  return WriteAndRead(files_, path, Bytes(format));
 }
 
 Outcome<> Pane::SaveCopy(std::string_view path, FileFormat format, std::string_view of) const {
-  const std::string content = Bytes(format);
-  if (auto written = files_.WriteCopy(path, content, of); !written) return written;
-  return Holds(path, content);
+  return WriteAndReadCopy(files_, path, Bytes(format), of);
 }
 
 void Pane::Select(Range range) { MoveSelection(Clipped(range)); }

@@ -129,8 +129,6 @@ class Pane : public Control {
 
  private:
   [[nodiscard]] std::string Bytes(FileFormat format) const;
-  /// A file that was written holds the content.
-  [[nodiscard]] Outcome<> Holds(std::string_view path, const std::string& content) const;
   [[nodiscard]] Range Clipped(Range range) const;
   [[nodiscard]] Colour InsertionColour() const;
   void Replace(Range range, const RichText& content);

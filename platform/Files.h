@@ -68,4 +68,10 @@ class Files {
   virtual Outcome<> ChangeFolder(std::string_view path) = 0;
 };
 
+/// As `Files::Write`, and has succeeded when the file, read again, holds the content.
+[[nodiscard]] Outcome<> WriteAndRead(Files& files, std::string_view path, std::string_view content);
+/// The same with `Files::WriteCopy`.
+[[nodiscard]] Outcome<> WriteAndReadCopy(Files& files, std::string_view path, std::string_view content,
+                                         std::string_view of);
+
 }  // namespace tarvik

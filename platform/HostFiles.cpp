@@ -326,8 +326,9 @@ bool HostFiles::FolderExists(std::string_view path) const {
 
 std::vector<std::string> HostFiles::FilesIn(std::string_view folder, std::string_view ending) const {
   return NamesOf(drives_.EntriesOf(folder), [wanted = LowerCase(ending)](const Drives::Entry& entry) {
+    if (!LowerCase(entry.name).ends_with(wanted)) return false;
     const auto status = StatusOf(entry.host);
-    return status && !S_ISDIR(status->st_mode) && LowerCase(entry.name).ends_with(wanted);
+    return status && !S_ISDIR(status->st_mode);
   });
 }
 

@@ -458,7 +458,7 @@ Outcome<> FileCommands::WriteBackup(const Document& document, const std::string&
   const auto shown = FileName::From(documents_.TabOf(document).Caption.Get());
   if (!shown) return Done{};
   const Folder& backups = documents_.values.BackupDir;
-  return documents_.platform.files.WriteCopy(backups / *shown, bytes, document.Path.Get());
+  return WriteAndReadCopy(documents_.platform.files, backups / *shown, bytes, document.Path.Get());
 }
 
 void FileCommands::KeepVersions(Document& document, const std::optional<std::string>& before,
@@ -473,13 +473,13 @@ void FileCommands::KeepVersions(Document& document, const std::optional<std::str
 void FileCommands::WriteToDisk(Document& document, std::string_view tag) {
   const Trap trap{documents_.errors, tag};
   const std::string bytes = document.origin.BytesFor(document.text.Characters());
-  const auto before = Ignore(documents_.platform.files.Read(document.Path.Get()));
+  const bool makesBackups = documents_.settings.CreateBackup == 1;
+  const auto before =
+      makesBackups ? Ignore(documents_.platform.files.Read(document.Path.Get())) : std::nullopt;
   const Outcome<> written = WriteDocument(document, bytes);
   trap(written);
-  if (documents_.settings.CreateBackup == 1) {
-    trap(WriteBackup(document, bytes));
-    if (written) KeepVersions(document, before, bytes, trap);
-  }
+  if (makesBackups) trap(WriteBackup(document, bytes));
+  if (makesBackups && written) KeepVersions(document, before, bytes, trap);
   Remember(document);
   documents_.Say(document.Path.Get() + " saved successfully.");
   document.Dirty = saved::kSaved;

@@ -1,7 +1,5 @@
 #include "workbench/ForeignEncodings.h"
 
-#include <utility>
-
 namespace tarvik {
 
 ForeignEncodings::ForeignEncodings(Documents& documents, FileCommands& files, ColouredInsertion& insertion,
@@ -12,10 +10,8 @@ ForeignEncodings::ForeignEncodings(Documents& documents, FileCommands& files, Co
       notices_(notices),
       connections_{
           files.WasRead.Connect([this](Document& document) { LookAt(document); }),
-          files.Leaves.Connect([this](const Document& document) {
-            told_.erase(&document);
-            notices_.Remove(Matter::OtherEncoding, &document);
-          }),
+          files.Leaves.Connect(
+              [this](const Document& document) { notices_.Remove(Matter::OtherEncoding, &document); }),
           documents.joystick.text.Edited.Connect([this](const PaneEdit&) { WasEdited(documents_.joystick); }),
           documents.macro.text.Edited.Connect([this](const PaneEdit&) { WasEdited(documents_.macro); }),
           files.Written.Connect(
@@ -23,9 +19,8 @@ ForeignEncodings::ForeignEncodings(Documents& documents, FileCommands& files, Co
       } {}
 
 void ForeignEncodings::LookAt(Document& document) {
-  const bool wasTold = std::exchange(told_[&document], document.IsForeign());
-  if (!told_[&document]) return notices_.Remove(Matter::OtherEncoding, &document);
-  if (wasTold) return;
+  if (!document.IsForeign()) return notices_.Remove(Matter::OtherEncoding, &document);
+  if (notices_.Has(Matter::OtherEncoding, &document)) return;
   Tell(document, document.Path.Get() + " is in " + std::string(document.origin.EncodingName()) +
                      ", and shown byte by byte. It is not saved until you have chosen.");
 }

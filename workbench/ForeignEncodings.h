@@ -2,8 +2,6 @@
 // text is to be converted. Until then nothing takes the file's place.
 #pragma once
 
-#include <map>
-
 #include "workbench/ColouredInsertion.h"
 #include "workbench/FileCommands.h"
 #include "workbench/Notices.h"
@@ -29,7 +27,6 @@ class ForeignEncodings {
   FileCommands& files_;
   ColouredInsertion& insertion_;
   Notices& notices_;
-  std::map<const Document*, bool> told_;  // whether the document was foreign when it was last looked at
   std::vector<Connection> connections_;
 };
 

@@ -35,6 +35,9 @@ class Notices {
   void Remove(Matter matter, const Document* document) {
     if (notices_.erase({matter, document}) > 0) Changed();
   }
+  [[nodiscard]] bool Has(Matter matter, const Document* document) const {
+    return notices_.contains({matter, document});
+  }
   /// The most urgent one of the document, or null.
   [[nodiscard]] const Notice* Of(const Document& document) const {
     for (const auto& [about, notice] : notices_) {

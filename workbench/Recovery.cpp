@@ -191,16 +191,14 @@ std::optional<std::string> Recovery::FreeNameBeside(const JournalHead& head) con
 /// As it would be written into its own file, and open to nobody whom that is not open to.
 Outcome<> Recovery::WriteBeside(const UnsavedText& unsaved, const std::string& path) const {
   Files& files = documents_.platform.files;
-  const Scratch scratch(documents_.scratch);
-  scratch->SetContent(unsaved.text);
-  if (IsRich(unsaved)) return scratch->SaveCopy(path, FileFormat::Rtf, unsaved.head.path);
+  if (IsRich(unsaved)) {
+    const Scratch scratch(documents_.scratch);
+    scratch->SetContent(unsaved.text);
+    return scratch->SaveCopy(path, FileFormat::Rtf, unsaved.head.path);
+  }
   const auto own = Ignore(files.Read(unsaved.head.path));
   const std::string bytes = (own ? Origin(*own) : Origin()).BytesFor(unsaved.text.text);
-  if (auto written = files.WriteCopy(path, bytes, unsaved.head.path); !written) return written;
-  const auto read = files.Read(path);
-  if (!read) return read.failure();
-  if (*read != bytes) return Failure{error::kUnexpected, "The file does not hold the text", 0};
-  return Done{};
+  return WriteAndReadCopy(files, path, bytes, unsaved.head.path);
 }
 
 void Recovery::KeepBoth(const std::string& journal) {

@@ -122,7 +122,7 @@ Outcome<> Versions::Keep(const Document& document, std::string_view text, Author
   const auto name = FileName::From(
       NameOf(number, documents_.platform.calendar.Stamp(), author, document.Name.Get().Text()));
   if (!name) return Failure{error::kPathNotFound, "The file has no name", 0};
-  auto written = files.WriteCopy(folder / *name, text, document.Path.Get());
+  auto written = WriteAndReadCopy(files, folder / *name, text, document.Path.Get());
   if (written) Thin(document);
   return written;
 }

@@ -32,7 +32,10 @@ bool IsLineEnd(QChar character) {
   return character == u'\n' || character == QChar::ParagraphSeparator || character == QChar::LineSeparator;
 }
 
+/// No character below U+0300 changes.
 QString ComposedText(QStringView text) {
+  constexpr char16_t kFirstMark = 0x300;
+  if (std::ranges::all_of(text, [](QChar c) { return c.unicode() < kFirstMark; })) return text.toString();
   return QString::fromStdString(Composed(text.toUtf8().toStdString()));
 }
 

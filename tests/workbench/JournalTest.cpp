@@ -247,6 +247,14 @@ TEST(Journal, ATextThatIsBackIsThrownAwayOnceTheDiskHasItAgain) {
   EXPECT_FALSE(bare.outside.journals.content.contains("journal 1"));
 }
 
+/// Beside its file, which holds another one.
+void LeaveText(BareWorkbench& bare) {
+  bare.files.Put("c:\\my\\a.b50", "BTN S1");
+  bare.outside.journals.content["journal 1"] =
+      HeadRecord({TextKind::Joystick, "c:\\my\\a.b50", "a.b50"}) + TextRecord(RichText("BTN S2"));
+  bare.workbench.recovery.Look();
+}
+
 class CopiesNoted : public MemoryFiles {
  public:
   Outcome<> WriteCopy(std::string_view path, std::string_view content, std::string_view of) override {
@@ -259,10 +267,7 @@ class CopiesNoted : public MemoryFiles {
 TEST(Journal, ATextThatIsKeptBesideItsFileIsNoMoreOpenThanThat) {
   CopiesNoted disk;
   BareWorkbench bare(&disk);
-  disk.Put("c:\\my\\a.b50", "BTN S1");
-  bare.outside.journals.content["journal 1"] =
-      HeadRecord({TextKind::Joystick, "c:\\my\\a.b50", "a.b50"}) + TextRecord(RichText("BTN S2"));
-  bare.workbench.recovery.Look();
+  LeaveText(bare);
   bare.workbench.recovery.KeepBoth("journal 1");
   EXPECT_THAT(disk.copies, testing::ElementsAre("c:\\my\\a-recovered.b50 of c:\\my\\a.b50"));
 }
@@ -279,10 +284,7 @@ class SilentOfRecovered : public MemoryFiles {
 TEST(Journal, ATextIsWrittenUnderNoNameThatMayBeTaken) {
   SilentOfRecovered disk;
   BareWorkbench bare(&disk);
-  disk.Put("c:\\my\\a.b50", "BTN S1");
-  bare.outside.journals.content["journal 1"] =
-      HeadRecord({TextKind::Joystick, "c:\\my\\a.b50", "a.b50"}) + TextRecord(RichText("BTN S2"));
-  bare.workbench.recovery.Look();
+  LeaveText(bare);
   const std::vector<std::string> before = disk.List();
   bare.workbench.recovery.KeepBoth("journal 1");
   EXPECT_EQ(disk.List(), before);
