@@ -124,6 +124,7 @@ void Editor::Form_Load(EditorBegins begins) {
   SetUpToolbar();
   savedStates_.Follow();
   FollowWorkbench();
+  ShowViewSwitches();
   bench_.documents.Busy = true;
   values.PreferencesTab = 0;
   bench_.settings.GetColours();
@@ -182,6 +183,15 @@ void Editor::FollowWorkbench() {
       bench_.HardwareSettingsChanged.Connect([this] { HardwareHasChanged(); }),
       bench_.FontSettingsChanged.Connect([this] { DamnFontWasChanged(); }),
   };
+}
+
+void Editor::ShowViewSwitches() {
+  for (const tables::ViewSwitchRow& row : tables::kViewSwitches) {
+    Property<int>& setting = bench_.settings.*row.setting;
+    const auto show = [&setting, &entry = menus(row.entry)] { entry.Checked = setting != 0; };
+    connections_.push_back(setting.Changed.Connect(show));
+    show();
+  }
 }
 
 void Editor::FirstTimeFlow() {
@@ -417,6 +427,12 @@ void Editor::mnuViewWordWrap_Click() {
   const bool wrap = !mnuViewWordWrap.Checked;
   for (Pane* pane : {&JoystickText, &MacroText}) pane->RightMargin = wrap ? margin::kWindow : margin::kNone;
   mnuViewWordWrap.Checked = wrap;
+}
+
+void Editor::ZoomTo(int percent) {
+  const int zoom = std::clamp(percent, zoom::kLeast, zoom::kMost);
+  bench_.settings.ChangeView(bench_.settings.Zoom, zoom);
+  bench_.documents.Say("Zoom: " + TextOf(zoom) + " %");
 }
 
 void Editor::UpdateToolBarOpenSaveTooltips() {

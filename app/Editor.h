@@ -157,6 +157,16 @@ class Editor : public Form {
   void mnuViewReformat_Click() { bench_.documents.Reformat(); }
   void mnuViewWordWrap_Click();
   void mnuViewHighlightLine_Click() { bench_.blink.Start(); }
+  /// Turns a setting of the view over.
+  template <Property<int> Settings::*option>
+  void Switch() {
+    Property<int>& setting = bench_.settings.*option;
+    bench_.settings.ChangeView(setting, setting == 0 ? 1 : 0);
+  }
+  void ZoomTo(int percent);
+  void mnuViewZoomIn_Click() { ZoomTo(bench_.settings.Zoom + zoom::kStep); }
+  void mnuViewZoomOut_Click() { ZoomTo(bench_.settings.Zoom - zoom::kStep); }
+  void mnuViewZoomNormal_Click() { ZoomTo(zoom::kNormal); }
   void FrameMacros_MouseDown() { HelpOnWhatsThis(topic::kMacroLists); }
   void FrameMacros_MouseMove(const Mouse& mouse) { layout_.FrameMouseMove(mouse); }
   void FrameMacros_DblClick() { mnuViewMacros_Click(); }
@@ -253,6 +263,7 @@ class Editor : public Form {
   void StepThroughHistory(void (UndoHistory::*step)());
 
   void FollowWorkbench();
+  void ShowViewSwitches();
 
   Application& application_;
   Workbench& bench_;

@@ -114,6 +114,17 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuViewEditColours", "Edit &colours ...", "", &Editor::mnuViewEditColours_Click},
     {1, "mnuViewDivider3", "-"},
     {1, "mnuViewWordWrap", "&Word wrap", "", &Editor::mnuViewWordWrap_Click},
+    {1, "mnuViewFixedPitch", "Fi&xed pitch", "", &Editor::Switch<&Settings::FixedPitch>},
+    {1, "mnuViewZoom", "&Zoom"},
+    {2, "mnuViewZoomIn", "Zoom &in", "Ctrl++", &Editor::mnuViewZoomIn_Click},
+    {2, "mnuViewZoomOut", "Zoom &out", "Ctrl+-", &Editor::mnuViewZoomOut_Click},
+    {2, "mnuViewZoomNormal", "&Normal size", "Ctrl+0", &Editor::mnuViewZoomNormal_Click},
+    {1, "mnuViewDivider4", "-"},
+    {1, "mnuViewLineNumbers", "&Line numbers", "", &Editor::Switch<&Settings::LineNumbers>},
+    {1, "mnuViewCurrentLine", "C&urrent line", "", &Editor::Switch<&Settings::CurrentLine>},
+    {1, "mnuViewMatchingBrackets", "Matching &brackets", "", &Editor::Switch<&Settings::MatchingBrackets>},
+    {1, "mnuViewOtherPlaces", "&Other places of the word", "", &Editor::Switch<&Settings::OtherPlaces>},
+    {1, "mnuViewChangedLines", "Cha&nged lines", "", &Editor::Switch<&Settings::ChangedLines>},
 
     {0, "mnuWindow", "&Window"},
     MenuArray<Editor>(1, "mnuWindowCascade", kArrangements),
@@ -200,6 +211,18 @@ inline constexpr MenuRow<Editor> kPopUps[] = {
     {1, "mnuRHListIdentify", "I&dentify macros used", "", &Editor::mnuRHListIdentify_Click},
     {1, "mnuRHListDivider2", "-"},
     {1, "mnuRHListEdit", "&Edit", "", &Editor::mnuRHListEdit_Click},
+};
+
+/// An entry of the View menu that switches a setting, and bears a check mark while it is on.
+struct ViewSwitchRow {
+  const char* entry;
+  Property<int> Settings::*setting;
+};
+
+inline constexpr ViewSwitchRow kViewSwitches[] = {
+    {"mnuViewFixedPitch", &Settings::FixedPitch},   {"mnuViewLineNumbers", &Settings::LineNumbers},
+    {"mnuViewCurrentLine", &Settings::CurrentLine}, {"mnuViewMatchingBrackets", &Settings::MatchingBrackets},
+    {"mnuViewOtherPlaces", &Settings::OtherPlaces}, {"mnuViewChangedLines", &Settings::ChangedLines},
 };
 
 /// A toolbar button runs the entry of that name; where it has two, the selected tab tells which.

@@ -47,7 +47,8 @@ class FrameView : public QWidget {
 
 }  // namespace
 
-EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(editor) {
+EditorView::EditorView(Editor& editor, Workbench& workbench, Clock clock)
+    : FormView(editor), editor_(editor) {
   setObjectName(QStringLiteral("Editor"));
   setBackgroundRole(QPalette::Window);
   setAutoFillBackground(true);
@@ -57,7 +58,7 @@ EditorView::EditorView(Editor& editor, Clock clock) : FormView(editor), editor_(
   MakeMacroFrame();
   MakeTabs();
   notice_ = new NoticeView(editor.notice, bindings_, this);
-  MakePanes();
+  MakePanes(workbench);
   OrderFocus();
   bindings_.Shows(editor, *this);
   bindings_.Bind(editor.Caption, [this] { setWindowTitle(ToScreen(editor_.Caption.Get())); });
@@ -109,13 +110,21 @@ void EditorView::MakeTabs() {
   connect(back, &QShortcut::activated, this, [turn] { turn(-1); });
 }
 
-void EditorView::MakePanes() {
-  panes_[0] = new PaneView(editor_.JoystickText, bindings_, this);
+void EditorView::MakePanes(Workbench& workbench) {
+  panes_[0] = new EditorPane(editor_, workbench, editor_.Joystick, bindings_, this);
   panes_[0]->setAccessibleName(tr("Joystick file"));
-  panes_[1] = new PaneView(editor_.MacroText, bindings_, this);
+  panes_[1] = new EditorPane(editor_, workbench, editor_.Macro, bindings_, this);
   panes_[1]->setAccessibleName(tr("Macro file"));
+  for (EditorPane* const pane : panes_) {
+    pane->wordChanged = [this](const std::string& word) {
+      for (EditorPane* const each : panes_) each->MarkWord(word);
+    };
+  }
   bindings_.Place(editor_.JoystickText, *panes_[0], Unit::Pixel);
   bindings_.Place(editor_.MacroText, *panes_[1], Unit::Pixel);
+  // On many keyboards the plus is above the equals sign.
+  auto* const larger = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Equal), this);
+  connect(larger, &QShortcut::activated, this, [this] { editor_.mnuViewZoomIn_Click(); });
 }
 
 /// The Tab key goes as the eye does. The upper row of the modifier buttons ends with the last of their array.

@@ -4,17 +4,17 @@
 #include <QFrame>
 
 #include "app/Editor.h"
+#include "screen/EditorPane.h"
 #include "screen/FormView.h"
 #include "screen/NoticeView.h"
 #include "screen/widgets/ListStack.h"
 #include "screen/widgets/MenuBuilder.h"
-#include "screen/widgets/PaneView.h"
 
 namespace tarvik::screen {
 
 class EditorView : public QWidget, public FormView {
  public:
-  EditorView(Editor& editor, Clock clock);
+  EditorView(Editor& editor, Workbench& workbench, Clock clock);
 
   [[nodiscard]] const std::vector<std::unique_ptr<QMenu>>& menus() const { return menus_; }
   void CloseByUser() override;
@@ -27,7 +27,7 @@ class EditorView : public QWidget, public FormView {
  private:
   void MakeMacroFrame();
   void MakeTabs();
-  void MakePanes();
+  void MakePanes(Workbench& workbench);
   void OrderFocus();
   void PlaceTabs();
 
@@ -37,7 +37,7 @@ class EditorView : public QWidget, public FormView {
   ListStack* list_ = nullptr;
   QTabBar* tabs_ = nullptr;
   NoticeView* notice_ = nullptr;
-  PaneView* panes_[2] = {};
+  EditorPane* panes_[2] = {};
 };
 
 }  // namespace tarvik::screen

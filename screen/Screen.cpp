@@ -42,7 +42,7 @@ void Screen::Show(Form& form) {
     frame_ = new MumWindow(application_, *mum, clock_);
     views_.push_back(frame_);
   } else if (auto* const editor = dynamic_cast<Editor*>(&form)) {
-    auto* const view = new EditorView(*editor, clock_);
+    auto* const view = new EditorView(*editor, application_.workbench, clock_);
     frame_->ShowChild(*view, view->menus());
     views_.push_back(view);
   } else if (auto* const selector = dynamic_cast<ColourSelector*>(&form)) {

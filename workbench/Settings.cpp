@@ -3,6 +3,8 @@
 #include <charconv>
 #include <variant>
 
+#include "text/Contrast.h"
+
 namespace tarvik {
 namespace {
 
@@ -57,6 +59,13 @@ constexpr Option kOptions[] = {
     {section::kApps, &Settings::ImageFilePath, ""},
     {section::kApps, &Settings::TextFilePath, ""},
     {section::kColours, &Settings::ApplyColoursOnFileOpen, "1"},
+    {section::kView, &Settings::LineNumbers, "1"},
+    {section::kView, &Settings::CurrentLine, "1"},
+    {section::kView, &Settings::MatchingBrackets, "1"},
+    {section::kView, &Settings::OtherPlaces, "1"},
+    {section::kView, &Settings::ChangedLines, "1"},
+    {section::kView, &Settings::FixedPitch, "0"},
+    {section::kView, &Settings::Zoom, "100"},
 };
 
 struct ColourOption {
@@ -67,7 +76,7 @@ struct ColourOption {
 // The default for a file without the key differs from the factory scheme on purpose.
 constexpr std::string_view kColourFallback = "16744448";
 constexpr ColourOption kColourOptions[] = {
-    {&Settings::BackgroundColour, 14285565},
+    {&Settings::BackgroundColour, static_cast<int>(NumberOf(kUsualBackground))},
     {&Settings::BTNColour, 16711680},
     {&Settings::SlashColour, 255},
     {&Settings::RAWColour, 32768},
@@ -179,6 +188,11 @@ Outcome<> Settings::SaveColours() {
   add(TextFontBold);
   add(ApplyColoursOnFileOpen);
   return file_.WriteAll(entries);
+}
+
+void Settings::ChangeView(Property<int>& option, int value) {
+  option = value;
+  Write(section::kView, option.Name(), TextOf(value));
 }
 
 void Settings::Write(std::string_view section, std::string_view key, std::string_view value) {

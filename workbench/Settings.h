@@ -16,7 +16,16 @@ inline constexpr const char* kApps = "Apps";
 inline constexpr const char* kColours = "Colours";
 inline constexpr const char* kFavourites = "Favourites";
 inline constexpr const char* kGames = "Games";
+inline constexpr const char* kView = "View";
 }  // namespace section
+
+/// How large the text is shown, in per cent of its own size.
+namespace zoom {
+inline constexpr int kLeast = 50;
+inline constexpr int kNormal = 100;
+inline constexpr int kMost = 400;
+inline constexpr int kStep = 10;
+}  // namespace zoom
 
 class Settings : public Component {
  public:
@@ -76,6 +85,15 @@ class Settings : public Component {
   Property<int> ApplyColoursOnFileOpen{*this, "ApplyColoursOnFileOpen"};
   Property<int> InsertWithColour{*this, "InsertWithColour"};
 
+  // View: what the editor shows of the two files beside their text. Nothing of it is in a file.
+  Property<int> LineNumbers{*this, "LineNumbers"};
+  Property<int> CurrentLine{*this, "CurrentLine"};
+  Property<int> MatchingBrackets{*this, "MatchingBrackets"};
+  Property<int> OtherPlaces{*this, "OtherPlaces"};
+  Property<int> ChangedLines{*this, "ChangedLines"};
+  Property<int> FixedPitch{*this, "FixedPitch"};
+  Property<int> Zoom{*this, "Zoom"};  ///< per cent
+
   /// Reads everything but the colour scheme; a missing file or key gives the default.
   void GetOptions();
   /// Writes what GetOptions reads, except ShowTips, which belongs to the tips window.
@@ -87,6 +105,8 @@ class Settings : public Component {
   /// Sets the factory colour scheme and writes it; InsertWithColour is set but not written.
   void ColoursSortOut();
 
+  /// Changes a setting of the view, and stores it at once.
+  void ChangeView(Property<int>& option, int value);
   /// Writes one of the few keys that forms store by themselves, at once.
   void Write(std::string_view section, std::string_view key, std::string_view value);
   [[nodiscard]] ProfileFile& File() { return file_; }

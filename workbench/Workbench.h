@@ -3,6 +3,7 @@
 #pragma once
 
 #include "workbench/AutoSave.h"
+#include "workbench/ChangedLines.h"
 #include "workbench/EditCommands.h"
 #include "workbench/ForeignEncodings.h"
 #include "workbench/LineBlink.h"
@@ -42,6 +43,7 @@ class Workbench {
   EditCommands edit{documents, insertion};
   Versions versions{documents};
   FileCommands files{documents, copies, highlighter, macros, lists, versions};
+  ChangedLines changedLines{documents, files};
   Notices notices;
   ForeignChanges foreign{documents, files, insertion, notices};
   ForeignEncodings encodings{documents, files, insertion, notices};

@@ -8,6 +8,7 @@
 
 #include "screen/widgets/Conversions.h"
 #include "screen/widgets/Uncovered.h"
+#include "text/Contrast.h"
 
 namespace tarvik::screen {
 namespace {
@@ -43,7 +44,6 @@ PaneView::PaneView(Pane& pane, Bindings& bindings, QWidget* parent) : QPlainText
   setFrameShape(QFrame::NoFrame);
   setAutoFillBackground(true);
   setBackgroundRole(QPalette::Base);
-  setTabStopDistance(kTabWidth);
   document()->setDocumentMargin(kTextMargin);
   // Mouse events that the text ignores must not go to the pane, whose `event` would send them back without
   // end.
@@ -59,16 +59,16 @@ void PaneView::BindLook(Bindings& bindings) {
   bindings.BindControl(pane_, *this);
   bindings.Bind(pane_.BackColor, [this] {
     QPalette palette = this->palette();
+    inks_.clear();
     palette.setColor(QPalette::Base, ToScreenColour(pane_.BackColor.Get()));
-    palette.setColor(QPalette::Text, Qt::black);
+    palette.setColor(QPalette::Text, InkOf(kBlack));
     setPalette(palette);
   });
   for (PropertyBase* part :
        std::initializer_list<PropertyBase*>{&pane_.SelFontName, &pane_.SelFontSize, &pane_.SelBold}) {
     bindings.Bind(*part, [this] { ShowFont(); });
   }
-  bindings.Bind(pane_.SelIndent,
-                [this] { setViewportMargins(std::max(0, pane_.SelIndent - kTextMargin), 0, 0, 0); });
+  bindings.Bind(pane_.SelIndent, [this] { ShowSide(); });
   bindings.Bind(pane_.RightMargin,
                 [this] { setLineWrapMode(pane_.RightMargin == margin::kWindow ? WidgetWidth : NoWrap); });
   bindings.Bind(pane_.Overtype, [this] { setOverwriteMode(pane_.Overtype); });
@@ -78,11 +78,39 @@ void PaneView::BindLook(Bindings& bindings) {
   });
 }
 
-void PaneView::ShowFont() {
+QFont PaneView::TextFont() const {
   QFont font(ToScreen(pane_.SelFontName.Get()));
   font.setPointSizeF(ToScreenSize(pane_.SelFontSize));
   font.setBold(pane_.SelBold);
-  setFont(font);
+  return font;
+}
+
+qreal PaneView::TabDistance() const { return kTabWidth; }
+
+void PaneView::ShowFont() {
+  setFont(TextFont());
+  setTabStopDistance(TabDistance());
+}
+
+QColor PaneView::InkOf(Colour colour) const {
+  const auto [ink, isNew] = inks_.try_emplace(colour);
+  if (isNew) {
+    const Colour background = FromScreenColour(ToScreenColour(pane_.BackColor.Get()));
+    ink->second =
+        ToScreenColour(LegibleInk(FromScreenColour(ToScreenColour(colour)), background, kUsualBackground));
+  }
+  return ink->second;
+}
+
+void PaneView::SetSideWidth(int width) {
+  sideWidth_ = width;
+  ShowSide();
+}
+
+void PaneView::ShowSide() {
+  QMargins margins = viewportMargins();
+  margins.setLeft(std::max({0, pane_.SelIndent - kTextMargin, sideWidth_}));
+  setViewportMargins(margins);
 }
 
 void PaneView::ListenToPane(Bindings& bindings) {
@@ -163,10 +191,14 @@ void PaneView::ShowEdit(const PaneEdit& edit) {
     ShowAll();
   } else {
     const QScopedValueRollback showing(showing_, true);
+    const QTextCursor top(firstVisibleBlock());
+    const int hidden = verticalScrollBar()->value() - top.block().firstLineNumber();
     QTextCursor cursor(document());
     cursor.setPosition(DocumentPosition(edit.position));
     cursor.setPosition(DocumentPosition(edit.position + edit.removed.size()), QTextCursor::KeepAnchor);
     cursor.insertText(ToScreen(edit.inserted.text));
+    // What is on show stays where it is when lines come or go above it.
+    verticalScrollBar()->setValue(top.block().firstLineNumber() + hidden);
   }
   viewport()->update();
   ShowSelection();
@@ -182,7 +214,10 @@ bool PaneView::CutsLineBreak(const PaneEdit& edit) const {
 
 void PaneView::ShowAll() {
   const QScopedValueRollback showing(showing_, true);
+  const int top = firstVisibleBlock().blockNumber();
   setPlainText(ToScreen(pane_.Characters()));
+  const QTextBlock now = document()->findBlockByNumber(top);
+  if (now.isValid()) verticalScrollBar()->setValue(now.firstLineNumber());
 }
 
 void PaneView::ShowSelection() {

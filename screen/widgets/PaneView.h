@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QPlainTextEdit>
+#include <functional>
+#include <map>
 #include <optional>
 
 #include "panes/Pane.h"
@@ -21,8 +23,29 @@ class PaneView : public QPlainTextEdit {
   [[nodiscard]] int DocumentPosition(std::size_t panePosition) const;
   /// In the widget's viewport.
   [[nodiscard]] QRect CaretAt(std::size_t panePosition) const;
+  /// What letters of the colour are painted in: so that they can be read on the pane's background.
+  [[nodiscard]] QColor InkOf(Colour colour) const;
 
  protected:
+  [[nodiscard]] Pane& pane() const { return pane_; }
+  /// The font that the text is shown in.
+  [[nodiscard]] virtual QFont TextFont() const;
+  /// How far tabs stand apart, in pixels.
+  [[nodiscard]] virtual qreal TabDistance() const;
+  /// Shows the text in its font.
+  void ShowFont();
+  /// Paints what lies behind the letters of a block, which begins at `offset`.
+  virtual void PaintBehind(QPainter& /*painter*/, const QTextBlock& /*block*/,
+                           const QPointF& /*offset*/) const {}
+  /// The text keeps so many pixels free at its left side.
+  void SetSideWidth(int width);
+  /// The characters of a block that stand where something is being painted, counted from its beginning.
+  static Range ExposedPart(const QPainter& painter, const QTextBlock& block, const QPointF& offset);
+  /// Calls `take` with the place of each part of a block's characters that stands in one line and in what is
+  /// being painted; they count from the block's beginning.
+  static void ForEachPlace(const QPainter& painter, const QTextBlock& block, const QPointF& offset,
+                           Range range, const std::function<void(const QRectF&)>& take);
+
   bool event(QEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void paintEvent(QPaintEvent* event) override;
@@ -44,7 +67,7 @@ class PaneView : public QPlainTextEdit {
   };
 
   void BindLook(Bindings& bindings);
-  void ShowFont();
+  void ShowSide();
   void ListenToPane(Bindings& bindings);
   void ListenToUser();
 
@@ -75,6 +98,8 @@ class PaneView : public QPlainTextEdit {
   bool showing_ = false;              // the pane's change is being put into the document
   std::optional<PaneEdit> expected_;  // what the pane is about to announce of the document's own change
   std::optional<NativeChange> native_;
+  int sideWidth_ = 0;
+  mutable std::map<Colour, QColor> inks_;  // by the colours of the text
   bool scrollAsked_ = false;
   bool keyIsDown_ = false;  // the key was pressed here, and not in a window that has gone
 };

@@ -24,6 +24,19 @@ std::pair<std::size_t, std::size_t> Exposed(const QTextLine& line, const QRectF&
   return {static_cast<std::size_t>(first), static_cast<std::size_t>(last)};
 }
 
+/// Calls `take` with each line of the block that stands in what is being painted, and with that place in the
+/// block's own layout.
+template <class Take>
+void ForEachLine(const QPainter& painter, const QTextBlock& block, const QPointF& offset, const Take& take) {
+  const QRectF visible = painter.clipBoundingRect().translated(-offset);
+  const QTextLayout& layout = *block.layout();
+  for (int i = 0; i < layout.lineCount(); ++i) {
+    const QTextLine line = layout.lineAt(i);
+    if (line.y() > visible.bottom()) break;
+    if (line.y() + line.height() >= visible.top()) take(line, visible);
+  }
+}
+
 }  // namespace
 
 void PaneView::paintEvent(QPaintEvent* event) {
@@ -43,7 +56,8 @@ void PaneView::PaintBlock(QPainter& painter, const QTextBlock& block, const QPoi
                           int caret) const {
   QTextLayout& layout = *block.layout();
   const bool composing = !layout.preeditAreaText().isEmpty();
-  painter.setPen(Qt::black);
+  PaintBehind(painter, block, offset);
+  painter.setPen(InkOf(kBlack));
   if (composing) {
     layout.draw(&painter, offset);
   } else {
@@ -54,21 +68,41 @@ void PaneView::PaintBlock(QPainter& painter, const QTextBlock& block, const QPoi
     const int from = std::clamp(cursor.selectionStart() - start, 0, length);
     const int to = std::clamp(cursor.selectionEnd() - start, 0, length);
     const Range selected{static_cast<std::size_t>(from), static_cast<std::size_t>(to - from)};
-    const QRectF visible = painter.clipBoundingRect().translated(-offset);
-    for (int i = 0; i < layout.lineCount(); ++i) {
-      const QTextLine line = layout.lineAt(i);
-      if (line.y() > visible.bottom()) break;
-      if (line.y() + line.height() < visible.top()) continue;
+    ForEachLine(painter, block, offset, [&](const QTextLine& line, const QRectF&) {
       PaintLine(painter, line, offset, static_cast<std::size_t>(paneStart),
                 static_cast<std::size_t>(length - 1), selected);
-    }
+    });
   }
-  painter.setPen(Qt::black);
+  painter.setPen(InkOf(kBlack));
   if (block.contains(caret)) {
     layout.drawCursor(&painter, offset, caret - block.position(), cursorWidth());
   } else if (caret < -1 && composing) {
     layout.drawCursor(&painter, offset, layout.preeditAreaPosition() - (caret + 2), cursorWidth());
   }
+}
+
+Range PaneView::ExposedPart(const QPainter& painter, const QTextBlock& block, const QPointF& offset) {
+  Range exposed;
+  ForEachLine(painter, block, offset, [&exposed](const QTextLine& line, const QRectF& visible) {
+    const auto [first, last] = Exposed(line, visible);
+    if (exposed.length == 0) exposed.start = first;
+    exposed.length = last - exposed.start;
+  });
+  return exposed;
+}
+
+void PaneView::ForEachPlace(const QPainter& painter, const QTextBlock& block, const QPointF& offset,
+                            Range range, const std::function<void(const QRectF&)>& take) {
+  ForEachLine(painter, block, offset, [&](const QTextLine& line, const QRectF&) {
+    const auto begin = static_cast<std::size_t>(line.textStart());
+    const std::size_t end = begin + static_cast<std::size_t>(line.textLength());
+    const std::size_t from = std::clamp(range.start, begin, end);
+    const std::size_t to = std::clamp(range.End(), begin, end);
+    if (from == to) return;
+    const qreal left = line.cursorToX(static_cast<int>(from));
+    const qreal right = line.cursorToX(static_cast<int>(to));
+    take(QRectF(offset.x() + left, offset.y() + line.y(), right - left, line.height()));
+  });
 }
 
 void PaneView::PaintLine(QPainter& painter, const QTextLine& line, const QPointF& offset,
@@ -95,7 +129,7 @@ void PaneView::PaintLine(QPainter& painter, const QTextLine& line, const QPointF
     if (at < from) next = std::min(next, from);
     if (inSelection) next = std::min(next, to);
     painter.setPen(inSelection ? palette().color(group, QPalette::HighlightedText)
-                               : ToScreenColour(colours.At(position)));
+                               : InkOf(colours.At(position)));
     for (const QGlyphRun& run : line.glyphRuns(static_cast<int>(at), static_cast<int>(next - at))) {
       painter.drawGlyphRun(offset, run);
     }

@@ -1,0 +1,314 @@
+#include "screen/EditorPane.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTextBlock>
+#include <algorithm>
+#include <cmath>
+
+#include "screen/widgets/Conversions.h"
+#include "text/CodePage.h"
+#include "text/Contrast.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr int kFixedTab = 8;  // characters
+constexpr int kWheelStep = 120;
+constexpr std::size_t kShortestWord = 2;
+constexpr std::string_view kRemark = "rem";  // which stands in nearly every line of a tidy file
+constexpr double kVisible = 3;  // the contrast of a mark, by the guidelines that `kReadable` is from
+constexpr Colour kChanged = Rgb(217, 138, 0);
+constexpr Colour kAlone = Rgb(210, 40, 40);  // a bracket
+
+// How strong the tints are, in per cent.
+constexpr int kMarginTint = 4;
+constexpr int kLineTint = 6;
+constexpr int kWordTint = 28;
+constexpr int kBracketTint = 45;
+constexpr int kNumberTint = 55;
+
+}  // namespace
+
+/// Beside the text: the numbers of the lines, and a bar where a line has changed. A click selects the line.
+class EditorPane::Margin : public QWidget {
+ public:
+  explicit Margin(EditorPane& pane) : QWidget(&pane), pane_(pane) { setCursor(Qt::ArrowCursor); }
+
+  [[nodiscard]] int Width() const {
+    const bool numbers = pane_.settings_.LineNumbers != 0;
+    const bool bars = pane_.settings_.ChangedLines != 0;
+    if (!numbers) return bars ? kBar + kGap : 0;
+    const auto digits = std::max<qsizetype>(kFewestDigits, QString::number(pane_.blockCount()).size());
+    return 2 * kGap + QFontMetrics(pane_.font()).horizontalAdvance(u'0') * static_cast<int>(digits) + kBar;
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), pane_.Tint(pane_.InkOf(kBlack), kMarginTint));
+    painter.setFont(pane_.font());
+    const int left = event->rect().top() - pane_.viewport()->y();
+    const int end = event->rect().bottom() - pane_.viewport()->y();
+    QPointF offset = pane_.contentOffset();
+    for (QTextBlock block = pane_.firstVisibleBlock(); block.isValid(); block = block.next()) {
+      const QRectF place = pane_.blockBoundingRect(block).translated(offset);
+      if (place.top() > end) break;
+      if (place.bottom() >= left) PaintBlock(painter, block, place.translated(0, pane_.viewport()->y()));
+      offset.ry() += place.height();
+    }
+  }
+
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() != Qt::LeftButton) return;
+    pane_.setFocus();
+    first_ = LineAt(*event);
+    SelectTo(first_);
+  }
+  void mouseMoveEvent(QMouseEvent* event) override {
+    if (event->buttons() & Qt::LeftButton) SelectTo(LineAt(*event));
+  }
+  /// The pane is told as of any other click, after which it remembers its caret.
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton) pane_.pane().Click();
+  }
+  void wheelEvent(QWheelEvent* event) override { QApplication::sendEvent(pane_.viewport(), event); }
+
+ private:
+  static constexpr int kGap = 6;
+  static constexpr int kBar = 3;
+  static constexpr qsizetype kFewestDigits = 3;
+
+  void PaintBlock(QPainter& painter, const QTextBlock& block, const QRectF& place) const {
+    const QColor ink = pane_.InkOf(kBlack);
+    if (pane_.settings_.LineNumbers != 0) {
+      const bool current = block.blockNumber() == pane_.marks_.line;
+      painter.setPen(current ? ink : pane_.Tint(ink, kNumberTint));
+      const QRectF line(0, place.top(), width() - kBar - kGap, QFontMetricsF(pane_.font()).height());
+      painter.drawText(line, Qt::AlignRight | Qt::AlignTop, QString::number(block.blockNumber() + 1));
+    }
+    if (pane_.settings_.ChangedLines != 0) PaintChange(painter, block, place);
+  }
+
+  void PaintChange(QPainter& painter, const QTextBlock& block, const QRectF& place) const {
+    const LineChanges& changes = pane_.changes_.Of(pane_.document_);
+    const auto line = static_cast<std::size_t>(block.blockNumber());
+    const Colour background = FromScreenColour(pane_.palette().color(QPalette::Base));
+    const QColor colour = ToScreenColour(WithContrast(kChanged, background, kVisible));
+    const int left = width() - kBar;
+    if (changes.IsChanged(line)) painter.fillRect(QRectF(left, place.top(), kBar, place.height()), colour);
+    const auto wedge = [&](qreal y) {
+      painter.setPen(Qt::NoPen);
+      painter.setBrush(colour);
+      painter.drawPolygon(QPolygonF({{left - 2.0, y - 4}, {left - 2.0, y + 4}, {left + 3.0, y}}));
+    };
+    if (changes.LacksLinesBefore(line)) wedge(place.top());
+    if (!block.next().isValid() && changes.LacksLinesBefore(line + 1)) wedge(place.bottom());
+  }
+
+  [[nodiscard]] QTextBlock LineAt(const QMouseEvent& event) const {
+    const QPoint place = pane_.viewport()->mapFromGlobal(event.globalPosition().toPoint());
+    return pane_.cursorForPosition({0, place.y()}).block();
+  }
+
+  /// From the line where the button went down to this one, with their ends.
+  void SelectTo(const QTextBlock& line) {
+    const QTextBlock from = std::min(first_, line);
+    const QTextBlock behind = std::max(first_, line).next();
+    const std::size_t start = pane_.PanePosition(from.position());
+    const std::size_t end =
+        behind.isValid() ? pane_.PanePosition(behind.position()) : pane_.pane().Characters().size();
+    pane_.pane().Select({start, end - start});
+  }
+
+  EditorPane& pane_;
+  QTextBlock first_;
+};
+
+EditorPane::EditorPane(Editor& editor, Workbench& workbench, const Document& document, Bindings& bindings,
+                       QWidget* parent)
+    : PaneView(document.text, bindings, parent),
+      editor_(editor),
+      settings_(workbench.settings),
+      document_(document),
+      changes_(workbench.changedLines),
+      margin_(new Margin(*this)) {
+  for (Property<int>* const option : {&settings_.LineNumbers, &settings_.ChangedLines}) {
+    bindings.Bind(*option, [this] { ShowMargin(); });
+  }
+  for (Property<int>* const option :
+       {&settings_.CurrentLine, &settings_.MatchingBrackets, &settings_.OtherPlaces}) {
+    bindings.Bind(*option, [this] {
+      CaretMoved();
+      viewport()->update();
+    });
+  }
+  for (Property<int>* const option : {&settings_.Zoom, &settings_.FixedPitch}) {
+    bindings.Bind(*option, [this] { ShowFont(); });
+  }
+  bindings.Keep(workbench.changedLines.Begun.Connect([this](const Document& document) {
+    if (&document == &document_) margin_->update();
+  }));
+  Follow();
+}
+
+void EditorPane::Follow() {
+  connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { CaretMoved(); });
+  connect(this, &QPlainTextEdit::selectionChanged, this, [this] { CaretMoved(); });
+  connect(this, &QPlainTextEdit::textChanged, this, [this] { CaretMoved(); });
+  connect(this, &QPlainTextEdit::blockCountChanged, this, [this] { ShowMargin(); });
+  connect(this, &QPlainTextEdit::updateRequest, this, [this](const QRect& place, int scrolled) {
+    if (scrolled != 0) {
+      margin_->scroll(0, scrolled);
+    } else {
+      margin_->update(0, viewport()->y() + place.y(), margin_->width(), place.height());
+    }
+  });
+}
+
+// The margin.
+
+void EditorPane::ShowMargin() {
+  const int width = margin_->Width();
+  margin_->setVisible(width > 0);
+  SetSideWidth(width);
+  margin_->setGeometry(contentsRect().left(), contentsRect().top(), width, contentsRect().height());
+  margin_->update();
+}
+
+void EditorPane::changeEvent(QEvent* event) {
+  PaneView::changeEvent(event);
+  if (event->type() == QEvent::FontChange) ShowMargin();
+}
+
+void EditorPane::resizeEvent(QResizeEvent* event) {
+  PaneView::resizeEvent(event);
+  ShowMargin();
+}
+
+// The font.
+
+qreal EditorPane::Enlarged(qreal size) const {
+  return size * std::clamp(settings_.Zoom.Get(), zoom::kLeast, zoom::kMost) / zoom::kNormal;
+}
+
+QFont EditorPane::TextFont() const {
+  QFont font = PaneView::TextFont();
+  if (settings_.FixedPitch != 0) {
+    font.setFamily(QFontDatabase::systemFont(QFontDatabase::FixedFont).family());
+    font.setStyleHint(QFont::Monospace);
+  }
+  font.setPointSizeF(std::min<qreal>(Enlarged(font.pointSizeF()), kLargestLetters));
+  return font;
+}
+
+qreal EditorPane::TabDistance() const {
+  if (settings_.FixedPitch != 0) return kFixedTab * QFontMetricsF(TextFont()).horizontalAdvance(u' ');
+  return Enlarged(PaneView::TabDistance());
+}
+
+void EditorPane::wheelEvent(QWheelEvent* event) {
+  if (!(event->modifiers() & Qt::ControlModifier)) return PaneView::wheelEvent(event);
+  event->accept();
+  wheel_ += event->angleDelta().y();
+  const int steps = wheel_ / kWheelStep;
+  wheel_ %= kWheelStep;
+  if (steps != 0) editor_.ZoomTo(settings_.Zoom + steps * zoom::kStep);
+}
+
+// The caret.
+
+EditorPane::Marks EditorPane::MarksOfCaret() const {
+  const std::string_view text = pane().Characters();
+  const Range selection = pane().Selection();
+  const Range word = WordAt(text, selection.start);
+  const bool isRemark = LowerCase(text.substr(word.start, word.length)) == kRemark;
+  const bool inWord = selection.End() <= word.End() && word.length >= kShortestWord && !isRemark;
+  const bool showsBrackets = settings_.MatchingBrackets != 0 && selection.length == 0;
+  return {textCursor().blockNumber(), showsBrackets ? BracketsAt(text, selection.start) : BracketPair(),
+          settings_.OtherPlaces != 0 && inWord ? word : Range()};
+}
+
+void EditorPane::CaretMoved() {
+  const Marks marks = MarksOfCaret();
+  if (marks != marks_) {
+    marks_ = marks;
+    viewport()->update();
+    margin_->update();
+  }
+  if (hasFocus()) wordChanged(std::string(pane().Characters().substr(marks.word.start, marks.word.length)));
+}
+
+void EditorPane::MarkWord(const std::string& word) {
+  if (word_ == word) return;
+  word_ = word;
+  viewport()->update();
+}
+
+void EditorPane::focusInEvent(QFocusEvent* event) {
+  PaneView::focusInEvent(event);
+  CaretMoved();
+  viewport()->update();
+}
+
+void EditorPane::focusOutEvent(QFocusEvent* event) {
+  PaneView::focusOutEvent(event);
+  viewport()->update();
+}
+
+// Painting.
+
+QColor EditorPane::Tint(const QColor& ink, int percent) const {
+  const QColor base = palette().color(QPalette::Base);
+  const auto mix = [percent](int from, int to) { return from + (to - from) * percent / 100; };
+  return {mix(base.red(), ink.red()), mix(base.green(), ink.green()), mix(base.blue(), ink.blue())};
+}
+
+void EditorPane::PaintBehind(QPainter& painter, const QTextBlock& block, const QPointF& offset) const {
+  if (settings_.CurrentLine != 0 && hasFocus() && block.blockNumber() == marks_.line) {
+    QRectF band = blockBoundingRect(block).translated(offset);
+    band.setLeft(0);
+    band.setRight(viewport()->width());
+    painter.fillRect(band, Tint(InkOf(kBlack), kLineTint));
+  }
+  if (!word_.empty() && settings_.OtherPlaces != 0) PaintPlaces(painter, block, offset);
+  if (!hasFocus()) return;
+  PaintBracket(painter, block, offset, marks_.brackets.opening);
+  PaintBracket(painter, block, offset, marks_.brackets.closing);
+}
+
+void EditorPane::PaintPlaces(QPainter& painter, const QTextBlock& block, const QPointF& offset) const {
+  const std::size_t start = PanePosition(block.position());
+  const auto length = static_cast<std::size_t>(block.length() - 1);
+  // Somebody who heard of an edit sooner may have the window painted before the edit is shown.
+  if (start + length > pane().Characters().size()) return;
+  const std::string_view text = pane().Characters().substr(start, length);
+  const Range seen = ExposedPart(painter, block, offset);
+  const QColor tint = Tint(palette().color(QPalette::Active, QPalette::Highlight), kWordTint);
+  for (std::size_t at = WordAt(text, seen.start).start; at < seen.End(); at += word_.size()) {
+    at = FindWord(text, word_, at, seen.End());
+    if (at >= seen.End()) return;
+    if (start + at == marks_.word.start && hasFocus()) continue;
+    ForEachPlace(painter, block, offset, {at, word_.size()},
+                 [&](const QRectF& place) { painter.fillRect(place, tint); });
+  }
+}
+
+/// A bracket without another one is framed in a colour of its own.
+void EditorPane::PaintBracket(QPainter& painter, const QTextBlock& block, const QPointF& offset,
+                              Range bracket) const {
+  const std::size_t start = PanePosition(block.position());
+  if (bracket.length == 0 || bracket.start < start) return;
+  if (bracket.End() > start + static_cast<std::size_t>(block.length() - 1)) return;
+  const bool alone = marks_.brackets.opening.length == 0 || marks_.brackets.closing.length == 0;
+  const QColor ink = alone ? ToScreenColour(kAlone) : palette().color(QPalette::Active, QPalette::Highlight);
+  ForEachPlace(painter, block, offset, {bracket.start - start, bracket.length}, [&](const QRectF& place) {
+    painter.setPen(ink);
+    painter.setBrush(Tint(ink, alone ? 0 : kBracketTint));
+    painter.drawRect(place.adjusted(0, 0, -1, -1));
+  });
+}
+
+}  // namespace tarvik::screen

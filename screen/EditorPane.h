@@ -1,0 +1,63 @@
+// A pane of the editor, with what makes it easy to find one's way in a file: line numbers, the current line,
+// brackets that belong together, other places of a word, lines that have changed. All of it is painted, and
+// is in no text; each can be switched off.
+#pragma once
+
+#include "app/Editor.h"
+#include "screen/widgets/PaneView.h"
+#include "text/Words.h"
+
+namespace tarvik::screen {
+
+class EditorPane : public PaneView {
+ public:
+  EditorPane(Editor& editor, Workbench& workbench, const Document& document, Bindings& bindings,
+             QWidget* parent);
+
+  /// Marks the places of a word, whichever of the files it was found in.
+  void MarkWord(const std::string& word);
+  /// The caret has come to another word, or to none. The pane has the focus.
+  std::function<void(const std::string&)> wordChanged = [](const std::string&) {};
+
+ protected:
+  [[nodiscard]] QFont TextFont() const override;
+  [[nodiscard]] qreal TabDistance() const override;
+  void PaintBehind(QPainter& painter, const QTextBlock& block, const QPointF& offset) const override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  class Margin;
+
+  /// What is marked because of where the caret is.
+  struct Marks {
+    int line = 0;
+    BracketPair brackets;
+    Range word;  ///< not marked itself
+    friend bool operator==(const Marks&, const Marks&) = default;
+  };
+
+  void Follow();
+  void ShowMargin();
+  void CaretMoved();
+  [[nodiscard]] Marks MarksOfCaret() const;
+  [[nodiscard]] qreal Enlarged(qreal size) const;
+  void PaintPlaces(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
+  void PaintBracket(QPainter& painter, const QTextBlock& block, const QPointF& offset, Range bracket) const;
+  /// The background with so much of the ink in it.
+  [[nodiscard]] QColor Tint(const QColor& ink, int percent) const;
+
+  Editor& editor_;
+  Settings& settings_;
+  const Document& document_;
+  const ChangedLines& changes_;
+  Margin* margin_;
+  Marks marks_;
+  std::string word_;
+  int wheel_ = 0;  // what the wheel was turned with Ctrl, in eighths of a degree, that made no step yet
+};
+
+}  // namespace tarvik::screen

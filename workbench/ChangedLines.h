@@ -1,0 +1,29 @@
+// Which lines of the two files differ from what was last read or saved.
+#pragma once
+
+#include "text/LineChanges.h"
+#include "workbench/FileCommands.h"
+
+namespace tarvik {
+
+class ChangedLines {
+ public:
+  ChangedLines(Documents& documents, FileCommands& files);
+
+  [[nodiscard]] const LineChanges& Of(const Document& document) const {
+    return document.IsJoystick() ? joystick_ : macro_;
+  }
+  /// Nothing of the document is changed any more.
+  Signal<const Document&> Begun;
+
+ private:
+  LineChanges& ChangesOf(const Document& document) { return document.IsJoystick() ? joystick_ : macro_; }
+  void Begin(const Document& document);
+  void Follow(const Document& document);
+
+  LineChanges joystick_;
+  LineChanges macro_;
+  std::vector<Connection> connections_;
+};
+
+}  // namespace tarvik
