@@ -27,6 +27,15 @@ void Press(QPlainTextEdit& edit) {
   edit.viewport()->repaint();
 }
 
+/// Until what the key changed is painted, and no more than that.
+void PressAndSee(QPlainTextEdit& edit) {
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+  QApplication::sendEvent(&edit, &down);
+  QKeyEvent up(QEvent::KeyRelease, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+  QApplication::sendEvent(&edit, &up);
+  QApplication::processEvents();
+}
+
 void PutCaretInTheMiddle(QPlainTextEdit& edit) {
   QTextCursor cursor = edit.textCursor();
   cursor.setPosition(edit.document()->characterCount() / 2);
@@ -75,6 +84,7 @@ void CompareTheComposer(Application& application, QPlainTextEdit& edit) {
 /// A program that shows a file of so many bytes, with its journals in a folder of the disk.
 class Typist {
  public:
+  [[nodiscard]] QPlainTextEdit& edit() const { return *edit_; }
   explicit Typist(std::size_t bytes) {
     files_.PutFolder("c:\\tarvik");
     files_.Put("c:\\my\\large.b50", JoystickFile(bytes));
@@ -119,6 +129,32 @@ void CompareTheJournal(std::size_t bytes, const std::string& size) {
   Report("key to paint with a journal, beside one without, " + size, sum, Goal::AtMost, 1.05);
 }
 
+/// With everything on that the editor shows beside the text; each window has the focus while it is typed in.
+void CompareTheKey(std::size_t bytes, const std::string& size) {
+  constexpr int kRounds = 25;
+  constexpr int kKeys = 20;
+  const Typist typist(bytes);
+  QPlainTextEdit bare;
+  bare.resize(typist.edit().size());
+  bare.setPlainText(typist.edit().toPlainText());
+  bare.show();
+  PutCaretInTheMiddle(bare);
+  const auto timeOf = [](QPlainTextEdit& edit) {
+    edit.activateWindow();
+    edit.setFocus();
+    QApplication::processEvents();
+    return TimeOf([&edit] { PressAndSee(edit); }, kKeys);
+  };
+  std::vector<Seconds> own;
+  std::vector<Seconds> peer;
+  for (int i = 0; i < kRounds; ++i) {
+    own.push_back(timeOf(typist.edit()));
+    peer.push_back(timeOf(bare));
+  }
+  Report("key as it is painted, beside a bare text edit, " + size, {Median(own), Median(peer)}, Goal::AtMost,
+         1.1);
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -146,6 +182,8 @@ int main(int count, char** arguments) {
 
   const Medians times = Measure([&] { Press(*own); }, [&] { Press(bare); }, 15);
   Report("key to paint in 1 MB, beside a bare text edit", times, Goal::AtMost, 2);
+  CompareTheKey(30'000, "30 KB");
+  CompareTheKey(1'000'000, "1 MB");
   CompareTheJournal(30'000, "30 KB");
   CompareTheJournal(1'000'000, "1 MB");
   CompareTheComposer(application, *own);

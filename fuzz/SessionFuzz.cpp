@@ -70,8 +70,6 @@ class User {
     if (bytes_.Below(32) == 31) ChangeTheDisk();
     RequireSound(application_.editor().Joystick);
     RequireSound(application_.editor().Macro);
-    RequireSaved(application_.editor().Joystick);
-    RequireSaved(application_.editor().Macro);
   }
 
  private:
@@ -81,11 +79,9 @@ class User {
     program_.files().FailAfter(room);
   }
 
-  /// What another program or the other document wrote to its path is none of its own.
-  void RequireSaved(Document& document) {
-    if (document.Dirty != saved::kSaved || document.IsUntitled()) return;
+  /// At once: undo makes a saved text another one, and it counts as saved all the same.
+  void RequireSaved(const Document& document) {
     if (application_.workbench.notices.Of(document)) return;
-    if (document.seen.Look(program_.files(), document.Path.Get()) != OnDisk::AsSeen) return;
     const std::string inFile = program_.files().Content(document.Path.Get()).value_or("");
     if (LooksLikeRtf(inFile) || WithPaneLineBreaks(inFile) == document.text.Characters()) return;
     std::abort();
@@ -198,6 +194,10 @@ class User {
   FuzzDialogs dialogs_;
   UnstartedProgram program_{"", {.dialogs = &dialogs_}};
   Application& application_ = program_.application;
+  Connection written_ = application_.workbench.files.Written.Connect(
+      [this](const Document& document, const Outcome<>& written) {
+        if (written) RequireSaved(document);
+      });
   std::unique_ptr<session::Driver> driver_ = session::MakeFormDriver(application_);
 };
 

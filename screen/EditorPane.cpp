@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QTextBlock>
 #include <algorithm>
-#include <cmath>
+#include <utility>
 
 #include "screen/widgets/Conversions.h"
 #include "text/CodePage.h"
@@ -95,8 +95,7 @@ class EditorPane::Margin : public QWidget {
   void PaintChange(QPainter& painter, const QTextBlock& block, const QRectF& place) const {
     const LineChanges& changes = pane_.changes_.Of(pane_.document_);
     const auto line = static_cast<std::size_t>(block.blockNumber());
-    const Colour background = FromScreenColour(pane_.palette().color(QPalette::Base));
-    const QColor colour = ToScreenColour(WithContrast(kChanged, background, kVisible));
+    const QColor& colour = pane_.barColour_;
     const int left = width() - kBar;
     if (changes.IsChanged(line)) painter.fillRect(QRectF(left, place.top(), kBar, place.height()), colour);
     const auto wedge = [&](qreal y) {
@@ -151,6 +150,7 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, const Document& doc
   bindings.Keep(workbench.changedLines.Begun.Connect([this](const Document& document) {
     if (&document == &document_) margin_->update();
   }));
+  ShowBars();
   Follow();
 }
 
@@ -178,9 +178,16 @@ void EditorPane::ShowMargin() {
   margin_->update();
 }
 
+void EditorPane::ShowBars() {
+  const Colour background = FromScreenColour(palette().color(QPalette::Base));
+  barColour_ = ToScreenColour(WithContrast(kChanged, background, kVisible));
+  margin_->update();
+}
+
 void EditorPane::changeEvent(QEvent* event) {
   PaneView::changeEvent(event);
   if (event->type() == QEvent::FontChange) ShowMargin();
+  if (event->type() == QEvent::PaletteChange) ShowBars();
 }
 
 void EditorPane::resizeEvent(QResizeEvent* event) {
@@ -231,31 +238,61 @@ EditorPane::Marks EditorPane::MarksOfCaret() const {
           settings_.OtherPlaces != 0 && inWord ? word : Range()};
 }
 
+/// No more is painted anew than looks another way, since this is part of every key.
 void EditorPane::CaretMoved() {
-  const Marks marks = MarksOfCaret();
-  if (marks != marks_) {
-    marks_ = marks;
-    viewport()->update();
-    margin_->update();
+  const Marks before = std::exchange(marks_, MarksOfCaret());
+  if (before != marks_) {
+    Update(before);
+    Update(marks_);
   }
-  if (hasFocus()) wordChanged(std::string(pane().Characters().substr(marks.word.start, marks.word.length)));
+  const Range word = marks_.word;
+  if (hasFocus()) wordChanged(std::string(pane().Characters().substr(word.start, word.length)));
+}
+
+void EditorPane::Update(const Marks& marks) {
+  UpdateLine(marks.line);
+  for (const Range& bracket : {marks.brackets.opening, marks.brackets.closing}) {
+    if (bracket.length > 0) UpdateLine(document()->findBlock(DocumentPosition(bracket.start)).blockNumber());
+  }
 }
 
 void EditorPane::MarkWord(const std::string& word) {
   if (word_ == word) return;
+  UpdatePlaces();
   word_ = word;
-  viewport()->update();
+  UpdatePlaces();
+}
+
+void EditorPane::UpdateLine(int line) {
+  const QTextBlock block = document()->findBlockByNumber(line);
+  if (!block.isValid()) return;
+  const QRect place = blockBoundingGeometry(block).translated(contentOffset()).toAlignedRect();
+  viewport()->update(0, place.top(), viewport()->width(), place.height());
+  margin_->update(0, viewport()->y() + place.top(), margin_->width(), place.height());
+}
+
+void EditorPane::UpdatePlaces() {
+  const std::string_view text = pane().Characters();
+  if (word_.empty()) return;
+  int top = static_cast<int>(contentOffset().y());
+  for (QTextBlock block = firstVisibleBlock(); block.isValid() && top < viewport()->height();
+       block = block.next()) {
+    const std::size_t start = std::min(PanePosition(block.position()), text.size());
+    const std::size_t end = std::min(start + static_cast<std::size_t>(block.length() - 1), text.size());
+    if (FindWord(text, word_, start, end) < end) UpdateLine(block.blockNumber());
+    top += static_cast<int>(blockBoundingRect(block).height());
+  }
 }
 
 void EditorPane::focusInEvent(QFocusEvent* event) {
   PaneView::focusInEvent(event);
   CaretMoved();
-  viewport()->update();
+  Update(marks_);
 }
 
 void EditorPane::focusOutEvent(QFocusEvent* event) {
   PaneView::focusOutEvent(event);
-  viewport()->update();
+  Update(marks_);
 }
 
 // Painting.

@@ -42,7 +42,14 @@ class EditorPane : public PaneView {
 
   void Follow();
   void ShowMargin();
+  void ShowBars();
   void CaretMoved();
+  /// Has a line painted anew, in the margin too.
+  void UpdateLine(int line);
+  /// Has the lines painted anew in which something is marked.
+  void Update(const Marks& marks);
+  /// Has the lines on show painted anew in which the marked word stands.
+  void UpdatePlaces();
   [[nodiscard]] Marks MarksOfCaret() const;
   [[nodiscard]] qreal Enlarged(qreal size) const;
   void PaintPlaces(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
@@ -55,6 +62,7 @@ class EditorPane : public PaneView {
   const Document& document_;
   const ChangedLines& changes_;
   Margin* margin_;
+  QColor barColour_;  // of changed lines
   Marks marks_;
   std::string word_;
   int wheel_ = 0;  // what the wheel was turned with Ctrl, in eighths of a degree, that made no step yet

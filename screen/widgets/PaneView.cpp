@@ -290,7 +290,6 @@ void PaneView::TakeOver(const NativeChange& change) {
     expected_ = {range.start, RichText(std::string(before.substr(range.start, range.length))),
                  RichText(inserted)};
     pane_.UserReplaced(range, inserted);
-    viewport()->update();
   }
   TakeSelection();
 }

@@ -19,6 +19,10 @@ constexpr int kOverhang = 2;          // characters beside the exposed ones whos
 std::pair<std::size_t, std::size_t> Exposed(const QTextLine& line, const QRectF& place) {
   const int begin = line.textStart();
   const int end = begin + line.textLength();
+  const QRectF ink = line.naturalTextRect();
+  if (place.left() <= ink.left() && place.right() >= ink.right()) {
+    return {static_cast<std::size_t>(begin), static_cast<std::size_t>(end)};
+  }
   const int first = std::clamp(line.xToCursor(place.left()) - kOverhang, begin, end);
   const int last = std::clamp(line.xToCursor(place.right()) + kOverhang, begin, end);
   return {static_cast<std::size_t>(first), static_cast<std::size_t>(last)};
