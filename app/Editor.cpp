@@ -46,6 +46,7 @@ Editor::Editor(Application& application)
       Timer1(application.workbench.autoSave.timer),
       TimerBlinkLine(application.workbench.blink.timer),
       notice(*this, application.workbench, [this] { layout_.Place(); }),
+      find(*this, application.workbench, [this] { layout_.Place(); }),
       menus(*this, tables::kMenus),
       popUps(*this, tables::kPopUps),
       Joystick(application.workbench.documents.joystick),
@@ -54,8 +55,8 @@ Editor::Editor(Application& application)
       bench_(application.workbench),
       mum_(application.mum()),
       savedStates_(bench_.documents, mum_),
-      layout_(bench_.documents,
-              {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros, mnuViewTileVertically, notice}),
+      layout_(bench_.documents, {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros,
+                                 mnuViewTileVertically, notice, find}),
       input_(bench_.documents, menus, popUps,
              {[this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); },
               [this](const Document& document) { return FindNext(document); }}),
@@ -79,6 +80,8 @@ void Editor::SetUpControls() {
   TabStrip1.Tabs(2).Image = kNormalTabImage;
   TabStrip1.Click = [this] { TabStrip1_Click(); };
   FrameMacros.Caption = "Macros";
+  RenewMacros.ToolTipText = "The macro file has changed since the list was made: update it (Ctrl+U)";
+  RenewMacros.Click = [this] { mnuEditUpdateMacros_Click(); };
   FrameMacros.MouseDown = [this](const Mouse&) { FrameMacros_MouseDown(); };
   FrameMacros.MouseMove = [this](const Mouse& mouse) { FrameMacros_MouseMove(mouse); };
   FrameMacros.DblClick = [this] { FrameMacros_DblClick(); };
@@ -125,6 +128,7 @@ void Editor::Form_Load(EditorBegins begins) {
   savedStates_.Follow();
   FollowWorkbench();
   ShowViewSwitches();
+  FollowMacroLists();
   bench_.documents.Busy = true;
   values.PreferencesTab = 0;
   bench_.settings.GetColours();
@@ -183,6 +187,19 @@ void Editor::FollowWorkbench() {
       bench_.HardwareSettingsChanged.Connect([this] { HardwareHasChanged(); }),
       bench_.FontSettingsChanged.Connect([this] { DamnFontWasChanged(); }),
   };
+}
+
+/// The file is read behind the analysis of it.
+void Editor::FollowMacroLists() {
+  const auto isRenewed = [this] { RenewMacros.Visible = false; };
+  connections_.push_back(bench_.macros.Renewed.Connect(isRenewed));
+  connections_.push_back(bench_.files.WasRead.Connect([this, isRenewed](const Document& document) {
+    if (!document.IsJoystick()) isRenewed();
+  }));
+  connections_.push_back(MacroText.Edited.Connect([this](const PaneEdit& edit) {
+    if (!edit.OnlyColours()) RenewMacros.Visible = bench_.macros.HasLists();
+  }));
+  isRenewed();
 }
 
 void Editor::ShowViewSwitches() {

@@ -30,9 +30,12 @@ class Editor : public Form {
   ComboBox& Combo1;
   ControlArray<ListBox>& List1;
   ControlArray<CommandButton> Command1{*this, "Command1", kModifierButtons};
+  /// There while the macro lists are older than the macro file.
+  CommandButton RenewMacros{*this, "RenewMacros", "Update macros"};
   Timer& Timer1;
   Timer& TimerBlinkLine;
   NoticeBar notice;
+  FindBar find;
   Menus menus;
   /// The pop-up menus: the panes', and the macro lists'.
   Menus popUps;
@@ -134,6 +137,7 @@ class Editor : public Form {
   void mnuEditDelete_Click() { bench_.edit.Delete(); }
   void mnuEditSelectAll_Click();
   void mnuEditFind_Click() { application_.Show(ToolId::Find); }
+  void mnuEditFindAsYouType_Click() { find.Open(); }
   void mnuEditReplace_Click();
   void mnuEditGoto_Click();
   /// Fits menus and toolbar to the selection of the file on top, and to the clipboard.
@@ -264,6 +268,7 @@ class Editor : public Form {
 
   void FollowWorkbench();
   void ShowViewSwitches();
+  void FollowMacroLists();
 
   Application& application_;
   Workbench& bench_;

@@ -68,6 +68,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuEditSelectAll", "Select &all", "Ctrl+A", &Editor::mnuEditSelectAll_Click},
     {1, "mnuEditDivider2", "-"},
     {1, "mnuEditFind", "&Find ...", "Ctrl+F", &Editor::mnuEditFind_Click},
+    {1, "mnuEditFindAsYouType", "Find as you t&ype", "Ctrl+Shift+F", &Editor::mnuEditFindAsYouType_Click},
     {1, "mnuEditReplace", "R&eplace ...", "Ctrl+R", &Editor::mnuEditReplace_Click},
     {1, "mnuEditGoto", "&Go to line ...", "Ctrl+G", &Editor::mnuEditGoto_Click},
     {1, "mnuEditDivider3", "-"},

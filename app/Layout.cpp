@@ -87,11 +87,21 @@ float Layout::PlaceNotice() {
   return top + notice.Height();
 }
 
+float Layout::PlaceFindBar() {
+  const TabStrip& strip = documents_.tabs;
+  const float bottom = strip.Top + strip.Height - kPaneBottom + kPaneTop;
+  Frame& bar = controls_.find.frame;
+  if (!bar.Visible) return bottom;
+  const float top = bottom - FindBar::Height();
+  bar.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, FindBar::Height());
+  return top;
+}
+
 void Layout::PositionControls() {
   PlaceTabStrip();
   const TabStrip& strip = documents_.tabs;
   const float top = PlaceNotice();
-  const float height = strip.Top + strip.Height - kPaneBottom + kPaneTop - top;
+  const float height = PlaceFindBar() - top;
   for (Document* document : {&documents_.joystick, &documents_.macro}) {
     document->text.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, height);
   }
@@ -103,7 +113,7 @@ void Layout::ShowBothFiles() {
   const TabStrip& strip = documents_.tabs;
   const float half = strip.Width / 2;
   const float top = PlaceNotice();
-  const float height = strip.Top + strip.Height - kPaneBottom + kPaneTop - top;
+  const float height = PlaceFindBar() - top;
   documents_.joystick.text.Move(strip.Left + kPaneLeft, top, half - 4, height);
   documents_.macro.text.Move(strip.Left + half, top, half - 4, height);
   ShowPanes();

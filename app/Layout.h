@@ -3,6 +3,7 @@
 // twips.
 #pragma once
 
+#include "app/FindBar.h"
 #include "app/NoticeBar.h"
 
 namespace tarvik {
@@ -28,6 +29,7 @@ struct LayoutControls {
   MenuItem& viewMacros;
   MenuItem& tile;
   NoticeBar& notice;
+  FindBar& find;
 };
 
 class Layout {
@@ -52,6 +54,8 @@ class Layout {
   void PlaceTabStrip();
   /// Where the panes begin, below the bar of the notices where there is one.
   float PlaceNotice();
+  /// Where the panes end, above the bar of the search where there is one.
+  float PlaceFindBar();
   void PlaceFrame();
   [[nodiscard]] float FrameWidth() const;
 

@@ -88,6 +88,8 @@ Mum::Mum(Application& application)
   busy_ = bench_.documents.Busy.Changed.Connect(
       [this] { MousePointer = bench_.documents.Busy ? pointer::kHourglass : pointer::kDefault; });
   Caption = "Tarvik";
+  EmptyText.Caption = "The editor is closed; no file is open.";
+  EmptyText.BackColor = ToggleLabel::kOff;
   BeginStatus();
   ProgressBar1.Visible = false;
   Toolbar1.Visible = false;

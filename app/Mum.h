@@ -19,6 +19,9 @@ class Mum : public Form {
   tarvik::StatusBar& StatusBar;
   ProgressBar& ProgressBar1;
   PictureBox& Picture1;
+  // What stands in the editor's place while there is none.
+  Label EmptyText{*this, "EmptyText"};
+  CommandButton EmptyEditor{*this, "EmptyEditor", "Open the editor", &Mum::mnuMumAppsEditor_Click};
   Menus menus;
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }

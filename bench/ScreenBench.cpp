@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 
 #include "Compare.h"
 #include "Samples.h"
@@ -153,6 +154,16 @@ void CompareTheKey(std::size_t bytes, const std::string& size) {
   }
   Report("key as it is painted, beside a bare text edit, " + size, {Median(own), Median(peer)}, Goal::AtMost,
          1.1);
+  const auto page = [](QPlainTextEdit& edit) {
+    return [&edit] {
+      for (const auto step : {QScrollBar::SliderPageStepAdd, QScrollBar::SliderPageStepSub}) {
+        edit.verticalScrollBar()->triggerAction(step);
+        QApplication::processEvents();
+      }
+    };
+  };
+  Report("scrolling a page, beside a bare text edit, " + size, Measure(page(typist.edit()), page(bare)),
+         Goal::AtMost, 1.2);
 }
 
 }  // namespace

@@ -21,12 +21,14 @@ constexpr std::size_t kShortestWord = 2;
 constexpr std::string_view kRemark = "rem";  // which stands in nearly every line of a tidy file
 constexpr double kVisible = 3;  // the contrast of a mark, by the guidelines that `kReadable` is from
 constexpr Colour kChanged = Rgb(217, 138, 0);
+constexpr Colour kHit = Rgb(255, 150, 0);
 constexpr Colour kAlone = Rgb(210, 40, 40);  // a bracket
 
 // How strong the tints are, in per cent.
 constexpr int kMarginTint = 4;
 constexpr int kLineTint = 6;
 constexpr int kWordTint = 28;
+constexpr int kHitTint = 45;
 constexpr int kBracketTint = 45;
 constexpr int kNumberTint = 55;
 
@@ -131,8 +133,10 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, const Document& doc
     : PaneView(document.text, bindings, parent),
       editor_(editor),
       settings_(workbench.settings),
+      documents_(workbench.documents),
       document_(document),
       changes_(workbench.changedLines),
+      search_(workbench.search),
       margin_(new Margin(*this)) {
   for (Property<int>* const option : {&settings_.LineNumbers, &settings_.ChangedLines}) {
     bindings.Bind(*option, [this] { ShowMargin(); });
@@ -150,6 +154,7 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, const Document& doc
   bindings.Keep(workbench.changedLines.Begun.Connect([this](const Document& document) {
     if (&document == &document_) margin_->update();
   }));
+  bindings.Keep(workbench.search.Changed.Connect([this] { viewport()->update(); }));
   ShowBars();
   Follow();
 }
@@ -246,7 +251,7 @@ void EditorPane::CaretMoved() {
     Update(marks_);
   }
   const Range word = marks_.word;
-  if (hasFocus()) wordChanged(std::string(pane().Characters().substr(word.start, word.length)));
+  if (IsOnTop()) wordChanged(std::string(pane().Characters().substr(word.start, word.length)));
 }
 
 void EditorPane::Update(const Marks& marks) {
@@ -311,6 +316,7 @@ void EditorPane::PaintBehind(QPainter& painter, const QTextBlock& block, const Q
     painter.fillRect(band, Tint(InkOf(kBlack), kLineTint));
   }
   if (!word_.empty() && settings_.OtherPlaces != 0) PaintPlaces(painter, block, offset);
+  if (search_.Count() > 0) PaintHits(painter, block, offset);
   if (!hasFocus()) return;
   PaintBracket(painter, block, offset, marks_.brackets.opening);
   PaintBracket(painter, block, offset, marks_.brackets.closing);
@@ -327,8 +333,23 @@ void EditorPane::PaintPlaces(QPainter& painter, const QTextBlock& block, const Q
   for (std::size_t at = WordAt(text, seen.start).start; at < seen.End(); at += word_.size()) {
     at = FindWord(text, word_, at, seen.End());
     if (at >= seen.End()) return;
-    if (start + at == marks_.word.start && hasFocus()) continue;
+    if (start + at == marks_.word.start && IsOnTop()) continue;
     ForEachPlace(painter, block, offset, {at, word_.size()},
+                 [&](const QRectF& place) { painter.fillRect(place, tint); });
+  }
+}
+
+void EditorPane::PaintHits(QPainter& painter, const QTextBlock& block, const QPointF& offset) const {
+  const std::size_t start = PanePosition(block.position());
+  const Range seen = ExposedPart(painter, block, offset);
+  const std::vector<std::size_t>& hits = search_.HitsIn(document_);
+  const std::size_t length = search_.Length();
+  const std::size_t first = start + seen.start;
+  const QColor tint = Tint(ToScreenColour(kHit), kHitTint);
+  auto hit = std::lower_bound(hits.begin(), hits.end(), first - std::min(first, length));
+  for (; hit != hits.end() && *hit < start + seen.End(); ++hit) {
+    if (*hit < start) continue;
+    ForEachPlace(painter, block, offset, {*hit - start, length},
                  [&](const QRectF& place) { painter.fillRect(place, tint); });
   }
 }

@@ -16,7 +16,7 @@ class EditorPane : public PaneView {
 
   /// Marks the places of a word, whichever of the files it was found in.
   void MarkWord(const std::string& word);
-  /// The caret has come to another word, or to none. The pane has the focus.
+  /// The caret of the file on top has come to another word, or to none.
   std::function<void(const std::string&)> wordChanged = [](const std::string&) {};
 
  protected:
@@ -44,6 +44,7 @@ class EditorPane : public PaneView {
   void ShowMargin();
   void ShowBars();
   void CaretMoved();
+  [[nodiscard]] bool IsOnTop() const { return &documents_.Active() == &document_; }
   /// Has a line painted anew, in the margin too.
   void UpdateLine(int line);
   /// Has the lines painted anew in which something is marked.
@@ -53,14 +54,17 @@ class EditorPane : public PaneView {
   [[nodiscard]] Marks MarksOfCaret() const;
   [[nodiscard]] qreal Enlarged(qreal size) const;
   void PaintPlaces(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
+  void PaintHits(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
   void PaintBracket(QPainter& painter, const QTextBlock& block, const QPointF& offset, Range bracket) const;
   /// The background with so much of the ink in it.
   [[nodiscard]] QColor Tint(const QColor& ink, int percent) const;
 
   Editor& editor_;
   Settings& settings_;
+  const Documents& documents_;
   const Document& document_;
   const ChangedLines& changes_;
+  const IncrementalSearch& search_;
   Margin* margin_;
   QColor barColour_;  // of changed lines
   Marks marks_;

@@ -58,6 +58,7 @@ EditorView::EditorView(Editor& editor, Workbench& workbench, Clock clock)
   MakeMacroFrame();
   MakeTabs();
   notice_ = new NoticeView(editor.notice, bindings_, this);
+  find_ = new FindView(editor.find, bindings_, this);
   MakePanes(workbench);
   OrderFocus();
   bindings_.Shows(editor, *this);
@@ -72,10 +73,10 @@ void EditorView::MakeMacroFrame() {
   auto* const categories = new QComboBox(frame);
   bindings_.Bind(editor_.Combo1, *categories);
   bindings_.Place(editor_.Combo1, *categories, Unit::Twip);
-  list_ = new ListStack(bindings_, tr("Macros"), Ticks::Offered);
-  list_->setParent(frame);
-  list_->Add(editor_.List1);
-  bindings_.Place(editor_.List1(0), *list_, Unit::Twip);
+  macros_ = new FilteredList(bindings_, tr("Macros"), Ticks::Offered, frame);
+  macros_->list().Add(editor_.List1);
+  macros_->Add(editor_.RenewMacros, "view-refresh");
+  bindings_.Place(editor_.List1(0), *macros_, Unit::Twip);
   for (int i = 0; i < Editor::kModifierButtons; ++i) {
     auto* const button = new QToolButton(frame);
     button->setFocusPolicy(Qt::TabFocus);
@@ -139,6 +140,8 @@ void EditorView::OrderFocus() {
   for (QWidget* const next : notice_->buttons()) setTabOrder(std::exchange(last, next), next);
   setTabOrder(last, panes_[0]);
   setTabOrder(panes_[0], panes_[1]);
+  last = panes_[1];
+  for (QWidget* const next : find_->parts()) setTabOrder(std::exchange(last, next), next);
 }
 
 void EditorView::PlaceTabs() {

@@ -5,9 +5,10 @@
 
 #include "app/Editor.h"
 #include "screen/EditorPane.h"
+#include "screen/FindView.h"
 #include "screen/FormView.h"
 #include "screen/NoticeView.h"
-#include "screen/widgets/ListStack.h"
+#include "screen/widgets/FilteredList.h"
 #include "screen/widgets/MenuBuilder.h"
 
 namespace tarvik::screen {
@@ -34,9 +35,10 @@ class EditorView : public QWidget, public FormView {
   Editor& editor_;
   std::vector<std::unique_ptr<QMenu>> menus_;
   std::vector<std::unique_ptr<QMenu>> popUps_;
-  ListStack* list_ = nullptr;
+  FilteredList* macros_ = nullptr;
   QTabBar* tabs_ = nullptr;
   NoticeView* notice_ = nullptr;
+  FindView* find_ = nullptr;
   EditorPane* panes_[2] = {};
 };
 

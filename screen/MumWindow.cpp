@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include "screen/WindowTitle.h"
+#include "screen/pages/FormLayout.h"
 #include "screen/services/LockKeys.h"
 #include "screen/widgets/Conversions.h"
 #include "screen/widgets/FileDrop.h"
@@ -30,6 +31,7 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
       application_(application),
       mum_(mum),
       area_(new QWidget),
+      empty_(new QWidget),
       closeChild_(new QToolButton(this)) {
   setMinimumSize(kSmallest);
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -42,7 +44,11 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   column->addWidget(area_, 1);
   auto* const filled = new QVBoxLayout(area_);
   filled->setContentsMargins(0, 0, 0, 0);
-  area_->setBackgroundRole(QPalette::Mid);
+  const FormLayout in(bindings_);
+  empty_->setLayout(Column({Stretch(), Row({Stretch(), in.Show(mum.EmptyText), Stretch()}),
+                            Row({Stretch(), in.Show(mum.EmptyEditor), Stretch()}), Stretch()}));
+  filled->addWidget(empty_);
+  area_->setBackgroundRole(QPalette::Window);
   area_->setAutoFillBackground(true);
   setCentralWidget(centre);
   setStatusBar(new StatusBarView(mum.StatusBar, mum.ProgressBar1, bindings_, this));
@@ -111,6 +117,7 @@ void MumWindow::ShowChild(QWidget& view, const std::vector<std::unique_ptr<QMenu
   closeChild_->show();
   child_ = &view;
   area_->layout()->addWidget(child_);
+  empty_->hide();
   child_->show();
 }
 
@@ -118,6 +125,7 @@ void MumWindow::RemoveChild() {
   menuBar()->clear();
   for (const auto& menu : menus_) menuBar()->addMenu(menu.get());
   closeChild_->hide();
+  empty_->show();
   if (!child_) return;
   child_->hide();
   std::exchange(child_, nullptr)->setParent(nullptr);

@@ -49,6 +49,7 @@ class MumWindow : public QMainWindow, public FormView {
   Mum& mum_;
   QWidget* area_;
   QWidget* child_ = nullptr;
+  QWidget* empty_;  // in the child's place while there is none
   QToolButton* closeChild_;
   std::vector<std::unique_ptr<QMenu>> menus_;
   QTimer settling_;             // runs while the window manager changes the window's state

@@ -5,8 +5,8 @@
 
 namespace tarvik {
 
-/// What the joystick file's background is at first, for which the other colours are chosen; the macro file's is
-/// lighter.
+/// What the joystick file's background is at first, for which the other colours are chosen; the macro file's
+/// is lighter.
 inline constexpr Colour kUsualBackground{14285565};
 
 /// What small letters need, by the Web Content Accessibility Guidelines 2.2, section 1.4.3.

@@ -89,6 +89,16 @@ std::optional<std::size_t> SearchPattern::FindIn(const SearchableText& in, std::
   return {};
 }
 
+std::vector<std::size_t> FindAll(const SearchableText& in, std::string_view needle, int options) {
+  const SearchPattern pattern(needle, options);
+  std::vector<std::size_t> hits;
+  for (std::size_t from = 0; const auto hit = pattern.FindIn(in, from, in.text.size());) {
+    hits.push_back(*hit);
+    from = *hit + needle.size();
+  }
+  return hits;
+}
+
 std::optional<std::size_t> FindText(const SearchableText& in, std::string_view needle, std::size_t start,
                                     std::size_t end, int options) {
   if (start >= std::min(end, in.text.size())) return {};

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tarvik {
 
@@ -50,6 +51,10 @@ class SearchPattern {
   std::string needle_;  // in lower case unless case matters
   Marks marks_;
 };
+
+/// Where the hits begin, none of which reaches into the next one.
+[[nodiscard]] std::vector<std::size_t> FindAll(const SearchableText& in, std::string_view needle,
+                                               int options);
 
 /// One search for `needle`.
 [[nodiscard]] std::optional<std::size_t> FindText(const SearchableText& in, std::string_view needle,

@@ -45,6 +45,7 @@ void MacroLists::ClearAllForNewMacroFile() {
   panel.List1(0).Visible = true;
   documents_.values.SelectedCategoryList = 0;
   documents_.values.MacroListChanged = 1;
+  Renewed();
 }
 
 void MacroLists::Reset() {
@@ -83,6 +84,7 @@ void MacroLists::Fill(MacroAnalysis analysis) {
     list.Fill(std::move(category.macros));
   }
   panel.Combo1.Fill(headings_);
+  Renewed();
 }
 
 /// Selects "All". A list may bear that name too: each entry of the name is selected in turn.

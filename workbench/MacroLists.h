@@ -14,6 +14,11 @@ class MacroLists {
  public:
   explicit MacroLists(Documents& documents) : documents_(documents) {}
 
+  /// The lists were made from the macro file that is open now, or emptied.
+  Signal<> Renewed;
+  /// A macro file has been analysed.
+  [[nodiscard]] bool HasLists() const { return !headings_.empty(); }
+
   /// The lists as they are, for the editor to show.
   MacroListPanel panel{documents_, *this};
 

@@ -31,6 +31,7 @@ Workbench::Workbench(const Platform& services)
 void Workbench::Reset() {
   for (Timer* const timer : {&autoSave.timer, &blink.timer}) timer->Enabled = false;
   blink.Stop();
+  search.End();
   macros.Reset();
   files.Reset();
   documents.Reset();

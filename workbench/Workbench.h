@@ -6,6 +6,7 @@
 #include "workbench/ChangedLines.h"
 #include "workbench/EditCommands.h"
 #include "workbench/ForeignEncodings.h"
+#include "workbench/IncrementalSearch.h"
 #include "workbench/LineBlink.h"
 #include "workbench/LoggedDesktop.h"
 #include "workbench/LoggedPrograms.h"
@@ -44,6 +45,7 @@ class Workbench {
   Versions versions{documents};
   FileCommands files{documents, copies, highlighter, macros, lists, versions};
   ChangedLines changedLines{documents, files};
+  IncrementalSearch search{documents};
   Notices notices;
   ForeignChanges foreign{documents, files, insertion, notices};
   ForeignEncodings encodings{documents, files, insertion, notices};

@@ -18,8 +18,8 @@
 #include "panes/Pane.h"
 #include "screen/widgets/Conversions.h"
 #include "screen/widgets/DeviceView.h"
+#include "screen/widgets/FilteredList.h"
 #include "screen/widgets/ImageView.h"
-#include "screen/widgets/ListStack.h"
 #include "screen/widgets/PaneView.h"
 #include "screen/widgets/PathLabel.h"
 #include "screen/widgets/PlotView.h"
@@ -268,8 +268,8 @@ QWidget* FormLayout::Place(Control& control, QWidget* shown, QWidget* area) cons
 }
 
 QWidget* FormLayout::Show(ControlArray<ListBox>& lists, const char* name, Ticks ticks) const {
-  auto* const view = new ListStack(bindings_, QString::fromUtf8(name), ticks);
-  view->Add(lists);
+  auto* const view = new FilteredList(bindings_, QString::fromUtf8(name), ticks);
+  view->list().Add(lists);
   return view;
 }
 

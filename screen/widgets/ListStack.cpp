@@ -77,7 +77,25 @@ void ListModel::SetItems(const std::vector<std::string>& items, std::vector<bool
   for (const std::string& item : items) items_ += ToScreen(item);
   ticks_ = std::move(ticks);
   colours_.clear();
+  filter_ = NameFilter(items);
+  rows_ = filter_.Matching(typed_);
   endResetModel();
+}
+
+void ListModel::Filter(const QString& typed) {
+  beginResetModel();
+  typed_ = FromScreen(typed);
+  rows_ = filter_.Matching(typed_);
+  endResetModel();
+}
+
+int ListModel::ItemOf(const QModelIndex& index) const {
+  return Has(index) ? rows_[static_cast<std::size_t>(index.row())] : -1;
+}
+
+QModelIndex ListModel::IndexOf(int item) const {
+  const auto row = std::lower_bound(rows_.begin(), rows_.end(), item);
+  return row == rows_.end() || *row != item ? QModelIndex() : index(static_cast<int>(row - rows_.begin()));
 }
 
 void ListModel::SetTicks(std::vector<bool> ticks) {
@@ -92,7 +110,7 @@ void ListModel::SetColours(const std::vector<Colour>& colours) {
 }
 
 void ListModel::Changed(int role) {
-  if (!items_.isEmpty()) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {role});
+  if (!rows_.empty()) Q_EMIT dataChanged(index(0), index(rowCount() - 1), {role});
 }
 
 bool ListModel::Has(const QModelIndex& index) const {
@@ -100,16 +118,17 @@ bool ListModel::Has(const QModelIndex& index) const {
 }
 
 int ListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(items_.size());
+  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
 QVariant ListModel::data(const QModelIndex& index, int role) const {
   if (!Has(index)) return {};
-  if (role == Qt::DisplayRole) return items_.at(index.row());
-  const auto row = static_cast<std::size_t>(index.row());
-  if (role == Qt::DecorationRole && row < colours_.size()) return colours_[row];
+  const int item = ItemOf(index);
+  if (role == Qt::DisplayRole) return items_.at(item);
+  const auto at = static_cast<std::size_t>(item);
+  if (role == Qt::DecorationRole && at < colours_.size()) return colours_[at];
   if (role != Qt::CheckStateRole || !canTick_) return {};
-  return ticks_[row] ? Qt::Checked : Qt::Unchecked;
+  return ticks_[at] ? Qt::Checked : Qt::Unchecked;
 }
 
 Qt::ItemFlags ListModel::flags(const QModelIndex& index) const {
@@ -219,16 +238,27 @@ void ListStack::ShowItems() {
   ShowIndex();
 }
 
+void ListStack::Filter(const QString& typed) {
+  const QScopedValueRollback showing(showing_, true);
+  model_.Filter(typed);
+  ShowIndex();
+}
+
+void ListStack::Enter() {
+  setFocus();
+  if (!currentIndex().isValid()) setCurrentIndex(model_.index(0));
+}
+
 // The item in hand.
 
 void ListStack::ShowIndex() {
   const QScopedValueRollback showing(showing_, true);
-  setCurrentIndex(front_ ? model_.index(front_->ListIndex) : QModelIndex());
+  setCurrentIndex(front_ ? model_.IndexOf(front_->ListIndex) : QModelIndex());
 }
 
 void ListStack::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
   QListView::currentChanged(current, previous);
-  if (!showing_ && front_ && current.isValid()) front_->ListIndex = current.row();
+  if (!showing_ && front_ && current.isValid()) front_->ListIndex = model_.ItemOf(current);
 }
 
 void ListStack::mousePressEvent(QMouseEvent* event) {

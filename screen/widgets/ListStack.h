@@ -6,6 +6,7 @@
 #include <QListView>
 
 #include "screen/widgets/Binding.h"
+#include "text/NameFilter.h"
 
 namespace tarvik::screen {
 
@@ -18,6 +19,12 @@ class ListModel : public QAbstractListModel {
  public:
   explicit ListModel(Ticks ticks) : canTick_(ticks == Ticks::Offered) {}
   void SetItems(const std::vector<std::string>& items, std::vector<bool> ticks);
+  /// Shows no other items than those that contain what is typed, also of items that come later.
+  void Filter(const QString& typed);
+  /// The item in a row, and the row of an item: -1 where there is none.
+  [[nodiscard]] int ItemOf(const QModelIndex& index) const;
+  [[nodiscard]] QModelIndex IndexOf(int item) const;
+  [[nodiscard]] int Items() const { return static_cast<int>(items_.size()); }
   void SetTicks(std::vector<bool> ticks);
   /// None, or one beside each item.
   void SetColours(const std::vector<Colour>& colours);
@@ -31,6 +38,9 @@ class ListModel : public QAbstractListModel {
   void Changed(int role);
 
   QStringList items_;
+  NameFilter filter_;
+  std::string typed_;
+  std::vector<int> rows_;    // the items on show
   std::vector<bool> ticks_;  // one for each item
   std::vector<QColor> colours_;
   bool canTick_;
@@ -49,6 +59,12 @@ class ListStack : public QListView {
   void Add(ControlArray<ListBox>& lists);
   /// The list that is in front, or null.
   [[nodiscard]] const ListBox* Front() const { return front_; }
+  /// Shows no other items than those that contain what is typed.
+  void Filter(const QString& typed);
+  /// How many items there are, on show or not.
+  [[nodiscard]] int Items() const { return model_.Items(); }
+  /// The user comes to the list, to its first item on show where none is in hand.
+  void Enter();
 
  protected:
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <random>
 
@@ -97,6 +97,11 @@ TEST(SearchTest, ItFindsWhatALookAtEveryPlaceFinds) {
     }
   }
   EXPECT_GT(hits, 1000);
+}
+
+TEST(FindAll, FindsHitsThatDoNotReachIntoEachOther) {
+  EXPECT_THAT(FindAll({"aaaaa", "aaaaa"}, "aa", 0), testing::ElementsAre(0, 2));
+  EXPECT_THAT(FindAll({"a", "a"}, "", 0), testing::IsEmpty());
 }
 
 }  // namespace

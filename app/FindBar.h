@@ -1,0 +1,40 @@
+// The bar below the text that searches both files while somebody types what for.
+#pragma once
+
+#include "workbench/Workbench.h"
+
+namespace tarvik {
+
+class FindBar {
+ public:
+  /// Its controls are the form's; `place` is called when the bar comes or goes.
+  FindBar(Form& form, Workbench& bench, std::function<void()> place);
+
+  Frame frame;
+  TextBox text;
+  CheckBox matchCase;
+  CheckBox wholeWord;
+  Label count;
+  CommandButton previous;
+  CommandButton next;
+  CommandButton close;
+
+  /// Comes up, with the selected words to look for.
+  void Open();
+  /// Goes; the hit in hand stays selected.
+  void Close();
+  /// Goes, and so does the user: to where the search began.
+  void Cancel();
+  /// In pixels.
+  [[nodiscard]] static float Height() { return 38; }
+
+ private:
+  void LookFor();
+  void ShowCount();
+  void Go(void (IncrementalSearch::*step)());
+
+  Workbench& bench_;
+  std::vector<Connection> connections_;
+};
+
+}  // namespace tarvik

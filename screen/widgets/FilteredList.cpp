@@ -1,0 +1,74 @@
+#include "screen/widgets/FilteredList.h"
+
+#include <QBoxLayout>
+#include <QKeyEvent>
+
+#include "screen/widgets/Conversions.h"
+#include "screen/widgets/Icons.h"
+
+namespace tarvik::screen {
+
+FilteredList::FilteredList(Bindings& bindings, const QString& name, Ticks ticks, QWidget* parent)
+    : QWidget(parent),
+      bindings_(bindings),
+      line_(new QLineEdit),
+      count_(new QLabel),
+      list_(new ListStack(bindings, name, ticks)) {
+  constexpr int kGap = 4;
+  line_->setPlaceholderText(tr("Filter"));
+  line_->setAccessibleName(name + tr(", filter"));
+  line_->setToolTip(tr("Shows the macros whose names contain what you type"));
+  line_->setClearButtonEnabled(true);
+  line_->installEventFilter(this);
+  auto* const top = new QHBoxLayout;
+  top->setSpacing(kGap);
+  top->addWidget(line_, 1);
+  top->addWidget(count_);
+  auto* const all = new QVBoxLayout(this);
+  all->setContentsMargins(0, 0, 0, 0);
+  all->setSpacing(kGap);
+  all->addLayout(top);
+  all->addWidget(list_, 1);
+  connect(line_, &QLineEdit::textChanged, list_, [this](const QString& typed) { list_->Filter(typed); });
+  connect(list_->model(), &QAbstractItemModel::modelReset, count_, [this] { ShowCount(); });
+  setFocusProxy(list_);
+}
+
+void FilteredList::Add(CommandButton& button, const char* icon) {
+  auto* const view = new QToolButton;
+  view->setAutoRaise(true);
+  view->setFocusPolicy(Qt::TabFocus);
+  bindings_.Bind(button, *view);
+  view->setAccessibleName(view->text());
+  view->setIcon(Icon(icon));
+  view->setToolButtonStyle(Qt::ToolButtonIconOnly);
+  layout()->itemAt(0)->layout()->addWidget(view);
+}
+
+void FilteredList::ShowCount() {
+  const int all = list_->Items();
+  const int shown = list_->model()->rowCount();
+  const QString count = QString::number(all);
+  count_->setText(line_->text().isEmpty() ? (all > 0 ? count : QString())
+                                          : tr("%1 of %2").arg(QString::number(shown), count));
+}
+
+bool FilteredList::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != line_ || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+  switch (static_cast<QKeyEvent&>(*event).key()) {
+    case Qt::Key_Escape:
+      line_->clear();
+      return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageDown:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      list_->Enter();
+      return true;
+    default:
+      return false;
+  }
+}
+
+}  // namespace tarvik::screen

@@ -1,0 +1,35 @@
+// Lists with a line above them: what is typed there narrows the list that is in front.
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QToolButton>
+
+#include "screen/widgets/ListStack.h"
+
+namespace tarvik::screen {
+
+/// The arrow keys and Enter go from the line to the list, Escape clears the line.
+class FilteredList : public QWidget {
+ public:
+  FilteredList(Bindings& bindings, const QString& name, Ticks ticks, QWidget* parent = nullptr);
+
+  [[nodiscard]] ListStack& list() const { return *list_; }
+  [[nodiscard]] QLineEdit& line() const { return *line_; }
+  /// Puts a button behind the line.
+  void Add(CommandButton& button, const char* icon);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  /// "17 of 212".
+  void ShowCount();
+
+  Bindings& bindings_;
+  QLineEdit* line_;
+  QLabel* count_;
+  ListStack* list_;
+};
+
+}  // namespace tarvik::screen
