@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
       if (file.WithKeyword(keyword) != &*first) std::abort();
       const std::string beginning = keyword.substr(0, (keyword.size() + 1) / 2);
       const HelpTopic* const found = file.WithKeyword(beginning);
-      if (!found || !Has(found->keywords, beginning.substr(0, beginning.find_last_not_of(" \t") + 1)))
+      if (!found || !Has(found->keywords, beginning.substr(0, beginning.find_last_not_of(" \t\r\n") + 1)))
         std::abort();
     }
   }
