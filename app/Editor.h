@@ -171,6 +171,8 @@ class Editor : public Form {
   void mnuViewZoomIn_Click() { ZoomTo(bench_.settings.Zoom + zoom::kStep); }
   void mnuViewZoomOut_Click() { ZoomTo(bench_.settings.Zoom - zoom::kStep); }
   void mnuViewZoomNormal_Click() { ZoomTo(zoom::kNormal); }
+  void TileTo(float x) { layout_.TileTo(x); }
+  void TileEvenly() { layout_.TileEvenly(); }
   void FrameMacros_MouseDown() { HelpOnWhatsThis(topic::kMacroLists); }
   void FrameMacros_MouseMove(const Mouse& mouse) { layout_.FrameMouseMove(mouse); }
   void FrameMacros_DblClick() { mnuViewMacros_Click(); }

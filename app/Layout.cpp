@@ -13,6 +13,11 @@ constexpr float kPaneLeft = 3;
 constexpr float kPaneTop = 23;
 constexpr float kPaneRight = 3;
 constexpr float kPaneBottom = 22;
+constexpr float kTileGap = 4;
+
+// Shares of the tiled view.
+constexpr float kWhole = 1000;
+constexpr float kLeastTile = 0.15F;
 
 // Distances in the frame, in twips.
 constexpr float kMargin = 120;
@@ -111,12 +116,33 @@ void Layout::PositionControls() {
 void Layout::ShowBothFiles() {
   PlaceTabStrip();
   const TabStrip& strip = documents_.tabs;
-  const float half = strip.Width / 2;
+  const float edge = strip.Width * TileShare();
   const float top = PlaceNotice();
   const float height = PlaceFindBar() - top;
-  documents_.joystick.text.Move(strip.Left + kPaneLeft, top, half - 4, height);
-  documents_.macro.text.Move(strip.Left + half, top, half - 4, height);
+  documents_.joystick.text.Move(strip.Left + kPaneLeft, top, edge - kTileGap, height);
+  documents_.macro.text.Move(strip.Left + edge, top, strip.Width - edge - kTileGap, height);
   ShowPanes();
+}
+
+/// The stored share may be any number.
+float Layout::TileShare() const {
+  return std::clamp(static_cast<float>(documents_.settings.TileShare.Get()) / kWhole, kLeastTile,
+                    1 - kLeastTile);
+}
+
+void Layout::TileTo(float x) {
+  const TabStrip& strip = documents_.tabs;
+  Settings& settings = documents_.settings;
+  const float share =
+      std::clamp((x - strip.Left) / std::max(strip.Width.Get(), 1.0F), kLeastTile, 1 - kLeastTile);
+  settings.ChangeView(settings.TileShare, static_cast<int>(share * kWhole));
+  Place();
+}
+
+void Layout::TileEvenly() {
+  Settings& settings = documents_.settings;
+  settings.ChangeView(settings.TileShare, static_cast<int>(kWhole) / 2);
+  Place();
 }
 
 void Layout::ShowPanes() {

@@ -41,6 +41,9 @@ class Layout {
   void ToggleMacroFrame();
   void ShowMacroFrame();
   void ToggleTiled();
+  /// Puts the edge between the two files there in the tiled view, in pixels of the form.
+  void TileTo(float x);
+  void TileEvenly();
   /// In the single view only the pane of the selected tab is on show.
   void ShowPanes();
 
@@ -51,6 +54,7 @@ class Layout {
  private:
   void PositionControls();
   void ShowBothFiles();
+  [[nodiscard]] float TileShare() const;
   void PlaceTabStrip();
   /// Where the panes begin, below the bar of the notices where there is one.
   float PlaceNotice();

@@ -39,6 +39,8 @@ class EditorPane::Margin : public QWidget {
  public:
   explicit Margin(EditorPane& pane) : QWidget(&pane), pane_(pane) { setCursor(Qt::ArrowCursor); }
 
+  /// Where the text begins beside it.
+  [[nodiscard]] int TextTop() const { return pane_.viewport()->y() - y(); }
   [[nodiscard]] int Width() const {
     const bool numbers = pane_.settings_.LineNumbers != 0;
     const bool bars = pane_.settings_.ChangedLines != 0;
@@ -52,13 +54,13 @@ class EditorPane::Margin : public QWidget {
     QPainter painter(this);
     painter.fillRect(event->rect(), pane_.Tint(pane_.InkOf(kBlack), kMarginTint));
     painter.setFont(pane_.font());
-    const int left = event->rect().top() - pane_.viewport()->y();
-    const int end = event->rect().bottom() - pane_.viewport()->y();
+    const int begin = event->rect().top() - TextTop();
+    const int end = event->rect().bottom() - TextTop();
     QPointF offset = pane_.contentOffset();
     for (QTextBlock block = pane_.firstVisibleBlock(); block.isValid(); block = block.next()) {
       const QRectF place = pane_.blockBoundingRect(block).translated(offset);
       if (place.top() > end) break;
-      if (place.bottom() >= left) PaintBlock(painter, block, place.translated(0, pane_.viewport()->y()));
+      if (place.bottom() >= begin) PaintBlock(painter, block, place.translated(0, TextTop()));
       offset.ry() += place.height();
     }
   }
@@ -128,7 +130,46 @@ class EditorPane::Margin : public QWidget {
   QTextBlock first_;
 };
 
-EditorPane::EditorPane(Editor& editor, Workbench& workbench, const Document& document, Bindings& bindings,
+/// Above the text in the tiled view: the name of the file, marked where it is not saved, and a line while it
+/// is the file on top. A click puts it there.
+class EditorPane::Head : public QWidget {
+ public:
+  explicit Head(EditorPane& pane) : QWidget(&pane), pane_(pane) { setCursor(Qt::ArrowCursor); }
+
+  [[nodiscard]] int Height() const { return fontMetrics().height() + 2 * kGap; }
+  void Show() {
+    const bool modified = pane_.document_.Dirty == saved::kModified;
+    const QString name = ToScreen(pane_.documents_.TabOf(pane_.document_).Caption.Get());
+    setAccessibleName(modified ? name + u'*' : name);
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    const bool onTop = pane_.IsOnTop();
+    QFont font = painter.font();
+    font.setBold(onTop);
+    painter.setFont(font);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    painter.setPen(palette().color(QPalette::WindowText));
+    const QRect place = rect().adjusted(2 * kGap, 0, -2 * kGap, 0);
+    painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft,
+                     painter.fontMetrics().elidedText(accessibleName(), Qt::ElideMiddle, place.width()));
+    const QColor line = palette().color(QPalette::Active, onTop ? QPalette::Highlight : QPalette::Mid);
+    const int thick = onTop ? kLine : 1;
+    painter.fillRect(0, height() - thick, width(), thick, line);
+  }
+  void mousePressEvent(QMouseEvent* /*event*/) override { pane_.setFocus(); }
+
+ private:
+  static constexpr int kGap = 3;
+  static constexpr int kLine = 2;
+
+  EditorPane& pane_;
+};
+
+EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document, Bindings& bindings,
                        QWidget* parent)
     : PaneView(document.text, bindings, parent),
       editor_(editor),
@@ -137,7 +178,8 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, const Document& doc
       document_(document),
       changes_(workbench.changedLines),
       search_(workbench.search),
-      margin_(new Margin(*this)) {
+      margin_(new Margin(*this)),
+      head_(new Head(*this)) {
   for (Property<int>* const option : {&settings_.LineNumbers, &settings_.ChangedLines}) {
     bindings.Bind(*option, [this] { ShowMargin(); });
   }
@@ -154,6 +196,12 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, const Document& doc
   bindings.Keep(workbench.changedLines.Begun.Connect([this](const Document& document) {
     if (&document == &document_) margin_->update();
   }));
+  for (PropertyBase* const part :
+       std::initializer_list<PropertyBase*>{&document.Dirty, &workbench.documents.TabOf(document).Caption,
+                                            &workbench.documents.tabs.SelectedItem}) {
+    bindings.Bind(*part, [this] { head_->Show(); });
+  }
+  bindings.Bind(editor.mnuViewTileVertically.Checked, [this] { ShowHead(); });
   bindings.Keep(workbench.search.Changed.Connect([this] { viewport()->update(); }));
   ShowBars();
   Follow();
@@ -168,7 +216,7 @@ void EditorPane::Follow() {
     if (scrolled != 0) {
       margin_->scroll(0, scrolled);
     } else {
-      margin_->update(0, viewport()->y() + place.y(), margin_->width(), place.height());
+      margin_->update(0, margin_->TextTop() + place.y(), margin_->width(), place.height());
     }
   });
 }
@@ -179,8 +227,15 @@ void EditorPane::ShowMargin() {
   const int width = margin_->Width();
   margin_->setVisible(width > 0);
   SetSideWidth(width);
-  margin_->setGeometry(contentsRect().left(), contentsRect().top(), width, contentsRect().height());
+  const int top = contentsRect().top() + (head_->isHidden() ? 0 : head_->Height());
+  margin_->setGeometry(contentsRect().left(), top, width, contentsRect().bottom() + 1 - top);
   margin_->update();
+}
+
+void EditorPane::ShowHead() {
+  head_->setVisible(editor_.mnuViewTileVertically.Checked);
+  head_->setGeometry(contentsRect().left(), contentsRect().top(), contentsRect().width(), head_->Height());
+  SetHeadHeight(head_->isHidden() ? 0 : head_->Height());
 }
 
 void EditorPane::ShowBars() {
@@ -197,6 +252,7 @@ void EditorPane::changeEvent(QEvent* event) {
 
 void EditorPane::resizeEvent(QResizeEvent* event) {
   PaneView::resizeEvent(event);
+  ShowHead();
   ShowMargin();
 }
 
@@ -273,7 +329,7 @@ void EditorPane::UpdateLine(int line) {
   if (!block.isValid()) return;
   const QRect place = blockBoundingGeometry(block).translated(contentOffset()).toAlignedRect();
   viewport()->update(0, place.top(), viewport()->width(), place.height());
-  margin_->update(0, viewport()->y() + place.top(), margin_->width(), place.height());
+  margin_->update(0, margin_->TextTop() + place.top(), margin_->width(), place.height());
 }
 
 void EditorPane::UpdatePlaces() {

@@ -1,6 +1,6 @@
 // A pane of the editor, with what makes it easy to find one's way in a file: line numbers, the current line,
 // brackets that belong together, other places of a word, lines that have changed. All of it is painted, and
-// is in no text; each can be switched off.
+// is in no text; each can be switched off. In the tiled view a head above the text names the file.
 #pragma once
 
 #include "app/Editor.h"
@@ -11,8 +11,7 @@ namespace tarvik::screen {
 
 class EditorPane : public PaneView {
  public:
-  EditorPane(Editor& editor, Workbench& workbench, const Document& document, Bindings& bindings,
-             QWidget* parent);
+  EditorPane(Editor& editor, Workbench& workbench, Document& document, Bindings& bindings, QWidget* parent);
 
   /// Marks the places of a word, whichever of the files it was found in.
   void MarkWord(const std::string& word);
@@ -31,6 +30,7 @@ class EditorPane : public PaneView {
 
  private:
   class Margin;
+  class Head;
 
   /// What is marked because of where the caret is.
   struct Marks {
@@ -42,6 +42,7 @@ class EditorPane : public PaneView {
 
   void Follow();
   void ShowMargin();
+  void ShowHead();
   void ShowBars();
   void CaretMoved();
   [[nodiscard]] bool IsOnTop() const { return &documents_.Active() == &document_; }
@@ -66,6 +67,7 @@ class EditorPane : public PaneView {
   const ChangedLines& changes_;
   const IncrementalSearch& search_;
   Margin* margin_;
+  Head* head_;
   QColor barColour_;  // of changed lines
   Marks marks_;
   std::string word_;

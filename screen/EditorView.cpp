@@ -1,5 +1,6 @@
 #include "screen/EditorView.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
@@ -13,6 +14,13 @@ namespace {
 constexpr int kTabHeight = 23;
 constexpr int kCaptionTop = 3;
 constexpr int kCaptionLeft = 8;
+
+/// Four dots below each other where something can be dragged.
+void PaintGrip(QPainter& painter, const QPoint& centre, const QPalette& palette) {
+  for (const int dot : {-6, -2, 2, 6}) {
+    painter.fillRect(centre.x(), centre.y() + dot, 2, 2, palette.color(QPalette::Mid));
+  }
+}
 
 /// The macro frame: a caption, and a line along the edge that can be dragged.
 class FrameView : public QWidget {
@@ -34,15 +42,40 @@ class FrameView : public QWidget {
     QPainter painter(this);
     painter.drawText(QRect(kCaptionLeft, kCaptionTop, width() - 2 * kCaptionLeft, fontMetrics().height()),
                      Qt::AlignLeft | Qt::AlignTop, accessibleName());
-    painter.setPen(palette().color(QPalette::Mid));
-    const int centre = height() / 2;
-    for (const int dot : {-6, -2, 2, 6}) {
-      painter.fillRect(width() - kFrameGrip / 2 - 1, centre + dot, 2, 2, palette().color(QPalette::Mid));
-    }
+    PaintGrip(painter, {width() - kFrameGrip / 2 - 1, height() / 2}, palette());
   }
 
  private:
   Frame& frame_;
+};
+
+/// The edge between the two files in the tiled view, which can be dragged; a double click puts it in the
+/// middle.
+class SplitterView : public QWidget {
+ public:
+  static constexpr int kWidth = 6;
+
+  SplitterView(Editor& editor, QWidget* parent) : QWidget(parent), editor_(editor) {
+    setCursor(Qt::SplitHCursor);
+    setToolTip(tr("Drag to give one file more room; a double click shares it evenly"));
+    setAccessibleName(tr("Edge between the files"));
+  }
+
+ protected:
+  void mouseMoveEvent(QMouseEvent* event) override {
+    if (event->buttons() & Qt::LeftButton) {
+      editor_.TileTo(static_cast<float>(mapToParent(event->position()).x()));
+    }
+  }
+  void mouseDoubleClickEvent(QMouseEvent*) override { editor_.TileEvenly(); }
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    PaintGrip(painter, {width() / 2 - 1, height() / 2}, palette());
+  }
+
+ private:
+  Editor& editor_;
 };
 
 }  // namespace
@@ -75,7 +108,7 @@ void EditorView::MakeMacroFrame() {
   bindings_.Place(editor_.Combo1, *categories, Unit::Twip);
   macros_ = new FilteredList(bindings_, tr("Macros"), Ticks::Offered, frame);
   macros_->list().Add(editor_.List1);
-  macros_->Add(editor_.RenewMacros, "view-refresh");
+  macros_->Add(editor_.RenewMacros, "update-macros");
   bindings_.Place(editor_.List1(0), *macros_, Unit::Twip);
   for (int i = 0; i < Editor::kModifierButtons; ++i) {
     auto* const button = new QToolButton(frame);
@@ -123,6 +156,12 @@ void EditorView::MakePanes(Workbench& workbench) {
   }
   bindings_.Place(editor_.JoystickText, *panes_[0], Unit::Pixel);
   bindings_.Place(editor_.MacroText, *panes_[1], Unit::Pixel);
+  splitter_ = new SplitterView(editor_, this);
+  for (PropertyBase* const side : std::initializer_list<PropertyBase*>{
+           &editor_.MacroText.Left, &editor_.MacroText.Top, &editor_.MacroText.Height,
+           &editor_.mnuViewTileVertically.Checked}) {
+    bindings_.Bind(*side, [this] { PlaceSplitter(); });
+  }
   // On many keyboards the plus is above the equals sign.
   auto* const larger = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_Equal), this);
   connect(larger, &QShortcut::activated, this, [this] { editor_.mnuViewZoomIn_Click(); });
@@ -148,6 +187,15 @@ void EditorView::PlaceTabs() {
   const TabStrip& strip = editor_.TabStrip1;
   tabs_->setGeometry(ToPixels(strip.Left) + 2, ToPixels(strip.Top), ToPixels(strip.Width) - 4, kTabHeight);
   update();
+}
+
+/// Over the edges of both panes.
+void EditorView::PlaceSplitter() {
+  const Pane& right = editor_.MacroText;
+  splitter_->setVisible(editor_.mnuViewTileVertically.Checked);
+  splitter_->setGeometry(ToPixels(right.Left) - SplitterView::kWidth / 2 - 1, ToPixels(right.Top),
+                         SplitterView::kWidth, ToPixels(right.Height));
+  splitter_->raise();
 }
 
 void EditorView::resizeEvent(QResizeEvent* event) {

@@ -31,6 +31,7 @@ class EditorView : public QWidget, public FormView {
   void MakePanes(Workbench& workbench);
   void OrderFocus();
   void PlaceTabs();
+  void PlaceSplitter();
 
   Editor& editor_;
   std::vector<std::unique_ptr<QMenu>> menus_;
@@ -40,6 +41,7 @@ class EditorView : public QWidget, public FormView {
   NoticeView* notice_ = nullptr;
   FindView* find_ = nullptr;
   EditorPane* panes_[2] = {};
+  QWidget* splitter_ = nullptr;
 };
 
 }  // namespace tarvik::screen

@@ -1,5 +1,6 @@
 #include "workbench/Settings.h"
 
+#include <algorithm>
 #include <charconv>
 #include <variant>
 
@@ -66,23 +67,25 @@ constexpr Option kOptions[] = {
     {section::kView, &Settings::ChangedLines, "1"},
     {section::kView, &Settings::FixedPitch, "0"},
     {section::kView, &Settings::Zoom, "100"},
+    {section::kView, &Settings::TileShare, "500"},
 };
 
 struct ColourOption {
   Property<Colour> Settings::*member;
-  int factory;
+  Colour factory;
+  Colour dark;
 };
 
 // The default for a file without the key differs from the factory scheme on purpose.
 constexpr std::string_view kColourFallback = "16744448";
 constexpr ColourOption kColourOptions[] = {
-    {&Settings::BackgroundColour, static_cast<int>(NumberOf(kUsualBackground))},
-    {&Settings::BTNColour, 16711680},
-    {&Settings::SlashColour, 255},
-    {&Settings::RAWColour, 32768},
-    {&Settings::MiscellaneousColour, 12615680},
-    {&Settings::MacroBackgroundColour, 16645091},
-    {&Settings::RemStatements, 8421504},
+    {&Settings::BackgroundColour, kUsualBackground, Rgb(30, 32, 36)},
+    {&Settings::BTNColour, Colour{16711680}, Rgb(110, 170, 255)},
+    {&Settings::SlashColour, Colour{255}, Rgb(255, 125, 115)},
+    {&Settings::RAWColour, Colour{32768}, Rgb(125, 210, 125)},
+    {&Settings::MiscellaneousColour, Colour{12615680}, Rgb(90, 200, 225)},
+    {&Settings::MacroBackgroundColour, Colour{16645091}, Rgb(26, 34, 38)},
+    {&Settings::RemStatements, Colour{8421504}, Rgb(150, 150, 150)},
 };
 
 constexpr const char* kFontFallback = "Arial";
@@ -115,6 +118,11 @@ Outcome<int> ToLong(std::string_view text) {
 }
 
 int To16Bits(int value) { return static_cast<std::int16_t>(value); }
+
+Colour Settings::ColourIn(ColourScheme scheme, Property<Colour> Settings::*colour) {
+  const auto option = std::ranges::find(kColourOptions, colour, &ColourOption::member);
+  return scheme == ColourScheme::Dark ? option->dark : option->factory;
+}
 
 void Settings::GetOptions() {
   const Profile profile = file_.Read();
@@ -167,8 +175,7 @@ void Settings::GetColours() {
 }
 
 void Settings::ColoursSortOut() {
-  for (const ColourOption& option : kColourOptions)
-    this->*option.member = static_cast<Colour>(option.factory);
+  for (const ColourOption& option : kColourOptions) this->*option.member = option.factory;
   TextFontName = kFontFallback;
   TextFontSize = kFactoryFontSize;
   TextFontBold = 0;

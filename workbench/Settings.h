@@ -27,8 +27,14 @@ inline constexpr int kMost = 400;
 inline constexpr int kStep = 10;
 }  // namespace zoom
 
+/// The colours as they are at first, and others for a dark room.
+enum class ColourScheme { Light, Dark };
+
 class Settings : public Component {
  public:
+  /// One of its colours in a scheme.
+  [[nodiscard]] static Colour ColourIn(ColourScheme scheme, Property<Colour> Settings::*colour);
+
   Settings(ProfileFile& file, Errors& errors) : Component("Settings"), file_(file), errors_(errors) {}
 
   // FileLocations
@@ -92,7 +98,8 @@ class Settings : public Component {
   Property<int> OtherPlaces{*this, "OtherPlaces"};
   Property<int> ChangedLines{*this, "ChangedLines"};
   Property<int> FixedPitch{*this, "FixedPitch"};
-  Property<int> Zoom{*this, "Zoom"};  ///< per cent
+  Property<int> Zoom{*this, "Zoom"};            ///< per cent
+  Property<int> TileShare{*this, "TileShare"};  ///< of the joystick file in the tiled view, in thousandths
 
   /// Reads everything but the colour scheme; a missing file or key gives the default.
   void GetOptions();

@@ -43,7 +43,9 @@ QLayout* Colours(Preferences& form, const FormLayout& in) {
   list->setFixedWidth(170);
   QWidget* const example = Named(in.Show(form.ExampleJoystickText), QStringLiteral("Example"));
   example->setMinimumSize(360, 200);
-  return Column({Row({list, example}), in.Show(form.CheckBox1),
+  QLayout* const schemes =
+      Row({in.Show(form.CheckBox1), Stretch(), in.Show(form.LightScheme), in.Show(form.DarkScheme)});
+  return Column({Row({list, example}), schemes,
                  Group("Font", Row({in.Show(form.Command18), in.Show(form.CheckFixedPitch), Stretch(),
                                     in.Show(form.Command17)}))});
 }

@@ -107,6 +107,13 @@ void PaneView::SetSideWidth(int width) {
   ShowSide();
 }
 
+void PaneView::SetHeadHeight(int height) {
+  QMargins margins = viewportMargins();
+  margins.setTop(height + ShownFrom());
+  headHeight_ = height;
+  setViewportMargins(margins);
+}
+
 void PaneView::ShowSide() {
   QMargins margins = viewportMargins();
   margins.setLeft(std::max({0, pane_.SelIndent - kTextMargin, sideWidth_}));
@@ -257,13 +264,13 @@ void PaneView::BringCaretIntoSight() {
   const int lineHeight = std::max(1, cursorRect().height());
   const int wanted = verticalScrollBar()->value() + (line.center().y() - free.center().y()) / lineHeight;
   verticalScrollBar()->setValue(wanted);
-  if (wanted < 0) ShowFrom(viewportMargins().top() - wanted * lineHeight);
+  if (wanted < 0) ShowFrom(ShownFrom() - wanted * lineHeight);
 }
 
 void PaneView::ShowFrom(int top) {
+  if (ShownFrom() == top) return;
   QMargins margins = viewportMargins();
-  if (margins.top() == top) return;
-  margins.setTop(top);
+  margins.setTop(headHeight_ + top);
   setViewportMargins(margins);
 }
 

@@ -39,6 +39,8 @@ class PaneView : public QPlainTextEdit {
                            const QPointF& /*offset*/) const {}
   /// The text keeps so many pixels free at its left side.
   void SetSideWidth(int width);
+  /// And so many above it.
+  void SetHeadHeight(int height);
   /// The characters of a block that stand where something is being painted, counted from its beginning.
   static Range ExposedPart(const QPainter& painter, const QTextBlock& block, const QPointF& offset);
   /// Calls `take` with the place of each part of a block's characters that stands in one line and in what is
@@ -77,7 +79,9 @@ class PaneView : public QPlainTextEdit {
   void ShowSelection();
   void AskForSight();
   void BringCaretIntoSight();
+  /// The text begins so far below the head.
   void ShowFrom(int top);
+  [[nodiscard]] int ShownFrom() const { return viewportMargins().top() - headHeight_; }
   [[nodiscard]] bool CutsLineBreak(const PaneEdit& edit) const;
 
   // From the document to the pane.
@@ -99,6 +103,7 @@ class PaneView : public QPlainTextEdit {
   std::optional<PaneEdit> expected_;  // what the pane is about to announce of the document's own change
   std::optional<NativeChange> native_;
   int sideWidth_ = 0;
+  int headHeight_ = 0;
   mutable std::map<Colour, QColor> inks_;  // by the colours of the text
   bool scrollAsked_ = false;
   bool keyIsDown_ = false;  // the key was pressed here, and not in a window that has gone

@@ -28,7 +28,7 @@ bool EditsNatively(int letter) {
 
 bool PaneView::event(QEvent* event) {
   // The tool for which the text began lower may have gone.
-  if (event->type() == QEvent::FocusIn && viewportMargins().top() > 0) AskForSight();
+  if (event->type() == QEvent::FocusIn && ShownFrom() > 0) AskForSight();
   if (event->type() == QEvent::FocusOut) keyIsDown_ = false;
   if (event->type() == QEvent::ShortcutOverride && IsCtrlLetter(static_cast<QKeyEvent&>(*event))) {
     event->accept();  // the form has a table of its own for them

@@ -1,4 +1,4 @@
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "app/Layout.h"
 #include "app/Program.h"
@@ -56,6 +56,24 @@ TEST_F(LayoutTest, TiledThePanesShareTheStrip) {
   EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 196, 578}));
   editor.mnuViewTileVertically_Click();
   EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 394, 578}));
+}
+
+TEST_F(LayoutTest, TiledTheUserChoosesHowMuchEachFileGets) {
+  editor.mnuViewTileVertically_Click();
+  editor.TileTo(185 + 815 * 0.25F);
+  EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 199.75, 578}));
+  EXPECT_EQ(PlaceOf(editor.MacroText), (Place{388.75, 23, 607.25, 578}));
+  Settings& settings = program.application.workbench.settings;
+  EXPECT_EQ(settings.TileShare, 250);
+  EXPECT_THAT(program.files().Content("c:\\tarvik\\Tarvik.ini").value_or(""),
+              testing::HasSubstr("TileShare=250"));
+  editor.TileTo(-1000);
+  EXPECT_EQ(settings.TileShare, 150);
+  editor.TileEvenly();
+  EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 403.5, 578}));
+  settings.TileShare = 32000;
+  editor.Form_Resize();
+  EXPECT_GT(PlaceOf(editor.MacroText).width, 100);
 }
 
 TEST_F(LayoutTest, TheFrameIsFilledInTwips) {

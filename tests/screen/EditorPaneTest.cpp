@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include <QScrollBar>
+#include <QTest>
 #include <QTextBlock>
 #include <QWheelEvent>
 
@@ -233,6 +234,67 @@ TEST_F(EditorPaneTest, WhatIsOnShowStaysWhenLinesComeOrGoAboveIt) {
   pane.SelStart = pane.Characters().find("line 220");
   QApplication::processEvents();
   EXPECT_EQ(view.cursorRect().top(), before);
+}
+
+class TiledTest : public EditorPaneTest {
+ protected:
+  TiledTest() {
+    application.editor().mnuViewTileVertically_Click();
+    QApplication::processEvents();
+  }
+
+  /// A part of a widget, by what it is called when it is read out; null where it is not to be seen.
+  static QWidget* PartOf(const QWidget& whole, const char* name) {
+    for (QWidget* const part : whole.findChildren<QWidget*>()) {
+      if (part->isVisible() && part->accessibleName() == QLatin1String(name)) return part;
+    }
+    return nullptr;
+  }
+  static QColor LineOf(QWidget& head) {
+    return head.grab().toImage().pixelColor(head.width() / 2, head.height() - 1);
+  }
+
+  EditorPane& other = ProgramOnScreen::Find<EditorPane>(application.workbench.documents.macroText);
+};
+
+TEST_F(TiledTest, AHeadNamesEachFileAndMarksWhatIsNotSaved) {
+  EXPECT_TRUE(PartOf(view, "a.b50"));
+  EXPECT_TRUE(PartOf(other, "untitled.m50"));
+  QKeyEvent key(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+  QApplication::sendEvent(&view, &key);
+  EXPECT_TRUE(PartOf(view, "a.b50*"));
+  application.editor().mnuViewTileVertically_Click();
+  EXPECT_FALSE(PartOf(view, "a.b50*"));
+}
+
+TEST_F(TiledTest, TheHeadOfTheFileOnTopHasALineAndAClickOnTheOtherPutsThatThere) {
+  QWidget& head = *PartOf(view, "a.b50");
+  QWidget& otherHead = *PartOf(other, "untitled.m50");
+  const QColor highlight = view.palette().color(QPalette::Active, QPalette::Highlight);
+  EXPECT_EQ(LineOf(head), highlight);
+  EXPECT_NE(LineOf(otherHead), highlight);
+  QTest::mouseClick(&otherHead, Qt::LeftButton);
+  EXPECT_EQ(application.editor().TabStrip1.SelectedIndex(), 2);
+  EXPECT_EQ(LineOf(otherHead), highlight);
+  EXPECT_NE(LineOf(head), highlight);
+}
+
+TEST_F(TiledTest, TheNumbersStandBesideTheirLinesBelowTheHead) {
+  Press(QEvent::MouseButtonPress, {4, PlaceOf(Find("BTN S2")).y()});
+  EXPECT_EQ(pane.SelText.Get(), "BTN S2 /I Gear /O Flaps\r\n");
+}
+
+TEST_F(TiledTest, TheEdgeBetweenThemCanBeDragged) {
+  QWidget& edge = *PartOf(*view.parentWidget(), "Edge between the files");
+  const int before = view.width();
+  const QPointF place(-80, 10);
+  QMouseEvent move(QEvent::MouseMove, place, edge.mapToGlobal(place), Qt::NoButton, Qt::LeftButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(&edge, &move);
+  EXPECT_NEAR(view.width(), before - 80, 5);
+  EXPECT_LE(view.geometry().right(), edge.geometry().right());
+  QTest::mouseDClick(&edge, Qt::LeftButton);
+  EXPECT_NEAR(view.width(), before, 1);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "support/MemoryFiles.h"
 #include "support/ScriptedPrinter.h"
+#include "text/Contrast.h"
 #include "workbench/Settings.h"
 
 namespace tarvik {
@@ -263,6 +264,19 @@ TEST_F(SettingsTest, AFileThatCannotBeWrittenIsOnRecordAndKept) {
   EXPECT_EQ(Stored("Miscellaneous", "UndoMax"), "20");
   EXPECT_EQ(settings.UndoMax, 30);
   EXPECT_EQ(errors.ErrorTag.Get(), "MODULE SaveOptions");
+}
+
+TEST(ColourScheme, TheDarkOneCanBeReadInBothFiles) {
+  constexpr Property<Colour> Settings::*kInks[] = {&Settings::BTNColour, &Settings::SlashColour,
+                                                   &Settings::RAWColour, &Settings::MiscellaneousColour,
+                                                   &Settings::RemStatements};
+  for (const auto background : {&Settings::BackgroundColour, &Settings::MacroBackgroundColour}) {
+    for (const auto ink : kInks) {
+      EXPECT_GE(ContrastOf(Settings::ColourIn(ColourScheme::Dark, ink),
+                           Settings::ColourIn(ColourScheme::Dark, background)),
+                kReadable);
+    }
+  }
 }
 
 }  // namespace

@@ -34,6 +34,8 @@ class Preferences : public ToolForm {
   Pane ExampleJoystickText;
   CheckBox CheckBox1{*this, "CheckBox1", "Apply when opening files"};
   CheckBox CheckFixedPitch{*this, "CheckFixedPitch", "Show fixed pitch fonts only"};
+  CommandButton LightScheme{*this, "LightScheme", "Light scheme", &Preferences::LightScheme_Click};
+  CommandButton DarkScheme{*this, "DarkScheme", "Dark scheme", &Preferences::DarkScheme_Click};
   CommandButton Command17{*this, "Command17", "Tip: fixed pitch fonts", &Preferences::Command17_Click};
   CommandButton Command18{*this, "Command18", "Change font", &Preferences::DoTheFonts};
 
@@ -108,6 +110,10 @@ class Preferences : public ToolForm {
   void SaveColourScheme();
   void DoTheFonts();
   void Command6_Click();
+  /// All colours at once, as a user would choose them one by one.
+  void UseScheme(ColourScheme scheme);
+  void LightScheme_Click() { UseScheme(ColourScheme::Light); }
+  void DarkScheme_Click() { UseScheme(ColourScheme::Dark); }
   void Command17_Click();
   void Text2_Change();
   void Text3_Change();

@@ -96,6 +96,15 @@ void Preferences::ApplyColour(Colour colour) {
   }
 }
 
+void Preferences::UseScheme(ColourScheme scheme) {
+  for (int i = 0; i < List1.ListCount(); ++i) {
+    List1.ListIndex = i;
+    ApplyColour(Settings::ColourIn(scheme, kColourRows[i].colour));
+  }
+  List1.ListIndex = -1;
+  bench_.values.FontChanged = 1;  // with which the files take their backgrounds
+}
+
 void Preferences::PaintExample(std::string_view word, std::string_view end, Colour colour) {
   Pane& pane = ExampleJoystickText;
   const std::string_view text = pane.Characters();
