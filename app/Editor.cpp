@@ -110,6 +110,24 @@ void Editor::SetUpToolbar() {
     button.Image = row.icon;
     button.Enabled = menus(row.entry).Enabled;
     button.Click = [this, number = row.button] { Toolbar1_ButtonClick(number); };
+    MenuItem& entry = menus(row.entry);
+    const auto follow = [&button, &entry] { button.Checked = entry.Checked.Get(); };
+    follow();
+    connections_.push_back(entry.Checked.Changed.Connect(follow));
+    entry.Image = row.icon;
+    if (row.macroEntry) menus(row.macroEntry).Image = row.icon;
+  }
+  ShowPicturesInPopUps();
+}
+
+/// An entry there has the picture of the entry of the menus that does the same.
+void Editor::ShowPicturesInPopUps() {
+  for (const MenuRow<Editor>& popUp : tables::kPopUps) {
+    if (!popUp.handler) continue;
+    const auto* const same = std::find_if(
+        std::begin(tables::kMenus), std::end(tables::kMenus),
+        [&popUp](const MenuRow<Editor>& row) { return row.handler == popUp.handler && row.index < 0; });
+    if (same != std::end(tables::kMenus)) popUps(popUp.name).Image = menus(same->name).Image.Get();
   }
 }
 
@@ -124,9 +142,9 @@ void Editor::Form_Load(EditorBegins begins) {
   SharedValues& values = bench_.values;
   const Settings& settings = bench_.settings;
   values.LoadingFile = 1;
+  FollowWorkbench();
   SetUpToolbar();
   savedStates_.Follow();
-  FollowWorkbench();
   ShowViewSwitches();
   FollowMacroLists();
   bench_.documents.Busy = true;

@@ -257,6 +257,7 @@ class Editor : public Form {
   void SetUpControls();
   void AdoptControls();
   void SetUpToolbar();
+  void ShowPicturesInPopUps();
   void OpenFilesOfTheStart();
   void OpenPrevious(const RecentList& list, int index);
   void FirstTimeFlow();

@@ -56,6 +56,7 @@ class MenuItem : public Component {
 
   Property<std::string> Caption{*this, "Caption"};
   Property<std::string> Shortcut{*this, "Shortcut"};  ///< "Ctrl+S", "F8"
+  Property<std::string> Image{*this, "Image"};        ///< an icon's name; empty for none
   Property<bool> Checked{*this, "Checked", false};
   Property<bool> Enabled{*this, "Enabled", true};
   Property<bool> Visible{*this, "Visible", true};
@@ -353,7 +354,8 @@ class ToolbarButton : public Component {
  public:
   using Component::Component;
   Property<std::string> ToolTipText{*this, "ToolTipText"};
-  Property<std::string> Image{*this, "Image"};  ///< an icon's name; empty for a separator
+  Property<std::string> Image{*this, "Image"};      ///< an icon's name; empty for a separator
+  Property<bool> Checked{*this, "Checked", false};  ///< stays pressed
   Property<bool> Enabled{*this, "Enabled", true};
   Property<bool> Visible{*this, "Visible", true};
   Event<> Click{*this, "Click"};

@@ -23,7 +23,7 @@ NoticeView::NoticeView(NoticeBar& notice, Bindings& bindings, QWidget* parent)
   bindings.Place(notice.frame, *this, Unit::Pixel);
   const FormLayout in(bindings);
   auto* const picture = new QLabel;
-  picture->setPixmap(Icon("dialog-warning").pixmap(kIcon));
+  picture->setPixmap(Icon("warning").pixmap(kIcon));
   auto* const words = new QHBoxLayout;
   words->addWidget(picture);
   words->addWidget(Wrapped(in.Show(notice.text)), 1);

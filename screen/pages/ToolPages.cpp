@@ -104,8 +104,8 @@ QLayout* ReadOuts(std::initializer_list<ReadOut> readOuts, const FormLayout& in)
     if (opens) opens->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     cells.insert(cells.end(),
                  {label, opens, box, readOut.codes ? Words(")") : nullptr,
-                  WithIcon(in.Show(readOut.add), "list-add", QLatin1String("Add: ") + label->text()),
-                  WithIcon(in.Show(readOut.copy), "edit-copy", QLatin1String("Copy: ") + label->text())});
+                  WithIcon(in.Show(readOut.add), "add", QLatin1String("Add: ") + label->text()),
+                  WithIcon(in.Show(readOut.copy), "copy", QLatin1String("Copy: ") + label->text())});
   }
   auto* const grid = Grid(cells, 6);
   grid->setColumnStretch(2, 1);
@@ -137,9 +137,8 @@ QLayout* Page(RAWform& form, const FormLayout& in) {
   return Column(
       {toggles, keyboard, readOuts, Row(pieces),
        Row({Above("Combined selection", text),
-            Column({Stretch(),
-                    WithIcon(in.Show(form.Command9(3)), "edit-copy", QStringLiteral("Copy: ") + line),
-                    WithIcon(in.Show(form.Command4), "edit-clear", QStringLiteral("Clear: ") + line)})}),
+            Column({Stretch(), WithIcon(in.Show(form.Command9(3)), "copy", QStringLiteral("Copy: ") + line),
+                    WithIcon(in.Show(form.Command4), "clear", QStringLiteral("Clear: ") + line)})}),
        Row({in.Show(form.CommandINS(0)), in.Show(form.CommandINS(1)), in.Show(form.CheckAddCRPimlet),
             Stretch(), in.Show(form.Command3(7))}),
        Row({in.Show(form.Check1), in.Show(form.Command14(0)), in.Show(form.Command14(1)), Stretch(),
@@ -252,7 +251,7 @@ QLayout* Page(EnterGameName& form, const FormLayout& in) {
     // Two of them have the same caption.
     if (choose) Named(choose, ToScreen(field.choose->Caption.Get()) + QLatin1String(": ") + label->text());
     QWidget* const help = field.help ? in.Show(*field.help) : nullptr;
-    if (help) WithIcon(help, "help-contents", QLatin1String("Help: ") + label->text());
+    if (help) WithIcon(help, "help", QLatin1String("Help: ") + label->text());
     cells.insert(cells.end(), {label, box, choose, help});
   }
   auto* const grid = Grid(cells, 4);

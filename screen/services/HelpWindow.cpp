@@ -119,11 +119,11 @@ HelpWindow::HelpWindow()
 
 QToolBar* HelpWindow::MakeTools() {
   auto* const tools = new QToolBar;
-  back_ = AddAction("go-previous", tr("Back"), QKeySequence::Back, &HelpWindow::GoBack);
-  forward_ = AddAction("go-next", tr("Forward"), QKeySequence::Forward, &HelpWindow::GoForward);
+  back_ = AddAction("back", tr("Back"), QKeySequence::Back, &HelpWindow::GoBack);
+  forward_ = AddAction("forward", tr("Forward"), QKeySequence::Forward, &HelpWindow::GoForward);
   QAction* const contents =
-      AddAction("go-home", tr("Contents"), Qt::ALT | Qt::Key_Home, &HelpWindow::GoToContents);
-  QAction* const print = AddAction("document-print", tr("Print"), QKeySequence::Print, &HelpWindow::Print);
+      AddAction("contents", tr("Contents"), Qt::ALT | Qt::Key_Home, &HelpWindow::GoToContents);
+  QAction* const print = AddAction("print", tr("Print"), QKeySequence::Print, &HelpWindow::Print);
   tools->addActions({back_, forward_, contents, print});
   tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   tools->setIconSize({kIcon, kIcon});

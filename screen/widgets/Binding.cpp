@@ -221,8 +221,11 @@ void Bindings::Bind(MenuItem& item, QAction& action) {
   const auto showCheck = [&] {
     action.setCheckable(item.Checked);
     action.setChecked(item.Checked);
+    // The check mark stands where the picture would, and some styles show but one of them.
+    action.setIcon(item.Checked ? QIcon() : Icon(item.Image.Get()));
   };
   Bind(item.Checked, showCheck);
+  Bind(item.Image, showCheck);
   QObject::connect(&action, &QAction::triggered, &action, [&item, showCheck] {
     item.Click();
     showCheck();  // the toolkit has turned the check mark over by itself
@@ -254,7 +257,15 @@ void Bindings::Bind(ToolbarButton& button, QToolButton& widget) {
   });
   Bind(button.Image, [&] { widget.setIcon(Icon(button.Image.Get())); });
   Bind(button.Enabled, [&] { widget.setEnabled(button.Enabled); });
-  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Click(); });
+  const auto showCheck = [&] {
+    widget.setCheckable(button.Checked);
+    widget.setChecked(button.Checked);
+  };
+  Bind(button.Checked, showCheck);
+  QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&button, showCheck] {
+    button.Click();
+    showCheck();  // the toolkit has turned it over by itself
+  });
 }
 
 void Bindings::Bind(Label& label, QLabel& widget) {
@@ -329,7 +340,7 @@ void Bindings::BindTab(Tab& tab, QTabBar& widget, int index) {
   Bind(tab.ToolTipText,
        [&tab, &widget, index] { widget.setTabToolTip(index, ToScreen(tab.ToolTipText.Get())); });
   Bind(tab.Image, [&tab, &widget, index] {
-    const char* const name = tab.Image == kProtectedImage ? "object-locked" : "tab-file";
+    const char* const name = tab.Image == kProtectedImage ? "tab-protected" : "tab-file";
     const bool any = tab.Image == kProtectedImage || tab.Image == kFileImage;
     widget.setTabIcon(index, any ? Icon(name) : QIcon());
   });

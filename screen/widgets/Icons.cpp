@@ -20,7 +20,10 @@ static void InitialiseIcons() { Q_INIT_RESOURCE(icons); }
 namespace tarvik::screen {
 namespace {
 
-constexpr const char* kInk = "#232629";  // what own drawings have for "text colour"
+// What the drawings have for the palette's text colour, and for the one colour beside it.
+constexpr const char* kInk = "#232629";
+constexpr const char* kAccent = "#1a66c2";
+constexpr QColor kAccentOnDark(0x6c, 0xb6, 0xff);
 constexpr qreal kFaded = 0.35;
 
 // An own drawing, which is rendered at the sizes that are asked for and at no other.
@@ -57,6 +60,10 @@ class Drawing : public QIconEngine {
   std::map<std::tuple<int, int, QIcon::Mode>, QPixmap> rendered_;
 };
 
+bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).lightness() < 128; }
+
+QColor AccentOn(const QPalette& palette) { return IsDark(palette) ? kAccentOnDark : QColor(kAccent); }
+
 class FadingStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
@@ -77,18 +84,19 @@ class FadingStyle : public QProxyStyle {
 
 void ChooseIconTheme() {
   QApplication::setStyle(new FadingStyle(QApplication::style()->name()));
-  const bool dark = QApplication::palette().color(QPalette::Window).lightness() < 128;
   if (QIcon::themeName() != QLatin1String("hicolor")) QIcon::setFallbackThemeName(QIcon::themeName());
-  QIcon::setThemeName(QLatin1String(dark ? "breeze-dark" : "breeze"));
+  QIcon::setThemeName(QLatin1String(IsDark(QApplication::palette()) ? "breeze-dark" : "breeze"));
 }
 
 QIcon Icon(std::string_view name, const QColor& ink) {
   InitialiseIcons();
-  const QString file = ToScreen(name);
-  QFile own(QLatin1String(":/icons/") + file + QLatin1String(".svg"));
-  if (!own.open(QIODevice::ReadOnly)) return QIcon::fromTheme(file);
-  const QColor colour = ink.isValid() ? ink : QApplication::palette().color(QPalette::WindowText);
-  return QIcon(new Drawing(own.readAll().replace(kInk, colour.name().toLatin1())));
+  QFile drawing(QLatin1String(":/icons/") + ToScreen(name) + QLatin1String(".svg"));
+  if (!drawing.open(QIODevice::ReadOnly)) return {};
+  const QPalette palette = QApplication::palette();
+  const QColor text = ink.isValid() ? ink : palette.color(QPalette::WindowText);
+  const QColor accent = ink.isValid() ? ink : AccentOn(palette);
+  return QIcon(new Drawing(
+      drawing.readAll().replace(kInk, text.name().toLatin1()).replace(kAccent, accent.name().toLatin1())));
 }
 
 }  // namespace tarvik::screen

@@ -150,6 +150,8 @@ void ToolbarView::ShowOverflow() {
     }
     QAction* const action = menu->addAction(position.widget->icon(), position.widget->toolTip());
     action->setEnabled(position.widget->isEnabled());
+    action->setCheckable(position.widget->isChecked());
+    action->setChecked(position.widget->isChecked());
     // Not before the menu is through with its own event: what is pressed may wait, and the menu ends
     // meanwhile.
     connect(
