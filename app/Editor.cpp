@@ -211,7 +211,7 @@ void Editor::FollowWorkbench() {
 void Editor::FollowMacroLists() {
   const auto isRenewed = [this] { RenewMacros.Visible = false; };
   connections_.push_back(bench_.macros.Renewed.Connect(isRenewed));
-  connections_.push_back(bench_.files.WasRead.Connect([this, isRenewed](const Document& document) {
+  connections_.push_back(bench_.files.WasRead.Connect([isRenewed](const Document& document) {
     if (!document.IsJoystick()) isRenewed();
   }));
   connections_.push_back(MacroText.Edited.Connect([this](const PaneEdit& edit) {

@@ -18,6 +18,7 @@ namespace {
 constexpr int kFixedTab = 8;  // characters
 constexpr int kWheelStep = 120;
 constexpr std::size_t kShortestWord = 2;
+constexpr std::size_t kLongestWord = 100;
 constexpr std::string_view kRemark = "rem";  // which stands in nearly every line of a tidy file
 constexpr double kVisible = 3;  // the contrast of a mark, by the guidelines that `kReadable` is from
 constexpr Colour kChanged = Rgb(217, 138, 0);
@@ -134,7 +135,10 @@ class EditorPane::Margin : public QWidget {
 /// is the file on top. A click puts it there.
 class EditorPane::Head : public QWidget {
  public:
-  explicit Head(EditorPane& pane) : QWidget(&pane), pane_(pane) { setCursor(Qt::ArrowCursor); }
+  explicit Head(EditorPane& pane) : QWidget(&pane), pane_(pane) {
+    setCursor(Qt::ArrowCursor);
+    setFont(QApplication::font());  // and not that of the text
+  }
 
   [[nodiscard]] int Height() const { return fontMetrics().height() + 2 * kGap; }
   void Show() {
@@ -291,12 +295,16 @@ void EditorPane::wheelEvent(QWheelEvent* event) {
 EditorPane::Marks EditorPane::MarksOfCaret() const {
   const std::string_view text = pane().Characters();
   const Range selection = pane().Selection();
-  const Range word = WordAt(text, selection.start);
-  const bool isRemark = LowerCase(text.substr(word.start, word.length)) == kRemark;
-  const bool inWord = selection.End() <= word.End() && word.length >= kShortestWord && !isRemark;
   const bool showsBrackets = settings_.MatchingBrackets != 0 && selection.length == 0;
   return {textCursor().blockNumber(), showsBrackets ? BracketsAt(text, selection.start) : BracketPair(),
-          settings_.OtherPlaces != 0 && inWord ? word : Range()};
+          settings_.OtherPlaces != 0 ? WordAround(selection) : Range()};
+}
+
+Range EditorPane::WordAround(Range selection) const {
+  const std::string_view text = pane().Characters();
+  const Range word = WordAt(text, selection.start);
+  if (selection.End() > word.End() || word.length < kShortestWord || word.length > kLongestWord) return {};
+  return LowerCase(text.substr(word.start, word.length)) == kRemark ? Range() : word;
 }
 
 /// No more is painted anew than looks another way, since this is part of every key.

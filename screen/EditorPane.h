@@ -53,6 +53,8 @@ class EditorPane : public PaneView {
   /// Has the lines on show painted anew in which the marked word stands.
   void UpdatePlaces();
   [[nodiscard]] Marks MarksOfCaret() const;
+  /// The word in which all of the selection lies; none where it is no word to look for.
+  [[nodiscard]] Range WordAround(Range selection) const;
   [[nodiscard]] qreal Enlarged(qreal size) const;
   void PaintPlaces(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
   void PaintHits(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;

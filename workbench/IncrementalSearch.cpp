@@ -44,7 +44,8 @@ void IncrementalSearch::Collect(const Document& document) {
 void IncrementalSearch::Select(std::size_t hit) {
   const bool inJoystick = hit < joystick_.size();
   const Document& document = inJoystick ? documents_.joystick : documents_.macro;
-  documents_.Select(document);
+  // Selecting a tab, also the same once more, moves the caret and the focus.
+  if (&documents_.Active() != &document) documents_.Select(document);
   document.text.Select({inJoystick ? joystick_[hit] : macro_[hit - joystick_.size()], text_.size()});
 }
 
@@ -71,7 +72,7 @@ void IncrementalSearch::Step(int by) {
 }
 
 void IncrementalSearch::GoBack() {
-  documents_.tabs.Select(begin_.tab);
+  if (documents_.tabs.SelectedIndex() != begin_.tab) documents_.tabs.Select(begin_.tab);
   documents_.Active().text.Select(begin_.selection);
 }
 
