@@ -173,6 +173,7 @@ class Editor : public Form {
   void mnuViewZoomNormal_Click() { ZoomTo(zoom::kNormal); }
   void TileTo(float x) { layout_.TileTo(x); }
   void TileEvenly() { layout_.TileEvenly(); }
+  void KeepTiles() { layout_.KeepTiles(); }
   void FrameMacros_MouseDown() { HelpOnWhatsThis(topic::kMacroLists); }
   void FrameMacros_MouseMove(const Mouse& mouse) { layout_.FrameMouseMove(mouse); }
   void FrameMacros_DblClick() { mnuViewMacros_Click(); }

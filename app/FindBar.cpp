@@ -28,7 +28,7 @@ FindBar::FindBar(Form& form, Workbench& bench, std::function<void()> place)
 }
 
 void FindBar::Open() {
-  bench_.search.Begin();
+  if (!frame.Visible) bench_.search.Begin();
   const Document& document = bench_.documents.Active();
   const std::string selected = document.text.SelText;
   frame.Visible = true;

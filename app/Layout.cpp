@@ -132,17 +132,20 @@ float Layout::TileShare() const {
 
 void Layout::TileTo(float x) {
   const TabStrip& strip = documents_.tabs;
-  Settings& settings = documents_.settings;
-  const float share =
-      std::clamp((x - strip.Left) / std::max(strip.Width.Get(), 1.0F), kLeastTile, 1 - kLeastTile);
-  settings.ChangeView(settings.TileShare, static_cast<int>(share * kWhole));
+  const float share = (x - strip.Left) / std::max(strip.Width.Get(), 1.0F);
+  documents_.settings.TileShare = static_cast<int>(std::clamp(share, kLeastTile, 1 - kLeastTile) * kWhole);
   Place();
 }
 
 void Layout::TileEvenly() {
-  Settings& settings = documents_.settings;
-  settings.ChangeView(settings.TileShare, static_cast<int>(kWhole) / 2);
+  documents_.settings.TileShare = static_cast<int>(kWhole) / 2;
   Place();
+  KeepTiles();
+}
+
+void Layout::KeepTiles() {
+  Settings& settings = documents_.settings;
+  settings.ChangeView(settings.TileShare, settings.TileShare);
 }
 
 void Layout::ShowPanes() {

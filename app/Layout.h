@@ -44,6 +44,8 @@ class Layout {
   /// Puts the edge between the two files there in the tiled view, in pixels of the form.
   void TileTo(float x);
   void TileEvenly();
+  /// The edge stays where it is now, at the next start too.
+  void KeepTiles();
   /// In the single view only the pane of the selected tab is on show.
   void ShowPanes();
 

@@ -28,9 +28,8 @@ constexpr Colour kAlone = Rgb(210, 40, 40);  // a bracket
 // How strong the tints are, in per cent.
 constexpr int kMarginTint = 4;
 constexpr int kLineTint = 6;
-constexpr int kWordTint = 28;
-constexpr int kHitTint = 45;
-constexpr int kBracketTint = 45;
+constexpr int kMarkTint = 15;   // letters can be read on it as on the background
+constexpr int kFrameTint = 75;  // of the line around it
 constexpr int kNumberTint = 55;
 
 }  // namespace
@@ -112,23 +111,24 @@ class EditorPane::Margin : public QWidget {
     if (!block.next().isValid() && changes.LacksLinesBefore(line + 1)) wedge(place.bottom());
   }
 
-  [[nodiscard]] QTextBlock LineAt(const QMouseEvent& event) const {
+  [[nodiscard]] int LineAt(const QMouseEvent& event) const {
     const QPoint place = pane_.viewport()->mapFromGlobal(event.globalPosition().toPoint());
-    return pane_.cursorForPosition({0, place.y()}).block();
+    return pane_.cursorForPosition({0, place.y()}).blockNumber();
   }
 
-  /// From the line where the button went down to this one, with their ends.
-  void SelectTo(const QTextBlock& line) {
-    const QTextBlock from = std::min(first_, line);
-    const QTextBlock behind = std::max(first_, line).next();
-    const std::size_t start = pane_.PanePosition(from.position());
-    const std::size_t end =
-        behind.isValid() ? pane_.PanePosition(behind.position()) : pane_.pane().Characters().size();
-    pane_.pane().Select({start, end - start});
+  /// From the line where the button went down to this one, with their ends. The caret stands in the upper
+  /// one, which is on show.
+  void SelectTo(int line) {
+    const QTextBlock last = pane_.document()->findBlockByNumber(std::max(first_, line));
+    QTextCursor cursor(last);
+    cursor.movePosition(last.next().isValid() ? QTextCursor::NextBlock : QTextCursor::EndOfBlock);
+    cursor.setPosition(pane_.document()->findBlockByNumber(std::min(first_, line)).position(),
+                       QTextCursor::KeepAnchor);
+    pane_.setTextCursor(cursor);
   }
 
   EditorPane& pane_;
-  QTextBlock first_;
+  int first_ = 0;  // the line where the button went down
 };
 
 /// Above the text in the tiled view: the name of the file, marked where it is not saved, and a line while it
@@ -164,7 +164,12 @@ class EditorPane::Head : public QWidget {
     const int thick = onTop ? kLine : 1;
     painter.fillRect(0, height() - thick, width(), thick, line);
   }
-  void mousePressEvent(QMouseEvent* /*event*/) override { pane_.setFocus(); }
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton) pane_.setFocus();
+  }
+  // The text below hears of none of these.
+  void mouseMoveEvent(QMouseEvent* /*event*/) override {}
+  void mouseReleaseEvent(QMouseEvent* /*event*/) override {}
 
  private:
   static constexpr int kGap = 3;
@@ -393,13 +398,12 @@ void EditorPane::PaintPlaces(QPainter& painter, const QTextBlock& block, const Q
   if (start + length > pane().Characters().size()) return;
   const std::string_view text = pane().Characters().substr(start, length);
   const Range seen = ExposedPart(painter, block, offset);
-  const QColor tint = Tint(palette().color(QPalette::Active, QPalette::Highlight), kWordTint);
+  const QColor ink = palette().color(QPalette::Active, QPalette::Highlight);
   for (std::size_t at = WordAt(text, seen.start).start; at < seen.End(); at += word_.size()) {
     at = FindWord(text, word_, at, seen.End());
     if (at >= seen.End()) return;
     if (start + at == marks_.word.start && IsOnTop()) continue;
-    ForEachPlace(painter, block, offset, {at, word_.size()},
-                 [&](const QRectF& place) { painter.fillRect(place, tint); });
+    PaintMark(painter, block, offset, {at, word_.size()}, ink);
   }
 }
 
@@ -409,12 +413,10 @@ void EditorPane::PaintHits(QPainter& painter, const QTextBlock& block, const QPo
   const std::vector<std::size_t>& hits = search_.HitsIn(document_);
   const std::size_t length = search_.Length();
   const std::size_t first = start + seen.start;
-  const QColor tint = Tint(ToScreenColour(kHit), kHitTint);
   auto hit = std::lower_bound(hits.begin(), hits.end(), first - std::min(first, length));
   for (; hit != hits.end() && *hit < start + seen.End(); ++hit) {
     if (*hit < start) continue;
-    ForEachPlace(painter, block, offset, {*hit - start, length},
-                 [&](const QRectF& place) { painter.fillRect(place, tint); });
+    PaintMark(painter, block, offset, {*hit - start, length}, ToScreenColour(kHit));
   }
 }
 
@@ -426,11 +428,15 @@ void EditorPane::PaintBracket(QPainter& painter, const QTextBlock& block, const 
   if (bracket.End() > start + static_cast<std::size_t>(block.length() - 1)) return;
   const bool alone = marks_.brackets.opening.length == 0 || marks_.brackets.closing.length == 0;
   const QColor ink = alone ? ToScreenColour(kAlone) : palette().color(QPalette::Active, QPalette::Highlight);
-  ForEachPlace(painter, block, offset, {bracket.start - start, bracket.length}, [&](const QRectF& place) {
-    painter.setPen(ink);
-    painter.setBrush(Tint(ink, alone ? 0 : kBracketTint));
-    painter.drawRect(place.adjusted(0, 0, -1, -1));
-  });
+  PaintMark(painter, block, offset, {bracket.start - start, bracket.length}, ink);
+}
+
+void EditorPane::PaintMark(QPainter& painter, const QTextBlock& block, const QPointF& offset, Range range,
+                           const QColor& ink) const {
+  painter.setPen(Tint(ink, kFrameTint));
+  painter.setBrush(Tint(ink, kMarkTint));
+  ForEachPlace(painter, block, offset, range,
+               [&painter](const QRectF& place) { painter.drawRect(place.adjusted(0, 0, -1, -1)); });
 }
 
 }  // namespace tarvik::screen

@@ -59,6 +59,9 @@ class EditorPane : public PaneView {
   void PaintPlaces(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
   void PaintHits(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
   void PaintBracket(QPainter& painter, const QTextBlock& block, const QPointF& offset, Range bracket) const;
+  /// Frames a part of a block, and tints it a little.
+  void PaintMark(QPainter& painter, const QTextBlock& block, const QPointF& offset, Range range,
+                 const QColor& ink) const;
   /// The background with so much of the ink in it.
   [[nodiscard]] QColor Tint(const QColor& ink, int percent) const;
 

@@ -67,6 +67,7 @@ class SplitterView : public QWidget {
       editor_.TileTo(static_cast<float>(mapToParent(event->position()).x()));
     }
   }
+  void mouseReleaseEvent(QMouseEvent*) override { editor_.KeepTiles(); }
   void mouseDoubleClickEvent(QMouseEvent*) override { editor_.TileEvenly(); }
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);

@@ -7,14 +7,27 @@ namespace tarvik {
 IncrementalSearch::IncrementalSearch(Documents& documents) : documents_(documents) {
   for (const Document* const document : {&documents_.joystick, &documents_.macro}) {
     connections_.push_back(document->text.Edited.Connect([this, document](const PaneEdit& edit) {
-      if (text_.empty() || edit.OnlyColours()) return;
-      Collect(*document);
-      Changed();
+      if (!edit.OnlyColours()) Follow(*document, edit);
     }));
     connections_.push_back(document->text.SelectionChanged.Connect([this] {
       if (!text_.empty()) Changed();
     }));
   }
+}
+
+/// The place where the search began moves with its text, and is where the edit was if its text is gone.
+void IncrementalSearch::Follow(const Document& document, const PaneEdit& edit) {
+  Range& began = begin_.selection;
+  if (document.traits.tab == begin_.tab && edit.position < began.End()) {
+    if (edit.position + edit.removed.size() <= began.start) {
+      began.start += edit.inserted.size() - edit.removed.size();
+    } else {
+      began = {std::min(began.start, edit.position), 0};
+    }
+  }
+  if (text_.empty()) return;
+  Collect(document);
+  Changed();
 }
 
 void IncrementalSearch::Begin() {

@@ -42,6 +42,7 @@ class IncrementalSearch {
   };
 
   void Step(int by);
+  void Follow(const Document& document, const PaneEdit& edit);
   void Collect(const Document& document);
   void Select(std::size_t hit);
 

@@ -61,6 +61,7 @@ bool FilteredList::eventFilter(QObject* watched, QEvent* event) {
       return true;
     case Qt::Key_Up:
     case Qt::Key_Down:
+    case Qt::Key_PageUp:
     case Qt::Key_PageDown:
     case Qt::Key_Return:
     case Qt::Key_Enter:

@@ -246,8 +246,12 @@ void ListStack::Filter(const QString& typed) {
 
 void ListStack::Enter() {
   setFocus();
-  if (!currentIndex().isValid()) setCurrentIndex(model_.index(0));
+  if (currentIndex().isValid()) return;
+  setCurrentIndex(model_.index(0));
+  if (front_ && currentIndex().isValid()) front_->MouseDown({button::kLeft});
 }
+
+bool ListStack::HidesItem() const { return front_ && front_->ListIndex >= 0 && !currentIndex().isValid(); }
 
 // The item in hand.
 
@@ -265,7 +269,7 @@ void ListStack::mousePressEvent(QMouseEvent* event) {
   press_ = event->button() == Qt::LeftButton ? std::optional(event->pos()) : std::nullopt;
   QListView::mousePressEvent(event);
   if (const QModelIndex under = indexAt(event->pos()); under.isValid()) setCurrentIndex(under);
-  if (front_) front_->MouseDown(ToMouse(*event));
+  if (front_ && !HidesItem()) front_->MouseDown(ToMouse(*event));
 }
 
 /// Across the list the pointer takes the item in hand along. When it goes aside or leaves the list a drag
@@ -282,7 +286,7 @@ void ListStack::mouseMoveEvent(QMouseEvent* event) {
   } else {
     QListView::mouseMoveEvent(event);
   }
-  if (front_) front_->MouseMove(ToMouse(*event));
+  if (front_ && !HidesItem()) front_->MouseMove(ToMouse(*event));
 }
 
 bool ListStack::BeginsDrag(const QPoint& place) const {
@@ -322,7 +326,8 @@ void ListStack::keyPressEvent(QKeyEvent* event) {
 
 void ListStack::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
-  if (event->reason() == QContextMenuEvent::Keyboard && front_) front_->MouseDown({button::kRight});
+  if (event->reason() != QContextMenuEvent::Keyboard || !front_ || HidesItem()) return;
+  front_->MouseDown({button::kRight});
 }
 
 void ListStack::focusInEvent(QFocusEvent* event) {

@@ -87,6 +87,8 @@ class ListStack : public QListView {
   void TakeFocus();
   /// What a click does to the item in hand, and the Space key as well.
   void ClickItem();
+  /// An item is in hand that the filter keeps off the list: nobody can mean it.
+  [[nodiscard]] bool HidesItem() const;
   void Remove(ListBox& list);
   void Raise(ListBox& list);
   void BringUpToDate();

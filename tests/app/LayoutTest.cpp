@@ -65,6 +65,7 @@ TEST_F(LayoutTest, TiledTheUserChoosesHowMuchEachFileGets) {
   EXPECT_EQ(PlaceOf(editor.MacroText), (Place{388.75, 23, 607.25, 578}));
   Settings& settings = program.application.workbench.settings;
   EXPECT_EQ(settings.TileShare, 250);
+  editor.KeepTiles();
   EXPECT_THAT(program.files().Content("c:\\tarvik\\Tarvik.ini").value_or(""),
               testing::HasSubstr("TileShare=250"));
   editor.TileTo(-1000);

@@ -96,6 +96,23 @@ TEST_F(EditorPaneTest, AClickOnANumberSelectsTheLineAndDraggingSeveral) {
   EXPECT_EQ(application.workbench.documents.joystick.SelLength, pane.SelLength.Get());
 }
 
+/// The caret stands in the line, and the view stays also at its lower edge.
+TEST_F(EditorPaneTest, AClickOnTheLowestNumberScrollsNothing) {
+  std::string text;
+  for (int i = 0; i < 300; ++i) text += "line " + TextOf(i) + "\r\n";
+  pane.SetContent(RichText(text));
+  QApplication::processEvents();
+  view.verticalScrollBar()->setValue(20);
+  const int lowest = view.viewport()->height() / view.cursorRect().height() - 1 + 20;
+  const QPoint place(4, PlaceOf(Find("line " + TextOf(lowest) + "\r")).y());
+  Press(QEvent::MouseButtonPress, place);
+  Press(QEvent::MouseButtonRelease, place);
+  QApplication::processEvents();
+  EXPECT_EQ(pane.SelText.Get(), "line " + TextOf(lowest) + "\r\n");
+  EXPECT_EQ(view.verticalScrollBar()->value(), 20);
+  EXPECT_EQ(view.textCursor().blockNumber(), lowest);
+}
+
 TEST_F(EditorPaneTest, TheLineOfTheCaretIsTintedWhereTheFocusIs) {
   pane.SelStart = Find("BTN S2");
   EXPECT_NE(ColourBehindLine(Find("BTN S2")), Background());

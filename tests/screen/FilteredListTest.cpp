@@ -1,6 +1,7 @@
 // The line above the macro lists.
 #include <gmock/gmock.h>
 
+#include <QContextMenuEvent>
 #include <QTest>
 
 #include "screen/ProgramOnScreen.h"
@@ -64,6 +65,31 @@ TEST_F(FilteredListTest, TheItemInHandStaysInHandWhileItIsNotOnShow) {
   EXPECT_EQ(editor.List1(0).Current(), "Gear_Up");
   shown.line().clear();
   EXPECT_EQ(list.currentIndex().row(), 3);
+}
+
+/// What is not on show can't be meant.
+TEST_F(FilteredListTest, AnItemThatIsNotOnShowIsNotActedOn) {
+  editor.List1(0).ListIndex = 3;
+  QTest::keyClicks(&shown.line(), "fire");
+  int downs = 0;
+  editor.List1(0).MouseDown = [&downs](const Mouse&) { ++downs; };
+  editor.List1(0).MouseMove = [&downs](const Mouse&) { ++downs; };
+  const QPoint blank(20, list.viewport()->height() - 4);
+  QTest::mouseClick(list.viewport(), Qt::RightButton, {}, blank);
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, Qt::ShiftModifier, blank);
+  QTest::mouseMove(list.viewport(), blank - QPoint(1, 1));
+  QContextMenuEvent key(QContextMenuEvent::Keyboard, blank, list.viewport()->mapToGlobal(blank));
+  QApplication::sendEvent(&list, &key);
+  EXPECT_EQ(downs, 0);
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(list.model()->index(0, 0)).center());
+  EXPECT_EQ(downs, 1);
+  EXPECT_EQ(editor.List1(0).Current(), "Fire");
+}
+
+TEST_F(FilteredListTest, ComingToTheListShowsTheMacroThatIsTaken) {
+  QTest::keyClicks(&shown.line(), "flaps");
+  QTest::keyClick(&shown.line(), Qt::Key_Return);
+  EXPECT_EQ(application.workbench.macros.Selected(), "Flaps_Up");
 }
 
 TEST_F(FilteredListTest, TicksStayWithTheirMacros) {

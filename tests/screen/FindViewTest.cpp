@@ -50,6 +50,13 @@ TEST_F(FindViewTest, EnterGoesOnAndBackAndEscapeToWhereOneWas) {
   EXPECT_TRUE(view.hasFocus());
 }
 
+TEST_F(FindViewTest, OpeningItOnceMoreKeepsWhereOneWas) {
+  QTest::keyClicks(&line, "fire");
+  editor.mnuEditFindAsYouType_Click();
+  QTest::keyClick(&line, Qt::Key_Escape);
+  EXPECT_EQ(editor.JoystickText.SelStart, 14U);
+}
+
 TEST_F(FindViewTest, TypingGoesOnWhereTheHitIsInTheOtherFile) {
   editor.MacroText.SetContent(RichText("Flaps = f"));
   QTest::keyClicks(&line, "flaps");

@@ -66,6 +66,21 @@ TEST_F(IncrementalSearchTest, NothingFoundAndGoingBackAreWhereItBegan) {
   EXPECT_EQ(macro.Selection(), (Range{2, 3}));
 }
 
+TEST_F(IncrementalSearchTest, WhereItBeganMovesWithTheText) {
+  joystick.Select({9, 4});
+  search.Begin();
+  search.LookFor("gun", 0);
+  joystick.ApplyEdit({0, {}, RichText("Rem\r\n")});
+  search.GoBack();
+  EXPECT_EQ(joystick.SelText.Get(), "fire");
+  joystick.ApplyEdit({15, RichText("ir"), {}});  // in it
+  search.GoBack();
+  EXPECT_EQ(joystick.Selection(), (Range{14, 0}));
+  joystick.SetContent(RichText("x"));
+  search.GoBack();
+  EXPECT_EQ(joystick.Selection(), (Range{0, 0}));
+}
+
 TEST_F(IncrementalSearchTest, StepsBeginAtTheCaret) {
   search.Begin();
   search.LookFor("fire", find::kMatchCase);
