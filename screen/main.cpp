@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QStyleFactory>
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 
@@ -137,6 +138,21 @@ void NameProgram() {
   QApplication::setWindowIcon(screen::Icon("tarvik"));
 }
 
+/// Those of the files used last, the newest first, then the program's own with its samples.
+std::vector<std::string> FoldersOfInterest(const Workbench& bench) {
+  constexpr std::size_t kMost = 6;
+  std::vector<std::string> folders;
+  for (const RecentList* const list : {&bench.lists.JoystickFiles, &bench.lists.MacroFiles}) {
+    for (const std::string& file : list->Names()) {
+      const std::string folder = file.substr(0, file.rfind('\\') + 1);
+      if (folders.size() < kMost && std::ranges::count(folders, folder) == 0) folders.push_back(folder);
+    }
+  }
+  folders.push_back(bench.platform.folder);
+  folders.push_back(bench.platform.folder + "\\samples");
+  return folders;
+}
+
 /// Whether the user has something to go on with. A start that throws ends there and is recorded; what is on
 /// show by then is used all the same.
 bool IsOnShow(const Application& application) {
@@ -166,6 +182,7 @@ int main(int argc, char* argv[]) {
   toolkit.failed = [&application](const Failure& failure) {
     application.workbench.errors.Record("TARVIK Event", failure);
   };
+  services.dialogs.foldersOffered = [&application] { return FoldersOfInterest(application.workbench); };
   services.help.look = [&application] { return LookOf(application.workbench.settings); };
   screen::Screen screen(application, screen::Clock::Real);
   const Connection ended = application.HasEnded.Connect([] {

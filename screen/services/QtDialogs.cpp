@@ -146,13 +146,23 @@ Outcome<std::string> QtDialogs::RunForFolder(const std::string& title, const QSt
   return Run(dialog);
 }
 
+QList<QUrl> QtDialogs::Places() const {
+  QList<QUrl> places{QUrl::fromLocalFile(QDir::homePath())};
+  std::vector<std::string> folders = foldersOffered();
+  for (char letter = 'a'; letter <= 'z'; ++letter) folders.push_back(letter + std::string(":\\"));
+  for (const std::string& folder : folders) {
+    const auto host = drives_.ToHost(folder);
+    std::error_code missing;
+    if (!host || !std::filesystem::is_directory(*host, missing)) continue;
+    const QUrl place = QUrl::fromLocalFile(QDir(QFile::decodeName(host->c_str())).absolutePath());
+    if (!places.contains(place)) places += place;
+  }
+  return places;
+}
+
 Outcome<std::string> QtDialogs::Run(QFileDialog& dialog) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
-  QList<QUrl> places{QUrl::fromLocalFile(QDir::homePath())};
-  if (const auto drive = drives_.ToHost("c:\\")) {
-    places += QUrl::fromLocalFile(QFile::decodeName(drive->c_str()));
-  }
-  dialog.setSidebarUrls(places);
+  dialog.setSidebarUrls(Places());
   if (auto* const parts = dialog.findChild<QSplitter*>()) parts->setSizes({kSidebarWidth, kListWidth});
   LeaveCommandsUntyped(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return Cancelled();

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QString>
 #include <QStringList>
+#include <QUrl>
 
 #include "platform/Drives.h"
 #include "platform/Platform.h"
@@ -13,6 +14,9 @@ namespace tarvik::screen {
 class QtDialogs : public Dialogs {
  public:
   explicit QtDialogs(Drives& drives) : drives_(drives) {}
+
+  /// Folders on the drives that stand at the side of each file dialog, as far as they are there.
+  std::function<std::vector<std::string>()> foldersOffered = [] { return std::vector<std::string>(); };
 
   Answer Show(const MessageBox& box) override;
   Outcome<std::string> AskForFile(const FileRequest& request) override;
@@ -26,8 +30,9 @@ class QtDialogs : public Dialogs {
   /// The folder asked for, else the one of the last choice, else the user's own.
   [[nodiscard]] QString StartFolder(const std::string& folder) const;
 
-  /// Runs the dialog with the user's own folder and drive c at its side, and gives the host's file that was
-  /// chosen.
+  /// The user's own folder, those that are offered, and the drives; each once.
+  [[nodiscard]] QList<QUrl> Places() const;
+  /// Runs the dialog with the places at its side, and gives the host's file that was chosen.
   Outcome<std::string> Run(QFileDialog& dialog);
   Outcome<std::string> RunForFolder(const std::string& title, const QString& folder);
   /// What was chosen, by its path on the drives.

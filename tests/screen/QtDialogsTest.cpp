@@ -160,5 +160,23 @@ TEST_F(QtDialogsTest, ALetterWithAltTypesNothing) {
   EXPECT_EQ(typed, QStringLiteral("ab"));
 }
 
+TEST(QtDialogs, FoldersOfInterestStandAtTheSideOnceAndAsFarAsTheyAreThere) {
+  const TemporaryFolder folder;
+  std::filesystem::create_directory(folder.path() / "my");
+  Drives drives({{'c', folder.path().string()}});
+  QtDialogs dialogs(drives);
+  dialogs.foldersOffered = [] {
+    return std::vector<std::string>{"c:\\my\\", "c:\\gone\\", "c:\\my", "c:\\"};
+  };
+  QStringList places;
+  Once<QFileDialog>([&places](QFileDialog& dialog) {
+    for (const QUrl& place : dialog.sidebarUrls()) places += place.toLocalFile();
+    dialog.reject();
+  });
+  EXPECT_FALSE(dialogs.AskForFile({}));
+  const QString root = QString::fromStdString(folder.path().string());
+  EXPECT_EQ(places, QStringList({QDir::homePath(), root + QLatin1String("/my"), root, QStringLiteral("/")}));
+}
+
 }  // namespace
 }  // namespace tarvik::screen
