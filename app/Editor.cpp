@@ -497,6 +497,38 @@ void Editor::Toolbar1_ButtonClick(int button) {
 
 // Colours.
 
+void Editor::mnuViewColourJoystick_Click() {
+  ApplyColourHighlighting();
+  OfferColourAsYouType();
+}
+
+void Editor::mnuViewColourMacro_Click() {
+  ApplyMacroColourHighlighting();
+  OfferColourAsYouType();
+}
+
+void Editor::mnuRHMColour_Click() {
+  bench_.highlighter.Apply(bench_.documents.Active());
+  OfferColourAsYouType();
+}
+
+/// Once, to somebody who likes colours.
+void Editor::OfferColourAsYouType() {
+  Settings& settings = bench_.settings;
+  if (settings.OfferColourAsYouType == 0) return;
+  settings.ChangeView(settings.OfferColourAsYouType, 0);
+  if (settings.ColourAsYouType != 0) return;
+  const auto answer = [this](int isOn) {
+    bench_.settings.ChangeView(bench_.settings.ColourAsYouType, isOn);
+    bench_.notices.Remove(Matter::Offer, nullptr);
+    bench_.documents.FocusActiveText();
+  };
+  bench_.notices.Show(
+      Matter::Offer, nullptr,
+      {"Tarvik can show these colours while you type, too (View > Colour as you type).",
+       {{"Colour as I type", [answer] { answer(1); }}, {"Leave it", [answer] { answer(0); }}}});
+}
+
 void Editor::mnuViewApplyColourBothFiles_Click() {
   Document& before = bench_.documents.Active();
   mnuViewColourJoystick_Click();

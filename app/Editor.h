@@ -197,13 +197,13 @@ class Editor : public Form {
   // Colours.
   void ApplyColourHighlighting() { bench_.highlighter.Apply(Joystick); }
   void ApplyMacroColourHighlighting() { bench_.highlighter.Apply(Macro); }
-  void mnuViewColourJoystick_Click() { ApplyColourHighlighting(); }
-  void mnuViewColourMacro_Click() { ApplyMacroColourHighlighting(); }
+  void mnuViewColourJoystick_Click();
+  void mnuViewColourMacro_Click();
   void mnuViewApplyColourBothFiles_Click();
   void mnuRemoveColourJoystick_Click() { bench_.highlighter.Remove(Joystick); }
   void mnuRemoveColourMacro_Click() { bench_.highlighter.Remove(Macro); }
   void mnuRemoveColourSelectedText_Click();
-  void mnuRHMColour_Click() { bench_.highlighter.Apply(bench_.documents.Active()); }
+  void mnuRHMColour_Click();
   void mnuRHMColoursRemove_Click() { bench_.highlighter.Remove(bench_.documents.Active()); }
   void mnuInsertWithColour_Click();
 
@@ -272,6 +272,7 @@ class Editor : public Form {
 
   void FollowWorkbench();
   void ShowViewSwitches();
+  void OfferColourAsYouType();
   void FollowMacroLists();
 
   Application& application_;

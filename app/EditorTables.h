@@ -121,11 +121,13 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {2, "mnuViewZoomOut", "Zoom &out", "Ctrl+-", &Editor::mnuViewZoomOut_Click},
     {2, "mnuViewZoomNormal", "&Normal size", "Ctrl+0", &Editor::mnuViewZoomNormal_Click},
     {1, "mnuViewDivider4", "-"},
+    {1, "mnuViewColourAsYouType", "Colour as &you type", "", &Editor::Switch<&Settings::ColourAsYouType>},
     {1, "mnuViewLineNumbers", "&Line numbers", "", &Editor::Switch<&Settings::LineNumbers>},
     {1, "mnuViewCurrentLine", "C&urrent line", "", &Editor::Switch<&Settings::CurrentLine>},
     {1, "mnuViewMatchingBrackets", "Matching &brackets", "", &Editor::Switch<&Settings::MatchingBrackets>},
     {1, "mnuViewOtherPlaces", "&Other places of the word", "", &Editor::Switch<&Settings::OtherPlaces>},
     {1, "mnuViewChangedLines", "Cha&nged lines", "", &Editor::Switch<&Settings::ChangedLines>},
+    {1, "mnuViewWelcomePage", "W&elcome page", "", &Editor::Switch<&Settings::WelcomePage>},
 
     {0, "mnuWindow", "&Window"},
     MenuArray<Editor>(1, "mnuWindowCascade", kArrangements),
@@ -221,9 +223,14 @@ struct ViewSwitchRow {
 };
 
 inline constexpr ViewSwitchRow kViewSwitches[] = {
-    {"mnuViewFixedPitch", &Settings::FixedPitch},   {"mnuViewLineNumbers", &Settings::LineNumbers},
-    {"mnuViewCurrentLine", &Settings::CurrentLine}, {"mnuViewMatchingBrackets", &Settings::MatchingBrackets},
-    {"mnuViewOtherPlaces", &Settings::OtherPlaces}, {"mnuViewChangedLines", &Settings::ChangedLines},
+    {"mnuViewFixedPitch", &Settings::FixedPitch},
+    {"mnuViewColourAsYouType", &Settings::ColourAsYouType},
+    {"mnuViewLineNumbers", &Settings::LineNumbers},
+    {"mnuViewCurrentLine", &Settings::CurrentLine},
+    {"mnuViewMatchingBrackets", &Settings::MatchingBrackets},
+    {"mnuViewOtherPlaces", &Settings::OtherPlaces},
+    {"mnuViewChangedLines", &Settings::ChangedLines},
+    {"mnuViewWelcomePage", &Settings::WelcomePage},
 };
 
 /// A toolbar button runs the entry of that name; where it has two, the selected tab tells which.

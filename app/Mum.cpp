@@ -81,8 +81,8 @@ Mum::Mum(Application& application)
       menus(*this, kMenus),
       application_(application),
       bench_(application.workbench) {
-  for (Component* const control :
-       std::initializer_list<Component*>{&StatusBar, &ProgressBar1, &Picture1, &bench_.journals.timer}) {
+  for (Component* const control : std::initializer_list<Component*>{
+           &StatusBar, &ProgressBar1, &Picture1, &bench_.journals.timer, &bench_.liveColours.timer}) {
     Adopt(*control);
   }
   busy_ = bench_.documents.Busy.Changed.Connect(

@@ -186,6 +186,7 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document,
       documents_(workbench.documents),
       document_(document),
       changes_(workbench.changedLines),
+      live_(workbench.liveColours),
       search_(workbench.search),
       margin_(new Margin(*this)),
       head_(new Head(*this)) {
@@ -204,6 +205,9 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document,
   }
   bindings.Keep(workbench.changedLines.Begun.Connect([this](const Document& document) {
     if (&document == &document_) margin_->update();
+  }));
+  bindings.Keep(workbench.liveColours.Changed.Connect([this](const Document& document) {
+    if (&document == &document_) viewport()->update();
   }));
   for (PropertyBase* const part :
        std::initializer_list<PropertyBase*>{&document.Dirty, &workbench.documents.TabOf(document).Caption,

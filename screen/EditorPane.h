@@ -22,6 +22,7 @@ class EditorPane : public PaneView {
   [[nodiscard]] QFont TextFont() const override;
   [[nodiscard]] qreal TabDistance() const override;
   void PaintBehind(QPainter& painter, const QTextBlock& block, const QPointF& offset) const override;
+  [[nodiscard]] const ColourRuns* ColoursOfBlack() const override { return live_.Of(document_); }
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
@@ -70,6 +71,7 @@ class EditorPane : public PaneView {
   const Documents& documents_;
   const Document& document_;
   const ChangedLines& changes_;
+  const LiveColours& live_;
   const IncrementalSearch& search_;
   Margin* margin_;
   Head* head_;

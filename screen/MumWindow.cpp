@@ -64,7 +64,10 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   RemoveChild();
   if (clock == Clock::Real) {
     KeepPanels();
-    bindings_.Bind(application.workbench.journals.timer, *new QTimer(this));
+    for (Timer* const timer :
+         {&application.workbench.journals.timer, &application.workbench.liveColours.timer}) {
+      bindings_.Bind(*timer, *new QTimer(this));
+    }
   }
   settling_.setSingleShot(true);
   settling_.setInterval(clock == Clock::Real ? kSettlingTime : 0);

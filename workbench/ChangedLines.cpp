@@ -9,7 +9,7 @@ ChangedLines::ChangedLines(Documents& documents, FileCommands& files)
             if (written) Begin(document);
           }),
           // What comes next is read from a file, or is nothing.
-          files.Leaves.Connect([this](const Document& document) { ChangesOf(document).Begin({}); }),
+          files.Leaves.Connect([this](const Document& document) { changes_.Of(document).Begin({}); }),
       } {
   for (const Document* const document : {&documents.joystick, &documents.macro}) {
     Begin(*document);
@@ -18,15 +18,15 @@ ChangedLines::ChangedLines(Documents& documents, FileCommands& files)
 }
 
 void ChangedLines::Begin(const Document& document) {
-  ChangesOf(document).Begin(document.text.Characters());
+  changes_.Of(document).Begin(document.text.Characters());
   Begun(document);
 }
 
 void ChangedLines::Follow(const Document& document) {
   connections_.push_back(document.text.Edited.Connect([this, &document](const PaneEdit& edit) {
     if (edit.OnlyColours()) return;
-    ChangesOf(document).Edit(document.text.Characters(), document.text.GetLineFromChar(edit.position),
-                             edit.position, edit.removed.text, edit.inserted.text);
+    changes_.Of(document).Edit(document.text.Characters(), document.text.GetLineFromChar(edit.position),
+                               edit.position, edit.removed.text, edit.inserted.text);
   }));
 }
 

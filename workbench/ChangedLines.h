@@ -10,19 +10,15 @@ class ChangedLines {
  public:
   ChangedLines(Documents& documents, FileCommands& files);
 
-  [[nodiscard]] const LineChanges& Of(const Document& document) const {
-    return document.IsJoystick() ? joystick_ : macro_;
-  }
+  [[nodiscard]] const LineChanges& Of(const Document& document) const { return changes_.Of(document); }
   /// Nothing of the document is changed any more.
   Signal<const Document&> Begun;
 
  private:
-  LineChanges& ChangesOf(const Document& document) { return document.IsJoystick() ? joystick_ : macro_; }
   void Begin(const Document& document);
   void Follow(const Document& document);
 
-  LineChanges joystick_;
-  LineChanges macro_;
+  PerDocument<LineChanges> changes_;
   std::vector<Connection> connections_;
 };
 

@@ -99,4 +99,16 @@ class Document : public Component {
   [[nodiscard]] bool IsUntitled() const { return Name.Get().Text().starts_with("untitled"); }
 };
 
+/// Something that there is of each of the two documents.
+template <typename T>
+struct PerDocument {
+  T joystick;
+  T macro;
+
+  [[nodiscard]] T& Of(const Document& document) { return document.IsJoystick() ? joystick : macro; }
+  [[nodiscard]] const T& Of(const Document& document) const {
+    return document.IsJoystick() ? joystick : macro;
+  }
+};
+
 }  // namespace tarvik

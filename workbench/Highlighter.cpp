@@ -13,6 +13,10 @@ std::array<Colour, kColourClasses> ColoursOf(const Settings& settings) {
           settings.RemStatements};
 }
 
+std::span<const Pass> PassesOf(const Document& document) {
+  return document.IsJoystick() ? JoystickPasses() : MacroPasses();
+}
+
 namespace {
 
 constexpr int kCommandGroup = 15;  // the progress bar's length during the passes over commands
@@ -36,8 +40,7 @@ void Highlighter::Apply(Document& document) {
   documents_.ApplyLook(documents_.macro);
   ApplyLookOfJoystick(document);
 
-  MakePasses(document.text, document.IsJoystick() ? JoystickPasses() : MacroPasses(), documents_,
-             CommandProgress::CountOfPasses);
+  MakePasses(document.text, PassesOf(document), documents_, CommandProgress::CountOfPasses);
 
   documents_.macro.text.SelStart = documents_.macro.Caret;
   documents_.joystick.text.SelStart = documents_.joystick.Caret;

@@ -11,6 +11,9 @@ namespace tarvik {
 /// The colours of the classes, as they are set.
 [[nodiscard]] std::array<Colour, kColourClasses> ColoursOf(const Settings& settings);
 
+/// The passes of a document's language.
+[[nodiscard]] std::span<const Pass> PassesOf(const Document& document);
+
 /// What the progress bar shows during the passes over commands; during the others it follows the hits.
 enum class CommandProgress { Hits, CountOfPasses };
 

@@ -13,7 +13,16 @@
 namespace tarvik {
 
 /// What a notice is about; the first of these that there is of a document is shown.
-enum class Matter { OtherEncoding, SaveFailed, NotKept, FileChanged, VersionKept, NoVersion, TextsLeft };
+enum class Matter {
+  OtherEncoding,
+  SaveFailed,
+  NotKept,
+  FileChanged,
+  VersionKept,
+  NoVersion,
+  TextsLeft,
+  Offer
+};
 
 struct NoticeAction {
   std::string caption;

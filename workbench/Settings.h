@@ -97,6 +97,9 @@ class Settings : public Component {
   Property<int> MatchingBrackets{*this, "MatchingBrackets"};
   Property<int> OtherPlaces{*this, "OtherPlaces"};
   Property<int> ChangedLines{*this, "ChangedLines"};
+  Property<int> ColourAsYouType{*this, "ColourAsYouType"};
+  Property<int> OfferColourAsYouType{*this, "OfferColourAsYouType"};  ///< until it was offered once
+  Property<int> WelcomePage{*this, "WelcomePage"};
   Property<int> FixedPitch{*this, "FixedPitch"};
   Property<int> Zoom{*this, "Zoom"};            ///< per cent
   Property<int> TileShare{*this, "TileShare"};  ///< of the joystick file in the tiled view, in thousandths

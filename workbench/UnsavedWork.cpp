@@ -23,8 +23,7 @@ UnsavedWork::UnsavedWork(JournalKeeper& keeper, Documents& documents, FileComman
     : keeper_(keeper),
       files_(files),
       notices_(notices),
-      joystick_(keeper, documents.joystick),
-      macro_(keeper, documents.macro),
+      work_{{keeper, documents.joystick}, {keeper, documents.macro}},
       connections_{
           files.Leaves.Connect([this](const Document& document) { Leaves(document); }),
           files.Written.Connect(
@@ -36,7 +35,7 @@ UnsavedWork::UnsavedWork(JournalKeeper& keeper, Documents& documents, FileComman
 /// Whoever is asked about a document that counts as modified, and lets it go, gives the text up. One that
 /// counts as saved and is not went unasked.
 void UnsavedWork::Leaves(const Document& document) {
-  Journal& journal = Of(document).journal;
+  Journal& journal = work_.Of(document).journal;
   notices_.Remove(Matter::SaveFailed, &document);
   if (document.Dirty == saved::kModified) {
     journal.Remove();
@@ -46,7 +45,7 @@ void UnsavedWork::Leaves(const Document& document) {
 }
 
 void UnsavedWork::Written(Document& document, const Outcome<>& outcome) {
-  Journal& journal = Of(document).journal;
+  Journal& journal = work_.Of(document).journal;
   if (outcome) {
     journal.Remove();
     return notices_.Remove(Matter::SaveFailed, &document);
@@ -67,7 +66,7 @@ void UnsavedWork::KeepsNothing(const Failure& failure) {
 }
 
 void UnsavedWork::End() {
-  for (const Work* const work : {&joystick_, &macro_}) Leaves(work->document);
+  for (const Work* const work : {&work_.joystick, &work_.macro}) Leaves(work->document);
 }
 
 }  // namespace tarvik

@@ -25,7 +25,6 @@ class UnsavedWork {
     std::vector<Connection> connections;
   };
 
-  [[nodiscard]] Work& Of(const Document& document) { return document.IsJoystick() ? joystick_ : macro_; }
   void Leaves(const Document& document);
   void Written(Document& document, const Outcome<>& outcome);
   void KeepsNothing(const Failure& failure);
@@ -33,8 +32,7 @@ class UnsavedWork {
   JournalKeeper& keeper_;
   FileCommands& files_;
   Notices& notices_;
-  Work joystick_;
-  Work macro_;
+  PerDocument<Work> work_;
   std::vector<Connection> connections_;
 };
 

@@ -8,6 +8,7 @@
 #include "workbench/ForeignEncodings.h"
 #include "workbench/IncrementalSearch.h"
 #include "workbench/LineBlink.h"
+#include "workbench/LiveColours.h"
 #include "workbench/LoggedDesktop.h"
 #include "workbench/LoggedPrograms.h"
 #include "workbench/Recovery.h"
@@ -46,6 +47,7 @@ class Workbench {
   FileCommands files{documents, copies, highlighter, macros, lists, versions};
   ChangedLines changedLines{documents, files};
   IncrementalSearch search{documents};
+  LiveColours liveColours{documents};
   Notices notices;
   ForeignChanges foreign{documents, files, insertion, notices};
   ForeignEncodings encodings{documents, files, insertion, notices};

@@ -37,6 +37,8 @@ class PaneView : public QPlainTextEdit {
   /// Paints what lies behind the letters of a block, which begins at `offset`.
   virtual void PaintBehind(QPainter& /*painter*/, const QTextBlock& /*block*/,
                            const QPointF& /*offset*/) const {}
+  /// The colours of the characters that have none of their own; null where they are black.
+  [[nodiscard]] virtual const ColourRuns* ColoursOfBlack() const { return nullptr; }
   /// The text keeps so many pixels free at its left side.
   void SetSideWidth(int width);
   /// And so many above it.
@@ -94,6 +96,8 @@ class PaneView : public QPlainTextEdit {
   void MoveSelectionTo(const QPoint& place);
 
   void PaintBlock(QPainter& painter, const QTextBlock& block, const QPointF& offset, int caret) const;
+  /// The colour of a character, and the place behind the last one that has it too.
+  [[nodiscard]] std::pair<Colour, std::size_t> ColourFrom(std::size_t position) const;
   /// `selected` counts from the start of the block, whose text has `textLength` characters.
   void PaintLine(QPainter& painter, const QTextLine& line, const QPointF& offset, std::size_t blockStart,
                  std::size_t textLength, Range selected) const;

@@ -109,6 +109,15 @@ void PaneView::ForEachPlace(const QPainter& painter, const QTextBlock& block, co
   });
 }
 
+/// Somebody who heard of an edit sooner may have the window painted before the other colours follow it.
+std::pair<Colour, std::size_t> PaneView::ColourFrom(std::size_t position) const {
+  const ColourRuns& own = pane_.Content().colours;
+  const ColourRuns* const ofBlack = ColoursOfBlack();
+  const std::pair<Colour, std::size_t> found{own.At(position), own.EndOf(own.RunAt(position))};
+  if (found.first != kBlack || !ofBlack || ofBlack->size() != own.size()) return found;
+  return {ofBlack->At(position), std::min(found.second, ofBlack->EndOf(ofBlack->RunAt(position)))};
+}
+
 void PaneView::PaintLine(QPainter& painter, const QTextLine& line, const QPointF& offset,
                          std::size_t blockStart, std::size_t textLength, Range selected) const {
   const auto x = [&line](std::size_t at) { return line.cursorToX(static_cast<int>(at)); };
@@ -124,16 +133,15 @@ void PaneView::PaintLine(QPainter& painter, const QTextLine& line, const QPointF
                      palette().brush(group, QPalette::Highlight));
   }
   const auto [first, last] = Exposed(line, painter.clipBoundingRect().translated(-offset));
-  const ColourRuns& colours = pane_.Content().colours;
   for (std::size_t at = first; at < last;) {
     const std::size_t position = blockStart + at;
-    if (position >= colours.size()) break;
+    if (position >= pane_.Content().size()) break;
     const bool inSelection = at >= from && at < to;
-    std::size_t next = std::min(last, colours.EndOf(colours.RunAt(position)) - blockStart);
+    const auto [colour, end] = ColourFrom(position);
+    std::size_t next = std::min(last, end - blockStart);
     if (at < from) next = std::min(next, from);
     if (inSelection) next = std::min(next, to);
-    painter.setPen(inSelection ? palette().color(group, QPalette::HighlightedText)
-                               : InkOf(colours.At(position)));
+    painter.setPen(inSelection ? palette().color(group, QPalette::HighlightedText) : InkOf(colour));
     for (const QGlyphRun& run : line.glyphRuns(static_cast<int>(at), static_cast<int>(next - at))) {
       painter.drawGlyphRun(offset, run);
     }

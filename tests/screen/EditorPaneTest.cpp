@@ -227,6 +227,35 @@ TEST_F(EditorPaneTest, BlackCanBeReadOnADarkBackgroundAndStaysBlackInTheText) {
   EXPECT_TRUE(light);
 }
 
+TEST_F(EditorPaneTest, ColoursAsOneTypesLookLikeThoseOfTheColouredTextAndAreNotInIt) {
+  const ColourRuns black(pane.Characters().size(), kBlack);
+  const auto shown = [this] { return view.grab().toImage(); };
+  const QImage coloured = shown();
+  const ColourRuns colours = pane.Content().colours;
+  pane.Recolour(0, black);
+  EXPECT_NE(shown(), coloured);
+  settings.ColourAsYouType = 1;
+  EXPECT_EQ(shown(), coloured);
+  EXPECT_EQ(pane.Content().colours, black);
+  pane.Recolour(Find("Gear"), ColourRuns(4, settings.RAWColour));
+  const QImage withOwn = shown();
+  EXPECT_NE(withOwn, coloured);
+  pane.Recolour(0, colours);
+  pane.Recolour(Find("Gear"), ColourRuns(4, settings.RAWColour));
+  EXPECT_EQ(shown(), withOwn);
+}
+
+TEST_F(EditorPaneTest, ColoursAsOneTypesComeWithTheKey) {
+  pane.Recolour(0, ColourRuns(pane.Characters().size(), kBlack));
+  settings.ColourAsYouType = 1;
+  pane.Select({Find("fire"), 0});
+  QTest::keyClicks(&view, "Rem ");
+  settings.CurrentLine = 0;
+  const QImage typed = view.grab().toImage();
+  pane.Recolour(Find("Rem fire"), ColourRuns(8, settings.RemStatements));
+  EXPECT_EQ(view.grab().toImage(), typed);
+}
+
 TEST_F(EditorPaneTest, NothingThatIsPaintedIsInTheText) {
   const std::string before = pane.TextRTF;
   for (Property<int>* const option : {&settings.LineNumbers, &settings.CurrentLine, &settings.OtherPlaces,
