@@ -47,6 +47,7 @@ Editor::Editor(Application& application)
       TimerBlinkLine(application.workbench.blink.timer),
       notice(*this, application.workbench, [this] { layout_.Place(); }),
       find(*this, application.workbench, [this] { layout_.Place(); }),
+      welcome(*this, application.workbench, CommandsOfWelcome()),
       menus(*this, tables::kMenus),
       popUps(*this, tables::kPopUps),
       Joystick(application.workbench.documents.joystick),
@@ -129,6 +130,16 @@ void Editor::ShowPicturesInPopUps() {
         [&popUp](const MenuRow<Editor>& row) { return row.handler == popUp.handler && row.index < 0; });
     if (same != std::end(tables::kMenus)) popUps(popUp.name).Image = menus(same->name).Image.Get();
   }
+}
+
+WelcomeCommands Editor::CommandsOfWelcome() {
+  return {[this] { mnuFileOpen_Click(); },
+          [this] { ShowTool<ToolId::MacroWizard>(); },
+          [this] { ShowTool<ToolId::JoystickWizard>(); },
+          [this] { mnuHelpOnWeb_Click(); },
+          [this](int index) { mnuJFArray_Click(index); },
+          [this](int index) { mnuFavArray_Click(index); },
+          [this](const std::vector<std::string>& paths) { OpenDropped(paths); }};
 }
 
 // Life of the form.
@@ -233,6 +244,20 @@ void Editor::FirstTimeFlow() {
   bench_.platform.dialogs.Show({"Tarvik initialising ...", kWelcome, BoxIcon::Information});
   bench_.settings.SaveOptions();
   mnuPreferencesEdit_Click();
+  if (bench_.platform.desktop.IsDark()) OfferDarkColours();
+}
+
+void Editor::OfferDarkColours() {
+  const auto answer = [this](ColourScheme scheme) {
+    bench_.settings.UseScheme(scheme);
+    for (const Document* const document : {&Joystick, &Macro}) bench_.documents.ApplyBackground(*document);
+    bench_.notices.Remove(Matter::Offer, nullptr);
+    bench_.documents.FocusActiveText();
+  };
+  bench_.notices.Show(Matter::Offer, nullptr,
+                      {"Your desktop is dark. The two files can be dark, too (Edit > Preferences > Colours).",
+                       {{"Dark files", [answer] { answer(ColourScheme::Dark); }},
+                        {"Light files", [answer] { answer(ColourScheme::Light); }}}});
 }
 
 void Editor::Form_Activate() {

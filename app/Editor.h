@@ -8,6 +8,7 @@
 #include "app/NoticeBar.h"
 #include "app/PaneInput.h"
 #include "app/SavedStates.h"
+#include "app/WelcomePage.h"
 #include "workbench/HelpTopics.h"
 #include "workbench/PrintRTFWordWrap.h"
 #include "workbench/Workbench.h"
@@ -36,6 +37,7 @@ class Editor : public Form {
   Timer& TimerBlinkLine;
   NoticeBar notice;
   FindBar find;
+  WelcomePage welcome;
   Menus menus;
   /// The pop-up menus: the panes', and the macro lists'.
   Menus popUps;
@@ -271,8 +273,10 @@ class Editor : public Form {
   void StepThroughHistory(void (UndoHistory::*step)());
 
   void FollowWorkbench();
+  [[nodiscard]] WelcomeCommands CommandsOfWelcome();
   void ShowViewSwitches();
   void OfferColourAsYouType();
+  void OfferDarkColours();
   void FollowMacroLists();
 
   Application& application_;

@@ -95,6 +95,8 @@ class Desktop {
   virtual Outcome<> Open(const std::string& path) = 0;
   /// Starts the program with which the desktop tells about the machine; a failure where it has none.
   virtual Outcome<> ShowSystemInformation() = 0;
+  /// Whether it shows light letters on dark.
+  [[nodiscard]] virtual bool IsDark() const = 0;
 };
 
 /// The help window of the program.

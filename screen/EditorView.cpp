@@ -94,6 +94,7 @@ EditorView::EditorView(Editor& editor, Workbench& workbench, Clock clock)
   notice_ = new NoticeView(editor.notice, bindings_, this);
   find_ = new FindView(editor.find, bindings_, this);
   MakePanes(workbench);
+  MakeWelcome();
   OrderFocus();
   bindings_.Shows(editor, *this);
   bindings_.Bind(editor.Caption, [this] { setWindowTitle(ToScreen(editor_.Caption.Get())); });
@@ -168,6 +169,20 @@ void EditorView::MakePanes(Workbench& workbench) {
   connect(larger, &QShortcut::activated, this, [this] { editor_.mnuViewZoomIn_Click(); });
 }
 
+/// Over both files in the tiled view too.
+void EditorView::MakeWelcome() {
+  welcome_ = new WelcomeView(editor_.welcome, bindings_, this);
+  TabStrip& strip = editor_.TabStrip1;
+  Pane& pane = editor_.JoystickText;
+  for (PropertyBase* const side :
+       std::initializer_list<PropertyBase*>{&strip.Left, &strip.Width, &pane.Top, &pane.Height}) {
+    bindings_.Bind(*side, [this, &strip, &pane] {
+      welcome_->StandIn(
+          {ToPixels(strip.Left), ToPixels(pane.Top), ToPixels(strip.Width), ToPixels(pane.Height)});
+    });
+  }
+}
+
 /// The Tab key goes as the eye does. The upper row of the modifier buttons ends with the last of their array.
 void EditorView::OrderFocus() {
   const auto button = [this](int index) {
@@ -181,6 +196,7 @@ void EditorView::OrderFocus() {
   setTabOrder(last, panes_[0]);
   setTabOrder(panes_[0], panes_[1]);
   last = panes_[1];
+  for (QWidget* const next : welcome_->parts()) setTabOrder(std::exchange(last, next), next);
   for (QWidget* const next : find_->parts()) setTabOrder(std::exchange(last, next), next);
 }
 

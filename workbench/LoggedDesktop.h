@@ -11,6 +11,7 @@ class LoggedDesktop : public Desktop {
 
   Outcome<> Open(const std::string& path) override;
   Outcome<> ShowSystemInformation() override;
+  [[nodiscard]] bool IsDark() const override { return desktop_.IsDark(); }
 
  private:
   Outcome<> Told(const std::string& what, Outcome<> outcome);

@@ -178,13 +178,18 @@ void Settings::GetColours() {
 }
 
 void Settings::ColoursSortOut() {
-  for (const ColourOption& option : kColourOptions) this->*option.member = option.factory;
   TextFontName = kFontFallback;
   TextFontSize = kFactoryFontSize;
   TextFontBold = 0;
   ApplyColoursOnFileOpen = 1;
   InsertWithColour = 1;
+  for (const ColourOption& option : kColourOptions) this->*option.member = option.factory;
   Trap{errors_, "MUM ColoursSortOut"}(SaveColours());
+}
+
+void Settings::UseScheme(ColourScheme scheme) {
+  for (const ColourOption& option : kColourOptions) this->*option.member = ColourIn(scheme, option.member);
+  Trap{errors_, "Settings"}(SaveColours());
 }
 
 Outcome<> Settings::SaveColours() {

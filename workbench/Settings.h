@@ -115,6 +115,9 @@ class Settings : public Component {
   /// Sets the factory colour scheme and writes it; InsertWithColour is set but not written.
   void ColoursSortOut();
 
+  /// Takes the colours of a scheme, and writes them.
+  void UseScheme(ColourScheme scheme);
+
   /// Changes a setting of the view, and stores it at once.
   void ChangeView(Property<int>& option, int value);
   /// Writes one of the few keys that forms store by themselves, at once.

@@ -27,15 +27,34 @@ QLayout* Paths(const FormLayout& in, std::initializer_list<PathRow> rows) {
   return Grid(cells, 3);
 }
 
+constexpr const char* kMayStayEmpty =
+    "Loader and Control Centre may stay empty: a download and the Thrustmaster tools need them, editing does "
+    "not. Drive c: is a folder of your own, and z: is the whole of this computer's disk; Drives has more.";
+
+/// A label on the page's own background.
+QWidget* Plain(QWidget* label) {
+  label->setAutoFillBackground(false);
+  return label;
+}
+
+/// A setting that has nothing to act on here.
+QLayout* Idle(QWidget* box) {
+  QLabel* const words = Words("(without effect here)");
+  words->setEnabled(false);
+  return Row({box, words, Stretch()});
+}
+
 QLayout* FileLocations(Preferences& form, const FormLayout& in) {
   QLayout* const paths = Paths(in, {{"Loader", form.Text1, form.Command1},
                                     {"Joystick and macro files", form.Text2, form.Command2},
                                     {"Control Centre", form.Text10, form.Command8}});
+  std::vector<Field> hardware = {{"Joystick", in.Show(form.ComboJoystick)},
+                                 {"Throttle", in.Show(form.ComboThrottle)},
+                                 {"Rudders", in.Show(form.ComboRudders)}};
+  const auto* const widest = qobject_cast<QGridLayout*>(paths)->itemAtPosition(1, 0)->widget();
+  hardware.front().label->setMinimumWidth(widest->minimumWidth());
   return Column({Group("Files", Column({paths, Row({Stretch(), in.Show(form.CommandDrives)})})),
-                 Group("Hardware", Fields({{"Joystick", in.Show(form.ComboJoystick)},
-                                           {"Throttle", in.Show(form.ComboThrottle)},
-                                           {"Rudders", in.Show(form.ComboRudders)}})),
-                 Stretch()});
+                 Group("Hardware", Fields(hardware)), Wrapped(Words(kMayStayEmpty)), Stretch()});
 }
 
 QLayout* Colours(Preferences& form, const FormLayout& in) {
@@ -46,8 +65,9 @@ QLayout* Colours(Preferences& form, const FormLayout& in) {
   QLayout* const schemes =
       Row({in.Show(form.CheckBox1), Stretch(), in.Show(form.LightScheme), in.Show(form.DarkScheme)});
   return Column({Row({list, example}), schemes,
-                 Group("Font", Row({in.Show(form.Command18), in.Show(form.CheckFixedPitch), Stretch(),
-                                    in.Show(form.Command17)}))});
+                 Group("Font", Column({Plain(in.Show(form.FontInUse)),
+                                       Row({in.Show(form.Command18), in.Show(form.CheckFixedPitch), Stretch(),
+                                            in.Show(form.Command17)})}))});
 }
 
 QLayout* Apps(Preferences& form, const FormLayout& in) {
@@ -70,17 +90,19 @@ QLayout* Apps(Preferences& form, const FormLayout& in) {
 }
 
 /// The names beside the record in hand.
-QLayout* ListPage(const FormLayout& in, ListBox& rows, const char* name, TextBox& first, QLayout* record) {
+QLayout* ListPage(const FormLayout& in, ListBox& rows, Label& hint, const char* name, TextBox& first,
+                  QLayout* record) {
   constexpr int kListWidth = 190;
   QWidget* const list = Named(in.Show(rows), QString::fromUtf8(name));
   list->setFixedWidth(kListWidth);
-  return Row({list, Column({Above("Name for menu", in.Show(first)), record})});
+  QLabel* const words = Wrapped(Plain(in.Show(hint)));
+  words->setFixedWidth(kListWidth);
+  return Row({Column({words, list}), Column({Above("Name for menu", in.Show(first)), record})});
 }
 
 QLayout* Favourites(Preferences& form, const FormLayout& in) {
-  QWidget* const toLoad = in.Show(form.Label11);
-  toLoad->setAutoFillBackground(false);
-  return ListPage(in, form.List2, "Favourites", form.Text7,
+  QWidget* const toLoad = Plain(in.Show(form.Label11));
+  return ListPage(in, form.List2, form.NoFavourites, "Favourites", form.Text7,
                   Column({Paths(in, {{"Joystick file", form.Text8, form.Command9},
                                      {"Macro file", form.Text9, form.Command10}}),
                           Row({Stretch(), in.Show(form.Command13)}), Stretch(),
@@ -88,7 +110,7 @@ QLayout* Favourites(Preferences& form, const FormLayout& in) {
 }
 
 QLayout* Games(Preferences& form, const FormLayout& in) {
-  return ListPage(in, form.List3, "Games", form.Text12,
+  return ListPage(in, form.List3, form.NoGames, "Games", form.Text12,
                   Column({Paths(in, {{"File that runs game", form.Text11, form.Command16},
                                      {"Working directory", form.Text4, form.Command15},
                                      {"Joystick file", form.Text13, form.Command4}}),
@@ -105,18 +127,20 @@ QLayout* Miscellaneous(Preferences& form, const FormLayout& in) {
       {Group("Saving", Column({Row({in.Show(form.Check3(0)), number(form.Text3, "Minutes"), Words("minutes"),
                                     Stretch()}),
                                in.Show(form.Check3(1))})),
-       Group("Undo", Column({Row({Words("Maximum:"), number(form.TxtUndoLevels, "Maximum"), Stretch(),
-                                  in.Show(form.Command11)}),
+       Group("Undo", Column({Row({Words("Maximum:"), number(form.TxtUndoLevels, "Maximum"), Words("steps"),
+                                  Stretch(), in.Show(form.Command11)}),
                              in.Show(form.CheckUndoSave), in.Show(form.CheckHighlightOnUndo)})),
        Group("Composer", Column({in.Show(form.OptionImagesToShow(0)), in.Show(form.OptionImagesToShow(1)),
                                  in.Show(form.OptionImagesToShow(2))})),
        Stretch()});
   QLayout* const right = Column(
-      {Group("Toolbar", Column({in.Show(form.OpenBothChk), in.Show(form.SaveBothChk),
-                                in.Show(form.CheckFlattenToolbar(0)), in.Show(form.CheckFlattenToolbar(1)),
-                                in.Show(form.CheckFlattenToolbar(2)), in.Show(form.CheckShowTooltips)})),
-       Group("Other", Column({in.Show(form.CheckAggressive), in.Show(form.CheckIdentify),
-                              Row({Words("DLY"), number(form.DLYText, "DLY"), Stretch()})})),
+      {Group("Toolbar",
+             Column({in.Show(form.OpenBothChk), in.Show(form.SaveBothChk),
+                     in.Show(form.CheckFlattenToolbar(0)), Idle(in.Show(form.CheckFlattenToolbar(1))),
+                     in.Show(form.CheckFlattenToolbar(2)), Idle(in.Show(form.CheckShowTooltips))})),
+       Group("Other",
+             Column({in.Show(form.CheckAggressive), in.Show(form.CheckIdentify),
+                     Row({Words("DLY"), number(form.DLYText, "DLY"), Words("milliseconds"), Stretch()})})),
        Stretch()});
   return Row({left, right});
 }

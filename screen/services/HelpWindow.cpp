@@ -310,6 +310,22 @@ void HelpWindow::ChooseOwner() {
   if (windowHandle()->transientParent() == owner) return;
   hide();
   windowHandle()->setTransientParent(owner);
+  if (modal) StandBeside(*modal->window());
+}
+
+/// What the help tells of stays in sight: the window goes to the left of the screen where the help has too
+/// little room beside it. On a small screen the two overlap.
+void HelpWindow::StandBeside(QWidget& window) {
+  const QRect screen = window.screen()->availableGeometry();
+  QRect place = window.frameGeometry();
+  if (screen.right() - place.right() < kSize.width()) {
+    window.move(screen.left(), place.top());
+    place.moveLeft(screen.left());
+  }
+  const int room = screen.right() - place.right();
+  const int width = std::clamp(room, minimumSizeHint().width(), kSize.width());
+  resize(width, height());
+  move(std::min(place.right() + 1, screen.right() - width), place.top());
 }
 
 void HelpWindow::ShowContext(int context) { ShowTopic(file_.WithContext(context), QString::number(context)); }

@@ -56,6 +56,7 @@ class HelpWindow : public QDialog {
   void GoToContents();
   void Print();
   void ChooseOwner();
+  void StandBeside(QWidget& window);
   void FollowLink(const QUrl& link);
 
   HelpFile file_;

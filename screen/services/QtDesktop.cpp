@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QLocale>
 #include <QMimeData>
+#include <QPalette>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTime>
@@ -74,6 +75,11 @@ Outcome<> QtDesktop::Open(const std::string& path) {
       host && QDesktopServices::openUrl(QUrl::fromLocalFile(QFile::decodeName(host->c_str())));
   if (!opened) return Failure{error::kFileNotFound, "File not found", 0};
   return Done{};
+}
+
+bool QtDesktop::IsDark() const {
+  const QPalette palette = QGuiApplication::palette();
+  return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
 Outcome<> QtDesktop::ShowSystemInformation() {

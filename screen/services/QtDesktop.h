@@ -33,6 +33,7 @@ class QtDesktop : public Desktop {
   Outcome<> Open(const std::string& path) override;
   /// Starts the first that is installed of the programs that desktops have for it.
   Outcome<> ShowSystemInformation() override;
+  [[nodiscard]] bool IsDark() const override;
 
  private:
   const Drives& drives_;

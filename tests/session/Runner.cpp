@@ -145,6 +145,7 @@ const std::vector<Runner::Sentence>& Runner::Sentences() {
       {"lock caps|num NUMBER|unknown", &Runner::SetLock},
       {"program runs|ends|abandoned", &Runner::SetProgram},
       {"program fails NUMBER", &Runner::SetProgram},
+      {"desktop dark", &Runner::DarkenDesktop},
       {"sysinfo none", &Runner::SetSystemInformation},
       {"hostfolder TEXT", &Runner::HostFolder},
       {"without FirstTimeUsed|ShowTips", &Runner::LeaveOut},

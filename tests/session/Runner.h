@@ -67,6 +67,7 @@ class Runner {
   void MoveJoystick(const Line& line);
   void SetLock(const Line& line);
   void SetProgram(const Line& line);
+  void DarkenDesktop(const Line& line);
   void SetSystemInformation(const Line& line);
   void HostFolder(const Line& line);
   void LeaveOut(const Line& line);

@@ -113,6 +113,9 @@ void Runner::SetProgram(const Line& line) {
   }
 }
 
+/// desktop dark
+void Runner::DarkenDesktop(const Line&) { outside_.desktop.isDark = true; }
+
 /// sysinfo none
 void Runner::SetSystemInformation(const Line& line) {
   outside_.desktop.tellsAboutTheMachine = Word(line, 1) != "none";

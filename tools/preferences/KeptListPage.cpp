@@ -44,6 +44,7 @@ void KeptListPage::Fill(int row) {
   const bool before = std::exchange(filling_, true);
   traits_.rows.FillInOrder(traits_.list.Names());
   traits_.rows.ListIndex = std::min(row, traits_.list.Count() - 1);
+  traits_.hint.Visible = traits_.list.Count() == 0;
   filling_ = before;
 }
 

@@ -17,6 +17,7 @@ class KeptListPage {
   struct Traits {
     RecentList& list;
     ListBox& rows;
+    Label& hint;  ///< how one comes to a first record
     std::function<void()> save;
     std::vector<TextBox*> parts;  ///< the boxes of a record's parts, in their order
     CheckBox* tick;               ///< for the part behind them, or null

@@ -45,6 +45,7 @@ Preferences::Preferences(Workbench& bench, Shell& shell)
       settings_(bench.settings),
       favourites_(bench, {.list = bench.lists.Favourites,
                           .rows = List2,
+                          .hint = NoFavourites,
                           .save = [this] { bench_.lists.SaveFavourites(); },
                           .parts = {&Text7, &Text8, &Text9},
                           .tick = nullptr,
@@ -54,6 +55,7 @@ Preferences::Preferences(Workbench& bench, Shell& shell)
                           .removal = "PREFS Command13_Click"}),
       games_(bench, {.list = bench.lists.Games,
                      .rows = List3,
+                     .hint = NoGames,
                      .save = [this] { bench_.lists.SaveGames(); },
                      .parts = {&Text12, &Text11, &Text4, &Text13},
                      .tick = &Check5,
@@ -87,6 +89,10 @@ void Preferences::NameControls() {
   CommandDrives.ToolTipText = "Which folder each drive letter stands for";
   DLYText.ToolTipText = "Default delay value for Editor's DLY button";
   Command3.ToolTipText = "Saves the Preferences";
+  NoFavourites.Caption =
+      "There are none yet. Open two files, then choose Favourites > Add current files in the menu.";
+  NoGames.Caption = "There are none yet. Choose Games > Add game in the menu.";
+  for (Label* const hint : {&FontInUse, &NoFavourites, &NoGames}) hint->BackColor = ToggleLabel::kOff;
 }
 
 void Preferences::AttachHandlers() {
@@ -211,6 +217,7 @@ void Preferences::SSTab1_Click() {
     CheckBox1.Value = settings_.ApplyColoursOnFileOpen == 0 ? 0 : 1;
     FillColours();
     ShowExample();
+    ShowFont();
   }
   if (SSTab1.Tab == page::kFavourites) {
     bench_.lists.Favourites.Count() > 0 ? UpdateFavouritesControls() : DisableFavouritesControls();

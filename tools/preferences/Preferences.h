@@ -22,7 +22,7 @@ class Preferences : public ToolForm {
   TextBox Text2{*this, "Text2"};    ///< the folder of the files
   TextBox Text10{*this, "Text10"};  ///< the Control Centre
   CommandButton Command1{*this, "Command1", "Browse"};
-  CommandButton Command2{*this, "Command2", "Select"};
+  CommandButton Command2{*this, "Command2", "Browse"};
   CommandButton Command8{*this, "Command8", "Browse"};
   CommandButton CommandDrives{*this, "CommandDrives", "&Drives..."};
   ComboBox ComboJoystick{*this, "ComboJoystick"};
@@ -38,6 +38,7 @@ class Preferences : public ToolForm {
   CommandButton DarkScheme{*this, "DarkScheme", "Dark scheme", &Preferences::DarkScheme_Click};
   CommandButton Command17{*this, "Command17", "Tip: fixed pitch fonts", &Preferences::Command17_Click};
   CommandButton Command18{*this, "Command18", "Change font", &Preferences::DoTheFonts};
+  Label FontInUse{*this, "FontInUse"};
 
   // Apps.
   TextBox Text5{*this, "Text5"};  ///< the first picture of the image viewer
@@ -52,6 +53,7 @@ class Preferences : public ToolForm {
 
   // Favourites.
   ListBox List2{*this, "List2"};
+  Label NoFavourites{*this, "NoFavourites"};
   TextBox Text7{*this, "Text7"};  ///< the name
   TextBox Text8{*this, "Text8"};  ///< the joystick file
   TextBox Text9{*this, "Text9"};  ///< the macro file
@@ -64,13 +66,14 @@ class Preferences : public ToolForm {
 
   // Games.
   ListBox List3{*this, "List3"};
+  Label NoGames{*this, "NoGames"};
   TextBox Text12{*this, "Text12"};  ///< the name
   TextBox Text11{*this, "Text11"};  ///< the command line
   TextBox Text4{*this, "Text4"};    ///< the folder
   TextBox Text13{*this, "Text13"};  ///< the joystick file
   CheckBox Check5{*this, "Check5", "Transfer joystick file to joystick when game is run"};
   CommandButton Command16{*this, "Command16", "Browse"};
-  CommandButton Command15{*this, "Command15", "Select"};
+  CommandButton Command15{*this, "Command15", "Browse"};
   CommandButton Command4{*this, "Command4", "Browse"};
   CommandButton Command12{*this, "Command12", "Remove"};
 
@@ -109,6 +112,7 @@ class Preferences : public ToolForm {
   void ApplyColour(Colour colour);
   void SaveColourScheme();
   void DoTheFonts();
+  void ShowFont();
   void Command6_Click();
   /// All colours at once, as a user would choose them one by one.
   void UseScheme(ColourScheme scheme);

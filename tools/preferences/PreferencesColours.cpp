@@ -126,8 +126,14 @@ void Preferences::DoTheFonts() {
   settings_.TextFontSize = font->size;
   settings_.TextFontBold = font->bold ? 1 : 0;
   ApplyFont(ExampleJoystickText, settings_);
+  ShowFont();
   bench_.values.FontChanged = 1;
   bench_.values.TemplateFontChanged = 1;
+}
+
+void Preferences::ShowFont() {
+  FontInUse.Caption = settings_.TextFontName.Get() + ", " + TextOf(settings_.TextFontSize.Get()) + " points" +
+                      (settings_.TextFontBold == 1 ? ", bold" : "");
 }
 
 void Preferences::Command17_Click() {

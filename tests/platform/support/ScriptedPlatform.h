@@ -96,7 +96,9 @@ class ScriptedDesktop : public Desktop {
     opened.emplace_back("system information");
     return Done{};
   }
+  [[nodiscard]] bool IsDark() const override { return isDark; }
   std::deque<std::string> opened;  ///< and not yet expected
+  bool isDark = false;
   bool opensFiles = true;
   bool tellsAboutTheMachine = true;
 };
