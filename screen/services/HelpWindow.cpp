@@ -322,10 +322,11 @@ void HelpWindow::StandBeside(QWidget& window) {
     window.move(screen.left(), place.top());
     place.moveLeft(screen.left());
   }
-  const int room = screen.right() - place.right();
-  const int width = std::clamp(room, minimumSizeHint().width(), kSize.width());
+  const int edges = place.width() - window.width();  // which the window manager draws
+  const int width =
+      std::clamp(screen.right() - place.right() - edges, minimumSizeHint().width(), kSize.width());
   resize(width, height());
-  move(std::min(place.right() + 1, screen.right() - width), place.top());
+  move(std::min(place.right(), screen.right() - width - edges) + 1, place.top());
 }
 
 void HelpWindow::ShowContext(int context) { ShowTopic(file_.WithContext(context), QString::number(context)); }

@@ -1,7 +1,9 @@
 // The help window, where only the toolkit can show it.
 #include <gtest/gtest.h>
 
+#include <QDialog>
 #include <QImage>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTextDocument>
 
@@ -23,6 +25,26 @@ TEST(HelpWindowPictures, OpensNoFileThatATopicNamesAsItsPicture) {
   EXPECT_TRUE(text->toPlainText().contains(QStringLiteral("behind.")));
   const QVariant found = text->document()->resource(QTextDocument::ImageResource, QUrl(picture));
   EXPECT_EQ(found.value<QImage>().size(), QSize(1, 1));
+}
+
+/// The dialog gives way where it stands too far to the right.
+TEST(HelpWindow, StandsBesideAModalWindowAndNotOverIt) {
+  QDialog asking;
+  asking.setModal(true);
+  asking.resize(300, 200);
+  asking.show();
+  const QRect screen = asking.screen()->availableGeometry();
+  asking.move(screen.right() - 300, 100);
+  HelpWindow window;
+  window.Open(HelpFile("# One\n<!-- 1: -->\nWords.\n"));
+  window.ShowContext(1);
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_GT(window.geometry().left(), asking.frameGeometry().right());
+  EXPECT_LE(window.geometry().right(), screen.right());
+  // Where the user has put it since it stays.
+  window.move(40, 300);
+  window.ShowContext(1);
+  EXPECT_EQ(window.pos(), QPoint(40, 300));
 }
 
 }  // namespace
