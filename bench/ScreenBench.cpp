@@ -89,7 +89,8 @@ class Typist {
   explicit Typist(std::size_t bytes) {
     files_.PutFolder("c:\\tarvik");
     files_.Put("c:\\my\\large.b50", JoystickFile(bytes));
-    files_.Put("c:\\tarvik\\Tarvik.ini", "[FileLocations]\r\nShowTips=0\r\nFirstTimeUsed=0\r\n");
+    files_.Put("c:\\tarvik\\Tarvik.ini",
+               "[FileLocations]\r\nShowTips=0\r\nFirstTimeUsed=0\r\n[View]\r\nColourAsYouType=1\r\n");
     application_.Start();
     edit_ = dynamic_cast<QPlainTextEdit*>(screen_.Find(application_.editor().JoystickText));
     PutCaretInTheMiddle(*edit_);
