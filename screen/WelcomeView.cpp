@@ -13,14 +13,15 @@ constexpr int kFirstLines = 60;  // pixels of the files that stay free above the
 
 constexpr int kNarrowest = 110;  // of a column
 
-/// A button that looks like a link.
+// Its buttons look like links.
+constexpr const char* kStyle =
+    "QPushButton { text-align: left; padding: 4px 10px; border: 1px solid transparent; "
+    "background: transparent; color: palette(link); }"
+    "QPushButton:focus, QPushButton:hover { border-color: palette(highlight); }";
+
 QWidget* AsLink(QWidget* button) {
   button->setCursor(Qt::PointingHandCursor);
   button->setMinimumWidth(kNarrowest);
-  button->setStyleSheet(
-      QStringLiteral("QPushButton { text-align: left; padding: 4px 10px; border: 1px solid transparent; "
-                     "background: transparent; color: palette(link); }"
-                     "QPushButton:focus, QPushButton:hover { border-color: palette(highlight); }"));
   return button;
 }
 
@@ -42,6 +43,7 @@ WelcomeView::WelcomeView(WelcomePage& welcome, Bindings& bindings, QWidget* pare
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
   setAccessibleName(tr("Welcome"));
+  setStyleSheet(QLatin1String(kStyle));
   bindings.BindControl(welcome.frame, *this);
   const FormLayout in(bindings);
   std::vector<QWidget*> recent = Lines(in, welcome.recent);
