@@ -121,7 +121,7 @@ void Editor::SetUpToolbar() {
   ShowPicturesInPopUps();
 }
 
-/// An entry there has the picture of the entry of the menus that does the same.
+/// An entry there has the picture of the entry of the menus that does the same, or does it to one file.
 void Editor::ShowPicturesInPopUps() {
   for (const MenuRow<Editor>& popUp : tables::kPopUps) {
     if (!popUp.handler) continue;
@@ -130,6 +130,8 @@ void Editor::ShowPicturesInPopUps() {
         [&popUp](const MenuRow<Editor>& row) { return row.handler == popUp.handler && row.index < 0; });
     if (same != std::end(tables::kMenus)) popUps(popUp.name).Image = menus(same->name).Image.Get();
   }
+  popUps("mnuRHMColour").Image = menus("mnuViewColourJoystick").Image.Get();
+  popUps("mnuRHMPrint").Image = menus("mnuFilePrintJoystick").Image.Get();
 }
 
 WelcomeCommands Editor::CommandsOfWelcome() {
