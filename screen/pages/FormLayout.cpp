@@ -1,5 +1,7 @@
 #include "screen/pages/FormLayout.h"
 
+#include <qdrawutil.h>
+
 #include <QCheckBox>
 #include <QFormLayout>
 #include <QGroupBox>
@@ -59,6 +61,13 @@ class Button : public QPushButton {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter) return click();
     QPushButton::keyPressEvent(event);
+  }
+  /// What is on lies deeper, which is seen without its tint as well.
+  void paintEvent(QPaintEvent* event) override {
+    QPushButton::paintEvent(event);
+    if (!isChecked()) return;
+    QPainter painter(this);
+    qDrawShadePanel(&painter, rect().adjusted(1, 1, -1, -1), palette(), true, 2);
   }
 };
 
