@@ -53,19 +53,24 @@ const QLatin1String kUnsavedMark("*");
 
 QString Escaped(QString text) { return text.replace(u'&', QLatin1String("&&")); }
 
-/// Hands a widget's events on without taking them.
+/// Hands a widget's events on without taking them. A widget whose form has gone still has some: the focus
+/// comes back to it when a menu closes.
 class Watcher : public QObject {
  public:
-  Watcher(QWidget& widget, std::function<void(QEvent&)> watch) : QObject(&widget), watch_(std::move(watch)) {
+  Watcher(QWidget& widget, Bindings& bindings, std::function<void(QEvent&)> watch)
+      : QObject(&widget),
+        watch_(std::move(watch)),
+        released_(bindings.Released.Connect([this] { watch_ = nullptr; })) {
     widget.installEventFilter(this);
   }
   bool eventFilter(QObject*, QEvent* event) override {
-    watch_(*event);
+    if (watch_) watch_(*event);
     return false;
   }
 
  private:
   std::function<void(QEvent&)> watch_;
+  Connection released_;
 };
 
 /// Takes the text of a box and what is selected in it to the line and back. It ends with the line.
@@ -174,7 +179,7 @@ void Bindings::BindControl(Control& control, QWidget& widget) {
   Bind(control.ToolTipText, [&] { widget.setToolTip(ToScreen(control.ToolTipText.Get())); });
   Bind(control.MousePointer, [&] { widget.setCursor(CursorOf(control.MousePointer)); });
   if (widget.focusPolicy() == Qt::NoFocus) return;
-  new Watcher(widget, [this, &control](QEvent& event) {
+  new Watcher(widget, *this, [this, &control](QEvent& event) {
     if (event.type() != QEvent::FocusIn) return;
     const QScopedValueRollback rollback(takingFocus_, true);
     control.SetFocus();
@@ -189,7 +194,7 @@ void Bindings::BindControl(Control& control, QWidget& widget) {
 
 void Bindings::BindMouse(Control& control, QWidget& widget) {
   widget.setMouseTracking(true);
-  new Watcher(widget, [&control](QEvent& event) {
+  new Watcher(widget, *this, [&control](QEvent& event) {
     if (event.type() == QEvent::MouseButtonPress)
       control.MouseDown(ToMouse(static_cast<QMouseEvent&>(event)));
     if (event.type() == QEvent::MouseMove) control.MouseMove(ToMouse(static_cast<QMouseEvent&>(event)));

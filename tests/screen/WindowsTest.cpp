@@ -386,6 +386,20 @@ TEST_F(Windows, KeepTheirSizeHoweverLongAPathIs) {
   }
 }
 
+/// As when a menu of the tool bar is open while the editor closes, and gives the focus back.
+TEST_F(Windows, HearNothingMoreOfAWidgetWhoseFormHasGone) {
+  const QPointer<QWidget> button = qobject_cast<QWidget*>(screen.Find(application.editor().Command1(0)));
+  application.CloseEditor();
+  ASSERT_TRUE(button);
+  for (const QEvent::Type type : {QEvent::FocusIn, QEvent::FocusOut}) {
+    QFocusEvent event(type, Qt::PopupFocusReason);
+    QApplication::sendEvent(button, &event);
+  }
+  QMouseEvent moved(QEvent::MouseMove, {1, 1}, button->mapToGlobal(QPointF(1, 1)), Qt::NoButton, {}, {});
+  QApplication::sendEvent(button, &moved);
+  EXPECT_NE(application.FindForm("Mum"), nullptr);
+}
+
 TEST_F(Windows, HaveButtonsWithAirAroundTheirWords) {
   constexpr int kAir = 8;
   for (QWidget* const window : Shown()) {
