@@ -11,6 +11,7 @@ namespace {
 constexpr int kNormalTabImage = 9;
 constexpr int kProtectedTabImage = 6;
 constexpr int kFirstFileButton = 2;
+constexpr int kPrintButton = 5;
 constexpr int kCutButton = 7;
 constexpr int kCopyButton = 8;
 constexpr int kPasteButton = 9;
@@ -119,6 +120,20 @@ void Editor::SetUpToolbar() {
     if (row.macroEntry) menus(row.macroEntry).Image = row.icon;
   }
   ShowPicturesInPopUps();
+  LetPrintingTellOfPrinter();
+}
+
+/// The printer is looked for when somebody wants to know, and not at the start.
+void Editor::LetPrintingTellOfPrinter() {
+  const auto tell = [this](auto& shown) {
+    shown.Pointed = [this, &shown, tip = shown.ToolTipText.Get()] {
+      const std::string note = PrinterNote(bench_.platform.printer);
+      shown.ToolTipText = tip + (tip.empty() || note.empty() ? "" : ". ") + note;
+    };
+  };
+  for (const char* const entry : {"mnuFilePrintJoystick", "mnuFilePrintMacro"}) tell(menus(entry));
+  tell(popUps("mnuRHMPrint"));
+  tell(mum_.Toolbar1.Buttons(kPrintButton));
 }
 
 /// An entry there has the picture of the entry of the menus that does the same, or does it to one file.

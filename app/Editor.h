@@ -101,6 +101,7 @@ class Editor : public Form {
   void mnuFileSaveBoth_Click() { bench_.files.SaveBoth(); }
   void mnuFilePrintJoystick_Click();
   void mnuFilePrintMacro_Click();
+  void mnuFilePrintPreview_Click() { PreviewDocument(bench_.documents, bench_.documents.Active()); }
   void mnuFilePrinterSetup_Click() { SetUpPrinter(bench_.documents); }
   void mnuRHMPrint_Click();
   void mnuJoyPopUpSingleFile_Click() { mnuJoyPopUpSingleFile.Checked = !mnuJoyPopUpSingleFile.Checked; }
@@ -261,6 +262,7 @@ class Editor : public Form {
   void AdoptControls();
   void SetUpToolbar();
   void ShowPicturesInPopUps();
+  void LetPrintingTellOfPrinter();
   void OpenFilesOfTheStart();
   void OpenPrevious(const RecentList& list, int index);
   void FirstTimeFlow();

@@ -60,7 +60,10 @@ class MenuItem : public Component {
   Property<bool> Checked{*this, "Checked", false};
   Property<bool> Enabled{*this, "Enabled", true};
   Property<bool> Visible{*this, "Visible", true};
+  Property<std::string> ToolTipText{*this, "ToolTipText"};
   Event<> Click{*this, "Click"};
+  /// The user has come to it and has not chosen it yet: what its tool tip says can be brought up to date.
+  Event<> Pointed{*this, "Pointed"};
   /// The caption is a user's own text: an "&" in it marks no letter, and a lone "-" is no divider.
   bool isUsersText = false;
 
@@ -359,6 +362,8 @@ class ToolbarButton : public Component {
   Property<bool> Enabled{*this, "Enabled", true};
   Property<bool> Visible{*this, "Visible", true};
   Event<> Click{*this, "Click"};
+  /// The pointer rests on it, and its tool tip is about to be shown.
+  Event<> Pointed{*this, "Pointed"};
 };
 
 class Toolbar : public Control {

@@ -161,6 +161,14 @@ class DriveFolders {
   virtual std::string Hold(const std::string& path) = 0;
 };
 
+/// A library that the program runs with. The version is empty where the library does not tell it.
+struct Library {
+  std::string name;
+  std::string version;
+
+  bool operator==(const Library&) const = default;
+};
+
 /// Everything from outside in one hand.
 struct Platform {
   Files& files;
@@ -176,6 +184,7 @@ struct Platform {
   Programs& programs;
   DriveFolders& drives;
   Journals& journals;
+  std::function<std::vector<Library>()> libraries;  ///< one of them may be loaded for the answer
   ScreenSize screen;
   std::string folder;       ///< of the executable, as c:\tarvik with no separator at the end
   std::string commandLine;  ///< raw, as one string

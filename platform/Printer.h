@@ -2,6 +2,7 @@
 // page.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -38,12 +39,24 @@ struct FormattedText {
 
 enum class Weight { Regular, Bold };
 
+/// Where the pages of a document go.
+enum class PagesGo { OnScreen, OnPaper };
+
+/// Prints a document, whole, through the printer that asks for it.
+using PrintDocumentOn = std::function<void(PagesGo)>;
+
 class Printer {
  public:
   virtual ~Printer() = default;
   /// Lets the user choose the printer and its paper, for all that is printed from now on. Failure 32755 when
   /// the user cancels.
   virtual Outcome<> SetUp() = 0;
+  /// Whether there is a printer, or a file that was chosen to stand in for it. To find out may take a moment.
+  virtual bool IsThere() = 0;
+  /// Shows the pages of a document, also where there is no printer, until the user has seen enough. `print`
+  /// is asked for them whenever they are to be laid out, and at the end, where the user asks for that, to
+  /// print.
+  virtual void Preview(const std::string& title, const PrintDocumentOn& print) = 0;
   /// A line below the last one, from the corner of the printable area down. The first one starts a document.
   virtual Outcome<> Print(const std::string& line, Weight weight) = 0;
   virtual Outcome<Paper> Sheet() = 0;

@@ -20,6 +20,7 @@
 #include "screen/Screen.h"
 #include "screen/Toolkit.h"
 #include "screen/services/EndSignals.h"
+#include "screen/services/Libraries.h"
 #include "screen/services/LockKeys.h"
 #include "screen/services/QtDesktop.h"
 #include "screen/services/QtDialogs.h"
@@ -119,6 +120,7 @@ struct Services {
                     programs,
                     driveFolders,
                     journals,
+                    screen::Libraries,
                     SizeOfScreen(),
                     drives.FromHost(folder.Path()),
                     CommandLine(QApplication::arguments().mid(1), drives)};

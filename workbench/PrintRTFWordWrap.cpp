@@ -18,6 +18,16 @@ void PrintHeader(const Platform& platform, const Trap& trap, const std::string& 
   trap(printer.Print("", Weight::Regular));
 }
 
+std::string_view TagOf(const Document& document) {
+  return document.IsJoystick() ? "ED_mnuFilePrintJoystick_Click" : "ED_mnuFilePrintMacro_Click";
+}
+
+void PrintPages(const Pane& pane, const std::string& title, std::string_view tag,
+                const Documents& documents) {
+  PrintHeader(documents.platform, Trap{documents.errors, tag}, title);
+  PrintRTF(documents.platform.printer, documents.errors, pane, kMargin, kMargin, kMargin, kMargin);
+}
+
 }  // namespace
 
 void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int top, int right, int bottom) {
@@ -42,15 +52,25 @@ void PrintRTF(Printer& printer, Errors& errors, const Pane& pane, int left, int 
 void PrintPane(const Pane& pane, const std::string& title, std::string_view tag, const Documents& documents) {
   if (pane.Characters().empty()) return;
   documents.Say("Printing " + title);
-  PrintHeader(documents.platform, Trap{documents.errors, tag}, title);
-  PrintRTF(documents.platform.printer, documents.errors, pane, kMargin, kMargin, kMargin, kMargin);
+  PrintPages(pane, title, tag, documents);
   documents.Say("Finished printing " + title);
 }
 
 void PrintDocument(const Documents& documents, const Document& document) {
-  PrintPane(document.text, documents.TabOf(document).Caption,
-            document.IsJoystick() ? "ED_mnuFilePrintJoystick_Click" : "ED_mnuFilePrintMacro_Click",
-            documents);
+  PrintPane(document.text, documents.TabOf(document).Caption, TagOf(document), documents);
+}
+
+void PreviewDocument(const Documents& documents, const Document& document) {
+  if (document.text.Characters().empty()) return;
+  const std::string title = documents.TabOf(document).Caption;
+  documents.platform.printer.Preview(title, [&](PagesGo where) {
+    const auto print = where == PagesGo::OnPaper ? PrintPane : PrintPages;
+    print(document.text, title, TagOf(document), documents);
+  });
+}
+
+std::string PrinterNote(Printer& printer) {
+  return printer.IsThere() ? "" : "There is no printer; the printer set-up offers a PDF file";
 }
 
 void SetUpPrinter(const Documents& documents) {

@@ -17,6 +17,13 @@ void PrintPane(const Pane& pane, const std::string& title, std::string_view tag,
 /// Prints the document under its name and today's date, and tells so in the status bar.
 void PrintDocument(const Documents& documents, const Document& document);
 
+/// Shows the pages that `PrintDocument` would print. The status bar tells of what is printed from there
+/// alone.
+void PreviewDocument(const Documents& documents, const Document& document);
+
+/// What the tool tip of whatever prints has to add: empty where there is a printer.
+std::string PrinterNote(Printer& printer);
+
 /// Lets the user choose where everything is printed from now on.
 void SetUpPrinter(const Documents& documents);
 

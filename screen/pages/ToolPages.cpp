@@ -314,9 +314,12 @@ QLayout* Page(frmAbout& form, const FormLayout& in) {
   auto* const name = AsTitle(Words("Tarvik"));
   QLabel* const description = Wrapped(in.Show(form.lblDescription));
   description->setMinimumWidth(380);
-  QLayout* const words = Column({name, in.Show(form.lblVersion), description, Stretch()});
+  QLayout* const words =
+      Column({name, in.Show(form.lblVersion), description, Wrapped(in.Show(form.lblLicence)),
+              Wrapped(in.Show(form.lblLibraries)), Stretch()});
   return Column({Row({Column({picture, Stretch()}), words}),
-                 Row({in.Show(form.cmdSysInfo), in.Show(form.cmdLog), Stretch(), in.Show(form.cmdOK)})});
+                 Row({in.Show(form.cmdSysInfo), in.Show(form.cmdLog), in.Show(form.cmdCopy), Stretch(),
+                      in.Show(form.cmdOK)})});
 }
 
 QLayout* Page(LogForm& form, const FormLayout& in) {

@@ -1,11 +1,15 @@
 #include "screen/services/QtPrinter.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileInfo>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinterInfo>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QTextLayout>
 #include <algorithm>
 
@@ -98,6 +102,16 @@ int LayOut(QTextLayout& layout, const Piece& piece, qreal width) {
   return piece.cut && layout.lineCount() > 1 ? layout.lineCount() - 1 : layout.lineCount();
 }
 
+/// Puts `print` in the place of what the preview does itself by its button, which would be a set-up of
+/// another kind, with choices of pages that no printing of this program knows.
+void OnPrint(const QPrintPreviewDialog& preview, const std::function<void()>& print) {
+  for (QAction* const action : preview.findChildren<QAction*>()) {
+    if (action->text() != QPrintPreviewDialog::tr("Print")) continue;
+    action->disconnect(SIGNAL(triggered(bool)));
+    QObject::connect(action, &QAction::triggered, &preview, print);
+  }
+}
+
 }  // namespace
 
 QPrinter& QtPrinter::Device() {
@@ -110,8 +124,32 @@ bool QtPrinter::Works() const {
          device_->printerState() != QPrinter::Aborted;
 }
 
-Outcome<> QtPrinter::SetUp() {
-  QPrintDialog dialog(&Device(), QApplication::activeWindow());
+bool QtPrinter::IsThere() {
+  return (device_ && HasTarget(*device_)) || !QPrinterInfo::availablePrinterNames().isEmpty();
+}
+
+void QtPrinter::Preview(const std::string& title, const PrintDocumentOn& print) {
+  if (ShowPages(ToScreen(title), print)) print(PagesGo::OnPaper);
+}
+
+bool QtPrinter::ShowPages(const QString& title, const PrintDocumentOn& print) {
+  QPrinter& device = Device();
+  QPrintPreviewDialog dialog(&device, QApplication::activeWindow());
+  dialog.setWindowTitle(QStringLiteral("Print preview of %1").arg(title));
+  QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [this, &print] {
+    const QScopedValueRollback rollback(onScreen_, true);
+    print(PagesGo::OnScreen);
+  });
+  OnPrint(dialog, [this, &dialog, &device] {
+    if (HasTarget(device) || Choose(device)) dialog.accept();
+  });
+  return dialog.exec() == QDialog::Accepted;
+}
+
+Outcome<> QtPrinter::SetUp() { return Choose(Device()); }
+
+Outcome<> QtPrinter::Choose(QPrinter& device) {
+  QPrintDialog dialog(&device, QApplication::activeWindow());
   dialog.setWindowTitle(QStringLiteral("Printer set-up"));
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize |
                     QAbstractPrintDialog::PrintCollateCopies);
@@ -126,7 +164,7 @@ Outcome<> QtPrinter::SetUp() {
 }
 
 /// The second document that goes to a file would take the place of the first: it gets a name of its own.
-Outcome<> QtPrinter::Begin() {
+Outcome<> QtPrinter::ChooseTarget() {
   QPrinter& device = Device();
   if (!HasTarget(device)) return Broken();
   if (!file_.isEmpty()) {
@@ -135,6 +173,15 @@ Outcome<> QtPrinter::Begin() {
     file_ = device.outputFileName();
   }
   device.setDocName(QApplication::applicationName());
+  return Done{};
+}
+
+/// A preview needs no place to print to.
+Outcome<> QtPrinter::Begin() {
+  if (!onScreen_) {
+    if (auto chosen = ChooseTarget(); !chosen) return chosen;
+  }
+  QPrinter& device = *device_;
   if (!painter_.begin(&device)) return Broken();
   painter_.scale(device.logicalDpiX() / kTwipsPerInch, device.logicalDpiY() / kTwipsPerInch);
   lineTop_ = 0;
@@ -196,8 +243,12 @@ Outcome<> QtPrinter::EndDocument() {
   if (!painter_.isActive()) return Broken();
   const bool worked = Works();
   if (!painter_.end() || !worked || device_->printerState() == QPrinter::Error) return Broken();
-  if (device_->outputFormat() == QPrinter::PdfFormat && !IsWhole(device_->outputFileName())) return Broken();
+  if (!onScreen_ && !IsWritten()) return Broken();
   return Done{};
+}
+
+bool QtPrinter::IsWritten() const {
+  return device_->outputFormat() != QPrinter::PdfFormat || IsWhole(device_->outputFileName());
 }
 
 }  // namespace tarvik::screen

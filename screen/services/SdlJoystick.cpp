@@ -28,6 +28,7 @@ class Symbol {
 };
 
 struct SdlCalls {
+  decltype(&SDL_GetVersion) GetVersion = Symbol("SDL_GetVersion");
   decltype(&SDL_SetMainReady) SetMainReady = Symbol("SDL_SetMainReady");
   decltype(&SDL_SetHint) SetHint = Symbol("SDL_SetHint");
   decltype(&SDL_InitSubSystem) InitSubSystem = Symbol("SDL_InitSubSystem");
@@ -125,6 +126,13 @@ Outcome<JoyInfo> SdlJoystick::GetPosEx() {
     if (Sdl().JoystickGetButton(stick_, i)) info.buttons |= 1U << i;
   }
   return info;
+}
+
+QString SdlJoystick::LibraryVersion() {
+  if (!Sdl().GetVersion) return {};
+  SDL_version version{};
+  Sdl().GetVersion(&version);
+  return QStringLiteral("%1.%2.%3").arg(version.major).arg(version.minor).arg(version.patch);
 }
 
 }  // namespace tarvik::screen

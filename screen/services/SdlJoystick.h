@@ -1,6 +1,8 @@
 // The real joystick. Nothing is set up before a tool asks for it first.
 #pragma once
 
+#include <QString>
+
 #include "platform/Joystick.h"
 
 struct _SDL_Joystick;  // NOLINT(bugprone-reserved-identifier): the library's own name for it
@@ -18,6 +20,9 @@ class SdlJoystick : public Joystick {
 
   Outcome<JoyCaps> GetDevCaps() override;
   Outcome<JoyInfo> GetPosEx() override;
+
+  /// Of the library, which is loaded for the answer; empty where it is not there.
+  static QString LibraryVersion();
 
  private:
   bool Update();

@@ -221,6 +221,10 @@ void Bindings::Bind(MenuItem& item, QAction& action) {
     action.setSeparator(item.Caption.Get() == MenuItem::kDivider);
     action.setText(action.isSeparator() ? QString() : ToScreen(item.Caption.Get()));
   });
+  Bind(item.ToolTipText, [&] {
+    if (!item.isUsersText) action.setToolTip(ToScreen(item.ToolTipText.Get()));
+  });
+  QObject::connect(&action, &QAction::hovered, &action, [&item] { item.Pointed(); });
   Bind(item.Enabled, [&] { action.setEnabled(item.Enabled); });
   Bind(item.Visible, [&] { action.setVisible(item.Visible); });
   const auto showCheck = [&] {
@@ -259,6 +263,9 @@ void Bindings::Bind(ToolbarButton& button, QToolButton& widget) {
   Bind(button.ToolTipText, [&] {
     widget.setToolTip(ToScreen(button.ToolTipText.Get()));
     widget.setAccessibleName(widget.toolTip());
+  });
+  new Watcher(widget, [&button](QEvent& event) {
+    if (event.type() == QEvent::ToolTip) button.Pointed();
   });
   Bind(button.Image, [&] { widget.setIcon(Icon(button.Image.Get())); });
   Bind(button.Enabled, [&] { widget.setEnabled(button.Enabled); });

@@ -33,6 +33,7 @@ std::vector<std::unique_ptr<QMenu>> MakeMenus(const Menus& menus, Bindings& bind
       continue;
     }
     auto* const menu = new QMenu(parent);
+    menu->setToolTipsVisible(true);
     if (parent) {
       parent->addMenu(menu);
     } else {
@@ -53,7 +54,6 @@ void FollowArrays(Menus& menus, Bindings& bindings) {
     const auto actions = menu->actions();
     auto* const action = new QAction(menu);
     menu->insertAction(actions.value(actions.indexOf(above) + 1), action);
-    menu->setToolTipsVisible(true);
     bindings.Bind(loaded, *action);
   }));
   bindings.Keep(menus.Unloading.Connect([&bindings](const MenuItem& item) {

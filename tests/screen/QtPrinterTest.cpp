@@ -3,15 +3,20 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinterInfo>
+#include <QTest>
 #include <QTimer>
 #include <algorithm>
 #include <csignal>
 #include <regex>
+#include <stdexcept>
 
 #include "app/Program.h"
 #include "screen/services/QtPrinter.h"
@@ -94,21 +99,37 @@ class QtPrinterTest : public testing::Test {
  protected:
   /// What the user does in the dialog while it is open.
   Outcome<> SetUp(const std::function<void(QPrintDialog&)>& user) {
-    QTimer::singleShot(0, qApp,
-                       [&] { user(dynamic_cast<QPrintDialog&>(*QApplication::activeModalWidget())); });
+    InSetUp(user);
     return printer.SetUp();
   }
   using testing::Test::SetUp;
 
+  static void InSetUp(const std::function<void(QPrintDialog&)>& user) {
+    QTimer::singleShot(0, qApp,
+                       [user] { user(dynamic_cast<QPrintDialog&>(*QApplication::activeModalWidget())); });
+  }
+
+  /// What the user does in the preview of the file on show, once its pages are there.
+  void Preview(const std::function<void(QPrintPreviewDialog&)>& user) {
+    QTimer::singleShot(0, qApp, [&user] {
+      auto& preview = dynamic_cast<QPrintPreviewDialog&>(*QApplication::activeModalWidget());
+      const auto laidOut = [&] { return preview.findChild<QPrintPreviewWidget*>()->pageCount() > 0; };
+      EXPECT_TRUE(QTest::qWaitFor(laidOut));
+      user(preview);
+    });
+    editor.mnuFilePrintPreview_Click();
+  }
+
+  static void ChooseIn(QPrintDialog& dialog, const fs::path& file) {
+    auto* const printers = dialog.findChild<QComboBox*>(QStringLiteral("printers"));
+    printers->setCurrentIndex(printers->findText(QStringLiteral("Print to File (PDF)")));
+    dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(QString::fromStdString(file.string()));
+    dialog.accept();
+  }
+
   fs::path ChooseFile(const std::string& name) {
     const fs::path file = folder.path() / name;
-    const Outcome<> chosen = SetUp([&](QPrintDialog& dialog) {
-      auto* const printers = dialog.findChild<QComboBox*>(QStringLiteral("printers"));
-      printers->setCurrentIndex(printers->findText(QStringLiteral("Print to File (PDF)")));
-      dialog.findChild<QLineEdit*>(QStringLiteral("filename"))
-          ->setText(QString::fromStdString(file.string()));
-      dialog.accept();
-    });
+    const Outcome<> chosen = SetUp([&file](QPrintDialog& dialog) { ChooseIn(dialog, file); });
     EXPECT_TRUE(chosen);
     return file;
   }
@@ -267,6 +288,69 @@ TEST_F(QtPrinterTest, AFileThatIsCutShortIsOnRecord) {
   std::signal(SIGXFSZ, handler);
   EXPECT_EQ(fs::file_size(file), 8192U);
   EXPECT_EQ(ErrorTag(), "MODULE PrintRTF");
+}
+
+QAction& ActionOf(const QPrintPreviewDialog& preview, const QString& text) {
+  for (QAction* const action : preview.findChildren<QAction*>()) {
+    if (action->text() == text) return *action;
+  }
+  throw std::runtime_error("there is no " + text.toStdString());
+}
+
+TEST_F(QtPrinterTest, APreviewHasThePagesThatArePrintedFromIt) {
+  const fs::path file = ChooseFile("previewed.pdf");
+  editor.JoystickText.Text = Lines(300);
+  int pages = 0;
+  Preview([&](QPrintPreviewDialog& preview) {
+    pages = preview.findChild<QPrintPreviewWidget*>()->pageCount();
+    EXPECT_FALSE(fs::exists(file));
+    ActionOf(preview, QStringLiteral("Print")).trigger();
+  });
+  EXPECT_GT(pages, 3);
+  EXPECT_EQ(PagesOf(file).size(), static_cast<std::size_t>(pages));
+  EXPECT_EQ(TextOfWords(PagesOf(file)), WithoutBlanks(Lines(300)));
+  EXPECT_EQ(ErrorTag(), "");
+}
+
+TEST_F(QtPrinterTest, APreviewThatIsClosedPrintsNothing) {
+  const fs::path file = ChooseFile("previewed.pdf");
+  editor.JoystickText.Text = "BTN";
+  Preview([&](QPrintPreviewDialog& preview) {
+    EXPECT_EQ(preview.windowTitle(), QStringLiteral("Print preview of untitled.b50"));
+    preview.reject();
+  });
+  EXPECT_FALSE(fs::exists(file));
+  EXPECT_EQ(ErrorTag(), "");
+}
+
+TEST_F(QtPrinterTest, WhereThereIsNoPrinterAPreviewAsksForAFileToPrintTo) {
+  if (!QPrinterInfo::availablePrinters().isEmpty()) GTEST_SKIP() << "there is a printer";
+  EXPECT_FALSE(printer.IsThere());
+  const fs::path file = folder.path() / "asked.pdf";
+  editor.JoystickText.Text = Lines(300);
+  int pages = 0;
+  Preview([&](QPrintPreviewDialog& preview) {
+    pages = preview.findChild<QPrintPreviewWidget*>()->pageCount();
+    QAction& print = ActionOf(preview, QStringLiteral("Print"));
+    InSetUp([](QPrintDialog& dialog) { dialog.reject(); });
+    print.trigger();
+    EXPECT_TRUE(preview.isVisible());
+    InSetUp([&](QPrintDialog& dialog) { ChooseIn(dialog, file); });
+    print.trigger();
+  });
+  EXPECT_TRUE(printer.IsThere());
+  EXPECT_GT(pages, 3);
+  EXPECT_EQ(PagesOf(file).size(), static_cast<std::size_t>(pages));
+  EXPECT_EQ(ErrorTag(), "");
+}
+
+TEST_F(QtPrinterTest, TheSetUpAlwaysOffersAPdfFile) {
+  EXPECT_FALSE(SetUp([](QPrintDialog& dialog) {
+    const auto* const printers = dialog.findChild<QComboBox*>(QStringLiteral("printers"));
+    EXPECT_EQ(printers->itemText(printers->count() - 1), QStringLiteral("Print to File (PDF)"));
+    EXPECT_TRUE(dialog.testOption(QAbstractPrintDialog::PrintToFile));
+    dialog.reject();
+  }));
 }
 
 TEST_F(QtPrinterTest, WithoutAPrinterNothingIsPrintedOrShown) {

@@ -20,6 +20,8 @@ class Driver {
   virtual bool Click(Component& control) = 0;
   virtual bool DoubleClick(Component& control) = 0;
   virtual bool RightClick(Component& control) = 0;
+  /// Comes to a menu entry or a button of the toolbar and waits for its tool tip.
+  virtual bool Point(Component& control) = 0;
   virtual bool Pick(Component& control, int index) = 0;
   /// Into a pane or a text box.
   virtual bool Type(Control& control, std::string_view text) = 0;

@@ -232,6 +232,12 @@ class FormDriver : public Driver {
     return true;
   }
 
+  bool Point(Component& control) override {
+    if (auto* item = dynamic_cast<MenuItem*>(&control)) return item->Pointed(), true;
+    if (auto* button = dynamic_cast<ToolbarButton*>(&control)) return button->Pointed(), true;
+    return false;
+  }
+
   bool Pick(Component& control, int index) override {
     application_.Activated(FormOf(control));
     if (auto* combo = dynamic_cast<ComboBox*>(&control)) {

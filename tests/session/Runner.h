@@ -81,6 +81,7 @@ class Runner {
   void Click(const Line& line);
   void DoubleClick(const Line& line);
   void RightClick(const Line& line);
+  void Point(const Line& line);
   void Focus(const Line& line);
   void Pick(const Line& line);
   void Type(const Line& line);

@@ -24,6 +24,9 @@ void Runner::RightClick(const Line& line) {
   if (line.words.size() > 2) driver_->Pick(*control, ItemIndex(*control, line.words[2]));
   if (!driver_->RightClick(*control)) throw Stop{"it can't be clicked"};
 }
+void Runner::Point(const Line& line) {
+  if (!driver_->Point(*Find(Word(line, 1)))) throw Stop{"it has nothing to tell"};
+}
 void Runner::Focus(const Line& line) { FindAs<Control>(Word(line, 1))->SetFocus(); }
 
 int Runner::ItemIndex(Component& control, const std::string& item) {

@@ -53,6 +53,8 @@ void Runner::SetPrinter(const Line& line) {
     outside_.printer.callsLeft = 0;
   } else if (what == "gone") {
     outside_.printer.callsLeft = number();
+  } else if (what == "preview") {
+    outside_.printer.printsFromPreview = Word(line, 2) == "printed";
   } else if (what == "lines") {
     outside_.printer.linesPerPage = number();
   } else {

@@ -2,11 +2,13 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QListView>
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QTabBar>
+#include <QToolTip>
 #include <cstring>
 
 #include "screen/widgets/Conversions.h"
@@ -147,6 +149,20 @@ void ScreenAccess::Click(Component& component) {
 
 void ScreenAccess::DoubleClick(Component& component) { ClickAt(component, Qt::LeftButton, true); }
 void ScreenAccess::RightClick(Component& component) { ClickAt(component, Qt::RightButton, false); }
+
+bool ScreenAccess::Point(Component& component) {
+  if (auto* const action = qobject_cast<QAction*>(screen_.Find(component))) {
+    action->hover();
+    return true;
+  }
+  QWidget* const widget = WidgetOf(component);
+  if (!widget) return false;
+  const QPoint place = widget->rect().center();
+  QHelpEvent rests(QEvent::ToolTip, place, widget->mapToGlobal(place));
+  QApplication::sendEvent(widget, &rests);
+  QToolTip::hideText();
+  return true;
+}
 
 void ScreenAccess::Focus(Component& component) {
   if (QWidget* const widget = WidgetOf(component)) widget->setFocus(Qt::TabFocusReason);

@@ -23,6 +23,8 @@ class ScreenAccess {
   void Click(Component& component);
   void DoubleClick(Component& component);
   void RightClick(Component& component);
+  /// The pointer comes to it and rests there.
+  bool Point(Component& component);
   /// Gives the focus.
   void Focus(Component& component);
   /// An item of a list, drop-down list or tab strip, from 0. False when it is not there.

@@ -21,6 +21,7 @@ class ScreenDriver : public Driver {
   bool RightClick(Component& control) override {
     return Usable(control) && (access_.RightClick(control), true);
   }
+  bool Point(Component& control) override { return access_.Point(control); }
   bool Pick(Component& control, int index) override { return access_.Pick(control, index); }
   bool Type(Control& control, std::string_view text) override {
     return Usable(control) && (access_.Type(control, text), true);

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -59,6 +60,14 @@ Row Of(std::string_view property, Read read) {
 /// Without the mark of the mnemonic that the widget was given.
 QString CaptionOn(const QWidget& widget, QString text) {
   return widget.property(kMnemonic).isValid() ? text.remove(u'&') : text;
+}
+
+/// The toolkit answers with the caption where there is no tool tip, and no menu shows that.
+Shown TipOn(const MenuItem& item, const QAction& action) {
+  const auto* const menu = qobject_cast<const QMenu*>(action.parent());
+  const bool shows = menu && menu->toolTipsVisible() && !item.isUsersText;
+  return AsShown(shows && action.toolTip() != QAction(action.text()).toolTip() ? action.toolTip()
+                                                                               : QString());
 }
 
 /// A user's text in full: what the menu has no room for stands in the tool tip.
@@ -199,6 +208,7 @@ Row OfPlace(std::string_view property, Side side, Pixels pixels) {
 const std::vector<Row>& Rows() {
   static const std::vector<Row> rows = {
       Of<MenuItem, QAction>("Caption", EntryOn),
+      Of<MenuItem, QAction>("ToolTipText", TipOn),
       Of<MenuItem, QAction>("Enabled", &QAction::isEnabled),
       Of<MenuItem, QAction>("Visible", &QAction::isVisible),
       Of<MenuItem, QAction>("Checked", &QAction::isChecked),

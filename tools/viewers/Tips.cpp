@@ -13,6 +13,20 @@ constexpr const char* kDescription =
     "A workbench for Thrustmaster joysticks, throttles and rudders: it edits and colours the joystick file "
     "and the macro file, writes their statements for you, and tests what the hardware sends.";
 
+constexpr const char* kLicence =
+    "Licence: MIT. Its text is in the file LICENSE of the sources; where a package installed the program, in "
+    "/usr/share/doc/tarvik/copyright.";
+
+/// As "Qt 6.4.2, SDL 2.26.5, dtl".
+std::string InOneLine(const std::vector<Library>& libraries) {
+  std::string line;
+  for (const Library& library : libraries) {
+    line +=
+        (line.empty() ? "" : ", ") + library.name + (library.version.empty() ? "" : " ") + library.version;
+  }
+  return line;
+}
+
 /// The text in the code page, whichever of the two ways it was written in.
 std::string InCodePage(std::string text) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";
@@ -75,16 +89,32 @@ frmAbout::frmAbout(Workbench& bench, Shell& shell) : ToolForm("frmAbout", bench,
   Caption = "About Tarvik";
   lblVersion.Caption = kVersion;
   lblDescription.Caption = kDescription;
-  for (Label* const label : {&lblVersion, &lblDescription}) label->BackColor = ToggleLabel::kOff;
+  lblLicence.Caption = kLicence;
+  for (Label* const label : {&lblVersion, &lblDescription, &lblLicence, &lblLibraries})
+    label->BackColor = ToggleLabel::kOff;
   cmdOK.MakeDefault();
   cmdOK.Cancel = true;
+  cmdCopy.ToolTipText = "Copies the version, the licence and the libraries to the clipboard";
   cmdLog.ToolTipText = "What went wrong, for somebody who looks for a fault";
   Load = [this] { Form_Load(); };
+}
+
+void frmAbout::Form_Load() {
+  Topmost = true;
+  lblLibraries.Caption = "Libraries: " + InOneLine(bench_.platform.libraries());
 }
 
 void frmAbout::cmdSysInfo_Click() {
   if (Ignore(bench_.platform.desktop.ShowSystemInformation())) return;
   bench_.platform.dialogs.Show({"Tarvik", "System Information Is Unavailable At This Time"});
+}
+
+void frmAbout::cmdCopy_Click() {
+  std::string text = "Tarvik\r\n";
+  for (const Label* const label : {&lblVersion, &lblLicence, &lblLibraries}) {
+    text += label->Caption.Get() + "\r\n";
+  }
+  bench_.platform.clipboard.Put(text, {});
 }
 
 }  // namespace tarvik

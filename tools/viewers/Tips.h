@@ -35,19 +35,24 @@ class frmTip : public ToolForm {
   std::minstd_rand random_;
 };
 
+/// Tells what the program is, its licence and what it runs with, and copies that.
 class frmAbout : public ToolForm {
  public:
   explicit frmAbout(Workbench& bench, Shell& shell);
 
   Label lblVersion{*this, "lblVersion"};
   Label lblDescription{*this, "lblDescription"};
+  Label lblLicence{*this, "lblLicence"};
+  Label lblLibraries{*this, "lblLibraries"};
   CommandButton cmdOK{*this, "cmdOK", "&OK", &frmAbout::Close};
   CommandButton cmdSysInfo{*this, "cmdSysInfo", "&System Info...", &frmAbout::cmdSysInfo_Click};
   CommandButton cmdLog{*this, "cmdLog", "&Log...", &frmAbout::cmdLog_Click};
+  CommandButton cmdCopy{*this, "cmdCopy", "&Copy", &frmAbout::cmdCopy_Click};
 
-  void Form_Load() { Topmost = true; }
+  void Form_Load();
   void cmdSysInfo_Click();
   void cmdLog_Click() { shell_.Show(ToolId::Log); }
+  void cmdCopy_Click();
 };
 
 }  // namespace tarvik

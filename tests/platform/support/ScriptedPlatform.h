@@ -222,6 +222,9 @@ struct ScriptedPlatform {
             given(instead.programs, static_cast<Programs&>(programs)),
             drives,
             given(instead.journals, static_cast<Journals&>(journals)),
+            [] {
+              return std::vector<Library>{{"Toolkit", "6.4.2"}, {"Templates", ""}};
+            },
             {1920, 1440},
             "c:\\tarvik",
             std::move(commandLine)};

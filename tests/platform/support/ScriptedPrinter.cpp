@@ -10,6 +10,7 @@ const Failure kGone{error::kPrinter, "Printer error", 0};
 }  // namespace
 
 Outcome<> ScriptedPrinter::Call() {
+  if (onScreen_) return Done{};
   if (callsLeft == 0) return kGone;
   --callsLeft;
   return Done{};
@@ -17,7 +18,8 @@ Outcome<> ScriptedPrinter::Call() {
 
 void ScriptedPrinter::StartPage(int number) {
   page_ = number;
-  record.push_back("--- page " + std::to_string(number) + (chosen_.empty() ? "" : " on " + chosen_));
+  record.push_back("--- page " + std::to_string(number) +
+                   (chosen_.empty() || onScreen_ ? "" : " on " + chosen_));
 }
 
 Outcome<> ScriptedPrinter::SetUp() {
@@ -25,6 +27,14 @@ Outcome<> ScriptedPrinter::SetUp() {
   if (choice == "fails") return kGone;
   chosen_ = choice;
   return Done{};
+}
+
+void ScriptedPrinter::Preview(const std::string& title, const PrintDocumentOn& print) {
+  record.push_back("--- preview of " + title);
+  onScreen_ = true;
+  print(PagesGo::OnScreen);
+  onScreen_ = false;
+  if (printsFromPreview) print(PagesGo::OnPaper);
 }
 
 Outcome<> ScriptedPrinter::Print(const std::string& line, Weight weight) {

@@ -12,6 +12,9 @@ namespace tarvik {
 class ScriptedPrinter : public Printer {
  public:
   Outcome<> SetUp() override;
+  bool IsThere() override { return callsLeft > 0; }
+  /// The pages come before those that are printed from there.
+  void Preview(const std::string& title, const PrintDocumentOn& print) override;
   Outcome<> Print(const std::string& line, Weight weight) override;
   Outcome<Paper> Sheet() override;
   /// Lines are those of the text, whatever their length.
@@ -23,6 +26,7 @@ class ScriptedPrinter : public Printer {
   std::size_t linesPerPage = 60;
   std::size_t callsLeft = std::numeric_limits<std::size_t>::max();  ///< before the printer goes away
   std::string choice = "cancel";    ///< in the set-up dialog: a printer, "cancel", or "fails"
+  bool printsFromPreview = false;   ///< what the user does there; closes it otherwise
   std::vector<std::string> record;  ///< a line for each call, and the rendered lines
 
  private:
@@ -30,6 +34,7 @@ class ScriptedPrinter : public Printer {
   void StartPage(int number);
 
   std::string chosen_;
+  bool onScreen_ = false;
   int page_ = 0;  // 0 while no document is under way
 };
 
