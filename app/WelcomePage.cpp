@@ -9,6 +9,8 @@ constexpr const char* kOwnSamples = "c:\\samples";
 
 std::string NameIn(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
 
+std::string OwnSample(const std::string& name) { return std::string(kOwnSamples).append("\\").append(name); }
+
 bool HasNothing(const Document& document) {
   return document.IsUntitled() && document.text.Characters().empty();
 }
@@ -99,16 +101,15 @@ void WelcomePage::FindSamples() {
 std::string WelcomePage::CopyOfSample(const std::string& name) const {
   const Trap trap{bench_.errors, "WelcomePage"};
   Files& files = bench_.platform.files;
-  const std::string from = bench_.platform.folder + "\\samples";
-  const std::string to = std::string(kOwnSamples) + "\\";
+  const std::string from = bench_.platform.folder + "\\samples\\";
   if (!files.FolderExists(kOwnSamples)) trap(files.MakeFolder(kOwnSamples));
   for (const std::string& each : files.FilesIn(from, "")) {
     if (each.substr(0, each.rfind('.')) != name.substr(0, name.rfind('.'))) continue;
-    if (files.FileExists(to + each)) continue;
-    const auto content = files.Read(from + "\\" + each);
-    if (trap(content)) trap(files.Write(to + each, *content));
+    if (files.FileExists(OwnSample(each))) continue;
+    const auto content = files.Read(from + each);
+    if (trap(content)) trap(files.Write(OwnSample(each), *content));
   }
-  return to + name;
+  return OwnSample(name);
 }
 
 void WelcomePage::OpenSample(int index) {

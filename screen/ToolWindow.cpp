@@ -111,6 +111,7 @@ void ToolWindow::ShowWindow() {
   setModal(form().Modal);
   setWindowFlag(Qt::WindowMinimizeButtonHint, !form().Modal);
   ChooseOwner();
+  if (!testAttribute(Qt::WA_Resized)) TakeRoom();
   if (!isVisible() && !form().Modal) move(placed_ ? PlaceOfForm() : PlaceBeside());
   if (!isVisible() && form().Modal && frame_.isMaximized()) move(PlaceInTheMiddle());
   show();
@@ -131,9 +132,13 @@ void ToolWindow::ChooseOwner() {
   windowHandle()->setTransientParent(asking && asking != this ? asking->windowHandle() : nullptr);
 }
 
+/// As large as it likes to be: the toolkit itself would keep it to two thirds of the screen.
+void ToolWindow::TakeRoom() {
+  resize(sizeHint().boundedTo(RoomOnScreen(frame_)).expandedTo(minimumSizeHint()));
+}
+
 /// A place at the frame's right, where the window covers little of the text and is whole on the screen.
-QPoint ToolWindow::PlaceBeside() {
-  adjustSize();
+QPoint ToolWindow::PlaceBeside() const {
   const QRect frame = frame_.geometry();
   const QRect screen = frame_.screen()->availableGeometry();
   const int lowest = screen.top() + std::max(0, RoomOnScreen(frame_).height() - height());
@@ -142,8 +147,7 @@ QPoint ToolWindow::PlaceBeside() {
 }
 
 /// The middle of the screen, for a frame that fills it or is about to: at the start it has not grown yet.
-QPoint ToolWindow::PlaceInTheMiddle() {
-  adjustSize();
+QPoint ToolWindow::PlaceInTheMiddle() const {
   return frame_.screen()->availableGeometry().center() - rect().center();
 }
 

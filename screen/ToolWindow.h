@@ -38,8 +38,9 @@ class ToolWindow : public QDialog, public FormView, public CanBeOnTop {
   void ShowWindow();
   void ShowMinimised(bool minimised);
   void ChooseOwner();
-  [[nodiscard]] QPoint PlaceBeside();
-  [[nodiscard]] QPoint PlaceInTheMiddle();
+  void TakeRoom();
+  [[nodiscard]] QPoint PlaceBeside() const;
+  [[nodiscard]] QPoint PlaceInTheMiddle() const;
   [[nodiscard]] QPoint PlaceOfForm() const;
   void RunTimers();
   [[nodiscard]] bool KeepsForForm(QEvent& event) const;

@@ -33,6 +33,7 @@ QWidget* AsHint(QWidget* label) {
 
 std::vector<QWidget*> Lines(const FormLayout& in, ControlArray<CommandButton>& buttons) {
   std::vector<QWidget*> lines;
+  lines.reserve(static_cast<std::size_t>(buttons.Count()));
   for (int i = 0; i < buttons.Count(); ++i) lines.push_back(AsLink(in.Show(buttons(i))));
   return lines;
 }

@@ -38,11 +38,7 @@ QWidget* Plain(QWidget* label) {
 }
 
 /// A setting that has nothing to act on here.
-QLayout* Idle(QWidget* box) {
-  QLabel* const words = Words("(without effect here)");
-  words->setEnabled(false);
-  return Row({box, words, Stretch()});
-}
+QLayout* Idle(QWidget* box) { return Row({box, Words("(without effect here)"), Stretch()}); }
 
 QLayout* FileLocations(Preferences& form, const FormLayout& in) {
   QLayout* const paths = Paths(in, {{"Loader", form.Text1, form.Command1},

@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "screen/widgets/Conversions.h"
+#include "screen/windows/WindowRoom.h"
 
 namespace tarvik::screen {
 namespace {
@@ -21,6 +22,7 @@ namespace {
 constexpr qreal kTwipsPerInch = 1440;
 constexpr qreal kTwipsPerPoint = 20;
 constexpr qreal kTabWidth = 720;             // twips, as the panes have it
+constexpr QSize kPreview(960, 760);          // in which all of its tools have room
 constexpr std::size_t kLongestPiece = 4096;  // characters of one line laid out at a time
 
 Failure Broken() { return {error::kPrinter, "Printer error", 0}; }
@@ -136,6 +138,7 @@ bool QtPrinter::ShowPages(const QString& title, const PrintDocumentOn& print) {
   QPrinter& device = Device();
   QPrintPreviewDialog dialog(&device, QApplication::activeWindow());
   dialog.setWindowTitle(QStringLiteral("Print preview of %1").arg(title));
+  dialog.resize(kPreview.boundedTo(RoomOnScreen(dialog)));
   QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [this, &print] {
     const QScopedValueRollback rollback(onScreen_, true);
     print(PagesGo::OnScreen);

@@ -264,7 +264,7 @@ void Bindings::Bind(ToolbarButton& button, QToolButton& widget) {
     widget.setToolTip(ToScreen(button.ToolTipText.Get()));
     widget.setAccessibleName(widget.toolTip());
   });
-  new Watcher(widget, [&button](QEvent& event) {
+  new Watcher(widget, *this, [&button](QEvent& event) {
     if (event.type() == QEvent::ToolTip) button.Pointed();
   });
   Bind(button.Image, [&] { widget.setIcon(Icon(button.Image.Get())); });
