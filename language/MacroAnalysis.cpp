@@ -44,31 +44,22 @@ std::string TakeField(std::string_view& rest) {
   return field;
 }
 
-bool Begins(const std::string& record, std::string_view with, char (*fold)(char)) {
+bool Begins(std::string_view record, std::string_view with, char (*fold)(char)) {
   return record.size() >= with.size() && std::equal(with.begin(), with.end(), record.begin(),
                                                     [fold](char a, char b) { return a == fold(b); });
 }
 
-bool IsRem(const std::string& record) { return Begins(record, "rem ", ToLower); }
-bool IsRemBlock(const std::string& top, const std::string& bottom) {
+bool IsRem(std::string_view record) { return Begins(record, "rem ", ToLower); }
+bool IsRemBlock(std::string_view top, std::string_view bottom) {
   return Begins(top, kRule, ToLower) && Begins(bottom, kRule, ToLower);
 }
-bool IsBoxBlock(const std::string& top, const std::string& bottom) {
+bool IsBoxBlock(std::string_view top, std::string_view bottom) {
   return Begins(top, kBoxTop, ToUpper) && Begins(bottom, kBoxBottom, ToUpper);
 }
 
 /// A line too short for what is to go keeps all of it.
-void DropFirst(std::string& line, std::size_t count) {
-  if (line.size() >= count) line.erase(0, count);
-}
-
-/// Cuts the middle line down to its heading and gives that with its first letter in upper case, the rest in
-/// lower.
-std::string TakeHeading(std::string& line) {
-  line = WithoutBlanks(line);
-  std::string heading = LowerCase(line);
-  if (!heading.empty()) heading[0] = ToUpper(heading[0]);
-  return heading;
+std::string_view WithoutFirst(std::string_view line, std::size_t count) {
+  return line.size() >= count ? line.substr(count) : line;
 }
 
 /// The length of what a name is looked up by: the word that it begins with, or a first character that is part
@@ -148,26 +139,33 @@ std::string MacroNameOf(std::string_view record) {
   return std::string(WithoutBlanks(record.substr(0, record.find('='))));
 }
 
+std::optional<std::string> HeadingIn(std::string_view top, std::string_view middle, std::string_view bottom) {
+  if (IsRem(top) && IsRemBlock(top, bottom)) return std::string(WithoutBlanks(WithoutFirst(middle, 3)));
+  if (!top.starts_with('~') || !IsBoxBlock(top, bottom)) return std::nullopt;
+  std::string_view line = WithoutFirst(middle, 2);
+  if (line.ends_with(kBoxSide)) line.remove_suffix(1);
+  return std::string(WithoutBlanks(line));
+}
+
+std::string AsListed(std::string_view heading) {
+  std::string listed = LowerCase(heading);
+  if (!listed.empty()) listed[0] = ToUpper(listed[0]);
+  return listed;
+}
+
 MacroAnalysis AnalyseMacros(std::vector<std::string>& records) {
   MacroAnalysis analysis;
   const std::size_t count = records.size();
   for (std::size_t i = 0; i < count; ++i) {
+    const std::string& record = records[i];
     // A record must follow the block.
-    const bool roomForBlock = i + 3 < count;
-    const bool rem = IsRem(records[i]);
-    const bool tilde = !rem && records[i].starts_with('~');
-    if (roomForBlock && rem && IsRemBlock(records[i], records[i + 2])) {
-      DropFirst(records[i + 1], 3);
-      analysis.categories.push_back({TakeHeading(records[i + 1]), {}});
+    const auto heading = i + 3 < count ? HeadingIn(record, records[i + 1], records[i + 2]) : std::nullopt;
+    if (heading) {
+      records[i + 1] = *heading;
+      analysis.categories.push_back({AsListed(*heading), {}});
       i += 2;
-    } else if (roomForBlock && tilde && IsBoxBlock(records[i], records[i + 2])) {
-      std::string& line = records[i + 1];
-      DropFirst(line, 2);
-      if (line.ends_with(kBoxSide)) line.pop_back();
-      analysis.categories.push_back({TakeHeading(line), {}});
-      i += 2;
-    } else if (!rem && !tilde && records[i].find('=') != std::string::npos) {
-      std::string name = MacroNameOf(records[i]);
+    } else if (!IsRem(record) && !record.starts_with('~') && record.find('=') != std::string::npos) {
+      std::string name = MacroNameOf(record);
       if (!analysis.categories.empty()) analysis.categories.back().macros.push_back(name);
       analysis.macros.push_back(std::move(name));
     }

@@ -1,6 +1,7 @@
 // Reads a macro file as the program understands it: records, headings and macro names. It knows no form.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,13 @@ struct MacroAnalysis {
   std::vector<std::string> macros;  ///< all of them, also those above the first heading
   std::vector<MacroCategory> categories;
 };
+
+/// The bare heading of a block, which is a line between two rules or the two edges of a box; none where the
+/// three lines are no block.
+[[nodiscard]] std::optional<std::string> HeadingIn(std::string_view top, std::string_view middle,
+                                                   std::string_view bottom);
+/// A bare heading with its first letter in upper case, the rest in lower.
+[[nodiscard]] std::string AsListed(std::string_view heading);
 
 /// Finds the headings and macros. The middle line of each heading block in `records` is cut down to the bare
 /// heading text.

@@ -1,0 +1,51 @@
+#include "language/Lines.h"
+
+#include <algorithm>
+
+namespace tarvik::model {
+namespace {
+
+/// The line that begins at `start`, without its line feed.
+std::string_view LineAt(std::string_view text, std::size_t start) {
+  return text.substr(start, std::min(text.find('\n', start), text.size()) - start);
+}
+
+}  // namespace
+
+std::string_view WithoutIndent(std::string_view line) {
+  return line.substr(static_cast<std::size_t>(std::ranges::find_if_not(line, IsBlank) - line.begin()));
+}
+
+std::string_view FirstWord(std::string_view line) {
+  const auto endsWord = [](char byte) { return IsBlank(byte) || byte == '(' || byte == ')' || byte == '~'; };
+  return line.substr(0, static_cast<std::size_t>(std::ranges::find_if(line, endsWord) - line.begin()));
+}
+
+std::size_t StatementEnd(std::string_view text, std::size_t start,
+                         bool (*isContinuation)(std::string_view line)) {
+  std::string_view line = LineAt(text, start);
+  const std::string_view words = WithoutIndent(line);
+  const bool hasOneLine = words.empty() || BeginsComment(words);
+  std::size_t end = std::min(start + line.size() + 1, text.size());
+  while (!hasOneLine && end < text.size()) {
+    line = LineAt(text, end);
+    if (!isContinuation(line)) break;
+    end = std::min(end + line.size() + 1, text.size());
+  }
+  return end;
+}
+
+void ReadWords(std::string_view lines, FirstEquals equals, std::vector<Token>& words,
+               std::vector<Range>& comments) {
+  words.clear();
+  ReadTokens(lines, equals, words);
+  for (const Token& token : words) {
+    if (token.kind == TokenKind::Comment) comments.push_back(token.range);
+  }
+  std::erase_if(words, [](const Token& token) {
+    return token.kind == TokenKind::Blank || token.kind == TokenKind::LineEnd ||
+           token.kind == TokenKind::Comment;
+  });
+}
+
+}  // namespace tarvik::model

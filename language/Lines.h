@@ -1,0 +1,21 @@
+// How lines make statements in either file: what is set in by blanks belongs to the statement above it.
+#pragma once
+
+#include "language/Tokens.h"
+
+namespace tarvik::model {
+
+/// The line from its first byte that is no blank on; empty for a blank line.
+[[nodiscard]] std::string_view WithoutIndent(std::string_view line);
+/// What a line that is not set in begins with, up to a blank or a bracket.
+[[nodiscard]] std::string_view FirstWord(std::string_view line);
+/// The end of the statement whose first line begins at `start`. A blank line and a comment are statements of
+/// one line. `isContinuation` is asked of each line below, which it is handed without its line end.
+[[nodiscard]] std::size_t StatementEnd(std::string_view text, std::size_t start,
+                                       bool (*isContinuation)(std::string_view line));
+/// Parts the tokens of a statement: those that mean something, in the place of what `words` held, and its
+/// comments.
+void ReadWords(std::string_view lines, FirstEquals equals, std::vector<Token>& words,
+               std::vector<Range>& comments);
+
+}  // namespace tarvik::model

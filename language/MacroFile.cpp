@@ -1,0 +1,76 @@
+#include "language/MacroFile.h"
+
+#include "language/Lines.h"
+#include "language/MacroAnalysis.h"
+
+namespace tarvik::model {
+namespace {
+
+/// Whether a line that is set in defines a macro: one word, and "=".
+bool IsDefinition(std::string_view words) {
+  const std::size_t equals = words.find('=');
+  if (equals == std::string_view::npos || equals == 0 || words.front() == '/') return false;
+  const std::string_view behindName = words.substr(std::min(FirstWord(words).size(), equals));
+  return WithoutIndent(behindName).starts_with('=');
+}
+
+bool IsContinuation(std::string_view line) {
+  if (line.empty() || !IsBlank(line.front())) return false;
+  const std::string_view words = WithoutIndent(line);
+  return !words.empty() && !IsDefinition(words);
+}
+
+/// All that stands before the "=", blanks inside it included.
+Range ReadName(TokenCursor& cursor) {
+  const std::size_t start = cursor.Peek().start;
+  if (cursor.Is(TokenKind::Equals)) return {start, 0};
+  while (!cursor.Is(TokenKind::Equals)) cursor.Take();
+  return {start, cursor.End() - start};
+}
+
+MacroDefinition ReadDefinition(TokenCursor& cursor) {
+  MacroDefinition definition{.name = ReadName(cursor), .equals = cursor.Take(), .sends = {}};
+  if (const AxisShape* shape = FindAxis(cursor.Words())) {
+    definition.sends = ReadAxis(cursor, *shape);
+  } else {
+    definition.sends = ReadSequence(cursor);
+  }
+  return definition;
+}
+
+/// The line of a comment from its first word on.
+std::string_view RemarkAt(const MacroFile& file, std::string_view text, std::size_t statement) {
+  const std::vector<Range>& comments = file[statement].comments;
+  const bool isRemark = std::holds_alternative<Remark>(file[statement].body);
+  return isRemark ? In(file.LinesOf(statement, text), comments.front()) : std::string_view{};
+}
+
+}  // namespace
+
+std::size_t MacroStatement::EndOf(std::string_view text, std::size_t start) {
+  return StatementEnd(text, start, IsContinuation);
+}
+
+MacroStatement MacroStatement::Read(std::string_view lines, std::vector<Token>& tokens) {
+  MacroStatement statement;
+  ReadWords(lines, FirstEquals::EndsName, tokens, statement.comments);
+  TokenCursor cursor(lines, tokens);
+  if (cursor.AtEnd()) {
+    statement.body = statement.comments.empty() ? Body(Blank{}) : Body(Remark{});
+  } else if (std::ranges::find(tokens, TokenKind::Equals, &Token::kind) != tokens.end()) {
+    statement.body = ReadDefinition(cursor);
+  }
+  statement.rest = cursor.TakeRest();
+  return statement;
+}
+
+std::string HeadingOver(const MacroFile& file, std::string_view text, std::size_t statement) {
+  for (std::size_t last = std::min(statement, file.size()); last-- > 2;) {
+    const auto heading =
+        HeadingIn(RemarkAt(file, text, last - 2), RemarkAt(file, text, last - 1), RemarkAt(file, text, last));
+    if (heading) return AsListed(*heading);
+  }
+  return {};
+}
+
+}  // namespace tarvik::model
