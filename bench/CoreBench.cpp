@@ -11,6 +11,7 @@
 #include "Compare.h"
 #include "Samples.h"
 #include "language/MacroAnalysis.h"
+#include "language/MacroFile.h"
 #include "language/SyntaxColouring.h"
 #include "support/MemoryFiles.h"
 #include "text/CodePage.h"
@@ -191,6 +192,45 @@ void BenchColouring() {
   });
 }
 
+// The model of what the statements mean.
+
+template <class File>
+void BenchReading(const std::string& what, const std::string& text, std::span<const Pass> passes) {
+  const auto whole = [&] { sink = sink + File(text).size(); };
+  const auto colouring = [&] {
+    SyntaxColouring run(text, passes);
+    run.Run();
+    sink = sink + run.Colours(kClassColours).size();
+  };
+  Report("model of the " + what + ", beside colouring", Measure(whole, colouring), Goal::AtMost, 2);
+}
+
+/// A key in the middle of the text and the key that takes it back.
+void BenchModelKeys(const std::string& text) {
+  const std::size_t middle = text.find(" ", text.size() / 2);
+  std::string longer = text;
+  longer.insert(middle, 1, 'x');
+  model::JoystickFile file(text);
+  const auto keys = [&] {
+    file.Edit(longer, {middle, 0}, 1);
+    file.Edit(text, {middle, 1}, 0);
+    sink = sink + file.size();
+  };
+  const auto whole = [&] {
+    sink = sink + model::JoystickFile(text).size() + model::JoystickFile(longer).size();
+  };
+  Report("model, two keys in 1 MB, beside reading twice", Measure(keys, whole), Goal::AtMost, 0.01);
+}
+
+void BenchModel() {
+  for (const Size& size : kSizes) {
+    BenchReading<model::JoystickFile>(std::string("joystick file, ") + size.name, JoystickFile(size.bytes),
+                                      JoystickPasses());
+  }
+  BenchReading<model::MacroFile>("macro file, 5,000 macros", MacroFile(5'000, 500), MacroPasses());
+  BenchModelKeys(JoystickFile(1'000'000));
+}
+
 // Macros.
 
 void BenchAnalysis() {
@@ -357,6 +397,7 @@ int main(int count, char** arguments) {
   BenchFindAll();
   BenchFilter();
   BenchColouring();
+  BenchModel();
   BenchAnalysis();
   BenchTicking();
   BenchUndo();

@@ -35,17 +35,4 @@ std::size_t StatementEnd(std::string_view text, std::size_t start,
   return end;
 }
 
-void ReadWords(std::string_view lines, FirstEquals equals, std::vector<Token>& words,
-               std::vector<Range>& comments) {
-  words.clear();
-  ReadTokens(lines, equals, words);
-  for (const Token& token : words) {
-    if (token.kind == TokenKind::Comment) comments.push_back(token.range);
-  }
-  std::erase_if(words, [](const Token& token) {
-    return token.kind == TokenKind::Blank || token.kind == TokenKind::LineEnd ||
-           token.kind == TokenKind::Comment;
-  });
-}
-
 }  // namespace tarvik::model

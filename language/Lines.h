@@ -13,9 +13,5 @@ namespace tarvik::model {
 /// one line. `isContinuation` is asked of each line below, which it is handed without its line end.
 [[nodiscard]] std::size_t StatementEnd(std::string_view text, std::size_t start,
                                        bool (*isContinuation)(std::string_view line));
-/// Parts the tokens of a statement: those that mean something, in the place of what `words` held, and its
-/// comments.
-void ReadWords(std::string_view lines, FirstEquals equals, std::vector<Token>& words,
-               std::vector<Range>& comments);
 
 }  // namespace tarvik::model

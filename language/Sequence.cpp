@@ -13,6 +13,8 @@ namespace {
 constexpr std::string_view kAux = "AUX";
 constexpr std::string_view kPrefixes[] = {"SHF", "CTL", "ALT"};
 constexpr std::string_view kReset = "F22RST";
+/// Beside one another: up to three places of the dogfight switch.
+constexpr std::size_t kUsualBranches = 3;
 
 struct BracketWord {
   std::string_view word;
@@ -126,9 +128,9 @@ Sequence ReadSequenceBehind(TokenCursor& cursor, OpenModifiers open) {
     const SlashLetter* slash = SlashOf(cursor.Words());
     const bool beside = IsManner(slash) && open.HoldsManner() && !sequence.IsEmpty();
     if (open.Holds(slash) || beside) break;
-    Branch branch{cursor.Take(), slash};
-    branch.sequence = ReadSequenceBehind(cursor, open.With(slash));
-    sequence.branches.push_back(std::move(branch));
+    if (sequence.branches.empty()) sequence.branches.reserve(kUsualBranches);
+    const Range modifier = cursor.Take();
+    sequence.branches.push_back({modifier, slash, ReadSequenceBehind(cursor, open.With(slash))});
   }
   return sequence;
 }

@@ -18,6 +18,10 @@ class StatementList {
  public:
   StatementList() = default;
   explicit StatementList(std::string_view text) : size_(text.size()) {
+    // A statement has at least a line. Moving them all while there come more would take longer than counting.
+    const auto lines = static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1;
+    starts_.reserve(lines);
+    statements_.reserve(lines);
     ReadWhile(text, 0, [](std::size_t) { return true; });
   }
 

@@ -97,27 +97,37 @@ class TokenReader {
 
 }  // namespace
 
-void ReadTokens(std::string_view text, FirstEquals equals, std::vector<Token>& tokens) {
-  TokenReader reader(text, equals);
-  while (!reader.AtEnd()) tokens.push_back(reader.Next());
-}
-
 std::vector<Token> TokensOf(std::string_view text, FirstEquals equals) {
   std::vector<Token> tokens;
-  ReadTokens(text, equals, tokens);
+  TokenReader reader(text, equals);
+  while (!reader.AtEnd()) tokens.push_back(reader.Next());
   return tokens;
 }
 
-bool IsBlank(char byte) { return byte == ' ' || (byte >= '\t' && byte <= '\r' && byte != '\n'); }
+void ReadWords(std::string_view text, FirstEquals equals, std::vector<Token>& words,
+               std::vector<Range>& comments) {
+  using enum TokenKind;
+  words.clear();
+  TokenReader reader(text, equals);
+  while (!reader.AtEnd()) {
+    const Token token = reader.Next();
+    if (token.kind == Comment) {
+      comments.push_back(token.range);
+    } else if (token.kind != Blank && token.kind != LineEnd) {
+      words.push_back(token);
+    }
+  }
+}
 
 bool BeginsComment(std::string_view text) {
   if (text.starts_with('~')) return true;
-  return text.size() >= kRem.size() && SameWord(text.substr(0, kRem.size()), kRem) &&
+  return text.size() >= kRem.size() && ToLower(text[0]) == kRem[0] &&
+         SameWord(text.substr(0, kRem.size()), kRem) &&
          (text.size() == kRem.size() || !IsWordCharacter(text[kRem.size()]));
 }
 
 bool SameWord(std::string_view one, std::string_view other) {
-  return std::ranges::equal(one, other, {}, ToLower, ToLower);
+  return one.size() == other.size() && std::ranges::equal(one, other, {}, ToLower, ToLower);
 }
 
 }  // namespace tarvik::model

@@ -34,12 +34,16 @@ struct Token {
 /// What the first "=" is: a key as any other, or the end of a macro's name.
 enum class FirstEquals { IsKey, EndsName };
 
-/// Appends the tokens of a text of any number of lines. Its first byte counts as the beginning of a line.
-void ReadTokens(std::string_view text, FirstEquals equals, std::vector<Token>& tokens);
+/// The tokens of a text of any number of lines. Its first byte counts as the beginning of a line.
 [[nodiscard]] std::vector<Token> TokensOf(std::string_view text, FirstEquals equals = FirstEquals::IsKey);
+/// The tokens that mean something, in the place of what `words` held, and the comments beside them.
+void ReadWords(std::string_view text, FirstEquals equals, std::vector<Token>& words,
+               std::vector<Range>& comments);
 
 /// Whether nothing of the bytes is shown: blanks, tabs and the like.
-[[nodiscard]] bool IsBlank(char byte);
+[[nodiscard]] constexpr bool IsBlank(char byte) {
+  return byte == ' ' || (byte >= '\t' && byte <= '\r' && byte != '\n');
+}
 /// The word beginning with "Rem", or "~", makes the rest of its line a comment.
 [[nodiscard]] bool BeginsComment(std::string_view text);
 /// Equal but for the case of the letters.
