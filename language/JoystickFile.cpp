@@ -77,12 +77,12 @@ std::size_t JoystickStatement::EndOf(std::string_view text, std::size_t start) {
 
 JoystickStatement JoystickStatement::Read(std::string_view lines, std::vector<Token>& tokens) {
   JoystickStatement statement;
-  ReadWords(lines, FirstEquals::IsKey, tokens, statement.comments);
-  TokenCursor cursor(lines, tokens);
-  if (cursor.AtEnd()) {
-    statement.body = statement.comments.empty() ? Body(Blank{}) : Body(Remark{});
+  if (const auto remark = RemarkIn(lines)) {
+    statement.body = remark->length == 0 ? Body(Blank{}) : Body(Remark{*remark});
     return statement;
   }
+  ReadWords(lines, FirstEquals::IsKey, tokens, statement.comments);
+  TokenCursor cursor(lines, tokens);
   statement.row = FindStatementWord(cursor.Words());
   if (statement.row != nullptr) {
     statement.word = cursor.Peek();

@@ -56,6 +56,8 @@ struct Blank {
 
 /// A line that is a comment, and nothing else.
 struct Remark {
+  Range comment;
+
   friend bool operator==(const Remark&, const Remark&) = default;
 };
 
@@ -105,7 +107,7 @@ struct JoystickStatement {
   const StatementWord* row = nullptr;  ///< of kStatementWords; null for Blank, Remark and Unknown
   Range word = {};                     ///< by which the statement is known
   Range rest = {};                     ///< what is left over and makes no sense; empty where all does
-  std::vector<Range> comments = {};    ///< without their line ends
+  std::vector<Range> comments = {};    ///< beside its words, without their line ends
   Body body = Unknown{};
 
   /// Whether blanks stand before its word, which must begin its line.

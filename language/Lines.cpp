@@ -16,6 +16,14 @@ std::string_view WithoutIndent(std::string_view line) {
   return line.substr(static_cast<std::size_t>(std::ranges::find_if_not(line, IsBlank) - line.begin()));
 }
 
+std::optional<Range> RemarkIn(std::string_view lines) {
+  std::string_view words = WithoutIndent(lines);
+  const std::size_t start = lines.size() - words.size();
+  if (words.ends_with('\n')) words.remove_suffix(words.ends_with("\r\n") ? 2 : 1);
+  if (!words.empty() && !BeginsComment(words)) return std::nullopt;
+  return Range{start, words.size()};
+}
+
 std::string_view FirstWord(std::string_view line) {
   const auto endsWord = [](char byte) { return IsBlank(byte) || byte == '(' || byte == ')' || byte == '~'; };
   return line.substr(0, static_cast<std::size_t>(std::ranges::find_if(line, endsWord) - line.begin()));

@@ -40,9 +40,8 @@ MacroDefinition ReadDefinition(TokenCursor& cursor) {
 
 /// The line of a comment from its first word on.
 std::string_view RemarkAt(const MacroFile& file, std::string_view text, std::size_t statement) {
-  const std::vector<Range>& comments = file[statement].comments;
-  const bool isRemark = std::holds_alternative<Remark>(file[statement].body);
-  return isRemark ? In(file.LinesOf(statement, text), comments.front()) : std::string_view{};
+  const Remark* remark = std::get_if<Remark>(&file[statement].body);
+  return remark == nullptr ? std::string_view{} : In(file.LinesOf(statement, text), remark->comment);
 }
 
 }  // namespace
@@ -53,11 +52,13 @@ std::size_t MacroStatement::EndOf(std::string_view text, std::size_t start) {
 
 MacroStatement MacroStatement::Read(std::string_view lines, std::vector<Token>& tokens) {
   MacroStatement statement;
+  if (const auto remark = RemarkIn(lines)) {
+    statement.body = remark->length == 0 ? Body(Blank{}) : Body(Remark{*remark});
+    return statement;
+  }
   ReadWords(lines, FirstEquals::EndsName, tokens, statement.comments);
   TokenCursor cursor(lines, tokens);
-  if (cursor.AtEnd()) {
-    statement.body = statement.comments.empty() ? Body(Blank{}) : Body(Remark{});
-  } else if (std::ranges::find(tokens, TokenKind::Equals, &Token::kind) != tokens.end()) {
+  if (std::ranges::find(tokens, TokenKind::Equals, &Token::kind) != tokens.end()) {
     statement.body = ReadDefinition(cursor);
   }
   statement.rest = cursor.TakeRest();

@@ -19,7 +19,7 @@ struct MacroStatement {
   using Body = std::variant<Blank, Remark, MacroDefinition, Unknown>;
 
   Range rest = {};                   ///< what makes no sense; empty where all does
-  std::vector<Range> comments = {};  ///< without their line ends
+  std::vector<Range> comments = {};  ///< beside its words, without their line ends
   Body body = Unknown{};
 
   [[nodiscard]] static std::size_t EndOf(std::string_view text, std::size_t start);
