@@ -53,6 +53,13 @@ const QLatin1String kUnsavedMark("*");
 
 QString Escaped(QString text) { return text.replace(u'&', QLatin1String("&&")); }
 
+/// A button that can be checked no more drops its check without being painted anew, so the check goes first.
+void ShowChecked(QAbstractButton& widget, bool checked) {
+  if (checked) widget.setCheckable(true);
+  widget.setChecked(checked);
+  widget.setCheckable(checked);
+}
+
 /// Hands a widget's events on without taking them. A widget whose form has gone still has some: the focus
 /// comes back to it when a menu closes.
 class Watcher : public QObject {
@@ -269,10 +276,7 @@ void Bindings::Bind(ToolbarButton& button, QToolButton& widget) {
   });
   Bind(button.Image, [&] { widget.setIcon(Icon(button.Image.Get())); });
   Bind(button.Enabled, [&] { widget.setEnabled(button.Enabled); });
-  const auto showCheck = [&] {
-    widget.setCheckable(button.Checked);
-    widget.setChecked(button.Checked);
-  };
+  const auto showCheck = [&] { ShowChecked(widget, button.Checked); };
   Bind(button.Checked, showCheck);
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&button, showCheck] {
     button.Click();
@@ -303,10 +307,7 @@ void Bindings::Bind(ToggleLabel& label, QAbstractButton& widget) {
 void Bindings::Bind(Label& label, QAbstractButton& widget) {
   BindControl(label, widget);
   BindCaption(label, widget);
-  const auto show = [&] {
-    widget.setCheckable(label.BorderStyle == 1);
-    widget.setChecked(label.BorderStyle == 1);
-  };
+  const auto show = [&] { ShowChecked(widget, label.BorderStyle == 1); };
   Bind(label.BorderStyle, show);
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&label, show] {
     label.Click();

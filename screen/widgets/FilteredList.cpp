@@ -7,6 +7,11 @@
 #include "screen/widgets/Icons.h"
 
 namespace tarvik::screen {
+namespace {
+
+constexpr float kFaint = 0.6F;
+
+}  // namespace
 
 FilteredList::FilteredList(Bindings& bindings, const QString& name, Ticks ticks, QWidget* parent)
     : QWidget(parent),
@@ -32,6 +37,21 @@ FilteredList::FilteredList(Bindings& bindings, const QString& name, Ticks ticks,
   connect(line_, &QLineEdit::textChanged, list_, [this](const QString& typed) { list_->Filter(typed); });
   connect(list_->model(), &QAbstractItemModel::modelReset, count_, [this] { ShowCount(); });
   setFocusProxy(list_);
+  ShowPlaceholder();
+}
+
+/// Desktops that set the usual colours alone leave the toolkit's own for this one, black on dark.
+void FilteredList::ShowPlaceholder() {
+  QPalette palette;
+  QColor faint = this->palette().color(QPalette::Text);
+  faint.setAlphaF(kFaint);
+  palette.setColor(QPalette::PlaceholderText, faint);
+  line_->setPalette(palette);
+}
+
+void FilteredList::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) ShowPlaceholder();
 }
 
 void FilteredList::Add(CommandButton& button, const char* icon) {

@@ -21,10 +21,12 @@ class FilteredList : public QWidget {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   /// "17 of 212".
   void ShowCount();
+  void ShowPlaceholder();
 
   Bindings& bindings_;
   QLineEdit* line_;

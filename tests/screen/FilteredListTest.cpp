@@ -36,6 +36,16 @@ class FilteredListTest : public testing::Test, public ProgramOnScreen {
   FilteredList& shown = *dynamic_cast<FilteredList*>(list.parentWidget());
 };
 
+TEST_F(FilteredListTest, SaysWhatItIsAlsoOnADarkDesktopThatForgetsThatColour) {
+  QPalette dark = shown.palette();
+  dark.setColor(QPalette::Base, Qt::black);
+  dark.setColor(QPalette::Text, Qt::white);
+  dark.setColor(QPalette::PlaceholderText, Qt::black);
+  shown.setPalette(dark);
+  EXPECT_EQ(shown.line().palette().color(QPalette::PlaceholderText).lightness(), 255);
+  EXPECT_EQ(shown.line().palette().color(QPalette::Base), QColor(Qt::black));
+}
+
 TEST_F(FilteredListTest, TypingNarrowsTheListAndEscapeClears) {
   ASSERT_THAT(OnShow(), testing::ElementsAre("Fire", "Flaps_Up", "Gear_Down", "Gear_Up"));
   EXPECT_EQ(Count(), "4");

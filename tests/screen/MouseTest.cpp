@@ -34,6 +34,32 @@ TEST_F(MouseTest, ADoubleClickOfAnyButtonEndsInAnyPane) {
 }
 
 /// It ends when it closes, and must not do so under its own feet while what was chosen waits for its end.
+/// Counts how often a widget is painted.
+class Painted : public QObject {
+ public:
+  explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++times;
+    return false;
+  }
+  int times = 0;
+};
+
+/// By the menu, with the pointer elsewhere.
+TEST_F(MouseTest, AToolbarButtonLooksReleasedAsSoonAsItsEntryIsOff) {
+  MenuItem& tile = application.editor().menus("mnuViewTileVertically");
+  constexpr int kTile = 30;
+  auto& button = Find<QToolButton>(application.mum().Toolbar1.Buttons(kTile));
+  tile.Click();
+  QApplication::processEvents();
+  EXPECT_TRUE(button.isChecked());
+  Painted painted(button);
+  tile.Click();
+  QApplication::processEvents();
+  EXPECT_FALSE(button.isChecked());
+  EXPECT_GT(painted.times, 0);
+}
+
 TEST_F(MouseTest, TheMenuOfHiddenToolbarButtonsIsThroughBeforeWhatIsChosen) {
   QWidget* const frame = &WindowOf(application.mum());
   frame->resize(500, 400);

@@ -24,6 +24,7 @@ SideBySide::SideBySide(Form& form, Workbench& bench, std::string_view beforeName
   for (Pane* const pane : {&before, &after}) {
     connections_.push_back(pane->SelectionChanged.Connect([this, pane] { selectedIn_ = pane; }));
     ApplyFont(*pane, bench.settings);
+    pane->BackColor = bench.settings.BackgroundColour.Get();
     pane->Locked = true;
     pane->RightMargin = margin::kNone;
   }
