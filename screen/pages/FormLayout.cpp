@@ -276,8 +276,14 @@ QWidget* FormLayout::Place(Control& control, QWidget* shown, QWidget* area) cons
   return shown;
 }
 
-QWidget* FormLayout::Show(ControlArray<ListBox>& lists, const char* name, Ticks ticks) const {
-  auto* const view = new FilteredList(bindings_, QString::fromUtf8(name), ticks);
+QWidget* FormLayout::Show(ControlArray<ListBox>& lists, const char* name) const {
+  auto* const view = new ListStack(bindings_, QString::fromUtf8(name), Ticks::None);
+  view->Add(lists);
+  return view;
+}
+
+QWidget* FormLayout::ShowMacros(ControlArray<ListBox>& lists, const char* name) const {
+  auto* const view = new FilteredList(bindings_, QString::fromUtf8(name), Ticks::Offered);
   view->list().Add(lists);
   return view;
 }

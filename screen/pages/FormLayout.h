@@ -25,7 +25,9 @@ class FormLayout {
   /// A label whose text is a path, or has one in it.
   QWidget* ShowPath(Label& label) const;
   /// Lists that stand on one another.
-  QWidget* Show(ControlArray<ListBox>& lists, const char* name, Ticks ticks = Ticks::None) const;
+  QWidget* Show(ControlArray<ListBox>& lists, const char* name) const;
+  /// The same of macros, which are ticked, with a line that narrows them.
+  QWidget* ShowMacros(ControlArray<ListBox>& lists, const char* name) const;
   /// A drawing of a device, with its labels.
   QWidget* Show(const char* drawing, const std::vector<Label*>& labels) const;
   /// A label that is pressed to take its colour.

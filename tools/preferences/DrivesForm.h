@@ -13,7 +13,7 @@ class DrivesForm : public ToolForm {
 
   Label Label1{*this, "Label1"};
   ListBox List1{*this, "List1"};  ///< every letter, with its folder where it has one
-  CommandButton Command1{*this, "Command1", "&Folder...", &DrivesForm::Command1_Click};
+  CommandButton Command1{*this, "Command1", "&Folder ...", &DrivesForm::Command1_Click};
   CommandButton Command2{*this, "Command2", "&Remove", &DrivesForm::Command2_Click};
   CommandButton Command3{*this, "Command3", "OK", &DrivesForm::Close};
   CommandButton Command4{*this, "Command4", "Help"};

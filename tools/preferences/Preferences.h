@@ -24,7 +24,7 @@ class Preferences : public ToolForm {
   CommandButton Command1{*this, "Command1", "Browse"};
   CommandButton Command2{*this, "Command2", "Browse"};
   CommandButton Command8{*this, "Command8", "Browse"};
-  CommandButton CommandDrives{*this, "CommandDrives", "&Drives..."};
+  CommandButton CommandDrives{*this, "CommandDrives", "&Drives ..."};
   ComboBox ComboJoystick{*this, "ComboJoystick"};
   ComboBox ComboThrottle{*this, "ComboThrottle"};
   ComboBox ComboRudders{*this, "ComboRudders"};
