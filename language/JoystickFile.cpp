@@ -1,6 +1,5 @@
 #include "language/JoystickFile.h"
 
-#include "language/Lines.h"
 #include "text/CodePage.h"
 
 namespace tarvik::model {
@@ -76,11 +75,8 @@ std::size_t JoystickStatement::EndOf(std::string_view text, std::size_t start) {
 }
 
 JoystickStatement JoystickStatement::Read(std::string_view lines, std::vector<Token>& tokens) {
+  if (auto remark = ReadRemark<Body>(lines)) return {.body = *remark};
   JoystickStatement statement;
-  if (const auto remark = RemarkIn(lines)) {
-    statement.body = remark->length == 0 ? Body(Blank{}) : Body(Remark{*remark});
-    return statement;
-  }
   ReadWords(lines, FirstEquals::IsKey, tokens, statement.comments);
   TokenCursor cursor(lines, tokens);
   statement.row = FindStatementWord(cursor.Words());

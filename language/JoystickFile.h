@@ -6,6 +6,7 @@
 
 #include "language/AxisStatement.h"
 #include "language/Condition.h"
+#include "language/Lines.h"
 #include "language/StatementList.h"
 
 namespace tarvik::model {
@@ -60,6 +61,14 @@ struct Remark {
 
   friend bool operator==(const Remark&, const Remark&) = default;
 };
+
+/// A line that is nothing, or nothing but a comment, as the body of its statement; none for any other line.
+template <class Body>
+[[nodiscard]] std::optional<Body> ReadRemark(std::string_view line) {
+  const auto remark = RemarkIn(line);
+  if (!remark) return std::nullopt;
+  return remark->length == 0 ? Body(Blank{}) : Body(Remark{*remark});
+}
 
 /// A button, a place of a hat, a flag, or a place of the rocker, which is told with its word.
 struct Button {

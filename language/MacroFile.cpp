@@ -1,6 +1,5 @@
 #include "language/MacroFile.h"
 
-#include "language/Lines.h"
 #include "language/MacroAnalysis.h"
 
 namespace tarvik::model {
@@ -51,11 +50,8 @@ std::size_t MacroStatement::EndOf(std::string_view text, std::size_t start) {
 }
 
 MacroStatement MacroStatement::Read(std::string_view lines, std::vector<Token>& tokens) {
+  if (auto remark = ReadRemark<Body>(lines)) return {.body = *remark};
   MacroStatement statement;
-  if (const auto remark = RemarkIn(lines)) {
-    statement.body = remark->length == 0 ? Body(Blank{}) : Body(Remark{*remark});
-    return statement;
-  }
   ReadWords(lines, FirstEquals::EndsName, tokens, statement.comments);
   TokenCursor cursor(lines, tokens);
   if (std::ranges::find(tokens, TokenKind::Equals, &Token::kind) != tokens.end()) {
