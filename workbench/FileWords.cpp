@@ -1,5 +1,7 @@
 #include "workbench/FileWords.h"
 
+#include "workbench/FileTypes.h"
+
 namespace tarvik {
 namespace {
 
@@ -33,10 +35,8 @@ constexpr FileWords kMacroWords = {
     " macro file(",
 };
 
-constexpr const char* kAllFiles = "|All files (*.*)|*.*";
-
 std::string OwnType(const FileWords& words, const std::string& extension) {
-  return std::string(words.kind) + " file (*." + extension + ")|*." + extension;
+  return filetypes::OfEnding(std::string(words.kind).append(" file"), extension);
 }
 
 }  // namespace
@@ -46,8 +46,14 @@ const FileWords& WordsOf(const Document& document) {
 }
 
 std::string FilterToOpen(const FileWords& words, const std::string& extension) {
-  return OwnType(words, extension) + "|All " + words.kind + " file types (" + Patterns(words.ending, ",") +
-         ") |" + Patterns(words.ending) + " " + kAllFiles;
+  const std::string every = std::string("All ")
+                                .append(words.kind)
+                                .append(" file types (")
+                                .append(Patterns(words.ending, ","))
+                                .append(") |")
+                                .append(Patterns(words.ending))
+                                .append(" ");
+  return filetypes::InOrder({OwnType(words, extension), every, filetypes::kAll});
 }
 
 std::string FilterToSave(const FileWords& words, const std::string& extension) {
@@ -57,14 +63,16 @@ std::string FilterToSave(const FileWords& words, const std::string& extension) {
     filter.append("|").append(each.inDialogs).append(words.kindToSave).append(pattern);
     filter.append(") |").append(pattern);
   }
-  return filter + kAllFiles;
+  return filetypes::InOrder({filter, filetypes::kAll});
 }
 
 std::string PairFilter(const std::string& joystick, const std::string& macro) {
-  return "Thrustmaster files for your hardware |*." + joystick + ";*." + macro +
-         "|Joystick file for your hardware (*." + joystick + ")|*." + joystick +
-         "|Macro file for your hardware (*." + macro + ")|*." + macro + "|All Thrustmaster files |" +
-         Patterns(&Endings::joystick) + ";" + Patterns(&Endings::macro) + kAllFiles;
+  return filetypes::InOrder(
+      {"Thrustmaster files for your hardware |*." + joystick + ";*." + macro,
+       filetypes::OfEnding("Joystick file for your hardware", joystick),
+       filetypes::OfEnding("Macro file for your hardware", macro),
+       "All Thrustmaster files |" + Patterns(&Endings::joystick) + ";" + Patterns(&Endings::macro),
+       filetypes::kAll});
 }
 
 }  // namespace tarvik

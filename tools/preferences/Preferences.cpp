@@ -7,6 +7,7 @@
 #include "text/CodePage.h"
 #include "tools/preferences/CommandLines.h"
 #include "tools/preferences/DrivesForm.h"
+#include "workbench/FileTypes.h"
 #include "workbench/HelpTopics.h"
 
 namespace tarvik {
@@ -101,7 +102,7 @@ void Preferences::AttachHandlers() {
   SSTab1.Click = [this] { SSTab1_Click(); };
   Text1.Change = [this] { settings_.B50LoadPath = Text1.Text.Get(); };
   Text2.Change = [this] { Text2_Change(); };
-  Browse(Command1, Text1, "Locate Thrustmaster file", "Executables (*.exe)|*.exe|All files (*.*)|*.*",
+  Browse(Command1, Text1, "Locate Thrustmaster file", {filetypes::kExecutables, filetypes::kAll},
          &settings_.B50LoadPath);
   Command2.Click = [this] {
     const auto folder = Ignore(
@@ -109,10 +110,10 @@ void Preferences::AttachHandlers() {
     if (folder) Text2.Text = WithBackslash(LowerCase(*folder));
   };
   Browse(Command8, Text10, "Locate Thrustmaster file",
-         "Batch files (*.bat)|*.bat|Executables (*.exe)|*.exe|All files (*.*)|*.*", &settings_.CandCCPath);
-  Browse(Command5, Text5, "Locate image file", "Picture files|*.bmp;*.jpg;*.gif;*.wmf|All files (*.*)|*.*",
+         {filetypes::kBatchFiles, filetypes::kExecutables, filetypes::kAll}, &settings_.CandCCPath);
+  Browse(Command5, Text5, "Locate image file", {"Picture files|*.bmp;*.jpg;*.gif;*.wmf", filetypes::kAll},
          &settings_.ImageFilePath);
-  Browse(Command7, Text6, "Locate text file", "Text files|*.txt;*.rtf;*.ini;*.bat|All files (*.*)|*.*",
+  Browse(Command7, Text6, "Locate text file", {"Text files|*.txt;*.rtf;*.ini;*.bat", filetypes::kAll},
          &settings_.TextFilePath);
   CommandDrives.Click = [this] { shell_.ShowModal(shell_.Tool<DrivesForm>()); };
   ComboJoystick.Click = [this] { ComboJoystick_Click(); };
@@ -231,9 +232,9 @@ void Preferences::Command6_Click() { ShowHelp(bench_.platform, topic::kPreferenc
 
 // File locations.
 
-void Preferences::Browse(CommandButton& button, TextBox& box, const char* say, const char* filter,
-                         Property<std::string>* setting) {
-  button.Click = [this, &box, say, filter, setting] {
+void Preferences::Browse(CommandButton& button, TextBox& box, const char* say,
+                         std::initializer_list<std::string_view> types, Property<std::string>* setting) {
+  button.Click = [this, &box, say, filter = filetypes::InOrder(types), setting] {
     Say(say);
     FileRequest request;
     request.title = say;
@@ -272,8 +273,8 @@ void Preferences::AttachApps() {
     use.Value = app.use == 1 ? 1 : 0;
     CustomAppPathBrowse.Load(row).Caption = "Browse";
     Browse(CustomAppPathBrowse(row), path, "Locate program",
-           "Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat|Help files (*.hlp)|*.hlp|Control panel "
-           "applets (*.cpl)|*.cpl|All files (*.*)|*.*");
+           {filetypes::kExecutables, filetypes::kBatchFiles, "Help files (*.hlp)|*.hlp",
+            "Control panel applets (*.cpl)|*.cpl", filetypes::kAll});
     const auto take = [this, &app, &name, &path] {
       app.name = name.Text.Get();
       app.path = path.Text.Get();
@@ -298,17 +299,19 @@ void Preferences::CustomAppPathUse_Click(int row) {
 
 void Preferences::AttachLists() {
   PreviousFiles& lists = bench_.lists;
-  const std::string all = "|All files (*.*)|*.*";
-  const auto own = [all](const std::string& kind, const std::string& ending) {
-    return kind + " (*." + ending + ")|*." + ending + all;
+  const auto own = [](std::string_view kind, std::string_view ending) {
+    return filetypes::InOrder({filetypes::OfEnding(kind, ending), filetypes::kAll});
   };
-  Command9.Click = [this, own] { favourites_.Choose(1, own("Joystick file", settings_.JoystickExtension)); };
-  Command10.Click = [this, own] { favourites_.Choose(2, own("Macro file", settings_.MacroExtension)); };
-  Command16.Click = [this, all] {
-    games_.Choose(1, "Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat" + all);
+  Command9.Click = [this, own] {
+    favourites_.Choose(1, own("Joystick file", settings_.JoystickExtension.Get()));
+  };
+  Command10.Click = [this, own] { favourites_.Choose(2, own("Macro file", settings_.MacroExtension.Get())); };
+  Command16.Click = [this] {
+    using namespace filetypes;
+    games_.Choose(1, InOrder({kExecutables, kBatchFiles, kAll}));
   };
   Command15.Click = [this] { games_.Choose(2, ""); };
-  Command4.Click = [this, own] { games_.Choose(3, own("Joystick file", settings_.JoystickExtension)); };
+  Command4.Click = [this, own] { games_.Choose(3, own("Joystick file", settings_.JoystickExtension.Get())); };
   Text7.LostFocus = [this] { Text7_LostFocus(); };
   Text12.LostFocus = [&lists] { lists.SaveGames(); };
   Text11.LostFocus = [&lists] { lists.SaveGames(); };

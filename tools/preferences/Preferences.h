@@ -143,8 +143,8 @@ class Preferences : public ToolForm {
   void AttachHandlers();
   void AttachMiscellaneous();
   /// What is found goes into the box, and at once into the setting where the box has one.
-  void Browse(CommandButton& button, TextBox& box, const char* say, const char* filter,
-              Property<std::string>* setting = nullptr);
+  void Browse(CommandButton& button, TextBox& box, const char* say,
+              std::initializer_list<std::string_view> types, Property<std::string>* setting = nullptr);
   void FillColours();
   void ShowSwatches();
   void ShowExample();

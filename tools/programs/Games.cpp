@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "tools/programs/Download.h"
+#include "workbench/FileTypes.h"
 
 namespace tarvik {
 namespace {
@@ -152,15 +153,16 @@ void EnterGameName::Text_Change() {
 
 void EnterGameName::Command1_Click(int index) {
   const bool game = index == 0;
-  const std::string extension = bench_.settings.JoystickExtension;
-  const std::string joystickFiles = "Joystick file (*." + extension + ")|*." + extension;
-  const auto chosen = bench_.platform.dialogs.AskForFile(
-      {FileDialogKind::Open,
-       {},
-       (game ? "Executables (*.exe)|*.exe" : joystickFiles) + "|All files (*.*)|*.*",
-       game ? std::string() : bench_.settings.ProgramFilesPath.Get(),
-       {},
-       {}});
+  const std::string type =
+      game ? std::string(filetypes::kExecutables)
+           : filetypes::OfEnding("Joystick file", bench_.settings.JoystickExtension.Get());
+  const auto chosen =
+      bench_.platform.dialogs.AskForFile({FileDialogKind::Open,
+                                          {},
+                                          filetypes::InOrder({type, filetypes::kAll}),
+                                          game ? std::string() : bench_.settings.ProgramFilesPath.Get(),
+                                          {},
+                                          {}});
   if (!chosen) return;
   (game ? Text2 : Text4).Text = *chosen;
   if (game && Text3.Text.Get().starts_with("eg")) Text3.Text = chosen->substr(0, chosen->rfind('\\') + 1);
