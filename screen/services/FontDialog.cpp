@@ -3,9 +3,8 @@
 #include <QDialogButtonBox>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QFormLayout>
-#include <QVBoxLayout>
 
+#include "screen/widgets/Arrangement.h"
 #include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
@@ -71,20 +70,11 @@ void FontDialog::LayOut() {
   sample_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // large letters don't widen the window
   sample_->setMinimumWidth(kSampleSize.width());
   sample_->setFixedHeight(kSampleSize.height());
-  size_->setAccessibleName(tr("Size"));
-  auto* const look = new QFormLayout;
-  look->addRow(tr("&Size:"), size_);
-  look->addRow(bold_);
-  auto* const choices = new QHBoxLayout;
-  choices->addWidget(families_, 1);
-  choices->addLayout(look);
   auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  auto* const rows = new QVBoxLayout(this);
-  rows->addLayout(choices, 1);
-  rows->addWidget(sample_);
-  rows->addWidget(buttons);
+  QLayout* const look = Column({Fields({{"&Size:", size_}}), bold_, Stretch{}});
+  setLayout(Column({Row({families_, look}), sample_, buttons}));
 }
 
 FontChoice FontDialog::Choice() const {

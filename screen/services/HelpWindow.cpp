@@ -1,14 +1,13 @@
 #include "screen/services/HelpWindow.h"
 
 #include <QApplication>
-#include <QHBoxLayout>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QShortcut>
 #include <QTextBlock>
-#include <QVBoxLayout>
 #include <QWindow>
 
+#include "screen/widgets/Arrangement.h"
 #include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
 #include "screen/widgets/ListStack.h"
@@ -104,7 +103,6 @@ HelpWindow::HelpWindow()
   resize(kSize.boundedTo(RoomOnScreen(*this)));
   topics_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   words_->setClearButtonEnabled(true);
-  words_->setAccessibleName(tr("Search"));
   topics_->setAccessibleName(tr("Topics"));
   text_->setAccessibleName(tr("Topic"));
   text_->setOpenLinks(false);
@@ -112,6 +110,9 @@ HelpWindow::HelpWindow()
   none_->hide();
   topics_->setFixedWidth(kListWidth);
   ShowFocusInSelection(*topics_);
+  QSizePolicy room = text_->sizePolicy();
+  room.setHorizontalStretch(1);
+  text_->setSizePolicy(room);
   Arrange();
   EnableWays();
   ListenToUser();
@@ -131,21 +132,9 @@ QToolBar* HelpWindow::MakeTools() {
 }
 
 void HelpWindow::Arrange() {
-  auto* const label = new QLabel(tr("&Search:"));
-  label->setBuddy(words_);
-  auto* const search = new QHBoxLayout;
-  search->addWidget(label);
-  search->addWidget(words_);
-  auto* const left = new QVBoxLayout;
-  left->addLayout(search);
-  left->addWidget(none_);
-  left->addWidget(topics_);
-  auto* const columns = new QHBoxLayout;
-  columns->addLayout(left);
-  columns->addWidget(text_, 1);
-  auto* const rows = new QVBoxLayout(this);
+  QLayout* const rows = Row({Column({Fields({{"&Search:", words_}}), none_, topics_}), text_});
   rows->setMenuBar(MakeTools());
-  rows->addLayout(columns);
+  setLayout(rows);
 }
 
 void HelpWindow::ListenToUser() {
