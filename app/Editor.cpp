@@ -123,17 +123,13 @@ void Editor::SetUpToolbar() {
   LetPrintingTellOfPrinter();
 }
 
-/// The printer is looked for when somebody wants to know, and not at the start.
 void Editor::LetPrintingTellOfPrinter() {
-  const auto tell = [this](auto& shown) {
-    shown.Pointed = [this, &shown, tip = shown.ToolTipText.Get()] {
-      const std::string note = PrinterNote(bench_.platform.printer);
-      shown.ToolTipText = tip + (tip.empty() || note.empty() ? "" : ". ") + note;
-    };
-  };
-  for (const char* const entry : {"mnuFilePrintJoystick", "mnuFilePrintMacro"}) tell(menus(entry));
-  tell(popUps("mnuRHMPrint"));
-  tell(mum_.Toolbar1.Buttons(kPrintButton));
+  Printer& printer = bench_.platform.printer;
+  for (const char* const entry : {"mnuFilePrintJoystick", "mnuFilePrintMacro"}) {
+    TellOfPrinter(menus(entry), printer);
+  }
+  TellOfPrinter(popUps("mnuRHMPrint"), printer);
+  TellOfPrinter(mum_.Toolbar1.Buttons(kPrintButton), printer);
 }
 
 /// An entry there has the picture of the entry of the menus that does the same, or does it to one file.
@@ -162,8 +158,8 @@ WelcomeCommands Editor::CommandsOfWelcome() {
 // Life of the form.
 
 void Editor::FillFrame() {
-  ScaleWidth = InPixels(mum_.Width);
-  ScaleHeight = InPixels(mum_.Height);
+  ScaleWidth = InPixels(mum_.Width).count;
+  ScaleHeight = InPixels(mum_.Height).count;
 }
 
 void Editor::Form_Load(EditorBegins begins) {
@@ -251,10 +247,15 @@ void Editor::FollowMacroLists() {
 void Editor::ShowViewSwitches() {
   for (const tables::ViewSwitchRow& row : tables::kViewSwitches) {
     Property<int>& setting = bench_.settings.*row.setting;
-    const auto show = [&setting, &entry = menus(row.entry)] { entry.Checked = setting != 0; };
+    MenuItem& entry = menus(row.entry);
+    entry.Click = [this, &setting] { Switch(setting); };
+    entry.Enabled = true;
+    const auto show = [&setting, &entry] { entry.Checked = setting != 0; };
     connections_.push_back(setting.Changed.Connect(show));
     show();
   }
+  connections_.push_back(bench_.settings.ColourAsYouType.Changed.Connect(
+      [this] { bench_.notices.Remove(Matter::OffersColours, nullptr); }));
 }
 
 void Editor::FirstTimeFlow() {
@@ -264,17 +265,23 @@ void Editor::FirstTimeFlow() {
   if (bench_.platform.desktop.IsDark()) OfferDarkColours();
 }
 
+/// To whoever has left them light until now.
 void Editor::OfferDarkColours() {
-  const auto answer = [this](ColourScheme scheme) {
-    bench_.settings.UseScheme(scheme);
-    for (const Document* const document : {&Joystick, &Macro}) bench_.documents.ApplyBackground(*document);
-    bench_.notices.Remove(Matter::Offer, nullptr);
+  Settings& settings = bench_.settings;
+  if (settings.BackgroundColour != Settings::ColourIn(ColourScheme::Light, &Settings::BackgroundColour))
+    return;
+  const auto done = [this] {
+    bench_.notices.Remove(Matter::OffersDark, nullptr);
     bench_.documents.FocusActiveText();
   };
-  bench_.notices.Show(Matter::Offer, nullptr,
+  const auto darken = [this, done] {
+    bench_.settings.UseScheme(ColourScheme::Dark);
+    for (const Document* const document : {&Joystick, &Macro}) bench_.documents.ApplyBackground(*document);
+    done();
+  };
+  bench_.notices.Show(Matter::OffersDark, nullptr,
                       {"Your desktop is dark. The two files can be dark, too (Edit > Preferences > Colours).",
-                       {{"Dark files", [answer] { answer(ColourScheme::Dark); }},
-                        {"Light files", [answer] { answer(ColourScheme::Light); }}}});
+                       {{"Dark files", darken}, {"Leave them light", done}}});
 }
 
 void Editor::Form_Activate() {
@@ -539,18 +546,8 @@ void Editor::Toolbar1_ButtonClick(int button) {
 
 // Colours.
 
-void Editor::mnuViewColourJoystick_Click() {
-  ApplyColourHighlighting();
-  OfferColourAsYouType();
-}
-
-void Editor::mnuViewColourMacro_Click() {
-  ApplyMacroColourHighlighting();
-  OfferColourAsYouType();
-}
-
-void Editor::mnuRHMColour_Click() {
-  bench_.highlighter.Apply(bench_.documents.Active());
+void Editor::ColourAndOffer(Document& document) {
+  bench_.highlighter.Apply(document);
   OfferColourAsYouType();
 }
 
@@ -560,15 +557,17 @@ void Editor::OfferColourAsYouType() {
   if (settings.OfferColourAsYouType == 0) return;
   settings.ChangeView(settings.OfferColourAsYouType, 0);
   if (settings.ColourAsYouType != 0) return;
-  const auto answer = [this](int isOn) {
-    bench_.settings.ChangeView(bench_.settings.ColourAsYouType, isOn);
-    bench_.notices.Remove(Matter::Offer, nullptr);
+  const auto leave = [this] {
+    bench_.notices.Remove(Matter::OffersColours, nullptr);
     bench_.documents.FocusActiveText();
   };
-  bench_.notices.Show(
-      Matter::Offer, nullptr,
-      {"Tarvik can show these colours while you type, too (View > Colour as you type).",
-       {{"Colour as I type", [answer] { answer(1); }}, {"Leave it", [answer] { answer(0); }}}});
+  const auto take = [this, leave] {
+    leave();
+    Switch(bench_.settings.ColourAsYouType);
+  };
+  bench_.notices.Show(Matter::OffersColours, nullptr,
+                      {"Tarvik can show these colours while you type, too (View > Colour as you type).",
+                       {{"Colour as I type", take}, {"Leave it", leave}}});
 }
 
 void Editor::mnuViewApplyColourBothFiles_Click() {

@@ -165,16 +165,12 @@ class Editor : public Form {
   void mnuViewWordWrap_Click();
   void mnuViewHighlightLine_Click() { bench_.blink.Start(); }
   /// Turns a setting of the view over.
-  template <Property<int> Settings::*option>
-  void Switch() {
-    Property<int>& setting = bench_.settings.*option;
-    bench_.settings.ChangeView(setting, setting == 0 ? 1 : 0);
-  }
+  void Switch(Property<int>& setting) { bench_.settings.ChangeView(setting, setting == 0 ? 1 : 0); }
   void ZoomTo(int percent);
   void mnuViewZoomIn_Click() { ZoomTo(bench_.settings.Zoom + zoom::kStep); }
   void mnuViewZoomOut_Click() { ZoomTo(bench_.settings.Zoom - zoom::kStep); }
   void mnuViewZoomNormal_Click() { ZoomTo(zoom::kNormal); }
-  void TileTo(float x) { layout_.TileTo(x); }
+  void TileTo(Pixels x) { layout_.TileTo(x); }
   void TileEvenly() { layout_.TileEvenly(); }
   void KeepTiles() { layout_.KeepTiles(); }
   void FrameMacros_MouseDown() { HelpOnWhatsThis(topic::kMacroLists); }
@@ -200,13 +196,13 @@ class Editor : public Form {
   // Colours.
   void ApplyColourHighlighting() { bench_.highlighter.Apply(Joystick); }
   void ApplyMacroColourHighlighting() { bench_.highlighter.Apply(Macro); }
-  void mnuViewColourJoystick_Click();
-  void mnuViewColourMacro_Click();
+  void mnuViewColourJoystick_Click() { ColourAndOffer(Joystick); }
+  void mnuViewColourMacro_Click() { ColourAndOffer(Macro); }
   void mnuViewApplyColourBothFiles_Click();
   void mnuRemoveColourJoystick_Click() { bench_.highlighter.Remove(Joystick); }
   void mnuRemoveColourMacro_Click() { bench_.highlighter.Remove(Macro); }
   void mnuRemoveColourSelectedText_Click();
-  void mnuRHMColour_Click();
+  void mnuRHMColour_Click() { ColourAndOffer(bench_.documents.Active()); }
   void mnuRHMColoursRemove_Click() { bench_.highlighter.Remove(bench_.documents.Active()); }
   void mnuInsertWithColour_Click();
 
@@ -277,6 +273,7 @@ class Editor : public Form {
   void FollowWorkbench();
   [[nodiscard]] WelcomeCommands CommandsOfWelcome();
   void ShowViewSwitches();
+  void ColourAndOffer(Document& document);
   void OfferColourAsYouType();
   void OfferDarkColours();
   void FollowMacroLists();

@@ -116,19 +116,19 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuViewEditColours", "Edit &colours ...", "", &Editor::mnuViewEditColours_Click},
     {1, "mnuViewDivider3", "-"},
     {1, "mnuViewWordWrap", "&Word wrap", "", &Editor::mnuViewWordWrap_Click},
-    {1, "mnuViewFixedPitch", "Fi&xed pitch", "", &Editor::Switch<&Settings::FixedPitch>},
+    {1, "mnuViewFixedPitch", "Fi&xed pitch"},
     {1, "mnuViewZoom", "&Zoom"},
     {2, "mnuViewZoomIn", "Zoom &in", "Ctrl++", &Editor::mnuViewZoomIn_Click},
     {2, "mnuViewZoomOut", "Zoom &out", "Ctrl+-", &Editor::mnuViewZoomOut_Click},
     {2, "mnuViewZoomNormal", "&Normal size", "Ctrl+0", &Editor::mnuViewZoomNormal_Click},
     {1, "mnuViewDivider4", "-"},
-    {1, "mnuViewColourAsYouType", "Colour as &you type", "", &Editor::Switch<&Settings::ColourAsYouType>},
-    {1, "mnuViewLineNumbers", "&Line numbers", "", &Editor::Switch<&Settings::LineNumbers>},
-    {1, "mnuViewCurrentLine", "C&urrent line", "", &Editor::Switch<&Settings::CurrentLine>},
-    {1, "mnuViewMatchingBrackets", "Matching &brackets", "", &Editor::Switch<&Settings::MatchingBrackets>},
-    {1, "mnuViewOtherPlaces", "&Other places of the word", "", &Editor::Switch<&Settings::OtherPlaces>},
-    {1, "mnuViewChangedLines", "Cha&nged lines", "", &Editor::Switch<&Settings::ChangedLines>},
-    {1, "mnuViewWelcomePage", "W&elcome page", "", &Editor::Switch<&Settings::WelcomePage>},
+    {1, "mnuViewColourAsYouType", "Colour as &you type"},
+    {1, "mnuViewLineNumbers", "&Line numbers"},
+    {1, "mnuViewCurrentLine", "C&urrent line"},
+    {1, "mnuViewMatchingBrackets", "Matching &brackets"},
+    {1, "mnuViewOtherPlaces", "&Other places of the word"},
+    {1, "mnuViewChangedLines", "Cha&nged lines"},
+    {1, "mnuViewWelcomePage", "W&elcome page"},
 
     {0, "mnuWindow", "&Window"},
     MenuArray<Editor>(1, "mnuWindowCascade", kArrangements),
@@ -217,7 +217,7 @@ inline constexpr MenuRow<Editor> kPopUps[] = {
     {1, "mnuRHListEdit", "&Edit", "", &Editor::mnuRHListEdit_Click},
 };
 
-/// An entry of the View menu that switches a setting, and bears a check mark while it is on.
+/// An entry of the View menu that turns a setting over, and bears a check mark while it is on.
 struct ViewSwitchRow {
   const char* entry;
   Property<int> Settings::*setting;

@@ -25,8 +25,7 @@ class FindBar {
   void Close();
   /// Goes, and so does the user: to where the search began.
   void Cancel();
-  /// In pixels.
-  [[nodiscard]] static float Height() { return 38; }
+  [[nodiscard]] static Pixels Height() { return Pixels{38}; }
 
  private:
   void LookFor();

@@ -64,8 +64,9 @@ void Layout::PlaceFrame() {
   const float width = FrameWidth();
   const float height = controls_.form.ScaleHeight;
   controls_.frame.Move(0, 0, width, height);
-  controls_.categories.Width = FromPixels(width).count - 240;
-  const float listHeight = std::max(0.0F, FromPixels(height).count - 840 - controls_.categories.Height - 680);
+  controls_.categories.Width = InTwips(Pixels{width}).count - 240;
+  const float listHeight =
+      std::max(0.0F, InTwips(Pixels{height}).count - 840 - controls_.categories.Height - 680);
   for (int i = 0; i < controls_.lists.Count(); ++i) {
     controls_.lists(i).Move(kMargin, kListTop, controls_.categories.Width, listHeight);
   }
@@ -86,10 +87,10 @@ float Layout::PlaceNotice() {
   const float top = strip.Top + kPaneTop;
   NoticeBar& notice = controls_.notice;
   if (!notice.frame.Visible) return top;
-  notice.frame.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, notice.Height());
+  notice.frame.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, notice.Height().count);
   // With another width it may need another height, and has said so while it was moved.
-  notice.frame.Height = notice.Height();
-  return top + notice.Height();
+  notice.frame.Height = notice.Height().count;
+  return top + notice.Height().count;
 }
 
 float Layout::PlaceFindBar() {
@@ -97,8 +98,8 @@ float Layout::PlaceFindBar() {
   const float bottom = strip.Top + strip.Height - kPaneBottom + kPaneTop;
   Frame& bar = controls_.find.frame;
   if (!bar.Visible) return bottom;
-  const float top = bottom - FindBar::Height();
-  bar.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, FindBar::Height());
+  const float top = bottom - FindBar::Height().count;
+  bar.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, FindBar::Height().count);
   return top;
 }
 
@@ -130,9 +131,9 @@ float Layout::TileShare() const {
                     1 - kLeastTile);
 }
 
-void Layout::TileTo(float x) {
+void Layout::TileTo(Pixels x) {
   const TabStrip& strip = documents_.tabs;
-  const float share = (x - strip.Left) / std::max(strip.Width.Get(), 1.0F);
+  const float share = (x.count - strip.Left) / std::max(strip.Width.Get(), 1.0F);
   documents_.settings.TileShare = static_cast<int>(std::clamp(share, kLeastTile, 1 - kLeastTile) * kWhole);
   Place();
 }
@@ -171,7 +172,7 @@ void Layout::ToggleTiled() {
 }
 
 void Layout::FrameMouseMove(const Mouse& mouse) {
-  const int x = static_cast<int>(InPixels(mouse.x));
+  const int x = static_cast<int>(InPixels(mouse.x).count);
   Frame& frame = controls_.frame;
   if (mouse.button != button::kLeft || frame.MousePointer != pointer::kWestEast) {
     const bool atEdge = x + kFrameGrip >= static_cast<int>(frame.Width);

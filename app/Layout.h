@@ -41,8 +41,8 @@ class Layout {
   void ToggleMacroFrame();
   void ShowMacroFrame();
   void ToggleTiled();
-  /// Puts the edge between the two files there in the tiled view, in pixels of the form.
-  void TileTo(float x);
+  /// Puts the edge between the two files there in the tiled view.
+  void TileTo(Pixels x);
   void TileEvenly();
   /// The edge stays where it is now, at the next start too.
   void KeepTiles();

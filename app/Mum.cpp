@@ -160,8 +160,8 @@ void Mum::SaveMumPosition() {
   if (WindowState != window::kMinimised) {
     Top = std::max(Twips{0}, Top.Get());
     Left = std::max(Twips{0}, Left.Get());
-    Width = std::min(FromPixels(screen.width), Width.Get());
-    Height = std::min(FromPixels(screen.height), Height.Get());
+    Width = std::min(InTwips(Pixels{screen.width}), Width.Get());
+    Height = std::min(InTwips(Pixels{screen.height}), Height.Get());
     MumWindowstate = WindowState;
   }
   Ignore(bench_.profile.WriteAll(std::vector<ProfileEntry>{

@@ -30,8 +30,8 @@ void NoticeBar::Show() {
   place_();
 }
 
-void NoticeBar::Need(float pixels) {
-  if (std::exchange(height_, pixels) != pixels && frame.Visible) place_();
+void NoticeBar::Need(Pixels height) {
+  if (std::exchange(height_, height) != height && frame.Visible) place_();
 }
 
 /// The action may take the notice away in which it stands.

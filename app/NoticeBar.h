@@ -19,15 +19,14 @@ class NoticeBar {
   /// As there is something to tell of the file on top, or not.
   void Show();
   /// For whatever shows it: so high must it be for its words.
-  void Need(float pixels);
-  /// In pixels.
-  [[nodiscard]] float Height() const { return height_; }
+  void Need(Pixels height);
+  [[nodiscard]] Pixels Height() const { return height_; }
 
  private:
   void Run(int command) const;
 
   Workbench& bench_;
-  float height_ = 44;
+  Pixels height_{44};
   std::function<void()> place_;
   std::vector<Connection> connections_;
 };

@@ -12,7 +12,7 @@ std::string NameIn(const std::string& path) { return path.substr(path.rfind('\\'
 std::string OwnSample(const std::string& name) { return std::string(kOwnSamples).append("\\").append(name); }
 
 bool HasNothing(const Document& document) {
-  return document.IsUntitled() && document.text.Characters().empty();
+  return document.text.Characters().empty() && document.IsUntitled();
 }
 
 /// Shows what is in a list, or that nothing is.

@@ -88,6 +88,8 @@ class CommandButton : public Control {
   /// The Escape key presses it.
   Property<bool> Cancel{*this, "Cancel", false};
   Event<> Click{*this, "Click"};
+  /// The pointer rests on it, and its tool tip is about to be shown.
+  Event<> Pointed{*this, "Pointed"};
 
   /// Makes it the form's one default button.
   void MakeDefault();

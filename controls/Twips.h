@@ -1,4 +1,4 @@
-// The unit in which windows and the pointer are placed, and what it makes in pixels.
+// The two units in which windows, controls and the pointer are placed, and what one makes in the other.
 #pragma once
 
 namespace tarvik {
@@ -15,9 +15,17 @@ struct Twips {
 
 constexpr Twips operator-(Twips one, Twips other) { return {one.count - other.count}; }
 
-/// The editor measures what lies in it in pixels, parts of them included.
-constexpr float InPixels(Twips length) { return length.count / kTwipsPerPixel; }
-constexpr Twips FromPixels(float pixels) { return {pixels * kTwipsPerPixel}; }
-constexpr Twips FromPixels(int pixels) { return FromPixels(static_cast<float>(pixels)); }
+/// A length in pixels, parts of them included: so the editor measures what lies in it.
+struct Pixels {
+  float count = 0;
+
+  constexpr Pixels() = default;
+  constexpr explicit Pixels(float length) : count(length) {}
+  constexpr explicit Pixels(int length) : count(static_cast<float>(length)) {}
+  friend bool operator==(const Pixels&, const Pixels&) = default;
+};
+
+constexpr Pixels InPixels(Twips length) { return Pixels{length.count / kTwipsPerPixel}; }
+constexpr Twips InTwips(Pixels length) { return {length.count * kTwipsPerPixel}; }
 
 }  // namespace tarvik

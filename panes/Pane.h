@@ -107,7 +107,7 @@ class Pane : public Control {
   Property<float> SelFontSize{*this, "SelFontSize", 8.5F};
   Property<bool> SelBold{*this, "SelBold", false};
   Property<int> SelIndent{*this, "SelIndent", 0};
-  Property<Colour> BackColor{*this, "BackColor", kWhite};
+  Property<Colour> BackColor{*this, "BackColor", kDesktopPaper};
   Property<bool> Locked{*this, "Locked", false};
   Property<int> RightMargin{*this, "RightMargin", margin::kWindow};
   /// What the user types takes the place of what is behind the caret.

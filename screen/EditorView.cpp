@@ -59,23 +59,42 @@ class SplitterView : public QWidget {
     setCursor(Qt::SplitHCursor);
     setToolTip(tr("Drag to give one file more room; a double click shares it evenly"));
     setAccessibleName(tr("Edge between the files"));
+    setFocusPolicy(Qt::TabFocus);
   }
 
  protected:
   void mouseMoveEvent(QMouseEvent* event) override {
     if (event->buttons() & Qt::LeftButton) {
-      editor_.TileTo(static_cast<float>(mapToParent(event->position()).x()));
+      editor_.TileTo(Pixels{static_cast<float>(mapToParent(event->position()).x())});
     }
   }
   void mouseReleaseEvent(QMouseEvent*) override { editor_.KeepTiles(); }
   void mouseDoubleClickEvent(QMouseEvent*) override { editor_.TileEvenly(); }
+  void keyPressEvent(QKeyEvent* event) override {
+    constexpr int kStep = 16;
+    switch (event->key()) {
+      case Qt::Key_Left:
+        return Shift(-kStep);
+      case Qt::Key_Right:
+        return Shift(kStep);
+      case Qt::Key_Home:
+        return editor_.TileEvenly();
+      default:
+        QWidget::keyPressEvent(event);
+    }
+  }
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Window));
+    painter.fillRect(rect(), palette().color(hasFocus() ? QPalette::Highlight : QPalette::Window));
     PaintGrip(painter, {width() / 2 - 1, height() / 2}, palette());
   }
 
  private:
+  void Shift(int pixels) {
+    editor_.TileTo(Pixels{geometry().left() + kWidth / 2 + 1 + pixels});
+    editor_.KeepTiles();
+  }
+
   Editor& editor_;
 };
 
@@ -194,7 +213,8 @@ void EditorView::OrderFocus() {
   QWidget* last = tabs_;
   for (QWidget* const next : notice_->buttons()) setTabOrder(std::exchange(last, next), next);
   setTabOrder(last, panes_[0]);
-  setTabOrder(panes_[0], panes_[1]);
+  setTabOrder(panes_[0], splitter_);
+  setTabOrder(splitter_, panes_[1]);
   last = panes_[1];
   for (QWidget* const next : welcome_->parts()) setTabOrder(std::exchange(last, next), next);
   for (QWidget* const next : find_->parts()) setTabOrder(std::exchange(last, next), next);

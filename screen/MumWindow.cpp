@@ -216,10 +216,10 @@ bool MumWindow::HasPlaceOfItsOwn() const {
 void MumWindow::TakePlace() {
   if (!HasPlaceOfItsOwn() || FitFrame()) return;
   const QRect frame = frameGeometry();
-  mum_.Left = FromPixels(frame.left());
-  mum_.Top = FromPixels(frame.top());
-  mum_.Width = FromPixels(frame.width());
-  mum_.Height = FromPixels(frame.height());
+  mum_.Left = InTwips(Pixels{frame.left()});
+  mum_.Top = InTwips(Pixels{frame.top()});
+  mum_.Width = InTwips(Pixels{frame.width()});
+  mum_.Height = InTwips(Pixels{frame.height()});
 }
 
 void MumWindow::changeEvent(QEvent* event) {
@@ -238,8 +238,8 @@ void MumWindow::moveEvent(QMoveEvent* event) {
 void MumWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   TakePlace();
-  mum_.ScaleWidth = FromPixels(area_->width()).count;
-  mum_.ScaleHeight = FromPixels(area_->height()).count;
+  mum_.ScaleWidth = InTwips(Pixels{area_->width()}).count;
+  mum_.ScaleHeight = InTwips(Pixels{area_->height()}).count;
   mum_.Resize();
 }
 

@@ -53,7 +53,7 @@ void NoticeView::resizeEvent(QResizeEvent* event) {
 void NoticeView::Fit() {
   parts_->setDirection(width() < kNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
   const int needed = std::max(layout()->totalHeightForWidth(width()), layout()->totalMinimumSize().height());
-  notice_.Need(static_cast<float>(needed));
+  notice_.Need(Pixels{needed});
   parts_->activate();  // the buttons stand where they are seen before anybody can click
 }
 

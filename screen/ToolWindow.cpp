@@ -165,8 +165,8 @@ QPoint ToolWindow::PlaceOfForm() const {
 void ToolWindow::moveEvent(QMoveEvent* event) {
   QDialog::moveEvent(event);
   if (!isVisible() || isMinimized() || isMaximized()) return;
-  form().Left = FromPixels(pos().x());
-  form().Top = FromPixels(pos().y());
+  form().Left = InTwips(Pixels{pos().x()});
+  form().Top = InTwips(Pixels{pos().y()});
 }
 
 void ToolWindow::showEvent(QShowEvent* event) {

@@ -11,6 +11,8 @@ enum class Colour : std::uint32_t {};
 
 inline constexpr Colour kBlack{0};
 inline constexpr Colour kWhite{0xFFFFFF};
+/// What the desktop writes on: white, or black on a dark one.
+inline constexpr Colour kDesktopPaper{0x80000005};
 
 constexpr std::uint32_t NumberOf(Colour colour) { return static_cast<std::uint32_t>(colour); }
 constexpr Colour Rgb(unsigned red, unsigned green, unsigned blue) {

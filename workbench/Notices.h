@@ -21,7 +21,8 @@ enum class Matter {
   VersionKept,
   NoVersion,
   TextsLeft,
-  Offer
+  OffersDark,
+  OffersColours
 };
 
 struct NoticeAction {

@@ -24,6 +24,16 @@ void PreviewDocument(const Documents& documents, const Document& document);
 /// What the tool tip of whatever prints has to add: empty where there is a printer.
 std::string PrinterNote(Printer& printer);
 
+/// Lets the tool tip of an entry or a button that prints say so when there is no printer. The printer is
+/// looked for when somebody wants to know.
+template <class Shown>
+void TellOfPrinter(Shown& shown, Printer& printer) {
+  shown.Pointed = [&shown, &printer, tip = shown.ToolTipText.Get()] {
+    const std::string note = PrinterNote(printer);
+    shown.ToolTipText = tip + (tip.empty() || note.empty() ? "" : ". ") + note;
+  };
+}
+
 /// Lets the user choose where everything is printed from now on.
 void SetUpPrinter(const Documents& documents);
 

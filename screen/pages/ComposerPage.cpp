@@ -61,14 +61,14 @@ QLayout* MainPage(InsertOptions& form, const FormLayout& in) {
   QWidget* const rem = Named(in.Show(form.RemTextBox), QStringLiteral("Note"));
   auto* const side = new QWidget;
   side->setFixedWidth(kSideWidth);
-  side->setLayout(Column(
-      {Group("Macros", Macros(form, in)), Group("Slash modifiers", Buttons(in, form.SlashButton, 6)),
-       Group("Delay, Repeat",
-             Row({in.Show(form.DlyRptButtons(0)), delay, Stretch(), in.Show(form.DlyRptButtons(1)), repeat})),
-       Group("Notes  (Rem)",
-             Column({rem, Row({Stretch(), in.Show(form.CommandREM), in.Show(form.Command10)})})),
-       Row({in.Show(form.Command7(0)), Stretch(), in.Show(form.Command7(1)), blanks}),
-       in.Show(form.CheckAlwaysInsert), in.Show(form.HighlightStatement)}));
+  side->setLayout(
+      Column({Group("Macros", Macros(form, in)), Group("Slash modifiers", Buttons(in, form.SlashButton, 6)),
+              Group("Delay, Repeat", Row({in.Show(form.DlyRptButtons(0)), delay, Words("ms"), Stretch(),
+                                          in.Show(form.DlyRptButtons(1)), repeat, Words("times")})),
+              Group("Notes  (Rem)",
+                    Column({rem, Row({Stretch(), in.Show(form.CommandREM), in.Show(form.Command10)})})),
+              Row({in.Show(form.Command7(0)), Stretch(), in.Show(form.Command7(1)), blanks}),
+              in.Show(form.CheckAlwaysInsert), in.Show(form.HighlightStatement)}));
   side->layout()->setContentsMargins(0, 0, 0, 0);
   auto* const page = Row({hardware, side});
   static_cast<QBoxLayout*>(page)->setStretch(0, 1);
@@ -177,7 +177,7 @@ struct TokenRow {
 };
 
 QLayout* Tokens(InsertOptions& form, const FormLayout& in, std::initializer_list<TokenRow> rows) {
-  constexpr std::size_t kMostParts = 3;
+  constexpr std::size_t kMostParts = 4;
   std::vector<QWidget*> cells;
   for (const TokenRow& row : rows) {
     cells.push_back(Words(row.label));
@@ -186,8 +186,8 @@ QLayout* Tokens(InsertOptions& form, const FormLayout& in, std::initializer_list
     const QString name = QLatin1String("Insert ") + QString::fromUtf8(row.label);
     cells.push_back(Named(in.Show(form.CMDFlagInsert(row.button)), name));
   }
-  auto* const grid = Grid(cells, 5);
-  grid->setColumnStretch(3, 1);
+  auto* const grid = Grid(cells, static_cast<int>(kMostParts) + 2);
+  grid->setColumnStretch(static_cast<int>(kMostParts), 1);
   return grid;
 }
 
@@ -206,11 +206,11 @@ QLayout* LogicPage(InsertOptions& form, const FormLayout& in) {
                                    Stretch()});
   QLayout* const misc = Column(
       {Tokens(form, in,
-              {{"Pulse", {box(0, "Pulse on"), box(1, "Pulse off")}, 3},
-               {"Delay", {box(2, "Delay")}, 4},
-               {"Compare", {list(3, "Compare"), list(4, "Analogue"), box(3, "%")}, 5},
-               {"DLY", {box(4, "DLY")}, 6},
-               {"RPT", {box(5, "RPT")}, 7}}),
+              {{"Pulse", {box(0, "Pulse on"), box(1, "Pulse off"), Words("ms")}, 3},
+               {"Delay", {box(2, "Delay"), Words("ms")}, 4},
+               {"Compare", {list(3, "Compare"), list(4, "Analogue"), box(3, "Per cent"), Words("%")}, 5},
+               {"DLY", {box(4, "DLY"), Words("ms")}, 6},
+               {"RPT", {box(5, "RPT"), Words("times")}, 7}}),
        Note("Don't understand logical programming? Read the An0002a.txt file. Press the button below to view "
             "it. If this doesn't help, write to your local politician asking that it be included in next "
             "year's school syllabus."),

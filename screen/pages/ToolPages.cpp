@@ -198,8 +198,8 @@ class Inside : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent*) override {
-    form_.ScaleWidth = FromPixels(width()).count;
-    form_.ScaleHeight = FromPixels(height()).count;
+    form_.ScaleWidth = InTwips(Pixels{width()}).count;
+    form_.ScaleHeight = InTwips(Pixels{height()}).count;
     form_.Resize();
   }
 
@@ -314,9 +314,13 @@ QLayout* Page(frmAbout& form, const FormLayout& in) {
   auto* const name = AsTitle(Words("Tarvik"));
   QLabel* const description = Wrapped(in.Show(form.lblDescription));
   description->setMinimumWidth(380);
-  QLayout* const words =
-      Column({name, in.Show(form.lblVersion), description, Wrapped(in.Show(form.lblLicence)),
-              Wrapped(in.Show(form.lblLibraries)), Stretch()});
+  QLabel* const version = Wrapped(in.Show(form.lblVersion));
+  QLabel* const licence = Wrapped(in.Show(form.lblLicence));
+  QLabel* const libraries = Wrapped(in.Show(form.lblLibraries));
+  for (QLabel* const label : {version, description, licence, libraries}) {
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  }
+  QLayout* const words = Column({name, version, description, licence, libraries, Stretch()});
   return Column({Row({Column({picture, Stretch()}), words}),
                  Row({in.Show(form.cmdSysInfo), in.Show(form.cmdLog), in.Show(form.cmdCopy), Stretch(),
                       in.Show(form.cmdOK)})});

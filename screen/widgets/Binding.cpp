@@ -80,6 +80,14 @@ class Watcher : public QObject {
   Connection released_;
 };
 
+/// Lets the button hear that its tool tip is about to be shown.
+template <class Button>
+void WatchPointer(Button& button, QWidget& widget, Bindings& bindings) {
+  new Watcher(widget, bindings, [&button](QEvent& event) {
+    if (event.type() == QEvent::ToolTip) button.Pointed();
+  });
+}
+
 /// Takes the text of a box and what is selected in it to the line and back. It ends with the line.
 class TypedText : public QObject {
  public:
@@ -135,7 +143,7 @@ class TypedText : public QObject {
 }  // namespace
 
 int ToPixels(float value, Unit unit) {
-  return static_cast<int>(std::lround(unit == Unit::Twip ? InPixels({value}) : value));
+  return static_cast<int>(std::lround(unit == Unit::Twip ? InPixels({value}).count : value));
 }
 
 int ShiftState(Qt::KeyboardModifiers modifiers) {
@@ -147,8 +155,8 @@ int ShiftState(Qt::KeyboardModifiers modifiers) {
 Mouse ToMouse(const QMouseEvent& event) {
   const bool moving = event.type() == QEvent::MouseMove;
   return {ButtonNumber(moving ? event.buttons() : event.button()), ShiftState(event.modifiers()),
-          FromPixels(static_cast<float>(event.position().x())),
-          FromPixels(static_cast<float>(event.position().y()))};
+          InTwips(Pixels{static_cast<float>(event.position().x())}),
+          InTwips(Pixels{static_cast<float>(event.position().y())})};
 }
 
 void Bindings::Bind(PropertyBase& property, std::function<void()> show) {
@@ -164,6 +172,10 @@ void Bindings::Shows(const Component& component, QObject& shown) {
 void Bindings::Forget(const Component& component) { shown_.erase(&component); }
 
 void Bindings::Release() {
+  // A menu that is open is pointed at and chosen from until it is through.
+  for (const auto& [component, shown] : shown_) {
+    if (auto* const action = qobject_cast<QAction*>(shown)) action->disconnect();
+  }
   shown_.clear();
   connections_.clear();
   Released();
@@ -262,6 +274,7 @@ void Bindings::BindCaption(Captioned& control, Widget& widget) {
 void Bindings::Bind(CommandButton& button, QAbstractButton& widget) {
   BindControl(button, widget);
   BindCaption(button, widget);
+  WatchPointer(button, widget, *this);
   QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] { button.Click(); });
 }
 
@@ -271,9 +284,7 @@ void Bindings::Bind(ToolbarButton& button, QToolButton& widget) {
     widget.setToolTip(ToScreen(button.ToolTipText.Get()));
     widget.setAccessibleName(widget.toolTip());
   });
-  new Watcher(widget, *this, [&button](QEvent& event) {
-    if (event.type() == QEvent::ToolTip) button.Pointed();
-  });
+  WatchPointer(button, widget, *this);
   Bind(button.Image, [&] { widget.setIcon(Icon(button.Image.Get())); });
   Bind(button.Enabled, [&] { widget.setEnabled(button.Enabled); });
   const auto showCheck = [&] { ShowChecked(widget, button.Checked); };

@@ -27,7 +27,7 @@ enum class Unit { Pixel, Twip };
 
 /// The nearest whole one.
 [[nodiscard]] int ToPixels(float value, Unit unit = Unit::Pixel);
-[[nodiscard]] inline int ToPixels(Twips value) { return ToPixels(InPixels(value)); }
+[[nodiscard]] inline int ToPixels(Twips value) { return ToPixels(InPixels(value).count); }
 [[nodiscard]] int ShiftState(Qt::KeyboardModifiers modifiers);
 /// The event as a control hears of it. While moving, the buttons that are down.
 [[nodiscard]] Mouse ToMouse(const QMouseEvent& event);

@@ -1,5 +1,6 @@
 #include "screen/widgets/PaneView.h"
 
+#include <QApplication>
 #include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -60,7 +61,7 @@ void PaneView::BindLook(Bindings& bindings) {
   bindings.Bind(pane_.BackColor, [this] {
     QPalette palette = this->palette();
     inks_.clear();
-    palette.setColor(QPalette::Base, ToScreenColour(pane_.BackColor.Get()));
+    palette.setColor(QPalette::Base, Paper());
     palette.setColor(QPalette::Text, InkOf(kBlack));
     setPalette(palette);
   });
@@ -92,12 +93,16 @@ void PaneView::ShowFont() {
   setTabStopDistance(TabDistance());
 }
 
+QColor PaneView::Paper() const {
+  const Colour colour = pane_.BackColor;
+  return IsOfDesktop(colour) ? QApplication::palette(this).color(QPalette::Base) : ToScreenColour(colour);
+}
+
 QColor PaneView::InkOf(Colour colour) const {
   const auto [ink, isNew] = inks_.try_emplace(colour);
   if (isNew) {
-    const Colour background = FromScreenColour(ToScreenColour(pane_.BackColor.Get()));
-    ink->second =
-        ToScreenColour(LegibleInk(FromScreenColour(ToScreenColour(colour)), background, kUsualBackground));
+    ink->second = ToScreenColour(
+        LegibleInk(FromScreenColour(ToScreenColour(colour)), FromScreenColour(Paper()), kUsualBackground));
   }
   return ink->second;
 }

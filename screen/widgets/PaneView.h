@@ -25,6 +25,8 @@ class PaneView : public QPlainTextEdit {
   [[nodiscard]] QRect CaretAt(std::size_t panePosition) const;
   /// What letters of the colour are painted in: so that they can be read on the pane's background.
   [[nodiscard]] QColor InkOf(Colour colour) const;
+  /// What the pane writes on.
+  [[nodiscard]] QColor Paper() const;
 
  protected:
   [[nodiscard]] Pane& pane() const { return pane_; }

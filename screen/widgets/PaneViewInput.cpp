@@ -160,7 +160,7 @@ void PaneView::contextMenuEvent(QContextMenuEvent* event) {
   event->accept();
   if (event->reason() != QContextMenuEvent::Keyboard) return;  // the press of the button has been told
   const QPoint caret = cursorRect().bottomLeft();
-  pane_.MouseDown({button::kRight, 0, FromPixels(caret.x()), FromPixels(caret.y())});
+  pane_.MouseDown({button::kRight, 0, InTwips(Pixels{caret.x()}), InTwips(Pixels{caret.y()})});
 }
 
 }  // namespace tarvik::screen

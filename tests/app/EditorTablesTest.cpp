@@ -13,7 +13,10 @@ namespace {
 
 using Row = MenuRow<Editor>;
 
-bool HasHandler(const Row& row) { return row.handler || row.indexedHandler; }
+bool HasHandler(const Row& row) {
+  const auto isSwitch = [&row](const tables::ViewSwitchRow& each) { return each.entry == row.name; };
+  return row.handler || row.indexedHandler || std::ranges::any_of(tables::kViewSwitches, isSwitch);
+}
 
 std::string FullName(const Row& row) {
   return std::string(row.name) + (row.index < 0 ? "" : "(" + TextOf(row.index) + ")");

@@ -60,7 +60,7 @@ TEST_F(LayoutTest, TiledThePanesShareTheStrip) {
 
 TEST_F(LayoutTest, TiledTheUserChoosesHowMuchEachFileGets) {
   editor.mnuViewTileVertically_Click();
-  editor.TileTo(185 + 815 * 0.25F);
+  editor.TileTo(Pixels{185 + 815 * 0.25F});
   EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 199.75, 578}));
   EXPECT_EQ(PlaceOf(editor.MacroText), (Place{388.75, 23, 607.25, 578}));
   Settings& settings = program.application.workbench.settings;
@@ -68,7 +68,7 @@ TEST_F(LayoutTest, TiledTheUserChoosesHowMuchEachFileGets) {
   editor.KeepTiles();
   EXPECT_THAT(program.files().Content("c:\\tarvik\\Tarvik.ini").value_or(""),
               testing::HasSubstr("TileShare=250"));
-  editor.TileTo(-1000);
+  editor.TileTo(Pixels{-1000});
   EXPECT_EQ(settings.TileShare, 150);
   editor.TileEvenly();
   EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 403.5, 578}));

@@ -40,7 +40,7 @@ class Drawings {
   /// That of the last stroke that comes within half a pixel of the place.
   [[nodiscard]] Colour ColourAt(const PlotBox& picture, float x, float y) {
     const std::vector<Stroke>& strokes = strokes_[&picture];
-    const float pixel = (picture.ScaleHigh - picture.ScaleLow) / InPixels({picture.Width});
+    const float pixel = (picture.ScaleHigh - picture.ScaleLow) / InPixels({picture.Width}).count;
     const auto hit = std::find_if(strokes.rbegin(), strokes.rend(), [&](const Stroke& stroke) {
       return Distance(stroke, x, y) <= pixel * static_cast<float>(stroke.width) / 2;
     });
@@ -235,6 +235,7 @@ class FormDriver : public Driver {
   bool Point(Component& control) override {
     if (auto* item = dynamic_cast<MenuItem*>(&control)) return item->Pointed(), true;
     if (auto* button = dynamic_cast<ToolbarButton*>(&control)) return button->Pointed(), true;
+    if (auto* button = dynamic_cast<CommandButton*>(&control)) return button->Pointed(), true;
     return false;
   }
 

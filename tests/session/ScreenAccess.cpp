@@ -275,7 +275,7 @@ void ScreenAccess::Mouse(QEvent::Type act, const Control& control, const tarvik:
   modifiers.setFlag(Qt::ShiftModifier, (mouse.shift & shift::kShift) != 0);
   modifiers.setFlag(Qt::ControlModifier, (mouse.shift & shift::kCtrl) != 0);
   QWidget& surface = Surface(*widget);
-  const QPointF place(InPixels(mouse.x), InPixels(mouse.y));
+  const QPointF place(InPixels(mouse.x).count, InPixels(mouse.y).count);
   QMouseEvent event(act, place, surface.mapToGlobal(place), moves ? Qt::NoButton : button, down, modifiers);
   QApplication::sendEvent(&surface, &event);
   Settle();

@@ -137,10 +137,11 @@ bool HasColour(const QModelIndex& item) { return item.data(Qt::DecorationRole).v
 // Colours.
 
 /// A colour of the system stands for whatever the desktop has there.
-Shown GroundOf(const Label& label, const QWidget& widget) {
+template <class Coloured>
+Shown GroundOf(const Coloured& component, const QWidget& widget) {
   const QColor ground = widget.palette().color(widget.backgroundRole());
   const bool desktops = ground == QApplication::palette(&widget).color(widget.backgroundRole());
-  if (desktops && IsOfDesktop(label.BackColor)) return label.BackColor.ToText();
+  if (desktops && IsOfDesktop(component.BackColor)) return component.BackColor.ToText();
   return TextOf(FromScreenColour(ground));
 }
 
@@ -194,13 +195,13 @@ Shown PlaceOn(const Control& control, const QWidget& widget, Side side, int pixe
   const Unit unit = dynamic_cast<const EditorView*>(area) ? Unit::Pixel : Unit::Twip;
   const Property<float>& wanted = control.*side;
   if (pixels == ToPixels(wanted, unit)) return wanted.ToText();
-  return unit == Unit::Twip ? TextOf(FromPixels(pixels)) : TextOf(pixels);
+  return unit == Unit::Twip ? TextOf(InTwips(Pixels{pixels})) : TextOf(pixels);
 }
 
-template <class Pixels>
-Row OfPlace(std::string_view property, Side side, Pixels pixels) {
-  return Of<Control, QWidget>(property, [side, pixels](const Control& control, const QWidget& widget) {
-    return PlaceOn(control, widget, side, std::invoke(pixels, widget));
+template <class Measured>
+Row OfPlace(std::string_view property, Side side, Measured measured) {
+  return Of<Control, QWidget>(property, [side, measured](const Control& control, const QWidget& widget) {
+    return PlaceOn(control, widget, side, std::invoke(measured, widget));
   });
 }
 
@@ -275,9 +276,7 @@ const std::vector<Row>& Rows() {
                            return view.PanePosition(cursor.selectionEnd()) -
                                   view.PanePosition(cursor.selectionStart());
                          }),
-      Of<Pane, PaneView>(
-          "BackColor",
-          [](const auto& view) { return FromScreenColour(view.palette().color(QPalette::Base)); }),
+      Of<Pane, PaneView>("BackColor", GroundOf<Pane>),
       Of<Pane, PaneView>("RightMargin",
                          [](const Pane& pane, const PaneView& view) {
                            const bool wraps = view.lineWrapMode() != QPlainTextEdit::NoWrap;
@@ -286,8 +285,8 @@ const std::vector<Row>& Rows() {
       Of<Pane, PaneView>("Overtype", &QPlainTextEdit::overwriteMode),
       Of<Pane, PaneView>("Locked", &QPlainTextEdit::isReadOnly),
 
-      Of<Label, QLabel>("BackColor", GroundOf),
-      Of<ToggleLabel, QAbstractButton>("BackColor", GroundOf),
+      Of<Label, QLabel>("BackColor", GroundOf<Label>),
+      Of<ToggleLabel, QAbstractButton>("BackColor", GroundOf<Label>),
       Of<Label, QPushButton>("BackColor", ColourOfSwatch),
       Of<Label, QAbstractButton>("BorderStyle",
                                  [](const auto& button) { return button.isChecked() ? 1 : 0; }),

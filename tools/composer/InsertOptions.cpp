@@ -45,7 +45,7 @@ constexpr const char* kTip =
     "logic lines, and it has to be set up again the next time.";
 
 Twips WithinScreen(Twips place, int extent) {
-  return place < Twips{0} || FromPixels(extent) < place ? kPlace : place;
+  return place < Twips{0} || InTwips(Pixels{extent}) < place ? kPlace : place;
 }
 
 }  // namespace

@@ -63,7 +63,7 @@ std::string Raw(const std::string& codes) { return "RAW (" + codes + ")"; }
 
 /// The place, moved to where the window can be seen on the screen.
 int OnScreen(int place, int pixels) {
-  return place < 0 || static_cast<float>(place) > FromPixels(pixels).count ? kFallbackPlace : place;
+  return place < 0 || static_cast<float>(place) > InTwips(Pixels{pixels}).count ? kFallbackPlace : place;
 }
 
 }  // namespace
@@ -149,7 +149,7 @@ void RAWform::PositionPimlet() {
   const ScreenSize& screen = bench_.platform.screen;
   const Profile stored = bench_.profile.Read();
   const auto read = [&stored](const char* key, Twips size, int end) {
-    const int centred = static_cast<int>((FromPixels(end) - size).count / 2);
+    const int centred = static_cast<int>((InTwips(Pixels{end}) - size).count / 2);
     return Twips{static_cast<float>(OnScreen(stored.GetInt(section::kMiscellaneous, key, centred), end))};
   };
   MoveTo(read("PimletLeft", Width, screen.width), read("PimletTop", Height, screen.height));

@@ -3,6 +3,7 @@
 #include "language/Controllers.h"
 #include "text/CodePage.h"
 #include "workbench/EditCommands.h"
+#include "workbench/FileTypes.h"
 #include "workbench/HelpTopics.h"
 #include "workbench/Highlighter.h"
 #include "workbench/PrintRTFWordWrap.h"
@@ -74,8 +75,10 @@ constexpr CommandRow kCommandRows[TemplateForm::kCommands] = {
 };
 
 std::string Filter() {
-  return "Templates (*.rtf)|*.rtf|Joystick files |" + Patterns(&Endings::joystick) + "|Macro files |" +
-         Patterns(&Endings::macro) + "|Text files (*.txt)|*.txt|Ini files (*.ini)|*.ini|All files (*.*)|*.*";
+  using filetypes::OfEnding;
+  return filetypes::InOrder({OfEnding("Templates", "rtf"), "Joystick files |" + Patterns(&Endings::joystick),
+                             "Macro files |" + Patterns(&Endings::macro), OfEnding("Text files", "txt"),
+                             OfEnding("Ini files", "ini"), filetypes::kAll});
 }
 
 std::string NameIn(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
@@ -121,6 +124,10 @@ void TemplateForm::AttachHandlers() {
     if (key.code == key::kEscape) key = {};
   };
   CmndPrint.ToolTipText = "Print (Ctrl+P)";
+  Printer& printer = bench_.platform.printer;
+  TellOfPrinter(CmndPrint, printer);
+  TellOfPrinter(menus("mnuFilePrint"), printer);
+  TellOfPrinter(menus("mnuPopitUpPrint"), printer);
   ToggleButton1.Click = [this] { ToggleButton1_Click(); };
   Text1.LostFocus = [this] { Text1_LostFocus(); };
   TemplateText.GotFocus = [this] { TemplateText_GotFocus(); };
