@@ -5,51 +5,17 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <random>
 #include <set>
 
 #include "language/Controllers.h"
 #include "support/ModelPrinter.h"
+#include "support/Pairs.h"
 
 namespace tarvik::model {
 namespace {
 
 namespace fs = std::filesystem;
-
-const fs::path kPairs = TARVIK_DATA "/../tests/pairs";
-
-std::string Read(const fs::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
-/// A pair, by the path of its joystick file.
-struct Pair {
-  fs::path path;
-  std::string joystick;
-  std::string macros;
-};
-
-std::vector<Pair> ReadPairs() {
-  std::set<fs::path> paths;
-  for (const auto& entry : fs::recursive_directory_iterator(kPairs)) paths.insert(entry.path());
-  std::vector<Pair> pairs;
-  for (const fs::path& path : paths) {
-    for (const Endings& endings : kEndings) {
-      if (path.extension() != "." + std::string(endings.joystick)) continue;
-      fs::path macros = path;
-      macros.replace_extension(endings.macro);
-      pairs.push_back({path, Read(path), Read(macros)});
-    }
-  }
-  return pairs;
-}
-
-const std::vector<Pair>& Pairs() {
-  static const std::vector<Pair> kAll = ReadPairs();
-  return kAll;
-}
 
 std::string TreeOf(const Pair& pair) {
   return "joystick file\n" + Printed(JoystickFile(pair.joystick), pair.joystick) + "macro file\n" +

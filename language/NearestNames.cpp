@@ -1,0 +1,90 @@
+#include <algorithm>
+#include <numeric>
+
+#include "language/Names.h"
+#include "text/CodePage.h"
+
+namespace tarvik::model {
+namespace {
+
+/// In the order of the letters, a name that is mistyped stands beside what is meant: seen from its beginning
+/// where its end is wrong, seen from its end otherwise.
+constexpr std::size_t kNeighbours = 6;
+constexpr std::size_t kMostNames = 3;
+/// A longer word is no name, and would take its time.
+constexpr std::size_t kLongestName = 64;
+
+/// As many letters may be wrong as the word allows: none of one, one of three, never more than three.
+std::size_t MostWrong(std::string_view name) {
+  return std::min<std::size_t>((name.size() + 1) / 3, kMostNames);
+}
+
+}  // namespace
+
+std::size_t EditDistance(std::string_view one, std::string_view other, std::size_t most) {
+  const std::size_t longer = std::max(one.size(), other.size());
+  if (longer - std::min(one.size(), other.size()) > most) return most + 1;
+  std::vector<std::size_t> twoAbove(other.size() + 1);
+  std::vector<std::size_t> above(other.size() + 1);
+  std::vector<std::size_t> row(other.size() + 1);
+  std::iota(row.begin(), row.end(), std::size_t{0});
+  for (std::size_t i = 1; i <= one.size(); ++i) {
+    twoAbove.swap(above);
+    above.swap(row);
+    row[0] = i;
+    for (std::size_t j = 1; j <= other.size(); ++j) {
+      const bool same = ToLower(one[i - 1]) == ToLower(other[j - 1]);
+      row[j] = std::min({above[j] + 1, row[j - 1] + 1, above[j - 1] + (same ? 0U : 1U)});
+      const bool exchanged = i > 1 && j > 1 && ToLower(one[i - 1]) == ToLower(other[j - 2]) &&
+                             ToLower(one[i - 2]) == ToLower(other[j - 1]);
+      if (exchanged) row[j] = std::min(row[j], twoAbove[j - 2] + 1);
+    }
+    if (std::ranges::min(row) > most) return most + 1;
+  }
+  return std::min(row.back(), most + 1);
+}
+
+NearestNames::NearestNames(const NameIndex& index) {
+  for (const MacroNames& macro : index.Macros()) {
+    if (macro.definitions.empty() || macro.name.size() > kLongestName) continue;
+    const std::string key = LowerCase(macro.name);
+    forward_.push_back({key, names_.size()});
+    backward_.push_back({{key.rbegin(), key.rend()}, names_.size()});
+    names_.push_back(macro.name);
+  }
+  std::ranges::sort(forward_, {}, &Row::key);
+  std::ranges::sort(backward_, {}, &Row::key);
+}
+
+std::vector<std::string> NearestNames::To(std::string_view name) const {
+  if (name.size() > kLongestName) return {};
+  const std::string key = LowerCase(name);
+  std::vector<std::size_t> near;
+  Gather(forward_, key, near);
+  Gather(backward_, {key.rbegin(), key.rend()}, near);
+  std::ranges::sort(near);
+  near.erase(std::ranges::unique(near).begin(), near.end());
+
+  const std::size_t most = MostWrong(name);
+  std::vector<std::pair<std::size_t, std::size_t>> ranked;
+  for (const std::size_t each : near) {
+    const std::size_t distance = EditDistance(key, names_[each], most);
+    if (distance <= most) ranked.emplace_back(distance, each);
+  }
+  std::ranges::sort(ranked);
+  ranked.resize(std::min(ranked.size(), kMostNames));
+  std::vector<std::string> nearest;
+  for (const auto& [distance, each] : ranked) nearest.push_back(names_[each]);
+  return nearest;
+}
+
+void NearestNames::Gather(const std::vector<Row>& rows, const std::string& key,
+                          std::vector<std::size_t>& near) const {
+  const auto place =
+      static_cast<std::size_t>(std::ranges::lower_bound(rows, key, {}, &Row::key) - rows.begin());
+  const std::size_t first = place - std::min(place, kNeighbours);
+  const std::size_t end = std::min(place + kNeighbours, rows.size());
+  for (std::size_t i = first; i < end; ++i) near.push_back(rows[i].name);
+}
+
+}  // namespace tarvik::model
