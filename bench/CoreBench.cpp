@@ -10,8 +10,9 @@
 
 #include "Compare.h"
 #include "Samples.h"
+#include "language/Controllers.h"
 #include "language/MacroAnalysis.h"
-#include "language/MacroFile.h"
+#include "language/Problems.h"
 #include "language/SyntaxColouring.h"
 #include "support/MemoryFiles.h"
 #include "text/CodePage.h"
@@ -222,6 +223,27 @@ void BenchModelKeys(const std::string& text) {
   Report("model, two keys in 1 MB, beside reading twice", Measure(keys, whole), Goal::AtMost, 0.01);
 }
 
+/// A joystick file of 1 MB and a macro file of 5,000 macros. The first assigns each macro to flags and
+/// buttons, so that names are looked up all over; it repeats itself, so that there is much to tell as well.
+void BenchProblems() {
+  const std::string macroText = MacroFile(5'000, 500);
+  std::string joystickText = JoystickFile(600'000);
+  const std::vector<std::string> names = Names(5'000);
+  for (std::size_t i = 0; joystickText.size() < 1'000'000; ++i) {
+    joystickText +=
+        "BTN H1U /I " + names[i * 31 % names.size()] + " /O " + names[i * 17 % names.size()] + "x\r\n";
+  }
+  const model::JoystickFile joystick(joystickText);
+  const model::MacroFile macros(macroText);
+  const auto own = [&] {
+    sink = sink + model::ProblemsIn({joystick, joystickText, macros, macroText, {kFlcs}}).size();
+  };
+  const auto reading = [&] {
+    sink = sink + model::JoystickFile(joystickText).size() + model::MacroFile(macroText).size();
+  };
+  Report("problems of 1 MB with 5,000 macros, beside reading it", Measure(own, reading, 5), Goal::AtMost, 8);
+}
+
 void BenchModel() {
   for (const Size& size : kSizes) {
     BenchReading<model::JoystickFile>(std::string("joystick file, ") + size.name, JoystickFile(size.bytes),
@@ -229,6 +251,7 @@ void BenchModel() {
   }
   BenchReading<model::MacroFile>("macro file, 5,000 macros", MacroFile(5'000, 500), MacroPasses());
   BenchModelKeys(JoystickFile(1'000'000));
+  BenchProblems();
 }
 
 // Macros.

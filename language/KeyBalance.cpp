@@ -50,7 +50,7 @@ struct Press {
   Range range;
 };
 
-/// The keys along one way through a statement, from its beginning to the end of a branch.
+/// The keys along one way through a statement, from its beginning to the end of a branch, each once.
 struct Way {
   std::vector<Press> down;
   std::vector<std::size_t> up;
@@ -58,11 +58,11 @@ struct Way {
 
   void PressKey(std::size_t key, Range range) {
     std::erase(up, key);
-    down.push_back({key, range});
+    if (std::ranges::find(down, key, &Press::key) == down.end()) down.push_back({key, range});
   }
   void LetGo(std::size_t key) {
     std::erase_if(down, [key](const Press& each) { return each.key == key; });
-    up.push_back(key);
+    if (std::ranges::find(up, key) == up.end()) up.push_back(key);
   }
 };
 

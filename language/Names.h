@@ -96,20 +96,21 @@ class NearestNames {
 
  private:
   /// A name in small letters, as it is or from its end on.
-  struct Row {
-    std::string key;
+  struct Key {
+    std::string letters;
     std::size_t name;  ///< in names_
   };
 
-  void Gather(const std::vector<Row>& rows, const std::string& key, std::vector<std::size_t>& near) const;
+  void Gather(const std::vector<Key>& rows, const std::string& key, std::vector<std::size_t>& near) const;
 
   std::vector<std::string> names_;
-  std::vector<Row> forward_;
-  std::vector<Row> backward_;
+  std::vector<Key> forward_;
+  std::vector<Key> backward_;
 };
 
 /// How many letters must be changed, put in, taken out, or exchanged with their neighbour to make one word of
-/// the other, whatever their case; `most` + 1 where it is more than `most`.
+/// the other, whatever their case; `most` + 1 where it is more than `most`, and for words that differ in more
+/// than 64 letters on end.
 [[nodiscard]] std::size_t EditDistance(std::string_view one, std::string_view other, std::size_t most);
 
 }  // namespace tarvik::model

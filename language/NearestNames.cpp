@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <numeric>
 
 #include "language/Names.h"
@@ -9,7 +11,7 @@ namespace {
 
 /// In the order of the letters, a name that is mistyped stands beside what is meant: seen from its beginning
 /// where its end is wrong, seen from its end otherwise.
-constexpr std::size_t kNeighbours = 6;
+constexpr std::size_t kNeighbours = 4;
 constexpr std::size_t kMostNames = 3;
 /// A longer word is no name, and would take its time.
 constexpr std::size_t kLongestName = 64;
@@ -19,29 +21,49 @@ std::size_t MostWrong(std::string_view name) {
   return std::min<std::size_t>((name.size() + 1) / 3, kMostNames);
 }
 
+using Row = std::array<std::uint8_t, kLongestName + 1>;
+
+bool Same(char one, char other) { return ToLower(one) == ToLower(other); }
+
+/// Takes the letters off that both begin or end with, which cost nothing.
+void WithoutSameEnds(std::string_view& one, std::string_view& other) {
+  while (!one.empty() && !other.empty() && Same(one.front(), other.front())) {
+    one.remove_prefix(1);
+    other.remove_prefix(1);
+  }
+  while (!one.empty() && !other.empty() && Same(one.back(), other.back())) {
+    one.remove_suffix(1);
+    other.remove_suffix(1);
+  }
+}
+
 }  // namespace
 
 std::size_t EditDistance(std::string_view one, std::string_view other, std::size_t most) {
+  WithoutSameEnds(one, other);
   const std::size_t longer = std::max(one.size(), other.size());
-  if (longer - std::min(one.size(), other.size()) > most) return most + 1;
-  std::vector<std::size_t> twoAbove(other.size() + 1);
-  std::vector<std::size_t> above(other.size() + 1);
-  std::vector<std::size_t> row(other.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
+  if (longer - std::min(one.size(), other.size()) > most || longer > kLongestName) return most + 1;
+  std::array<Row, 3> rows;
+  std::iota(rows[0].begin(), rows[0].begin() + static_cast<std::ptrdiff_t>(other.size()) + 1,
+            std::uint8_t{0});
   for (std::size_t i = 1; i <= one.size(); ++i) {
-    twoAbove.swap(above);
-    above.swap(row);
-    row[0] = i;
+    Row& row = rows[i % 3];
+    const Row& above = rows[(i + 2) % 3];
+    const Row& twoAbove = rows[(i + 1) % 3];
+    row[0] = static_cast<std::uint8_t>(i);
+    std::size_t least = i;
     for (std::size_t j = 1; j <= other.size(); ++j) {
-      const bool same = ToLower(one[i - 1]) == ToLower(other[j - 1]);
-      row[j] = std::min({above[j] + 1, row[j - 1] + 1, above[j - 1] + (same ? 0U : 1U)});
-      const bool exchanged = i > 1 && j > 1 && ToLower(one[i - 1]) == ToLower(other[j - 2]) &&
-                             ToLower(one[i - 2]) == ToLower(other[j - 1]);
-      if (exchanged) row[j] = std::min(row[j], twoAbove[j - 2] + 1);
+      const bool same = Same(one[i - 1], other[j - 1]);
+      std::size_t cost = std::min({above[j] + 1U, row[j - 1] + 1U, above[j - 1] + (same ? 0U : 1U)});
+      const bool exchanged =
+          i > 1 && j > 1 && Same(one[i - 1], other[j - 2]) && Same(one[i - 2], other[j - 1]);
+      if (exchanged) cost = std::min<std::size_t>(cost, twoAbove[j - 2] + 1U);
+      row[j] = static_cast<std::uint8_t>(cost);
+      least = std::min(least, cost);
     }
-    if (std::ranges::min(row) > most) return most + 1;
+    if (least > most) return most + 1;
   }
-  return std::min(row.back(), most + 1);
+  return std::min<std::size_t>(rows[one.size() % 3][other.size()], most + 1);
 }
 
 NearestNames::NearestNames(const NameIndex& index) {
@@ -52,8 +74,8 @@ NearestNames::NearestNames(const NameIndex& index) {
     backward_.push_back({{key.rbegin(), key.rend()}, names_.size()});
     names_.push_back(macro.name);
   }
-  std::ranges::sort(forward_, {}, &Row::key);
-  std::ranges::sort(backward_, {}, &Row::key);
+  std::ranges::sort(forward_, {}, &Key::letters);
+  std::ranges::sort(backward_, {}, &Key::letters);
 }
 
 std::vector<std::string> NearestNames::To(std::string_view name) const {
@@ -78,10 +100,10 @@ std::vector<std::string> NearestNames::To(std::string_view name) const {
   return nearest;
 }
 
-void NearestNames::Gather(const std::vector<Row>& rows, const std::string& key,
+void NearestNames::Gather(const std::vector<Key>& rows, const std::string& key,
                           std::vector<std::size_t>& near) const {
   const auto place =
-      static_cast<std::size_t>(std::ranges::lower_bound(rows, key, {}, &Row::key) - rows.begin());
+      static_cast<std::size_t>(std::ranges::lower_bound(rows, key, {}, &Key::letters) - rows.begin());
   const std::size_t first = place - std::min(place, kNeighbours);
   const std::size_t end = std::min(place + kNeighbours, rows.size());
   for (std::size_t i = first; i < end; ++i) near.push_back(rows[i].name);

@@ -70,18 +70,15 @@ void FindUnreadable(const Checked& checked, Report& report) {
 
 bool IsBeyondAscii(char byte) { return byte < 0; }
 
+/// Looks at what lies between the comments of a statement.
 template <class Statement>
 void FindBeyondAscii(const Place& place, const Statement& statement, Report& report) {
+  auto comment = statement.comments.begin();
   for (std::size_t at = 0; at < place.lines.size(); ++at) {
-    if (!IsBeyondAscii(place.lines[at])) continue;
-    const auto comment = std::ranges::find_if(
-        statement.comments, [at](const Range& each) { return at >= each.start && at < each.End(); });
-    if (comment != statement.comments.end()) {
-      at = comment->End() - 1;
-      continue;
-    }
+    if (comment != statement.comments.end() && at >= comment->start) at = (comment++)->End();
     const std::size_t start = at;
     while (at < place.lines.size() && IsBeyondAscii(place.lines[at])) ++at;
+    if (at == start) continue;
     report.Add(place, {start, at - start},
                Said({"Whether the loaders read ", Shown(place.lines.substr(start, at - start)),
                      " outside a remark is not known."}));
