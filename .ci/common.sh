@@ -4,7 +4,7 @@ say() { printf '\n== %s\n' "$*"; }
 
 # Debian's packages: to build, to run, for the tests, and for the checks.
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libsdl2-dev libwmf-dev breeze-icon-theme
-  fonts-liberation cmark-gfm libxxhash-dev libdtl-dev libutf8proc-dev)
+  fonts-liberation cmark-gfm libxxhash-dev libdtl-dev libutf8proc-dev nlohmann-json3-dev libcli11-dev)
 PICTURE_PACKAGES=(xvfb openbox xdotool imagemagick)
 TEST_PACKAGES=(libgtest-dev libgmock-dev fiu-utils poppler-utils dosbox libsm-dev)
 BENCH_PACKAGES=(libbenchmark-dev)
