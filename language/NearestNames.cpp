@@ -85,7 +85,7 @@ std::vector<std::string> NearestNames::To(std::string_view name) const {
   Gather(forward_, key, near);
   Gather(backward_, {key.rbegin(), key.rend()}, near);
   std::ranges::sort(near);
-  near.erase(std::ranges::unique(near).begin(), near.end());
+  near.erase(std::unique(near.begin(), near.end()), near.end());
 
   const std::size_t most = MostWrong(name);
   std::vector<std::pair<std::size_t, std::size_t>> ranked;
@@ -96,6 +96,7 @@ std::vector<std::string> NearestNames::To(std::string_view name) const {
   std::ranges::sort(ranked);
   ranked.resize(std::min(ranked.size(), kMostNames));
   std::vector<std::string> nearest;
+  nearest.reserve(ranked.size());
   for (const auto& [distance, each] : ranked) nearest.push_back(names_[each]);
   return nearest;
 }

@@ -19,6 +19,7 @@ bool IsTaken(const Checked& checked, std::string_view word) {
 std::string AdviceFor(const std::vector<std::string>& nearest) {
   if (nearest.empty()) return {};
   std::vector<std::string> shown;
+  shown.reserve(nearest.size());
   for (const std::string& name : nearest) shown.push_back(Shown(name));
   return Said({"Did you mean ", OneOf(shown), "? Otherwise define it in the macro file."});
 }

@@ -142,6 +142,13 @@ TEST_F(Check, TheMacroFileIsTheOneThatMdefNamesInAnyCase) {
   EXPECT_EQ(MacroFileOf(Folder() + "/other.adv", "MDEF strike"), fs::path());
 }
 
+TEST_F(Check, OfNamesThatDifferInCaseTheFirstIsTaken) {
+  for (const char* name : {"b.m50", "a.M50", "A.m50", "A.M50", "a.m50"}) Put(name, "");
+  EXPECT_EQ(MacroFileOf(Folder() + "/c.b50", "MDEF a").filename(), "A.M50");
+  fs::remove(Folder() + "/A.M50");
+  EXPECT_EQ(MacroFileOf(Folder() + "/c.b50", "MDEF a").filename(), "A.m50");
+}
+
 TEST_F(Check, NoMacroFileIsFoundOutsideTheFolder) {
   Put("gun.m50", "Gun = SPC\r\n");
   Put("deep/a.b50", "MDEF ../gun\r\nBTN S1 Gun\r\n");

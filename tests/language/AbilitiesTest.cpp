@@ -109,6 +109,7 @@ TEST(AttachedHardware, IsWhatUseSaysAndElseWhatIsKnown) {
   EXPECT_EQ(attached("USE NOTHR\n", {kFlcs, kTqs, 1}), (Hardware{kFlcs, kNoThrottle, 1}));
   EXPECT_EQ(attached("", {kFlcs, kTqs, 1}), (Hardware{kFlcs, kTqs, 1}));
   EXPECT_EQ(attached("USE TQS\nUSE WCS\nUSE TQS\n"), (Hardware{}));
+  EXPECT_EQ(attached("USE TQS\nUSE WCS\nUSE WCS\n", {{}, kWcs}), (Hardware{}));
 }
 
 }  // namespace
