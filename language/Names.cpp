@@ -99,14 +99,14 @@ class NameCollector {
  private:
   void Begin(FileKind kind) { kind_ = kind; }
   void Enter(std::size_t statement, Range range, std::string_view text) {
-    index_of_ = statement;
+    statementIndex_ = statement;
     start_ = range.start;
     lines_ = In(text, range);
   }
 
   [[nodiscard]] std::string_view Words(Range range) const { return In(lines_, range); }
   [[nodiscard]] Mention Here(Range range) const {
-    return {kind_, index_of_, {start_ + range.start, range.length}};
+    return {kind_, statementIndex_, {start_ + range.start, range.length}};
   }
   [[nodiscard]] std::optional<std::uint32_t> FlagIn(Range range) const { return FlagNumber(Words(range)); }
 
@@ -171,7 +171,7 @@ class NameCollector {
 
   NameIndex& index_;
   FileKind kind_ = FileKind::Joystick;
-  std::size_t index_of_ = 0;
+  std::size_t statementIndex_ = 0;
   std::size_t start_ = 0;
   std::string_view lines_;
   const JoystickStatement* statement_ = nullptr;

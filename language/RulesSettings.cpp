@@ -1,5 +1,6 @@
 // Rules about what holds for a whole file: USE, MDEF and their fellows, and the names of the files.
 #include <algorithm>
+#include <bitset>
 
 #include "language/Checking.h"
 #include "language/ComposerTables.h"
@@ -11,9 +12,6 @@ namespace {
 constexpr std::string_view kMdef = "MDEF";
 constexpr std::string_view kUse = "USE";
 constexpr std::string_view kMouseType = "MTYPE";
-/// Of which a second one would take the first one's place. Several USE are usual.
-constexpr std::string_view kOnceOnly[] = {kMdef, "RATE", "NULLCHR"};
-
 const Setting* SettingOf(const JoystickStatement& statement) { return std::get_if<Setting>(&statement.body); }
 
 /// The value of the last MDEF, by which the macro file is found; empty where there is none.
@@ -96,16 +94,24 @@ void FindEnding(const Checked& checked, Report& report) {
   report.Add(named.place, named.range, Said({Shown(named.Text()), " has an ending."}));
 }
 
+/// Whether a second statement of the word would take the first one's place. Several USE are usual, and what
+/// is for a control or an axis is judged by that.
+bool CountsOnce(const StatementWord& row) {
+  return row.form == StatementForm::Port || row.word == "SWAPTG" ||
+         (row.form == StatementForm::Values && row.word != kUse);
+}
+
 void FindSettingTwice(const Checked& checked, Report& report) {
-  for (const std::string_view word : kOnceOnly) {
-    bool seen = false;
-    for (std::size_t i = 0; i < checked.pair.joystick.size(); ++i) {
-      const JoystickStatement& statement = checked.pair.joystick[i];
-      if (statement.row == nullptr || statement.row->word != word) continue;
-      const Place place = checked.PlaceOf({FileKind::Joystick, i, {}});
-      if (seen) report.Add(place, statement.word, Said({word, " stands further up already."}));
-      seen = true;
+  std::bitset<std::size(kStatementWords)> seen;
+  for (std::size_t i = 0; i < checked.pair.joystick.size(); ++i) {
+    const JoystickStatement& statement = checked.pair.joystick[i];
+    if (statement.row == nullptr || !CountsOnce(*statement.row)) continue;
+    const auto word = static_cast<std::size_t>(statement.row - kStatementWords);
+    if (seen[word]) {
+      report.Add(checked.PlaceOf({FileKind::Joystick, i, {}}), statement.word,
+                 Said({statement.row->word, " stands further up already."}));
     }
+    seen.set(word);
   }
 }
 
@@ -227,7 +233,7 @@ constexpr Rule kRules[] = {
      FindEnding},
     {"setting-twice",
      Severity::Warning,
-     "MDEF, RATE or NULLCHR stands twice.",
+     "A statement that can count once stands twice.",
      "Keep one of the two.",
      {"RATE 80\nRATE 60\n"},
      {"RATE 80\n"},

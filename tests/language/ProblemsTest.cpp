@@ -123,6 +123,36 @@ TEST(Problems, TheTemplatesOfASinglesStickHaveNoneForThatStick) {
   }
 }
 
+/// The examples of a kind in the help.
+std::vector<std::string> HelpExamples(const std::string& kind) {
+  const std::string help = Read(TARVIK_DATA "/tarvik.hlp");
+  const std::string fence = "```" + kind;
+  std::vector<std::string> examples;
+  for (std::size_t at = help.find(fence); at != std::string::npos; at = help.find(fence, at)) {
+    const std::size_t start = help.find('\n', at) + 1;
+    at = help.find("```", start);
+    examples.push_back(WithPaneLineBreaks(help.substr(start, at - start)));
+  }
+  return examples;
+}
+
+TEST(Problems, TheExamplesOfTheHelpHaveNoErrorsAndNoWarnings) {
+  const std::vector<std::string> joystick = HelpExamples("joystick");
+  const std::vector<std::string> macros = HelpExamples("macro");
+  EXPECT_GT(joystick.size(), 20u);
+  EXPECT_GT(macros.size(), 3u);
+  for (const std::string& example : joystick) {
+    // A flag's DEF may stand in another example, and an example may show several ways side by side.
+    for (const Problem& problem : JudgedPair(example, "").problems) {
+      const bool known =
+          problem.rule->id == "control-assigned-twice" || problem.rule->severity == Severity::Hint;
+      EXPECT_TRUE(known) << example << problem.text;
+    }
+  }
+  for (const std::string& example : macros)
+    EXPECT_THAT(ErrorsAndWarnings(JudgedPair("", example)), testing::IsEmpty());
+}
+
 TEST(Problems, StayInOrderAndInTheTextWhateverBecomesOfAPair) {
   constexpr const char* kPieces[] = {"\r\n", " ", "x",         "/P ",        "BTN S1 ", "(",
                                      ")",    "=", "RAW (#1C ", "DEF X1 X2 ", "\0"};
@@ -206,6 +236,11 @@ TEST(Problems, WhatIsAttachedIsWhatUseSays) {
 TEST(Problems, TheRockerIsOnTheWcsBesideAPlainStick) {
   EXPECT_EQ(JudgedPair("USE WCS\nRKR  UP a\n", "", {kPfcs}).Rules(), "");
   EXPECT_EQ(JudgedPair("USE WCS\nRKR UP a\n", "", {kFlcs}).Rules(), "control-not-here");
+}
+
+TEST(Problems, EachPortIsAssignedOnce) {
+  EXPECT_EQ(JudgedPair("PortB1 IS S1\nPortB2 IS S2\nportb1 IS S4\n", "").Rules(), "setting-twice");
+  EXPECT_EQ(JudgedPair("SWAPTG\nSWAPTG\n", "").Rules(), "setting-twice");
 }
 
 TEST(Problems, AConditionsControlsAreLookedAt) {
