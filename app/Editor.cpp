@@ -48,6 +48,7 @@ Editor::Editor(Application& application)
       TimerBlinkLine(application.workbench.blink.timer),
       notice(*this, application.workbench, [this] { layout_.Place(); }),
       find(*this, application.workbench, [this] { layout_.Place(); }),
+      problems(*this, application.workbench, [this] { layout_.Place(); }),
       welcome(*this, application.workbench, CommandsOfWelcome()),
       menus(*this, tables::kMenus),
       popUps(*this, tables::kPopUps),
@@ -58,13 +59,14 @@ Editor::Editor(Application& application)
       mum_(application.mum()),
       savedStates_(bench_.documents, mum_),
       layout_(bench_.documents, {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros,
-                                 mnuViewTileVertically, notice, find}),
+                                 mnuViewTileVertically, notice, find, problems}),
       input_(bench_.documents, menus, popUps,
              {[this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); },
               [this](const Document& document) { return FindNext(document); }}),
       listMenus_(bench_.lists, menus) {
   AdoptControls();
   SetUpControls();
+  problems.help = [this](const model::Rule& rule) { ShowHelp(bench_.platform, topic::Of(rule)); };
 }
 
 void Editor::AdoptControls() {

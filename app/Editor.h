@@ -37,6 +37,7 @@ class Editor : public Form {
   Timer& TimerBlinkLine;
   NoticeBar notice;
   FindBar find;
+  ProblemPanel problems;
   WelcomePage welcome;
   Menus menus;
   /// The pop-up menus: the panes', and the macro lists'.
@@ -142,6 +143,8 @@ class Editor : public Form {
   void mnuEditFind_Click() { application_.Show(ToolId::Find); }
   void mnuEditFindAsYouType_Click() { find.Open(); }
   void mnuEditReplace_Click();
+  void mnuEditNextProblem_Click() { bench_.problems.GoToNext(); }
+  void mnuEditPreviousProblem_Click() { bench_.problems.GoToPrevious(); }
   void mnuEditGoto_Click();
   /// Fits menus and toolbar to the selection of the file on top, and to the clipboard.
   void UpdateCCPButtons();

@@ -72,6 +72,8 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuEditFindAsYouType", "Find as you t&ype", "Ctrl+Shift+F", &Editor::mnuEditFindAsYouType_Click},
     {1, "mnuEditReplace", "R&eplace ...", "Ctrl+R", &Editor::mnuEditReplace_Click},
     {1, "mnuEditGoto", "&Go to line ...", "Ctrl+G", &Editor::mnuEditGoto_Click},
+    {1, "mnuEditNextProblem", "Ne&xt problem", "Ctrl+.", &Editor::mnuEditNextProblem_Click},
+    {1, "mnuEditPreviousProblem", "Pre&vious problem", "Ctrl+,", &Editor::mnuEditPreviousProblem_Click},
     {1, "mnuEditDivider3", "-"},
     {1, "mnuEditUpdateMacros", "Update &macros", "Ctrl+U", &Editor::mnuEditUpdateMacros_Click},
     {1, "mnuPreferencesProtectMacroFile", "Pr&otect macro file", "",
@@ -129,6 +131,8 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuViewOtherPlaces", "&Other places of the word"},
     {1, "mnuViewChangedLines", "Cha&nged lines"},
     {1, "mnuViewWelcomePage", "W&elcome page"},
+    {1, "mnuViewMarkProblems", "Mar&k problems"},
+    {1, "mnuViewProblems", "Problem&s", "Ctrl+Shift+M"},
 
     {0, "mnuWindow", "&Window"},
     MenuArray<Editor>(1, "mnuWindowCascade", kArrangements),
@@ -232,6 +236,8 @@ inline constexpr ViewSwitchRow kViewSwitches[] = {
     {"mnuViewOtherPlaces", &Settings::OtherPlaces},
     {"mnuViewChangedLines", &Settings::ChangedLines},
     {"mnuViewWelcomePage", &Settings::WelcomePage},
+    {"mnuViewProblems", &Settings::ProblemsPanel},
+    {"mnuViewMarkProblems", &Settings::MarkProblems},
 };
 
 /// A toolbar button runs the entry of that name; where it has two, the selected tab tells which.

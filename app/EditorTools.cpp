@@ -92,7 +92,10 @@ void Editor::mnuF22Setup_Click() { StartF22Utility(bench_, F22Utility::Setup); }
 void Editor::mnuF22Clear_Click() { StartF22Utility(bench_, F22Utility::Clear); }
 void Editor::mnuF22Reset_Click() { StartF22Utility(bench_, F22Utility::Reset); }
 void Editor::mnuF22Delay_Click() { StartF22Utility(bench_, F22Utility::Delay); }
-void Editor::mnuSendToJoystick_Click() { SendToJoystick(bench_, application_); }
+void Editor::mnuSendToJoystick_Click() {
+  bench_.preflight.Look();
+  SendToJoystick(bench_, application_);
+}
 
 void Editor::mnuAppsQuiet_Click() {
   MenuItem& quiet = menus("mnuAppsQuiet");

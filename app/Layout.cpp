@@ -14,6 +14,7 @@ constexpr float kPaneTop = 23;
 constexpr float kPaneRight = 3;
 constexpr float kPaneBottom = 22;
 constexpr float kTileGap = 4;
+constexpr float kMostOfProblems = 0.4F;  // of the strip's height
 
 // Shares of the tiled view.
 constexpr float kWhole = 1000;
@@ -93,13 +94,20 @@ float Layout::PlaceNotice() {
   return top + notice.Height().count;
 }
 
-float Layout::PlaceFindBar() {
+float Layout::PlaceBars() {
   const TabStrip& strip = documents_.tabs;
   const float bottom = strip.Top + strip.Height - kPaneBottom + kPaneTop;
-  Frame& bar = controls_.find.frame;
+  const Pixels mostOfProblems{(strip.Height - kPaneTop) * kMostOfProblems};
+  const Pixels problems = std::min(ProblemPanel::Height(), mostOfProblems);
+  const float above = PlaceBar(controls_.problems.frame, problems, bottom);
+  return PlaceBar(controls_.find.frame, FindBar::Height(), above);
+}
+
+float Layout::PlaceBar(Frame& bar, Pixels height, float bottom) {
   if (!bar.Visible) return bottom;
-  const float top = bottom - FindBar::Height().count;
-  bar.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, FindBar::Height().count);
+  const TabStrip& strip = documents_.tabs;
+  const float top = bottom - height.count;
+  bar.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, height.count);
   return top;
 }
 
@@ -107,7 +115,7 @@ void Layout::PositionControls() {
   PlaceTabStrip();
   const TabStrip& strip = documents_.tabs;
   const float top = PlaceNotice();
-  const float height = PlaceFindBar() - top;
+  const float height = PlaceBars() - top;
   for (Document* document : {&documents_.joystick, &documents_.macro}) {
     document->text.Move(strip.Left + kPaneLeft, top, strip.Width - kPaneLeft - kPaneRight, height);
   }
@@ -119,7 +127,7 @@ void Layout::ShowBothFiles() {
   const TabStrip& strip = documents_.tabs;
   const float edge = strip.Width * TileShare();
   const float top = PlaceNotice();
-  const float height = PlaceFindBar() - top;
+  const float height = PlaceBars() - top;
   documents_.joystick.text.Move(strip.Left + kPaneLeft, top, edge - kTileGap, height);
   documents_.macro.text.Move(strip.Left + edge, top, strip.Width - edge - kTileGap, height);
   ShowPanes();

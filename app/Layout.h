@@ -5,6 +5,7 @@
 
 #include "app/FindBar.h"
 #include "app/NoticeBar.h"
+#include "app/ProblemPanel.h"
 
 namespace tarvik {
 
@@ -30,6 +31,7 @@ struct LayoutControls {
   MenuItem& tile;
   NoticeBar& notice;
   FindBar& find;
+  ProblemPanel& problems;
 };
 
 class Layout {
@@ -60,8 +62,10 @@ class Layout {
   void PlaceTabStrip();
   /// Where the panes begin, below the bar of the notices where there is one.
   float PlaceNotice();
-  /// Where the panes end, above the bar of the search where there is one.
-  float PlaceFindBar();
+  /// Where the panes end, above the bar of the search and the list of problems where there are such.
+  float PlaceBars();
+  /// At the bottom of the strip where it is on show; tells where it begins.
+  float PlaceBar(Frame& bar, Pixels height, float bottom);
   void PlaceFrame();
   [[nodiscard]] float FrameWidth() const;
 

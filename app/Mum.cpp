@@ -81,12 +81,14 @@ Mum::Mum(Application& application)
       menus(*this, kMenus),
       application_(application),
       bench_(application.workbench) {
-  for (Component* const control : std::initializer_list<Component*>{
-           &StatusBar, &ProgressBar1, &Picture1, &bench_.journals.timer, &bench_.liveColours.timer}) {
+  for (Component* const control :
+       std::initializer_list<Component*>{&StatusBar, &ProgressBar1, &Picture1, &bench_.journals.timer,
+                                         &bench_.liveColours.timer, &bench_.problems.timer}) {
     Adopt(*control);
   }
   busy_ = bench_.documents.Busy.Changed.Connect(
       [this] { MousePointer = bench_.documents.Busy ? pointer::kHourglass : pointer::kDefault; });
+  problems_ = bench_.problems.Changed.Connect([this] { ShowProblemCount(); });
   Caption = "Tarvik";
   EmptyText.Caption = "The editor is closed; no file is open.";
   EmptyText.BackColor = ToggleLabel::kOff;
@@ -94,8 +96,21 @@ Mum::Mum(Application& application)
   ProgressBar1.Visible = false;
   Toolbar1.Visible = false;
   Picture1.ToolTipText = "Select text colour";
+  ProblemCount.ToolTipText = "What is wrong in the two files (Ctrl+Shift+M)";
+  ShowProblemCount();
   Picture1.Click = [this] { Picture1_Click(); };
   Resize = [this] { MDIForm_Resize(); };
+}
+
+void Mum::ShowProblemCount() {
+  const std::string words = InWords(bench_.problems);
+  ProblemCount.Visible = !words.empty();
+  ProblemCount.Caption = words;
+}
+
+void Mum::ProblemCount_Click() {
+  Settings& settings = bench_.settings;
+  settings.ChangeView(settings.ProblemsPanel, settings.ProblemsPanel == 0 ? 1 : 0);
 }
 
 void Mum::BeginStatus() {

@@ -22,6 +22,8 @@ class Mum : public Form {
   // What stands in the editor's place while there is none.
   Label EmptyText{*this, "EmptyText"};
   CommandButton EmptyEditor{*this, "EmptyEditor", "Open the editor", &Mum::mnuMumAppsEditor_Click};
+  /// How many problems there are in the two files; it opens their list.
+  CommandButton ProblemCount{*this, "ProblemCount", "", &Mum::ProblemCount_Click};
   Menus menus;
 
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
@@ -39,6 +41,7 @@ class Mum : public Form {
   void AutoDetect();
   void ColoursSortOut() { bench_.settings.ColoursSortOut(); }
   void Picture1_Click();
+  void ProblemCount_Click();
   /// Turns the toolbar's flat style over.
   void MakeFlat() { Toolbar1.Flat = !Toolbar1.Flat; }
   // Ready for an active error report; nothing calls them yet.
@@ -49,10 +52,12 @@ class Mum : public Form {
 
  private:
   void SetPaths();
+  void ShowProblemCount();
 
   Application& application_;
   Workbench& bench_;
   Connection busy_;
+  Connection problems_;
 };
 
 }  // namespace tarvik

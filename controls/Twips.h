@@ -23,6 +23,7 @@ struct Pixels {
   constexpr explicit Pixels(float length) : count(length) {}
   constexpr explicit Pixels(int length) : count(static_cast<float>(length)) {}
   friend bool operator==(const Pixels&, const Pixels&) = default;
+  friend constexpr bool operator<(Pixels one, Pixels other) { return one.count < other.count; }
 };
 
 constexpr Pixels InPixels(Twips length) { return Pixels{length.count / kTwipsPerPixel}; }

@@ -2,12 +2,14 @@
 
 #include <QApplication>
 #include <QFontDatabase>
-#include <QMouseEvent>
+#include <QHelpEvent>
 #include <QPainter>
 #include <QTextBlock>
+#include <QToolTip>
 #include <algorithm>
 #include <utility>
 
+#include "screen/EditorPaneParts.h"
 #include "screen/widgets/Conversions.h"
 #include "text/CodePage.h"
 #include "text/Contrast.h"
@@ -26,157 +28,11 @@ constexpr Colour kHit = Rgb(255, 150, 0);
 constexpr Colour kAlone = Rgb(210, 40, 40);  // a bracket
 
 // How strong the tints are, in per cent.
-constexpr int kMarginTint = 4;
 constexpr int kLineTint = 6;
 constexpr int kMarkTint = 15;   // letters can be read on it as on the background
 constexpr int kFrameTint = 75;  // of the line around it
-constexpr int kNumberTint = 55;
 
 }  // namespace
-
-/// Beside the text: the numbers of the lines, and a bar where a line has changed. A click selects the line.
-class EditorPane::Margin : public QWidget {
- public:
-  explicit Margin(EditorPane& pane) : QWidget(&pane), pane_(pane) { setCursor(Qt::ArrowCursor); }
-
-  /// Where the text begins beside it.
-  [[nodiscard]] int TextTop() const { return pane_.viewport()->y() - y(); }
-  [[nodiscard]] int Width() const {
-    const bool numbers = pane_.settings_.LineNumbers != 0;
-    const bool bars = pane_.settings_.ChangedLines != 0;
-    if (!numbers) return bars ? kBar + kGap : 0;
-    const auto digits = std::max<qsizetype>(kFewestDigits, QString::number(pane_.blockCount()).size());
-    return 2 * kGap + QFontMetrics(pane_.font()).horizontalAdvance(u'0') * static_cast<int>(digits) + kBar;
-  }
-
- protected:
-  void paintEvent(QPaintEvent* event) override {
-    QPainter painter(this);
-    painter.fillRect(event->rect(), pane_.Tint(pane_.InkOf(kBlack), kMarginTint));
-    painter.setFont(pane_.font());
-    const int begin = event->rect().top() - TextTop();
-    const int end = event->rect().bottom() - TextTop();
-    QPointF offset = pane_.contentOffset();
-    for (QTextBlock block = pane_.firstVisibleBlock(); block.isValid(); block = block.next()) {
-      const QRectF place = pane_.blockBoundingRect(block).translated(offset);
-      if (place.top() > end) break;
-      if (place.bottom() >= begin) PaintBlock(painter, block, place.translated(0, TextTop()));
-      offset.ry() += place.height();
-    }
-  }
-
-  void mousePressEvent(QMouseEvent* event) override {
-    if (event->button() != Qt::LeftButton) return;
-    pane_.setFocus();
-    first_ = LineAt(*event);
-    SelectTo(first_);
-  }
-  void mouseMoveEvent(QMouseEvent* event) override {
-    if (event->buttons() & Qt::LeftButton) SelectTo(LineAt(*event));
-  }
-  /// The pane is told as of any other click, after which it remembers its caret.
-  void mouseReleaseEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton) pane_.pane().Click();
-  }
-  void wheelEvent(QWheelEvent* event) override { QApplication::sendEvent(pane_.viewport(), event); }
-
- private:
-  static constexpr int kGap = 6;
-  static constexpr int kBar = 3;
-  static constexpr qsizetype kFewestDigits = 3;
-
-  void PaintBlock(QPainter& painter, const QTextBlock& block, const QRectF& place) const {
-    const QColor ink = pane_.InkOf(kBlack);
-    if (pane_.settings_.LineNumbers != 0) {
-      const bool current = block.blockNumber() == pane_.marks_.line;
-      painter.setPen(current ? ink : pane_.Tint(ink, kNumberTint));
-      const QRectF line(0, place.top(), width() - kBar - kGap, QFontMetricsF(pane_.font()).height());
-      painter.drawText(line, Qt::AlignRight | Qt::AlignTop, QString::number(block.blockNumber() + 1));
-    }
-    if (pane_.settings_.ChangedLines != 0) PaintChange(painter, block, place);
-  }
-
-  void PaintChange(QPainter& painter, const QTextBlock& block, const QRectF& place) const {
-    const LineChanges& changes = pane_.changes_.Of(pane_.document_);
-    const auto line = static_cast<std::size_t>(block.blockNumber());
-    const QColor& colour = pane_.barColour_;
-    const int left = width() - kBar;
-    if (changes.IsChanged(line)) painter.fillRect(QRectF(left, place.top(), kBar, place.height()), colour);
-    const auto wedge = [&](qreal y) {
-      painter.setPen(Qt::NoPen);
-      painter.setBrush(colour);
-      painter.drawPolygon(QPolygonF({{left - 2.0, y - 4}, {left - 2.0, y + 4}, {left + 3.0, y}}));
-    };
-    if (changes.LacksLinesBefore(line)) wedge(place.top());
-    if (!block.next().isValid() && changes.LacksLinesBefore(line + 1)) wedge(place.bottom());
-  }
-
-  [[nodiscard]] int LineAt(const QMouseEvent& event) const {
-    const QPoint place = pane_.viewport()->mapFromGlobal(event.globalPosition().toPoint());
-    return pane_.cursorForPosition({0, place.y()}).blockNumber();
-  }
-
-  /// From the line where the button went down to this one, with their ends. The caret stands in the upper
-  /// one, which is on show.
-  void SelectTo(int line) {
-    const QTextBlock last = pane_.document()->findBlockByNumber(std::max(first_, line));
-    QTextCursor cursor(last);
-    cursor.movePosition(last.next().isValid() ? QTextCursor::NextBlock : QTextCursor::EndOfBlock);
-    cursor.setPosition(pane_.document()->findBlockByNumber(std::min(first_, line)).position(),
-                       QTextCursor::KeepAnchor);
-    pane_.setTextCursor(cursor);
-  }
-
-  EditorPane& pane_;
-  int first_ = 0;  // the line where the button went down
-};
-
-/// Above the text in the tiled view: the name of the file, marked where it is not saved, and a line while it
-/// is the file on top. A click puts it there.
-class EditorPane::Head : public QWidget {
- public:
-  explicit Head(EditorPane& pane) : QWidget(&pane), pane_(pane) {
-    setCursor(Qt::ArrowCursor);
-    setFont(QApplication::font());  // and not that of the text
-  }
-
-  [[nodiscard]] int Height() const { return fontMetrics().height() + 2 * kGap; }
-  void Show() {
-    const bool modified = pane_.document_.Dirty == saved::kModified;
-    const QString name = ToScreen(pane_.documents_.TabOf(pane_.document_).Caption.Get());
-    setAccessibleName(modified ? name + u'*' : name);
-    update();
-  }
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    const bool onTop = pane_.IsOnTop();
-    QFont font = painter.font();
-    font.setBold(onTop);
-    painter.setFont(font);
-    painter.fillRect(rect(), palette().color(QPalette::Window));
-    painter.setPen(palette().color(QPalette::WindowText));
-    const QRect place = rect().adjusted(2 * kGap, 0, -2 * kGap, 0);
-    painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft,
-                     painter.fontMetrics().elidedText(accessibleName(), Qt::ElideMiddle, place.width()));
-    const QColor line = palette().color(QPalette::Active, onTop ? QPalette::Highlight : QPalette::Mid);
-    const int thick = onTop ? kLine : 1;
-    painter.fillRect(0, height() - thick, width(), thick, line);
-  }
-  void mousePressEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton) pane_.setFocus();
-  }
-  // The text below hears of none of these.
-  void mouseMoveEvent(QMouseEvent* /*event*/) override {}
-  void mouseReleaseEvent(QMouseEvent* /*event*/) override {}
-
- private:
-  static constexpr int kGap = 3;
-  static constexpr int kLine = 2;
-
-  EditorPane& pane_;
-};
 
 EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document, Bindings& bindings,
                        QWidget* parent)
@@ -188,10 +44,15 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document,
       changes_(workbench.changedLines),
       live_(workbench.liveColours),
       search_(workbench.search),
+      problems_(workbench.problems),
       margin_(new Margin(*this)),
       head_(new Head(*this)) {
-  for (Property<int>* const option : {&settings_.LineNumbers, &settings_.ChangedLines}) {
-    bindings.Bind(*option, [this] { ShowMargin(); });
+  for (Property<int>* const option :
+       {&settings_.LineNumbers, &settings_.ChangedLines, &settings_.MarkProblems}) {
+    bindings.Bind(*option, [this] {
+      ShowMargin();
+      viewport()->update();
+    });
   }
   for (Property<int>* const option :
        {&settings_.CurrentLine, &settings_.MatchingBrackets, &settings_.OtherPlaces}) {
@@ -216,6 +77,10 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document,
   }
   bindings.Bind(editor.mnuViewTileVertically.Checked, [this] { ShowHead(); });
   bindings.Keep(workbench.search.Changed.Connect([this] { viewport()->update(); }));
+  bindings.Keep(workbench.problems.Changed.Connect([this] {
+    viewport()->update();
+    margin_->update();
+  }));
   ShowBars();
   Follow();
 }
@@ -251,9 +116,12 @@ void EditorPane::ShowHead() {
   SetHeadHeight(head_->isHidden() ? 0 : head_->Height());
 }
 
+QColor EditorPane::Visible(Colour mark) const {
+  return ToScreenColour(WithContrast(mark, FromScreenColour(palette().color(QPalette::Base)), kVisible));
+}
+
 void EditorPane::ShowBars() {
-  const Colour background = FromScreenColour(palette().color(QPalette::Base));
-  barColour_ = ToScreenColour(WithContrast(kChanged, background, kVisible));
+  barColour_ = Visible(kChanged);
   margin_->update();
 }
 
@@ -390,6 +258,7 @@ void EditorPane::PaintBehind(QPainter& painter, const QTextBlock& block, const Q
   }
   if (!word_.empty() && settings_.OtherPlaces != 0) PaintPlaces(painter, block, offset);
   if (search_.Count() > 0) PaintHits(painter, block, offset);
+  if (settings_.MarkProblems != 0) PaintProblems(painter, block, offset);
   if (!hasFocus()) return;
   PaintBracket(painter, block, offset, marks_.brackets.opening);
   PaintBracket(painter, block, offset, marks_.brackets.closing);
@@ -422,6 +291,70 @@ void EditorPane::PaintHits(QPainter& painter, const QTextBlock& block, const QPo
     if (*hit < start) continue;
     PaintMark(painter, block, offset, {*hit - start, length}, ToScreenColour(kHit));
   }
+}
+
+void EditorPane::PaintProblems(QPainter& painter, const QTextBlock& block, const QPointF& offset) const {
+  const std::size_t start = PanePosition(block.position());
+  const Range seen = ExposedPart(painter, block, offset);
+  for (const model::Problem& problem : problems_.In(document_, {start + seen.start, seen.length})) {
+    const std::size_t from = std::max(problem.range.start, start);
+    if (problem.range.End() <= from) continue;
+    ForEachPlace(
+        painter, block, offset, {from - start, problem.range.End() - from},
+        [&](const QRectF& place) { PaintWave(painter, place, Visible(ColourOf(problem.rule->severity))); });
+  }
+}
+
+/// A wavy line along the lower edge of a place, at least one wave long.
+void EditorPane::PaintWave(QPainter& painter, const QRectF& place, const QColor& colour) {
+  constexpr qreal kHeight = 2;
+  QPolygonF wave;
+  const qreal right = std::max(place.right(), place.left() + 2 * kHeight);
+  bool isUp = false;
+  for (qreal x = place.left(); x <= right; x += kHeight, isUp = !isUp) {
+    wave.append({x, place.bottom() - (isUp ? kHeight + 0.5 : 0.5)});
+  }
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(colour, 1));
+  painter.drawPolyline(wave);
+  painter.restore();
+}
+
+// What a pointer that rests is told.
+
+bool EditorPane::viewportEvent(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return PaneView::viewportEvent(event);
+  const auto& rests = static_cast<const QHelpEvent&>(*event);
+  const QString tip = TipAt(rests.pos());
+  if (tip.isEmpty()) {
+    QToolTip::hideText();
+  } else {
+    QToolTip::showText(rests.globalPos(), tip, viewport());
+  }
+  return true;
+}
+
+QString EditorPane::TipAt(const QPoint& place) const {
+  const std::optional<std::size_t> position = LetterAt(place);
+  if (!position || settings_.MarkProblems == 0) return {};
+  const model::Problem* const problem = problems_.At(document_, *position);
+  if (!problem) return {};
+  const QString text = ToScreen(problem->text).toHtmlEscaped();
+  const QString advice = ToScreen(problem->advice).toHtmlEscaped();
+  return QStringLiteral("<table width=\"400\"><tr><td>%1<br/><i>%2</i></td></tr></table>").arg(text, advice);
+}
+
+/// The character that is shown there; none beside the text.
+std::optional<std::size_t> EditorPane::LetterAt(const QPoint& place) const {
+  QTextCursor cursor = cursorForPosition(place);
+  if (cursorRect(cursor).left() > place.x()) cursor.movePosition(QTextCursor::PreviousCharacter);
+  QTextCursor behind = cursor;
+  behind.movePosition(QTextCursor::NextCharacter);
+  const QRect from = cursorRect(cursor);
+  const bool isThere = from.top() <= place.y() && place.y() <= from.bottom() && from.left() <= place.x() &&
+                       (behind.block() != cursor.block() || place.x() <= cursorRect(behind).left());
+  return isThere ? std::optional(PanePosition(cursor.position())) : std::nullopt;
 }
 
 /// A bracket without another one is framed in a colour of its own.

@@ -1,6 +1,7 @@
 // A pane of the editor, with what makes it easy to find one's way in a file: line numbers, the current line,
-// brackets that belong together, other places of a word, lines that have changed. All of it is painted, and
-// is in no text; each can be switched off. In the tiled view a head above the text names the file.
+// brackets that belong together, other places of a word, lines that have changed, problems. All of it is
+// painted, and is in no text; each can be switched off. In the tiled view a head above the text names the
+// file.
 #pragma once
 
 #include "app/Editor.h"
@@ -26,6 +27,7 @@ class EditorPane : public PaneView {
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
@@ -63,6 +65,13 @@ class EditorPane : public PaneView {
   /// Frames a part of a block, and tints it a little.
   void PaintMark(QPainter& painter, const QTextBlock& block, const QPointF& offset, Range range,
                  const QColor& ink) const;
+  void PaintProblems(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
+  static void PaintWave(QPainter& painter, const QRectF& place, const QColor& colour);
+  /// What is told of the letter that the pointer rests on.
+  [[nodiscard]] QString TipAt(const QPoint& place) const;
+  [[nodiscard]] std::optional<std::size_t> LetterAt(const QPoint& place) const;
+  /// The colour of a mark, so that it can be seen on the background.
+  [[nodiscard]] QColor Visible(Colour mark) const;
   /// The background with so much of the ink in it.
   [[nodiscard]] QColor Tint(const QColor& ink, int percent) const;
 
@@ -73,6 +82,7 @@ class EditorPane : public PaneView {
   const ChangedLines& changes_;
   const LiveColours& live_;
   const IncrementalSearch& search_;
+  const Problems& problems_;
   Margin* margin_;
   Head* head_;
   QColor barColour_;  // of changed lines

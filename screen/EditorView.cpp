@@ -112,6 +112,7 @@ EditorView::EditorView(Editor& editor, Workbench& workbench, Clock clock)
   MakeTabs();
   notice_ = new NoticeView(editor.notice, bindings_, this);
   find_ = new FindView(editor.find, bindings_, this);
+  problems_ = new ProblemView(editor.problems, bindings_, this);
   MakePanes(workbench);
   MakeWelcome();
   OrderFocus();
@@ -217,7 +218,9 @@ void EditorView::OrderFocus() {
   setTabOrder(splitter_, panes_[1]);
   last = panes_[1];
   for (QWidget* const next : welcome_->parts()) setTabOrder(std::exchange(last, next), next);
-  for (QWidget* const next : find_->parts()) setTabOrder(std::exchange(last, next), next);
+  for (const auto& parts : {find_->parts(), problems_->parts()}) {
+    for (QWidget* const next : parts) setTabOrder(std::exchange(last, next), next);
+  }
 }
 
 void EditorView::PlaceTabs() {

@@ -8,6 +8,7 @@
 #include "screen/FindView.h"
 #include "screen/FormView.h"
 #include "screen/NoticeView.h"
+#include "screen/ProblemView.h"
 #include "screen/WelcomeView.h"
 #include "screen/widgets/FilteredList.h"
 #include "screen/widgets/MenuBuilder.h"
@@ -42,6 +43,7 @@ class EditorView : public QWidget, public FormView {
   QTabBar* tabs_ = nullptr;
   NoticeView* notice_ = nullptr;
   FindView* find_ = nullptr;
+  ProblemView* problems_ = nullptr;
   WelcomeView* welcome_ = nullptr;
   EditorPane* panes_[2] = {};
   QWidget* splitter_ = nullptr;

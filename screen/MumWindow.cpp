@@ -51,7 +51,7 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   area_->setBackgroundRole(QPalette::Window);
   area_->setAutoFillBackground(true);
   setCentralWidget(centre);
-  setStatusBar(new StatusBarView(mum.StatusBar, mum.ProgressBar1, bindings_, this));
+  setStatusBar(new StatusBarView(mum.StatusBar, mum.ProgressBar1, mum.ProblemCount, bindings_, this));
   closeChild_->setIcon(Icon("close"));
   closeChild_->setAutoRaise(true);
   closeChild_->setFocusPolicy(Qt::NoFocus);
@@ -65,7 +65,8 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   if (clock == Clock::Real) {
     KeepPanels();
     for (Timer* const timer :
-         {&application.workbench.journals.timer, &application.workbench.liveColours.timer}) {
+         {&application.workbench.journals.timer, &application.workbench.liveColours.timer,
+          &application.workbench.problems.timer}) {
       bindings_.Bind(*timer, *new QTimer(this));
     }
   }

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "language/Rules.h"
 #include "platform/Platform.h"
 
 namespace tarvik {
@@ -22,6 +23,10 @@ inline constexpr int kTemplateEditor = 7030;
 inline constexpr int kImageViewer = 7040;
 inline constexpr int kRawCodes = 8170;
 inline constexpr int kSpiking = 9410;
+inline constexpr int kProblems = 9600;
+
+/// What the help says of a rule; the topics of the rules come behind that of all problems, in their order.
+[[nodiscard]] int Of(const model::Rule& rule);
 
 /// All topics above.
 [[nodiscard]] std::vector<int> All();

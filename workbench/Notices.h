@@ -22,7 +22,8 @@ enum class Matter {
   NoVersion,
   TextsLeft,
   OffersDark,
-  OffersColours
+  OffersColours,
+  ErrorsInFiles
 };
 
 struct NoticeAction {

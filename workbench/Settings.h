@@ -100,6 +100,9 @@ class Settings : public Component {
   Property<int> ColourAsYouType{*this, "ColourAsYouType"};
   Property<int> OfferColourAsYouType{*this, "OfferColourAsYouType"};  ///< until it was offered once
   Property<int> WelcomePage{*this, "WelcomePage"};
+  Property<int> MarkProblems{*this, "MarkProblems"};                  ///< in the text and beside it
+  Property<int> ProblemsPanel{*this, "ProblemsPanel"};                ///< below the text
+  Property<int> ErrorsBeforeDownload{*this, "ErrorsBeforeDownload"};  ///< are told of, once
   Property<int> FixedPitch{*this, "FixedPitch"};
   Property<int> Zoom{*this, "Zoom"};            ///< per cent
   Property<int> TileShare{*this, "TileShare"};  ///< of the joystick file in the tiled view, in thousandths

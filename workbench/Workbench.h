@@ -11,6 +11,8 @@
 #include "workbench/LiveColours.h"
 #include "workbench/LoggedDesktop.h"
 #include "workbench/LoggedPrograms.h"
+#include "workbench/Preflight.h"
+#include "workbench/Problems.h"
 #include "workbench/Recovery.h"
 #include "workbench/UnsavedWork.h"
 
@@ -48,7 +50,10 @@ class Workbench {
   ChangedLines changedLines{documents, files};
   IncrementalSearch search{documents};
   LiveColours liveColours{documents};
+  FileModels models{documents};
+  Problems problems{documents, models};
   Notices notices;
+  Preflight preflight{documents, problems, notices};
   ForeignChanges foreign{documents, files, insertion, notices};
   ForeignEncodings encodings{documents, files, insertion, notices};
   AutoSave autoSave{documents, files, foreign};

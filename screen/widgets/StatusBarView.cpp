@@ -76,7 +76,8 @@ void PanelView::paintEvent(QPaintEvent*) {
   painter.drawText(TextPlace(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter), shown);
 }
 
-StatusBarView::StatusBarView(StatusBar& bar, ProgressBar& progress, Bindings& bindings, QWidget* parent)
+StatusBarView::StatusBarView(StatusBar& bar, ProgressBar& progress, CommandButton& problems,
+                             Bindings& bindings, QWidget* parent)
     : QStatusBar(parent) {
   setSizeGripEnabled(false);
   bindings.Shows(bar, *this);
@@ -86,11 +87,15 @@ StatusBarView::StatusBarView(StatusBar& bar, ProgressBar& progress, Bindings& bi
   progressView->setAccessibleName(tr("Progress"));
   addWidget(progressView);
   bindings.Bind(progress, *progressView);
+  auto* const count = new QToolButton(this);
+  count->setAutoRaise(true);
+  bindings.Bind(problems, *count);
   for (int i = 1; i <= bar.Count(); ++i) {
     auto* const panel = new PanelView(bar.Panels(i), bindings, this);
     const bool fixed = RowOf(bar.Panels(i)).widest != nullptr;
     if (fixed) panel->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     addWidget(panel, fixed ? 0 : 1);
+    if (i == 1) addWidget(count);
   }
 }
 

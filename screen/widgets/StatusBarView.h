@@ -1,4 +1,5 @@
-// The frame's status bar: panels with texts and pictures, and the progress bar in front of them.
+// The frame's status bar: panels with texts and pictures, the progress bar in front of them, and the count of
+// problems behind the first.
 #pragma once
 
 #include <QStatusBar>
@@ -29,7 +30,8 @@ class PanelView : public QWidget {
 
 class StatusBarView : public QStatusBar {
  public:
-  StatusBarView(StatusBar& bar, ProgressBar& progress, Bindings& bindings, QWidget* parent);
+  StatusBarView(StatusBar& bar, ProgressBar& progress, CommandButton& problems, Bindings& bindings,
+                QWidget* parent);
 };
 
 }  // namespace tarvik::screen

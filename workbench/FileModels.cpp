@@ -1,0 +1,50 @@
+#include "workbench/FileModels.h"
+
+namespace tarvik {
+namespace {
+
+/// A file that has never been saved has no name that anybody could look for.
+std::string_view NameOnDisk(const Document& document) {
+  if (document.IsUntitled()) return {};
+  const std::string_view path = document.Path.Get();
+  return path.substr(path.rfind('\\') + 1);
+}
+
+}  // namespace
+
+FileModels::FileModels(Documents& documents)
+    : documents_(documents),
+      joystick_(documents.joystick.text.Characters()),
+      macros_(documents.macro.text.Characters()) {
+  for (const Document* const document : {&documents.joystick, &documents.macro}) {
+    connections_.push_back(document->text.Edited.Connect([this, document](const PaneEdit& edit) {
+      if (!edit.OnlyColours()) Follow(*document, edit);
+    }));
+  }
+}
+
+void FileModels::Follow(const Document& document, const PaneEdit& edit) {
+  const auto follow = [&](auto& file) {
+    file.Edit(document.text.Characters(), {edit.position, edit.removed.size()}, edit.inserted.size());
+  };
+  if (document.IsJoystick()) {
+    follow(joystick_);
+  } else {
+    follow(macros_);
+  }
+}
+
+model::FilePair FileModels::Pair() const {
+  const Settings& settings = documents_.settings;
+  const std::string_view text = documents_.joystick.text.Characters();
+  const model::Hardware chosen{settings.JoyName.Get(), settings.ThrottleName.Get(),
+                               settings.RudderName.Get()};
+  return {.joystick = joystick_,
+          .joystickText = text,
+          .macros = macros_,
+          .macroText = documents_.macro.text.Characters(),
+          .hardware = model::AttachedHardware(joystick_, text, chosen),
+          .names = {.joystick = NameOnDisk(documents_.joystick), .macros = NameOnDisk(documents_.macro)}};
+}
+
+}  // namespace tarvik
