@@ -343,5 +343,18 @@ TEST_F(TiledTest, TheEdgeBetweenThemCanBeDragged) {
   EXPECT_NEAR(view.width(), before, 1);
 }
 
+TEST_F(TiledTest, TheEdgeBetweenThemCanBeMovedByKeys) {
+  QWidget& edge = *PartOf(*view.parentWidget(), "Edge between the files");
+  const int before = view.width();
+  QTest::keyClick(&edge, Qt::Key_Left);
+  EXPECT_NEAR(view.width(), before - 16, 1);
+  QTest::keyClick(&edge, Qt::Key_Right);
+  QTest::keyClick(&edge, Qt::Key_Right);
+  EXPECT_NEAR(view.width(), before + 16, 2);
+  QTest::keyClick(&edge, Qt::Key_Home);
+  EXPECT_NEAR(view.width(), before, 1);
+  EXPECT_EQ(settings.TileShare, 500);
+}
+
 }  // namespace
 }  // namespace tarvik::screen
