@@ -172,6 +172,8 @@ void Editor::Form_Load(EditorBegins begins) {
   SetUpToolbar();
   savedStates_.Follow();
   ShowViewSwitches();
+  connections_.push_back(bench_.jumps.Changed.Connect([this] { ShowJumps(); }));
+  ShowJumps();
   FollowMacroLists();
   bench_.documents.Busy = true;
   values.PreferencesTab = 0;
@@ -258,6 +260,11 @@ void Editor::ShowViewSwitches() {
   }
   connections_.push_back(bench_.settings.ColourAsYouType.Changed.Connect(
       [this] { bench_.notices.Remove(Matter::OffersColours, nullptr); }));
+}
+
+void Editor::ShowJumps() {
+  menus("mnuEditBack").Enabled = bench_.jumps.CanGoBack();
+  menus("mnuEditForward").Enabled = bench_.jumps.CanGoForward();
 }
 
 void Editor::FirstTimeFlow() {

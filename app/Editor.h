@@ -143,6 +143,8 @@ class Editor : public Form {
   void mnuEditFind_Click() { application_.Show(ToolId::Find); }
   void mnuEditFindAsYouType_Click() { find.Open(); }
   void mnuEditReplace_Click();
+  void mnuEditBack_Click() { bench_.jumps.Back(); }
+  void mnuEditForward_Click() { bench_.jumps.Forward(); }
   void mnuEditNextProblem_Click() { bench_.problems.GoToNext(); }
   void mnuEditPreviousProblem_Click() { bench_.problems.GoToPrevious(); }
   void mnuEditGoto_Click();
@@ -276,6 +278,7 @@ class Editor : public Form {
   void FollowWorkbench();
   [[nodiscard]] WelcomeCommands CommandsOfWelcome();
   void ShowViewSwitches();
+  void ShowJumps();
   void ColourAndOffer(Document& document);
   void OfferColourAsYouType();
   void OfferDarkColours();

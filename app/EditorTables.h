@@ -72,6 +72,8 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuEditFindAsYouType", "Find as you t&ype", "Ctrl+Shift+F", &Editor::mnuEditFindAsYouType_Click},
     {1, "mnuEditReplace", "R&eplace ...", "Ctrl+R", &Editor::mnuEditReplace_Click},
     {1, "mnuEditGoto", "&Go to line ...", "Ctrl+G", &Editor::mnuEditGoto_Click},
+    {1, "mnuEditBack", "&Back", "Alt+Left", &Editor::mnuEditBack_Click},
+    {1, "mnuEditForward", "For&ward", "Alt+Right", &Editor::mnuEditForward_Click},
     {1, "mnuEditNextProblem", "Ne&xt problem", "Ctrl+.", &Editor::mnuEditNextProblem_Click},
     {1, "mnuEditPreviousProblem", "Pre&vious problem", "Ctrl+,", &Editor::mnuEditPreviousProblem_Click},
     {1, "mnuEditDivider3", "-"},

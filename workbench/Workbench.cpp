@@ -35,6 +35,7 @@ void Workbench::Reset() {
   macros.Reset();
   files.Reset();
   documents.Reset();
+  jumps.Forget();
 }
 
 void Workbench::NewFile(Document& document) {

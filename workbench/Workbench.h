@@ -7,6 +7,7 @@
 #include "workbench/EditCommands.h"
 #include "workbench/ForeignEncodings.h"
 #include "workbench/IncrementalSearch.h"
+#include "workbench/JumpHistory.h"
 #include "workbench/LineBlink.h"
 #include "workbench/LiveColours.h"
 #include "workbench/LoggedDesktop.h"
@@ -49,6 +50,7 @@ class Workbench {
   FileCommands files{documents, copies, highlighter, macros, lists, versions};
   ChangedLines changedLines{documents, files};
   IncrementalSearch search{documents};
+  JumpHistory jumps{documents};
   LiveColours liveColours{documents};
   FileModels models{documents};
   Problems problems{documents, models};

@@ -53,7 +53,7 @@ TEST(EditorTables, NoShortcutIsGivenTwice) {
     const std::string shortcut(row.shortcut);
     if (shortcut.empty()) continue;
     EXPECT_TRUE(seen.insert(shortcut).second) << shortcut << " of " << FullName(row);
-    EXPECT_THAT(shortcut, testing::MatchesRegex("Ctrl\\+(Shift\\+)?[A-Z0+.,-]|F[0-9]+"));
+    EXPECT_THAT(shortcut, testing::MatchesRegex("Ctrl\\+(Shift\\+)?[A-Z0+.,-]|F[0-9]+|Alt\\+(Left|Right)"));
   }
 }
 
@@ -155,8 +155,8 @@ TEST_F(EditorTablesInUse, EachEntryWithAHandlerCanBeReachedAndTheOthersCannot) {
        {"mnuJFArray", "mnuMFArray", "mnuFavArray", "mnuCustomApp", "mnuGameArray"}) {
     editor.menus.Fill(array, {"a member"});
   }
-  for (const char* const entry :
-       {"mnuFilePrevious", "mnuPreviousClearAllJ", "mnuFilePrevMacro", "mnuPreviousClearAllM"}) {
+  for (const char* const entry : {"mnuFilePrevious", "mnuPreviousClearAllJ", "mnuFilePrevMacro",
+                                  "mnuPreviousClearAllM", "mnuEditBack", "mnuEditForward"}) {
     editor.menus(entry).Enabled = true;
   }
   const auto check = [](const Menus& menus, const auto& table) {
