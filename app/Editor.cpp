@@ -62,7 +62,8 @@ Editor::Editor(Application& application)
                                  mnuViewTileVertically, notice, find, problems}),
       input_(bench_.documents, menus, popUps,
              {[this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); },
-              [this](const Document& document) { return FindNext(document); }}),
+              [this](const Document& document) { return FindNext(document); },
+              [this] { mnuEditDefinition_Click(); }}),
       listMenus_(bench_.lists, menus) {
   AdoptControls();
   SetUpControls();
@@ -260,6 +261,8 @@ void Editor::ShowViewSwitches() {
   }
   connections_.push_back(bench_.settings.ColourAsYouType.Changed.Connect(
       [this] { bench_.notices.Remove(Matter::OffersColours, nullptr); }));
+  connections_.push_back(bench_.settings.BackgroundColour.Changed.Connect(
+      [this] { bench_.notices.Remove(Matter::OffersDark, nullptr); }));
 }
 
 void Editor::ShowJumps() {
@@ -496,6 +499,24 @@ void Editor::FitInsertMenu(std::string_view popUp) {
   for (const char* const entry : {"mnuInsertDivider8", "mnuInsertQuickTip"}) {
     menus(entry).Visible = popUp != "mnuInsert";
   }
+}
+
+void Editor::mnuEditDefinition_Click() {
+  constexpr std::size_t kMostPlaces = 30;
+  places_ = bench_.definitions.FromCaret();
+  if (places_.empty()) return bench_.documents.Say("There is no name at the caret that leads anywhere.");
+  if (places_.size() == 1) return mnuPlaceArray_Click(1);
+  std::vector<std::string> captions;
+  for (const Definitions::Place& place : places_) {
+    if (captions.size() < kMostPlaces) captions.push_back(place.words);
+  }
+  popUps.Fill("mnuPlaceArray", captions);
+  ShowPopUp("mnuPlaces");
+}
+
+void Editor::mnuPlaceArray_Click(int index) {
+  const auto place = static_cast<std::size_t>(index) - 1;
+  if (place < places_.size()) bench_.definitions.GoTo(places_[place]);
 }
 
 void Editor::TabStrip1_Click() {

@@ -143,6 +143,10 @@ class Editor : public Form {
   void mnuEditFind_Click() { application_.Show(ToolId::Find); }
   void mnuEditFindAsYouType_Click() { find.Open(); }
   void mnuEditReplace_Click();
+  /// Goes from the name at the caret to its definition, or from there to its uses; of several the user
+  /// chooses.
+  void mnuEditDefinition_Click();
+  void mnuPlaceArray_Click(int index);
   void mnuEditBack_Click() { bench_.jumps.Back(); }
   void mnuEditForward_Click() { bench_.jumps.Forward(); }
   void mnuEditNextProblem_Click() { bench_.problems.GoToNext(); }
@@ -291,6 +295,7 @@ class Editor : public Form {
   Layout layout_;
   PaneInput input_;
   ListMenus listMenus_;
+  std::vector<Definitions::Place> places_;  // that the user chooses from
   std::vector<Connection> connections_;
 };
 

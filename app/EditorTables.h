@@ -72,6 +72,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuEditFindAsYouType", "Find as you t&ype", "Ctrl+Shift+F", &Editor::mnuEditFindAsYouType_Click},
     {1, "mnuEditReplace", "R&eplace ...", "Ctrl+R", &Editor::mnuEditReplace_Click},
     {1, "mnuEditGoto", "&Go to line ...", "Ctrl+G", &Editor::mnuEditGoto_Click},
+    {1, "mnuEditDefinition", "S&how definition or uses", "Ctrl+D", &Editor::mnuEditDefinition_Click},
     {1, "mnuEditBack", "&Back", "Alt+Left", &Editor::mnuEditBack_Click},
     {1, "mnuEditForward", "For&ward", "Alt+Right", &Editor::mnuEditForward_Click},
     {1, "mnuEditNextProblem", "Ne&xt problem", "Ctrl+.", &Editor::mnuEditNextProblem_Click},
@@ -193,6 +194,7 @@ inline constexpr MenuRow<Editor> kPopUps[] = {
     {0, "mnuRHMouse", "Right mouse"},
     {1, "mnuRHMUndo", "&Undo", "", &Editor::mnuEditUndo_Click},
     {1, "mnuRHMRedo", "&Redo", "", &Editor::mnuEditRedo_Click},
+    {1, "mnuRHMDefinition", "S&how definition or uses", "", &Editor::mnuEditDefinition_Click},
     {1, "mnuRHMDivider1", "-"},
     {1, "mnuRHMCut", "Cu&t", "", &Editor::mnuEditCut_Click},
     {1, "mnuRHMCopy", "&Copy", "", &Editor::mnuEditCopy_Click},
@@ -213,6 +215,9 @@ inline constexpr MenuRow<Editor> kPopUps[] = {
     {1, "mnuRHMPrint", "Pr&int", "", &Editor::mnuRHMPrint_Click},
     {1, "mnuRHMDivider3", "-"},
     {1, "mnuRHMProtect", "Protect macro fil&e", "", &Editor::mnuPreferencesProtectMacroFile_Click},
+
+    {0, "mnuPlaces", "Places"},
+    {1, "mnuPlaceArray", "", "", nullptr, 0, &Editor::mnuPlaceArray_Click},
 
     {0, "mnuRHList", "List"},
     {1, "mnuRHListInsert", "&Insert into Joystick file", "", &Editor::mnuRHListInsert_Click},

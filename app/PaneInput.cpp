@@ -25,7 +25,7 @@ void PaneInput::Attach(Document& document) {
   pane.SelChange = [this] { hooks_.updateCCPButtons(); };
   pane.KeyUp = [this, &document](Key&) { KeyUp(document); };
   pane.Click = [this, &document] { RememberCaret(document); };
-  pane.MouseUp = [this, &document](const Mouse&) { RememberCaret(document); };
+  pane.MouseUp = [this, &document](const Mouse& mouse) { MouseUp(document, mouse); };
   pane.GotFocus = [this, &document] { GotFocus(document); };
   pane.LostFocus = [&document] { document.SelLength = document.text.SelLength; };
   pane.Change = [this, &document] { Change(document); };
@@ -69,6 +69,13 @@ void PaneInput::TurnOvertypeOver() {
 
 void PaneInput::ShowHelp(const std::string& keyword) const {
   documents_.platform.help.ShowKeyword(HelpFilePath(documents_.platform), keyword);
+}
+
+/// Ctrl with a click on a name leads to where it is defined.
+void PaneInput::MouseUp(Document& document, const Mouse& mouse) {
+  RememberCaret(document);
+  const bool leads = mouse.button == button::kLeft && mouse.shift == shift::kCtrl;
+  if (leads && document.text.SelLength == 0) hooks_.goToDefinition();
 }
 
 /// The right button's pop-up, with what can be done here and now.

@@ -16,6 +16,8 @@ class PaneInput {
     std::function<void()> updateCCPButtons;
     /// Goes on to the next hit while a search is on and its hit stands untouched in the document.
     std::function<bool(const Document&)> findNext;
+    /// Goes from the name at the caret to where it is defined.
+    std::function<void()> goToDefinition;
   };
 
   PaneInput(Documents& documents, const Menus& menus, const Menus& popUps, Hooks hooks)
@@ -29,6 +31,7 @@ class PaneInput {
   void KeyPress(Document& document, int character);
   void KeyUp(Document& document);
   void MouseDown(const Document& document, const Mouse& mouse);
+  void MouseUp(Document& document, const Mouse& mouse);
   void GotFocus(Document& document);
   void Change(Document& document);
   void RememberCaret(Document& document);

@@ -7,29 +7,9 @@ namespace {
 
 constexpr std::size_t kMostLines = 1'000;
 
-/// The number of the line that a position stands in, from 1 on. The positions come in their order.
-class LineCounter {
- public:
-  explicit LineCounter(std::string_view text) : text_(text) {}
-
-  std::size_t LineOf(std::size_t position) {
-    const std::string_view passed = text_.substr(0, position);
-    line_ += static_cast<std::size_t>(
-        std::count(passed.begin() + static_cast<std::ptrdiff_t>(at_), passed.end(), '\n'));
-    at_ = passed.size();
-    return line_;
-  }
-
- private:
-  std::string_view text_;
-  std::size_t at_ = 0;
-  std::size_t line_ = 1;
-};
-
 /// Where it is, what it is, and what to do.
 std::string LineOf(const Document& document, std::size_t line, const model::Problem& problem) {
-  std::string words(document.IsJoystick() ? "Joystick " : "Macros ");
-  words.append(TextOf(line)).append(":  ").append(problem.text);
+  std::string words = LineInWords(document, line).append(problem.text);
   return problem.advice.empty() ? words : words.append("  ").append(problem.advice);
 }
 
@@ -76,10 +56,10 @@ void ProblemPanel::Fill() {
   std::vector<std::string> lines;
   std::vector<Colour> colours;
   for (const Document* const document : {&bench_.documents.joystick, &bench_.documents.macro}) {
-    LineCounter counter(document->text.Characters());
+    model::LinePositions positions(document->text.Characters());
     for (const model::Problem& problem : bench_.problems.Of(*document)) {
       if (lines.size() == kMostLines) break;
-      lines.push_back(LineOf(*document, counter.LineOf(problem.range.start), problem));
+      lines.push_back(LineOf(*document, positions.Of(problem.range.start).line, problem));
       colours.push_back(ColourOf(problem.rule->severity));
       shown_.push_back(problem);
     }

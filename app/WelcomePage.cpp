@@ -107,15 +107,16 @@ std::string WelcomePage::CopyOfSample(const std::string& name) const {
     if (each.substr(0, each.rfind('.')) != name.substr(0, name.rfind('.'))) continue;
     if (files.FileExists(OwnSample(each))) continue;
     const auto content = files.Read(from + each);
-    if (trap(content)) trap(files.Write(OwnSample(each), *content));
+    if (!trap(content) || !trap(files.Write(OwnSample(each), *content))) return {};
   }
   return OwnSample(name);
 }
 
 void WelcomePage::OpenSample(int index) {
-  const std::string copy = CopyOfSample(sampleNames_[static_cast<std::size_t>(index)]);
+  const std::string& name = sampleNames_[static_cast<std::size_t>(index)];
+  const std::string copy = CopyOfSample(name);
   if (bench_.platform.files.FileExists(copy)) return commands_.openPair({copy});
-  bench_.documents.Say("The sample could not be copied to " + copy);
+  bench_.documents.Say("The sample could not be copied to " + OwnSample(name));
 }
 
 }  // namespace tarvik

@@ -213,11 +213,12 @@ void EditorView::OrderFocus() {
   setTabOrder(button(modifier::kLastLower), tabs_);
   QWidget* last = tabs_;
   for (QWidget* const next : notice_->buttons()) setTabOrder(std::exchange(last, next), next);
+  // A text takes the Tab key itself: what one wants before there is any stands a Shift+Tab away.
+  for (QWidget* const next : welcome_->parts()) setTabOrder(std::exchange(last, next), next);
   setTabOrder(last, panes_[0]);
   setTabOrder(panes_[0], splitter_);
   setTabOrder(splitter_, panes_[1]);
   last = panes_[1];
-  for (QWidget* const next : welcome_->parts()) setTabOrder(std::exchange(last, next), next);
   for (const auto& parts : {find_->parts(), problems_->parts()}) {
     for (QWidget* const next : parts) setTabOrder(std::exchange(last, next), next);
   }

@@ -12,6 +12,10 @@ std::string_view NameOnDisk(const Document& document) {
 
 }  // namespace
 
+std::string LineInWords(const Document& document, std::size_t line) {
+  return std::string(document.IsJoystick() ? "Joystick " : "Macros ").append(TextOf(line)).append(":  ");
+}
+
 FileModels::FileModels(Documents& documents)
     : documents_(documents),
       joystick_(documents.joystick.text.Characters()),

@@ -6,6 +6,12 @@
 
 namespace tarvik {
 
+[[nodiscard]] inline model::FileKind FileKindOf(const Document& document) {
+  return document.IsJoystick() ? model::FileKind::Joystick : model::FileKind::Macros;
+}
+/// The beginning of what is told of a line, which counts from 1: "Joystick 12:  ".
+[[nodiscard]] std::string LineInWords(const Document& document, std::size_t line);
+
 class FileModels {
  public:
   explicit FileModels(Documents& documents);

@@ -68,7 +68,8 @@ void Problems::Renew() {
     longest = std::max(longest, problem.range.length);
     found.Of(DocumentOf(problem)).push_back(std::move(problem));
   }
-  if (found.joystick == found_.joystick && found.macro == found_.macro) return;
+  const bool areSame = found.joystick == found_.joystick && found.macro == found_.macro;
+  if (areSame && !std::exchange(torn_, false)) return;
   found_ = std::move(found);
   longest_ = longest;
   Changed();
@@ -76,11 +77,12 @@ void Problems::Renew() {
 
 void Problems::Follow(const Document& document, const PaneEdit& edit) {
   std::vector<model::Problem>& problems = found_.Of(document);
-  std::erase_if(problems, [&edit](model::Problem& problem) {
+  const std::size_t torn = std::erase_if(problems, [&edit](model::Problem& problem) {
     const std::optional<Range> moved = Moved(problem.range, edit);
     if (moved) problem.range = *moved;
     return !moved;
   });
+  torn_ = torn_ || torn > 0;
   longest_ += edit.inserted.size();  // one of them may have grown
   if (!IsWanted()) return;
   timer.Enabled = false;

@@ -51,6 +51,7 @@ class Problems {
   const FileModels& models_;
   PerDocument<std::vector<model::Problem>> found_;
   std::size_t longest_ = 0;  // of all of them, or more
+  bool torn_ = false;        // an edit has taken some away since they were last looked for
   std::vector<Connection> connections_;
 };
 

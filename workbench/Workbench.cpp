@@ -36,6 +36,7 @@ void Workbench::Reset() {
   files.Reset();
   documents.Reset();
   jumps.Forget();
+  problems.Renew();
 }
 
 void Workbench::NewFile(Document& document) {

@@ -4,6 +4,7 @@
 
 #include "workbench/AutoSave.h"
 #include "workbench/ChangedLines.h"
+#include "workbench/Definitions.h"
 #include "workbench/EditCommands.h"
 #include "workbench/ForeignEncodings.h"
 #include "workbench/IncrementalSearch.h"
@@ -54,6 +55,7 @@ class Workbench {
   LiveColours liveColours{documents};
   FileModels models{documents};
   Problems problems{documents, models};
+  Definitions definitions{documents, models};
   Notices notices;
   Preflight preflight{documents, problems, notices};
   ForeignChanges foreign{documents, files, insertion, notices};

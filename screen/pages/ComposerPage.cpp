@@ -4,7 +4,7 @@
 namespace tarvik::screen {
 namespace {
 
-constexpr int kSideWidth = 330;
+constexpr int kSideWidth = 350;
 constexpr int kNumberWidth = 64;
 constexpr int kKeysWidth = 300;
 constexpr int kInsertWidth = 100;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QResizeEvent>
 #include <QShortcut>
 #include <QTextBlock>
 #include <QWindow>
@@ -19,6 +20,8 @@ namespace {
 
 constexpr QSize kSize(860, 600);
 constexpr int kListWidth = 240;
+constexpr int kTextWidth = 280;
+constexpr int kLeastWithTopics = kListWidth + kTextWidth + 40;
 constexpr int kExampleMargin = 12;
 constexpr int kTextMargin = 14;
 constexpr int kIcon = 16;
@@ -98,6 +101,7 @@ HelpWindow::HelpWindow()
     : words_(new QLineEdit),
       none_(new QLabel(tr("No topic has these words."))),
       topics_(new QListWidget),
+      side_(new QWidget),
       text_(new TopicText) {
   setWindowTitle(tr("Tarvik help"));
   resize(kSize.boundedTo(RoomOnScreen(*this)));
@@ -113,6 +117,7 @@ HelpWindow::HelpWindow()
   QSizePolicy room = text_->sizePolicy();
   room.setHorizontalStretch(1);
   text_->setSizePolicy(room);
+  text_->setMinimumWidth(kTextWidth);
   Arrange();
   EnableWays();
   ListenToUser();
@@ -132,7 +137,9 @@ QToolBar* HelpWindow::MakeTools() {
 }
 
 void HelpWindow::Arrange() {
-  QLayout* const rows = Row({Column({Fields({{"&Search:", words_}}), none_, topics_}), text_});
+  side_->setLayout(Column({Fields({{"&Search:", words_}}), none_, topics_}));
+  side_->layout()->setContentsMargins(0, 0, 0, 0);
+  QLayout* const rows = Row({side_, text_});
   rows->setMenuBar(MakeTools());
   setLayout(rows);
 }
@@ -312,10 +319,21 @@ void HelpWindow::StandBeside(QWidget& window) {
     place.moveLeft(screen.left());
   }
   const int edges = place.width() - window.width();  // which the window manager draws
-  const int width =
-      std::clamp(screen.right() - place.right() - edges, minimumSizeHint().width(), kSize.width());
+  const int room = screen.right() - place.right() - edges;
+  FoldTopics(room);
+  const int width = std::clamp(room, minimumSizeHint().width(), kSize.width());
   resize(width, height());
   move(std::min(place.right(), screen.right() - width - edges) + 1, place.top());
+}
+
+void HelpWindow::FoldTopics(int width) {
+  side_->setVisible(width >= kLeastWithTopics);
+  layout()->activate();
+}
+
+void HelpWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  FoldTopics(width());
 }
 
 void HelpWindow::ShowContext(int context) { ShowTopic(file_.WithContext(context), QString::number(context)); }

@@ -33,6 +33,9 @@ class HelpWindow : public QDialog {
   void ShowContext(int context);
   void ShowKeyword(const std::string& keyword);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   QAction* AddAction(const char* icon, const QString& text, const QKeySequence& key,
                      void (HelpWindow::*run)());
@@ -57,6 +60,8 @@ class HelpWindow : public QDialog {
   void Print();
   void ChooseOwner();
   void StandBeside(QWidget& window);
+  /// Shows the search and the list of topics where there is room for them beside the text.
+  void FoldTopics(int width);
   void FollowLink(const QUrl& link);
 
   HelpFile file_;
@@ -69,6 +74,7 @@ class HelpWindow : public QDialog {
   QLineEdit* words_;
   QLabel* none_;  // says that no topic has the words
   QListWidget* topics_;
+  QWidget* side_;  // the search and the list of topics
   QTextBrowser* text_;
 };
 

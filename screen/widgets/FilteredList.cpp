@@ -24,7 +24,9 @@ FilteredList::FilteredList(Bindings& bindings, const QString& name, Ticks ticks,
   line_->setAccessibleName(name + tr(", filter"));
   line_->setToolTip(tr("Shows the macros whose names contain what you type"));
   line_->setClearButtonEnabled(true);
-  line_->installEventFilter(this);
+  for (QWidget* const part : {static_cast<QWidget*>(line_), static_cast<QWidget*>(list_)}) {
+    part->installEventFilter(this);
+  }
   auto* const top = new QHBoxLayout;
   top->setSpacing(kGap);
   top->addWidget(line_, 1);
@@ -74,8 +76,14 @@ void FilteredList::ShowCount() {
 }
 
 bool FilteredList::eventFilter(QObject* watched, QEvent* event) {
-  if (watched != line_ || event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
-  switch (static_cast<QKeyEvent&>(*event).key()) {
+  if (event->type() != QEvent::KeyPress) return QWidget::eventFilter(watched, event);
+  const int key = static_cast<QKeyEvent&>(*event).key();
+  if (watched == list_) {
+    if (key != Qt::Key_Escape || line_->text().isEmpty()) return false;
+    line_->clear();
+    return true;
+  }
+  switch (key) {
     case Qt::Key_Escape:
       line_->clear();
       return true;

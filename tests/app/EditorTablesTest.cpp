@@ -155,6 +155,7 @@ TEST_F(EditorTablesInUse, EachEntryWithAHandlerCanBeReachedAndTheOthersCannot) {
        {"mnuJFArray", "mnuMFArray", "mnuFavArray", "mnuCustomApp", "mnuGameArray"}) {
     editor.menus.Fill(array, {"a member"});
   }
+  editor.popUps.Fill("mnuPlaceArray", {"a member"});
   for (const char* const entry : {"mnuFilePrevious", "mnuPreviousClearAllJ", "mnuFilePrevMacro",
                                   "mnuPreviousClearAllM", "mnuEditBack", "mnuEditForward"}) {
     editor.menus(entry).Enabled = true;

@@ -61,6 +61,18 @@ TEST_F(ProblemsTest, MoveWithTheTextUntilTheyAreLookedForAgain) {
   EXPECT_THAT(Words(joystick), ElementsAre("Geer"));
 }
 
+TEST_F(ProblemsTest, AreToldToBeGoneWhenTheirTextIs) {
+  Type(joystick, 0, "BTN S99 a");
+  problems.Renew();
+  int told = 0;
+  const Connection changed = problems.Changed.Connect([&told] { ++told; });
+  Type(joystick, 0, "", joystick.text.Characters().size());
+  problems.timer.Elapsed();
+  EXPECT_EQ(told, 1);
+  problems.Renew();
+  EXPECT_EQ(told, 1);
+}
+
 TEST_F(ProblemsTest, OfAPlaceAreTheGravest) {
   Type(joystick, 0, "BTN S1 /P a /P b /U c\r\n");
   Type(macro, 0, "Gear = g");

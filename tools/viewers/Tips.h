@@ -45,8 +45,8 @@ class frmAbout : public ToolForm {
   Label lblLicence{*this, "lblLicence"};
   Label lblLibraries{*this, "lblLibraries"};
   CommandButton cmdOK{*this, "cmdOK", "&OK", &frmAbout::Close};
-  CommandButton cmdSysInfo{*this, "cmdSysInfo", "&System Info...", &frmAbout::cmdSysInfo_Click};
-  CommandButton cmdLog{*this, "cmdLog", "&Log...", &frmAbout::cmdLog_Click};
+  CommandButton cmdSysInfo{*this, "cmdSysInfo", "&System info ...", &frmAbout::cmdSysInfo_Click};
+  CommandButton cmdLog{*this, "cmdLog", "&Log ...", &frmAbout::cmdLog_Click};
   CommandButton cmdCopy{*this, "cmdCopy", "&Copy", &frmAbout::cmdCopy_Click};
 
   void Form_Load();
