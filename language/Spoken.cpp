@@ -1,0 +1,198 @@
+#include "language/Spoken.h"
+
+#include <algorithm>
+
+#include "language/Abilities.h"
+#include "language/Checking.h"
+#include "language/KeyTable.h"
+#include "text/CodePage.h"
+
+namespace tarvik::model {
+namespace {
+
+struct Saying {
+  std::string_view word;
+  std::string_view said;
+};
+
+template <std::size_t N>
+std::string_view SaidFor(const Saying (&sayings)[N], std::string_view word) {
+  for (const Saying& each : sayings) {
+    if (SameWord(each.word, word)) return each.said;
+  }
+  return {};
+}
+
+constexpr Saying kKeyWords[] = {
+    {"ENT", "Enter"},
+    {"ESC", "Esc"},
+    {"SPC", "Space"},
+    {"TAB", "Tab"},
+    {"BSP", "Backspace"},
+    {"UAROW", "Up"},
+    {"DAROW", "Down"},
+    {"LAROW", "Left"},
+    {"RAROW", "Right"},
+    {"INS", "Insert"},
+    {"DEL", "Delete"},
+    {"HOME", "Home"},
+    {"END", "End"},
+    {"PGUP", "Page up"},
+    {"PGDN", "Page down"},
+    {"CAPS", "Caps Lock"},
+    {"NUML", "Num Lock"},
+    {"SCRLCK", "Scroll Lock"},
+    {"LSFT", "left Shift"},
+    {"RSFT", "right Shift"},
+    {"LCTL", "left Ctrl"},
+    {"RCTL", "right Ctrl"},
+    {"LALT", "left Alt"},
+    {"RALT", "right Alt"},
+    {"KPENT", "keypad Enter"},
+};
+
+constexpr Saying kControlWords[] = {
+    {"RKR UP", "the rocker up"},   {"RKR MD", "the rocker in the middle"},
+    {"RKR DN", "the rocker down"}, {"MT", "the throttle at its back stop"},
+    {"TG", "the trigger"},         {"UB", "the upper button"},
+    {"MB", "the middle button"},   {"LB", "the lower button"},
+    {"THR", "the throttle"},       {"RNG", "the range rotary"},
+    {"ANT", "the antenna rotary"}, {"JSX", "the stick's X axis"},
+    {"JSY", "the stick's Y axis"}, {"RDDR", "the rudder"},
+};
+
+constexpr Saying kHatPlaces[] = {
+    {"U", " up"},         {"D", " down"},          {"L", " left"},
+    {"R", " right"},      {"M", " in the middle"}, {"UL", " up left"},
+    {"DL", " down left"}, {"UR", " up right"},     {"DR", " down right"},
+};
+
+constexpr std::string_view kKeypad = "KP";
+constexpr std::string_view kAux = "AUX";
+
+std::string Capitals(std::string_view word) {
+  std::string capitals(word);
+  std::ranges::transform(capitals, capitals.begin(), ToUpper);
+  return capitals;
+}
+
+std::string_view WithoutAux(std::string_view word) {
+  const bool hasAux = word.size() > kAux.size() && SameWord(word.substr(0, kAux.size()), kAux);
+  return hasAux ? word.substr(kAux.size()) : word;
+}
+
+/// Pimlet writes a letter that Shift is held for as a capital one.
+std::string SignInWords(char sign) {
+  const bool isSmall = sign >= 'a' && sign <= 'z';
+  const bool isCapital = sign >= 'A' && sign <= 'Z';
+  return isCapital ? Said({"Shift+", {&sign, 1}}) : std::string(1, isSmall ? ToUpper(sign) : sign);
+}
+
+/// What kKeys has for a code, and the key "m", whose codes stand in each other's place there.
+std::string KeyOfCode(std::uint8_t code, bool extended) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string make(extended ? "#E0 #" : "#");
+  make.push_back(kDigits[code >> 4U]);
+  make.push_back(kDigits[code & 15U]);
+  for (const KeyRow& row : kKeys) {
+    const bool isExchanged = row.make.starts_with("#F0");
+    if ((isExchanged ? row.breaks : row.make) == make) return KeyInWords(row.name);
+  }
+  return {};
+}
+
+/// Puts the keys of a RAW into words, code by code.
+class CodeWords {
+ public:
+  void Take(std::string_view word, std::optional<std::uint8_t> value) {
+    constexpr std::uint8_t kExtended = 0xE0;
+    constexpr std::uint8_t kBreak = 0xF0;
+    if (!seen_.empty()) seen_.push_back(' ');
+    seen_.append(word);
+    if (value == kExtended && !released_) {
+      extended_ = true;
+    } else if (value == kBreak) {
+      released_ = true;
+    } else {
+      const std::string key = value ? KeyOfCode(*value, extended_) : std::string();
+      if (key.empty()) {
+        words_.push_back(Shown(seen_));
+      } else {
+        Tell(key);
+      }
+      Forget();
+    }
+  }
+
+  std::vector<std::string> Finish() {
+    if (!seen_.empty()) words_.push_back(Shown(seen_));
+    return std::move(words_);
+  }
+
+ private:
+  void Tell(const std::string& key) {
+    const std::string down = key + " down";
+    if (released_ && !words_.empty() && words_.back() == down) {
+      words_.back() = key;
+    } else {
+      words_.push_back(released_ ? key + " up" : down);
+    }
+  }
+  void Forget() {
+    seen_.clear();
+    extended_ = released_ = false;
+  }
+
+  std::vector<std::string> words_;
+  std::string seen_;  // since the last key
+  bool extended_ = false;
+  bool released_ = false;
+};
+
+}  // namespace
+
+std::string KeyInWords(std::string_view word) {
+  if (word.size() == 1) return SignInWords(word.front());
+  if (!IsKeyName(word)) return Shown(word);
+  const std::string_view name = WithoutAux(word);
+  if (const std::string_view said = SaidFor(kKeyWords, name); !said.empty()) return std::string(said);
+  if (SameWord(name.substr(0, kKeypad.size()), kKeypad)) {
+    return Said({"keypad ", name.substr(kKeypad.size())});
+  }
+  return Capitals(name);
+}
+
+std::string ControlInWords(std::string_view name) {
+  const std::string capitals = Capitals(name);
+  if (const std::string_view said = SaidFor(kControlWords, capitals); !said.empty()) return std::string(said);
+  if (FlagNumber(capitals)) return Said({"flag ", capitals});
+  if (DevicesWith(AbilityKind::Control, capitals) == 0) return Shown(name);
+  if (NumberIn(capitals)) return Said({"button ", capitals});
+  if (!capitals.starts_with('H')) return capitals;
+  const bool isPlain = capitals[1] < '0' || capitals[1] > '9';
+  const std::string_view hat = std::string_view(capitals).substr(0, isPlain ? 1 : 2);
+  const std::string_view place = std::string_view(capitals).substr(hat.size());
+  return Said({isPlain ? std::string_view("the hat") : hat, SaidFor(kHatPlaces, place)});
+}
+
+std::vector<std::string> CodesInWords(std::string_view statement, const Item& item) {
+  CodeWords words;
+  for (const RawCode& code : RawCodesOf(statement, item)) words.Take(In(statement, code.range), code.value);
+  return words.Finish();
+}
+
+std::string AllOf(const std::vector<std::string>& things) {
+  std::string words;
+  for (std::size_t i = 0; i < things.size(); ++i) {
+    if (i > 0) words.append(i + 1 < things.size() ? ", " : " and ");
+    words.append(things[i]);
+  }
+  return words;
+}
+
+std::string AsSentence(std::string words) {
+  if (!words.empty() && words[0] >= 'a' && words[0] <= 'z') words[0] = ToUpper(words[0]);
+  return words;
+}
+
+}  // namespace tarvik::model
