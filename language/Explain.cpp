@@ -153,7 +153,7 @@ std::string ExplainMacro(const Speaker& speaker, std::size_t at) {
   const auto* definition = std::get_if<MacroDefinition>(&statement.body);
   if (definition == nullptr) return {};
   const std::string_view name = In(lines, definition->name);
-  const std::string subject = name.empty() ? "a macro without a name" : std::string(name);
+  const std::string subject = name.empty() ? "a macro without a name" : NameInWords(name);
   const auto* axis = std::get_if<Axis>(&definition->sends);
   std::string said = axis == nullptr ? speaker.Sentence(subject, lines, std::get<Sequence>(definition->sends))
                                      : Said({subject, " is this: ", AxisInWords(speaker, lines, *axis)});

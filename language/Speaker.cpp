@@ -139,7 +139,7 @@ class Wording {
       case ItemKind::Key:
         return deeds.Send(held.empty() && speaker_.IsNullSign(word) ? "nothing" : held + KeyInWords(word));
       case ItemKind::Name:
-        return deeds.Send(NameInWords(word));
+        return deeds.Send(MacroInWords(word));
       case ItemKind::Raw:
         for (std::string& code : CodesInWords(lines_, item)) deeds.Send(std::move(code));
         return;
@@ -153,14 +153,15 @@ class Wording {
     }
   }
 
-  [[nodiscard]] std::string NameInWords(std::string_view word) const {
+  [[nodiscard]] std::string MacroInWords(std::string_view word) const {
     if (speaker_.IsNullSign(word)) return "nothing";
     const MacroNames* macro = speaker_.names_.FindMacro(word);
     if (macro == nullptr || macro->definitions.empty()) {
-      return speaker_.hasMacros_ ? Shown(word) : std::string(word);
+      return speaker_.hasMacros_ ? Shown(word) : NameInWords(word);
     }
     const std::string keys = style_ == Style::Brief ? std::string() : speaker_.KeysOf(*macro);
-    return keys.empty() ? macro->name : Said({macro->name, " (", keys, ")"});
+    const std::string name = NameInWords(macro->name);
+    return keys.empty() ? name : Said({name, " (", keys, ")"});
   }
 
   void TellClause(Part& part, const std::vector<Item>& items) const {

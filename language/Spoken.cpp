@@ -152,8 +152,8 @@ class CodeWords {
 }  // namespace
 
 std::string KeyInWords(std::string_view word) {
-  if (word.size() == 1) return SignInWords(word.front());
-  if (!IsKeyName(word)) return Shown(word);
+  if (word.size() == 1 && codepage::Byte(word.front()) >= ' ') return SignInWords(word.front());
+  if (word.size() == 1 || !IsKeyName(word)) return Shown(word);
   const std::string_view name = WithoutAux(word);
   if (const std::string_view said = SaidFor(kKeyWords, name); !said.empty()) return std::string(said);
   if (SameWord(name.substr(0, kKeypad.size()), kKeypad)) {
@@ -188,6 +188,11 @@ std::string AllOf(const std::vector<std::string>& things) {
     words.append(things[i]);
   }
   return words;
+}
+
+std::string NameInWords(std::string_view name) {
+  const auto isHidden = [](char byte) { return codepage::Byte(byte) < ' ' || byte == 0x7F; };
+  return std::ranges::any_of(name, isHidden) ? Shown(name) : std::string(name);
 }
 
 std::string AsSentence(std::string words) {

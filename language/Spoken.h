@@ -16,6 +16,8 @@ namespace tarvik::model {
 [[nodiscard]] std::vector<std::string> CodesInWords(std::string_view statement, const Item& item);
 /// "a", "a and b", "a, b and c".
 [[nodiscard]] std::string AllOf(const std::vector<std::string>& things);
+/// A macro's name as it is; in quotation marks where it has characters that cannot be shown.
+[[nodiscard]] std::string NameInWords(std::string_view name);
 /// With a capital letter at its beginning.
 [[nodiscard]] std::string AsSentence(std::string words);
 /// What a word of the language is for, in a sentence: a word that begins a statement, a modifier such as

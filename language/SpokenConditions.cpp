@@ -46,6 +46,7 @@ std::string_view OrderOf(std::string_view word) {
 
 std::string StepsInWords(std::string_view lines, const Axis& axis) {
   const auto number = [&](const Number& each) {
+    if (each.range.length == 0) return std::string("a missing number of");
     return each.value ? std::to_string(*each.value) : Shown(In(lines, each.range));
   };
   if (axis.steps.empty()) return {};
@@ -122,6 +123,7 @@ std::string AxisInWords(const Speaker& speaker, std::string_view lines, const Ax
   const std::string name = AsSentence(ControlInWords(axis.shape->word));
   const bool typed = axis.type.value && *axis.type.value >= 1 && *axis.type.value <= 3;
   const bool isKnown = typed && (*axis.type.value < 3 || axis.shape->steps[2] == 0);
+  if (axis.type.range.length == 0) return Said({name, " sends keys, but its type is missing"});
   if (!isKnown)
     return Said({name, " sends keys by ", Shown(In(lines, axis.type.range)), ", which is no type"});
   const std::vector<std::string> keys = speaker.Keys(lines, axis.keys);

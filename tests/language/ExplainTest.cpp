@@ -105,6 +105,8 @@ TEST(Explain, LeavesWhatIsUnknownAsItStands) {
             "\"now\".");
   EXPECT_EQ(ExplainedMacro("Hello there\r\n"), "\"Hello there\" is neither a macro nor a remark.");
   EXPECT_EQ(Explained("BTN S1 CTL\r\n"), "S1 sends \"CTL\".");
+  EXPECT_EQ(Explained("BTN S1 \x01\r\n"), "S1 sends \" \".");
+  EXPECT_EQ(ExplainedMacro("G\x01n = a\r\n"), "\"G n\" sends A.");
 }
 
 TEST(Explain, TakesNamesAsTheyAreWithoutAMacroFile) {
@@ -135,6 +137,8 @@ TEST(Explain, TellsAxes) {
   EXPECT_EQ(Explained("ANT 2 8 a b\r\n"),
             "The antenna rotary sends keys in 8 steps, from the upper end to the lower one: A and B.");
   EXPECT_EQ(Explained("RNG 1 x a b c\r\n"), "The range rotary sends keys in \"x\" steps: A, B and C.");
+  EXPECT_EQ(Explained("RNG\r\n"), "The range rotary sends keys, but its type is missing.");
+  EXPECT_EQ(Explained("RNG 1\r\n"), "The range rotary in a missing number of steps sends nothing.");
   EXPECT_THAT(Explained("RNG 7 1 a b\r\n"), HasSubstr("which is no type"));
 }
 
