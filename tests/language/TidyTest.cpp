@@ -58,6 +58,11 @@ TEST(Tidy, PutsModifiersBelowThoseOfTheirMatter) {
             "/T e\r\n");
 }
 
+TEST(Tidy, PutsAModifierBelowTheLastOfItsMatter) {
+  EXPECT_EQ(Tidied("BTN S1 /U /I a /M long /I b\n /O c\n", kJoystick),
+            "BTN S1 /U /I a /M long /I b\n                       /O c\n");
+}
+
 TEST(Tidy, LinesUpRemarksOnLinesOnEnd) {
   EXPECT_EQ(Tidied("BTN S1 a  Rem one\nBTN S2 abcdefgh ~ two\t x\n\nBTN S3 a   Rem three\n", kJoystick),
             "BTN S1 a        Rem one\nBTN S2 abcdefgh ~ two\t x\n\nBTN S3 a   Rem three\n");
