@@ -7,8 +7,10 @@
 #include <QTextBlock>
 #include <QToolTip>
 #include <algorithm>
+#include <ranges>
 #include <utility>
 
+#include "language/Explain.h"
 #include "screen/EditorPaneParts.h"
 #include "screen/widgets/Conversions.h"
 #include "text/CodePage.h"
@@ -19,6 +21,7 @@ namespace {
 
 constexpr int kFixedTab = 8;  // characters
 constexpr int kWheelStep = 120;
+constexpr int kTipWidth = 400;
 constexpr std::size_t kShortestWord = 2;
 constexpr std::size_t kLongestWord = 100;
 constexpr std::string_view kRemark = "rem";  // which stands in nearly every line of a tidy file
@@ -45,6 +48,7 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document,
       live_(workbench.liveColours),
       search_(workbench.search),
       problems_(workbench.problems),
+      models_(workbench.models),
       margin_(new Margin(*this)),
       head_(new Head(*this)) {
   for (Property<int>* const option :
@@ -335,14 +339,27 @@ bool EditorPane::viewportEvent(QEvent* event) {
   return true;
 }
 
+/// What is wrong with it and what to do, and what it means.
 QString EditorPane::TipAt(const QPoint& place) const {
   const std::optional<std::size_t> position = LetterAt(place);
-  if (!position || settings_.MarkProblems == 0) return {};
-  const model::Problem* const problem = problems_.At(document_, *position);
-  if (!problem) return {};
-  const QString text = ToScreen(problem->text).toHtmlEscaped();
-  const QString advice = ToScreen(problem->advice).toHtmlEscaped();
-  return QStringLiteral("<table width=\"400\"><tr><td>%1<br/><i>%2</i></td></tr></table>").arg(text, advice);
+  if (!position) return {};
+  const auto shown = [](std::string_view words) { return ToScreen(words).toHtmlEscaped(); };
+  QStringList parts;
+  const bool tellsProblems = settings_.MarkProblems != 0;
+  if (const model::Problem* const problem = tellsProblems ? problems_.At(document_, *position) : nullptr) {
+    parts += QStringLiteral("%1<br/><i>%2</i>").arg(shown(problem->text), shown(problem->advice));
+  }
+  const model::FilePair pair = models_.Pair();
+  const model::NameIndex names(pair.joystick, pair.joystickText, pair.macros, pair.macroText);
+  const std::string meaning = model::Hover(pair, names, FileKindOf(document_), *position);
+  QStringList lines;
+  for (const auto line : meaning | std::views::split('\n')) {
+    lines += shown(std::string_view(line.begin(), line.end()));
+  }
+  if (!lines.isEmpty()) parts += lines.join(QLatin1String("<br/>"));
+  if (parts.isEmpty()) return {};
+  return QStringLiteral("<table width=\"%1\"><tr><td>%2</td></tr></table>")
+      .arg(QString::number(kTipWidth), parts.join(QLatin1String("<hr/>")));
 }
 
 /// The character that is shown there; none beside the text.

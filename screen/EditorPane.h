@@ -83,6 +83,7 @@ class EditorPane : public PaneView {
   const LiveColours& live_;
   const IncrementalSearch& search_;
   const Problems& problems_;
+  const FileModels& models_;
   Margin* margin_;
   Head* head_;
   QColor barColour_;  // of changed lines
