@@ -180,7 +180,7 @@ class Wording {
     part.sendsAlone = !deeds.Things().empty();
   }
 
-  void Walk(const Sequence& sequence, Part part) {
+  void Walk(const Sequence& sequence, const Part& part) {
     if (!sequence.items.empty() || sequence.branches.empty()) {
       Part own = part;
       TellClause(own, sequence.items);
@@ -194,7 +194,7 @@ class Wording {
       const Branch& branch = sequence.branches[i++];
       Part inner = part;
       AddModifier(inner, branch);
-      Walk(branch.sequence, std::move(inner));
+      Walk(branch.sequence, inner);
     }
   }
 
@@ -215,7 +215,7 @@ class Wording {
     for (std::size_t i = first; i < end; ++i) {
       Part inner = part;
       inner.when.push_back(Said({"in turn ", std::to_string(i - first + 1)}));
-      Walk(sequence.branches[i].sequence, std::move(inner));
+      Walk(sequence.branches[i].sequence, inner);
     }
     return end;
   }

@@ -163,7 +163,7 @@ std::string KeyInWords(std::string_view word) {
 }
 
 std::string ControlInWords(std::string_view name) {
-  const std::string capitals = Capitals(name);
+  std::string capitals = Capitals(name);
   if (const std::string_view said = SaidFor(kControlWords, capitals); !said.empty()) return std::string(said);
   if (FlagNumber(capitals)) return Said({"flag ", capitals});
   if (DevicesWith(AbilityKind::Control, capitals) == 0) return Shown(name);

@@ -7,7 +7,7 @@
 #include <QTextBlock>
 #include <QToolTip>
 #include <algorithm>
-#include <ranges>
+#include <sstream>
 #include <utility>
 
 #include "language/Explain.h"
@@ -343,7 +343,7 @@ bool EditorPane::viewportEvent(QEvent* event) {
 QString EditorPane::TipAt(const QPoint& place) const {
   const std::optional<std::size_t> position = LetterAt(place);
   if (!position) return {};
-  const auto shown = [](std::string_view words) { return ToScreen(words).toHtmlEscaped(); };
+  const auto shown = [](const std::string& words) { return ToScreen(words).toHtmlEscaped(); };
   QStringList parts;
   const bool tellsProblems = settings_.MarkProblems != 0;
   if (const model::Problem* const problem = tellsProblems ? problems_.At(document_, *position) : nullptr) {
@@ -351,11 +351,9 @@ QString EditorPane::TipAt(const QPoint& place) const {
   }
   const model::FilePair pair = models_.Pair();
   const model::NameIndex names(pair.joystick, pair.joystickText, pair.macros, pair.macroText);
-  const std::string meaning = model::Hover(pair, names, FileKindOf(document_), *position);
   QStringList lines;
-  for (const auto line : meaning | std::views::split('\n')) {
-    lines += shown(std::string_view(line.begin(), line.end()));
-  }
+  std::istringstream meaning(model::Hover(pair, names, FileKindOf(document_), *position));
+  for (std::string line; std::getline(meaning, line);) lines += shown(line);
   if (!lines.isEmpty()) parts += lines.join(QLatin1String("<br/>"));
   if (parts.isEmpty()) return {};
   return QStringLiteral("<table width=\"%1\"><tr><td>%2</td></tr></table>")
