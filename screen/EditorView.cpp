@@ -108,6 +108,7 @@ EditorView::EditorView(Editor& editor, Workbench& workbench, Clock clock)
   menus_ = MakeMenus(editor.menus, bindings_);
   popUps_ = MakeMenus(editor.popUps, bindings_);
   FollowArrays(editor.menus, bindings_);
+  FollowArrays(editor.popUps, bindings_);
   MakeMacroFrame();
   MakeTabs();
   notice_ = new NoticeView(editor.notice, bindings_, this);
