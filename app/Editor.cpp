@@ -49,6 +49,9 @@ Editor::Editor(Application& application)
       notice(*this, application.workbench, [this] { layout_.Place(); }),
       find(*this, application.workbench, [this] { layout_.Place(); }),
       problems(*this, application.workbench, [this] { layout_.Place(); }),
+      explain(*this, application.workbench, [this] { layout_.Place(); }),
+      outline(*this, application.workbench),
+      suggestions(*this, application.workbench),
       welcome(*this, application.workbench, CommandsOfWelcome()),
       menus(*this, tables::kMenus),
       popUps(*this, tables::kPopUps),
@@ -59,11 +62,11 @@ Editor::Editor(Application& application)
       mum_(application.mum()),
       savedStates_(bench_.documents, mum_),
       layout_(bench_.documents, {*this, FrameMacros, Combo1, List1, Command1, mnuViewMacros,
-                                 mnuViewTileVertically, notice, find, problems}),
+                                 mnuViewTileVertically, notice, find, problems, explain, outline}),
       input_(bench_.documents, menus, popUps,
              {[this](std::string_view name) { ShowPopUp(name); }, [this] { UpdateCCPButtons(); },
               [this](const Document& document) { return FindNext(document); },
-              [this] { mnuEditDefinition_Click(); }}),
+              [this] { mnuEditDefinition_Click(); }, &suggestions}),
       listMenus_(bench_.lists, menus) {
   AdoptControls();
   SetUpControls();

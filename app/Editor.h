@@ -6,6 +6,7 @@
 #include "app/ListMenus.h"
 #include "app/Mum.h"
 #include "app/NoticeBar.h"
+#include "app/OutlinePanel.h"
 #include "app/PaneInput.h"
 #include "app/SavedStates.h"
 #include "app/WelcomePage.h"
@@ -38,6 +39,9 @@ class Editor : public Form {
   NoticeBar notice;
   FindBar find;
   ProblemPanel problems;
+  ExplainPanel explain;
+  OutlinePanel outline;
+  SuggestionList suggestions;
   WelcomePage welcome;
   Menus menus;
   /// The pop-up menus: the panes', and the macro lists'.
@@ -147,6 +151,9 @@ class Editor : public Form {
   /// chooses.
   void mnuEditDefinition_Click();
   void mnuPlaceArray_Click(int index);
+  void mnuEditSuggest_Click() { suggestions.Open(); }
+  void mnuRHMExplainLine_Click() { bench_.settings.ChangeView(bench_.settings.ExplainLine, 1); }
+  void mnuEditTidyUp_Click() { bench_.rewriting.TidyUp(); }
   void mnuEditBack_Click() { bench_.jumps.Back(); }
   void mnuEditForward_Click() { bench_.jumps.Forward(); }
   void mnuEditNextProblem_Click() { bench_.problems.GoToNext(); }

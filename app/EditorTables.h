@@ -73,11 +73,14 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuEditReplace", "R&eplace ...", "Ctrl+R", &Editor::mnuEditReplace_Click},
     {1, "mnuEditGoto", "&Go to line ...", "Ctrl+G", &Editor::mnuEditGoto_Click},
     {1, "mnuEditDefinition", "S&how definition or uses", "Ctrl+D", &Editor::mnuEditDefinition_Click},
+    {1, "mnuEditRename", "Rename macro or f&lag ...", "Ctrl+Shift+R", &Editor::ShowTool<ToolId::Rename>},
     {1, "mnuEditBack", "&Back", "Alt+Left", &Editor::mnuEditBack_Click},
     {1, "mnuEditForward", "For&ward", "Alt+Right", &Editor::mnuEditForward_Click},
     {1, "mnuEditNextProblem", "Ne&xt problem", "Ctrl+.", &Editor::mnuEditNextProblem_Click},
     {1, "mnuEditPreviousProblem", "Pre&vious problem", "Ctrl+,", &Editor::mnuEditPreviousProblem_Click},
     {1, "mnuEditDivider3", "-"},
+    {1, "mnuEditSuggest", "Suggest &keywords and names", "Ctrl+Space", &Editor::mnuEditSuggest_Click},
+    {1, "mnuEditTidyUp", "T&idy up", "Ctrl+T", &Editor::mnuEditTidyUp_Click},
     {1, "mnuEditUpdateMacros", "Update &macros", "Ctrl+U", &Editor::mnuEditUpdateMacros_Click},
     {1, "mnuPreferencesProtectMacroFile", "Pr&otect macro file", "",
      &Editor::mnuPreferencesProtectMacroFile_Click},
@@ -136,6 +139,9 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuViewWelcomePage", "W&elcome page"},
     {1, "mnuViewMarkProblems", "Mar&k problems"},
     {1, "mnuViewProblems", "Problem&s", "Ctrl+Shift+M"},
+    {1, "mnuViewExplainLine", "Explain t&his line", "Ctrl+E"},
+    {1, "mnuViewOutline", "Outline by hea&dings", "Ctrl+Shift+O"},
+    {1, "mnuViewSuggestAsYouType", "Su&ggest words as you type"},
 
     {0, "mnuWindow", "&Window"},
     MenuArray<Editor>(1, "mnuWindowCascade", kArrangements),
@@ -159,6 +165,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuAppsEdit", "&Edit custom apps ...", "", &Editor::mnuAppsEdit_Click},
     {1, "mnuAppsDivider3", "-"},
     {1, "mnuSendToJoystick", "Download &joystick file to joystick", "F12", &Editor::mnuSendToJoystick_Click},
+    {1, "mnuAppsErrorsFirst", "Tell of err&ors before a download"},
     {1, "mnuAppsQuiet", "&Quiet mode transfer", "", &Editor::mnuAppsQuiet_Click},
 
     {0, "mnuGames", "&Games"},
@@ -195,6 +202,8 @@ inline constexpr MenuRow<Editor> kPopUps[] = {
     {1, "mnuRHMUndo", "&Undo", "", &Editor::mnuEditUndo_Click},
     {1, "mnuRHMRedo", "&Redo", "", &Editor::mnuEditRedo_Click},
     {1, "mnuRHMDefinition", "S&how definition or uses", "", &Editor::mnuEditDefinition_Click},
+    {1, "mnuRHMExplainLine", "E&xplain this line", "", &Editor::mnuRHMExplainLine_Click},
+    {1, "mnuRHMRename", "Rename every&where ...", "", &Editor::ShowTool<ToolId::Rename>},
     {1, "mnuRHMDivider1", "-"},
     {1, "mnuRHMCut", "Cu&t", "", &Editor::mnuEditCut_Click},
     {1, "mnuRHMCopy", "&Copy", "", &Editor::mnuEditCopy_Click},
@@ -245,6 +254,10 @@ inline constexpr ViewSwitchRow kViewSwitches[] = {
     {"mnuViewWelcomePage", &Settings::WelcomePage},
     {"mnuViewProblems", &Settings::ProblemsPanel},
     {"mnuViewMarkProblems", &Settings::MarkProblems},
+    {"mnuViewExplainLine", &Settings::ExplainLine},
+    {"mnuViewOutline", &Settings::Outline},
+    {"mnuViewSuggestAsYouType", &Settings::SuggestAsYouType},
+    {"mnuAppsErrorsFirst", &Settings::ErrorsBeforeDownload},
 };
 
 /// A toolbar button runs the entry of that name; where it has two, the selected tab tells which.

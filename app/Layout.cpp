@@ -71,6 +71,9 @@ void Layout::PlaceFrame() {
   for (int i = 0; i < controls_.lists.Count(); ++i) {
     controls_.lists(i).Move(kMargin, kListTop, controls_.categories.Width, listHeight);
   }
+  controls_.outline.tabs.Move(kMargin, 0, controls_.categories.Width, kComboTop);
+  controls_.outline.list.Move(kMargin, kComboTop, controls_.categories.Width,
+                              kListTop + listHeight - kComboTop);
   const float upperRow = kListTop + listHeight + kGap;
   const float lowerRow = upperRow + controls_.buttons(0).Height + kGap;
   for (int i = 0; i <= modifier::kLastUpper; ++i) {
@@ -99,7 +102,8 @@ float Layout::PlaceBars() {
   const float bottom = strip.Top + strip.Height - kPaneBottom + kPaneTop;
   const Pixels mostOfProblems{(strip.Height - kPaneTop) * kMostOfProblems};
   const Pixels problems = std::min(ProblemPanel::Height(), mostOfProblems);
-  const float above = PlaceBar(controls_.problems.frame, problems, bottom);
+  float above = PlaceBar(controls_.problems.frame, problems, bottom);
+  above = PlaceBar(controls_.explain.frame, ExplainPanel::Height(), above);
   return PlaceBar(controls_.find.frame, FindBar::Height(), above);
 }
 

@@ -3,8 +3,10 @@
 // twips.
 #pragma once
 
+#include "app/ExplainPanel.h"
 #include "app/FindBar.h"
 #include "app/NoticeBar.h"
+#include "app/OutlinePanel.h"
 #include "app/ProblemPanel.h"
 
 namespace tarvik {
@@ -32,6 +34,8 @@ struct LayoutControls {
   NoticeBar& notice;
   FindBar& find;
   ProblemPanel& problems;
+  ExplainPanel& explain;
+  OutlinePanel& outline;
 };
 
 class Layout {
@@ -62,7 +66,8 @@ class Layout {
   void PlaceTabStrip();
   /// Where the panes begin, below the bar of the notices where there is one.
   float PlaceNotice();
-  /// Where the panes end, above the bar of the search and the list of problems where there are such.
+  /// Where the panes end, above the bar of the search, the explanation and the list of problems where there
+  /// are such.
   float PlaceBars();
   /// At the bottom of the strip where it is on show; tells where it begins.
   float PlaceBar(Frame& bar, Pixels height, float bottom);

@@ -83,7 +83,7 @@ Mum::Mum(Application& application)
       bench_(application.workbench) {
   for (Component* const control :
        std::initializer_list<Component*>{&StatusBar, &ProgressBar1, &Picture1, &bench_.journals.timer,
-                                         &bench_.liveColours.timer, &bench_.problems.timer}) {
+                                         &bench_.liveColours.pause.timer, &bench_.problems.pause.timer}) {
     Adopt(*control);
   }
   busy_ = bench_.documents.Busy.Changed.Connect(

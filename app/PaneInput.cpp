@@ -43,7 +43,7 @@ void PaneInput::CaretMoved(const Document& document) const {
 
 void PaneInput::KeyDown(Document& document, Key& key) {
   document.Caret = document.text.SelStart;
-  if (menus_.RunCtrlLetter(key)) {
+  if (hooks_.suggestions->TakesKey(key) || menus_.RunCtrlLetter(key)) {
     key = {};
     return;
   }
@@ -133,9 +133,12 @@ void PaneInput::Change(Document& document) {
   document.SelLength = 0;
   if (documents_.values.LoadingFile == 1) return;
   // A change that no key has typed, such as a drop, is a step of its own.
-  if (!std::exchange(typing_, false)) document.Undo.BeginCommandBehindItsChange(documents_.settings.UndoMax);
+  const bool isTyped = std::exchange(typing_, false);
+  if (!isTyped) document.Undo.BeginCommandBehindItsChange(documents_.settings.UndoMax);
   documents_.TextChanged(document);
   document.Undo.Start = 1;
+  using enum SuggestionList::Change;
+  hooks_.suggestions->TextChanged(isTyped ? ByTyping : Otherwise);
 }
 
 }  // namespace tarvik

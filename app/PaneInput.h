@@ -2,8 +2,8 @@
 // the line number, and the decision which change is a step of undo.
 #pragma once
 
+#include "app/SuggestionList.h"
 #include "controls/Menu.h"
-#include "workbench/Documents.h"
 
 namespace tarvik {
 
@@ -18,6 +18,8 @@ class PaneInput {
     std::function<bool(const Document&)> findNext;
     /// Goes from the name at the caret to where it is defined.
     std::function<void()> goToDefinition;
+    /// What is offered at the caret: whether a key is for it, and word of each change of the text.
+    SuggestionList* suggestions;
   };
 
   PaneInput(Documents& documents, const Menus& menus, const Menus& popUps, Hooks hooks)

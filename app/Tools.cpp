@@ -5,6 +5,7 @@
 #include "tools/composer/InsertOptions.h"
 #include "tools/favourites/Favourites.h"
 #include "tools/find/FindAndReplace.h"
+#include "tools/find/RenameForm.h"
 #include "tools/pimlet/RAWform.h"
 #include "tools/preferences/DrivesForm.h"
 #include "tools/preferences/Preferences.h"
@@ -85,6 +86,7 @@ constexpr ToolRow kTools[] = {
     Row<CompareTexts>(ToolId::CompareTexts, "CompareTexts", EndsWith::Editor, Raise<CompareTexts>),
     Row<EarlierVersions>(ToolId::EarlierVersions, "EarlierVersions", EndsWith::Editor,
                          Modal<EarlierVersions>),
+    Row<RenameForm>(ToolId::Rename, "RenameForm", EndsWith::Editor, AskForName),
     Row<ColourSelector>(ToolId::ColourSelector, "ColourSelector", EndsWith::Frame, ShowColours),
     Row<KeyTestForm>(ToolId::KeyTest, "KeyTestForm", EndsWith::Frame, ShowKeyTest),
     Row<ProgramWait>(ToolId::ProgramWait, "ProgramWait", EndsWith::Frame),

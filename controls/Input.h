@@ -29,9 +29,14 @@ struct Mouse {
 /// Windows virtual-key codes. Those of keys that type are the characters that they type.
 namespace key {
 inline constexpr int kBackspace = 8;
+inline constexpr int kTab = 9;
 inline constexpr int kEnter = 13;
 inline constexpr int kEscape = 27;
 inline constexpr int kSpace = 32;
+inline constexpr int kPageUp = 33;
+inline constexpr int kPageDown = 34;
+inline constexpr int kUp = 38;
+inline constexpr int kDown = 40;
 inline constexpr int kInsert = 45;
 inline constexpr int kDelete = 46;
 inline constexpr int kKeypadEnter = 108;

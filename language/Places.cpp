@@ -196,6 +196,7 @@ std::vector<Mention> RenamePlaces(const FilePair& pair, const NameIndex& names, 
     search.Search(pair.macros, FileKind::Macros, pair.macroText);
   }
   std::ranges::sort(places, StandsBefore);
+  places.erase(std::unique(places.begin(), places.end()), places.end());
   return places;
 }
 

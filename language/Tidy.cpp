@@ -45,9 +45,9 @@ class Layout {
   /// Where a token of a line stands once the line is changed.
   [[nodiscard]] std::size_t ColumnOf(std::size_t line, std::size_t token) const {
     std::size_t column = lines_[line].tokens[token].range.start - lines_[line].start;
-    for (const TidyEdit& edit : EditsOf(line)) {
+    for (const Replacement& edit : EditsOf(line)) {
       if (edit.range.start >= lines_[line].tokens[token].range.start) continue;
-      column += edit.replacement.size() - edit.range.length;  // may wrap round, and back
+      column += edit.text.size() - edit.range.length;  // may wrap round, and back
     }
     return column;
   }
@@ -66,24 +66,24 @@ class Layout {
     edits_[line].push_back({{start, length}, std::string(column - EndBefore(line, token), ' ')});
   }
 
-  [[nodiscard]] std::vector<TidyEdit> TakeEdits() {
-    std::vector<TidyEdit> all;
-    for (std::vector<TidyEdit>& line : edits_) {
-      for (TidyEdit& edit : line) all.push_back(std::move(edit));
+  [[nodiscard]] std::vector<Replacement> TakeEdits() {
+    std::vector<Replacement> all;
+    for (std::vector<Replacement>& line : edits_) {
+      for (Replacement& edit : line) all.push_back(std::move(edit));
     }
-    std::ranges::sort(all, {}, [](const TidyEdit& edit) { return edit.range.start; });
+    std::ranges::sort(all, {}, [](const Replacement& edit) { return edit.range.start; });
     return all;
   }
 
  private:
-  [[nodiscard]] std::span<const TidyEdit> EditsOf(std::size_t line) const {
-    return line < edits_.size() ? std::span<const TidyEdit>(edits_[line]) : std::span<const TidyEdit>();
+  [[nodiscard]] std::span<const Replacement> EditsOf(std::size_t line) const {
+    return line < edits_.size() ? std::span<const Replacement>(edits_[line]) : std::span<const Replacement>();
   }
 
   std::string_view text_;
   FirstEquals equals_;
   std::vector<Line> lines_;
-  std::vector<std::vector<TidyEdit>> edits_;
+  std::vector<std::vector<Replacement>> edits_;
 };
 
 /// Lines up a token of each line on end that `tokenOf` finds one on.
@@ -158,7 +158,7 @@ void AlignModifiers(Layout& layout) {
 }
 
 template <class File>
-std::vector<TidyEdit> TidyFile(const File& file, std::string_view text, FirstEquals equals, Range lines) {
+std::vector<Replacement> TidyFile(const File& file, std::string_view text, FirstEquals equals, Range lines) {
   if (file.size() == 0) return {};
   Layout layout(text, equals);
   const std::size_t last = file.IndexAt(std::max(lines.start, lines.End() - (lines.length > 0 ? 1 : 0)));
@@ -171,7 +171,7 @@ std::vector<TidyEdit> TidyFile(const File& file, std::string_view text, FirstEqu
 
 }  // namespace
 
-std::vector<TidyEdit> Tidy(const FilePair& pair, FileKind file, Range lines) {
+std::vector<Replacement> Tidy(const FilePair& pair, FileKind file, Range lines) {
   if (file == FileKind::Joystick) {
     return TidyFile(pair.joystick, pair.joystickText, FirstEquals::IsKey, lines);
   }

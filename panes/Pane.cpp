@@ -6,6 +6,20 @@
 #include "text/Rtf.h"
 
 namespace tarvik {
+namespace {
+
+/// Where a position is behind the replacements: in one of them at most at its end.
+std::size_t Moved(std::span<const Replacement> replacements, std::size_t position) {
+  std::size_t moved = position;
+  for (const auto& [range, text] : replacements) {
+    if (range.start >= position) break;
+    const std::size_t within = std::min(position, range.End()) - range.start;
+    moved += position < range.End() ? std::min(within, text.size()) - within : text.size() - range.length;
+  }
+  return moved;
+}
+
+}  // namespace
 
 void Apply(const PaneEdit& edit, RichText& content) {
   if (!edit.OnlyColours()) content.text.replace(edit.position, edit.removed.text.size(), edit.inserted.text);
@@ -177,9 +191,12 @@ void Pane::UserMoved(Range from, std::size_t to) {
 Colour Pane::InsertionColour() const {
   if (selection_.length) return content_.colours.At(selection_.start);
   if (nextColour_) return *nextColour_;
-  const std::size_t at = selection_.start;
-  const bool lineStart = at == 0 || content_.text[at - 1] == '\n';
-  return content_.colours.At(lineStart ? at : at - 1);
+  return ColourFor(selection_.start);
+}
+
+Colour Pane::ColourFor(std::size_t position) const {
+  const bool lineStart = position == 0 || content_.text[position - 1] == '\n';
+  return content_.colours.At(lineStart ? position : position - 1);
 }
 
 std::optional<std::size_t> Pane::Find(std::string_view text, std::size_t start, std::size_t end,
@@ -223,6 +240,28 @@ Replaced Pane::ReplaceAll(std::string_view needle, std::string_view with, int op
   Change();
   SelChange();
   return replaced;
+}
+
+void Pane::ReplaceRanges(std::span<const Replacement> replacements) {
+  if (replacements.empty()) return;
+  const std::size_t first = replacements.front().range.start;
+  RichText result;
+  std::size_t from = first;
+  for (const auto& [range, text] : replacements) {
+    const Range between{from, range.start - from};
+    result.text.append(content_.text, between.start, between.length).append(text);
+    result.colours.Append(content_.colours, between);
+    const Colour colour = range.length > 0 ? content_.colours.At(range.start) : ColourFor(range.start);
+    result.colours.Append(text.size(), colour);
+    from = range.End();
+  }
+  const std::size_t start = Moved(replacements, selection_.start);
+  const Range selection{start, Moved(replacements, selection_.End()) - start};
+  Replace({first, from - first}, result);
+  selection_ = selection;
+  SelectionChanged();
+  Change();
+  SelChange();
 }
 
 void Pane::Span(std::string_view set) {

@@ -83,6 +83,10 @@ class Pane : public Control {
   /// where the text ended at first. `hitAt` hears of each hit's place.
   Replaced ReplaceAll(std::string_view text, std::string_view replacement, int options,
                       const std::function<void(std::size_t)>& hitAt);
+  /// Puts each text in its place, in one edit. The ranges come in order and apart. A text takes the colour of
+  /// what it replaces, and where that is nothing, of what a user types there; the selection stays with its
+  /// characters.
+  void ReplaceRanges(std::span<const Replacement> replacements);
   /// Extends the selection forward from its start, up to the first character of `set` or the end of the text.
   void Span(std::string_view set);
   /// The line of a character, 0-based; lines are the text's own, wrapped or not.
@@ -131,6 +135,8 @@ class Pane : public Control {
   [[nodiscard]] std::string Bytes(FileFormat format) const;
   [[nodiscard]] Range Clipped(Range range) const;
   [[nodiscard]] Colour InsertionColour() const;
+  /// The colour of what a user types there.
+  [[nodiscard]] Colour ColourFor(std::size_t position) const;
   void Replace(Range range, const RichText& content);
   void MoveSelection(Range range);
 

@@ -349,10 +349,8 @@ QString EditorPane::TipAt(const QPoint& place) const {
   if (const model::Problem* const problem = tellsProblems ? problems_.At(document_, *position) : nullptr) {
     parts += QStringLiteral("%1<br/><i>%2</i>").arg(shown(problem->text), shown(problem->advice));
   }
-  const model::FilePair pair = models_.Pair();
-  const model::NameIndex names(pair.joystick, pair.joystickText, pair.macros, pair.macroText);
   QStringList lines;
-  std::istringstream meaning(model::Hover(pair, names, FileKindOf(document_), *position));
+  std::istringstream meaning(model::Hover(models_.Pair(), models_.Names(), FileKindOf(document_), *position));
   for (std::string line; std::getline(meaning, line);) lines += shown(line);
   if (!lines.isEmpty()) parts += lines.join(QLatin1String("<br/>"));
   if (parts.isEmpty()) return {};

@@ -12,8 +12,6 @@ namespace tarvik::screen {
 namespace {
 
 constexpr int kTabHeight = 23;
-constexpr int kCaptionTop = 3;
-constexpr int kCaptionLeft = 8;
 
 /// Four dots below each other where something can be dragged.
 void PaintGrip(QPainter& painter, const QPoint& centre, const QPalette& palette) {
@@ -22,17 +20,14 @@ void PaintGrip(QPainter& painter, const QPoint& centre, const QPalette& palette)
   }
 }
 
-/// The macro frame: a caption, and a line along the edge that can be dragged.
+/// The macro frame, with a line along the edge that can be dragged.
 class FrameView : public QWidget {
  public:
   FrameView(Frame& frame, Bindings& bindings, QWidget* parent) : QWidget(parent), frame_(frame) {
     bindings.BindControl(frame, *this);
     bindings.Place(frame, *this, Unit::Pixel);
     bindings.BindMouse(frame, *this);
-    bindings.Bind(frame.Caption, [this] {
-      setAccessibleName(ToScreen(frame_.Caption.Get()));
-      update();
-    });
+    bindings.Bind(frame.Caption, [this] { setAccessibleName(ToScreen(frame_.Caption.Get())); });
   }
 
  protected:
@@ -40,8 +35,6 @@ class FrameView : public QWidget {
 
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    painter.drawText(QRect(kCaptionLeft, kCaptionTop, width() - 2 * kCaptionLeft, fontMetrics().height()),
-                     Qt::AlignLeft | Qt::AlignTop, accessibleName());
     PaintGrip(painter, {width() - kFrameGrip / 2 - 1, height() / 2}, palette());
   }
 
@@ -114,14 +107,18 @@ EditorView::EditorView(Editor& editor, Workbench& workbench, Clock clock)
   notice_ = new NoticeView(editor.notice, bindings_, this);
   find_ = new FindView(editor.find, bindings_, this);
   problems_ = new ProblemView(editor.problems, bindings_, this);
+  explain_ = new ExplainView(editor.explain, bindings_, this);
   MakePanes(workbench);
+  MakeSuggestions();
   MakeWelcome();
   OrderFocus();
   bindings_.Shows(editor, *this);
   bindings_.Bind(editor.Caption, [this] { setWindowTitle(ToScreen(editor_.Caption.Get())); });
   for (const auto* const menus : {&menus_, &popUps_}) PopUpOnDemand(*menus, editor, *this, bindings_);
   if (clock == Clock::Scripted) return;
-  for (Timer* timer : {&editor.Timer1, &editor.TimerBlinkLine}) bindings_.Bind(*timer, *new QTimer(this));
+  for (Timer* timer : {&editor.Timer1, &editor.TimerBlinkLine, &editor.explain.pause.timer,
+                       &editor.outline.pause.timer, &editor.suggestions.pause.timer})
+    bindings_.Bind(*timer, *new QTimer(this));
 }
 
 void EditorView::MakeMacroFrame() {
@@ -133,6 +130,7 @@ void EditorView::MakeMacroFrame() {
   macros_->list().Add(editor_.List1);
   macros_->Add(editor_.RenewMacros, "update-macros");
   bindings_.Place(editor_.List1(0), *macros_, Unit::Twip);
+  MakeOutline(*frame, *categories);
   for (int i = 0; i < Editor::kModifierButtons; ++i) {
     auto* const button = new QToolButton(frame);
     button->setFocusPolicy(Qt::TabFocus);
@@ -140,6 +138,27 @@ void EditorView::MakeMacroFrame() {
     bindings_.BindMouse(editor_.Command1(i), *button);
     bindings_.Place(editor_.Command1(i), *button, Unit::Twip);
   }
+}
+
+/// In the place of the lists and of the box above them, which go while it is there.
+void EditorView::MakeOutline(QWidget& frame, QWidget& categories) {
+  OutlinePanel& panel = editor_.outline;
+  lists_ = new QTabBar(&frame);
+  lists_->setDrawBase(false);
+  lists_->setDocumentMode(true);
+  lists_->setAccessibleName(tr("Macros or outline"));
+  bindings_.Bind(panel.tabs, *lists_);
+  connect(lists_, &QTabBar::tabBarDoubleClicked, this, [this] { editor_.FrameMacros.DblClick(); });
+  auto* const outline = new FilteredList(bindings_, tr("Outline"), Ticks::None, &frame);
+  outline->list().Add(panel.list);
+  bindings_.Place(panel.tabs, *lists_, Unit::Twip);
+  bindings_.Place(panel.list, *outline, Unit::Twip);
+  bindings_.Bind(panel.list.Visible, [this, outline, &panel, &categories] {
+    outline->setVisible(panel.list.Visible);
+    for (QWidget* const each : {&categories, static_cast<QWidget*>(macros_)}) {
+      each->setVisible(!panel.list.Visible);
+    }
+  });
 }
 
 void EditorView::MakeTabs() {
@@ -190,6 +209,15 @@ void EditorView::MakePanes(Workbench& workbench) {
   connect(larger, &QShortcut::activated, this, [this] { editor_.mnuViewZoomIn_Click(); });
 }
 
+void EditorView::MakeSuggestions() {
+  const auto place = [this](std::size_t position) {
+    EditorPane& pane = *panes_[editor_.TabStrip1.SelectedIndex() - 1];
+    const QRect caret = pane.CaretAt(position);
+    return QRect(pane.viewport()->mapTo(this, caret.topLeft()), caret.size());
+  };
+  new SuggestionView(editor_.suggestions, bindings_, place, this);
+}
+
 /// Over both files in the tiled view too.
 void EditorView::MakeWelcome() {
   welcome_ = new WelcomeView(editor_.welcome, bindings_, this);
@@ -220,7 +248,7 @@ void EditorView::OrderFocus() {
   setTabOrder(panes_[0], splitter_);
   setTabOrder(splitter_, panes_[1]);
   last = panes_[1];
-  for (const auto& parts : {find_->parts(), problems_->parts()}) {
+  for (const auto& parts : {find_->parts(), explain_->parts(), problems_->parts()}) {
     for (QWidget* const next : parts) setTabOrder(std::exchange(last, next), next);
   }
 }

@@ -5,10 +5,12 @@
 
 #include "app/Editor.h"
 #include "screen/EditorPane.h"
+#include "screen/ExplainView.h"
 #include "screen/FindView.h"
 #include "screen/FormView.h"
 #include "screen/NoticeView.h"
 #include "screen/ProblemView.h"
+#include "screen/SuggestionView.h"
 #include "screen/WelcomeView.h"
 #include "screen/widgets/FilteredList.h"
 #include "screen/widgets/MenuBuilder.h"
@@ -29,8 +31,10 @@ class EditorView : public QWidget, public FormView {
 
  private:
   void MakeMacroFrame();
+  void MakeOutline(QWidget& frame, QWidget& categories);
   void MakeTabs();
   void MakePanes(Workbench& workbench);
+  void MakeSuggestions();
   void MakeWelcome();
   void OrderFocus();
   void PlaceTabs();
@@ -40,10 +44,12 @@ class EditorView : public QWidget, public FormView {
   std::vector<std::unique_ptr<QMenu>> menus_;
   std::vector<std::unique_ptr<QMenu>> popUps_;
   FilteredList* macros_ = nullptr;
+  QTabBar* lists_ = nullptr;
   QTabBar* tabs_ = nullptr;
   NoticeView* notice_ = nullptr;
   FindView* find_ = nullptr;
   ProblemView* problems_ = nullptr;
+  ExplainView* explain_ = nullptr;
   WelcomeView* welcome_ = nullptr;
   EditorPane* panes_[2] = {};
   QWidget* splitter_ = nullptr;

@@ -13,34 +13,29 @@ constexpr int kCountWidth = 110;
 
 }  // namespace
 
-FindView::FindView(FindBar& find, Bindings& bindings, QWidget* parent) : QFrame(parent), find_(find) {
-  setFrameShape(QFrame::StyledPanel);
-  setAutoFillBackground(true);
-  bindings.BindControl(find.frame, *this);
-  bindings.Place(find.frame, *this, Unit::Pixel);
+FindView::FindView(FindBar& find, Bindings& bindings, QWidget* parent)
+    : PanelFrame(
+          find.frame, bindings, [&find] { find.Cancel(); }, parent),
+      find_(find) {
   const FormLayout in(bindings);
   QWidget* const line = Named(in.Show(find.text), tr("Find"));
   line->setMaximumWidth(kTextWidth);
   QWidget* const count = in.Show(find.count);
   count->setFixedWidth(kCountWidth);
-  parts_ = {line,
-            in.Show(find.previous),
-            in.Show(find.next),
-            in.Show(find.matchCase),
-            in.Show(find.wholeWord),
-            in.Show(find.close)};
+  SetParts({line, in.Show(find.previous), in.Show(find.next), in.Show(find.matchCase),
+            in.Show(find.wholeWord), in.Show(find.close)});
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(kMargin, 2, kMargin, 2);
-  for (QWidget* const part : parts_) {
-    if (part == parts_.back()) row->addStretch(1);
+  for (QWidget* const part : parts()) {
+    if (part == parts().back()) row->addStretch(1);
     row->addWidget(part);
     if (part == line) row->addWidget(count);
   }
 }
 
 void FindView::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) return find_.Cancel();
-  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QFrame::keyPressEvent(event);
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+    return PanelFrame::keyPressEvent(event);
   (event->modifiers() & Qt::ShiftModifier ? find_.previous : find_.next).Click();
 }
 

@@ -65,8 +65,8 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   if (clock == Clock::Real) {
     KeepPanels();
     for (Timer* const timer :
-         {&application.workbench.journals.timer, &application.workbench.liveColours.timer,
-          &application.workbench.problems.timer}) {
+         {&application.workbench.journals.timer, &application.workbench.liveColours.pause.timer,
+          &application.workbench.problems.pause.timer}) {
       bindings_.Bind(*timer, *new QTimer(this));
     }
   }

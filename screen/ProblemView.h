@@ -1,26 +1,20 @@
 // The panel below the text that lists what is wrong in the two files.
 #pragma once
 
-#include <QFrame>
-
 #include "app/ProblemPanel.h"
-#include "screen/widgets/Binding.h"
+#include "screen/PanelFrame.h"
 
 namespace tarvik::screen {
 
-class ProblemView : public QFrame {
+class ProblemView : public PanelFrame {
  public:
   ProblemView(ProblemPanel& panel, Bindings& bindings, QWidget* parent);
-
-  /// What can have the focus, in order.
-  [[nodiscard]] const std::vector<QWidget*>& parts() const { return parts_; }
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   ProblemPanel& panel_;
-  std::vector<QWidget*> parts_;
 };
 
 }  // namespace tarvik::screen

@@ -21,6 +21,14 @@ struct Range {
   friend bool operator==(const Range&, const Range&) = default;
 };
 
+/// A text that comes in the place of a range, which may be empty.
+struct Replacement {
+  Range range;
+  std::string text;
+
+  friend bool operator==(const Replacement&, const Replacement&) = default;
+};
+
 /// The colours of consecutive characters, kept as runs: neighbouring runs differ and none is empty.
 class ColourRuns {
  public:

@@ -20,19 +20,20 @@ std::string LineAround(std::string_view text, std::size_t position) {
 }  // namespace
 
 std::vector<Definitions::Place> Definitions::FromCaret() const {
-  const model::FilePair pair = models_.Pair();
-  const model::NameIndex names(pair.joystick, pair.joystickText, pair.macros, pair.macroText);
   const Document& here = documents_.Active();
   const model::FileKind file = FileKindOf(here);
   const std::size_t caret = here.text.Selection().start;
-  const auto name = model::NameAt(names, file, caret);
+  const auto name = model::NameAt(models_.Names(), file, caret);
   if (!name) return {};
-  const auto leadTo = name->isDefinition ? model::UsesOf : model::DefinitionsOf;
+  return Describe((name->isDefinition ? model::UsesOf : model::DefinitionsOf)(models_.Names(), file, caret));
+}
+
+std::vector<Definitions::Place> Definitions::Describe(std::span<const model::Mention> mentions) const {
   std::vector<Place> places;
-  PerDocument<model::LinePositions> lines{model::LinePositions(pair.joystickText),
-                                          model::LinePositions(pair.macroText)};
-  for (const model::Mention& mention : leadTo(names, file, caret)) {
-    Document& document = mention.file == model::FileKind::Joystick ? documents_.joystick : documents_.macro;
+  PerDocument<model::LinePositions> lines{model::LinePositions(documents_.joystick.text.Characters()),
+                                          model::LinePositions(documents_.macro.text.Characters())};
+  for (const model::Mention& mention : mentions) {
+    Document& document = DocumentOf(documents_, mention.file);
     const std::size_t line = lines.Of(document).Of(mention.range.start).line;
     const std::string text = LineAround(document.text.Characters(), mention.range.start);
     places.push_back({&document, mention.range, LineInWords(document, line).append(text)});

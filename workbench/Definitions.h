@@ -18,6 +18,8 @@ class Definitions {
   /// Where the name at the caret of the file on top leads to: from a use to what defines it, from a
   /// definition to all uses. Empty where there is no name, or nothing else of that name.
   [[nodiscard]] std::vector<Place> FromCaret() const;
+  /// Mentions of a name, each with its line.
+  [[nodiscard]] std::vector<Place> Describe(std::span<const model::Mention> mentions) const;
   void GoTo(const Place& place);
 
  private:

@@ -28,6 +28,7 @@ FileModels::FileModels(Documents& documents)
 }
 
 void FileModels::Follow(const Document& document, const PaneEdit& edit) {
+  names_.reset();
   const auto follow = [&](auto& file) {
     file.Edit(document.text.Characters(), {edit.position, edit.removed.size()}, edit.inserted.size());
   };
@@ -36,6 +37,14 @@ void FileModels::Follow(const Document& document, const PaneEdit& edit) {
   } else {
     follow(macros_);
   }
+}
+
+const model::NameIndex& FileModels::Names() const {
+  if (!names_) {
+    names_.emplace(joystick_, documents_.joystick.text.Characters(), macros_,
+                   documents_.macro.text.Characters());
+  }
+  return *names_;
 }
 
 model::FilePair FileModels::Pair() const {

@@ -1,13 +1,16 @@
 // What the two files mean, kept up to date with every edit of their panes.
 #pragma once
 
-#include "language/FilePair.h"
+#include "language/Names.h"
 #include "workbench/Documents.h"
 
 namespace tarvik {
 
 [[nodiscard]] inline model::FileKind FileKindOf(const Document& document) {
   return document.IsJoystick() ? model::FileKind::Joystick : model::FileKind::Macros;
+}
+[[nodiscard]] inline Document& DocumentOf(Documents& documents, model::FileKind file) {
+  return file == model::FileKind::Joystick ? documents.joystick : documents.macro;
 }
 /// The beginning of what is told of a line, which counts from 1: "Joystick 12:  ".
 [[nodiscard]] std::string LineInWords(const Document& document, std::size_t line);
@@ -19,6 +22,8 @@ class FileModels {
   /// Both files with all that is known of what is attached and of how the files are called. It is good until
   /// the next edit.
   [[nodiscard]] model::FilePair Pair() const;
+  /// Its names, until the next edit too.
+  [[nodiscard]] const model::NameIndex& Names() const;
 
  private:
   void Follow(const Document& document, const PaneEdit& edit);
@@ -26,6 +31,7 @@ class FileModels {
   Documents& documents_;
   model::JoystickFile joystick_;
   model::MacroFile macros_;
+  mutable std::optional<model::NameIndex> names_;  // made when somebody asks
   std::vector<Connection> connections_;
 };
 

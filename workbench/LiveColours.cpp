@@ -5,7 +5,6 @@
 namespace tarvik {
 namespace {
 
-constexpr int kPause = 100;                 // milliseconds
 constexpr std::size_t kMostAtOnce = 4'096;  // characters of a line that are coloured within a key's time
 
 ColourRuns Coloured(std::string_view text, const Document& document, const Settings& settings) {
@@ -25,8 +24,6 @@ Range LinesOf(std::string_view text, const PaneEdit& edit) {
 }  // namespace
 
 LiveColours::LiveColours(Documents& documents) : documents_(documents) {
-  timer.Interval = kPause;
-  timer.Elapsed = [this] { Renew(); };
   Settings& settings = documents.settings;
   const auto renew = [this] { Renew(); };
   connections_.push_back(settings.ColourAsYouType.Changed.Connect(renew));
@@ -46,7 +43,7 @@ const ColourRuns* LiveColours::Of(const Document& document) const {
 }
 
 void LiveColours::Renew() {
-  timer.Enabled = false;
+  pause.Cancel();
   for (const Document* const document : {&documents_.joystick, &documents_.macro}) {
     ColourRuns colours;
     if (IsOn()) colours = Coloured(document->text.Characters(), *document, documents_.settings);
@@ -67,8 +64,7 @@ void LiveColours::Follow(const Document& document, const PaneEdit& edit) {
   }
   colours_.Of(document).Replace({lines.start, lines.length + edit.removed.size() - edit.inserted.size()},
                                 colours);
-  timer.Enabled = false;
-  timer.Enabled = true;
+  pause.Begin();
 }
 
 }  // namespace tarvik

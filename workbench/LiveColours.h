@@ -3,6 +3,7 @@
 #pragma once
 
 #include "workbench/Documents.h"
+#include "workbench/Pause.h"
 
 namespace tarvik {
 
@@ -14,11 +15,11 @@ class LiveColours {
  public:
   explicit LiveColours(Documents& documents);
 
-  Timer timer{owner_, "TimerColours"};
+  Pause pause{owner_, "TimerColours", 100, [this] { Renew(); }};
 
   /// The colours of all characters of a document; null where the user does not want to see them.
   [[nodiscard]] const ColourRuns* Of(const Document& document) const;
-  /// Colours both files as a whole, without waiting for the timer.
+  /// Colours both files as a whole, without waiting for the pause.
   void Renew();
 
   /// The document is coloured otherwise than one edit tells.

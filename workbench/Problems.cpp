@@ -5,8 +5,6 @@
 namespace tarvik {
 namespace {
 
-constexpr int kPause = 80;  // milliseconds
-
 /// What an edit leaves of a range that it did not tear; nothing of one that it did.
 std::optional<Range> Moved(Range range, const PaneEdit& edit) {
   const Range removed{edit.position, edit.removed.size()};
@@ -32,8 +30,6 @@ void AppendCount(std::string& words, std::size_t count, std::string_view what) {
 Colour ColourOf(model::Severity severity) { return kColours[static_cast<std::size_t>(severity)]; }
 
 Problems::Problems(Documents& documents, const FileModels& models) : documents_(documents), models_(models) {
-  timer.Interval = kPause;
-  timer.Elapsed = [this] { Renew(); };
   Settings& settings = documents.settings;
   const auto follow = [this] { ShowOrForget(); };
   for (Property<int>* const part : {&settings.MarkProblems, &settings.ProblemsPanel, &settings.JoyName,
@@ -53,20 +49,19 @@ bool Problems::IsWanted() const {
 }
 
 void Problems::ShowOrForget() {
-  timer.Enabled = false;
-  timer.Enabled = IsWanted();
-  if (IsWanted()) return;
+  if (IsWanted()) return pause.Begin();
+  pause.Cancel();
   found_ = {};
   Changed();
 }
 
 void Problems::Renew() {
-  timer.Enabled = false;
+  pause.Cancel();
   PerDocument<std::vector<model::Problem>> found;
   std::size_t longest = 0;
   for (model::Problem& problem : model::ProblemsIn(models_.Pair())) {
     longest = std::max(longest, problem.range.length);
-    found.Of(DocumentOf(problem)).push_back(std::move(problem));
+    found.Of(DocumentOf(documents_, problem.file)).push_back(std::move(problem));
   }
   const bool areSame = found.joystick == found_.joystick && found.macro == found_.macro;
   if (areSame && !std::exchange(torn_, false)) return;
@@ -84,9 +79,7 @@ void Problems::Follow(const Document& document, const PaneEdit& edit) {
   });
   torn_ = torn_ || torn > 0;
   longest_ += edit.inserted.size();  // one of them may have grown
-  if (!IsWanted()) return;
-  timer.Enabled = false;
-  timer.Enabled = true;
+  if (IsWanted()) pause.Begin();
 }
 
 std::size_t Problems::Count(model::Severity severity) const {
@@ -115,12 +108,8 @@ const model::Problem* Problems::At(const Document& document, std::size_t positio
   return gravest;
 }
 
-Document& Problems::DocumentOf(const model::Problem& problem) const {
-  return problem.file == model::FileKind::Joystick ? documents_.joystick : documents_.macro;
-}
-
 void Problems::GoTo(const model::Problem& problem) {
-  Document& document = DocumentOf(problem);
+  Document& document = DocumentOf(documents_, problem.file);
   if (&documents_.Active() != &document) documents_.Select(document);
   document.text.Select(problem.range);
   documents_.FocusActiveText();
@@ -146,7 +135,7 @@ void Problems::Go(int step) {
   const Document& here = documents_.Active();
   const std::size_t caret = here.text.Selection().start;
   const auto isBefore = [&](const model::Problem* problem, std::size_t place) {
-    if (&DocumentOf(*problem) != &here) return !here.IsJoystick();
+    if (&DocumentOf(documents_, problem->file) != &here) return !here.IsJoystick();
     return problem->range.start < place;
   };
   const auto before = std::ranges::partition_point(all, [&](auto* each) { return isBefore(each, caret); });

@@ -3,6 +3,7 @@
 
 #include "language/Problems.h"
 #include "workbench/FileModels.h"
+#include "workbench/Pause.h"
 
 namespace tarvik {
 
@@ -15,7 +16,7 @@ class Problems {
  public:
   Problems(Documents& documents, const FileModels& models);
 
-  Timer timer{owner_, "TimerProblems"};
+  Pause pause{owner_, "TimerProblems", 80, [this] { Renew(); }};
 
   /// Those of a document, by their places.
   [[nodiscard]] const std::vector<model::Problem>& Of(const Document& document) const {
@@ -45,7 +46,6 @@ class Problems {
   void ShowOrForget();
   void Follow(const Document& document, const PaneEdit& edit);
   void Go(int step);
-  [[nodiscard]] Document& DocumentOf(const model::Problem& problem) const;
 
   Documents& documents_;
   const FileModels& models_;

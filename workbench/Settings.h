@@ -103,6 +103,9 @@ class Settings : public Component {
   Property<int> MarkProblems{*this, "MarkProblems"};                  ///< in the text and beside it
   Property<int> ProblemsPanel{*this, "ProblemsPanel"};                ///< below the text
   Property<int> ErrorsBeforeDownload{*this, "ErrorsBeforeDownload"};  ///< are told of, once
+  Property<int> ExplainLine{*this, "ExplainLine"};                    ///< below the text
+  Property<int> Outline{*this, "Outline"};                            ///< in the place of the macro lists
+  Property<int> SuggestAsYouType{*this, "SuggestAsYouType"};          ///< what the word may become
   Property<int> FixedPitch{*this, "FixedPitch"};
   Property<int> Zoom{*this, "Zoom"};            ///< per cent
   Property<int> TileShare{*this, "TileShare"};  ///< of the joystick file in the tiled view, in thousandths

@@ -39,6 +39,7 @@ enum class ToolId {
   UnsavedTexts,
   CompareTexts,
   EarlierVersions,
+  Rename,
 };
 
 /// The pages of the preferences.

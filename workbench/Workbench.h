@@ -16,6 +16,7 @@
 #include "workbench/Preflight.h"
 #include "workbench/Problems.h"
 #include "workbench/Recovery.h"
+#include "workbench/Rewriting.h"
 #include "workbench/UnsavedWork.h"
 
 namespace tarvik {
@@ -56,6 +57,7 @@ class Workbench {
   FileModels models{documents};
   Problems problems{documents, models};
   Definitions definitions{documents, models};
+  Rewriting rewriting{documents, models, insertion};
   Notices notices;
   Preflight preflight{documents, problems, notices};
   ForeignChanges foreign{documents, files, insertion, notices};

@@ -12,6 +12,7 @@
 #include "tools/blocks/TextBlocks.h"
 #include "tools/favourites/Favourites.h"
 #include "tools/find/FindAndReplace.h"
+#include "tools/find/RenameForm.h"
 #include "tools/pimlet/RAWform.h"
 #include "tools/preferences/DrivesForm.h"
 #include "tools/programs/Games.h"
@@ -365,6 +366,14 @@ QLayout* Page(EarlierVersions& form, const FormLayout& in) {
                       in.Show(form.RestoreAll), in.Show(form.Done)})});
 }
 
+QLayout* Page(RenameForm& form, const FormLayout& in) {
+  QWidget* const places = Named(in.Show(form.Places), QStringLiteral("Places"));
+  places->setMinimumSize(440, 180);
+  return Column({Fields({{"New name", in.Show(form.NewName)}}), Wrapped(in.Show(form.Why)),
+                 in.Show(form.Found), places, in.Show(form.InRemarks),
+                 Row({Stretch(), in.Show(form.Rename), in.Show(form.Cancelled)})});
+}
+
 QLayout* Page(ViewImage& form, const FormLayout& in) {
   return PicturePage(form, form.Image1, in.Show(form.Image1), QStringLiteral("Picture"), in);
 }
@@ -404,7 +413,7 @@ MakePage PageOf(Form& form) {
   return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, Wizard, Speedy, Title, Heading,
                    SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
                    EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, CompareTexts, UnsavedTexts,
-                   EarlierVersions, ViewImage, SelectPictureForm>(form);
+                   EarlierVersions, RenameForm, ViewImage, SelectPictureForm>(form);
 }
 
 }  // namespace tarvik::screen

@@ -53,7 +53,8 @@ TEST(EditorTables, NoShortcutIsGivenTwice) {
     const std::string shortcut(row.shortcut);
     if (shortcut.empty()) continue;
     EXPECT_TRUE(seen.insert(shortcut).second) << shortcut << " of " << FullName(row);
-    EXPECT_THAT(shortcut, testing::MatchesRegex("Ctrl\\+(Shift\\+)?[A-Z0+.,-]|F[0-9]+|Alt\\+(Left|Right)"));
+    EXPECT_THAT(shortcut,
+                testing::MatchesRegex("Ctrl\\+(Shift\\+)?([A-Z0+.,-]|Space)|F[0-9]+|Alt\\+(Left|Right)"));
   }
 }
 

@@ -19,7 +19,7 @@ std::string Tidied(const std::string& text, FileKind file, std::optional<Range> 
   for (std::size_t i = edits.size(); i-- > 0;) {
     EXPECT_EQ(text.substr(edits[i].range.start, edits[i].range.length).find_first_not_of(" "),
               std::string::npos);
-    tidied.replace(edits[i].range.start, edits[i].range.length, edits[i].replacement);
+    tidied.replace(edits[i].range.start, edits[i].range.length, edits[i].text);
   }
   return tidied;
 }

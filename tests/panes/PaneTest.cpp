@@ -327,6 +327,50 @@ TEST_F(PaneTest, TheEditsToldOfAreTheWholeStory) {
   EXPECT_EQ(follower, RichText());
 }
 
+TEST_F(PaneTest, RangesAreReplacedInOneEditEachInTheColourOfItsPlace) {
+  pane.SetContent(RichText("ab cd\r\nef", ColourRuns(9, kRed)));
+  Colour({3, 2}, kBlue);
+  pane.Select({4, 4});  // "d", the line break, and "e"
+  changes = 0;
+  int edits = 0;
+  const Connection edited = pane.Edited.Connect([&edits](const PaneEdit&) { ++edits; });
+  pane.ReplaceRanges(std::vector<Replacement>{{{0, 1}, ""}, {{2, 1}, "   "}, {{5, 0}, "X"}, {{8, 1}, "yz"}});
+  EXPECT_EQ(pane.Text.Get(), "b   cdX\r\neyz");
+  EXPECT_EQ(pane.SelText.Get(), "dX\r\ne");
+  EXPECT_EQ(At(1), kRed);
+  EXPECT_EQ(At(4), kBlue);
+  EXPECT_EQ(At(6), kBlue);
+  EXPECT_EQ(At(10), kRed);
+  EXPECT_EQ(edits, 1);
+  EXPECT_EQ(changes, 1);
+  pane.ReplaceRanges({});
+  EXPECT_EQ(edits, 1);
+}
+
+TEST_F(PaneTest, RangesAreReplacedAsFromTheLastToTheFirst) {
+  std::minstd_rand random(11);
+  for (int round = 0; round < 500; ++round) {
+    const std::string text(5 + random() % 60, 'a');
+    std::vector<Replacement> replacements;
+    for (std::size_t at = random() % 5; at < text.size(); at += 1 + random() % 9) {
+      const std::size_t length = random() % std::min<std::size_t>(4, text.size() - at);
+      replacements.push_back({{at, length}, std::string(random() % 4, 'b')});
+      at += length;
+    }
+    pane.Text = text;
+    other.Text = text;
+    const std::size_t caret = random() % text.size();
+    pane.Select({caret, 0});
+    pane.ReplaceRanges(replacements);
+    for (std::size_t i = replacements.size(); i-- > 0;) {
+      other.Select(replacements[i].range);
+      other.SelText = replacements[i].text;
+    }
+    ASSERT_EQ(pane.Content(), other.Content()) << round;
+    ASSERT_LE(pane.SelStart.Get(), pane.Characters().size());
+  }
+}
+
 TEST_F(PaneTest, ReplacingAllIsOneEditThatDoesWhatReplacingOneByOneWould) {
   constexpr const char* kPieces[] = {"a", "A", "ab", " ", "\r\n", "Rem ", "_", "b"};
   std::minstd_rand random(7);

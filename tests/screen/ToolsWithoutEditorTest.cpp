@@ -38,6 +38,7 @@ struct Way {
 constexpr Way kWays[] = {
     {"Mum", "Picture1"},
     {"Editor", "mnuEditFind"},
+    {"Editor", "mnuEditRename"},
     {"Editor", "mnuShowInsertWindow"},
     {"Editor", "mnuInsertRAW"},
     {"Editor", "mnuInsertTitle"},

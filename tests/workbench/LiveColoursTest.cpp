@@ -53,7 +53,7 @@ TEST_F(LiveColoursTest, AreThoseOfColouringTheFileAndLeaveItAsItIs) {
   const ColourRuns shown = *live.Of(joystick);
   EXPECT_EQ(shown, Coloured(joystick));
   bare.macro.text.SetContent(RichText("x = BTN ~ y\r\n"));
-  live.timer.Elapsed();
+  live.pause.timer.Elapsed();
   const ColourRuns shownOfMacro = *live.Of(bare.macro);
   EXPECT_EQ(shownOfMacro, Coloured(bare.macro));
 }
@@ -64,7 +64,7 @@ TEST_F(LiveColoursTest, AreThereWithTheKeyInItsLine) {
   EXPECT_EQ(live.Of(joystick)->At(line), settings.RemStatements.Get());
   EXPECT_EQ(live.Of(joystick)->At(line + 8), settings.RemStatements.Get());
   EXPECT_EQ(live.Of(joystick)->At(Find("USE")), Coloured(joystick).At(Find("USE")));
-  EXPECT_TRUE(live.timer.Enabled);
+  EXPECT_TRUE(live.pause.timer.Enabled);
   EXPECT_EQ(changed, 0);
 }
 
@@ -72,8 +72,8 @@ TEST_F(LiveColoursTest, OfOtherLinesFollowAfterAPause) {
   joystick.text.Select({Find("RAW"), 5});
   joystick.text.SelText = "";
   EXPECT_NE(*live.Of(joystick), Coloured(joystick));
-  live.timer.Elapsed();
-  EXPECT_FALSE(live.timer.Enabled);
+  live.pause.timer.Elapsed();
+  EXPECT_FALSE(live.pause.timer.Enabled);
   EXPECT_EQ(changed, 1);
   const ColourRuns shown = *live.Of(joystick);
   EXPECT_EQ(shown, Coloured(joystick));
@@ -90,7 +90,7 @@ TEST_F(LiveColoursTest, KeepTheirPlacesUnderAnyEdits) {
     joystick.text.SelText = words[random() % std::size(words)];
     ASSERT_EQ(live.Of(joystick)->size(), joystick.text.Characters().size());
     if (i % 8 != 0) continue;
-    live.timer.Elapsed();
+    live.pause.timer.Elapsed();
     const ColourRuns shown = *live.Of(joystick);
     ASSERT_EQ(shown, Coloured(joystick)) << joystick.text.Characters();
   }
@@ -98,11 +98,11 @@ TEST_F(LiveColoursTest, KeepTheirPlacesUnderAnyEdits) {
 
 TEST_F(LiveColoursTest, OfAVeryLongLineWaitForThePause) {
   joystick.text.SetContent(RichText("Rem " + std::string(100'000, 'x')));
-  live.timer.Elapsed();
+  live.pause.timer.Elapsed();
   Type(50'000, "abc");
   EXPECT_EQ(live.Of(joystick)->At(50'001), kBlack);
   EXPECT_EQ(live.Of(joystick)->At(49'999), settings.RemStatements.Get());
-  live.timer.Elapsed();
+  live.pause.timer.Elapsed();
   EXPECT_EQ(live.Of(joystick)->At(50'001), settings.RemStatements.Get());
 }
 
@@ -112,7 +112,7 @@ TEST_F(LiveColoursTest, AreThoseOfTheSettingsAndNoneWhereTheyAreOff) {
   settings.ColourAsYouType = 0;
   EXPECT_EQ(live.Of(joystick), nullptr);
   Type(0, "Rem ");
-  EXPECT_FALSE(live.timer.Enabled);
+  EXPECT_FALSE(live.pause.timer.Enabled);
   settings.ColourAsYouType = 1;
   EXPECT_EQ(live.Of(joystick)->At(0), Rgb(1, 2, 3));
 }

@@ -40,10 +40,10 @@ TEST_F(ProblemsTest, AreFoundWhenTheTimerHasElapsedAndNotBefore) {
   Type(macro, 0, "Gear = g");
   Type(joystick, 0, "BTN S1 Gaer");
   EXPECT_THAT(Words(joystick), IsEmpty());
-  EXPECT_TRUE(problems.timer.Enabled);
-  problems.timer.Elapsed();
+  EXPECT_TRUE(problems.pause.timer.Enabled);
+  problems.pause.timer.Elapsed();
   EXPECT_THAT(Words(joystick), ElementsAre("Gaer"));
-  EXPECT_FALSE(problems.timer.Enabled);
+  EXPECT_FALSE(problems.pause.timer.Enabled);
 }
 
 TEST_F(ProblemsTest, MoveWithTheTextUntilTheyAreLookedForAgain) {
@@ -67,7 +67,7 @@ TEST_F(ProblemsTest, AreToldToBeGoneWhenTheirTextIs) {
   int told = 0;
   const Connection changed = problems.Changed.Connect([&told] { ++told; });
   Type(joystick, 0, "", joystick.text.Characters().size());
-  problems.timer.Elapsed();
+  problems.pause.timer.Elapsed();
   EXPECT_EQ(told, 1);
   problems.Renew();
   EXPECT_EQ(told, 1);
@@ -89,18 +89,18 @@ TEST_F(ProblemsTest, AreThoseOfTheHardwareThatIsChosen) {
   problems.Renew();
   EXPECT_THAT(Words(joystick), IsEmpty());
   settings.JoyName = kF22Pro;
-  EXPECT_TRUE(problems.timer.Enabled);
-  problems.timer.Elapsed();
+  EXPECT_TRUE(problems.pause.timer.Enabled);
+  problems.pause.timer.Elapsed();
   EXPECT_THAT(Words(joystick), ElementsAre("/A"));
 }
 
 TEST_F(ProblemsTest, AreNotLookedForWhereNobodyWantsToSeeThem) {
   settings.MarkProblems = 0;
   Type(joystick, 0, "BTN S99 a");
-  EXPECT_FALSE(problems.timer.Enabled);
+  EXPECT_FALSE(problems.pause.timer.Enabled);
   settings.ProblemsPanel = 1;
-  EXPECT_TRUE(problems.timer.Enabled);
-  problems.timer.Elapsed();
+  EXPECT_TRUE(problems.pause.timer.Enabled);
+  problems.pause.timer.Elapsed();
   EXPECT_THAT(Words(joystick), ElementsAre("S99"));
   settings.ProblemsPanel = 0;
   EXPECT_THAT(Words(joystick), IsEmpty());
