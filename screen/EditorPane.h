@@ -23,7 +23,8 @@ class EditorPane : public PaneView {
   [[nodiscard]] QFont TextFont() const override;
   [[nodiscard]] qreal TabDistance() const override;
   void PaintBehind(QPainter& painter, const QTextBlock& block, const QPointF& offset) const override;
-  [[nodiscard]] const ColourRuns* ColoursOfBlack() const override { return live_.Of(document_); }
+  [[nodiscard]] const ColourRuns* ShownColours() const override { return live_.Of(document_); }
+  [[nodiscard]] bool IsOfUser(Colour colour) const override { return !live_.Gives(colour); }
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;

@@ -1,5 +1,7 @@
 #include "workbench/LiveColours.h"
 
+#include <algorithm>
+
 #include "workbench/Highlighter.h"
 
 namespace tarvik {
@@ -40,6 +42,10 @@ LiveColours::LiveColours(Documents& documents) : documents_(documents) {
 
 const ColourRuns* LiveColours::Of(const Document& document) const {
   return IsOn() ? &colours_.Of(document) : nullptr;
+}
+
+bool LiveColours::Gives(Colour colour) const {
+  return std::ranges::count(ColoursOf(documents_.settings), colour) > 0;
 }
 
 void LiveColours::Renew() {

@@ -1,5 +1,5 @@
 // The colours that the passes would give both files, kept up while somebody types: for showing them where the
-// text has none of its own. No pane ever holds them.
+// user has given the text none. No pane ever holds them.
 #pragma once
 
 #include "workbench/Documents.h"
@@ -19,6 +19,9 @@ class LiveColours {
 
   /// The colours of all characters of a document; null where the user does not want to see them.
   [[nodiscard]] const ColourRuns* Of(const Document& document) const;
+  /// Whether it is black or a colour of statements: then nothing tells that the user gave it to a character,
+  /// which may have it from an earlier colouring or from the text that it was typed beside.
+  [[nodiscard]] bool Gives(Colour colour) const;
   /// Colours both files as a whole, without waiting for the pause.
   void Renew();
 

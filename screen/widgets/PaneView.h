@@ -39,8 +39,11 @@ class PaneView : public QPlainTextEdit {
   /// Paints what lies behind the letters of a block, which begins at `offset`.
   virtual void PaintBehind(QPainter& /*painter*/, const QTextBlock& /*block*/,
                            const QPointF& /*offset*/) const {}
-  /// The colours of the characters that have none of their own; null where they are black.
-  [[nodiscard]] virtual const ColourRuns* ColoursOfBlack() const { return nullptr; }
+  /// The colours that characters are shown in which the user has given none; null where all are shown in
+  /// theirs.
+  [[nodiscard]] virtual const ColourRuns* ShownColours() const { return nullptr; }
+  /// Whether only the user can have given a character this colour.
+  [[nodiscard]] virtual bool IsOfUser(Colour /*colour*/) const { return true; }
   /// The text keeps so many pixels free at its left side.
   void SetSideWidth(int width);
   /// And so many above it.

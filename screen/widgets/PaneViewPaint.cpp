@@ -112,10 +112,10 @@ void PaneView::ForEachPlace(const QPainter& painter, const QTextBlock& block, co
 /// Somebody who heard of an edit sooner may have the window painted before the other colours follow it.
 std::pair<Colour, std::size_t> PaneView::ColourFrom(std::size_t position) const {
   const ColourRuns& own = pane_.Content().colours;
-  const ColourRuns* const ofBlack = ColoursOfBlack();
+  const ColourRuns* const shown = ShownColours();
   const std::pair<Colour, std::size_t> found{own.At(position), own.EndOf(own.RunAt(position))};
-  if (found.first != kBlack || !ofBlack || ofBlack->size() != own.size()) return found;
-  return {ofBlack->At(position), std::min(found.second, ofBlack->EndOf(ofBlack->RunAt(position)))};
+  if (!shown || shown->size() != own.size() || IsOfUser(found.first)) return found;
+  return {shown->At(position), std::min(found.second, shown->EndOf(shown->RunAt(position)))};
 }
 
 void PaneView::PaintLine(QPainter& painter, const QTextLine& line, const QPointF& offset,

@@ -237,12 +237,29 @@ TEST_F(EditorPaneTest, ColoursAsOneTypesLookLikeThoseOfTheColouredTextAndAreNotI
   settings.ColourAsYouType = 1;
   EXPECT_EQ(shown(), coloured);
   EXPECT_EQ(pane.Content().colours, black);
-  pane.Recolour(Find("Gear"), ColourRuns(4, settings.RAWColour));
+  const Colour ofUser = Rgb(255, 0, 255);
+  pane.Recolour(Find("Gear"), ColourRuns(4, ofUser));
   const QImage withOwn = shown();
   EXPECT_NE(withOwn, coloured);
   pane.Recolour(0, colours);
-  pane.Recolour(Find("Gear"), ColourRuns(4, settings.RAWColour));
+  pane.Recolour(Find("Gear"), ColourRuns(4, ofUser));
   EXPECT_EQ(shown(), withOwn);
+}
+
+TEST_F(EditorPaneTest, WhatIsTypedBeforeColouredTextIsShownAsColouringWillHaveIt) {
+  application.workbench.highlighter.Apply(application.workbench.documents.joystick);
+  settings.ColourAsYouType = 1;
+  settings.CurrentLine = 0;
+  pane.SelStart = Find("BTN");
+  QTest::keyClicks(&view, "USE TQS");
+  pane.ReplaceSelection(RichText("\r\n"));
+  application.workbench.liveColours.Renew();
+  pane.SelStart = 0;
+  const QImage typed = view.grab().toImage();
+  application.workbench.highlighter.Apply(application.workbench.documents.joystick);
+  pane.SelStart = 0;
+  EXPECT_EQ(view.grab().toImage(), typed);
+  EXPECT_EQ(pane.Content().colours.At(Find("USE")), settings.MiscellaneousColour.Get());
 }
 
 TEST_F(EditorPaneTest, ColoursAsOneTypesComeWithTheKey) {
