@@ -79,7 +79,10 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document,
                                             &workbench.documents.tabs.SelectedItem}) {
     bindings.Bind(*part, [this] { head_->Show(); });
   }
-  bindings.Bind(editor.mnuViewTileVertically.Checked, [this] { ShowHead(); });
+  for (PropertyBase* const part :
+       std::initializer_list<PropertyBase*>{&editor.mnuViewTileVertically.Checked, &settings_.FileHeads}) {
+    bindings.Bind(*part, [this] { ShowHead(); });
+  }
   bindings.Keep(workbench.search.Changed.Connect([this] { viewport()->update(); }));
   bindings.Keep(workbench.problems.Changed.Connect([this] {
     viewport()->update();
@@ -115,7 +118,7 @@ void EditorPane::ShowMargin() {
 }
 
 void EditorPane::ShowHead() {
-  head_->setVisible(editor_.mnuViewTileVertically.Checked);
+  head_->setVisible(editor_.mnuViewTileVertically.Checked && settings_.FileHeads != 0);
   head_->setGeometry(contentsRect().left(), contentsRect().top(), contentsRect().width(), head_->Height());
   SetHeadHeight(head_->isHidden() ? 0 : head_->Height());
 }

@@ -102,7 +102,7 @@ EditorView::EditorView(Editor& editor, Workbench& workbench, Clock clock)
   popUps_ = MakeMenus(editor.popUps, bindings_);
   FollowArrays(editor.menus, bindings_);
   FollowArrays(editor.popUps, bindings_);
-  MakeMacroFrame();
+  MakeMacroFrame(workbench.settings);
   MakeTabs();
   notice_ = new NoticeView(editor.notice, bindings_, this);
   find_ = new FindView(editor.find, bindings_, this);
@@ -121,16 +121,17 @@ EditorView::EditorView(Editor& editor, Workbench& workbench, Clock clock)
     bindings_.Bind(*timer, *new QTimer(this));
 }
 
-void EditorView::MakeMacroFrame() {
+void EditorView::MakeMacroFrame(Settings& settings) {
   auto* const frame = new FrameView(editor_.FrameMacros, bindings_, this);
   auto* const categories = new QComboBox(frame);
   bindings_.Bind(editor_.Combo1, *categories);
   bindings_.Place(editor_.Combo1, *categories, Unit::Twip);
   macros_ = new FilteredList(bindings_, tr("Macros"), Ticks::Offered, frame);
   macros_->list().Add(editor_.List1);
+  macros_->FollowLine(settings.FilterLines);
   macros_->Add(editor_.RenewMacros, "update-macros");
   bindings_.Place(editor_.List1(0), *macros_, Unit::Twip);
-  MakeOutline(*frame, *categories);
+  MakeOutline(*frame, *categories, settings);
   for (int i = 0; i < Editor::kModifierButtons; ++i) {
     auto* const button = new QToolButton(frame);
     button->setFocusPolicy(Qt::TabFocus);
@@ -141,7 +142,7 @@ void EditorView::MakeMacroFrame() {
 }
 
 /// In the place of the lists and of the box above them, which go while it is there.
-void EditorView::MakeOutline(QWidget& frame, QWidget& categories) {
+void EditorView::MakeOutline(QWidget& frame, QWidget& categories, Settings& settings) {
   OutlinePanel& panel = editor_.outline;
   lists_ = new QTabBar(&frame);
   lists_->setDrawBase(false);
@@ -151,6 +152,7 @@ void EditorView::MakeOutline(QWidget& frame, QWidget& categories) {
   connect(lists_, &QTabBar::tabBarDoubleClicked, this, [this] { editor_.FrameMacros.DblClick(); });
   auto* const outline = new FilteredList(bindings_, tr("Outline"), Ticks::None, &frame);
   outline->list().Add(panel.list);
+  outline->FollowLine(settings.FilterLines);
   bindings_.Place(panel.tabs, *lists_, Unit::Twip);
   bindings_.Place(panel.list, *outline, Unit::Twip);
   bindings_.Bind(panel.list.Visible, [this, outline, &panel, &categories] {

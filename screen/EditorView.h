@@ -30,8 +30,8 @@ class EditorView : public QWidget, public FormView {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void MakeMacroFrame();
-  void MakeOutline(QWidget& frame, QWidget& categories);
+  void MakeMacroFrame(Settings& settings);
+  void MakeOutline(QWidget& frame, QWidget& categories, Settings& settings);
   void MakeTabs();
   void MakePanes(Workbench& workbench);
   void MakeSuggestions();

@@ -8,6 +8,7 @@ MacroListPanel::MacroListPanel(Component& owner, MacroLists& macros)
     : Combo1(owner, "Combo1"),
       List1(owner, "List1", 1),
       PopupListIndex(owner, "PopupListIndex", 0),
+      FilterLines(macros.settings().FilterLines),
       macros_(macros) {
   Combo1.ToolTipText = "Macro categories";
   Combo1.Click = [this] { Combo1_Click(); };

@@ -17,6 +17,7 @@ class MacroListPanel {
   ControlArray<ListBox> List1;
   /// Member of `List1` on which the pop-up menu was opened.
   Property<int> PopupListIndex;
+  Property<int>& FilterLines;  ///< the setting whether a line above the lists narrows them
 
   /// What the window does when the user works in the lists.
   struct Hooks {

@@ -19,6 +19,8 @@ class MacroLists {
   /// A macro file has been analysed.
   [[nodiscard]] bool HasLists() const { return !headings_.empty(); }
 
+  [[nodiscard]] Settings& settings() const { return documents_.settings; }
+
   /// The lists as they are, for the editor to show.
   MacroListPanel panel{documents_, *this};
 

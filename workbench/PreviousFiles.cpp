@@ -42,6 +42,13 @@ void PreviousFiles::Update(RecentList& list, const char* tag) {
   Trap{errors_, tag}(list.Save());
 }
 
+void PreviousFiles::GetAll() {
+  GetPreviousFiles();
+  GetFavourites();
+  GetGames();
+  GetCustomApps();
+}
+
 void PreviousFiles::GetPreviousFiles() {
   JoystickFiles.Read();
   MacroFiles.Read();

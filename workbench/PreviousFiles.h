@@ -43,6 +43,9 @@ class PreviousFiles : public Component {
   Property<int> FavLoadOnStart{*this, "FavLoadOnStart", 0};
   Property<std::string> FavNameToLoad{*this, "FavNameToLoad"};
 
+  /// Reads all lists.
+  void GetAll();
+
   // Files.
   void GetPreviousFiles();
   void UpdateRecentJFMenuList() { Update(JoystickFiles, "MODULE UpdateRecentJFMenuList"); }

@@ -74,6 +74,8 @@ constexpr Option kOptions[] = {
     {section::kView, &Settings::ExplainLine, "0"},
     {section::kView, &Settings::Outline, "0"},
     {section::kView, &Settings::SuggestAsYouType, "0"},
+    {section::kView, &Settings::FileHeads, "1"},
+    {section::kView, &Settings::FilterLines, "1"},
     {section::kView, &Settings::FixedPitch, "0"},
     {section::kView, &Settings::Zoom, "100"},
     {section::kView, &Settings::TileShare, "500"},

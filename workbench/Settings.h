@@ -106,6 +106,8 @@ class Settings : public Component {
   Property<int> ExplainLine{*this, "ExplainLine"};                    ///< below the text
   Property<int> Outline{*this, "Outline"};                            ///< in the place of the macro lists
   Property<int> SuggestAsYouType{*this, "SuggestAsYouType"};          ///< what the word may become
+  Property<int> FileHeads{*this, "FileHeads"};                        ///< above the text in the tiled view
+  Property<int> FilterLines{*this, "FilterLines"};                    ///< above the lists of macros
   Property<int> FixedPitch{*this, "FixedPitch"};
   Property<int> Zoom{*this, "Zoom"};            ///< per cent
   Property<int> TileShare{*this, "TileShare"};  ///< of the joystick file in the tiled view, in thousandths

@@ -44,7 +44,7 @@ QLayout* Picture(InsertOptions& form, const FormLayout& in, tables::Picture pict
 }
 
 QLayout* Macros(InsertOptions& form, const FormLayout& in) {
-  QWidget* const list = in.ShowMacros(form.List1, "Macros");
+  QWidget* const list = in.ShowMacros(form.macros);
   list->setMinimumHeight(62);
   return Column({in.Show(form.Combo1), list, in.Show(form.CheckCopyTicks), in.Show(form.CheckAddCR)});
 }

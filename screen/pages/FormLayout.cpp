@@ -267,9 +267,10 @@ QWidget* FormLayout::Show(ControlArray<ListBox>& lists, const char* name) const 
   return view;
 }
 
-QWidget* FormLayout::ShowMacros(ControlArray<ListBox>& lists, const char* name) const {
-  auto* const view = new FilteredList(bindings_, QString::fromUtf8(name), Ticks::Offered);
-  view->list().Add(lists);
+QWidget* FormLayout::ShowMacros(MacroListPanel& panel) const {
+  auto* const view = new FilteredList(bindings_, QStringLiteral("Macros"), Ticks::Offered);
+  view->list().Add(panel.List1);
+  view->FollowLine(panel.FilterLines);
   return view;
 }
 

@@ -3,6 +3,7 @@
 
 #include "screen/widgets/Arrangement.h"
 #include "screen/widgets/ListStack.h"
+#include "workbench/MacroListPanel.h"
 
 namespace tarvik::screen {
 
@@ -18,7 +19,7 @@ class FormLayout {
   /// Lists that stand on one another.
   QWidget* Show(ControlArray<ListBox>& lists, const char* name) const;
   /// The same of macros, which are ticked, with a line that narrows them.
-  QWidget* ShowMacros(ControlArray<ListBox>& lists, const char* name) const;
+  QWidget* ShowMacros(MacroListPanel& panel) const;
   /// A drawing of a device, with its labels.
   QWidget* Show(const char* drawing, const std::vector<Label*>& labels) const;
   /// A label that is pressed to take its colour.

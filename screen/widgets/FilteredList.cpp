@@ -56,6 +56,15 @@ void FilteredList::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) ShowPlaceholder();
 }
 
+void FilteredList::FollowLine(Property<int>& isShown) {
+  bindings_.Bind(isShown, [this, &isShown] {
+    line_->clear();
+    for (QWidget* const part : {static_cast<QWidget*>(line_), static_cast<QWidget*>(count_)}) {
+      part->setVisible(isShown != 0);
+    }
+  });
+}
+
 void FilteredList::Add(CommandButton& button, const char* icon) {
   auto* const view = new QToolButton;
   view->setAutoRaise(true);

@@ -16,6 +16,8 @@ class FilteredList : public QWidget {
 
   [[nodiscard]] ListStack& list() const { return *list_; }
   [[nodiscard]] QLineEdit& line() const { return *line_; }
+  /// The line comes and goes; without it all items are on show.
+  void FollowLine(Property<int>& isShown);
   /// Puts a button behind the line.
   void Add(CommandButton& button, const char* icon);
 

@@ -64,7 +64,9 @@ bool IsDark(const QPalette& palette) { return palette.color(QPalette::Window).li
 
 QColor AccentOn(const QPalette& palette) { return IsDark(palette) ? kAccentOnDark : QColor(kAccent); }
 
-class FadingStyle : public QProxyStyle {
+/// The desktop's, but for the pictures of what cannot be used, which fade, and for the rows of lists, which
+/// are all of one height.
+class OwnStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
   QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
@@ -78,12 +80,20 @@ class FadingStyle : public QProxyStyle {
     painter.drawPixmap(0, 0, pixmap);
     return faded;
   }
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override {
+    constexpr int kRowAir = 5;
+    QSize needed = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type == CT_ItemViewItem)
+      needed.setHeight(std::max(needed.height(), option->fontMetrics.height() + kRowAir));
+    return needed;
+  }
 };
 
 }  // namespace
 
 void ChooseIconTheme() {
-  QApplication::setStyle(new FadingStyle(QApplication::style()->name()));
+  QApplication::setStyle(new OwnStyle(QApplication::style()->name()));
   if (QIcon::themeName() != QLatin1String("hicolor")) QIcon::setFallbackThemeName(QIcon::themeName());
   QIcon::setThemeName(QLatin1String(IsDark(QApplication::palette()) ? "breeze-dark" : "breeze"));
 }
