@@ -1,5 +1,7 @@
 // The page of the Composer's window.
 #include "screen/pages/Pages.h"
+#include "screen/widgets/Conversions.h"
+#include "screen/widgets/DeviceView.h"
 
 namespace tarvik::screen {
 namespace {
@@ -35,12 +37,27 @@ QLayout* Buttons(const FormLayout& in, const ControlArray<T>& array, int columns
 
 // The main page.
 
-QLayout* Picture(InsertOptions& form, const FormLayout& in, tables::Picture picture, const char* drawing) {
-  std::vector<Label*> labels;
+DeviceView::Assigned AssignedOn(const InsertOptions& form, tables::Picture picture) {
+  const Assignments assignments = form.Assigned();
+  DeviceView::Assigned assigned;
   for (const tables::HardwareRow& row : tables::kHardware) {
-    if (row.picture == picture) labels.push_back(&form.LabelOf(row));
+    if (row.picture != picture) continue;
+    const Label& label = form.LabelOf(row);
+    for (const std::string& line : assignments.Of(row, label.Caption.Get())) {
+      assigned[&label].push_back(ToScreen(line));
+    }
   }
-  return Column({in.Show(drawing, labels)});
+  return assigned;
+}
+
+QLayout* Picture(InsertOptions& form, const FormLayout& in, tables::Picture picture, const char* drawing) {
+  auto* const view = new DeviceView(QString::fromLatin1(drawing), in.bindings());
+  for (const tables::HardwareRow& row : tables::kHardware) {
+    if (row.picture == picture) view->Add(form.LabelOf(row), ToScreen(std::string(row.place)));
+  }
+  view->AskForAssigned([&form, picture] { return AssignedOn(form, picture); });
+  in.bindings().Keep(form.AssignedChanged.Connect([view] { view->ForgetAssigned(); }));
+  return Column({view});
 }
 
 QLayout* Macros(InsertOptions& form, const FormLayout& in) {

@@ -17,7 +17,6 @@
 #include "controls/PlotBox.h"
 #include "panes/Pane.h"
 #include "screen/widgets/Conversions.h"
-#include "screen/widgets/DeviceView.h"
 #include "screen/widgets/FilteredList.h"
 #include "screen/widgets/ImageView.h"
 #include "screen/widgets/PaneView.h"
@@ -271,12 +270,6 @@ QWidget* FormLayout::ShowMacros(MacroListPanel& panel) const {
   auto* const view = new FilteredList(bindings_, QStringLiteral("Macros"), Ticks::Offered);
   view->list().Add(panel.List1);
   view->FollowLine(panel.FilterLines);
-  return view;
-}
-
-QWidget* FormLayout::Show(const char* drawing, const std::vector<Label*>& labels) const {
-  auto* const view = new DeviceView(QString::fromLatin1(drawing), bindings_);
-  for (Label* const label : labels) view->Add(*label);
   return view;
 }
 

@@ -20,8 +20,6 @@ class FormLayout {
   QWidget* Show(ControlArray<ListBox>& lists, const char* name) const;
   /// The same of macros, which are ticked, with a line that narrows them.
   QWidget* ShowMacros(MacroListPanel& panel) const;
-  /// A drawing of a device, with its labels.
-  QWidget* Show(const char* drawing, const std::vector<Label*>& labels) const;
   /// A label that is pressed to take its colour.
   QWidget* ShowSwatch(Label& swatch) const;
   /// A label that only lights up.

@@ -1,9 +1,11 @@
 #include "screen/widgets/DeviceView.h"
 
 #include <QFile>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <cmath>
 
 #include "screen/widgets/Conversions.h"
@@ -15,8 +17,13 @@ namespace tarvik::screen {
 namespace {
 
 constexpr QSizeF kDrawing(900, 1000);
-constexpr qreal kCaptionHeight = 30;  // in the drawing's units
-constexpr qreal kSmallestCaption = 9;
+// In the drawing's units: a label, the caption in it and the words below, and the line below the device.
+constexpr qreal kLabelHeight = 56;
+constexpr qreal kCaptionHeight = 25;
+constexpr qreal kWordsHeight = 18;
+constexpr qreal kHintHeight = 25;
+constexpr qreal kSmallestFont = 9;      // in pixels
+constexpr int kSmallestWithWords = 22;  // the height of a label, in pixels
 constexpr QColor kLight(0x1F, 0x66, 0xA8);
 constexpr QColor kDark(0x7C, 0xBC, 0xF0);
 constexpr const char* kHint = "Click on a hat/switch to insert into your file";
@@ -37,34 +44,81 @@ QColor Accent(const QWidget& widget, int alpha = 255) {
   return colour;
 }
 
-QFont CaptionFont(const QWidget& widget, qreal scale) {
+QFont FontOf(const QWidget& widget, qreal height) {
   QFont font = widget.font();
-  font.setPixelSize(static_cast<int>(std::lround(std::max(kSmallestCaption, kCaptionHeight * scale))));
+  font.setPixelSize(static_cast<int>(std::lround(std::max(kSmallestFont, height))));
   return font;
+}
+
+void ShowTip(const QHelpEvent& rests, const QString& tip, QWidget& widget) {
+  QToolTip::showText(rests.globalPos(), tip, &widget);
 }
 
 }  // namespace
 
 // A label.
 
-DeviceLabel::DeviceLabel(DeviceView& device) : QAbstractButton(&device), device_(device) {
+DeviceLabel::DeviceLabel(DeviceView& device, QString place)
+    : QAbstractButton(&device), device_(device), place_(std::move(place)) {
   setFocusPolicy(Qt::ClickFocus);
   setAttribute(Qt::WA_Hover);
+}
+
+void DeviceLabel::SetStatements(QStringList statements) {
+  if (statements == statements_) return;
+  statements_ = std::move(statements);
+  update();
+}
+
+QString DeviceLabel::Tip() const {
+  QString tip = toolTip().toHtmlEscaped();
+  for (const QString& statement : statements_) tip += QLatin1String("<br/>") + statement.toHtmlEscaped();
+  return QStringLiteral("<p style='white-space: pre'>%1</p>").arg(tip);
+}
+
+bool DeviceLabel::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QAbstractButton::event(event);
+  device_.TakeAssigned();
+  ShowTip(static_cast<const QHelpEvent&>(*event), Tip(), *this);
+  return true;
+}
+
+QBrush DeviceLabel::Filling(bool lit) const {
+  constexpr int kDown = 110;
+  constexpr int kHot = 55;
+  constexpr int kAssigned = 60;
+  if (lit) return QColor(0xFF, 0xC0, 0x80);
+  const bool hot = underMouse() || device_.Pointed() == this;
+  const int state = isDown() ? kDown : hot ? kHot : 0;
+  return Accent(*this, state + (statements_.isEmpty() ? 0 : kAssigned));
 }
 
 void DeviceLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const bool lit = isCheckable() && isChecked();
-  const bool hot = underMouse() || device_.Pointed() == this;
   const qreal line = hasFocus() ? 3 : 1.5;
   const QRectF box = QRectF(rect()).adjusted(line / 2, line / 2, -line / 2, -line / 2);
   painter.setPen(hasFocus() || lit ? QPen(Accent(*this), line) : QPen(Qt::NoPen));
-  painter.setBrush(lit ? QColor(0xFF, 0xC0, 0x80) : Accent(*this, isDown() ? 110 : hot ? 55 : 0));
+  painter.setBrush(Filling(lit));
   painter.drawRoundedRect(box, box.height() / 6, box.height() / 6);
   painter.setPen(lit ? QColor(Qt::black) : palette().color(QPalette::WindowText));
-  painter.setFont(CaptionFont(*this, height() / 50.0));
-  painter.drawText(rect(), Qt::AlignCenter | Qt::TextHideMnemonic, text().trimmed());
+  PaintWords(painter);
+}
+
+/// A label that is too low for two lines has its caption alone.
+void DeviceLabel::PaintWords(QPainter& painter) const {
+  constexpr qreal kCaptionPart = 0.56;
+  const qreal unit = height() / kLabelHeight;
+  const QRectF all = rect();
+  const bool withWords = !place_.isEmpty() && height() >= kSmallestWithWords;
+  QRectF caption = all;
+  if (withWords) caption.setHeight(all.height() * kCaptionPart);
+  painter.setFont(FontOf(*this, kCaptionHeight * unit));
+  painter.drawText(caption, Qt::AlignCenter | Qt::TextHideMnemonic, text().trimmed());
+  if (!withWords) return;
+  painter.setFont(FontOf(*this, kWordsHeight * unit));
+  painter.drawText(all.adjusted(0, all.height() / 2, 0, 0), Qt::AlignCenter, place_);
 }
 
 void DeviceLabel::keyPressEvent(QKeyEvent* event) {
@@ -118,14 +172,31 @@ DeviceView::DeviceView(const QString& drawing, Bindings& bindings) : bindings_(b
 
 QSize DeviceView::sizeHint() const { return {450, 500}; }
 
-void DeviceView::Add(Label& label) {
-  auto* const button = new DeviceLabel(*this);
+void DeviceView::Add(Label& label, const QString& place) {
+  auto* const button = new DeviceLabel(*this, place);
+  button->setAccessibleDescription(place);
   QString id = ToScreen(label.FullName());
   id.replace(u'(', u'-').remove(u')');
-  spots_.push_back({button, id});
+  spots_.push_back({button, id, &label});
   bindings_.Bind(label, *button);
   bindings_.Keep(label.Visible.Changed.Connect([this] { Draw(); }));
+  bindings_.Keep(label.Caption.Changed.Connect([this] { ForgetAssigned(); }));
   if (spots_.size() == 1) button->setFocusPolicy(Qt::StrongFocus);
+}
+
+void DeviceView::ForgetAssigned() {
+  isTaken_ = false;
+  update();
+}
+
+void DeviceView::TakeAssigned() {
+  if (isTaken_) return;
+  isTaken_ = true;
+  const Assigned assigned = ask_();
+  for (const Spot& spot : spots_) {
+    const auto found = assigned.find(spot.shown);
+    spot.label->SetStatements(found == assigned.end() ? QStringList() : found->second);
+  }
 }
 
 void DeviceView::MakeTabStop(DeviceLabel& label) {
@@ -171,16 +242,28 @@ void DeviceView::PlaceLabels() {
     spot.label->setGeometry(RectOf(spot.id + QLatin1String("-box")).toAlignedRect());
 }
 
-void DeviceView::paintEvent(QPaintEvent*) {
+bool DeviceView::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip || !pointed_) return QWidget::event(event);
+  TakeAssigned();
+  ShowTip(static_cast<const QHelpEvent&>(*event), pointed_->Tip(), *this);
+  return true;
+}
+
+/// The picture is kept as it was drawn until its size changes.
+void DeviceView::PaintPicture() {
   const qreal ratio = devicePixelRatioF();
   const QSize pixels = size() * ratio;
-  if (picture_.size() != pixels) {
-    picture_ = QPixmap(pixels);
-    picture_.setDevicePixelRatio(ratio);
-    picture_.fill(Qt::transparent);
-    QPainter painter(&picture_);
-    renderer_.render(&painter, ToWidget().mapRect(QRectF({}, kDrawing)));
-  }
+  if (picture_.size() == pixels) return;
+  picture_ = QPixmap(pixels);
+  picture_.setDevicePixelRatio(ratio);
+  picture_.fill(Qt::transparent);
+  QPainter painter(&picture_);
+  renderer_.render(&painter, ToWidget().mapRect(QRectF({}, kDrawing)));
+}
+
+void DeviceView::paintEvent(QPaintEvent*) {
+  TakeAssigned();
+  PaintPicture();
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.drawPixmap(0, 0, picture_);
@@ -193,7 +276,7 @@ void DeviceView::paintEvent(QPaintEvent*) {
   }
   painter.setPen(palette().color(QPalette::WindowText));
   const QRectF hint = RectOf(QStringLiteral("hint"));
-  painter.setFont(CaptionFont(*this, hint.height() / 40.0 * 0.85));
+  painter.setFont(FontOf(*this, kHintHeight * hint.height() / 40));
   painter.drawText(hint, Qt::AlignCenter, QString::fromLatin1(kHint));
 }
 
@@ -231,7 +314,6 @@ void DeviceView::Point(DeviceLabel* label) {
 void DeviceView::mouseMoveEvent(QMouseEvent* event) {
   Point(LabelAt(event->position()));
   setCursor(pointed_ ? Qt::PointingHandCursor : Qt::ArrowCursor);
-  setToolTip(pointed_ ? pointed_->toolTip() : QString());
 }
 
 void DeviceView::mousePressEvent(QMouseEvent* event) {

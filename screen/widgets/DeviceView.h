@@ -5,6 +5,8 @@
 #include <QAbstractButton>
 #include <QPixmap>
 #include <QSvgRenderer>
+#include <functional>
+#include <map>
 
 #include "screen/widgets/Binding.h"
 
@@ -12,12 +14,19 @@ namespace tarvik::screen {
 
 class DeviceView;
 
-/// A label of the drawing, which draws its box; over it come the caption, and the state of the button.
+/// A label of the drawing, which draws its box; over it come the caption with the place of the control in
+/// words below, and the state of the button. It is filled where its control is assigned.
 class DeviceLabel : public QAbstractButton {
  public:
-  explicit DeviceLabel(DeviceView& device);
+  DeviceLabel(DeviceView& device, QString place);
+
+  /// The lines that assign its control.
+  void SetStatements(QStringList statements);
+  /// The tool tip with these lines below it.
+  [[nodiscard]] QString Tip() const;
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -26,7 +35,12 @@ class DeviceLabel : public QAbstractButton {
   void leaveEvent(QEvent* event) override;
 
  private:
+  [[nodiscard]] QBrush Filling(bool lit) const;
+  void PaintWords(QPainter& painter) const;
+
   DeviceView& device_;
+  QString place_;
+  QStringList statements_;
 };
 
 class DeviceView : public QWidget {
@@ -34,8 +48,14 @@ class DeviceView : public QWidget {
   /// `drawing` is a file of the built-in devices.
   DeviceView(const QString& drawing, Bindings& bindings);
 
-  /// The control's place in the drawing goes by its full name.
-  void Add(Label& label);
+  /// The control's place in the drawing goes by its full name; `place` says it in words.
+  void Add(Label& label, const QString& place);
+  /// Whom to ask for the lines that assign the controls, by label, whenever they may have changed.
+  using Assigned = std::map<const Label*, QStringList>;
+  void AskForAssigned(std::function<Assigned()> ask) { ask_ = std::move(ask); }
+  /// The answer may be another one from now on; it is asked for when it is needed.
+  void ForgetAssigned();
+  void TakeAssigned();
 
   [[nodiscard]] QSize sizeHint() const override;
   /// The label that is to look as if the pointer were on it: it is on its control.
@@ -47,6 +67,7 @@ class DeviceView : public QWidget {
   void MakeTabStop(DeviceLabel& label);
 
  protected:
+  bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void changeEvent(QEvent* event) override;
@@ -58,9 +79,11 @@ class DeviceView : public QWidget {
   struct Spot {
     DeviceLabel* label;
     QString id;
+    const Label* shown;
   };
 
   void Draw();
+  void PaintPicture();
   void PlaceLabels();
   [[nodiscard]] QRectF RectOf(const QString& element) const;
   [[nodiscard]] QRectF ControlOf(const Spot& spot) const;
@@ -72,6 +95,8 @@ class DeviceView : public QWidget {
   QSvgRenderer renderer_;
   QPixmap picture_;
   std::vector<Spot> spots_;
+  std::function<Assigned()> ask_ = [] { return Assigned(); };
+  bool isTaken_ = false;
   DeviceLabel* pointed_ = nullptr;
 };
 

@@ -68,6 +68,9 @@ InsertOptions::InsertOptions(Workbench& bench, Shell& shell)
   for (const char* const menu : {"mnuRHList", "mnuHatPos", "mnuTrigger", "mnuPortAll", "mnuTemplates"}) {
     menus(menu).Visible = false;  // these menus only pop up
   }
+  connections_.push_back(bench.documents.joystick.text.Edited.Connect([this](const PaneEdit& edit) {
+    if (!edit.OnlyColours()) AssignedChanged();
+  }));
   MakeHardware();
   MakeMainPage();
   MakeStatementPages();

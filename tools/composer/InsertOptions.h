@@ -5,6 +5,7 @@
 
 #include "controls/Menu.h"
 #include "language/LogicLines.h"
+#include "tools/composer/Assignments.h"
 #include "tools/composer/StatementWriter.h"
 #include "workbench/Document.h"
 #include "workbench/ToolForm.h"
@@ -181,6 +182,9 @@ class InsertOptions : public ToolForm {
   [[nodiscard]] const Menus* MenuBar() const override { return &menus; }
   /// The label of a row of the hardware table.
   [[nodiscard]] Label& LabelOf(const tables::HardwareRow& row) const;
+  /// What the joystick file assigns just now, and the signal that it may be something else from now on.
+  [[nodiscard]] Assignments Assigned() const { return Assignments(bench_.models.Pair()); }
+  Signal<> AssignedChanged;
   /// The tabs within a page that builds statements.
   [[nodiscard]] TabPages& StripOf(const tables::StatementTabRow& row) const;
 
