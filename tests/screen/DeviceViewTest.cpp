@@ -41,8 +41,9 @@ TEST_F(DeviceViewTest, TheLabelOfAnAssignedControlIsFilled) {
   EXPECT_NE(Ground(LabelOf("BTN(0)")), Ground(LabelOf("BTN(1)")));
   application.editor().JoystickText.SelText = std::string("BTN S2 Bomb\r\n");
   EXPECT_EQ(Ground(LabelOf("BTN(0)")), Ground(LabelOf("BTN(1)")));
-  application.editor().JoystickText.SelectAll();
-  application.editor().JoystickText.SelText = std::string();
+  Pane& pane = application.editor().JoystickText;
+  pane.Select({0, pane.Characters().size()});
+  pane.SelText = std::string();
   EXPECT_EQ(Ground(LabelOf("BTN(0)")), Ground(LabelOf("HAT(0)")));
 }
 
@@ -62,7 +63,7 @@ TEST_F(DeviceViewTest, TheControlHasTheTipOfItsLabel) {
 }
 
 TEST_F(DeviceViewTest, TheFilledLabelIsThatOfTheButtonsNameJustNow) {
-  settings.ThrottleName = 2;  // a WCS
+  application.workbench.settings.ThrottleName = 2;  // a WCS
   composer.ShowApproriateTabs();
   composer.SSTabHardware.Tab = 3;
   application.editor().JoystickText.SelText = std::string("BTN T7 Flaps\r\n");
