@@ -19,8 +19,8 @@ namespace {
 constexpr QSizeF kDrawing(900, 1000);
 // In the drawing's units: a label, the caption in it and the words below, and the line below the device.
 constexpr qreal kLabelHeight = 56;
-constexpr qreal kCaptionHeight = 25;
-constexpr qreal kWordsHeight = 18;
+constexpr qreal kCaptionHeight = 23;
+constexpr qreal kWordsHeight = 17;
 constexpr qreal kHintHeight = 25;
 constexpr qreal kSmallestFont = 9;      // in pixels
 constexpr int kSmallestWithWords = 22;  // the height of a label, in pixels
@@ -108,17 +108,19 @@ void DeviceLabel::paintEvent(QPaintEvent*) {
 
 /// A label that is too low for two lines has its caption alone.
 void DeviceLabel::PaintWords(QPainter& painter) const {
-  constexpr qreal kCaptionPart = 0.56;
+  constexpr QRectF kCaption(0, 2, 0, 28);
+  constexpr QRectF kWords(0, 27, 0, 26);
   const qreal unit = height() / kLabelHeight;
-  const QRectF all = rect();
+  const auto line = [&](const QRectF& part) {
+    return QRectF(0, part.top() * unit, width(), part.height() * unit);
+  };
   const bool withWords = !place_.isEmpty() && height() >= kSmallestWithWords;
-  QRectF caption = all;
-  if (withWords) caption.setHeight(all.height() * kCaptionPart);
   painter.setFont(FontOf(*this, kCaptionHeight * unit));
-  painter.drawText(caption, Qt::AlignCenter | Qt::TextHideMnemonic, text().trimmed());
+  painter.drawText(withWords ? line(kCaption) : QRectF(rect()), Qt::AlignCenter | Qt::TextHideMnemonic,
+                   text().trimmed());
   if (!withWords) return;
   painter.setFont(FontOf(*this, kWordsHeight * unit));
-  painter.drawText(all.adjusted(0, all.height() / 2, 0, 0), Qt::AlignCenter, place_);
+  painter.drawText(line(kWords), Qt::AlignCenter | Qt::TextDontClip, place_);
 }
 
 void DeviceLabel::keyPressEvent(QKeyEvent* event) {

@@ -76,9 +76,9 @@ TEST_F(DeviceViewTest, EveryLabelHasRoomForThePlaceOfItsControlInWords) {
   for (const tables::HardwareRow& row : tables::kHardware) {
     const DeviceLabel& label = Find<DeviceLabel>(composer.LabelOf(row));
     EXPECT_EQ(label.accessibleDescription().toStdString(), row.place);
-    for (const int height : {28, 56, 112, 224}) {
+    for (const int height : {24, 28, 56, 112, 224}) {
       QFont font = label.font();
-      font.setPixelSize(std::max(9, 18 * height / 56));
+      font.setPixelSize(std::max(9, 17 * height / 56));
       EXPECT_LE(QFontMetrics(font).horizontalAdvance(label.accessibleDescription()), 170 * height / 56 - 4)
           << row.place << " at " << height;
     }
