@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QPainter>
-#include <QPainterPath>
 #include <QRegularExpression>
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
