@@ -18,15 +18,19 @@ bool Holds(const Mention& mention, FileKind file, std::size_t position) {
   return mention.file == file && mention.range.start <= position && position <= mention.range.End();
 }
 
+/// What a name does where it stands.
+enum class Role { Definition, Use };
+
 /// Goes over the names and keeps the one that is at the position.
 class NameSearch {
  public:
   NameSearch(FileKind file, std::size_t position) : file_(file), position_(position) {}
 
   template <class NameOf>
-  void Look(const Mentions& mentions, NameKind kind, bool isDefinition, const NameOf& nameOf) {
+  void Look(const Mentions& mentions, NameKind kind, Role role, const NameOf& nameOf) {
     for (const Mention& mention : mentions) {
-      if (Holds(mention, file_, position_)) found_ = NameHere{kind, nameOf(), mention, isDefinition};
+      if (!Holds(mention, file_, position_)) continue;
+      found_ = NameHere{kind, nameOf(), mention, role == Role::Definition};
     }
   }
 
@@ -138,19 +142,19 @@ std::optional<NameHere> NameAt(const NameIndex& names, FileKind file, std::size_
   NameSearch search(file, position);
   for (const MacroNames& macro : names.Macros()) {
     const auto name = [&] { return macro.name; };
-    search.Look(macro.definitions, NameKind::Macro, true, name);
-    search.Look(macro.uses, NameKind::Macro, false, name);
+    search.Look(macro.definitions, NameKind::Macro, Role::Definition, name);
+    search.Look(macro.uses, NameKind::Macro, Role::Use, name);
   }
   for (const FlagNames& flag : names.Flags()) {
     const auto name = [&] { return FlagName(flag.number); };
-    search.Look(flag.definitions, NameKind::Flag, true, name);
-    search.Look(flag.buttons, NameKind::Flag, false, name);
-    search.Look(flag.uses, NameKind::Flag, false, name);
+    search.Look(flag.definitions, NameKind::Flag, Role::Definition, name);
+    search.Look(flag.buttons, NameKind::Flag, Role::Use, name);
+    search.Look(flag.uses, NameKind::Flag, Role::Use, name);
   }
   for (const ControlNames& control : names.Controls()) {
     const auto name = [&] { return control.name; };
-    search.Look(control.assignments, NameKind::Control, true, name);
-    search.Look(control.uses, NameKind::Control, false, name);
+    search.Look(control.assignments, NameKind::Control, Role::Definition, name);
+    search.Look(control.uses, NameKind::Control, Role::Use, name);
   }
   return search.Take();
 }

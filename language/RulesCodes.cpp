@@ -18,17 +18,25 @@ void FindNoCodes(const Checked&, const Place& place, const Item& item, Report& r
   report.Add(place, item.range, "There is no code in the brackets of RAW.");
 }
 
-void Tell(const Checked& checked, bool behindPress, Report& report) {
+/// Where a statement presses a key that it does not let go.
+enum class PressedAt { BehindPress, Elsewhere };
+
+void TellOfKeysLeftDown(const Checked& checked, PressedAt where, Report& report) {
   for (const KeyLeftDown& key : checked.LeftDown()) {
-    if (key.behindPress != behindPress) continue;
+    if (key.behindPress != (where == PressedAt::BehindPress)) continue;
     report.Add(key.file, key.range,
                Said({"The key of the code ", CodeInWords(key.key),
                      " is pressed here, and nothing in this statement lets it go."}));
   }
 }
 
-void FindLeftDown(const Checked& checked, Report& report) { Tell(checked, false, report); }
-void FindPressedOnly(const Checked& checked, Report& report) { Tell(checked, true, report); }
+void FindLeftDown(const Checked& checked, Report& report) {
+  TellOfKeysLeftDown(checked, PressedAt::Elsewhere, report);
+}
+
+void FindPressedOnly(const Checked& checked, Report& report) {
+  TellOfKeysLeftDown(checked, PressedAt::BehindPress, report);
+}
 
 constexpr Rule kRules[] = {
     {"bad-code",

@@ -37,24 +37,29 @@ void FindUndefined(const Checked& checked, Report& report) {
   }
 }
 
-/// Tells of all definitions but the first, those that are written just as that or those that are not.
-void FindMoreDefinitions(const Checked& checked, Report& report, bool sameLetters, std::string_view words) {
+/// How a later definition of a macro writes the name.
+enum class Spelling { AsTheFirst, InOtherCapitals };
+
+/// Tells of all definitions but the first that have this spelling.
+void FindMoreDefinitions(const Checked& checked, Report& report, Spelling spelling, std::string_view words) {
   for (const MacroNames& macro : checked.names.Macros()) {
     if (macro.definitions.size() < 2) continue;
     for (std::size_t i = 1; i < macro.definitions.size(); ++i) {
       const Mention& each = macro.definitions[i];
-      if ((checked.Words(each) == macro.name) != sameLetters) continue;
+      const bool isAsTheFirst = checked.Words(each) == macro.name;
+      if (isAsTheFirst != (spelling == Spelling::AsTheFirst)) continue;
       report.Add(each, Said({Shown(checked.Words(each)), words}));
     }
   }
 }
 
 void FindDefinedTwice(const Checked& checked, Report& report) {
-  FindMoreDefinitions(checked, report, true, " is defined further up already.");
+  FindMoreDefinitions(checked, report, Spelling::AsTheFirst, " is defined further up already.");
 }
 
 void FindAlike(const Checked& checked, Report& report) {
-  FindMoreDefinitions(checked, report, false, " differs from a macro further up in capital letters alone.");
+  FindMoreDefinitions(checked, report, Spelling::InOtherCapitals,
+                      " differs from a macro further up in capital letters alone.");
 }
 
 bool IsUsedByJoystick(const MacroNames& macro) {

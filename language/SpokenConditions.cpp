@@ -83,12 +83,15 @@ std::string CallInWords(std::string_view lines, const Condition& condition) {
   return Said({ControlInWords(words[0]), side, words[1], " per cent"});
 }
 
-std::string ControlState(std::string_view word, bool on) {
+enum class State { On, Off };
+
+std::string ControlState(std::string_view word, State state) {
   const bool isFlag = FlagNumber(word).has_value();
-  const std::string_view state = isFlag ? (on ? " is on" : " is off")
-                                 : on   ? " is pressed"
-                                        : " is not pressed";
-  return Said({ControlInWords(word), state});
+  const bool isOn = state == State::On;
+  const std::string_view said = isFlag ? (isOn ? " is on" : " is off")
+                                : isOn ? " is pressed"
+                                       : " is not pressed";
+  return Said({ControlInWords(word), said});
 }
 
 }  // namespace
@@ -96,10 +99,10 @@ std::string ControlState(std::string_view word, bool on) {
 std::string Speaker::InWords(std::string_view lines, const Condition& condition) const {
   switch (condition.kind) {
     case ConditionKind::Control:
-      return ControlState(In(lines, condition.range), true);
+      return ControlState(In(lines, condition.range), State::On);
     case ConditionKind::Not: {
       const Condition& negated = condition.operands.front();
-      if (negated.kind == ConditionKind::Control) return ControlState(In(lines, negated.range), false);
+      if (negated.kind == ConditionKind::Control) return ControlState(In(lines, negated.range), State::Off);
       return Said({"not (", InWords(lines, negated), ")"});
     }
     case ConditionKind::And:
