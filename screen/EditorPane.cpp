@@ -51,6 +51,22 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document,
       models_(workbench.models),
       margin_(new Margin(*this)),
       head_(new Head(*this)) {
+  FollowSettings(bindings);
+  FollowWorkbench(workbench, bindings);
+  for (PropertyBase* const part :
+       std::initializer_list<PropertyBase*>{&document.Dirty, &workbench.documents.TabOf(document).Caption,
+                                            &workbench.documents.tabs.SelectedItem}) {
+    bindings.Bind(*part, [this] { head_->Show(); });
+  }
+  for (PropertyBase* const part :
+       std::initializer_list<PropertyBase*>{&editor.mnuViewTileVertically.Checked, &settings_.FileHeads}) {
+    bindings.Bind(*part, [this] { ShowHead(); });
+  }
+  ShowBars();
+  Follow();
+}
+
+void EditorPane::FollowSettings(Bindings& bindings) {
   for (Property<int>* const option :
        {&settings_.LineNumbers, &settings_.ChangedLines, &settings_.MarkProblems}) {
     bindings.Bind(*option, [this] {
@@ -68,28 +84,20 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document,
   for (Property<int>* const option : {&settings_.Zoom, &settings_.FixedPitch}) {
     bindings.Bind(*option, [this] { ShowFont(); });
   }
+}
+
+void EditorPane::FollowWorkbench(Workbench& workbench, Bindings& bindings) {
   bindings.Keep(workbench.changedLines.Begun.Connect([this](const Document& document) {
     if (&document == &document_) margin_->update();
   }));
   bindings.Keep(workbench.liveColours.Changed.Connect([this](const Document& document) {
     if (&document == &document_) viewport()->update();
   }));
-  for (PropertyBase* const part :
-       std::initializer_list<PropertyBase*>{&document.Dirty, &workbench.documents.TabOf(document).Caption,
-                                            &workbench.documents.tabs.SelectedItem}) {
-    bindings.Bind(*part, [this] { head_->Show(); });
-  }
-  for (PropertyBase* const part :
-       std::initializer_list<PropertyBase*>{&editor.mnuViewTileVertically.Checked, &settings_.FileHeads}) {
-    bindings.Bind(*part, [this] { ShowHead(); });
-  }
   bindings.Keep(workbench.search.Changed.Connect([this] { viewport()->update(); }));
   bindings.Keep(workbench.problems.Changed.Connect([this] {
     viewport()->update();
     margin_->update();
   }));
-  ShowBars();
-  Follow();
 }
 
 void EditorPane::Follow() {

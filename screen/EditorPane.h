@@ -45,6 +45,8 @@ class EditorPane : public PaneView {
   };
 
   void Follow();
+  void FollowSettings(Bindings& bindings);
+  void FollowWorkbench(Workbench& workbench, Bindings& bindings);
   void ShowMargin();
   void ShowHead();
   void ShowBars();

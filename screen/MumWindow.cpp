@@ -36,22 +36,41 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   setMinimumSize(kSmallest);
   setContextMenuPolicy(Qt::NoContextMenu);
   setAcceptDrops(true);
+  LayOut();
+  ShowCloseChild();
+  menus_ = MakeMenus(mum.menus, bindings_);
+  RemoveChild();
+  if (clock == Clock::Real) {
+    KeepPanels();
+    BindTimers();
+  }
+  settling_.setSingleShot(true);
+  settling_.setInterval(clock == Clock::Real ? kSettlingTime : 0);
+  connect(&settling_, &QTimer::timeout, this, [this] { Settle(); });
+  BindWindow();
+}
+
+/// The toolbar stands above the area of the child.
+void MumWindow::LayOut() {
   auto* const centre = new QWidget;
   auto* const column = new QVBoxLayout(centre);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  column->addWidget(new ToolbarView(mum.Toolbar1, mum.Picture1, kSwatchButton, bindings_, centre));
+  column->addWidget(new ToolbarView(mum_.Toolbar1, mum_.Picture1, kSwatchButton, bindings_, centre));
   column->addWidget(area_, 1);
   auto* const filled = new QVBoxLayout(area_);
   filled->setContentsMargins(0, 0, 0, 0);
   const FormLayout in(bindings_);
-  empty_->setLayout(Column({Stretch(), Row({Stretch(), in.Show(mum.EmptyText), Stretch()}),
-                            Row({Stretch(), in.Show(mum.EmptyEditor), Stretch()}), Stretch()}));
+  empty_->setLayout(Column({Stretch(), Row({Stretch(), in.Show(mum_.EmptyText), Stretch()}),
+                            Row({Stretch(), in.Show(mum_.EmptyEditor), Stretch()}), Stretch()}));
   filled->addWidget(empty_);
   area_->setBackgroundRole(QPalette::Window);
   area_->setAutoFillBackground(true);
   setCentralWidget(centre);
-  setStatusBar(new StatusBarView(mum.StatusBar, mum.ProgressBar1, mum.ProblemCount, bindings_, this));
+  setStatusBar(new StatusBarView(mum_.StatusBar, mum_.ProgressBar1, mum_.ProblemCount, bindings_, this));
+}
+
+void MumWindow::ShowCloseChild() {
   closeChild_->setIcon(Icon("close"));
   closeChild_->setAutoRaise(true);
   closeChild_->setFocusPolicy(Qt::NoFocus);
@@ -60,20 +79,15 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
   connect(
       closeChild_, &QAbstractButton::clicked, this, [this] { application_.CloseEditor(); },
       Qt::QueuedConnection);
-  menus_ = MakeMenus(mum.menus, bindings_);
-  RemoveChild();
-  if (clock == Clock::Real) {
-    KeepPanels();
-    for (Timer* const timer :
-         {&application.workbench.journals.timer, &application.workbench.liveColours.pause.timer,
-          &application.workbench.problems.pause.timer}) {
-      bindings_.Bind(*timer, *new QTimer(this));
-    }
+}
+
+/// A session winds these timers by itself.
+void MumWindow::BindTimers() {
+  Workbench& bench = application_.workbench;
+  for (Timer* const timer :
+       {&bench.journals.timer, &bench.liveColours.pause.timer, &bench.problems.pause.timer}) {
+    bindings_.Bind(*timer, *new QTimer(this));
   }
-  settling_.setSingleShot(true);
-  settling_.setInterval(clock == Clock::Real ? kSettlingTime : 0);
-  connect(&settling_, &QTimer::timeout, this, [this] { Settle(); });
-  BindWindow();
 }
 
 MumWindow::~MumWindow() {

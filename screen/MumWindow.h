@@ -33,6 +33,9 @@ class MumWindow : public QMainWindow, public FormView {
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void LayOut();
+  void ShowCloseChild();
+  void BindTimers();
   void BindWindow();
   void ShowWindow();
   void TakeState();
