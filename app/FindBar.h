@@ -23,7 +23,7 @@ class FindBar {
   void Open();
   /// Goes; the hit in hand stays selected.
   void Close();
-  /// Goes, and so does the user: to where the search began.
+  /// Closes the bar and puts the caret back to where the search began.
   void Cancel();
   [[nodiscard]] static Pixels Height() { return Pixels{38}; }
 

@@ -16,9 +16,9 @@ class NoticeBar {
   Label text;
   ControlArray<CommandButton> commands;
 
-  /// As there is something to tell of the file on top, or not.
+  /// Shows the bar while there is a notice for the file on top, and hides it otherwise.
   void Show();
-  /// For whatever shows it: so high must it be for its words.
+  /// The view tells here how high the bar must be for its words.
   void Need(Pixels height);
   [[nodiscard]] Pixels Height() const { return height_; }
 

@@ -13,7 +13,7 @@ class SavedStates {
 
   /// Begins to follow the files of the editor, which has been loaded.
   void Follow();
-  /// Ends that: the frame shows no file any more.
+  /// Follows no file any more, and the frame shows none.
   void Stop();
 
  private:

@@ -11,7 +11,7 @@ constexpr std::size_t kLongestShown = 40;
 constexpr std::string_view kUsualNullSign = "^";
 constexpr std::string_view kBracketWords[] = {"RAW", "DLY", "RPT"};
 constexpr std::string_view kLogicWords[] = {"AND", "OR", "NOT", "PULSE", "DELAY", "CMPLT", "CMPGT"};
-/// Coloured wherever they stand, and told about in the manuals of the sticks alone.
+/// These words are coloured wherever they stand; only the manuals of the sticks tell what they mean.
 constexpr std::string_view kForeignWords[] = {"GAME1", "GAME2"};
 
 bool IsAmong(std::span<const std::string_view> words, std::string_view word) {

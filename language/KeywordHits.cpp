@@ -39,7 +39,7 @@ std::array<Wanted, 256> WantedBy(std::span<const Pass> passes) {
   return wanted;
 }
 
-/// Whether a keyword whose first places are there is a hit.
+/// Whether the rest of a keyword, of which the first `kPlaces` characters were found, is there too.
 bool RestIsThere(const Pass& pass, std::string_view text, std::size_t hit) {
   for (std::size_t i = kPlaces; i < pass.text.size(); ++i) {
     const char found = At(text, hit + i);

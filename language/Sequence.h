@@ -95,7 +95,7 @@ class TokenCursor {
     if (!AtEnd()) ++at_;
     return range;
   }
-  /// A word of any kind; empty and behind what was taken last where none comes.
+  /// Takes a word of any kind. Where none comes next, the range is empty and stands at the end.
   Range TakeWord() { return IsWord() ? Take() : Range{End(), 0}; }
   /// All that is left; empty at the end.
   Range TakeRest() {

@@ -59,7 +59,7 @@ void ForeignEncodings::Convert(Document& document) {
   if (converted.lost > 0) document.text.CharactersLost(converted.lost);
 }
 
-/// What a save that was held back has not written is still to be saved.
+/// A text that a refused save has not written counts as modified again.
 void ForeignEncodings::KeepAsItIs(Document& document) {
   const bool differs = !document.origin.MayBeWritten(document.text.Characters());
   document.origin.Accept();

@@ -73,7 +73,7 @@ class Workbench {
   void NewFile(Document& document);
   /// Empties the history of both documents.
   void ForgetUndos();
-  /// Has a font that the user has chosen meanwhile taken into use.
+  /// Announces the font, if the user has chosen another one meanwhile.
   void TakeChosenFont();
 
   /// Another program changed what is on the clipboard.

@@ -60,7 +60,7 @@ QFont FontOf(const std::string& name, float points, bool bold) {
   return font;
 }
 
-/// Characters of one line of the text: all that are left of it, or of a very long one the next ones.
+/// A part of a line of the text: the rest of it, or as much of a very long one as is taken at once.
 struct Piece {
   std::size_t start;
   std::size_t length;

@@ -7,8 +7,8 @@
 
 namespace tarvik {
 
-/// What becomes of a path that is taken into use: a control panel applet or a help file needs a program in
-/// front of it, which is put there when the user says so.
+/// The command line for a path that the user wants to start: a control panel applet or a help file needs a
+/// program in front of it, which is put there when the user agrees.
 [[nodiscard]] std::string CustomAppPathUse(Dialogs& dialogs, const std::string& path);
 
 }  // namespace tarvik
