@@ -5,7 +5,7 @@ say() { printf '\n== %s\n' "$*"; }
 # Debian's packages: to build, to run, for the tests, and for the checks.
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libsdl2-dev libwmf-dev breeze-icon-theme
   fonts-liberation cmark-gfm libxxhash-dev libdtl-dev libutf8proc-dev nlohmann-json3-dev libcli11-dev)
-PICTURE_PACKAGES=(xvfb openbox xdotool imagemagick)
+PICTURE_PACKAGES=(xvfb openbox xdotool imagemagick x11-utils faketime xz-utils fonts-dejavu-core fonts-liberation)
 TEST_PACKAGES=(libgtest-dev libgmock-dev fiu-utils poppler-utils dosbox libsm-dev)
 BENCH_PACKAGES=(libbenchmark-dev)
 CHECK_PACKAGES=(clang-format clang-tidy clang libclang-rt-14-dev)
@@ -47,10 +47,10 @@ within() {
 # start_display FOLDER: an X server and a window manager in the background, and DISPLAY set to them.
 start_display() {
   # -noreset: the server does not start over when its last client so far leaves it.
-  Xvfb -noreset -displayfd 3 -screen 0 "${SCREEN:-1280x900x24}" 3>"$1/display" 2>/dev/null &
+  Xvfb -noreset ${SERVER_OPTIONS:-} -displayfd 3 -screen 0 "${SCREEN:-1280x900x24}" 3>"$1/display" 2>/dev/null &
   within 30 test -s "$1/display" || { echo "the virtual display did not start" >&2; return 1; }
   export DISPLAY=":$(cat "$1/display")"
   # A window that comes up while the window manager starts is lost to it: so it says when it is ready.
-  openbox --startup "touch '$1/ready'" 2>/dev/null &
+  openbox --startup "touch '$1/ready'" >"$1/openbox" 2>&1 &
   within 30 test -e "$1/ready" || { echo "the window manager did not start" >&2; return 1; }
 }

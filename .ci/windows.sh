@@ -9,6 +9,7 @@ start_program() {
   files=$work/drive_c/tqs/programs
   mkdir -p "$files"
   cp data/samples/* "$files"
+  touch -d "1997-12-14 12:00" "$files"/*
   printf '%s\n' '[FileLocations]' FirstTimeUsed=0 ShowTips=0 JoyName=1 ThrottleName=1 '[Miscellaneous]' \
     OpenSingleFileOnly=0 "$@" >"$work/tarvik.ini"
   "$work/tarvik" "$files/strike.b50" 2>/dev/null &
