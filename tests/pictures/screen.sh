@@ -2,7 +2,8 @@
 # once nothing moves. Who includes this names the desktop in $desk, and in $home a folder for it.
 
 # desktop FOLDER LOOK: the settings of a desktop whose colours are light or dark, whose caret does not blink, and whose
-# letters are the same on every machine. Nothing of the user's own desktop is left.
+# letters are the same on every machine, without grey edges where the toolkit can, so that they take little room. Nothing
+# of the user's own desktop is left.
 desktop() {
   local window=239,240,241 view=255,255,255 text=35,38,41 link=41,128,185 part
   [ "$2" = light ] || window=42,46,50 view=27,30,32 text=252,252,252 link=29,153,243
@@ -45,7 +46,7 @@ show_screen() {
   mkdir -p "$home/screen"
   SCREEN=$1x$2x24 SERVER_OPTIONS="-nocursor -fbdir $home/screen" start_display "$home" 2>/dev/null ||
     fail "no display came up"
-  screen=$home/screen/Xvfb_screen0 seen=$home/seen.xwd
+  screen=$home/screen/Xvfb_screen0 seen=$home/seen.xwd still=no
   corner=($(($1 - 1)) $(($2 - 1)))
   xdotool mousemove "${corner[@]}"
 }
@@ -80,18 +81,22 @@ settled() {
       cp "$screen" "$seen"
     fi
   done
+  still=yes
 }
 changed() { ! cmp -s "$screen" "$seen"; }
 
-# press KEY...: and waits until something comes of it.
-press() {
-  xdotool key "$@"
+# act XDOTOOL-ARGUMENT...: does what the user does once nothing moves, and waits until something comes of it.
+act() {
+  [ $still = yes ] || settled "$*"
+  still=no
+  xdotool "$@"
   within 30 changed || fail "nothing came of $*"
 }
-# write TEXT: likewise.
-write() {
-  xdotool type "$1"
-  within 30 changed || fail "nothing came of \"$1\""
+press() { act key "$@"; }
+# click X Y: there in the window on top, in pixels of a usual screen.
+click() {
+  act mousemove --window "$(xdotool getactivewindow)" $(($1 * QT_SCALE_FACTOR)) $(($2 * QT_SCALE_FACTOR)) click 1 \
+    mousemove "${corner[@]}"
 }
 
 # came TITLE: a window of that title has come up.
@@ -99,20 +104,17 @@ came() {
   within 60 active "$1" || fail "no window \"$1\" came, but \"$(xdotool getactivewindow getwindowname)\""
 }
 
-# keep NAME WINDOW: the part of the screen that a window takes with its title.
+# keep NAME WINDOW: the part of the screen inside a window's frame, as it is, and as it is compared: at two
+# scales of a quarter of the size, which still can be read, and in few colours.
 keep() {
-  local x y width height
-  read -r x y width height < <(xwininfo -frame -id "$2" |
-    awk '/Absolute upper-left|Width:|Height:/ { printf "%s ", $NF } END { print "" }') || fail "the window of $1 is gone"
-  [ ! -e "$new/$1.ppm" ] || fail "there are two pictures $1"
-  convert "xwd:$seen" -crop "$(printf '%dx%d%+d%+d' "$width" "$height" "$x" "$y")" +repage "ppm:$new/$1.ppm"
-}
-
-# click X Y: there in the window on top, in pixels of a usual screen.
-click() {
-  xdotool mousemove --window "$(xdotool getactivewindow)" $(($1 * QT_SCALE_FACTOR)) $(($2 * QT_SCALE_FACTOR)) click 1 \
-    mousemove "${corner[@]}"
-  within 30 changed || fail "nothing came of a click at $1 $2"
+  local x y width height small=100%
+  [ "$QT_SCALE_FACTOR" = 1 ] || small=25%
+  [ -n "$2" ] || fail "no window came up for $1"
+  read -r x y width height < <(xwininfo -id "$2" |
+    awk '/Absolute upper-left|Width:|Height:/ { printf "%s ", $NF } END { print "" }')
+  [ ! -e "$home/new/$1.ppm" ] || fail "there are two pictures $1"
+  convert "xwd:$seen" -crop "$(printf '%dx%d%+d%+d' "$width" "$height" "$x" "$y")" +repage -write "ppm:$home/whole/$1.ppm" \
+    -scale $small -posterize $LEVELS "ppm:$home/new/$1.ppm"
 }
 
 # picture NAME TITLE [KEY...]: presses the keys, and keeps the window of that title once it stands still.
