@@ -53,6 +53,7 @@ void Editor::ShowPicturesInPopUps() {
 }
 
 void Editor::ShowViewSwitches() {
+  menus("mnuViewShow").Enabled = true;  // its entries get what they do here
   for (const tables::ViewSwitchRow& row : tables::kViewSwitches) {
     Property<int>& setting = bench_.settings.*row.setting;
     MenuItem& entry = menus(row.entry);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/Words.h"
+
 namespace tarvik {
 namespace {
 
@@ -136,10 +138,18 @@ void SuggestionList::Take() {
   Pane& pane = bench_.documents.Active().text;
   const Colour colour = ColourOf(candidate);
   bench_.insertion.BeginColInsert();
-  pane.Select(candidate.replaces);
+  pane.Select(Replaced(candidate));
   pane.SelText = std::string();
   bench_.insertion.InsertColouredString(candidate.text, colour);
   bench_.insertion.EndColInsert();
+}
+
+/// In the middle of a word the rest of it goes, too.
+Range SuggestionList::Replaced(const model::Candidate& candidate) const {
+  const Range& typed = candidate.replaces;
+  if (typed.length == 0) return typed;
+  const std::string_view text = bench_.documents.Active().text.Characters();
+  return {typed.start, std::max(typed.End(), WordAt(text, typed.End()).End()) - typed.start};
 }
 
 Colour SuggestionList::ColourOf(const model::Candidate& candidate) const {

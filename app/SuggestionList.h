@@ -40,6 +40,7 @@ class SuggestionList {
   /// To another one, within the list.
   void Go(int rows);
   void Take();
+  [[nodiscard]] Range Replaced(const model::Candidate& candidate) const;
   /// What a text will have in the place of a range, when the user wants colours.
   [[nodiscard]] Colour ColourOf(const model::Candidate& candidate) const;
 

@@ -46,7 +46,10 @@ Status Run(int count, const char* const* words, const Streams& streams) {
   const auto read = ReadArguments(count, words, streams);
   if (const auto* status = std::get_if<Status>(&read)) return *status;
   const auto& arguments = std::get<Arguments>(read);
-  return arguments.job->run(arguments, streams);
+  const Status status = arguments.job->run(arguments, streams);
+  if (streams.out.flush()) return status;
+  streams.error << "tarvik-check: The report can't be written\n";
+  return kUnreadable;
 }
 
 }  // namespace tarvik::check

@@ -13,7 +13,8 @@ namespace {
 constexpr std::uint32_t kMostFlags = 48;
 constexpr std::string_view kRocker = "RKR ";
 constexpr std::string_view kSequenceWords[] = {"SHF", "CTL", "ALT", "RAW", "DLY", "RPT"};
-constexpr std::string_view kConditionWords[] = {"AND", "OR", "NOT", "PULSE", "DELAY", "CMPLT", "CMPGT"};
+constexpr std::string_view kJoiningWords[] = {"AND", "OR"};
+constexpr std::string_view kBeginningWords[] = {"NOT", "PULSE", "DELAY", "CMPLT", "CMPGT"};
 constexpr std::string_view kUses[] = {"TQS", "WCS", "NOTHR", "RCS", "NORDDR", "NOMOUSE", "FCLK", "MTYPE"};
 
 /// What stands before a position in its statement.
@@ -243,8 +244,21 @@ class CandidateSearch {
       }
       return;
     }
-    AddHelped(kConditionWords);
-    AddUsable();
+    if (IsBehindOperand()) {
+      AddHelped(kJoiningWords);
+    } else {
+      AddHelped(kBeginningWords);
+      AddUsable();
+    }
+  }
+  /// Whether what stands before is whole: then it is joined to more, or lasts.
+  [[nodiscard]] bool IsBehindOperand() const {
+    if (before_.words.size() <= 2) return false;
+    if (before_.words.back().kind == TokenKind::Closing) return true;
+    const std::string_view last = before_.Word(before_.words.size() - 1);
+    const auto is = [last](std::string_view word) { return SameWord(word, last); };
+    return before_.words.back().kind != TokenKind::Opening && !std::ranges::any_of(kJoiningWords, is) &&
+           !std::ranges::any_of(kBeginningWords, is);
   }
   /// Whether the bracket that is open is that of CMPLT or CMPGT.
   [[nodiscard]] bool IsComparison() const {

@@ -8,7 +8,7 @@ namespace tarvik::model {
 namespace {
 
 constexpr std::string_view kThrottle = "THR";
-/// Of the throttle: it wants a key for each position, and no number of them is written in the tables.
+/// The type with keys for what lies between the ends: how many is nowhere written.
 constexpr std::uint32_t kByPosition = 2;
 
 /// The row of the tab that writes such a statement; null for a type that there is none of.
@@ -23,8 +23,13 @@ const tables::TabRow* RowOf(const Axis& axis) {
   return row == std::end(tables::kTabStatements) ? nullptr : row;
 }
 
-bool IsByPosition(const Axis& axis) {
-  return axis.shape->word == kThrottle && axis.type.value == kByPosition;
+bool IsByPosition(const Axis& axis) { return axis.type.value == kByPosition; }
+
+/// How many keys the tab that writes such a statement has room for.
+std::size_t FieldsFor(const Axis& axis, const tables::TabRow& row) {
+  const auto fields = static_cast<std::size_t>(
+      std::ranges::count_if(row.fields, [](const tables::FieldRow& each) { return !each.box.empty(); }));
+  return fields - axis.steps.size();
 }
 
 /// How many keys stand there. Nothing where delays, repetitions or modifiers make that unclear.
@@ -63,24 +68,26 @@ void FindFieldCount(const Checked&, const Place& place, const Axis& axis, Report
   const tables::TabRow* row = RowOf(axis);
   const auto keys = KeysIn(axis.keys);
   if (row == nullptr || LacksSteps(axis) || IsByPosition(axis) || !keys) return;
-  const auto fields = static_cast<std::size_t>(
-      std::ranges::count_if(row->fields, [](const tables::FieldRow& each) { return !each.box.empty(); }));
-  const std::size_t wanted = fields - axis.steps.size();
+  const std::size_t wanted = FieldsFor(axis, *row);
   if (*keys == wanted) return;
   report.Add(place, axis.word,
              Said({axis.shape->word, " of type ", row->type, " wants ", std::to_string(wanted),
                    " keys, and has ", std::to_string(*keys), "."}));
 }
 
+/// The throttle wants a key for each position; the others have one for each too, or what their tab has room
+/// for.
 void FindPositions(const Checked&, const Place& place, const Axis& axis, Report& report) {
+  const tables::TabRow* row = RowOf(axis);
   const auto keys = KeysIn(axis.keys);
-  if (!IsByPosition(axis) || LacksSteps(axis) || !keys) return;
-  std::uint64_t wanted = 0;
-  for (const Number& steps : axis.steps) wanted += *steps.value;
-  if (*keys == wanted) return;
+  if (row == nullptr || !IsByPosition(axis) || LacksSteps(axis) || !keys) return;
+  std::uint64_t positions = 0;
+  for (const Number& steps : axis.steps) positions += *steps.value;
+  const bool isOfTab = axis.shape->word != kThrottle && *keys == FieldsFor(axis, *row);
+  if (*keys == positions || isOfTab) return;
   report.Add(place, axis.word,
-             Said({"The throttle has ", std::to_string(wanted), " positions here and ", std::to_string(*keys),
-                   " keys. What the loader makes of that is not known."}));
+             Said({axis.shape->word, " has ", std::to_string(positions), " positions here and ",
+                   std::to_string(*keys), " keys. What the loader makes of that is not known."}));
 }
 
 constexpr Rule kRules[] = {
@@ -105,9 +112,9 @@ constexpr Rule kRules[] = {
      {"ANT 1 12 a b\n"},
      {"ANT 1 12 a b ^\n"},
      FindFieldCount},
-    {"throttle-key-count",
+    {"axis-key-count",
      Severity::Hint,
-     "THR of type 2 has another number of keys than of positions.",
+     "An axis statement of type 2 has another number of keys than of positions.",
      "Write one key for each position.",
      {"THR 2 4 2 a b c\n"},
      {"THR 2 2 1 a b c\n"},

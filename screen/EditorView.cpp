@@ -214,6 +214,7 @@ void EditorView::MakePanes(Workbench& workbench) {
 void EditorView::MakeSuggestions() {
   const auto place = [this](std::size_t position) {
     EditorPane& pane = *panes_[editor_.TabStrip1.SelectedIndex() - 1];
+    pane.ensureCursorVisible();
     const QRect caret = pane.CaretAt(position);
     return QRect(pane.viewport()->mapTo(this, caret.topLeft()), caret.size());
   };

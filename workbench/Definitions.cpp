@@ -41,10 +41,6 @@ std::vector<Definitions::Place> Definitions::Describe(std::span<const model::Men
   return places;
 }
 
-void Definitions::GoTo(const Place& place) {
-  if (&documents_.Active() != place.document) documents_.Select(*place.document);
-  place.document->text.Select(place.name);
-  documents_.FocusActiveText();
-}
+void Definitions::GoTo(const Place& place) { documents_.GoTo(*place.document, place.name); }
 
 }  // namespace tarvik

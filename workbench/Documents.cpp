@@ -77,6 +77,15 @@ void Documents::ApplyBackground(const Document& document) const {
   document.text.BackColor = (settings.*document.traits.background).Get();
 }
 
+/// A file that comes to the top puts its caret where it remembers it.
+void Documents::GoTo(Document& document, Range place) {
+  document.Caret = place.start;
+  document.text.Select(place);
+  if (&Active() != &document) Select(document);
+  document.text.Select(place);
+  FocusActiveText();
+}
+
 void Documents::Reformat() {
   const ProgramEdit edit(values);
   Say("Reformatting layout. Please wait ...");

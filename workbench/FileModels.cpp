@@ -1,5 +1,11 @@
 #include "workbench/FileModels.h"
 
+#include <algorithm>
+
+#include "language/Controllers.h"
+#include "text/CodePage.h"
+#include "workbench/FilePairs.h"
+
 namespace tarvik {
 namespace {
 
@@ -47,16 +53,24 @@ const model::NameIndex& FileModels::Names() const {
   return *names_;
 }
 
-model::FilePair FileModels::Pair() const {
+/// What the settings say is attached. A file whose ending is that of another joystick is for that one, and
+/// nobody knows what is attached to it.
+model::Hardware FileModels::Chosen() const {
   const Settings& settings = documents_.settings;
+  const std::string ending = LowerCase(Ending(documents_.joystick.Name.Get().Text()));
+  const bool isKnown = std::ranges::count(kEndings, ending, &Endings::joystick) > 0;
+  const JoystickRow* const own = RowOf(kJoysticks, settings.JoyName);
+  if (isKnown && (!own || own->endings.joystick != ending)) return {.joystick = JoystickOf(ending)};
+  return {settings.JoyName.Get(), settings.ThrottleName.Get(), settings.RudderName.Get()};
+}
+
+model::FilePair FileModels::Pair() const {
   const std::string_view text = documents_.joystick.text.Characters();
-  const model::Hardware chosen{settings.JoyName.Get(), settings.ThrottleName.Get(),
-                               settings.RudderName.Get()};
   return {.joystick = joystick_,
           .joystickText = text,
           .macros = macros_,
           .macroText = documents_.macro.text.Characters(),
-          .hardware = model::AttachedHardware(joystick_, text, chosen),
+          .hardware = model::AttachedHardware(joystick_, text, Chosen()),
           .names = {.joystick = NameOnDisk(documents_.joystick), .macros = NameOnDisk(documents_.macro)}};
 }
 

@@ -26,6 +26,7 @@ class FileModels {
   [[nodiscard]] const model::NameIndex& Names() const;
 
  private:
+  [[nodiscard]] model::Hardware Chosen() const;
   void Follow(const Document& document, const PaneEdit& edit);
 
   Documents& documents_;

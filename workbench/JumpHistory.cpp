@@ -79,9 +79,7 @@ void JumpHistory::Go(std::vector<Place>& from, std::vector<Place>& to) {
   const Place place = from.back();
   from.pop_back();
   going_ = true;
-  if (&documents_.Active() != place.document) documents_.Select(*place.document);
-  place.document->text.Select({place.position, 0});
-  documents_.FocusActiveText();
+  documents_.GoTo(*place.document, {place.position, 0});
   going_ = false;
   Changed();
 }

@@ -109,10 +109,7 @@ const model::Problem* Problems::At(const Document& document, std::size_t positio
 }
 
 void Problems::GoTo(const model::Problem& problem) {
-  Document& document = DocumentOf(documents_, problem.file);
-  if (&documents_.Active() != &document) documents_.Select(document);
-  document.text.Select(problem.range);
-  documents_.FocusActiveText();
+  documents_.GoTo(DocumentOf(documents_, problem.file), problem.range);
 }
 
 void Problems::GoToFirstError() {

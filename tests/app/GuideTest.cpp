@@ -29,10 +29,12 @@ std::string Guide() {
 std::set<std::string> WaysThroughTheMenus() {
   std::set<std::string> ways;
   std::string menu;
+  std::string within;
   for (const MenuRow<Editor>& row : tables::kMenus) {
     const std::string caption = std::regex_replace(std::string(row.caption), std::regex("&| \\.\\.\\."), "");
     if (row.level == 0) menu = caption;
-    ways.insert(menu + " > " + caption);
+    if (row.level == 1) within = menu + " > " + caption;
+    ways.insert(row.level == 2 ? within + " > " + caption : menu + " > " + caption);
   }
   return ways;
 }
