@@ -54,13 +54,14 @@ const model::NameIndex& FileModels::Names() const {
 }
 
 /// What the settings say is attached. A file whose ending is that of another joystick is for that one, and
-/// nobody knows what is attached to it.
+/// nobody knows what is attached to it. One without a name is for their own.
 model::Hardware FileModels::Chosen() const {
   const Settings& settings = documents_.settings;
   const std::string ending = LowerCase(Ending(documents_.joystick.Name.Get().Text()));
-  const bool isKnown = std::ranges::count(kEndings, ending, &Endings::joystick) > 0;
   const JoystickRow* const own = RowOf(kJoysticks, settings.JoyName);
-  if (isKnown && (!own || own->endings.joystick != ending)) return {.joystick = JoystickOf(ending)};
+  const bool isOfOther = std::ranges::count(kEndings, ending, &Endings::joystick) > 0 &&
+                         (!own || own->endings.joystick != ending);
+  if (isOfOther && !documents_.joystick.IsUntitled()) return {.joystick = JoystickOf(ending)};
   return {settings.JoyName.Get(), settings.ThrottleName.Get(), settings.RudderName.Get()};
 }
 
