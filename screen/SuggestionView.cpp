@@ -1,6 +1,7 @@
 #include "screen/SuggestionView.h"
 
 #include <QScrollBar>
+#include <QToolTip>
 #include <algorithm>
 
 namespace tarvik::screen {
@@ -43,6 +44,7 @@ QSize SuggestionView::Needed() const {
 void SuggestionView::Show() {
   setVisible(suggestions_.IsOpen());
   if (!suggestions_.IsOpen()) return;
+  QToolTip::hideText();  // which may stand where the list is to
   const QRect word = place_(suggestions_.Anchor());
   const QSize size = Needed();
   const bool fitsBelow = word.bottom() + size.height() < parentWidget()->height();

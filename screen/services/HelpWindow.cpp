@@ -98,7 +98,8 @@ std::size_t TopicOf(const QListWidgetItem& item) { return item.data(Qt::UserRole
 }  // namespace
 
 HelpWindow::HelpWindow()
-    : words_(new QLineEdit),
+    : tools_(new QToolBar),
+      words_(new QLineEdit),
       none_(new QLabel(tr("No topic has these words."))),
       topics_(new QListWidget),
       side_(new QWidget),
@@ -123,24 +124,22 @@ HelpWindow::HelpWindow()
   ListenToUser();
 }
 
-QToolBar* HelpWindow::MakeTools() {
-  auto* const tools = new QToolBar;
+void HelpWindow::MakeTools() {
   back_ = AddAction("back", tr("Back"), QKeySequence::Back, &HelpWindow::GoBack);
   forward_ = AddAction("forward", tr("Forward"), QKeySequence::Forward, &HelpWindow::GoForward);
   QAction* const contents =
       AddAction("contents", tr("Contents"), Qt::ALT | Qt::Key_Home, &HelpWindow::GoToContents);
   QAction* const print = AddAction("print", tr("Print"), QKeySequence::Print, &HelpWindow::Print);
-  tools->addActions({back_, forward_, contents, print});
-  tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  tools->setIconSize({kIcon, kIcon});
-  return tools;
+  tools_->addActions({back_, forward_, contents, print});
+  tools_->setIconSize({kIcon, kIcon});
 }
 
 void HelpWindow::Arrange() {
   side_->setLayout(Column({Fields({{"&Search:", words_}}), none_, topics_}));
   side_->layout()->setContentsMargins(0, 0, 0, 0);
   QLayout* const rows = Row({side_, text_});
-  rows->setMenuBar(MakeTools());
+  MakeTools();
+  rows->setMenuBar(tools_);
   setLayout(rows);
 }
 
@@ -327,7 +326,9 @@ void HelpWindow::StandBeside(QWidget& window) {
 }
 
 void HelpWindow::FoldTopics(int width) {
-  side_->setVisible(width >= kLeastWithTopics);
+  const bool isRoom = width >= kLeastWithTopics;
+  side_->setVisible(isRoom);
+  tools_->setToolButtonStyle(isRoom ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonIconOnly);
   layout()->activate();
 }
 

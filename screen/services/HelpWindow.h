@@ -39,7 +39,7 @@ class HelpWindow : public QDialog {
  private:
   QAction* AddAction(const char* icon, const QString& text, const QKeySequence& key,
                      void (HelpWindow::*run)());
-  [[nodiscard]] QToolBar* MakeTools();
+  void MakeTools();
   void Arrange();
   void ListenToUser();
   void Search();
@@ -60,7 +60,8 @@ class HelpWindow : public QDialog {
   void Print();
   void ChooseOwner();
   void StandBeside(QWidget& window);
-  /// Shows the search and the list of topics where there is room for them beside the text.
+  /// Shows the search and the list of topics where there is room for them beside the text, and the words
+  /// beside the pictures of the commands.
   void FoldTopics(int width);
   void FollowLink(const QUrl& link);
 
@@ -69,6 +70,7 @@ class HelpWindow : public QDialog {
   std::vector<std::size_t> read_;  // the topics in the order of reading, for the ways back and forward
   std::size_t at_ = 0;             // the one of read_ that is shown
   std::optional<std::size_t> shown_;
+  QToolBar* tools_;
   QAction* back_;
   QAction* forward_;
   QLineEdit* words_;

@@ -1,11 +1,14 @@
 // The help window, where only the toolkit can show it.
 #include <gtest/gtest.h>
 
+#include <QAction>
+#include <QApplication>
 #include <QDialog>
 #include <QImage>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTextDocument>
+#include <QToolBar>
 
 #include "screen/services/HelpWindow.h"
 
@@ -45,6 +48,24 @@ TEST(HelpWindow, StandsBesideAModalWindowAndNotOverIt) {
   window.move(40, 300);
   window.ShowContext(1);
   EXPECT_EQ(window.pos(), QPoint(40, 300));
+}
+
+TEST(HelpWindow, HasAllItsCommandsInSightWhereItIsNarrow) {
+  HelpWindow window;
+  window.Open(HelpFile("# One\n<!-- 1: -->\nWords.\n"));
+  QFont large = window.font();
+  large.setPixelSize(20);
+  window.setFont(large);
+  window.show();
+  const auto& tools = *window.findChild<QToolBar*>();
+  for (const int width : {900, 550, 320}) {  // the topics fold away before it can be so narrow
+    window.resize(width, 400);
+    QApplication::processEvents();
+    for (QAction* const command : tools.actions()) {
+      EXPECT_TRUE(tools.widgetForAction(command)->isVisible())
+          << width << " " << command->text().toStdString();
+    }
+  }
 }
 
 }  // namespace
