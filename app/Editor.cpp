@@ -262,7 +262,7 @@ void Editor::OpenPreviouslySavedFiles(const std::string& path) {
 }
 
 void Editor::F22MenusUpdate() {
-  const bool f22 = bench_.settings.JoyName == kF22Pro;
+  const bool f22 = HasExtras(bench_.settings.JoyName);
   for (const char* entry : tables::kF22Entries) menus(entry).Visible = f22;
   Command1(kIgnoreDelayButton).Visible = f22;
   Command1(kFormatButton).Caption = f22 ? "/F" : "/A";

@@ -112,7 +112,7 @@ class AbilityTable {
 
 unsigned StickOf(const Hardware& hardware) {
   if (!hardware.joystick) return kSticks;
-  if (*hardware.joystick == kF22Pro) return kF22Stick;
+  if (HasExtras(*hardware.joystick)) return kF22Stick;
   return IsPlain(*hardware.joystick) ? kPlainStick : kFlcsStick;
 }
 

@@ -32,6 +32,10 @@ inline constexpr Endings kEndings[] = {{"f22", "m22", "F22"}, {"b50", "m50", "F1
 /// The two languages of joystick files: buttons by numbers (S1, T1), or by what they are (TG, RKR UP).
 enum class Dialect { Numbered, Plain };
 
+/// What is offered for a joystick beyond the others: the ports, SWAPTG, /F and /Q in the place of /A, F22RST,
+/// and AUX before the keys between letters and keypad.
+enum class Extras { No, Yes };
+
 /// A joystick, by `JoyName`.
 struct JoystickRow {
   std::string_view name;        ///< in the preferences
@@ -39,16 +43,17 @@ struct JoystickRow {
   std::string_view inComposer;  ///< over its picture
   const Endings& endings;
   Dialect dialect;
+  Extras extras;
 };
 
 enum JoystickNumber { kF22Pro, kFlcs, kPfcs, kTopGun, kFcs };
 
 inline constexpr JoystickRow kJoysticks[] = {
-    {"F22 Pro", "F22 Pro", "F-22 Pro", kEndings[0], Dialect::Numbered},
-    {"F16 FLCS", "F-16 FLCS", "F-16 FLCS", kEndings[1], Dialect::Numbered},
-    {"P FCS", "P FCS", "PFCS", kEndings[2], Dialect::Plain},
-    {"Top Gun", "Top Gun", "Top Gun", kEndings[2], Dialect::Plain},
-    {"FCS", "FCS", "FCS", kEndings[2], Dialect::Plain},
+    {"F22 Pro", "F22 Pro", "F-22 Pro", kEndings[0], Dialect::Numbered, Extras::Yes},
+    {"F16 FLCS", "F-16 FLCS", "F-16 FLCS", kEndings[1], Dialect::Numbered, Extras::No},
+    {"P FCS", "P FCS", "PFCS", kEndings[2], Dialect::Plain, Extras::No},
+    {"Top Gun", "Top Gun", "Top Gun", kEndings[2], Dialect::Plain, Extras::No},
+    {"FCS", "FCS", "FCS", kEndings[2], Dialect::Plain, Extras::No},
 };
 
 /// A throttle, by `ThrottleName`, or rudders, by `RudderName`.
@@ -75,6 +80,12 @@ template <class Row, std::size_t N>
 [[nodiscard]] constexpr bool IsPlain(int joystick) {
   const int row = std::clamp(joystick, 0, static_cast<int>(std::size(kJoysticks)) - 1);
   return kJoysticks[row].dialect == Dialect::Plain;
+}
+
+/// A number in the settings that is beyond the table has none.
+[[nodiscard]] constexpr bool HasExtras(int joystick) {
+  const JoystickRow* const row = RowOf(kJoysticks, joystick);
+  return row && row->extras == Extras::Yes;
 }
 
 /// The number of the joystick that a joystick file's ending tells: the F-22 Pro for an ending of none.

@@ -34,7 +34,7 @@ struct NamedKey {
 };
 
 NamedKey Name(const KeyRow& row, std::string_view caption, const KeyNaming& naming) {
-  if (row.mark == Mark::Aux && naming.JoyName == kF22Pro) return {"AUX" + Text(row.name)};
+  if (row.mark == Mark::Aux && HasExtras(naming.JoyName)) return {"AUX" + Text(row.name)};
   if (row.mark != Mark::Face || naming.UseSHF) return {Text(row.name)};
   return {row.key == kSeven ? "&" : Text(caption), ShiftInKeyText::Yes};
 }

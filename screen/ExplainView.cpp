@@ -20,8 +20,7 @@ ExplainView::ExplainView(ExplainPanel& panel, Bindings& bindings, QWidget* paren
   area->setWidgetResizable(true);
   area->setFrameShape(QFrame::NoFrame);
   SetParts({Named(area, tr("Explanation")), in.Show(panel.close)});
-  setLayout(Row({parts()[0], Column({parts()[1], Stretch()})}));
-  layout()->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  setLayout(Framed({kMargin, kMargin, kMargin, kMargin}, Row({parts()[0], Column({parts()[1], Stretch()})})));
 }
 
 }  // namespace tarvik::screen

@@ -24,13 +24,13 @@ FindView::FindView(FindBar& find, Bindings& bindings, QWidget* parent)
   count->setFixedWidth(kCountWidth);
   SetParts({line, in.Show(find.previous), in.Show(find.next), in.Show(find.matchCase),
             in.Show(find.wholeWord), in.Show(find.close)});
-  auto* const row = new QHBoxLayout(this);
-  row->setContentsMargins(kMargin, 2, kMargin, 2);
+  std::vector<Piece> row;
   for (QWidget* const part : parts()) {
-    if (part == parts().back()) row->addStretch(1);
-    row->addWidget(part);
-    if (part == line) row->addWidget(count);
+    if (part == parts().back()) row.emplace_back(Stretch());
+    row.emplace_back(part);
+    if (part == line) row.emplace_back(count);
   }
+  setLayout(Framed({kMargin, 2, kMargin, 2}, Row(row)));
 }
 
 void FindView::keyPressEvent(QKeyEvent* event) {

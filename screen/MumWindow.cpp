@@ -5,7 +5,6 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QTime>
-#include <QVBoxLayout>
 #include <QWindow>
 
 #include "screen/WindowTitle.h"
@@ -53,17 +52,12 @@ MumWindow::MumWindow(Application& application, Mum& mum, Clock clock)
 /// The toolbar stands above the area of the child.
 void MumWindow::LayOut() {
   auto* const centre = new QWidget;
-  auto* const column = new QVBoxLayout(centre);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->setSpacing(0);
-  column->addWidget(new ToolbarView(mum_.Toolbar1, mum_.Picture1, kSwatchButton, bindings_, centre));
-  column->addWidget(area_, 1);
-  auto* const filled = new QVBoxLayout(area_);
-  filled->setContentsMargins(0, 0, 0, 0);
+  auto* const toolbar = new ToolbarView(mum_.Toolbar1, mum_.Picture1, kSwatchButton, bindings_, centre);
+  centre->setLayout(Framed({}, Spaced(Column({toolbar, Filling(area_)}), 0)));
+  area_->setLayout(Framed({}, Column({empty_})));
   const FormLayout in(bindings_);
   empty_->setLayout(Column({Stretch(), Row({Stretch(), in.Show(mum_.EmptyText), Stretch()}),
                             Row({Stretch(), in.Show(mum_.EmptyEditor), Stretch()}), Stretch()}));
-  filled->addWidget(empty_);
   area_->setBackgroundRole(QPalette::Window);
   area_->setAutoFillBackground(true);
   setCentralWidget(centre);

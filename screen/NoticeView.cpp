@@ -24,19 +24,13 @@ NoticeView::NoticeView(NoticeBar& notice, Bindings& bindings, QWidget* parent)
   const FormLayout in(bindings);
   auto* const picture = new QLabel;
   picture->setPixmap(Icon("warning").pixmap(kIcon));
-  auto* const words = new QHBoxLayout;
-  words->addWidget(picture);
-  words->addWidget(Wrapped(in.Show(notice.text)), 1);
-  auto* const commands = new QHBoxLayout;
-  commands->addStretch(1);
+  std::vector<Piece> commands = {Stretch()};
   for (int i = 0; i < NoticeBar::kMostActions; ++i) {
     buttons_.push_back(in.Show(notice.commands(i)));
-    commands->addWidget(buttons_.back());
+    commands.emplace_back(buttons_.back());
   }
-  parts_ = new QBoxLayout(QBoxLayout::LeftToRight, this);
-  parts_->setContentsMargins(kMargin, 2, kMargin, 2);
-  parts_->addLayout(words, 1);
-  parts_->addLayout(commands);
+  parts_ = Row({Filling(Row({picture, Filling(Wrapped(in.Show(notice.text)))})), Row(commands)});
+  setLayout(Framed({kMargin, 2, kMargin, 2}, parts_));
 }
 
 bool NoticeView::event(QEvent* event) {

@@ -20,8 +20,8 @@ ProblemView::ProblemView(ProblemPanel& panel, Bindings& bindings, QWidget* paren
   list->setUniformItemSizes(false);
   list->setWordWrap(true);
   list->setResizeMode(QListView::Adjust);
-  setLayout(Row({parts()[0], Column({parts()[1], Stretch(), parts()[2]})}));
-  layout()->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  setLayout(Framed({kMargin, kMargin, kMargin, kMargin},
+                   Row({parts()[0], Column({parts()[1], Stretch(), parts()[2]})})));
 }
 
 void ProblemView::keyPressEvent(QKeyEvent* event) {

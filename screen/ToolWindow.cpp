@@ -9,7 +9,6 @@
 #include <QStyle>
 #include <QTabWidget>
 #include <QTimer>
-#include <QVBoxLayout>
 #include <QWindow>
 #include <algorithm>
 
@@ -45,9 +44,7 @@ void ScrollPage(QWidget& window, const QSize& room) {
   area->setFocusPolicy(Qt::NoFocus);
   const int bar = area->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   area->setMinimumSize((page->sizeHint() + QSize(bar, bar)).boundedTo(room));
-  auto* const all = new QVBoxLayout(&window);
-  all->setContentsMargins({});
-  all->addWidget(area);
+  window.setLayout(Framed({}, Column({area})));
 }
 
 }  // namespace

@@ -51,36 +51,29 @@ WelcomeView::WelcomeView(WelcomePage& welcome, Bindings& bindings, QWidget* pare
   recent.push_back(AsHint(in.Show(welcome.noRecent)));
   std::vector<QWidget*> favourites = Lines(in, welcome.favourites);
   favourites.push_back(AsHint(in.Show(welcome.noFavourites)));
-  auto* const lists = new QGridLayout;
-  lists->setSpacing(kMargin);
-  lists->addLayout(Under("Begin", {AsLink(in.Show(welcome.open)), AsLink(in.Show(welcome.macroWizard)),
-                                   AsLink(in.Show(welcome.joystickWizard)), AsLink(in.Show(welcome.guide))}),
-                   0, 0);
-  lists->addLayout(Under("Files used last", recent), 0, 1);
-  lists->addLayout(Under("Samples, as a copy", Lines(in, welcome.samples)), 1, 0);
-  lists->addLayout(Under("Favourites", favourites), 1, 1);
-  auto* const rows = new QVBoxLayout(this);
-  rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  rows->setSpacing(kMargin);
-  rows->addWidget(
-      Wrapped(AsTitle(Words("Both files are empty. Begin to type, or go on with one of these."))));
-  rows->addLayout(lists);
+  const std::vector<QLayout*> lists = {
+      Under("Begin", {AsLink(in.Show(welcome.open)), AsLink(in.Show(welcome.macroWizard)),
+                      AsLink(in.Show(welcome.joystickWizard)), AsLink(in.Show(welcome.guide))}),
+      Under("Files used last", recent), Under("Samples, as a copy", Lines(in, welcome.samples)),
+      Under("Favourites", favourites)};
+  QLabel* const title =
+      Wrapped(AsTitle(Words("Both files are empty. Begin to type, or go on with one of these.")));
+  setLayout(Framed({kMargin, kMargin, kMargin, kMargin},
+                   Spaced(Column({title, Spaced(Grid(lists, 2), kMargin)}), kMargin)));
 }
 
 QLayout* WelcomeView::Under(const char* title, const std::vector<QWidget*>& widgets) {
-  auto* const column = new QVBoxLayout;
-  column->setSpacing(2);
   QLabel* const heading = Words(title);
   QFont bold = heading->font();
   bold.setBold(true);
   heading->setFont(bold);
-  column->addWidget(heading);
+  std::vector<Piece> pieces = {heading};
   for (QWidget* const widget : widgets) {
-    column->addWidget(widget);
+    pieces.emplace_back(widget);
     if (qobject_cast<QPushButton*>(widget)) parts_.push_back(widget);
   }
-  column->addStretch(1);
-  return column;
+  pieces.emplace_back(Stretch());
+  return Spaced(Column(pieces), 2);
 }
 
 void WelcomeView::StandIn(const QRect& place) {

@@ -30,9 +30,7 @@ QLayout* Buttons(const FormLayout& in, const ControlArray<T>& array, int columns
     cells.push_back(in.Show(array(i)));
     cells.back()->setMinimumWidth(40);
   }
-  auto* const grid = Grid(cells, columns);
-  grid->setSpacing(4);
-  return grid;
+  return Spaced(Grid(cells, columns), 4);
 }
 
 // The main page.
@@ -78,18 +76,16 @@ QLayout* MainPage(InsertOptions& form, const FormLayout& in) {
   QWidget* const rem = Named(in.Show(form.RemTextBox), QStringLiteral("Note"));
   auto* const side = new QWidget;
   side->setFixedWidth(kSideWidth);
-  side->setLayout(
+  side->setLayout(Framed(
+      {},
       Column({Group("Macros", Macros(form, in)), Group("Slash modifiers", Buttons(in, form.SlashButton, 6)),
               Group("Delay, Repeat", Row({in.Show(form.DlyRptButtons(0)), delay, Words("ms"), Stretch(),
                                           in.Show(form.DlyRptButtons(1)), repeat, Words("times")})),
               Group("Notes  (Rem)",
                     Column({rem, Row({Stretch(), in.Show(form.CommandREM), in.Show(form.Command10)})})),
               Row({in.Show(form.Command7(0)), Stretch(), in.Show(form.Command7(1)), blanks}),
-              in.Show(form.CheckAlwaysInsert), in.Show(form.HighlightStatement)}));
-  side->layout()->setContentsMargins(0, 0, 0, 0);
-  auto* const page = Row({hardware, side});
-  static_cast<QBoxLayout*>(page)->setStretch(0, 1);
-  return page;
+              in.Show(form.CheckAlwaysInsert), in.Show(form.HighlightStatement)})));
+  return Row({Filling(hardware), side});
 }
 
 // The pages that build statements.

@@ -15,16 +15,23 @@ struct PathRow {
   CommandButton& browse;
 };
 
-QLayout* Paths(const FormLayout& in, std::initializer_list<PathRow> rows) {
+struct PathGrid {
+  QLayout* grid;
+  int labelWidth;  ///< of the widest label, for the labels of a group below
+};
+
+PathGrid Paths(const FormLayout& in, std::initializer_list<PathRow> rows) {
   std::vector<QWidget*> cells;
+  int widest = 0;
   for (const PathRow& row : rows) {
     QWidget* const box = in.Show(row.box);
     QLabel* const label = LabelOf(row.label, box);
     label->setMinimumWidth(label->sizeHint().width() + kKerning);
+    widest = std::max(widest, label->minimumWidth());
     QWidget* const browse = Named(in.Show(row.browse), QLatin1String("Browse: ") + label->text());
     cells.insert(cells.end(), {label, box, browse});
   }
-  return Grid(cells, 3);
+  return {Grid(cells, 3), widest};
 }
 
 constexpr const char* kMayStayEmpty =
@@ -41,14 +48,13 @@ QWidget* Plain(QWidget* label) {
 QLayout* Idle(QWidget* box) { return Row({box, Words("(without effect here)"), Stretch()}); }
 
 QLayout* FileLocations(Preferences& form, const FormLayout& in) {
-  QLayout* const paths = Paths(in, {{"Loader", form.Text1, form.Command1},
-                                    {"Joystick and macro files", form.Text2, form.Command2},
-                                    {"Control Centre", form.Text10, form.Command8}});
-  std::vector<Field> hardware = {{"Joystick", in.Show(form.ComboJoystick)},
-                                 {"Throttle", in.Show(form.ComboThrottle)},
-                                 {"Rudders", in.Show(form.ComboRudders)}};
-  const auto* const widest = qobject_cast<QGridLayout*>(paths)->itemAtPosition(1, 0)->widget();
-  hardware.front().label->setMinimumWidth(widest->minimumWidth());
+  const auto [paths, labelWidth] = Paths(in, {{"Loader", form.Text1, form.Command1},
+                                              {"Joystick and macro files", form.Text2, form.Command2},
+                                              {"Control Centre", form.Text10, form.Command8}});
+  const std::vector<Field> hardware = {{"Joystick", in.Show(form.ComboJoystick)},
+                                       {"Throttle", in.Show(form.ComboThrottle)},
+                                       {"Rudders", in.Show(form.ComboRudders)}};
+  hardware.front().label->setMinimumWidth(labelWidth);
   return Column({Group("Files", Column({paths, Row({Stretch(), in.Show(form.CommandDrives)})})),
                  Group("Hardware", Fields(hardware)), Wrapped(Words(kMayStayEmpty)), Stretch()});
 }
@@ -81,7 +87,8 @@ QLayout* Apps(Preferences& form, const FormLayout& in) {
   }
   return Column(
       {Group("What the tools start with", Paths(in, {{"Image Viewer", form.Text5, form.Command5},
-                                                     {"Template Editor", form.Text6, form.Command7}})),
+                                                     {"Template Editor", form.Text6, form.Command7}})
+                                              .grid),
        Group("Custom apps: name and command line", Grid(cells, 4)), Stretch()});
 }
 
@@ -100,7 +107,8 @@ QLayout* Favourites(Preferences& form, const FormLayout& in) {
   QWidget* const toLoad = Plain(in.Show(form.Label11));
   return ListPage(in, form.List2, form.NoFavourites, "Favourites", form.Text7,
                   Column({Paths(in, {{"Joystick file", form.Text8, form.Command9},
-                                     {"Macro file", form.Text9, form.Command10}}),
+                                     {"Macro file", form.Text9, form.Command10}})
+                              .grid,
                           Row({Stretch(), in.Show(form.Command13)}), Stretch(),
                           Row({in.Show(form.LoadAppCheckBox), toLoad, Stretch(), in.Show(form.Command14)})}));
 }
@@ -109,7 +117,8 @@ QLayout* Games(Preferences& form, const FormLayout& in) {
   return ListPage(in, form.List3, form.NoGames, "Games", form.Text12,
                   Column({Paths(in, {{"File that runs game", form.Text11, form.Command16},
                                      {"Working directory", form.Text4, form.Command15},
-                                     {"Joystick file", form.Text13, form.Command4}}),
+                                     {"Joystick file", form.Text13, form.Command4}})
+                              .grid,
                           in.Show(form.Check5), Row({Stretch(), in.Show(form.Command12)}), Stretch()}));
 }
 

@@ -214,9 +214,7 @@ QLayout* PicturePage(Form& form, Control& picture, QWidget* shown, const QString
   auto* const inside = new Inside(form);
   Named(in.Place(picture, shown, inside), name);
   inside->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  QLayout* const page = Column({inside});
-  page->setContentsMargins(0, 0, 0, 0);
-  return page;
+  return Framed({}, Column({inside}));
 }
 
 QLayout* Page(ProgramWait& form, const FormLayout& in) {
@@ -286,10 +284,8 @@ QLayout* Page(TemplateForm& form, const FormLayout& in) {
   for (int i = 0; i < static_cast<int>(std::size(kColourChoices)); ++i) {
     choices.emplace_back(in.ShowSwatch(form.swatches("ColourLabel" + TextOf(i + 1))));
   }
-  QLayout* const swatches = Row(choices);
-  swatches->setSpacing(2);
   return Column({Row({LabelOf("File name", name), name}), text,
-                 Row({in.Show(form.Label1), swatches, Stretch(), in.Show(form.ToggleButton1)}),
+                 Row({in.Show(form.Label1), Spaced(Row(choices), 2), Stretch(), in.Show(form.ToggleButton1)}),
                  Row({in.Show(form.Command1(0)), in.Show(form.Command1(1)), in.Show(form.Command1(2)),
                       in.Show(form.Command2), Stretch(), in.Show(form.CmndPrint)})});
 }

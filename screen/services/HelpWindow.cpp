@@ -135,8 +135,7 @@ void HelpWindow::MakeTools() {
 }
 
 void HelpWindow::Arrange() {
-  side_->setLayout(Column({Fields({{"&Search:", words_}}), none_, topics_}));
-  side_->layout()->setContentsMargins(0, 0, 0, 0);
+  side_->setLayout(Framed({}, Column({Fields({{"&Search:", words_}}), none_, topics_})));
   QLayout* const rows = Row({side_, text_});
   MakeTools();
   rows->setMenuBar(tools_);

@@ -8,32 +8,49 @@
 namespace tarvik::screen {
 namespace {
 
-QLayout* Fill(QBoxLayout* layout, const std::vector<Piece>& pieces) {
-  for (const Piece& piece : pieces) {
-    if (auto* const* const widget = std::get_if<QWidget*>(&piece)) {
-      layout->addWidget(*widget);
-    } else if (auto* const* const inner = std::get_if<QLayout*>(&piece)) {
-      layout->addLayout(*inner);
-    } else {
-      layout->addStretch();
-    }
+/// What puts a piece into a column or a row.
+struct Filler {
+  QBoxLayout* layout;
+
+  void operator()(QWidget* widget) const { layout->addWidget(widget); }
+  void operator()(QLayout* inner) const { layout->addLayout(inner); }
+  void operator()(Stretch) const { layout->addStretch(); }
+  void operator()(const Filling& filling) const {
+    if (filling.widget) layout->addWidget(filling.widget, 1);
+    if (filling.layout) layout->addLayout(filling.layout, 1);
   }
+};
+
+QBoxLayout* Fill(QBoxLayout* layout, const std::vector<Piece>& pieces) {
+  for (const Piece& piece : pieces) std::visit(Filler{layout}, piece);
   return layout;
+}
+
+void Put(QGridLayout& grid, QWidget* cell, int row, int column) { grid.addWidget(cell, row, column); }
+void Put(QGridLayout& grid, QLayout* cell, int row, int column) { grid.addLayout(cell, row, column); }
+
+template <class Cell>
+QGridLayout* GridOf(const std::vector<Cell*>& cells, int columns) {
+  auto* const grid = new QGridLayout;
+  int at = 0;
+  for (Cell* const cell : cells) {
+    if (cell) Put(*grid, cell, at / columns, at % columns);
+    ++at;
+  }
+  return grid;
 }
 
 }  // namespace
 
-QLayout* Column(const std::vector<Piece>& pieces) { return Fill(new QVBoxLayout, pieces); }
-QLayout* Row(const std::vector<Piece>& pieces) { return Fill(new QHBoxLayout, pieces); }
+QBoxLayout* Column(const std::vector<Piece>& pieces) { return Fill(new QVBoxLayout, pieces); }
+QBoxLayout* Row(const std::vector<Piece>& pieces) { return Fill(new QHBoxLayout, pieces); }
 
-QGridLayout* Grid(const std::vector<QWidget*>& cells, int columns) {
-  auto* const grid = new QGridLayout;
-  int at = 0;
-  for (QWidget* const cell : cells) {
-    if (cell) grid->addWidget(cell, at / columns, at % columns);
-    ++at;
-  }
-  return grid;
+QGridLayout* Grid(const std::vector<QWidget*>& cells, int columns) { return GridOf(cells, columns); }
+QGridLayout* Grid(const std::vector<QLayout*>& cells, int columns) { return GridOf(cells, columns); }
+
+QLayout* Framed(const QMargins& margins, QLayout* layout) {
+  layout->setContentsMargins(margins);
+  return layout;
 }
 
 QWidget* Group(const char* title, QLayout* layout) {

@@ -11,13 +11,31 @@ namespace tarvik::screen {
 
 /// One thing in a column or row: a widget, a layout, or room that stretches.
 struct Stretch {};
-using Piece = std::variant<QWidget*, QLayout*, Stretch>;
+/// What takes all the room that the others of its column or row leave.
+struct Filling {
+  explicit Filling(QWidget* shown) : widget(shown) {}
+  explicit Filling(QLayout* inner) : layout(inner) {}
 
-[[nodiscard]] QLayout* Column(const std::vector<Piece>& pieces);
-[[nodiscard]] QLayout* Row(const std::vector<Piece>& pieces);
+  QWidget* widget = nullptr;
+  QLayout* layout = nullptr;
+};
+using Piece = std::variant<QWidget*, QLayout*, Stretch, Filling>;
+
+[[nodiscard]] QBoxLayout* Column(const std::vector<Piece>& pieces);
+[[nodiscard]] QBoxLayout* Row(const std::vector<Piece>& pieces);
 
 /// Cells in rows of so many columns; a null is an empty cell.
 [[nodiscard]] QGridLayout* Grid(const std::vector<QWidget*>& cells, int columns);
+[[nodiscard]] QGridLayout* Grid(const std::vector<QLayout*>& cells, int columns);
+
+/// The layout, with as much between its pieces.
+template <class Layout>
+[[nodiscard]] Layout* Spaced(Layout* layout, int pixels) {
+  layout->setSpacing(pixels);
+  return layout;
+}
+/// The layout, with as much around its pieces.
+[[nodiscard]] QLayout* Framed(const QMargins& margins, QLayout* layout);
 
 /// A box with a title around it.
 [[nodiscard]] QWidget* Group(const char* title, QLayout* layout);

@@ -1,8 +1,8 @@
 #include "screen/widgets/FilteredList.h"
 
-#include <QBoxLayout>
 #include <QKeyEvent>
 
+#include "screen/widgets/Arrangement.h"
 #include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
 
@@ -27,15 +27,8 @@ FilteredList::FilteredList(Bindings& bindings, const QString& name, Ticks ticks,
   for (QWidget* const part : {static_cast<QWidget*>(line_), static_cast<QWidget*>(list_)}) {
     part->installEventFilter(this);
   }
-  auto* const top = new QHBoxLayout;
-  top->setSpacing(kGap);
-  top->addWidget(line_, 1);
-  top->addWidget(count_);
-  auto* const all = new QVBoxLayout(this);
-  all->setContentsMargins(0, 0, 0, 0);
-  all->setSpacing(kGap);
-  all->addLayout(top);
-  all->addWidget(list_, 1);
+  above_ = Spaced(Row({Filling(line_), count_}), kGap);
+  setLayout(Framed({}, Spaced(Column({above_, Filling(list_)}), kGap)));
   connect(line_, &QLineEdit::textChanged, list_, [this](const QString& typed) { list_->Filter(typed); });
   connect(list_->model(), &QAbstractItemModel::modelReset, count_, [this] { ShowCount(); });
   setFocusProxy(list_);
@@ -73,7 +66,7 @@ void FilteredList::Add(CommandButton& button, const char* icon) {
   view->setAccessibleName(view->text());
   view->setIcon(Icon(icon));
   view->setToolButtonStyle(Qt::ToolButtonIconOnly);
-  layout()->itemAt(0)->layout()->addWidget(view);
+  above_->addWidget(view);
 }
 
 void FilteredList::ShowCount() {

@@ -1,6 +1,7 @@
 // Lists with a line above them: what is typed there narrows the list that is in front.
 #pragma once
 
+#include <QBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QToolButton>
@@ -32,6 +33,7 @@ class FilteredList : public QWidget {
 
   Bindings& bindings_;
   QLineEdit* line_;
+  QBoxLayout* above_ = nullptr;  ///< the line, and what stands beside it
   QLabel* count_;
   ListStack* list_;
 };

@@ -140,7 +140,7 @@ void InsertOptions::ShowCorners(Sight sight) {
 
 /// "/Q" is the F-22 Pro's alone, and "/A" has another name there.
 void InsertOptions::ShowIgnoreSlash(int joystick) {
-  const bool f22 = joystick == kF22Pro;
+  const bool f22 = HasExtras(joystick);
   const tables::SlashRow& row = f22 ? tables::kFormatSlash : tables::kSlashes[tables::kForceSlash];
   SlashButton(tables::kForceSlash).Caption = std::string(row.caption);
   SlashButton(tables::kForceSlash).ToolTipText = std::string(row.tip);
@@ -169,7 +169,7 @@ void InsertOptions::ShowForPreferences() {
   if (known) ShowPorts(wcs ? Sight::Hidden : Sight::Shown);
   if (known && wcs) LabelWCS();
   ShowForJoystick(settings.JoyName);
-  hardware("ROTARY(7)").Visible = settings.JoyName == kF22Pro;
+  hardware("ROTARY(7)").Visible = HasExtras(settings.JoyName);
 }
 
 void InsertOptions::ShowAllHardware() {
