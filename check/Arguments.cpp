@@ -22,8 +22,7 @@ std::variant<Arguments, Status> ReadArguments(int count, const char* const* word
   app.set_version_flag("--version", "tarvik-check " TARVIK_VERSION, "Print the version and exit");
   app.add_flag("--json", arguments.json, "Write the problems as JSON");
   app.add_flag("--quiet", arguments.quiet, "Write no problems: the exit status alone tells");
-  app.add_option("FILE", arguments.paths, "Joystick files, macro files, and folders with pairs of them")
-      ->required();
+  app.add_option("FILE", arguments.paths, "Joystick files, macro files, and folders with pairs of them");
   std::vector<CLI::Option*> jobs;
   for (const Job& job : kJobs) {
     CLI::Option* option = app.add_flag(job.option, job.description);
@@ -32,6 +31,8 @@ std::variant<Arguments, Status> ReadArguments(int count, const char* const* word
   }
   try {
     app.parse(count, words);
+    // Not by the library, which would miss the file before it finds a word that it does not know.
+    if (arguments.paths.empty()) throw CLI::RequiredError("FILE");
   } catch (const CLI::ParseError& stopped) {
     return app.exit(stopped, streams.out, streams.error) == 0 ? kFine : kUnreadable;
   }

@@ -197,6 +197,10 @@ std::vector<Problem> Report::TakeSorted() {
   return std::move(problems_);
 }
 
+bool Checked::HasMeaning(std::string_view word) const {
+  return FindStatementWord(word) != nullptr || IsBracketWord(word) || IsForeignWord(word) || IsNullSign(word);
+}
+
 std::string Said(std::initializer_list<std::string_view> pieces) {
   std::string said;
   for (const std::string_view piece : pieces) said.append(piece);

@@ -58,6 +58,8 @@ class Checked {
   [[nodiscard]] bool HasMacros() const { return hasMacros_; }
   /// The sign for no key: ^, or what NULLCHR says.
   [[nodiscard]] bool IsNullSign(std::string_view word) const;
+  /// Whether a word that no macro is called by means something by itself, which other rules judge.
+  [[nodiscard]] bool HasMeaning(std::string_view word) const;
   /// The last statement of the joystick file with that word; null where there is none.
   [[nodiscard]] const JoystickStatement* LastSetting(std::string_view word, Place& place) const;
 

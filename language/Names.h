@@ -88,7 +88,7 @@ class NameIndex {
 /// Names that are like one that is not there, for whoever mistyped it.
 class NearestNames {
  public:
-  /// Of the macros that are defined.
+  /// Of the macros that are defined, and of the words for keys.
   explicit NearestNames(const NameIndex& index);
 
   /// The nearest first; none where no name is like it.
@@ -101,6 +101,7 @@ class NearestNames {
     std::size_t name;  ///< in names_
   };
 
+  void Add(std::string_view name);
   void Gather(const std::vector<Key>& rows, const std::string& key, std::vector<std::size_t>& near) const;
 
   std::vector<std::string> names_;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <numeric>
 
+#include "language/KeyTable.h"
 #include "language/Names.h"
 #include "text/CodePage.h"
 
@@ -13,6 +14,8 @@ namespace {
 /// where its end is wrong, seen from its end otherwise.
 constexpr std::size_t kNeighbours = 4;
 constexpr std::size_t kMostNames = 3;
+/// A shorter word is like too many.
+constexpr std::size_t kShortestName = 2;
 /// A longer word is no name, and would take its time.
 constexpr std::size_t kLongestName = 64;
 
@@ -68,14 +71,20 @@ std::size_t EditDistance(std::string_view one, std::string_view other, std::size
 
 NearestNames::NearestNames(const NameIndex& index) {
   for (const MacroNames& macro : index.Macros()) {
-    if (macro.definitions.empty() || macro.name.size() > kLongestName) continue;
-    const std::string key = LowerCase(macro.name);
-    forward_.push_back({key, names_.size()});
-    backward_.push_back({{key.rbegin(), key.rend()}, names_.size()});
-    names_.push_back(macro.name);
+    if (!macro.definitions.empty()) Add(macro.name);
   }
+  for (const std::string_view prefix : kPrefixes) Add(prefix);
+  for (const KeyRow& key : kKeys) Add(key.name);
   std::ranges::sort(forward_, {}, &Key::letters);
   std::ranges::sort(backward_, {}, &Key::letters);
+}
+
+void NearestNames::Add(std::string_view name) {
+  if (name.size() < kShortestName || name.size() > kLongestName) return;
+  const std::string key = LowerCase(name);
+  forward_.push_back({key, names_.size()});
+  backward_.push_back({{key.rbegin(), key.rend()}, names_.size()});
+  names_.emplace_back(name);
 }
 
 std::vector<std::string> NearestNames::To(std::string_view name) const {

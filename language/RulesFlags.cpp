@@ -19,18 +19,28 @@ struct Flaw {
   std::string text;
 };
 
+bool Compares(const Condition& call) {
+  return call.kind == ConditionKind::Below || call.kind == ConditionKind::Above;
+}
+
 /// The words in the bracket of a function of time or axes: the axis, where it has one, and numbers.
-std::optional<Flaw> FlawInCall(const Place& place, const Condition& call) {
-  const bool compares = call.kind == ConditionKind::Below || call.kind == ConditionKind::Above;
+bool HasForm(const Place& place, const Condition& call) {
   const std::size_t wanted = call.kind == ConditionKind::Delay ? 1 : 2;
-  const bool known =
-      !compares || (!call.arguments.empty() && FindAxis(place.Words(call.arguments[0])) != nullptr);
-  bool right = call.arguments.size() == wanted && known;
-  for (std::size_t i = compares ? 1 : 0; right && i < wanted; ++i) {
-    const auto number = NumberIn(place.Words(call.arguments[i]));
-    right = number && (!compares || *number <= kMostPerCent);
-  }
-  if (right) return std::nullopt;
+  const auto isNumber = [&](Range word) { return NumberIn(place.Words(word)).has_value(); };
+  return call.arguments.size() == wanted &&
+         std::all_of(call.arguments.begin() + (Compares(call) ? 1 : 0), call.arguments.end(), isNumber);
+}
+
+std::optional<Flaw> FlawInComparison(const Place& place, const Condition& call) {
+  const std::string_view axis = place.Words(call.arguments[0]);
+  if (FindAxis(axis) == nullptr) return Flaw{call.arguments[0], Said({Shown(axis), " is no axis."})};
+  const std::string_view number = place.Words(call.arguments[1]);
+  if (NumberIn(number) <= kMostPerCent) return std::nullopt;
+  return Flaw{call.arguments[1], Said({"An axis goes up to 100, and never to ", number, "."})};
+}
+
+std::optional<Flaw> FlawInCall(const Place& place, const Condition& call) {
+  if (HasForm(place, call)) return Compares(call) ? FlawInComparison(place, call) : std::nullopt;
   constexpr std::string_view kForms[] = {"PULSE(500 250)", "DELAY(1000)", "CMPLT(THR 10)", "CMPGT(THR 90)"};
   const auto form = static_cast<std::size_t>(call.kind) - static_cast<std::size_t>(ConditionKind::Pulse);
   return Flaw{call.range, Said({Shown(place.Words(call.range)), " is not of the form ", kForms[form], "."})};

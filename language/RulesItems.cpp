@@ -1,4 +1,6 @@
 // Rules about the words of a sequence: brackets, delays, repetitions, keys that are held.
+#include <algorithm>
+
 #include "language/Checking.h"
 #include "language/Controllers.h"
 
@@ -78,6 +80,19 @@ void FindHeldAlone(const Checked&, const Place& place, const Sequence& sequence,
   }
 }
 
+/// Brackets that nothing takes are keys like others. Two around something were meant otherwise.
+void FindLooseBrackets(const Checked&, const Place& place, const Sequence& sequence, Report& report) {
+  const auto isKey = [&](const Item& item, std::string_view sign) {
+    return item.kind == ItemKind::Key && place.Words(item.range) == sign;
+  };
+  const auto& items = sequence.items;
+  const auto opening = std::ranges::find_if(items, [&](const Item& item) { return isKey(item, "("); });
+  const auto closing = std::find_if(opening, items.end(), [&](const Item& item) { return isKey(item, ")"); });
+  if (closing == items.end() || closing - opening == 1) return;
+  report.Add(place, {opening->range.start, closing->range.End() - opening->range.start},
+             "These brackets are sent as keys: RAW, DLY and RPT alone take what is in brackets.");
+}
+
 void FindStrayCode(const Checked&, const Place& place, const Item& item, Report& report) {
   if (item.kind != ItemKind::Unknown || !place.Words(item.range).starts_with('#')) return;
   report.Add(
@@ -128,6 +143,13 @@ constexpr Rule kRules[] = {
      {"BTN S1 SHF\n"},
      {"BTN S1 LSFT\n"},
      FindHeldAlone},
+    {"loose-brackets",
+     Severity::Hint,
+     "Brackets stand around what is sent, and nothing before them takes any.",
+     "Take them out, unless these keys are meant.",
+     {"BTN S1 (a b)\n"},
+     {"BTN S1 a b\n"},
+     FindLooseBrackets},
     {"code-outside-raw",
      Severity::Error,
      "A code of a key stands outside RAW.",

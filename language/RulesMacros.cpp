@@ -10,18 +10,13 @@ namespace {
 
 constexpr std::string_view kDigitalThrottle = "@digitalthrottle";
 
-/// Whether a word that no macro is called by has a meaning of its own, which other rules judge.
-bool IsTaken(const Checked& checked, std::string_view word) {
-  return FindStatementWord(word) != nullptr || IsBracketWord(word) || IsForeignWord(word) ||
-         checked.IsNullSign(word);
-}
-
-std::string AdviceFor(const std::vector<std::string>& nearest) {
-  if (nearest.empty()) return {};
+/// That there is no such macro, and what may be meant.
+std::string NoSuchMacro(std::string_view name, const std::vector<std::string>& nearest) {
+  if (nearest.empty()) return Said({"No macro is called ", Shown(name), "."});
   std::vector<std::string> shown;
   shown.reserve(nearest.size());
-  for (const std::string& name : nearest) shown.push_back(Shown(name));
-  return Said({"Did you mean ", OneOf(shown), "? Otherwise define it in the macro file."});
+  for (const std::string& each : nearest) shown.push_back(Shown(each));
+  return Said({"No macro is called ", Shown(name), ". Did you mean ", OneOf(shown), "?"});
 }
 
 void FindUndefined(const Checked& checked, Report& report) {
@@ -29,11 +24,10 @@ void FindUndefined(const Checked& checked, Report& report) {
   std::optional<NearestNames> nearest;
   for (const MacroNames& macro : checked.names.Macros()) {
     if (!macro.definitions.empty()) continue;
-    if (macro.name != kDigitalThrottle && IsTaken(checked, macro.name)) continue;
+    if (macro.name != kDigitalThrottle && checked.HasMeaning(macro.name)) continue;
     if (!nearest) nearest.emplace(checked.names);
-    const std::string text = Said({"No macro is called ", Shown(macro.name), "."});
-    const std::string advice = AdviceFor(nearest->To(macro.name));
-    for (const Mention& use : macro.uses) report.Add(use, text, advice);
+    const std::string text = NoSuchMacro(macro.name, nearest->To(macro.name));
+    for (const Mention& use : macro.uses) report.Add(use, text);
   }
 }
 

@@ -51,13 +51,20 @@ bool IsDosName(std::string_view name) {
 void FindNoMdef(const Checked& checked, Report& report) {
   Place place;
   if (checked.LastSetting(kMdef, place) != nullptr) return;
-  const auto isUsed = [](const MacroNames& macro) {
-    return !macro.definitions.empty() && !macro.uses.empty() && macro.uses.front().file == FileKind::Joystick;
+  // Where there is no macro file, all that is no word of the language may be one.
+  const auto isUsed = [&](const MacroNames& macro) {
+    const bool isUsedHere = !macro.uses.empty() && macro.uses.front().file == FileKind::Joystick;
+    const bool mayBe =
+        checked.pair.names.noMacroFile && !checked.HasMacros() && !checked.HasMeaning(macro.name);
+    return isUsedHere && (!macro.definitions.empty() || mayBe);
   };
   const std::vector<MacroNames>& macros = checked.names.Macros();
   const auto macro = std::ranges::find_if(macros, isUsed);
   if (macro == macros.end()) return;
-  report.Add(macro->uses.front(), "The file uses macros, and no MDEF says which file they are in.");
+  report.Add(macro->uses.front(),
+             macro->definitions.empty()
+                 ? Said({Shown(macro->name), " is no key, and no MDEF says in which file it is a macro."})
+                 : std::string("The file uses macros, and no MDEF says which file they are in."));
 }
 
 void FindOtherFile(const Checked& checked, Report& report) {

@@ -11,7 +11,6 @@ namespace tarvik::model {
 namespace {
 
 constexpr std::string_view kAux = "AUX";
-constexpr std::string_view kPrefixes[] = {"SHF", "CTL", "ALT"};
 constexpr std::string_view kReset = "F22RST";
 /// Beside one another: up to three places of the dogfight switch.
 constexpr std::size_t kUsualBranches = 3;

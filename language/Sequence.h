@@ -20,6 +20,9 @@ enum class ItemKind : std::uint8_t {
   Unknown,
 };
 
+/// The words of a Prefix.
+inline constexpr std::string_view kPrefixes[] = {"SHF", "CTL", "ALT"};
+
 struct Item {
   ItemKind kind = ItemKind::Unknown;
   bool closed = true;  ///< false for a RAW, DLY or RPT whose bracket does not close

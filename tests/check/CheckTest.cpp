@@ -67,7 +67,7 @@ TEST_F(Check, AnErrorIsALineAndAStatus) {
   const Result outcome = Called({Put("gun.b50", "MDEF gun\r\nBTN S1 Gun Gnu\r\n")});
   EXPECT_EQ(outcome.status, kErrors);
   EXPECT_EQ(WithoutFolder(outcome.out),
-            "gun.b50:2:12: error: No macro is called \"Gnu\". [undefined-macro]\n");
+            "gun.b50:2:12: error: No macro is called \"Gnu\". Did you mean \"Gun\"? [undefined-macro]\n");
 }
 
 TEST_F(Check, WarningsAndHintsAreNoErrors) {
@@ -107,6 +107,11 @@ TEST_F(Check, ACommandLineThatIsNotUnderstoodIsTold) {
     EXPECT_EQ(outcome.out, "");
     EXPECT_NE(outcome.error, "");
   }
+  EXPECT_THAT(Called({"--fast"}).error, HasSubstr("--fast"));
+}
+
+TEST_F(Check, AFileWithNamesAndWithoutAnyMacroFileWantsAnMdef) {
+  EXPECT_THAT(Called({Put("a.b50", "BTN S1 Gun\r\n")}).out, HasSubstr("[no-mdef]"));
 }
 
 TEST_F(Check, HelpAndVersionAreWritten) {
@@ -208,8 +213,8 @@ TEST_F(Check, JsonHoldsAllOfAProblem) {
   EXPECT_EQ(all[0]["length"], 3);
   EXPECT_EQ(all[0]["severity"], "error");
   EXPECT_EQ(all[0]["rule"], "undefined-macro");
-  EXPECT_EQ(all[0]["text"], "No macro is called \"Gnu\".");
-  EXPECT_EQ(all[0]["advice"], "Did you mean \"Gun\"? Otherwise define it in the macro file.");
+  EXPECT_EQ(all[0]["text"], "No macro is called \"Gnu\". Did you mean \"Gun\"?");
+  EXPECT_EQ(all[0]["advice"], "Define it in the macro file, or write another name.");
 }
 
 TEST_F(Check, JsonOfNoProblemIsAnEmptyList) {

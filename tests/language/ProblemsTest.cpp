@@ -173,21 +173,48 @@ TEST(Problems, StayInOrderAndInTheTextWhateverBecomesOfAPair) {
 
 // What the examples of the rules do not show.
 
-std::string AdviceOf(const std::string& joystick, const std::string& macros) {
+std::string FirstText(const std::string& joystick, const std::string& macros) {
   const JudgedPair pair(joystick, macros);
-  return pair.problems.empty() ? std::string() : pair.problems.front().advice;
+  return pair.problems.empty() ? std::string() : pair.problems.front().text;
 }
 
 TEST(Problems, AnUndefinedMacroGetsTheNearestNames) {
-  EXPECT_EQ(AdviceOf("MDEF a\nBTN S1 Fire_Gnu Fire_Gun Fire_Guns", "Fire_Gun = a\nFire_Guns = b\n"),
-            "Did you mean \"Fire_Gun\" or \"Fire_Guns\"? Otherwise define it in the macro file.");
-  EXPECT_EQ(AdviceOf("MDEF a\nBTN S1 Landing_Gear Fire_Gun", "Fire_Gun = a\n"),
-            "Define it in the macro file, or write another name.");
+  EXPECT_EQ(FirstText("MDEF a\nBTN S1 Fire_Gnu Fire_Gun Fire_Guns", "Fire_Gun = a\nFire_Guns = b\n"),
+            "No macro is called \"Fire_Gnu\". Did you mean \"Fire_Gun\" or \"Fire_Guns\"?");
+  EXPECT_EQ(FirstText("MDEF a\nBTN S1 Landing_Gear Fire_Gun", "Fire_Gun = a\n"),
+            "No macro is called \"Landing_Gear\".");
+}
+
+TEST(Problems, AWordThatIsLikeAKeysGetsTheKeysName) {
+  EXPECT_EQ(FirstText("MDEF a\nBTN S1 CTRL Gun", "Gun = a\n"),
+            "No macro is called \"CTRL\". Did you mean \"CTL\"?");
+  EXPECT_EQ(FirstText("MDEF a\nBTN S1 SHIFT Gun", "Gun = a\n"),
+            "No macro is called \"SHIFT\". Did you mean \"SHF\"?");
+}
+
+TEST(Problems, TwoBracketsAroundKeysAreLoose) {
+  EXPECT_EQ(JudgedPair("MDEF a\nBTN S1 Gun (Gun a)\n", "Gun = SPC\n").Rules(), "loose-brackets");
+  EXPECT_EQ(JudgedPair("BTN S1 ( a\nBTN S2 ) a (\nBTN S3 /P ( /R )\nBTN S4 ( )\n", "").Rules(), "");
+}
+
+TEST(Problems, AComparisonTellsWhatIsWrongInIt) {
+  EXPECT_EQ(FirstText("DEF X1 CMPGT(THR 110)\nBTN X1 a\n", ""), "An axis goes up to 100, and never to 110.");
+  EXPECT_EQ(FirstText("DEF X1 CMPLT(ABC 10)\nBTN X1 a\n", ""), "\"ABC\" is no axis.");
+  EXPECT_EQ(FirstText("DEF X1 CMPLT(THR ten)\nBTN X1 a\n", ""),
+            "\"CMPLT(THR ten)\" is not of the form CMPLT(THR 10).");
 }
 
 TEST(Problems, WithoutAnyMacroNothingIsKnownOfNames) {
   EXPECT_EQ(JudgedPair("BTN S1 Gun\n", "Rem nothing yet\n").Rules(), "");
   EXPECT_EQ(JudgedPair("BTN S1 Gun\n", "Launch = a\n").Rules(), "undefined-macro");
+}
+
+TEST(Problems, WhatIsNoKeyWantsAnMdefWhereThereIsNoMacroFile) {
+  const FileNames alone{"strike.b50", "", true};
+  const JudgedPair pair("BTN S1 SPC Gun\n", "", {}, alone);
+  ASSERT_EQ(pair.Rules(), "no-mdef");
+  EXPECT_EQ(pair.problems.front().text, "\"Gun\" is no key, and no MDEF says in which file it is a macro.");
+  EXPECT_EQ(JudgedPair("BTN S1 ^ SPC GAME1\n", "", {}, alone).Rules(), "");
 }
 
 TEST(Problems, TheCaseOfAMacrosNameDoesNotMatter) {
