@@ -4,7 +4,7 @@
 
 namespace tarvik {
 
-ExplainPanel::ExplainPanel(Form& form, Workbench& bench, std::function<void()> place)
+ExplainPanel::ExplainPanel(Form& form, Workbench& bench)
     : frame(form, "ExplainFrame"),
       text(form, "ExplainText"),
       close(form, "ExplainClose", "Hide"),
@@ -18,7 +18,6 @@ ExplainPanel::ExplainPanel(Form& form, Workbench& bench, std::function<void()> p
   };
   connections_ = {
       settings.ExplainLine.Changed.Connect([this] { Show(); }),
-      frame.Visible.Changed.Connect(std::move(place)),
       bench.documents.tabs.SelectedItem.Changed.Connect(follow),
   };
   for (Pane* const pane : {&bench.documents.joystickText, &bench.documents.macroText}) {

@@ -7,8 +7,8 @@ namespace tarvik {
 
 class ExplainPanel {
  public:
-  /// Its controls are the form's; `place` is called when the panel comes or goes.
-  ExplainPanel(Form& form, Workbench& bench, std::function<void()> place);
+  /// Its controls are the form's.
+  ExplainPanel(Form& form, Workbench& bench);
 
   Frame frame;
   Label text;

@@ -2,7 +2,7 @@
 
 namespace tarvik {
 
-FindBar::FindBar(Form& form, Workbench& bench, std::function<void()> place)
+FindBar::FindBar(Form& form, Workbench& bench)
     : frame(form, "FindFrame"),
       text(form, "FindText"),
       matchCase(form, "FindMatchCase", "Match case"),
@@ -15,7 +15,6 @@ FindBar::FindBar(Form& form, Workbench& bench, std::function<void()> place)
   frame.Visible = false;
   connections_ = {
       bench_.search.Changed.Connect([this] { ShowCount(); }),
-      frame.Visible.Changed.Connect(std::move(place)),
   };
   count.BackColor = ToggleLabel::kOff;
   text.ToolTipText =

@@ -7,8 +7,8 @@ namespace tarvik {
 
 class FindBar {
  public:
-  /// Its controls are the form's; `place` is called when the bar comes or goes.
-  FindBar(Form& form, Workbench& bench, std::function<void()> place);
+  /// Its controls are the form's.
+  FindBar(Form& form, Workbench& bench);
 
   Frame frame;
   TextBox text;

@@ -40,6 +40,7 @@ struct LayoutControls {
 
 class Layout {
  public:
+  /// Places everything anew whenever a bar or a panel comes or goes.
   Layout(Documents& documents, LayoutControls controls);
 
   /// Places everything for the form's present size.
@@ -76,6 +77,7 @@ class Layout {
 
   Documents& documents_;
   LayoutControls controls_;
+  std::vector<Connection> connections_;
 };
 
 }  // namespace tarvik

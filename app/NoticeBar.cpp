@@ -2,12 +2,11 @@
 
 namespace tarvik {
 
-NoticeBar::NoticeBar(Form& form, Workbench& bench, std::function<void()> place)
+NoticeBar::NoticeBar(Form& form, Workbench& bench)
     : frame(form, "NoticeFrame"),
       text(form, "NoticeText"),
       commands(form, "NoticeCommand", kMostActions),
       bench_(bench),
-      place_(std::move(place)),
       connections_{
           bench.notices.Changed.Connect([this] { Show(); }),
           bench.documents.tabs.SelectedItem.Changed.Connect([this] { Show(); }),
@@ -25,13 +24,11 @@ void NoticeBar::Show() {
     commands(i).Visible = any;
     if (any) commands(i).Caption = notice->actions[static_cast<std::size_t>(i)].caption;
   }
-  if (frame.Visible == (notice != nullptr)) return;
   frame.Visible = notice != nullptr;
-  place_();
 }
 
 void NoticeBar::Need(Pixels height) {
-  if (std::exchange(height_, height) != height && frame.Visible) place_();
+  if (std::exchange(height_, height) != height) HeightChanged();
 }
 
 /// The action may take the notice away in which it stands.

@@ -9,12 +9,13 @@ class NoticeBar {
  public:
   static constexpr int kMostActions = 4;
 
-  /// Its controls are the form's; `place` is called when the bar comes or goes.
-  NoticeBar(Form& form, Workbench& bench, std::function<void()> place);
+  /// Its controls are the form's.
+  NoticeBar(Form& form, Workbench& bench);
 
   Frame frame;
   Label text;
   ControlArray<CommandButton> commands;
+  Signal<> HeightChanged;
 
   /// Shows the bar while there is a notice for the file on top, and hides it otherwise.
   void Show();
@@ -27,7 +28,6 @@ class NoticeBar {
 
   Workbench& bench_;
   Pixels height_{44};
-  std::function<void()> place_;
   std::vector<Connection> connections_;
 };
 

@@ -15,7 +15,7 @@ std::string LineOf(const Document& document, std::size_t line, const model::Prob
 
 }  // namespace
 
-ProblemPanel::ProblemPanel(Form& form, Workbench& bench, std::function<void()> place)
+ProblemPanel::ProblemPanel(Form& form, Workbench& bench)
     : frame(form, "ProblemsFrame"),
       list(form, "ProblemsList"),
       explain(form, "ProblemsExplain", "What is this?"),
@@ -26,7 +26,6 @@ ProblemPanel::ProblemPanel(Form& form, Workbench& bench, std::function<void()> p
   connections_ = {
       bench.problems.Changed.Connect([this] { Show(); }),
       settings.ProblemsPanel.Changed.Connect([this] { Show(); }),
-      frame.Visible.Changed.Connect(std::move(place)),
   };
   // Whoever walks through the list stays in it.
   list.MouseDown = [this](const Mouse&) {

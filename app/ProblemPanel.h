@@ -8,8 +8,8 @@ namespace tarvik {
 
 class ProblemPanel {
  public:
-  /// Its controls are the form's; `place` is called when the panel comes or goes.
-  ProblemPanel(Form& form, Workbench& bench, std::function<void()> place);
+  /// Its controls are the form's.
+  ProblemPanel(Form& form, Workbench& bench);
 
   Frame frame;
   ListBox list;
