@@ -122,6 +122,7 @@ bool IsManner(const SlashLetter* slash) { return slash == nullptr || slash->grou
 
 Sequence ReadSequenceBehind(TokenCursor& cursor, OpenModifiers open) {
   Sequence sequence;
+  sequence.items.reserve(cursor.CountUpTo(TokenKind::Modifier));
   while (!cursor.AtEnd() && !cursor.Is(TokenKind::Modifier)) sequence.items.push_back(ReadItem(cursor));
   while (!cursor.AtEnd()) {
     const SlashLetter* slash = SlashOf(cursor.Words());

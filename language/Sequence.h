@@ -2,6 +2,7 @@
 // which say when their own items are sent. All ranges count from the beginning of the statement.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <span>
 
@@ -91,6 +92,11 @@ class TokenCursor {
   }
   [[nodiscard]] std::string_view Words() const { return AtEnd() ? std::string_view{} : In(text_, Peek()); }
   [[nodiscard]] Range Peek() const { return AtEnd() ? Range{End(), 0} : tokens_[at_].range; }
+  /// How many tokens come before the next of that kind, or the end.
+  [[nodiscard]] std::size_t CountUpTo(TokenKind kind) const {
+    const auto left = tokens_.subspan(std::min(at_, tokens_.size()));
+    return static_cast<std::size_t>(std::ranges::find(left, kind, &Token::kind) - left.begin());
+  }
   /// The end of the token taken last.
   [[nodiscard]] std::size_t End() const { return at_ == 0 ? 0 : tokens_[at_ - 1].range.End(); }
   Range Take() {

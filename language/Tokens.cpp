@@ -1,6 +1,7 @@
 #include "language/Tokens.h"
 
 #include <algorithm>
+#include <array>
 
 #include "text/CodePage.h"
 
@@ -11,6 +12,14 @@ constexpr std::string_view kRem = "rem";
 
 bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
 bool IsLetter(char byte) { return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z'); }
+
+/// What stands behind a word, whatever the word is. Most bytes of a file are asked this.
+constexpr std::array<bool, 256> kEndsWord = [] {
+  std::array<bool, 256> ends{};
+  for (std::size_t byte = 0; byte < ends.size(); ++byte) ends[byte] = IsBlank(static_cast<char>(byte));
+  for (const char byte : {'\n', '(', ')', '~'}) ends[static_cast<unsigned char>(byte)] = true;
+  return ends;
+}();
 
 /// Reads one token after another from a text.
 class TokenReader {
@@ -77,14 +86,14 @@ class TokenReader {
     return TokenKind::Code;
   }
 
-  [[nodiscard]] bool EndsWord() const {
-    const char byte = Peek();
-    return byte == '\n' || IsBlank(byte) || byte == '(' || byte == ')' || byte == '~' || AtEquals();
-  }
-
   TokenKind SkipWord() {
     const std::size_t start = at_++;
-    while (!AtEnd() && !EndsWord()) ++at_;
+    const auto first = text_.begin() + static_cast<std::ptrdiff_t>(at_);
+    const bool endsName = equals_ == FirstEquals::EndsName;
+    const auto end = std::find_if(first, text_.end(), [endsName](char byte) {
+      return kEndsWord[static_cast<unsigned char>(byte)] || (endsName && byte == '=');
+    });
+    at_ = static_cast<std::size_t>(end - text_.begin());
     const std::string_view word = text_.substr(start, at_ - start);
     if (std::ranges::all_of(word, IsDigit)) return TokenKind::Number;
     return word == "AND" || word == "OR" || word == "NOT" ? TokenKind::Logic : TokenKind::Word;
