@@ -1,0 +1,28 @@
+// A column of boxes beside a drawing: each as near to its control as the others let it be.
+#pragma once
+
+#include <vector>
+
+#include "kneeboard/Box.h"
+
+namespace tarvik::kneeboard {
+
+/// A box beside the drawing, and the height at which its leader goes into the drawing.
+struct BesideBox {
+  const BoxContent* content = nullptr;
+  std::vector<Spot> leader = {};  ///< from the edge of the drawing, on the sheet
+  Sheet box = {};
+  double y = 0;  ///< of the upper edge of the box
+
+  [[nodiscard]] double Entry() const { return leader.front().y; }
+};
+using Column = std::vector<BesideBox>;
+
+/// How high all boxes are with `space` between them.
+[[nodiscard]] double HeightOf(const Column& column, double space);
+
+/// Gives each box its `y` between `top` and `bottom`: they keep their order and their space, and their
+/// middles are as near to their entries as can be. They must have room.
+void Spread(Column& column, double top, double bottom, double space);
+
+}  // namespace tarvik::kneeboard

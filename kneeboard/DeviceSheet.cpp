@@ -1,0 +1,228 @@
+#include "kneeboard/DeviceSheet.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include "kneeboard/Column.h"
+
+namespace tarvik::kneeboard {
+namespace {
+
+/// The drawing's share of the width of a page: as much as the boxes leave.
+constexpr double kShares[] = {0.42, 0.36, 0.3, 0.24};
+constexpr double kLargestType = 9;
+constexpr double kTypeStep = 0.5;
+/// Notes that need more of a page go overleaf.
+constexpr double kMostNotes = 0.25;
+constexpr double kLeaderWidth = 0.3;
+
+/// One way to lay the page.
+struct Attempt {
+  double type = kSmallest;
+  double share = kShares[0];
+  Column left = {};
+  Column right = {};
+  Notes notes = {};
+  Sheet noteBox = {};  ///< empty where they go overleaf
+  Area body = {};      ///< without the notes
+  Area drawing = {};
+  double channel = 0;  ///< between a column and the drawing
+  double columnWidth = 0;
+  bool areNotesOverleaf = false;
+
+  [[nodiscard]] double Space() const { return SpaceBetween(type); }
+  [[nodiscard]] bool Fits() const {
+    return HeightOf(left, Space()) <= body.height && HeightOf(right, Space()) <= body.height;
+  }
+};
+
+BoxContent NoteBoxOf(const Notes& notes) {
+  BoxContent box = {"Notes"};
+  for (std::size_t i = 0; i < notes.size(); ++i) {
+    box.rows.push_back({{{Sign::None, std::to_string(i + 1), true, {Ink::Accent}}}, notes[i]});
+  }
+  return box;
+}
+
+class DeviceSheet {
+ public:
+  DeviceSheet(const DeviceSubject& subject, const PageMaker& maker)
+      : subject_(subject), maker_(maker), part_(subject.plan.whole) {
+    // What goes beyond is in the way of the leaders from the boxes.
+    for (const DrawnLeader& leader : subject.plan.leaders) {
+      for (const Spot& corner : leader.corners) {
+        const double right = std::max(part_.Right(), corner.x);
+        part_.x = std::min(part_.x, corner.x);
+        part_.width = right - part_.x;
+      }
+    }
+  }
+
+  std::vector<Page> Laid(const PageHead& head, const Legend& legend, std::vector<BoxContent>& more) {
+    Page page = maker_.Begin(head, legend);
+    Attempt attempt = Best(page.body);
+    std::vector<BoxContent> overleaf;
+    MoveOverleaf(attempt, overleaf);
+    Sheet below;
+    std::vector<BoxContent> loose = subject_.loose;
+    PutBelow(below, attempt, loose);
+    PutBelow(below, attempt, more);
+    std::ranges::move(loose, std::back_inserter(overleaf));
+    if (attempt.areNotesOverleaf) overleaf.push_back(NoteBoxOf(attempt.notes));
+    Put(page.sheet, attempt, below);
+    std::vector<Page> pages = {std::move(page)};
+    if (overleaf.empty()) return pages;
+    Flow flow(maker_, {head.name + ", continued", head.second}, legend);
+    for (const BoxContent& box : overleaf) flow.Add(box);
+    for (Page& each : flow.Finish()) pages.push_back(std::move(each));
+    return pages;
+  }
+
+ private:
+  [[nodiscard]] const DrawnLeader* LeaderOf(const std::string& label) const {
+    const auto found = std::ranges::find(subject_.plan.leaders, label, &DrawnLeader::label);
+    return found == subject_.plan.leaders.end() ? nullptr : &*found;
+  }
+
+  /// The largest type in which everything has room, and with it the largest drawing.
+  [[nodiscard]] Attempt Best(const Area& body) const {
+    const double largest = std::ceil(maker_.Sized(kLargestType) / kTypeStep) * kTypeStep;
+    Attempt attempt;
+    for (double type = largest; type >= kSmallest; type -= kTypeStep) {
+      for (const double share : kShares) {
+        attempt = Try(body, type, share);
+        if (attempt.Fits()) return attempt;
+      }
+    }
+    return attempt;
+  }
+
+  [[nodiscard]] Attempt Try(const Area& body, double type, double share) const {
+    Attempt attempt;
+    attempt.type = type;
+    attempt.body = body;
+    attempt.channel = std::max(3.5, body.width * 0.025);
+    attempt.drawing.width = std::min(body.width * share, body.height * part_.width / part_.height);
+    attempt.columnWidth = (body.width - attempt.drawing.width - 2 * attempt.channel) / 2;
+    for (const BoxContent& box : subject_.boxes) {
+      const DrawnLeader& leader = *LeaderOf(box.label);
+      const bool isLeft = leader.corners.front().x < part_.Middle().x;
+      (isLeft ? attempt.left : attempt.right).push_back({&box, leader.corners});
+    }
+    for (Column* column : {&attempt.left, &attempt.right}) {
+      std::ranges::stable_sort(*column, {}, &BesideBox::Entry);
+      for (BesideBox& each : *column) SetBox(each, attempt);
+    }
+    SetNotes(attempt);
+    attempt.drawing.width = std::min(attempt.drawing.width, attempt.body.height * part_.width / part_.height);
+    attempt.drawing.height = attempt.drawing.width * part_.height / part_.width;
+    return attempt;
+  }
+
+  void SetBox(BesideBox& each, Attempt& attempt) const {
+    const BoxSetter setter(maker_.setter(), attempt.type, &attempt.notes);
+    const kneeboard::SetBox box = setter.Set(*each.content, attempt.columnWidth);
+    each.box = Assembled(box, 0, box.rows.size());
+  }
+
+  void SetNotes(Attempt& attempt) const {
+    if (attempt.notes.empty()) return;
+    const BoxSetter setter(maker_.setter(), std::max(kSmallest, attempt.type * 0.85), nullptr);
+    const kneeboard::SetBox box = setter.Set(NoteBoxOf(attempt.notes), attempt.body.width);
+    attempt.areNotesOverleaf = box.Height() > attempt.body.height * kMostNotes;
+    if (attempt.areNotesOverleaf) return;
+    attempt.noteBox = Assembled(box, 0, box.rows.size());
+    attempt.body.height -= attempt.noteBox.height + attempt.Space();
+  }
+
+  /// The longest boxes, until the others have room. What stays of them says where they are.
+  void MoveOverleaf(Attempt& attempt, std::vector<BoxContent>& overleaf) const {
+    const auto heightOf = [](const BesideBox& each) { return each.content == nullptr ? 0 : each.box.height; };
+    for (Column* column : {&attempt.left, &attempt.right}) {
+      while (HeightOf(*column, attempt.Space()) > attempt.body.height) {
+        BesideBox& longest = *std::ranges::max_element(*column, {}, heightOf);
+        if (longest.content == nullptr) return;
+        overleaf.push_back(*longest.content);
+        BoxContent rest = *std::exchange(longest.content, nullptr);
+        rest.bar.clear();
+        rest.rows = {{{}, "see overleaf", {}, {Ink::Dim}}};
+        const BoxSetter setter(maker_.setter(), attempt.type, nullptr);
+        const kneeboard::SetBox box = setter.Set(rest, attempt.columnWidth);
+        longest.box = Assembled(box, 0, box.rows.size());
+      }
+    }
+  }
+
+  void Put(Sheet& onto, Attempt& attempt, const Sheet& below) const {
+    const Area& body = attempt.body;
+    const double free = body.height - attempt.drawing.height - below.height;
+    attempt.drawing.x = body.Middle().x - attempt.drawing.width / 2;
+    attempt.drawing.y = body.y + free * 0.4;
+    onto.drawings.push_back({subject_.drawing, attempt.drawing, part_, subject_.hidden});
+    Place(onto, below, {attempt.drawing.x, attempt.drawing.Bottom()});
+    PutColumn(onto, attempt, attempt.left, body.x);
+    PutColumn(onto, attempt, attempt.right, body.Right() - attempt.columnWidth);
+    Place(onto, attempt.noteBox, {body.x, body.Bottom() + attempt.Space()});
+  }
+
+  /// Boxes that have room below the drawing, with the space above them. They are taken out of `boxes`.
+  void PutBelow(Sheet& below, const Attempt& attempt, std::vector<BoxContent>& boxes) const {
+    const double room = attempt.body.height - attempt.drawing.height;
+    const BoxSetter setter(maker_.setter(), attempt.type, nullptr);
+    std::erase_if(boxes, [&](const BoxContent& content) {
+      const kneeboard::SetBox box = setter.Set(content, attempt.drawing.width);
+      const Sheet sheet = Assembled(box, 0, box.rows.size());
+      const double space = below.height > 0 ? attempt.Space() : 3 * attempt.Space();
+      if (below.height + space + sheet.height > room) return false;
+      Place(below, sheet, {0, below.height + space});
+      below.height += space + sheet.height;
+      return true;
+    });
+  }
+
+  [[nodiscard]] Spot OnSheet(const Attempt& attempt, Spot spot) const {
+    const double scale = attempt.drawing.width / part_.width;
+    return {attempt.drawing.x + (spot.x - part_.x) * scale, attempt.drawing.y + (spot.y - part_.y) * scale};
+  }
+
+  void PutColumn(Sheet& onto, const Attempt& attempt, Column& column, double x) const {
+    for (BesideBox& each : column) {
+      for (Spot& corner : each.leader) corner = OnSheet(attempt, corner);
+    }
+    Spread(column, attempt.body.y, attempt.body.Bottom(), attempt.Space());
+    const bool isLeft = x < attempt.drawing.x;
+    for (const BesideBox& each : column) {
+      Place(onto, each.box, {x, each.y});
+      const double edge = isLeft ? x + attempt.columnWidth : x;
+      onto.lines.push_back(LeaderFrom(each, edge, isLeft ? attempt.channel : -attempt.channel));
+    }
+  }
+
+  /// Level from the box into the channel between it and the drawing, across that, and level on.
+  static Line LeaderFrom(const BesideBox& each, double edge, double channel) {
+    const double inset = std::min(1.2, each.box.height / 2);
+    const double from = std::clamp(each.Entry(), each.y + inset, each.y + each.box.height - inset);
+    Line line = {{{edge, from}}, kLeaderWidth, {Ink::Accent}, LineKind::Leader};
+    if (std::abs(from - each.Entry()) > 0.01) {
+      line.corners.push_back({edge + channel * 0.2, from});
+      line.corners.push_back({edge + channel, each.Entry()});
+    }
+    line.corners.insert(line.corners.end(), each.leader.begin() + 1, each.leader.end());
+    return line;
+  }
+
+  const DeviceSubject& subject_;
+  const PageMaker& maker_;
+  Area part_;
+};
+
+}  // namespace
+
+std::vector<Page> DevicePagesOf(const DeviceSubject& subject, const PageMaker& maker, const PageHead& head,
+                                const Legend& legend, std::vector<BoxContent>& more) {
+  return DeviceSheet(subject, maker).Laid(head, legend, more);
+}
+
+}  // namespace tarvik::kneeboard

@@ -1,0 +1,145 @@
+#include "kneeboard/KeyboardSheet.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "language/KeyTable.h"
+
+namespace tarvik::kneeboard {
+namespace {
+
+/// A keyboard whose keys are narrower is not drawn.
+constexpr double kSmallestKey = 4.6;
+/// How wide a swatch on a key is, with the blank behind it.
+constexpr double kLargestSwatch = 1.9;
+/// What the keys of `kKeys` measure: one key, and all of them.
+constexpr double kKeySide = 435;
+constexpr int kBetweenKeys = 45;
+constexpr double kAllWidth = 10935;
+constexpr double kAllHeight = 2895;
+
+/// How wide a key may be beside its neighbour on the right.
+double WidthOf(const tarvik::Place& place) {
+  int width = place.width;
+  for (const KeyRow& other : kKeys) {
+    if (other.place.top != place.top || other.place.left <= place.left) continue;
+    width = std::min(width, other.place.left - place.left - kBetweenKeys);
+  }
+  return width;
+}
+
+class Keyboard {
+ public:
+  Keyboard(const Contents& contents, const PageMaker& maker) : contents_(contents), maker_(maker) {}
+
+  /// Nothing where the keys would be too small.
+  [[nodiscard]] Sheet Drawn(double width) const {
+    Sheet sheet;
+    const double scale = width / kAllWidth;
+    if (kKeySide * scale < kSmallestKey) return sheet;
+    sheet.width = width;
+    // The keys are drawn a little higher than wide, which leaves room for what is below their names.
+    const double tall = scale * 1.15;
+    sheet.height = kAllHeight * tall;
+    for (const KeyRow& row : kKeys) {
+      const tarvik::Place& place = row.place;
+      PutKey(sheet, row, {place.left * scale, place.top * tall, WidthOf(place) * scale, place.height * tall});
+    }
+    return sheet;
+  }
+
+  /// A box for each heading, in their order, and one for what stands under none.
+  [[nodiscard]] std::vector<BoxContent> Boxes() const {
+    std::vector<BoxContent> boxes;
+    for (const std::string& heading : contents_.headings) boxes.push_back({heading});
+    boxes.push_back({contents_.headings.empty() ? "Keys" : "Other keys"});
+    for (const KeyUse& use : contents_.keys) {
+      for (const KeyUse::Press& press : use.presses) {
+        const std::size_t heading = HeadingOf(press.heading);
+        boxes[heading].rows.push_back(RowOf(use, press, heading));
+      }
+    }
+    std::erase_if(boxes, [](const BoxContent& box) { return box.rows.empty(); });
+    return boxes;
+  }
+
+ private:
+  [[nodiscard]] std::size_t HeadingOf(const std::string& heading) const {
+    const auto found = std::ranges::find(contents_.headings, heading);
+    return static_cast<std::size_t>(found - contents_.headings.begin());
+  }
+
+  [[nodiscard]] Colour ColourOf(std::size_t heading) const {
+    if (heading == contents_.headings.size()) return {Ink::Dim};
+    return {Ink::Heading, static_cast<std::uint8_t>(heading % kHeadingColours)};
+  }
+
+  [[nodiscard]] Row RowOf(const KeyUse& use, const KeyUse::Press& press, std::size_t heading) const {
+    Row row;
+    std::string keys = press.with;
+    keys.append(keys.empty() ? "" : " ").append(use.key);
+    const bool isOnStick = !press.controls.empty();
+    row.leads.push_back({isOnStick ? Sign::OnStick : Sign::OffStick, keys, true, ColourOf(heading)});
+    row.leads.front().textColour = Colour{isOnStick ? Ink::Text : Ink::Dim};
+    row.words = press.words;
+    row.colour = {isOnStick ? Ink::Text : Ink::Dim};
+    for (const std::string& control : press.controls)
+      row.keys.append(row.keys.empty() ? "" : ", ").append(control);
+    return row;
+  }
+
+  [[nodiscard]] const KeyUse* UseOf(const KeyRow& row) const {
+    const auto found = std::ranges::find(contents_.keys, row.name, &KeyUse::key);
+    return found == contents_.keys.end() || found->presses.empty() ? nullptr : &*found;
+  }
+
+  void PutKey(Sheet& sheet, const KeyRow& row, const Area& area) const {
+    const KeyUse* use = UseOf(row);
+    const auto isOnStick = [](const KeyUse::Press& press) { return !press.controls.empty(); };
+    const bool isSent = use != nullptr && std::ranges::any_of(use->presses, isOnStick);
+    Frame cap = {area, 0.8, isSent ? 0.35 : 0.18, {use != nullptr ? Ink::Text : Ink::Rule}};
+    cap.fill = Colour{isSent ? Ink::Tint : Ink::Paper};
+    sheet.frames.push_back(cap);
+    const double inset = area.height * 0.08;
+    const double width = area.width - 2 * inset;
+    Typesetter& setter = maker_.setter();
+    Style style = {std::max(kSmallest, area.height * 0.24 / kPoint),
+                   use != nullptr,
+                   {use != nullptr ? Ink::Text : Ink::Dim}};
+    const std::string face = row.caption;
+    style = setter.Shrunk(face, width, style, kSmallest);
+    if (setter.Width(face, style) <= width)
+      PutWords(sheet, setter, face, {area.x + inset, area.y + inset}, style);
+    if (use != nullptr) PutSwatches(sheet, *use, {area.x + inset, 0, width, area.Bottom() - inset});
+  }
+
+  /// A swatch for each thing that the key does, along the lower edge of its cap.
+  void PutSwatches(Sheet& sheet, const KeyUse& use, const Area& room) const {
+    const double most = std::max<double>(4, static_cast<double>(use.presses.size()));
+    const double type = std::min(room.width / most, kLargestSwatch) / kPoint;
+    double x = room.x;
+    for (const KeyUse::Press& press : use.presses) {
+      const Colour colour = ColourOf(HeadingOf(press.heading));
+      PutSign(sheet, press.controls.empty() ? Sign::OffStick : Sign::OnStick,
+              {x, room.Bottom() - LineHeight(type) * 0.85}, type, colour);
+      x += type * 0.95 * kPoint;
+    }
+  }
+
+  const Contents& contents_;
+  const PageMaker& maker_;
+};
+
+}  // namespace
+
+std::vector<Page> KeyboardPagesOf(const Contents& contents, const PageMaker& maker) {
+  const Legend legend = {{Sign::OnStick, std::string(MeaningOf(Sign::OnStick))},
+                         {Sign::OffStick, std::string(MeaningOf(Sign::OffStick))}};
+  const PageHead head = {"Keyboard", "What each key does, and which control presses it"};
+  const Keyboard keyboard(contents, maker);
+  Flow flow(maker, head, legend, keyboard.Drawn(maker.Begin(head, legend).body.width));
+  for (const BoxContent& box : keyboard.Boxes()) flow.Add(box);
+  return flow.Finish();
+}
+
+}  // namespace tarvik::kneeboard

@@ -1,0 +1,96 @@
+// A page with its head and foot, and boxes that flow through the columns of as many pages as they need.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "kneeboard/Box.h"
+#include "kneeboard/Contents.h"
+
+namespace tarvik::kneeboard {
+
+/// A line of the legend at the foot: a sign and what it means.
+struct LegendItem {
+  Sign sign = Sign::None;
+  std::string text;
+};
+using Legend = std::vector<LegendItem>;
+
+/// What stands over a page, beside what comes from the title of the files.
+struct PageHead {
+  std::string name;    ///< "F-22 Pro"
+  std::string second;  ///< "S3 held in"; empty for none
+};
+
+struct Page {
+  Sheet sheet;
+  Area body;    ///< what is free between head and foot
+  Spot number;  ///< the right end of the page's number
+};
+
+class PageMaker {
+ public:
+  /// Of pages of that size, in millimetres.
+  PageMaker(const Contents& contents, Spot size, Typesetter& setter);
+
+  [[nodiscard]] Page Begin(const PageHead& head, const Legend& legend) const;
+  /// Writes "2 / 5" and the like at the foot of each.
+  void PutNumbers(std::vector<Page>& pages) const;
+
+  /// A size of type in points, less on small pages, and never less than what can be read.
+  [[nodiscard]] double Sized(double points) const;
+  [[nodiscard]] Typesetter& setter() const { return setter_; }
+
+ private:
+  enum class Side { Left, Right };
+  /// In as many lines as it needs; says where the next one begins.
+  double PutFitted(Sheet& onto, const std::string& text, Area where, Style style, Side side) const;
+  double PutHead(Sheet& onto, const PageHead& head) const;
+  [[nodiscard]] Sheet LegendOf(const Legend& legend) const;
+  /// Says where it begins.
+  double PutFoot(Page& page, const Legend& legend) const;
+
+  const TitleBlock& title_;
+  std::size_t problems_;
+  Spot size_;
+  double margin_;
+  double factor_;
+  Typesetter& setter_;
+};
+
+/// Boxes below each other, column by column and page by page. A box that is too long goes on in the next
+/// column.
+class Flow {
+ public:
+  /// `first` stands above the columns of the first page.
+  Flow(const PageMaker& maker, PageHead head, Legend legend, const Sheet& first = {});
+
+  void Add(const BoxContent& content);
+  [[nodiscard]] std::vector<Page> Finish() { return std::move(pages_); }
+
+ private:
+  void BeginPage();
+  void NextColumn();
+  [[nodiscard]] double Left() const { return page().body.Bottom() - y_; }
+  [[nodiscard]] Page& page() { return pages_.back(); }
+  [[nodiscard]] const Page& page() const { return pages_.back(); }
+  /// How many rows from `first` on go into what is left of the column.
+  [[nodiscard]] std::size_t RowsThatFit(const SetBox& box, std::size_t first) const;
+  void Put(const SetBox& box, std::size_t first, std::size_t last);
+
+  const PageMaker& maker_;
+  PageHead head_;
+  Legend legend_;
+  double type_;
+  std::vector<Page> pages_;
+  double width_ = 0;  ///< of a column
+  double top_ = 0;
+  double y_ = 0;
+  int column_ = 0;
+  int columns_ = 1;
+};
+
+/// Between boxes, columns and the drawing, for that size of type.
+[[nodiscard]] constexpr double SpaceBetween(double type) { return type * 0.7 * kPoint; }
+
+}  // namespace tarvik::kneeboard
