@@ -14,7 +14,8 @@ constexpr const char* kAlreadyRunning =
 
 }  // namespace
 
-Application::Application(const Platform& services) : Shell(workbench), workbench(services) {}
+Application::Application(const Platform& services, kneeboard::Press& press)
+    : Shell(workbench), workbench(services), press_(press) {}
 
 Application::~Application() {
   if (mum_) workbench.platform.clipboard.changed = nullptr;

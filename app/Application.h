@@ -18,7 +18,7 @@ enum class EditorBegins { Untitled, WithTheFilesOfTheStart };
 
 class Application : public Shell {
  public:
-  explicit Application(const Platform& services);
+  Application(const Platform& services, kneeboard::Press& press);
   ~Application() override;
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;
@@ -51,6 +51,7 @@ class Application : public Shell {
   void ForwardKey(Key& key) override;
   [[nodiscard]] Form& Frame() override;
   void HideToolbar() override;
+  [[nodiscard]] kneeboard::Press& Press() override { return press_; }
   void ShowModal(Form& form) override;
   void WaitWhile(const std::function<bool()>& open) override;
   void Unload(Form& form) override;
@@ -86,6 +87,7 @@ class Application : public Shell {
   std::vector<Connection> shown_;
   Form* active_ = nullptr;
   int waits_ = 0;  // handlers that stand still, each inside the one before
+  kneeboard::Press& press_;
   bool ended_ = false;
 };
 

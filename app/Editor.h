@@ -152,7 +152,7 @@ class Editor : public Form {
   void mnuEditDefinition_Click();
   void mnuPlaceArray_Click(int index);
   void mnuEditSuggest_Click() { suggestions.Open(); }
-  void mnuRHMExplainLine_Click() { bench_.settings.ChangeView(bench_.settings.ExplainLine, 1); }
+  void mnuRHMExplainLine_Click() { bench_.settings.Change(bench_.settings.ExplainLine, 1); }
   void mnuEditTidyUp_Click() { bench_.rewriting.TidyUp(); }
   void mnuEditBack_Click() { bench_.jumps.Back(); }
   void mnuEditForward_Click() { bench_.jumps.Forward(); }
@@ -181,7 +181,7 @@ class Editor : public Form {
   void mnuViewWordWrap_Click();
   void mnuViewHighlightLine_Click() { bench_.blink.Start(); }
   /// Turns a setting of the view over.
-  void Switch(Property<int>& setting) { bench_.settings.ChangeView(setting, setting == 0 ? 1 : 0); }
+  void Switch(Property<int>& setting) { bench_.settings.Change(setting, setting == 0 ? 1 : 0); }
   void ZoomTo(int percent);
   void mnuViewZoomIn_Click() { ZoomTo(bench_.settings.Zoom + zoom::kStep); }
   void mnuViewZoomOut_Click() { ZoomTo(bench_.settings.Zoom - zoom::kStep); }

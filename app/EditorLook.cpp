@@ -131,7 +131,7 @@ void Editor::mnuViewWordWrap_Click() {
 
 void Editor::ZoomTo(int percent) {
   const int zoom = std::clamp(percent, zoom::kLeast, zoom::kMost);
-  bench_.settings.ChangeView(bench_.settings.Zoom, zoom);
+  bench_.settings.Change(bench_.settings.Zoom, zoom);
   bench_.documents.Say("Zoom: " + TextOf(zoom) + " %");
 }
 
@@ -171,7 +171,7 @@ void Editor::ColourAndOffer(Document& document) {
 void Editor::OfferColourAsYouType() {
   Settings& settings = bench_.settings;
   if (settings.OfferColourAsYouType == 0) return;
-  settings.ChangeView(settings.OfferColourAsYouType, 0);
+  settings.Change(settings.OfferColourAsYouType, 0);
   if (settings.ColourAsYouType != 0) return;
   const auto leave = [this] {
     bench_.notices.Remove(Matter::OffersColours, nullptr);

@@ -37,6 +37,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuFilePrintJoystick", "P&rint joystick file", "Ctrl+P", &Editor::mnuFilePrintJoystick_Click},
     {1, "mnuFilePrintMacro", "Prin&t macro file", "", &Editor::mnuFilePrintMacro_Click},
     {1, "mnuFilePrintPreview", "Print previe&w ...", "", &Editor::mnuFilePrintPreview_Click},
+    {1, "mnuFileKneeboard", "&Kneeboard ...", "", &Editor::ShowTool<ToolId::Kneeboard>},
     {1, "mnuFilePrinterSetup", "Printer set&up ...", "", &Editor::mnuFilePrinterSetup_Click},
     {1, "mnuFileDivider4", "-"},
     {1, "mnuFilePrevious", "Previous joystick &files"},

@@ -27,7 +27,7 @@ ExplainPanel::ExplainPanel(Form& form, Workbench& bench)
     }));
   }
   close.Click = [this, &settings] {
-    settings.ChangeView(settings.ExplainLine, 0);
+    settings.Change(settings.ExplainLine, 0);
     bench_.documents.FocusActiveText();
   };
   Show();

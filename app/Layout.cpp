@@ -165,7 +165,7 @@ void Layout::TileEvenly() {
 
 void Layout::KeepTiles() {
   Settings& settings = documents_.settings;
-  settings.ChangeView(settings.TileShare, settings.TileShare);
+  settings.Change(settings.TileShare, settings.TileShare);
 }
 
 void Layout::ShowPanes() {

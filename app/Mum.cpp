@@ -110,7 +110,7 @@ void Mum::ShowProblemCount() {
 
 void Mum::ProblemCount_Click() {
   Settings& settings = bench_.settings;
-  settings.ChangeView(settings.ProblemsPanel, settings.ProblemsPanel == 0 ? 1 : 0);
+  settings.Change(settings.ProblemsPanel, settings.ProblemsPanel == 0 ? 1 : 0);
 }
 
 void Mum::BeginStatus() {

@@ -18,7 +18,7 @@ OutlinePanel::OutlinePanel(Form& form, Workbench& bench)
   tabs.Tabs(kOutline).Caption = "Outline";
   Settings& settings = bench.settings;
   tabs.Click = [this, &settings] {
-    settings.ChangeView(settings.Outline, tabs.SelectedIndex() == kOutline ? 1 : 0);
+    settings.Change(settings.Outline, tabs.SelectedIndex() == kOutline ? 1 : 0);
   };
   connections_ = {
       settings.Outline.Changed.Connect([this] { Show(); }),

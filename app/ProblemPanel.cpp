@@ -36,7 +36,7 @@ ProblemPanel::ProblemPanel(Form& form, Workbench& bench)
   explain.ToolTipText = "Shows what the help says of this problem (F1)";
   explain.Click = [this] { Explain(); };
   close.Click = [this, &settings] {
-    settings.ChangeView(settings.ProblemsPanel, 0);
+    settings.Change(settings.ProblemsPanel, 0);
     bench_.documents.FocusActiveText();
   };
   Show();

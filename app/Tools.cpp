@@ -9,6 +9,7 @@
 #include "tools/pimlet/RAWform.h"
 #include "tools/preferences/DrivesForm.h"
 #include "tools/preferences/Preferences.h"
+#include "tools/printing/KneeboardForm.h"
 #include "tools/programs/Games.h"
 #include "tools/programs/ProgramWait.h"
 #include "tools/recovery/CompareTexts.h"
@@ -87,6 +88,7 @@ constexpr ToolRow kTools[] = {
     Row<EarlierVersions>(ToolId::EarlierVersions, "EarlierVersions", EndsWith::Editor,
                          Modal<EarlierVersions>),
     Row<RenameForm>(ToolId::Rename, "RenameForm", EndsWith::Editor, AskForName),
+    Row<KneeboardForm>(ToolId::Kneeboard, "Kneeboard", EndsWith::Editor, Raise<KneeboardForm>),
     Row<ColourSelector>(ToolId::ColourSelector, "ColourSelector", EndsWith::Frame, ShowColours),
     Row<KeyTestForm>(ToolId::KeyTest, "KeyTestForm", EndsWith::Frame, ShowKeyTest),
     Row<ProgramWait>(ToolId::ProgramWait, "ProgramWait", EndsWith::Frame),

@@ -12,6 +12,7 @@
 #include "platform/HostJournals.h"
 #include "screen/Screen.h"
 #include "support/ScriptedPlatform.h"
+#include "support/ScriptedPress.h"
 #include "support/TemporaryFolder.h"
 #include "tools/composer/InsertOptions.h"
 
@@ -125,7 +126,8 @@ class Typist {
   HostJournals journals_{{folder_.path() / "journal"}};
   session::ScriptedPlatform outside_;
   Platform platform_ = outside_.Process(files_, "c:\\my\\large.b50", {.journals = &journals_});
-  Application application_{platform_};
+  session::ScriptedPress press_;
+  Application application_{platform_, press_};
   screen::Screen screen_{application_, screen::Clock::Scripted};
   QPlainTextEdit* edit_ = nullptr;
   int keys_ = 0;
@@ -202,7 +204,8 @@ int main(int count, char** arguments) {
   files.Put("c:\\tarvik\\Tarvik.ini", "[FileLocations]\r\nShowTips=0\r\nFirstTimeUsed=0\r\n");
   session::ScriptedPlatform outside;
   Platform platform = outside.Process(files, "c:\\my\\large.b50");
-  Application application(platform);
+  session::ScriptedPress press;
+  Application application(platform, press);
   screen::Screen screen(application, screen::Clock::Scripted);
   application.Start();
   auto* const own = dynamic_cast<QPlainTextEdit*>(screen.Find(application.editor().JoystickText));

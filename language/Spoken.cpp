@@ -88,25 +88,27 @@ std::string SignInWords(char sign) {
   return isCapital ? Said({"Shift+", {&sign, 1}}) : std::string(1, isSmall ? ToUpper(sign) : sign);
 }
 
-/// What kKeys has for a code, and the key "m", whose codes stand in each other's place there.
-std::string KeyOfCode(std::uint8_t code, bool extended) {
+/// The name that kKeys has for a code; empty for a code of no key. The codes of "m" stand in each other's
+/// place there.
+std::string_view KeyOfCode(std::uint8_t code, bool extended) {
   constexpr std::string_view kDigits = "0123456789ABCDEF";
   std::string make(extended ? "#E0 #" : "#");
   make.push_back(kDigits[code >> 4U]);
   make.push_back(kDigits[code & 15U]);
   for (const KeyRow& row : kKeys) {
     const bool isExchanged = row.make.starts_with("#F0");
-    if ((isExchanged ? row.breaks : row.make) == make) return KeyInWords(row.name);
+    if ((isExchanged ? row.breaks : row.make) == make) return row.name;
   }
   return {};
 }
+
+constexpr std::uint8_t kExtended = 0xE0;
+constexpr std::uint8_t kBreak = 0xF0;
 
 /// Puts the keys of a RAW into words, code by code.
 class CodeWords {
  public:
   void Take(std::string_view word, std::optional<std::uint8_t> value) {
-    constexpr std::uint8_t kExtended = 0xE0;
-    constexpr std::uint8_t kBreak = 0xF0;
     if (!seen_.empty()) seen_.push_back(' ');
     seen_.append(word);
     if (value == kExtended && !released_) {
@@ -114,7 +116,8 @@ class CodeWords {
     } else if (value == kBreak) {
       released_ = true;
     } else {
-      const std::string key = value ? KeyOfCode(*value, extended_) : std::string();
+      const std::string_view name = value ? KeyOfCode(*value, extended_) : std::string_view{};
+      const std::string key = name.empty() ? std::string() : KeyInWords(name);
       if (key.empty()) {
         words_.push_back(Shown(seen_));
       } else {
@@ -179,6 +182,23 @@ std::vector<std::string> CodesInWords(std::string_view statement, const Item& it
   CodeWords words;
   for (const RawCode& code : RawCodesOf(statement, item)) words.Take(In(statement, code.range), code.value);
   return words.Finish();
+}
+
+std::vector<std::string_view> KeysPressedBy(std::string_view statement, const Item& item) {
+  std::vector<std::string_view> keys;
+  bool extended = false;
+  bool released = false;
+  for (const RawCode& code : RawCodesOf(statement, item)) {
+    if (code.value == kExtended || code.value == kBreak) {
+      (code.value == kBreak ? released : extended) = true;
+      continue;
+    }
+    const std::string_view key =
+        code.value && !released ? KeyOfCode(*code.value, extended) : std::string_view{};
+    if (!key.empty()) keys.push_back(key);
+    extended = released = false;
+  }
+  return keys;
 }
 
 std::string AllOf(const std::vector<std::string>& things) {

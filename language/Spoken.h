@@ -14,6 +14,8 @@ namespace tarvik::model {
 /// The keys that the codes of a RAW press and let go, as in "left Shift down", each by itself; a key that is
 /// pressed and let go at once by its name alone. What is no code stands as it is, in quotation marks.
 [[nodiscard]] std::vector<std::string> CodesInWords(std::string_view statement, const Item& item);
+/// The names in kKeys of the keys that the codes of a RAW press, in their order.
+[[nodiscard]] std::vector<std::string_view> KeysPressedBy(std::string_view statement, const Item& item);
 /// "a", "a and b", "a, b and c".
 [[nodiscard]] std::string AllOf(const std::vector<std::string>& things);
 /// A macro's name as it is; in quotation marks where it has characters that cannot be shown.

@@ -24,6 +24,7 @@
 #include "screen/services/LockKeys.h"
 #include "screen/services/QtDesktop.h"
 #include "screen/services/QtDialogs.h"
+#include "screen/services/QtPress.h"
 #include "screen/services/QtPrinter.h"
 #include "screen/services/SdlJoystick.h"
 #include "screen/widgets/Conversions.h"
@@ -102,6 +103,7 @@ struct Services {
   screen::QtClipboard clipboard;
   screen::QtHelp help{files};
   screen::QtPrinter printer;
+  screen::QtPress press{printer};
   screen::QtCalendar calendar;
   screen::QtDesktop desktop{drives};
   screen::SdlJoystick joystick;
@@ -179,7 +181,7 @@ int main(int argc, char* argv[]) {
   TellIfNothingLasts(folder);
   DosBoxFolder::RemoveLeftOvers();
   Services services(folder);
-  Application application(services.platform);
+  Application application(services.platform, services.press);
   const Connection logged = LogToStandardError(application.workbench.log);
   toolkit.failed = [&application](const Failure& failure) {
     application.workbench.errors.Record("TARVIK Event", failure);

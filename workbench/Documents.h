@@ -64,9 +64,9 @@ class Documents : public Component {
   /// Gives the pane the user's font, indent and the document's background.
   void ApplyLook(const Document& document) const;
   void ApplyBackground(const Document& document) const;
-  /// Gives the font to the document on top once more.
   /// Selects a place of a document and brings it to the top, in one go for whoever follows the caret.
   void GoTo(Document& document, Range place);
+  /// Gives the font to the document on top once more.
   void Reformat();
   /// Marks the document as modified and records the change for undo.
   void TextChanged(Document& document);

@@ -19,7 +19,7 @@ void Preflight::Look() {
   if (errors == 0 || told_) return;
   told_ = true;
   const auto never = [this, &settings] {
-    settings.ChangeView(settings.ErrorsBeforeDownload, 0);
+    settings.Change(settings.ErrorsBeforeDownload, 0);
     Answered();
   };
   const std::string are = errors == 1 ? "There is an error" : "There are " + TextOf(errors) + " errors";
@@ -33,7 +33,7 @@ void Preflight::Look() {
 void Preflight::LookAtErrors() {
   Answered();
   Settings& settings = documents_.settings;
-  settings.ChangeView(settings.ProblemsPanel, 1);
+  settings.Change(settings.ProblemsPanel, 1);
   problems_.GoToFirstError();
 }
 

@@ -79,6 +79,18 @@ constexpr Option kOptions[] = {
     {section::kView, &Settings::FixedPitch, "0"},
     {section::kView, &Settings::Zoom, "100"},
     {section::kView, &Settings::TileShare, "500"},
+    {section::kKneeboard, &Settings::KneeboardPaper, "0"},
+    {section::kKneeboard, &Settings::KneeboardTurned, "0"},
+    {section::kKneeboard, &Settings::KneeboardLayers, "0"},
+    {section::kKneeboard, &Settings::KneeboardOrder, "0"},
+    {section::kKneeboard, &Settings::KneeboardResolution, "2"},
+    {section::kKneeboard, &Settings::KneeboardZoom, "0"},
+    {section::kKneeboard, &Settings::KneeboardDevices, "1"},
+    {section::kKneeboard, &Settings::KneeboardKeyboard, "1"},
+    {section::kKneeboard, &Settings::KneeboardList, "1"},
+    {section::kKneeboard, &Settings::KneeboardKeys, "1"},
+    {section::kKneeboard, &Settings::KneeboardTwoOnASheet, "0"},
+    {section::kKneeboard, &Settings::KneeboardBlackAndWhite, "0"},
 };
 
 struct ColourOption {
@@ -213,9 +225,14 @@ Outcome<> Settings::SaveColours() {
   return file_.WriteAll(entries);
 }
 
-void Settings::ChangeView(Property<int>& option, int value) {
+void Settings::Change(Property<int>& option, int value) {
+  const auto isRow = [&](const Option& row) {
+    const auto* const member = std::get_if<Property<int> Settings::*>(&row.member);
+    return member != nullptr && &(this->**member) == &option;
+  };
+  const auto row = std::ranges::find_if(kOptions, isRow);
   option = value;
-  Write(section::kView, option.Name(), TextOf(value));
+  if (row != std::end(kOptions)) Write(row->section, option.Name(), TextOf(value));
 }
 
 void Settings::Write(std::string_view section, std::string_view key, std::string_view value) {

@@ -17,6 +17,7 @@ inline constexpr const char* kColours = "Colours";
 inline constexpr const char* kFavourites = "Favourites";
 inline constexpr const char* kGames = "Games";
 inline constexpr const char* kView = "View";
+inline constexpr const char* kKneeboard = "Kneeboard";
 }  // namespace section
 
 /// How large the text is shown, in per cent of its own size.
@@ -112,6 +113,20 @@ class Settings : public Component {
   Property<int> Zoom{*this, "Zoom"};            ///< per cent
   Property<int> TileShare{*this, "TileShare"};  ///< of the joystick file in the tiled view, in thousandths
 
+  // Kneeboard: how its pages are wanted, each by the place in its list.
+  Property<int> KneeboardPaper{*this, "Paper"};
+  Property<int> KneeboardTurned{*this, "Turned"};
+  Property<int> KneeboardLayers{*this, "Layers"};
+  Property<int> KneeboardOrder{*this, "Order"};
+  Property<int> KneeboardResolution{*this, "Resolution"};
+  Property<int> KneeboardZoom{*this, "PageZoom"};
+  Property<int> KneeboardDevices{*this, "Devices"};
+  Property<int> KneeboardKeyboard{*this, "Keyboard"};
+  Property<int> KneeboardList{*this, "List"};
+  Property<int> KneeboardKeys{*this, "Keys"};
+  Property<int> KneeboardTwoOnASheet{*this, "TwoOnASheet"};
+  Property<int> KneeboardBlackAndWhite{*this, "BlackAndWhite"};
+
   /// Reads everything but the colour scheme; a missing file or key gives the default.
   void GetOptions();
   /// Writes what GetOptions reads, except ShowTips, which belongs to the tips window.
@@ -126,8 +141,8 @@ class Settings : public Component {
   /// Takes the colours of a scheme, and writes them.
   void UseScheme(ColourScheme scheme);
 
-  /// Changes a setting of the view, and stores it at once.
-  void ChangeView(Property<int>& option, int value);
+  /// Changes a setting, and stores it at once.
+  void Change(Property<int>& option, int value);
   /// Writes one of the few keys that forms store by themselves, at once.
   void Write(std::string_view section, std::string_view key, std::string_view value);
   [[nodiscard]] ProfileFile& File() { return file_; }

@@ -9,6 +9,10 @@
 #include "controls/Menu.h"
 #include "workbench/Workbench.h"
 
+namespace tarvik::kneeboard {
+class Press;
+}
+
 namespace tarvik {
 
 /// The windows beside the frame and the editor.
@@ -40,6 +44,7 @@ enum class ToolId {
   CompareTexts,
   EarlierVersions,
   Rename,
+  Kneeboard,
 };
 
 /// The pages of the preferences.
@@ -66,6 +71,8 @@ class Shell {
   [[nodiscard]] virtual Form& Frame() = 0;
   /// The editor's toolbar goes while the user is at a window of another kind, and comes back with him.
   virtual void HideToolbar() = 0;
+  /// Where kneeboards are painted and printed.
+  [[nodiscard]] virtual kneeboard::Press& Press() = 0;
   /// Every form that is loaded, the frame first.
   [[nodiscard]] virtual std::vector<Form*> Forms() const = 0;
 

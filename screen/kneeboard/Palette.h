@@ -4,7 +4,7 @@
 #include <QColor>
 #include <array>
 
-#include "kneeboard/Sheet.h"
+#include "kneeboard/Press.h"
 
 namespace tarvik::screen {
 
@@ -15,6 +15,9 @@ struct Palette {
 
   [[nodiscard]] QColor Of(kneeboard::Colour colour) const;
 
+  [[nodiscard]] static Palette Of(kneeboard::Colouring colouring) {
+    return colouring == kneeboard::Colouring::Colours ? Colours() : BlackAndWhite();
+  }
   [[nodiscard]] static Palette Colours();
   [[nodiscard]] static Palette BlackAndWhite();
 };

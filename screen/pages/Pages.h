@@ -6,6 +6,7 @@
 #include "screen/pages/FormLayout.h"
 #include "tools/composer/InsertOptions.h"
 #include "tools/preferences/Preferences.h"
+#include "tools/printing/KneeboardForm.h"
 #include "tools/wizards/Speedy.h"
 #include "tools/wizards/Wizard.h"
 
@@ -21,5 +22,6 @@ using MakePage = std::function<QLayout*(const FormLayout&)>;
 [[nodiscard]] QLayout* Page(Preferences& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(Wizard& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(Speedy& form, const FormLayout& in);
+[[nodiscard]] QLayout* Page(KneeboardForm& form, const FormLayout& in);
 
 }  // namespace tarvik::screen

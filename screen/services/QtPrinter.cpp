@@ -21,6 +21,7 @@ namespace {
 
 constexpr qreal kTwipsPerInch = 1440;
 constexpr qreal kTwipsPerPoint = 20;
+constexpr qreal kMillimetresPerInch = 25.4;
 constexpr qreal kTabWidth = 720;             // twips, as the panes have it
 constexpr QSize kPreview(960, 760);          // in which all of its tools have room
 constexpr std::size_t kLongestPiece = 4096;  // characters of one line laid out at a time
@@ -248,6 +249,32 @@ Outcome<> QtPrinter::EndDocument() {
   if (!painter_.end() || !worked || device_->printerState() == QPrinter::Error) return Broken();
   if (!onScreen_ && !IsWritten()) return Broken();
   return Done{};
+}
+
+Outcome<> QtPrinter::PrintPages(const std::vector<QSizeF>& sizes, const PaintPage& paint) {
+  if (auto chosen = SetUp(); !chosen) return chosen;
+  if (auto target = ChooseTarget(); !target) return target;
+  const QPageLayout before = device_->pageLayout();
+  const bool wasFull = device_->fullPage();
+  device_->setFullPage(true);
+  bool works = true;
+  for (std::size_t i = 0; works && i < sizes.size(); ++i) {
+    device_->setPageLayout({QPageSize(sizes[i], QPageSize::Millimeter, {}, QPageSize::FuzzyMatch),
+                            QPageLayout::Portrait,
+                            {},
+                            QPageLayout::Millimeter});
+    works = i == 0 ? painter_.begin(&*device_) : device_->newPage();
+    if (!works) break;
+    painter_.save();
+    painter_.scale(device_->logicalDpiX() / kMillimetresPerInch,
+                   device_->logicalDpiY() / kMillimetresPerInch);
+    paint(painter_, i);
+    painter_.restore();
+  }
+  auto ended = EndDocument();
+  device_->setFullPage(wasFull);
+  device_->setPageLayout(before);
+  return works ? ended : Broken();
 }
 
 bool QtPrinter::IsWritten() const {

@@ -4,7 +4,9 @@
 
 #include <QPainter>
 #include <QPrinter>
+#include <functional>
 #include <optional>
+#include <vector>
 
 #include "platform/Printer.h"
 
@@ -21,6 +23,12 @@ class QtPrinter : public Printer {
                                    const PrintArea& area) override;
   Outcome<> NewPage() override;
   Outcome<> EndDocument() override;
+
+  /// Paints a page, in millimetres from the corner of its sheet.
+  using PaintPage = std::function<void(QPainter& painter, std::size_t page)>;
+  /// Asks for the printer and prints pages of those sizes in millimetres, whatever paper other documents go
+  /// on. Failure 32755 when the user cancels.
+  Outcome<> PrintPages(const std::vector<QSizeF>& sizes, const PaintPage& paint);
 
  private:
   /// The default printer until another one is set up. It is asked for as late as possible, which takes time.

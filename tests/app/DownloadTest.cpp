@@ -9,6 +9,7 @@
 #include "platform/HostFiles.h"
 #include "platform/HostPrograms.h"
 #include "support/ScriptedPlatform.h"
+#include "support/ScriptedPress.h"
 #include "support/TemporaryFolder.h"
 
 namespace tarvik {
@@ -39,7 +40,8 @@ TEST(Download, TheLoaderInDosBoxReceivesTheSavedFileByteForByte) {
     std::this_thread::sleep_for(10ms);
     return std::chrono::steady_clock::now() < end;
   };
-  Application application(platform);
+  session::ScriptedPress press;
+  Application application(platform, press);
   ASSERT_TRUE(application.Start());
   Editor& editor = application.editor();
   ASSERT_EQ(editor.Joystick.Name.Get().Text(), "strike.b50");

@@ -6,6 +6,7 @@
 
 #include "app/Editor.h"
 #include "support/ScriptedPlatform.h"
+#include "support/ScriptedPress.h"
 
 namespace tarvik {
 
@@ -14,7 +15,7 @@ namespace tarvik {
 class UnstartedProgram {
  public:
   explicit UnstartedProgram(std::string commandLine = "", const session::Instead& instead = {})
-      : platform_(outside.Process(files_, std::move(commandLine), instead)), application(platform_) {
+      : platform_(outside.Process(files_, std::move(commandLine), instead)), application(platform_, press) {
     files_.PutFolder("c:\\tarvik");
   }
 
@@ -26,6 +27,7 @@ class UnstartedProgram {
   }
 
   session::ScriptedPlatform outside;
+  session::ScriptedPress press;
 
  private:
   MemoryFiles files_;

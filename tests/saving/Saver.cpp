@@ -15,6 +15,7 @@
 #include "platform/InstanceLock.h"
 #include "platform/Process.h"
 #include "support/ScriptedPlatform.h"
+#include "support/ScriptedPress.h"
 
 namespace {
 
@@ -73,7 +74,8 @@ int main(int count, char** arguments) {
   session::ScriptedPlatform outside;
   InstanceLock lock(fs::path(given[0]) / "tarvik" / "tarvik.lock");
   Platform platform = outside.Process(files, "", {.instance = &lock});
-  Application application(platform);
+  session::ScriptedPress press;
+  Application application(platform, press);
   if (!application.Start()) return kStuck;
 
   User user(application);

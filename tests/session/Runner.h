@@ -10,6 +10,7 @@
 #include "session/Driver.h"
 #include "session/Script.h"
 #include "support/ScriptedPlatform.h"
+#include "support/ScriptedPress.h"
 
 namespace tarvik::session {
 
@@ -149,6 +150,7 @@ class Runner {
   MakeDriver makeDriver_;
   MemoryFiles files_;
   ScriptedPlatform outside_;
+  ScriptedPress press_;
   std::unique_ptr<Platform> platform_;
   std::unique_ptr<Application> application_;
   std::unique_ptr<Driver> driver_;

@@ -133,7 +133,7 @@ void Runner::Start(const Line& line) {
   if (application_) {
     // A second process beside the first.
     Platform second = outside_.Process(files_, commandLine);
-    Application(second).Start();
+    Application(second, press_).Start();
     return;
   }
   StartProgram(commandLine);
@@ -147,7 +147,7 @@ void Runner::StartProgram(const std::string& commandLine) {
       Ignore(profile.Write("FileLocations", key, value));
   }
   platform_ = std::make_unique<Platform>(outside_.Process(files_, commandLine));
-  application_ = std::make_unique<Application>(*platform_);
+  application_ = std::make_unique<Application>(*platform_, press_);
   driver_ = makeDriver_(*application_);
   formLoaded_ = application_->Loaded.Connect([this](Form& form) {
     poppedUp_.push_back(form.PopUp.Connect([this](std::string_view name) { popUp_ = name; }));

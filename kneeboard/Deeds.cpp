@@ -1,0 +1,230 @@
+#include "kneeboard/Deeds.h"
+
+#include <algorithm>
+
+#include "language/Checking.h"
+#include "language/KeyTable.h"
+#include "text/CodePage.h"
+
+namespace tarvik::kneeboard {
+namespace {
+
+using model::Item;
+using model::ItemKind;
+using model::Said;
+
+/// Macros in macros are followed so deep, and no more keys of one deed are told.
+constexpr int kDeepest = 8;
+constexpr std::size_t kMostKeys = 12;
+
+bool IsCapital(char letter) { return letter >= 'A' && letter <= 'Z'; }
+bool IsSmall(char letter) { return letter >= 'a' && letter <= 'z'; }
+bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
+
+/// The words of a name: parted at "_", "-" and ".", and where a capital letter follows a small one.
+std::vector<std::string> WordsIn(std::string_view name) {
+  std::vector<std::string> words(1);
+  for (std::size_t i = 0; i < name.size(); ++i) {
+    const char letter = name[i];
+    const bool parts = letter == '_' || letter == '-' || letter == '.';
+    const bool begins = i > 0 && IsCapital(letter) && IsSmall(name[i - 1]);
+    if ((parts || begins) && !words.back().empty()) words.emplace_back();
+    if (!parts) words.back().push_back(letter);
+  }
+  if (words.back().empty()) words.pop_back();
+  return words;
+}
+
+/// Whether a word among words with small letters is an abbreviation, which stays as it is.
+bool IsAbbreviation(const std::string& word, bool allCapitals) {
+  return !allCapitals && word.size() > 1 && std::ranges::none_of(word, IsSmall);
+}
+
+std::string JoinedBy(const std::vector<std::string>& pieces, std::string_view between) {
+  std::string joined;
+  for (const std::string& piece : pieces) {
+    if (!joined.empty()) joined.append(between);
+    joined.append(piece);
+  }
+  return joined;
+}
+
+std::string Capitals(std::string_view word) {
+  std::string capitals(word);
+  std::ranges::transform(capitals, capitals.begin(), ToUpper);
+  return capitals;
+}
+
+/// The row of a key's name: that of the letter for a capital one, and of the key whose face has the sign with
+/// Shift.
+PressedKey KeyOf(std::string_view word) {
+  const std::string_view name =
+      word.size() > 3 && model::SameWord(word.substr(0, 3), "AUX") ? word.substr(3) : word;
+  for (const KeyRow& row : kKeys) {
+    if (row.name == name || (name.size() > 1 && model::SameWord(row.name, name)))
+      return {{}, std::string(row.name)};
+  }
+  for (const KeyRow& row : kKeys) {
+    if (name.size() == 1 && row.shiftCaption[0] == name[0]) return {"SHF", std::string(row.name)};
+  }
+  return {{}, std::string(word)};
+}
+
+std::string Shown(const PressedKey& key) { return key.with.empty() ? key.key : key.with + " " + key.key; }
+
+/// What holds the key at `at`: the prefixes right before it.
+std::string HeldWith(std::string_view lines, std::span<const Item> items, std::size_t at) {
+  std::size_t first = at;
+  while (first > 0 && items[first - 1].kind == ItemKind::Prefix) --first;
+  std::string with;
+  for (std::size_t i = first; i < at; ++i) {
+    if (!with.empty()) with.push_back(' ');
+    with.append(Capitals(model::In(lines, items[i].range)));
+  }
+  return with;
+}
+
+std::string InWords(std::string_view with) {
+  std::string words;
+  for (const auto& [prefix, said] : {std::pair{"CTL", "Ctrl+"}, {"ALT", "Alt+"}, {"SHF", "Shift+"}}) {
+    if (with.find(prefix) != std::string_view::npos) words.append(said);
+  }
+  return words;
+}
+
+}  // namespace
+
+std::string ReadableName(std::string_view name) {
+  const std::vector<std::string> words = WordsIn(name);
+  const bool allCapitals = std::ranges::none_of(name, IsSmall);
+  std::string readable;
+  for (std::string word : words) {
+    const bool keeps = IsAbbreviation(word, allCapitals) || std::ranges::any_of(word, IsDigit);
+    if (!keeps) word = LowerCase(word);
+    if (readable.empty() && !word.empty()) word[0] = ToUpper(word[0]);
+    if (!readable.empty()) readable.push_back(' ');
+    readable.append(word);
+  }
+  return readable;
+}
+
+std::string DeedWriter::WordsOf(const model::MacroNames& macro) const {
+  const std::string comment = speaker_.CommentOf(macro);
+  return comment.empty() ? ReadableName(macro.name) : comment;
+}
+
+std::string DeedWriter::HeadingOf(const model::MacroNames& macro) const {
+  if (macro.definitions.empty()) return {};
+  const model::FilePair& pair = speaker_.Pair();
+  return model::HeadingOver(pair.macros, pair.macroText, macro.definitions.front().statement);
+}
+
+const model::Sequence* DeedWriter::SequenceOf(const model::MacroNames& macro, std::string_view& lines) const {
+  if (macro.definitions.empty()) return nullptr;
+  const model::FilePair& pair = speaker_.Pair();
+  const std::size_t at = macro.definitions.front().statement;
+  lines = pair.macros.LinesOf(at, pair.macroText);
+  const auto* definition = std::get_if<model::MacroDefinition>(&pair.macros[at].body);
+  return definition == nullptr ? nullptr : std::get_if<model::Sequence>(&definition->sends);
+}
+
+std::vector<PressedKey> DeedWriter::KeysIn(std::string_view lines, std::span<const Item> items) const {
+  std::vector<PressedKey> keys;
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const std::string_view word = model::In(lines, items[i].range);
+    if (items[i].kind == ItemKind::Raw) {
+      for (const std::string_view key : model::KeysPressedBy(lines, items[i]))
+        keys.push_back({{}, std::string(key)});
+    }
+    if (items[i].kind != ItemKind::Key || speaker_.IsNullSign(word)) continue;
+    PressedKey key = KeyOf(word);
+    const std::string with = HeldWith(lines, items, i);
+    if (!with.empty())
+      key.with = key.with.empty() || with.find("SHF") != std::string::npos ? with : with + " " + key.with;
+    keys.push_back(std::move(key));
+  }
+  return keys;
+}
+
+void DeedWriter::AddKeysOf(std::string_view lines, const model::Sequence& sequence, int depth,
+                           std::vector<std::string>& keys) const {
+  for (std::size_t i = 0; i < sequence.items.size() && keys.size() <= kMostKeys; ++i) {
+    const Item& item = sequence.items[i];
+    if (item.kind == ItemKind::Name) {
+      const model::MacroNames* const inner = speaker_.Names().FindMacro(model::In(lines, item.range));
+      if (inner) AddKeysOf(*inner, depth + 1, keys);
+    } else if (item.kind == ItemKind::Key || item.kind == ItemKind::Raw) {
+      const std::span<const Item> before = std::span(sequence.items).first(i + 1);
+      const std::size_t first = item.kind == ItemKind::Raw ? i : i - std::min(i, std::size_t{3});
+      const auto pressed = KeysIn(lines, before.subspan(first));
+      if (item.kind == ItemKind::Key && !pressed.empty()) keys.push_back(Shown(pressed.back()));
+      if (item.kind == ItemKind::Raw) {
+        for (const PressedKey& key : pressed) keys.push_back(Shown(key));
+      }
+    }
+  }
+  for (const model::Branch& branch : sequence.branches) AddKeysOf(lines, branch.sequence, depth, keys);
+}
+
+void DeedWriter::AddKeysOf(const model::MacroNames& macro, int depth, std::vector<std::string>& keys) const {
+  std::string_view lines;
+  const model::Sequence* const sequence = depth > kDeepest ? nullptr : SequenceOf(macro, lines);
+  if (sequence) AddKeysOf(lines, *sequence, depth, keys);
+}
+
+void DeedWriter::TakeName(std::string_view word, Pieces& pieces) const {
+  const model::MacroNames* const macro = speaker_.Names().FindMacro(word);
+  if (!macro || macro->definitions.empty()) {
+    pieces.words.push_back(ReadableName(word));
+    pieces.hasNames = true;
+    return;
+  }
+  pieces.words.push_back(WordsOf(*macro));
+  pieces.hasNames = true;
+  AddKeysOf(*macro, 0, pieces.keys);
+  if (pieces.heading.empty()) pieces.heading = HeadingOf(*macro);
+}
+
+void DeedWriter::Take(std::string_view lines, std::span<const Item> items, std::size_t at,
+                      Pieces& pieces) const {
+  const Item& item = items[at];
+  const std::string_view word = model::In(lines, item.range);
+  if (speaker_.IsNullSign(word) && HeldWith(lines, items, at).empty()) return;
+  switch (item.kind) {
+    case ItemKind::Name:
+      return TakeName(word, pieces);
+    case ItemKind::Key: {
+      const PressedKey key = KeysIn(lines, items.first(at + 1)).back();
+      pieces.words.push_back(InWords(key.with) + model::KeyInWords(key.key));
+      pieces.keys.push_back(Shown(key));
+      return;
+    }
+    case ItemKind::Raw:
+      for (std::string& code : model::CodesInWords(lines, item)) pieces.words.push_back(std::move(code));
+      for (const PressedKey& key : KeysIn(lines, items.subspan(at, 1))) pieces.keys.push_back(Shown(key));
+      return;
+    case ItemKind::Repeat:
+      if (item.number) pieces.words.push_back(Said({std::to_string(*item.number), " times:"}));
+      return;
+    case ItemKind::Reset:
+      pieces.words.emplace_back("reset the stick");
+      return;
+    default:
+      return;
+  }
+}
+
+Deed DeedWriter::DeedOf(std::string_view lines, std::span<const Item> items) const {
+  Pieces pieces;
+  for (std::size_t i = 0; i < items.size(); ++i) Take(lines, items, i, pieces);
+  if (pieces.keys.size() > kMostKeys) {
+    pieces.keys.resize(kMostKeys);
+    pieces.keys.emplace_back("...");
+  }
+  // Words that are nothing but keys have said them.
+  return {.words = ToUtf8(JoinedBy(pieces.words, ", ")),
+          .keys = pieces.hasNames ? ToUtf8(JoinedBy(pieces.keys, " ")) : std::string(),
+          .heading = ToUtf8(pieces.heading)};
+}
+
+}  // namespace tarvik::kneeboard

@@ -1,0 +1,146 @@
+// The page of the kneeboard's window: what is wanted on the left, and the page as it will be printed.
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollArea>
+#include <cmath>
+
+#include "screen/kneeboard/SheetPainter.h"
+#include "screen/pages/Pages.h"
+#include "screen/widgets/Conversions.h"
+#include "tools/printing/KneeboardForm.h"
+
+namespace tarvik::screen {
+namespace {
+
+constexpr int kDesk = 12;  // pixels around the paper
+constexpr double kInch = 25.4;
+constexpr QSize kUsualView(560, 620);
+constexpr QSize kLeastView(240, 200);
+
+/// A page on the desk, with as many pixels to the millimetre as there is room for.
+class SheetCanvas : public QWidget {
+ public:
+  explicit SheetCanvas(KneeboardForm& form) : form_(form) { setMouseTracking(true); }
+
+  void SetScale(double pixelsPerMillimetre) {
+    scale_ = pixelsPerMillimetre;
+    const kneeboard::Sheet& sheet = form_.Sheet();
+    setFixedSize(static_cast<int>(std::ceil(sheet.width * scale_)) + 2 * kDesk,
+                 static_cast<int>(std::ceil(sheet.height * scale_)) + 2 * kDesk);
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const kneeboard::Sheet& sheet = form_.Sheet();
+    QPainter painter(this);
+    painter.translate(kDesk, kDesk);
+    painter.scale(scale_, scale_);
+    painter.fillRect(QRectF(0, 0, sheet.width, sheet.height), Qt::white);
+    PaintSheet(painter, sheet, Palette::Of(form_.Colouring()), drawings_);
+  }
+
+  void mouseMoveEvent(QMouseEvent* event) override {
+    setCursor(form_.LeadsSomewhere(SpotOf(*event)) ? Qt::PointingHandCursor : Qt::ArrowCursor);
+  }
+
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton) form_.GoTo(SpotOf(*event));
+  }
+
+ private:
+  [[nodiscard]] kneeboard::Spot SpotOf(const QMouseEvent& event) const {
+    return {(event.position().x() - kDesk) / scale_, (event.position().y() - kDesk) / scale_};
+  }
+
+  KneeboardForm& form_;
+  DeviceDrawings drawings_;
+  double scale_ = 1;
+};
+
+/// Page Up and Page Down turn the pages, and the arrow keys move what is seen of one.
+class SheetView : public QScrollArea {
+ public:
+  SheetView(KneeboardForm& form, Bindings& bindings) : form_(form), canvas_(new SheetCanvas(form)) {
+    setAccessibleName(tr("Page"));
+    setAlignment(Qt::AlignCenter);
+    setBackgroundRole(QPalette::Mid);
+    setFocusPolicy(Qt::StrongFocus);
+    setMinimumSize(kLeastView);
+    setWidget(canvas_);
+    bindings.BindControl(form.Page, *this);
+    bindings.Bind(form.Page.Caption,
+                  [this] { setAccessibleDescription(ToScreen(form_.Page.Caption.Get())); });
+    bindings.Keep(form.Changed.Connect([this] { Fit(); }));
+    Fit();
+  }
+
+  [[nodiscard]] QSize sizeHint() const override { return kUsualView; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QScrollArea::resizeEvent(event);
+    Fit();
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_PageDown) return form_.Next_Click();
+    if (event->key() == Qt::Key_PageUp) return form_.Previous_Click();
+    QScrollArea::keyPressEvent(event);
+  }
+
+ private:
+  void Fit() { canvas_->SetScale(ScaleOf(static_cast<PageZoom>(form_.Zoom.ListIndex.Get()))); }
+
+  /// The room counts without scroll bars, which come where it is not enough.
+  [[nodiscard]] double ScaleOf(PageZoom zoom) const {
+    const kneeboard::Sheet& sheet = form_.Sheet();
+    const QSize room = maximumViewportSize() - QSize(2 * kDesk, 2 * kDesk);
+    const double actual = logicalDpiX() / kInch;
+    switch (zoom) {
+      case PageZoom::Actual:
+        return actual;
+      case PageZoom::OneAndAHalf:
+        return actual * 1.5;
+      case PageZoom::Double:
+        return actual * 2;
+      case PageZoom::PageWidth:
+        return (room.width() - style()->pixelMetric(QStyle::PM_ScrollBarExtent)) / sheet.width;
+      default:
+        return std::min((room.width() - 1) / sheet.width, (room.height() - 1) / sheet.height);
+    }
+  }
+
+  KneeboardForm& form_;
+  SheetCanvas* canvas_;
+};
+
+QWidget* Wishes(KneeboardForm& form, const FormLayout& in) {
+  auto* const side = new QWidget;
+  side->setLayout(Framed(
+      {},
+      Column(
+          {Group("Pages", Column({in.Show(form.Devices), in.Show(form.Keyboard), in.Show(form.List),
+                                  Fields({{"Order of the list", in.Show(form.Order)}})})),
+           Group("What they say", Column({Fields({{"Layers", in.Show(form.Layers)}}), in.Show(form.Keys)})),
+           Group("Paper", Column({Fields({{"Size", in.Show(form.Paper)}, {"Turned", in.Show(form.Turned)}}),
+                                  in.Show(form.TwoOnASheet), in.Show(form.BlackAndWhite)})),
+           Group("Pictures", Fields({{"PNG", in.Show(form.Resolution)}})), Stretch()})));
+  side->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Preferred);
+  return side;
+}
+
+}  // namespace
+
+QLayout* Page(KneeboardForm& form, const FormLayout& in) {
+  auto* const view = new SheetView(form, in.bindings());
+  QWidget* const zoom = Named(in.Show(form.Zoom), QStringLiteral("Zoom"));
+  QLayout* const pages =
+      Column({Filling(view),
+              Row({in.Show(form.Previous), in.Show(form.PageNumber), in.Show(form.Next), Stretch(), zoom})});
+  return Column(
+      {Filling(Row({Wishes(form, in), Filling(pages)})),
+       Row({in.Show(form.Copy), Stretch(), in.Show(form.SaveAs), in.Show(form.Print), in.Show(form.Done)})});
+}
+
+}  // namespace tarvik::screen

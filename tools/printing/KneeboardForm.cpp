@@ -1,0 +1,229 @@
+#include "tools/printing/KneeboardForm.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+#include "text/CodePage.h"
+
+namespace tarvik {
+namespace {
+
+struct ChoiceRow {
+  ComboBox KneeboardForm::*box;
+  Property<int> Settings::*setting;
+  std::initializer_list<const char*> items;
+  const char* tip;
+};
+
+const ChoiceRow kChoices[] = {
+    {&KneeboardForm::Paper, &Settings::KneeboardPaper, {"A4", "Letter", "A5"}, "The size of the paper"},
+    {&KneeboardForm::Turned, &Settings::KneeboardTurned, {"Upright", "Sideways"}, "How the paper is turned"},
+    {&KneeboardForm::Layers,
+     &Settings::KneeboardLayers,
+     {"All on one page", "A page for each"},
+     "Where the layers of S3 and of the dogfight switch stand"},
+    {&KneeboardForm::Order,
+     &Settings::KneeboardOrder,
+     {"By controls", "By headings"},
+     "The order of the list"},
+    {&KneeboardForm::Resolution,
+     &Settings::KneeboardResolution,
+     {"100 dpi", "150 dpi", "200 dpi", "300 dpi", "600 dpi"},
+     "How fine a page is as a PNG picture"},
+    {&KneeboardForm::Zoom,
+     &Settings::KneeboardZoom,
+     {"Whole page", "Page width", "100%", "150%", "200%"},
+     "How large the page is shown here"},
+};
+
+constexpr int kDots[] = {100, 150, 200, 300, 600};
+
+struct SwitchRow {
+  CheckBox KneeboardForm::*box;
+  Property<int> Settings::*setting;
+  const char* tip;
+};
+
+constexpr SwitchRow kSwitches[] = {
+    {&KneeboardForm::Devices, &Settings::KneeboardDevices,
+     "A page for each device, with what its controls do"},
+    {&KneeboardForm::Keyboard, &Settings::KneeboardKeyboard,
+     "The keyboard, and which of its keys are on the stick"},
+    {&KneeboardForm::List, &Settings::KneeboardList, "All that is assigned, as a list"},
+    {&KneeboardForm::Keys, &Settings::KneeboardKeys, "Tells the keys beside what they do"},
+    {&KneeboardForm::TwoOnASheet, &Settings::KneeboardTwoOnASheet, "Two pages side by side, half as large"},
+    {&KneeboardForm::BlackAndWhite, &Settings::KneeboardBlackAndWhite, "For a printer that has no colours"},
+};
+
+/// What the ending of a path asks for, in small letters and with its point.
+std::string EndingOf(const std::string& path) {
+  const std::size_t point = path.find_last_of(".\\");
+  return point == std::string::npos || path[point] != '.' ? std::string() : LowerCase(path.substr(point));
+}
+
+/// A setting may be any number.
+template <class Value>
+Value Chosen(const Property<int>& setting, Value last) {
+  return static_cast<Value>(std::clamp(setting.Get(), 0, static_cast<int>(last)));
+}
+
+bool Contains(const kneeboard::Area& area, kneeboard::Spot spot) {
+  return spot.x >= area.x && spot.x < area.Right() && spot.y >= area.y && spot.y < area.Bottom();
+}
+
+}  // namespace
+
+KneeboardForm::KneeboardForm(Workbench& bench, Shell& shell) : ToolForm("Kneeboard", bench, shell) {
+  Caption = "Kneeboard";
+  Page.BackColor = ToggleLabel::kOff;
+  PageNumber.BackColor = ToggleLabel::kOff;
+  Previous.ToolTipText = "The page before this one (Page Up)";
+  Next.ToolTipText = "The next page (Page Down)";
+  Copy.ToolTipText = "Puts this page on the clipboard as a picture";
+  SaveAs.ToolTipText = "Saves all pages as PDF, SVG or PNG, or what they say as text";
+  Print.ToolTipText = "Prints all pages";
+  Done.Cancel = true;
+  FillChoices();
+  FollowChoices();
+  FollowFiles();
+  Renew();
+}
+
+void KneeboardForm::FillChoices() {
+  const Settings& settings = bench_.settings;
+  for (const ChoiceRow& row : kChoices) {
+    ComboBox& box = this->*row.box;
+    box.FillInOrder({row.items.begin(), row.items.end()});
+    box.ListIndex = std::clamp((settings.*row.setting).Get(), 0, box.ListCount() - 1);
+    box.ToolTipText = row.tip;
+  }
+  for (const SwitchRow& row : kSwitches) {
+    (this->*row.box).Value = settings.*row.setting != 0 ? 1 : 0;
+    (this->*row.box).ToolTipText = row.tip;
+  }
+}
+
+void KneeboardForm::FollowChoices() {
+  Settings& settings = bench_.settings;
+  for (const ChoiceRow& row : kChoices) {
+    ComboBox& box = this->*row.box;
+    box.Click = [this, &box, &setting = settings.*row.setting] {
+      bench_.settings.Change(setting, box.ListIndex);
+      Renew();
+    };
+  }
+  for (const SwitchRow& row : kSwitches) {
+    CheckBox& box = this->*row.box;
+    box.Click = [this, &box, &setting = settings.*row.setting] {
+      bench_.settings.Change(setting, box.Value);
+      Renew();
+    };
+  }
+}
+
+void KneeboardForm::FollowFiles() {
+  const auto follow = [this] { pause.Begin(); };
+  for (Document* const document : {&bench_.documents.joystick, &bench_.documents.macro}) {
+    connections_.push_back(document->Name.Changed.Connect(follow));
+    connections_.push_back(document->text.Edited.Connect([follow](const PaneEdit& edit) {
+      if (!edit.OnlyColours()) follow();
+    }));
+  }
+  Settings& settings = bench_.settings;
+  for (Property<int>* const part : {&settings.JoyName, &settings.ThrottleName, &settings.RudderName}) {
+    connections_.push_back(part->Changed.Connect(follow));
+  }
+}
+
+kneeboard::Options KneeboardForm::Wanted() const {
+  const Settings& settings = bench_.settings;
+  return {.paper = Chosen(settings.KneeboardPaper, kneeboard::Paper::A5),
+          .turned = Chosen(settings.KneeboardTurned, kneeboard::Turned::Landscape),
+          .twoOnASheet = settings.KneeboardTwoOnASheet != 0,
+          .layers = Chosen(settings.KneeboardLayers, kneeboard::Layers::PageEach),
+          .hasKeys = settings.KneeboardKeys != 0,
+          .order = Chosen(settings.KneeboardOrder, kneeboard::ListOrder::ByHeading),
+          .hasDevices = settings.KneeboardDevices != 0,
+          .hasKeyboard = settings.KneeboardKeyboard != 0,
+          .hasList = settings.KneeboardList != 0};
+}
+
+void KneeboardForm::Renew() {
+  const Settings& settings = bench_.settings;
+  const kneeboard::Press& press = shell_.Press();
+  pause.Cancel();
+  contents_ = kneeboard::ContentsOf(bench_.models.Pair(), bench_.models.Names());
+  job_.sheets = kneeboard::SheetsOf(contents_, Wanted(), press.Measure(), press.Plans());
+  job_.colouring = settings.KneeboardBlackAndWhite != 0 ? kneeboard::Colouring::BlackAndWhite
+                                                        : kneeboard::Colouring::Colours;
+  job_.title = contents_.title.title;
+  job_.dotsPerInch = kDots[Chosen(settings.KneeboardResolution, std::size(kDots) - 1)];
+  ShowPage();
+}
+
+void KneeboardForm::ShowPage() {
+  page_ = std::min(page_, job_.sheets.size() - 1);
+  std::string words;
+  for (const kneeboard::Words& each : Sheet().words) words.append(FromUtf8(each.text)).append("\r\n");
+  Page.Caption = words;
+  PageNumber.Caption = TextOf(page_ + 1) + " of " + TextOf(job_.sheets.size());
+  Previous.Enabled = page_ > 0;
+  Next.Enabled = page_ + 1 < job_.sheets.size();
+  Changed();
+}
+
+void KneeboardForm::Turn(int pages) {
+  const int last = static_cast<int>(job_.sheets.size()) - 1;
+  page_ = static_cast<std::size_t>(std::clamp(static_cast<int>(page_) + pages, 0, last));
+  ShowPage();
+}
+
+const kneeboard::Target* KneeboardForm::TargetAt(kneeboard::Spot spot) const {
+  const auto leads = [spot](const kneeboard::Target& target) {
+    return target.source && Contains(target.area, spot);
+  };
+  const auto found = std::ranges::find_if(Sheet().targets, leads);
+  return found == Sheet().targets.end() ? nullptr : &*found;
+}
+
+void KneeboardForm::GoTo(kneeboard::Spot spot) {
+  const kneeboard::Target* const target = TargetAt(spot);
+  if (!target) return;
+  bench_.documents.GoTo(DocumentOf(bench_.documents, target->source->file), target->source->range);
+}
+
+void KneeboardForm::Copy_Click() {
+  shell_.Press().Copy(job_, page_);
+  Say("The page is on the clipboard");
+}
+
+void KneeboardForm::SaveAs_Click() {
+  const Trap trap{bench_.errors, "Kneeboard SaveAs_Click"};
+  const std::string& folder = bench_.settings.ProgramFilesPath;
+  const auto path = Ignore(bench_.platform.dialogs.AskForFile(
+      {FileDialogKind::Save, "Save the kneeboard",
+       "PDF (*.pdf)|*.pdf|SVG (*.svg)|*.svg|PNG (*.png)|*.png|Text (*.txt)|*.txt", folder, "kneeboard.pdf",
+       "pdf"}));
+  if (!path) return;
+  const bool saved = trap(SaveTo(*path)).has_value();
+  Say(saved ? "The kneeboard is saved as " + *path : *path + " can't be written");
+}
+
+Outcome<> KneeboardForm::SaveTo(const std::string& path) {
+  if (EndingOf(path) == ".txt") {
+    const auto order = Chosen(bench_.settings.KneeboardOrder, kneeboard::ListOrder::ByHeading);
+    return bench_.platform.files.Write(path, kneeboard::ListAsText(contents_, order));
+  }
+  const std::string host = bench_.platform.drives.ToHost(path);
+  if (host.empty()) return Failure{error::kPathNotFound, "Path not found", 0};
+  return shell_.Press().Write(job_, host);
+}
+
+void KneeboardForm::Print_Click() {
+  const Trap trap{bench_.errors, "Kneeboard Print_Click"};
+  const Outcome<> printed = shell_.Press().Print(job_);
+  if (printed.failure().number == error::kDialogCancelled) return;
+  Say(trap(printed) ? "The kneeboard is printed" : "The kneeboard can't be printed");
+}
+
+}  // namespace tarvik
