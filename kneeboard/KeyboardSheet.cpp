@@ -43,7 +43,8 @@ class Keyboard {
     sheet.height = kAllHeight * tall;
     for (const KeyRow& row : kKeys) {
       const tarvik::Place& place = row.place;
-      PutKey(sheet, row, {place.left * scale, place.top * tall, WidthOf(place) * scale, place.height * tall});
+      PutKey(sheet, row, {place.left * scale, place.top * tall, WidthOf(place) * scale, place.height * tall},
+             kKeySide * tall);
     }
     return sheet;
   }
@@ -93,19 +94,18 @@ class Keyboard {
     return found == contents_.keys.end() || found->presses.empty() ? nullptr : &*found;
   }
 
-  void PutKey(Sheet& sheet, const KeyRow& row, const Area& area) const {
+  void PutKey(Sheet& sheet, const KeyRow& row, const Area& area, double unit) const {
     const KeyUse* use = UseOf(row);
     const auto isOnStick = [](const KeyUse::Press& press) { return !press.controls.empty(); };
     const bool isSent = use != nullptr && std::ranges::any_of(use->presses, isOnStick);
     Frame cap = {area, 0.8, isSent ? 0.35 : 0.18, {use != nullptr ? Ink::Text : Ink::Rule}};
     cap.fill = Colour{isSent ? Ink::Tint : Ink::Paper};
     sheet.frames.push_back(cap);
-    const double inset = area.height * 0.08;
+    const double inset = unit * 0.08;
     const double width = area.width - 2 * inset;
     Typesetter& setter = maker_.setter();
-    Style style = {std::max(kSmallest, area.height * 0.24 / kPoint),
-                   use != nullptr,
-                   {use != nullptr ? Ink::Text : Ink::Dim}};
+    Style style = {
+        std::max(kSmallest, unit * 0.24 / kPoint), use != nullptr, {use != nullptr ? Ink::Text : Ink::Dim}};
     const std::string face = row.caption;
     style = setter.Shrunk(face, width, style, kSmallest);
     if (setter.Width(face, style) <= width)
