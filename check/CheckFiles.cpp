@@ -4,9 +4,9 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "check/PairFiles.h"
 #include "language/Controllers.h"
 #include "language/Problems.h"
+#include "pairs/PairFiles.h"
 #include "text/CodePage.h"
 
 namespace tarvik::check {
@@ -15,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 using model::FileKind;
 using model::Severity;
+using pairs::Role;
 
 /// A problem as it is written. Sorted, they are in the order of the files and of the places in them.
 struct Finding {
@@ -38,11 +39,12 @@ class Checker {
     std::vector<fs::path> files;
     for (const std::string& path : paths) Gather(path, files);
     for (const fs::path& file : files) {
-      if (RoleOf(file) == Role::Joystick) CheckPair(file);
+      if (pairs::RoleOf(file) == Role::Joystick) CheckPair(file);
     }
     // What is no joystick file's macro file is checked by itself.
     for (const fs::path& file : files) {
-      if (RoleOf(file) == Role::Macros && !checked_.contains(file.lexically_normal())) CheckMacros(file);
+      if (pairs::RoleOf(file) == Role::Macros && !checked_.contains(file.lexically_normal()))
+        CheckMacros(file);
     }
   }
 
@@ -59,11 +61,11 @@ class Checker {
     if (!fs::is_directory(path, ignored)) {
       const char* why = fs::exists(path, ignored) ? "Neither a joystick file nor a macro file by its ending"
                                                   : "No such file or directory";
-      if (RoleOf(path) == Role::None) return Complain(path, why);
+      if (pairs::RoleOf(path) == Role::None) return Complain(path, why);
       files.push_back(path);
       return;
     }
-    const auto inside = FilesIn(path);
+    const auto inside = pairs::FilesIn(path);
     if (inside) {
       files.insert(files.end(), inside->begin(), inside->end());
     } else {
@@ -77,7 +79,7 @@ class Checker {
   }
 
   std::optional<std::string> TextOf(const fs::path& file) {
-    Outcome<std::string> text = ReadText(file);
+    Outcome<std::string> text = pairs::ReadText(file);
     if (!text) Complain(file, text.failure().text);
     return std::move(text).Take();
   }
@@ -85,7 +87,7 @@ class Checker {
   void CheckPair(const fs::path& joystickPath) {
     const auto joystickText = TextOf(joystickPath);
     if (!joystickText) return;
-    const fs::path macroPath = MacroFileOf(joystickPath, *joystickText);
+    const fs::path macroPath = pairs::MacroFileOf(joystickPath, *joystickText);
     const auto macroText = macroPath.empty() ? std::optional(std::string()) : TextOf(macroPath);
     if (!macroText) return;
     if (!macroPath.empty()) checked_.insert(macroPath.lexically_normal());

@@ -16,9 +16,10 @@ constexpr std::size_t kMostLines = 3;
 constexpr std::size_t kMostTogether = 6;
 /// Above a row that begins a group, in parts of the size.
 constexpr double kAboveGroup = 0.28;
-constexpr double kThin = 0.12;
-constexpr double kEdge = 0.22;
-constexpr double kRound = 0.7;
+/// Lines and the rounding of corners, for a size of type of 1.
+constexpr double kThin = 0.014;
+constexpr double kEdge = 0.026;
+constexpr double kRound = 0.09;
 
 Style Smaller(Style style) {
   style.size = std::max(kSmallest, style.size * kShrink);
@@ -105,7 +106,7 @@ Sheet BoxSetter::HeadOf(const BoxContent& content, double width) const {
   const Pair pair = Broken(content.name, content.place, inside.width, {size_, !content.isFaint, name},
                            {std::max(kSmallest, size_ * 0.88), false, {Ink::Dim}});
   head.height = PutPair(head, pair, inside, 0, pair.words.size() + pair.keys.size()) + 2 * inside.y;
-  Frame band = {{0, 0, width, head.height}, kRound};
+  Frame band = {{0, 0, width, head.height}, size_ * kRound};
   band.fill = Colour{content.isFaint ? Ink::Paper : Ink::Tint};
   head.frames.push_back(band);
   if (!content.bar.empty()) PutBar(head, content.bar);
@@ -122,7 +123,7 @@ void BoxSetter::PutBar(Sheet& onto, const std::vector<Stretch>& bar) const {
     const double to = std::clamp(each.to, 0.0, 100.0) / 100;
     Frame part = {
         {whole.x + from * whole.width, whole.y, std::max(0.0, to - from) * whole.width, whole.height}};
-    part.width = kThin;
+    part.width = size_ * kThin;
     part.edge = {Ink::Dim};
     part.fill = Colour{each.isAfterburner ? Ink::Alarm : isDark ? Ink::Rule : Ink::Paper};
     isDark = !isDark;
@@ -190,14 +191,15 @@ void BoxSetter::PutRow(SetBox& box, const Row& row, const BoxContent& content,
         y + std::max(LineHeight(size_), PutPair(part, pair, {inside.x, y, inside.width, 0}, first, last));
     part.height += size_ * 0.08 * kPoint;
     if (y > 0)
-      part.lines.push_back({{{Padding(), y / 2}, {part.width - Padding(), y / 2}}, kThin, {Ink::Rule}});
+      part.lines.push_back(
+          {{{Padding(), y / 2}, {part.width - Padding(), y / 2}}, size_ * kThin, {Ink::Rule}});
     part.targets.push_back({{0, 0, part.width, part.height}, content.label, row.source});
     box.rows.push_back(std::move(part));
   }
 }
 
 SetBox BoxSetter::Set(const BoxContent& content, double width) const {
-  SetBox box = {HeadOf(content, width), {}, Padding() / 2, content.label, 0};
+  SetBox box = {HeadOf(content, width), {}, Padding() / 2, size_, content.label, 0};
   const double inside = width - 2 * Padding();
   BoxContent settled = content;
   settled.rows = WithShortLeads(content, LeadWidths(content.rows), inside);
@@ -216,7 +218,7 @@ Sheet Assembled(const SetBox& box, std::size_t first, std::size_t last) {
     sheet.height += box.rows[i].height;
   }
   if (first < last) sheet.height += box.padding;
-  Frame frame = {{0, 0, sheet.width, sheet.height}, kRound, kEdge, {Ink::Rule}};
+  Frame frame = {{0, 0, sheet.width, sheet.height}, box.size * kRound, box.size * kEdge, {Ink::Rule}};
   sheet.frames.push_back(frame);
   sheet.targets.push_back({frame.area, box.label});
   return sheet;

@@ -54,6 +54,7 @@ struct SetBox {
   Sheet head;
   std::vector<Sheet> rows;
   double padding = 0;
+  double size = 0;  ///< of its type
   std::string label;
   std::size_t strained = 0;  ///< rows whose words had to shrink or to be broken
 

@@ -20,7 +20,8 @@ constexpr double kTypeCost = 3;
 constexpr double kShareCost = 5;
 /// Notes that need more of a page go overleaf.
 constexpr double kMostNotes = 0.25;
-constexpr double kLeaderWidth = 0.3;
+/// For a size of type of 1.
+constexpr double kLeaderWidth = 0.035;
 
 /// One way to lay the page.
 struct Attempt {
@@ -248,15 +249,15 @@ class DeviceSheet {
       Place(onto, each.box, {x, each.y});
       if (each.leader.empty()) continue;
       const double edge = isLeft ? x + attempt.columnWidth : x;
-      onto.lines.push_back(LeaderFrom(each, edge, isLeft ? attempt.channel : -attempt.channel));
+      onto.lines.push_back(LeaderFrom(each, edge, isLeft ? attempt.channel : -attempt.channel, attempt.type));
     }
   }
 
   /// Level from the box into the channel between it and the drawing, across that, and level on.
-  static Line LeaderFrom(const BesideBox& each, double edge, double channel) {
+  static Line LeaderFrom(const BesideBox& each, double edge, double channel, double type) {
     const double inset = std::min(1.2, each.box.height / 2);
     const double from = std::clamp(each.Entry(), each.y + inset, each.y + each.box.height - inset);
-    Line line = {{{edge, from}}, kLeaderWidth, {Ink::Accent}, LineKind::Leader};
+    Line line = {{{edge, from}}, type * kLeaderWidth, {Ink::Accent}, LineKind::Leader};
     if (std::abs(from - each.Entry()) > 0.01) {
       line.corners.push_back({edge + channel * 0.2, from});
       line.corners.push_back({edge + channel, each.Entry()});

@@ -29,10 +29,6 @@ std::string ProblemsIn(std::size_t problems) {
   return std::to_string(problems) + (problems == 1 ? " problem" : " problems") + " in the files";
 }
 
-void PutRule(Sheet& onto, double from, double to, double y, Colour colour) {
-  onto.lines.push_back({{{from, y}, {to, y}}, kRuleWidth, colour});
-}
-
 }  // namespace
 
 PageMaker::PageMaker(const Contents& contents, Spot size, Typesetter& setter)
@@ -56,6 +52,10 @@ double PageMaker::PutFitted(Sheet& onto, const std::string& text, Area where, St
   return y;
 }
 
+void PageMaker::PutRule(Sheet& onto, double y, Colour colour) const {
+  onto.lines.push_back({{{margin_, y}, {size_.x - margin_, y}}, kRuleWidth * factor_, colour});
+}
+
 double PageMaker::PutHead(Sheet& onto, const PageHead& head) const {
   const double wide = size_.x - 2 * margin_;
   const Area left = {margin_, margin_, wide * 0.48, 0};
@@ -70,7 +70,7 @@ double PageMaker::PutHead(Sheet& onto, const PageHead& head) const {
   double end = PutFitted(onto, head.second, {left.x, middle, left.width, 0}, second, Side::Left);
   end = std::max(end, PutFitted(onto, about, {right.x, middle, right.width, 0}, second, Side::Right));
   end += 0.25 * second.size * kPoint;
-  PutRule(onto, margin_, size_.x - margin_, end, {Ink::Accent});
+  PutRule(onto, end, {Ink::Accent});
   return end + 0.7 * second.size * kPoint;
 }
 
@@ -108,7 +108,7 @@ double PageMaker::PutFoot(Page& page, const Legend& legend) const {
   const double top = last - signs.height;
   Place(page.sheet, signs, {margin_, top});
   const double rule = top - 0.25 * style.size * kPoint;
-  PutRule(page.sheet, margin_, size_.x - margin_, rule, {Ink::Rule});
+  PutRule(page.sheet, rule, {Ink::Rule});
   return rule - 0.7 * style.size * kPoint;
 }
 

@@ -45,6 +45,7 @@ class PageMaker {
   enum class Side { Left, Right };
   /// In as many lines as it needs; says where the next one begins.
   double PutFitted(Sheet& onto, const std::string& text, Area where, Style style, Side side) const;
+  void PutRule(Sheet& onto, double y, Colour colour) const;
   double PutHead(Sheet& onto, const PageHead& head) const;
   [[nodiscard]] Sheet LegendOf(const Legend& legend) const;
   /// Says where it begins.
