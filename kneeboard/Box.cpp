@@ -190,9 +190,11 @@ void BoxSetter::PutRow(SetBox& box, const Row& row, const BoxContent& content,
     part.height =
         y + std::max(LineHeight(size_), PutPair(part, pair, {inside.x, y, inside.width, 0}, first, last));
     part.height += size_ * 0.08 * kPoint;
-    if (y > 0)
-      part.lines.push_back(
-          {{{Padding(), y / 2}, {part.width - Padding(), y / 2}}, size_ * kThin, {Ink::Rule}});
+    if (y > 0) {
+      const Spot from = {Padding(), y / 2};
+      const Spot to = {part.width - Padding(), y / 2};
+      part.lines.push_back({{from, to}, size_ * kThin, {Ink::Rule}});
+    }
     part.targets.push_back({{0, 0, part.width, part.height}, content.label, row.source});
     box.rows.push_back(std::move(part));
   }

@@ -79,6 +79,9 @@ class BoxBuilder {
   }
 
   [[nodiscard]] BoxContent Finish() {
+    // Lines between groups of one row each would only be in the way.
+    const bool hasGroups = !std::ranges::all_of(box_.rows, &Row::beginsGroup);
+    for (Row& row : box_.rows) row.beginsGroup = row.beginsGroup && hasGroups;
     box_.isFaint = box_.rows.empty();
     return std::move(box_);
   }

@@ -1,8 +1,5 @@
 #include "screen/kneeboard/SheetPainter.h"
 
-#include <functional>
-#include <ranges>
-
 #include "screen/kneeboard/Fonts.h"
 
 namespace tarvik::screen {
@@ -91,13 +88,16 @@ void PaintSheet(QPainter& painter, const kneeboard::Sheet& sheet, const Palette&
   for (const kneeboard::Drawing& each : sheet.drawings)
     drawings.Paint(painter, each, RectOf(each.area), palette.isGrey);
   SheetPainter paint(painter, palette);
+  const auto paintLines = [&](kneeboard::LineKind kind) {
+    for (const kneeboard::Line& each : sheet.lines) {
+      if (each.kind == kind) paint.Paint(each);
+    }
+  };
   // Leaders end below the edges of their boxes.
-  const auto isLeader = [](const kneeboard::Line& line) { return line.kind == kneeboard::LineKind::Leader; };
-  for (const kneeboard::Line& each : sheet.lines | std::views::filter(isLeader)) paint.Paint(each);
+  paintLines(kneeboard::LineKind::Leader);
   for (const kneeboard::Frame& each : sheet.frames) paint.Paint(each);
   for (const kneeboard::Shape& each : sheet.shapes) paint.Paint(each);
-  for (const kneeboard::Line& each : sheet.lines | std::views::filter(std::not_fn(isLeader)))
-    paint.Paint(each);
+  paintLines(kneeboard::LineKind::Plain);
   for (const kneeboard::Words& each : sheet.words) paint.Paint(each);
 }
 
