@@ -15,7 +15,7 @@ constexpr double kShares[] = {0.52, 0.46, 0.4, 0.35, 0.3, 0.24};
 constexpr double kLargestType = 9;
 constexpr double kTypeStep = 0.5;
 /// How much words that are broken or shrink, smaller type and a smaller drawing cost.
-constexpr double kStrainCost = 5;
+constexpr double kStrainCost = 8;
 constexpr double kTypeCost = 3;
 constexpr double kShareCost = 5;
 /// Notes that need more of a page go overleaf.
@@ -83,9 +83,8 @@ class DeviceSheet {
     Put(page.sheet, attempt, below);
     std::vector<Page> pages = {std::move(page)};
     if (overleaf.empty()) return pages;
-    Flow flow(maker_, {head.name + ", continued", head.second}, legend);
-    for (const BoxContent& box : overleaf) flow.Add(box);
-    for (Page& each : flow.Finish()) pages.push_back(std::move(each));
+    const PageHead continued = {head.name + ", continued", head.second};
+    for (Page& each : FlowPages(maker_, continued, legend, overleaf)) pages.push_back(std::move(each));
     return pages;
   }
 

@@ -177,9 +177,8 @@ std::vector<Page> KeyboardPagesOf(const Contents& contents, const PageMaker& mak
                          {Sign::OffStick, std::string(MeaningOf(Sign::OffStick))}};
   const PageHead head = {"Keyboard", "What each key does, and which control presses it"};
   const Keyboard keyboard(contents, maker);
-  Flow flow(maker, head, legend, keyboard.Drawn(maker.Begin(head, legend).body.width));
-  for (const BoxContent& box : keyboard.Boxes()) flow.Add(box);
-  return flow.Finish();
+  const Sheet drawn = keyboard.Drawn(maker.Begin(head, legend).body.width);
+  return FlowPages(maker, head, legend, keyboard.Boxes(), drawn);
 }
 
 }  // namespace tarvik::kneeboard

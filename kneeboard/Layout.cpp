@@ -85,20 +85,14 @@ class Kneeboard {
       for (const Layer& layer : LayersOf(device)) PutDevice(device, layer, more);
     }
     if (more.empty()) return;
-    Flow flow(maker_, {"Flags and settings", {}}, {});
-    for (const BoxContent& box : more) flow.Add(box);
-    Take(flow.Finish());
+    Take(FlowPages(maker_, {"Flags and settings", {}}, {}, more));
   }
 
   void PutDevice(const DevicePage& device, const std::optional<Layer>& layer, std::vector<BoxContent>& more) {
     const DrawingPlan* plan = plans_.Find(device.drawing);
     const PageHead head = {device.title, layer ? NameOf(*layer) : ""};
     std::vector<BoxContent> boxes = BoxesOf(device, layer, options_);
-    if (plan == nullptr) {
-      Flow flow(maker_, head, legend_);
-      for (const BoxContent& box : boxes) flow.Add(box);
-      return Take(flow.Finish());
-    }
+    if (plan == nullptr) return Take(FlowPages(maker_, head, legend_, boxes));
     DeviceSubject subject = {*plan, device.drawing, HiddenIn(device, *plan)};
     for (BoxContent& box : boxes) {
       const bool isDrawn =
