@@ -197,16 +197,19 @@ void BoxSetter::PutRow(SetBox& box, const Row& row, const BoxContent& content,
     }
     part.targets.push_back({{0, 0, part.width, part.height}, content.label, row.source});
     box.rows.push_back(std::move(part));
+    box.breaks.push_back(first == 0 && row.beginsGroup);
   }
 }
 
 SetBox BoxSetter::Set(const BoxContent& content, double width) const {
-  SetBox box = {HeadOf(content, width), {}, Padding() / 2, size_, content.label, 0};
+  SetBox box = {HeadOf(content, width), {}, {}, Padding() / 2, size_, content.label, 0};
   const double inside = width - 2 * Padding();
   BoxContent settled = content;
   settled.rows = WithShortLeads(content, LeadWidths(content.rows), inside);
   const std::vector<double> widths = LeadWidths(settled.rows);
   for (const Row& row : settled.rows) PutRow(box, row, settled, widths);
+  const bool hasGroups = std::ranges::any_of(content.rows, &Row::beginsGroup);
+  if (!hasGroups) box.breaks.assign(box.rows.size(), true);
   return box;
 }
 

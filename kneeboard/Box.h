@@ -53,6 +53,7 @@ using Notes = std::vector<std::string>;
 struct SetBox {
   Sheet head;
   std::vector<Sheet> rows;
+  std::vector<bool> breaks;  ///< for each row, whether a column may begin with it
   double padding = 0;
   double size = 0;  ///< of its type
   std::string label;

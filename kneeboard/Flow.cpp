@@ -75,7 +75,10 @@ std::size_t Flow::RowsThatFit(const SetBox& box, std::size_t first) const {
   std::size_t last = first;
   while (last < box.rows.size() && height + box.rows[last].height <= Left())
     height += box.rows[last++].height;
-  return last - first;
+  // A group stays together if it is not longer than the column.
+  std::size_t whole = last;
+  while (whole > first && whole < box.rows.size() && !box.breaks[whole]) --whole;
+  return (whole > first ? whole : last) - first;
 }
 
 void Flow::Put(const SetBox& box, std::size_t first, std::size_t last) {
