@@ -16,7 +16,7 @@ std::string Joined(const std::vector<std::string>& parts) {
   std::string all;
   for (const std::string& part : parts) {
     if (part.empty()) continue;
-    all.append(all.empty() ? "" : "  ·  ").append(part);
+    all.append(all.empty() ? "" : " · ").append(part);
   }
   return all;
 }
