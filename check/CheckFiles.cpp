@@ -4,9 +4,9 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "check/PairFiles.h"
-#include "language/Controllers.h"
 #include "language/Problems.h"
+#include "pairs/PairFiles.h"
+#include "pairs/PairOnDisk.h"
 #include "text/CodePage.h"
 
 namespace tarvik::check {
@@ -15,6 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 using model::FileKind;
 using model::Severity;
+using pairs::Role;
 
 /// A problem as it is written. Sorted, they are in the order of the files and of the places in them.
 struct Finding {
@@ -38,11 +39,11 @@ class Checker {
     std::vector<fs::path> files;
     for (const std::string& path : paths) Gather(path, files);
     for (const fs::path& file : files) {
-      if (RoleOf(file) == Role::Joystick) CheckPair(file);
+      if (pairs::RoleOf(file) == Role::Joystick) CheckPair(file);
     }
     // What is no joystick file's macro file is checked by itself.
     for (const fs::path& file : files) {
-      if (RoleOf(file) == Role::Macros && !checked_.contains(file.lexically_normal())) CheckMacros(file);
+      if (pairs::RoleOf(file) == Role::Macros && !checked_.contains(file.lexically_normal())) CheckPair(file);
     }
   }
 
@@ -59,11 +60,11 @@ class Checker {
     if (!fs::is_directory(path, ignored)) {
       const char* why = fs::exists(path, ignored) ? "Neither a joystick file nor a macro file by its ending"
                                                   : "No such file or directory";
-      if (RoleOf(path) == Role::None) return Complain(path, why);
+      if (pairs::RoleOf(path) == Role::None) return Complain(path, why);
       files.push_back(path);
       return;
     }
-    const auto inside = FilesIn(path);
+    const auto inside = pairs::FilesIn(path);
     if (inside) {
       files.insert(files.end(), inside->begin(), inside->end());
     } else {
@@ -71,51 +72,25 @@ class Checker {
     }
   }
 
-  void Complain(const fs::path& path, const std::string& why) {
-    streams_.error << "tarvik-check: " << path.string() << ": " << why << '\n';
+  void Complain(const fs::path& path, const std::string& why) { Complain(path.string() + ": " + why); }
+  void Complain(const std::string& why) {
+    streams_.error << "tarvik-check: " << why << '\n';
     unreadable_ = true;
   }
 
-  std::optional<std::string> TextOf(const fs::path& file) {
-    Outcome<std::string> text = ReadText(file);
-    if (!text) Complain(file, text.failure().text);
-    return std::move(text).Take();
+  void CheckPair(const fs::path& file) {
+    const auto pair = pairs::PairOnDisk::Read(file);
+    if (!pair) return Complain(pair.failure().text);
+    if (!pair->macros().path.empty()) checked_.insert(pair->macros().path.lexically_normal());
+    Judge(*pair);
   }
 
-  void CheckPair(const fs::path& joystickPath) {
-    const auto joystickText = TextOf(joystickPath);
-    if (!joystickText) return;
-    const fs::path macroPath = MacroFileOf(joystickPath, *joystickText);
-    const auto macroText = macroPath.empty() ? std::optional(std::string()) : TextOf(macroPath);
-    if (!macroText) return;
-    if (!macroPath.empty()) checked_.insert(macroPath.lexically_normal());
-    const std::string joystickName = FromUtf8(joystickPath.filename().string());
-    const std::string macroName = FromUtf8(macroPath.filename().string());
-    const int joystick = JoystickOf(LowerCase(joystickPath.extension().string()).substr(1));
-    Judge({joystickPath, *joystickText}, {macroPath, *macroText}, {joystick},
-          {joystickName, macroName, macroPath.empty()});
-  }
-
-  void CheckMacros(const fs::path& path) {
-    if (const auto text = TextOf(path)) Judge({}, {path, *text}, {}, {});
-  }
-
-  /// A file and what stands in it.
-  struct File {
-    fs::path path;
-    std::string_view text;
-  };
-
-  void Judge(const File& joystick, const File& macros, model::Hardware hardware, model::FileNames names) {
-    const model::JoystickFile joystickFile(joystick.text);
-    const model::MacroFile macroFile(macros.text);
-    model::LinePositions joystickLines(joystick.text);
-    model::LinePositions macroLines(macros.text);
-    const auto problems =
-        model::ProblemsIn({joystickFile, joystick.text, macroFile, macros.text, hardware, names});
-    for (const model::Problem& problem : problems) {
+  void Judge(const pairs::PairOnDisk& pair) {
+    model::LinePositions joystickLines(pair.joystick().text);
+    model::LinePositions macroLines(pair.macros().text);
+    for (const model::Problem& problem : model::ProblemsIn(pair.View())) {
       const bool inJoystick = problem.file == FileKind::Joystick;
-      findings_.insert({(inJoystick ? joystick : macros).path.string(),
+      findings_.insert({(inJoystick ? pair.joystick() : pair.macros()).path.string(),
                         (inJoystick ? joystickLines : macroLines).Of(problem.range.start),
                         problem.range.length, problem.rule->severity, std::string(problem.rule->id),
                         ToUtf8(problem.text), ToUtf8(problem.advice)});

@@ -14,9 +14,12 @@ constexpr std::size_t kMostLines = 3;
 /// Where rows have no notes, those with more lines go on in a row of their own, which another page may begin
 /// with.
 constexpr std::size_t kMostTogether = 6;
-constexpr double kThin = 0.12;
-constexpr double kEdge = 0.22;
-constexpr double kRound = 0.7;
+/// Above a row that begins a group, in parts of the size.
+constexpr double kAboveGroup = 0.28;
+/// Lines and the rounding of corners, for a size of type of 1.
+constexpr double kThin = 0.014;
+constexpr double kEdge = 0.026;
+constexpr double kRound = 0.09;
 
 Style Smaller(Style style) {
   style.size = std::max(kSmallest, style.size * kShrink);
@@ -60,12 +63,14 @@ BoxSetter::Pair BoxSetter::Broken(const std::string& words, const std::string& k
       if (!words.empty()) pair.words = {words};
       if (!keys.empty()) pair.keys = {keys};
       pair.areBeside = true;
+      pair.isStrained = i > 0;
       return pair;
     }
     if (i == 0) pair = {{}, {}, Smaller(wordStyle), Smaller(keyStyle)};
   }
   pair.words = setter_.Wrapped(words, width, pair.wordStyle);
   pair.keys = setter_.Wrapped(keys, width, pair.keyStyle);
+  pair.isStrained = true;
   pair.areBeside = !pair.words.empty() && pair.keys.size() == 1 &&
                    GoBeside(pair, pair.words.back(), pair.keys.front(), width);
   return pair;
@@ -101,7 +106,7 @@ Sheet BoxSetter::HeadOf(const BoxContent& content, double width) const {
   const Pair pair = Broken(content.name, content.place, inside.width, {size_, !content.isFaint, name},
                            {std::max(kSmallest, size_ * 0.88), false, {Ink::Dim}});
   head.height = PutPair(head, pair, inside, 0, pair.words.size() + pair.keys.size()) + 2 * inside.y;
-  Frame band = {{0, 0, width, head.height}, kRound};
+  Frame band = {{0, 0, width, head.height}, size_ * kRound};
   band.fill = Colour{content.isFaint ? Ink::Paper : Ink::Tint};
   head.frames.push_back(band);
   if (!content.bar.empty()) PutBar(head, content.bar);
@@ -118,7 +123,7 @@ void BoxSetter::PutBar(Sheet& onto, const std::vector<Stretch>& bar) const {
     const double to = std::clamp(each.to, 0.0, 100.0) / 100;
     Frame part = {
         {whole.x + from * whole.width, whole.y, std::max(0.0, to - from) * whole.width, whole.height}};
-    part.width = kThin;
+    part.width = size_ * kThin;
     part.edge = {Ink::Dim};
     part.fill = Colour{each.isAfterburner ? Ink::Alarm : isDark ? Ink::Rule : Ink::Paper};
     isDark = !isDark;
@@ -141,13 +146,13 @@ std::vector<double> BoxSetter::LeadWidths(const std::vector<Row>& rows) const {
   return widths;
 }
 
-void BoxSetter::PutLeads(Sheet& onto, const Row& row, const std::vector<double>& widths) const {
+void BoxSetter::PutLeads(Sheet& onto, const Row& row, const std::vector<double>& widths, double y) const {
   double x = Padding();
   for (std::size_t i = 0; i < row.leads.size(); ++i) {
     const Lead& lead = row.leads[i];
-    PutSign(onto, lead.sign, {x, 0}, size_, lead.colour);
+    PutSign(onto, lead.sign, {x, y}, size_, lead.colour);
     const double behind = lead.sign == Sign::None ? 0 : SignWidth(size_);
-    PutLine(onto, lead.text, {x + behind, 0}, {size_, lead.bold, lead.textColour.value_or(lead.colour)});
+    PutLine(onto, lead.text, {x + behind, y}, {size_, lead.bold, lead.textColour.value_or(lead.colour)});
     x += widths[i];
   }
 }
@@ -165,35 +170,46 @@ std::string BoxSetter::Noted(const Row& row, const BoxContent& content) const {
 
 void BoxSetter::PutRow(SetBox& box, const Row& row, const BoxContent& content,
                        const std::vector<double>& widths) const {
-  const double before = Padding() + std::accumulate(widths.begin(), widths.end(), 0.0);
+  const double leads = row.leads.empty() ? 0 : std::accumulate(widths.begin(), widths.end(), 0.0);
+  const double before = Padding() + leads;
+  const double above = row.beginsGroup && !box.rows.empty() ? size_ * kAboveGroup * kPoint : 0;
   const Area inside = {before, 0, box.head.width - Padding() - before, 0};
   const Style words = {size_, false, row.colour};
   const Style keys = {std::max(kSmallest, size_ * 0.86), false, {Ink::Dim}};
   Pair pair = Broken(row.words, row.keys, inside.width, words, keys);
   if (notes_ != nullptr && (pair.words.size() > kMostLines || pair.keys.size() > kMostLines))
     pair = Broken(Noted(row, content), {}, inside.width, {size_, false, {Ink::Dim}}, keys);
+  if (pair.isStrained) ++box.strained;
   const std::size_t lines = std::max<std::size_t>(1, pair.words.size() + pair.keys.size());
   for (std::size_t first = 0; first < lines; first += kMostTogether) {
     const std::size_t last = std::min(first + kMostTogether, pair.words.size() + pair.keys.size());
     Sheet part;
     part.width = box.head.width;
-    if (first == 0) PutLeads(part, row, widths);
-    part.height = std::max(LineHeight(size_), PutPair(part, pair, inside, first, last));
+    const double y = first == 0 ? above : 0;
+    if (first == 0) PutLeads(part, row, widths, y);
+    part.height =
+        y + std::max(LineHeight(size_), PutPair(part, pair, {inside.x, y, inside.width, 0}, first, last));
     part.height += size_ * 0.08 * kPoint;
-    if (first == 0 && row.beginsGroup && !box.rows.empty())
-      part.lines.push_back({{{Padding(), 0}, {part.width - Padding(), 0}}, kThin, {Ink::Rule}});
+    if (y > 0) {
+      const Spot from = {Padding(), y / 2};
+      const Spot to = {part.width - Padding(), y / 2};
+      part.lines.push_back({{from, to}, size_ * kThin, {Ink::Rule}});
+    }
     part.targets.push_back({{0, 0, part.width, part.height}, content.label, row.source});
     box.rows.push_back(std::move(part));
+    box.breaks.push_back(first == 0 && row.beginsGroup);
   }
 }
 
 SetBox BoxSetter::Set(const BoxContent& content, double width) const {
-  SetBox box = {HeadOf(content, width), {}, Padding() / 2, content.label};
+  SetBox box = {HeadOf(content, width), {}, {}, Padding() / 2, size_, content.label, 0};
   const double inside = width - 2 * Padding();
   BoxContent settled = content;
   settled.rows = WithShortLeads(content, LeadWidths(content.rows), inside);
   const std::vector<double> widths = LeadWidths(settled.rows);
   for (const Row& row : settled.rows) PutRow(box, row, settled, widths);
+  const bool hasGroups = std::ranges::any_of(content.rows, &Row::beginsGroup);
+  if (!hasGroups) box.breaks.assign(box.rows.size(), true);
   return box;
 }
 
@@ -207,7 +223,7 @@ Sheet Assembled(const SetBox& box, std::size_t first, std::size_t last) {
     sheet.height += box.rows[i].height;
   }
   if (first < last) sheet.height += box.padding;
-  Frame frame = {{0, 0, sheet.width, sheet.height}, kRound, kEdge, {Ink::Rule}};
+  Frame frame = {{0, 0, sheet.width, sheet.height}, box.size * kRound, box.size * kEdge, {Ink::Rule}};
   sheet.frames.push_back(frame);
   sheet.targets.push_back({frame.area, box.label});
   return sheet;

@@ -53,8 +53,11 @@ using Notes = std::vector<std::string>;
 struct SetBox {
   Sheet head;
   std::vector<Sheet> rows;
+  std::vector<bool> breaks;  ///< for each row, whether a column may begin with it
   double padding = 0;
+  double size = 0;  ///< of its type
   std::string label;
+  std::size_t strained = 0;  ///< rows whose words had to shrink or to be broken
 
   [[nodiscard]] double Height() const;
 };
@@ -73,7 +76,8 @@ class BoxSetter {
     std::vector<std::string> keys;
     Style wordStyle;
     Style keyStyle;
-    bool areBeside = false;  ///< the keys begin in the last line of the words
+    bool areBeside = false;   ///< the keys begin in the last line of the words
+    bool isStrained = false;  ///< it takes more than one line, or shrunk
   };
 
   [[nodiscard]] double Padding() const { return size_ * 0.5 * kPoint; }
@@ -89,7 +93,7 @@ class BoxSetter {
   [[nodiscard]] Sheet HeadOf(const BoxContent& content, double width) const;
   void PutBar(Sheet& onto, const std::vector<Stretch>& bar) const;
   [[nodiscard]] std::vector<double> LeadWidths(const std::vector<Row>& rows) const;
-  void PutLeads(Sheet& onto, const Row& row, const std::vector<double>& widths) const;
+  void PutLeads(Sheet& onto, const Row& row, const std::vector<double>& widths, double y) const;
   void PutRow(SetBox& box, const Row& row, const BoxContent& content,
               const std::vector<double>& widths) const;
   [[nodiscard]] std::string Noted(const Row& row, const BoxContent& content) const;

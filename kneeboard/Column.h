@@ -7,14 +7,20 @@
 
 namespace tarvik::kneeboard {
 
-/// A box beside the drawing, and the height at which its leader goes into the drawing.
-struct BesideBox {
+/// A box beside the drawing, and the leader that goes from it.
+class BesideBox {
+ public:
   const BoxContent* content = nullptr;
-  std::vector<Spot> leader = {};  ///< from the edge of the drawing, on the sheet
+  std::vector<Spot> leader =
+      {};  ///< from the edge of the drawing, on the sheet; none for a box of no control
   Sheet box = {};
   double y = 0;  ///< of the upper edge of the box
 
-  [[nodiscard]] double Entry() const { return leader.front().y; }
+  /// Boxes without a leader come last.
+  [[nodiscard]] double Entry() const { return leader.empty() ? kFarBelow : leader.front().y; }
+
+ private:
+  static constexpr double kFarBelow = 1e6;
 };
 using Column = std::vector<BesideBox>;
 

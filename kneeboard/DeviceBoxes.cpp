@@ -62,8 +62,8 @@ class BoxBuilder {
 
   void Take(const Scale& scale) {
     if (only_ && scale.layer != *only_) return;
-    Row kind = {{{}}, scale.kind, {}, kDim, true, scale.source};
-    if (!only_) PutLayer(kind.leads, scale.layer);
+    Row kind = {{}, scale.kind, {}, kDim, true, scale.source};
+    if (!only_ && scale.layer != Layer()) PutLayer(kind.leads, scale.layer);
     if (!scale.kind.empty() || scale.steps.empty()) box_.rows.push_back(std::move(kind));
     if (box_.bar.empty()) {
       for (const Step& step : scale.steps) box_.bar.push_back({step.from, step.to, step.isAfterburner});
@@ -79,6 +79,9 @@ class BoxBuilder {
   }
 
   [[nodiscard]] BoxContent Finish() {
+    // Lines between groups of one row each would only be in the way.
+    const bool hasGroups = !std::ranges::all_of(box_.rows, &Row::beginsGroup);
+    for (Row& row : box_.rows) row.beginsGroup = row.beginsGroup && hasGroups;
     box_.isFaint = box_.rows.empty();
     return std::move(box_);
   }
@@ -91,24 +94,23 @@ class BoxBuilder {
     return {sign, sign == Sign::None ? control.name : "", true, kAccent};
   }
 
-  /// Steps that send the same.
+  /// Steps that send the same. Where they do so only on the way up, or in both directions, that is one row.
   void TakeStretch(const Scale& scale, StepPlace first, StepPlace last) {
+    const auto steps = last - first;
     std::string where = Percent(first->from) + "–" + Percent((last - 1)->to) + " %";
-    if (last - first > 1) where.append(" in ").append(std::to_string(last - first));
+    if (steps > 1) where.append(" in ").append(std::to_string(steps)).append(" steps");
     const Colour colour = first->isAfterburner ? kAlarm : kText;
-    const auto put = [&](const Deed& deed, Sign sign) {
-      Row row = {{}, WordsOf(deed), KeysOf(deed, {}, options_), colour, false, scale.source};
-      row.leads.push_back({Sign::None, where, false, kDim});
-      where.clear();
-      if (!only_) PutLayer(row.leads, {});
-      row.leads.push_back({sign, {}, false, colour});
-      box_.rows.push_back(std::move(row));
+    const auto put = [&](const Lead& lead, const Deed& deed) {
+      box_.rows.push_back({{lead}, WordsOf(deed), KeysOf(deed, {}, options_), colour, false, scale.source});
     };
     const bool goesUp = first->up != Deed();
     const bool goesDown = first->down != Deed() && first->down != first->up;
-    if (goesUp) put(first->up, goesDown ? Sign::Up : Sign::None);
-    if (goesDown) put(first->down, Sign::Down);
-    if (!goesUp && !goesDown) put({"nothing", {}, {}}, Sign::None);
+    if (goesUp != goesDown && steps == 1)
+      return put({goesUp ? Sign::None : Sign::Down, where, false, kDim}, goesUp ? first->up : first->down);
+    box_.rows.push_back({{}, where, {}, first->isAfterburner ? kAlarm : kDim, true, scale.source});
+    if (goesUp) put({goesDown ? Sign::Up : Sign::None, {}, false, colour}, first->up);
+    if (goesDown) put({Sign::Down, {}, false, colour}, first->down);
+    if (!goesUp && !goesDown) box_.rows.back().words.append(": nothing");
   }
 
   std::optional<Layer> only_;

@@ -11,12 +11,17 @@ namespace tarvik::kneeboard {
 namespace {
 
 /// The drawing's share of the width of a page: as much as the boxes leave.
-constexpr double kShares[] = {0.42, 0.36, 0.3, 0.24};
+constexpr double kShares[] = {0.52, 0.46, 0.4, 0.35, 0.3, 0.24};
 constexpr double kLargestType = 9;
 constexpr double kTypeStep = 0.5;
+/// How much words that are broken or shrink, smaller type and a smaller drawing cost.
+constexpr double kStrainCost = 8;
+constexpr double kTypeCost = 3;
+constexpr double kShareCost = 5;
 /// Notes that need more of a page go overleaf.
 constexpr double kMostNotes = 0.25;
-constexpr double kLeaderWidth = 0.3;
+/// For a size of type of 1.
+constexpr double kLeaderWidth = 0.035;
 
 /// One way to lay the page.
 struct Attempt {
@@ -31,6 +36,8 @@ struct Attempt {
   double channel = 0;  ///< between a column and the drawing
   double columnWidth = 0;
   bool areNotesOverleaf = false;
+  std::size_t rows = 0;
+  std::size_t strained = 0;
 
   [[nodiscard]] double Space() const { return SpaceBetween(type); }
   [[nodiscard]] bool Fits() const {
@@ -67,16 +74,17 @@ class DeviceSheet {
     MoveOverleaf(attempt, overleaf);
     Sheet below;
     std::vector<BoxContent> loose = subject_.loose;
-    PutBelow(below, attempt, loose);
-    PutBelow(below, attempt, more);
+    for (std::vector<BoxContent>* boxes : {&loose, &more}) {
+      PutBelow(below, attempt, *boxes);
+      PutBeside(attempt, *boxes);
+    }
     std::ranges::move(loose, std::back_inserter(overleaf));
     if (attempt.areNotesOverleaf) overleaf.push_back(NoteBoxOf(attempt.notes));
     Put(page.sheet, attempt, below);
     std::vector<Page> pages = {std::move(page)};
     if (overleaf.empty()) return pages;
-    Flow flow(maker_, {head.name + ", continued", head.second}, legend);
-    for (const BoxContent& box : overleaf) flow.Add(box);
-    for (Page& each : flow.Finish()) pages.push_back(std::move(each));
+    const PageHead continued = {head.name + ", continued", head.second};
+    for (Page& each : FlowPages(maker_, continued, legend, overleaf)) pages.push_back(std::move(each));
     return pages;
   }
 
@@ -86,30 +94,42 @@ class DeviceSheet {
     return found == subject_.plan.leaders.end() ? nullptr : &*found;
   }
 
-  /// The largest type in which everything has room, and with it the largest drawing.
+  /// Large type, a large drawing, and few lines that are broken: of what has room, the best of all that.
   [[nodiscard]] Attempt Best(const Area& body) const {
     const double largest = std::ceil(maker_.Sized(kLargestType) / kTypeStep) * kTypeStep;
-    Attempt attempt;
+    std::optional<Attempt> best;
+    double lowest = 0;
     for (double type = largest; type >= kSmallest; type -= kTypeStep) {
+      const double typeCost = kTypeCost * (largest - type) / largest;
+      if (best && typeCost >= lowest) break;
       for (const double share : kShares) {
-        attempt = Try(body, type, share);
-        if (attempt.Fits()) return attempt;
+        Attempt attempt = Try(body, type, share);
+        if (!attempt.Fits()) continue;
+        const double cost = typeCost + kShareCost * (kShares[0] - share) +
+                            kStrainCost * static_cast<double>(attempt.strained) /
+                                static_cast<double>(std::max<std::size_t>(1, attempt.rows));
+        if (best && cost >= lowest) continue;
+        lowest = cost;
+        best = std::move(attempt);
       }
     }
-    return attempt;
+    return best ? std::move(*best) : Try(body, kSmallest, kShares[std::size(kShares) - 1]);
   }
 
   [[nodiscard]] Attempt Try(const Area& body, double type, double share) const {
     Attempt attempt;
     attempt.type = type;
     attempt.body = body;
-    attempt.channel = std::max(3.5, body.width * 0.025);
+    attempt.channel = std::max(3.5, body.width * 0.03);
     attempt.drawing.width = std::min(body.width * share, body.height * part_.width / part_.height);
     attempt.columnWidth = (body.width - attempt.drawing.width - 2 * attempt.channel) / 2;
     for (const BoxContent& box : subject_.boxes) {
       const DrawnLeader& leader = *LeaderOf(box.label);
       const bool isLeft = leader.corners.front().x < part_.Middle().x;
-      (isLeft ? attempt.left : attempt.right).push_back({&box, leader.corners});
+      BesideBox beside;
+      beside.content = &box;
+      beside.leader = leader.corners;
+      (isLeft ? attempt.left : attempt.right).push_back(std::move(beside));
     }
     for (Column* column : {&attempt.left, &attempt.right}) {
       std::ranges::stable_sort(*column, {}, &BesideBox::Entry);
@@ -125,6 +145,8 @@ class DeviceSheet {
     const BoxSetter setter(maker_.setter(), attempt.type, &attempt.notes);
     const kneeboard::SetBox box = setter.Set(*each.content, attempt.columnWidth);
     each.box = Assembled(box, 0, box.rows.size());
+    attempt.rows += box.rows.size();
+    attempt.strained += box.strained;
   }
 
   void SetNotes(Attempt& attempt) const {
@@ -137,22 +159,35 @@ class DeviceSheet {
     attempt.body.height -= attempt.noteBox.height + attempt.Space();
   }
 
-  /// The longest boxes, until the others have room. What stays of them says where they are.
+  /// Boxes, until the others have room: the shortest one that makes enough, or else the longest. What stays
+  /// of them says where they are.
   void MoveOverleaf(Attempt& attempt, std::vector<BoxContent>& overleaf) const {
-    const auto heightOf = [](const BesideBox& each) { return each.content == nullptr ? 0 : each.box.height; };
     for (Column* column : {&attempt.left, &attempt.right}) {
-      while (HeightOf(*column, attempt.Space()) > attempt.body.height) {
-        BesideBox& longest = *std::ranges::max_element(*column, {}, heightOf);
-        if (longest.content == nullptr) return;
-        overleaf.push_back(*longest.content);
-        BoxContent rest = *std::exchange(longest.content, nullptr);
-        rest.bar.clear();
-        rest.rows = {{{}, "see overleaf", {}, {Ink::Dim}}};
-        const BoxSetter setter(maker_.setter(), attempt.type, nullptr);
-        const kneeboard::SetBox box = setter.Set(rest, attempt.columnWidth);
-        longest.box = Assembled(box, 0, box.rows.size());
+      for (double missing = 1; missing > 0;) {
+        missing = HeightOf(*column, attempt.Space()) - attempt.body.height;
+        BesideBox* moved = nullptr;
+        for (BesideBox& each : *column) {
+          if (missing <= 0 || each.content == nullptr) continue;
+          const auto rank = [&](const BesideBox& box) {
+            const double made = box.box.height - StubOf(*box.content, attempt).height;
+            return made >= missing ? 1e6 - made : made;
+          };
+          if (moved == nullptr || rank(each) > rank(*moved)) moved = &each;
+        }
+        if (moved == nullptr) break;
+        overleaf.push_back(*moved->content);
+        moved->box = StubOf(*std::exchange(moved->content, nullptr), attempt);
       }
     }
+  }
+
+  [[nodiscard]] Sheet StubOf(const BoxContent& content, const Attempt& attempt) const {
+    BoxContent stub = content;
+    stub.bar.clear();
+    stub.rows = {{{}, "see overleaf", {}, {Ink::Dim}}};
+    const BoxSetter setter(maker_.setter(), attempt.type, nullptr);
+    const kneeboard::SetBox box = setter.Set(stub, attempt.columnWidth);
+    return Assembled(box, 0, box.rows.size());
   }
 
   void Put(Sheet& onto, Attempt& attempt, const Sheet& below) const {
@@ -182,6 +217,22 @@ class DeviceSheet {
     });
   }
 
+  /// Boxes for which a column has room below those of the controls. They are taken out of `boxes`.
+  void PutBeside(Attempt& attempt, std::vector<BoxContent>& boxes) const {
+    const BoxSetter setter(maker_.setter(), attempt.type, nullptr);
+    std::erase_if(boxes, [&](const BoxContent& content) {
+      const kneeboard::SetBox box = setter.Set(content, attempt.columnWidth);
+      Sheet sheet = Assembled(box, 0, box.rows.size());
+      const double left = HeightOf(attempt.left, attempt.Space());
+      const double right = HeightOf(attempt.right, attempt.Space());
+      if (std::min(left, right) + attempt.Space() + sheet.height > attempt.body.height) return false;
+      BesideBox beside;
+      beside.box = std::move(sheet);
+      (left < right ? attempt.left : attempt.right).push_back(std::move(beside));
+      return true;
+    });
+  }
+
   [[nodiscard]] Spot OnSheet(const Attempt& attempt, Spot spot) const {
     const double scale = attempt.drawing.width / part_.width;
     return {attempt.drawing.x + (spot.x - part_.x) * scale, attempt.drawing.y + (spot.y - part_.y) * scale};
@@ -195,16 +246,17 @@ class DeviceSheet {
     const bool isLeft = x < attempt.drawing.x;
     for (const BesideBox& each : column) {
       Place(onto, each.box, {x, each.y});
+      if (each.leader.empty()) continue;
       const double edge = isLeft ? x + attempt.columnWidth : x;
-      onto.lines.push_back(LeaderFrom(each, edge, isLeft ? attempt.channel : -attempt.channel));
+      onto.lines.push_back(LeaderFrom(each, edge, isLeft ? attempt.channel : -attempt.channel, attempt.type));
     }
   }
 
   /// Level from the box into the channel between it and the drawing, across that, and level on.
-  static Line LeaderFrom(const BesideBox& each, double edge, double channel) {
+  static Line LeaderFrom(const BesideBox& each, double edge, double channel, double type) {
     const double inset = std::min(1.2, each.box.height / 2);
     const double from = std::clamp(each.Entry(), each.y + inset, each.y + each.box.height - inset);
-    Line line = {{{edge, from}}, kLeaderWidth, {Ink::Accent}, LineKind::Leader};
+    Line line = {{{edge, from}}, type * kLeaderWidth, {Ink::Accent}, LineKind::Leader};
     if (std::abs(from - each.Entry()) > 0.01) {
       line.corners.push_back({edge + channel * 0.2, from});
       line.corners.push_back({edge + channel, each.Entry()});

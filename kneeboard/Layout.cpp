@@ -21,16 +21,19 @@ constexpr std::pair<char, const char*> kManners[] = {
     {'Q', "/Q without a first delay"},
 };
 
-/// The signs and letters that the devices need.
-Legend LegendOf(const Contents& contents, const Options& options) {
+/// The signs and letters that the devices need. On pages of single layers these have no signs.
+Legend LegendOf(const Contents& contents, const Options& options, Layers layers) {
   std::set<Sign> signs;
   std::set<char> letters;
+  const auto put = [&](const Layer& layer) {
+    if (layers == Layers::Together) signs.insert({SignOf(layer.dogfight), SignOf(layer.shift)});
+  };
   for (const DevicePage& device : contents.devices) {
-    for (const Scale& scale : device.scales)
-      signs.insert({SignOf(scale.layer.dogfight), SignOf(scale.layer.shift)});
+    for (const Scale& scale : device.scales) put(scale.layer);
     for (const Control& control : device.controls) {
       for (const Action& action : control.actions) {
-        signs.insert({SignOf(action.layer.dogfight), SignOf(action.layer.shift), SignOf(action.moment)});
+        put(action.layer);
+        signs.insert(SignOf(action.moment));
         letters.insert(action.manner.begin(), action.manner.end());
       }
     }
@@ -53,14 +56,15 @@ class Kneeboard {
         options_(options),
         plans_(plans),
         maker_(maker),
-        legend_(LegendOf(contents, options)) {}
+        legend_(LegendOf(contents, options, options.layers)) {}
 
   std::vector<Page> Pages() {
     if (options_.hasDevices) PutDevices();
     if (options_.hasKeyboard && !contents_.keys.empty()) Take(KeyboardPagesOf(contents_, maker_));
     const bool hasContents =
         !contents_.devices.empty() || !contents_.flags.empty() || !contents_.facts.empty();
-    if (options_.hasList && hasContents) Take(ListPagesOf(contents_, options_, maker_, legend_));
+    if (options_.hasList && hasContents)
+      Take(ListPagesOf(contents_, options_, maker_, LegendOf(contents_, options_, Layers::Together)));
     if (pages_.empty()) pages_.push_back(maker_.Begin({"Nothing to show", {}}, {}));
     maker_.PutNumbers(pages_);
     return std::move(pages_);
@@ -81,20 +85,14 @@ class Kneeboard {
       for (const Layer& layer : LayersOf(device)) PutDevice(device, layer, more);
     }
     if (more.empty()) return;
-    Flow flow(maker_, {"Flags and settings", {}}, {});
-    for (const BoxContent& box : more) flow.Add(box);
-    Take(flow.Finish());
+    Take(FlowPages(maker_, {"Flags and settings", {}}, {}, more));
   }
 
   void PutDevice(const DevicePage& device, const std::optional<Layer>& layer, std::vector<BoxContent>& more) {
     const DrawingPlan* plan = plans_.Find(device.drawing);
     const PageHead head = {device.title, layer ? NameOf(*layer) : ""};
     std::vector<BoxContent> boxes = BoxesOf(device, layer, options_);
-    if (plan == nullptr) {
-      Flow flow(maker_, head, legend_);
-      for (const BoxContent& box : boxes) flow.Add(box);
-      return Take(flow.Finish());
-    }
+    if (plan == nullptr) return Take(FlowPages(maker_, head, legend_, boxes));
     DeviceSubject subject = {*plan, device.drawing, HiddenIn(device, *plan)};
     for (BoxContent& box : boxes) {
       const bool isDrawn =
@@ -159,6 +157,7 @@ std::vector<Sheet> SheetsOf(const Contents& contents, const Options& options, co
   const std::vector<Page> pages = Kneeboard(contents, options, plans, maker).Pages();
   if (options.twoOnASheet) return InPairs(pages, paper);
   std::vector<Sheet> sheets;
+  sheets.reserve(pages.size());
   for (const Page& page : pages) sheets.push_back(page.sheet);
   return sheets;
 }

@@ -1,6 +1,7 @@
 #include "kneeboard/ListSheet.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "kneeboard/DeviceBoxes.h"
 
@@ -57,13 +58,11 @@ std::vector<BoxContent> ByHeading(const Contents& contents, const Options& optio
 std::vector<Page> ListPagesOf(const Contents& contents, const Options& options, const PageMaker& maker,
                               const Legend& legend) {
   const bool isByControl = options.order == ListOrder::ByControl;
-  Flow flow(maker, {"List", isByControl ? "By control" : "By heading"}, legend);
-  for (const BoxContent& box : (isByControl ? ByControl : ByHeading)(contents, options)) flow.Add(box);
-  for (const DevicePage& device : contents.devices) {
-    for (const BoxContent& box : ScaleBoxesOf(device, options)) flow.Add(box);
-  }
-  for (const BoxContent& box : FileBoxesOf(contents, options)) flow.Add(box);
-  return flow.Finish();
+  std::vector<BoxContent> boxes = (isByControl ? ByControl : ByHeading)(contents, options);
+  for (const DevicePage& device : contents.devices)
+    std::ranges::move(ScaleBoxesOf(device, options), std::back_inserter(boxes));
+  std::ranges::move(FileBoxesOf(contents, options), std::back_inserter(boxes));
+  return FlowPages(maker, {"List", isByControl ? "By control" : "By heading"}, legend, boxes);
 }
 
 }  // namespace tarvik::kneeboard

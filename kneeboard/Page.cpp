@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 #include "kneeboard/Layout.h"
 
@@ -12,14 +11,12 @@ namespace {
 constexpr double kRuleWidth = 0.35;
 /// The sides of a page for which sizes of type are told.
 constexpr double kUsualPage = 210.0 * 297;
-/// Columns are at least as wide as this many times the size of type.
-constexpr double kColumn = 9.2;
 
 std::string Joined(const std::vector<std::string>& parts) {
   std::string all;
   for (const std::string& part : parts) {
     if (part.empty()) continue;
-    all.append(all.empty() ? "" : "  ·  ").append(part);
+    all.append(all.empty() ? "" : " · ").append(part);
   }
   return all;
 }
@@ -27,10 +24,6 @@ std::string Joined(const std::vector<std::string>& parts) {
 std::string ProblemsIn(std::size_t problems) {
   if (problems == 0) return {};
   return std::to_string(problems) + (problems == 1 ? " problem" : " problems") + " in the files";
-}
-
-void PutRule(Sheet& onto, double from, double to, double y, Colour colour) {
-  onto.lines.push_back({{{from, y}, {to, y}}, kRuleWidth, colour});
 }
 
 }  // namespace
@@ -56,6 +49,10 @@ double PageMaker::PutFitted(Sheet& onto, const std::string& text, Area where, St
   return y;
 }
 
+void PageMaker::PutRule(Sheet& onto, double y, Colour colour) const {
+  onto.lines.push_back({{{margin_, y}, {size_.x - margin_, y}}, kRuleWidth * factor_, colour});
+}
+
 double PageMaker::PutHead(Sheet& onto, const PageHead& head) const {
   const double wide = size_.x - 2 * margin_;
   const Area left = {margin_, margin_, wide * 0.48, 0};
@@ -70,7 +67,7 @@ double PageMaker::PutHead(Sheet& onto, const PageHead& head) const {
   double end = PutFitted(onto, head.second, {left.x, middle, left.width, 0}, second, Side::Left);
   end = std::max(end, PutFitted(onto, about, {right.x, middle, right.width, 0}, second, Side::Right));
   end += 0.25 * second.size * kPoint;
-  PutRule(onto, margin_, size_.x - margin_, end, {Ink::Accent});
+  PutRule(onto, end, {Ink::Accent});
   return end + 0.7 * second.size * kPoint;
 }
 
@@ -108,7 +105,7 @@ double PageMaker::PutFoot(Page& page, const Legend& legend) const {
   const double top = last - signs.height;
   Place(page.sheet, signs, {margin_, top});
   const double rule = top - 0.25 * style.size * kPoint;
-  PutRule(page.sheet, margin_, size_.x - margin_, rule, {Ink::Rule});
+  PutRule(page.sheet, rule, {Ink::Rule});
   return rule - 0.7 * style.size * kPoint;
 }
 
@@ -127,70 +124,6 @@ void PageMaker::PutNumbers(std::vector<Page>& pages) const {
     const std::string number = std::to_string(i + 1) + " / " + std::to_string(pages.size());
     const Spot right = pages[i].number;
     PutWords(pages[i].sheet, setter_, number, {right.x - setter_.Width(number, style), right.y}, style);
-  }
-}
-
-Flow::Flow(const PageMaker& maker, PageHead head, Legend legend, const Sheet& first)
-    : maker_(maker), head_(std::move(head)), legend_(std::move(legend)), type_(maker.Sized(8)) {
-  BeginPage();
-  if (first.height <= 0) return;
-  Place(page().sheet, first, {page().body.x, page().body.y});
-  top_ = y_ = page().body.y + first.height + SpaceBetween(type_);
-}
-
-void Flow::BeginPage() {
-  pages_.push_back(maker_.Begin(head_, legend_));
-  columns_ = std::max(1, static_cast<int>(page().body.width / (type_ * kColumn)));
-  const double between = SpaceBetween(type_);
-  width_ = (page().body.width - (columns_ - 1) * between) / columns_;
-  column_ = 0;
-  top_ = y_ = page().body.y;
-}
-
-void Flow::NextColumn() {
-  if (++column_ == columns_) return BeginPage();
-  y_ = top_;
-}
-
-std::size_t Flow::RowsThatFit(const SetBox& box, std::size_t first) const {
-  double height = box.head.height + box.padding;
-  std::size_t last = first;
-  while (last < box.rows.size() && height + box.rows[last].height <= Left())
-    height += box.rows[last++].height;
-  return last - first;
-}
-
-void Flow::Put(const SetBox& box, std::size_t first, std::size_t last) {
-  const Sheet sheet = Assembled(box, first, last);
-  Place(page().sheet, sheet, {page().body.x + column_ * (width_ + SpaceBetween(type_)), y_});
-  y_ += sheet.height + SpaceBetween(type_);
-}
-
-void Flow::Add(const BoxContent& content) {
-  const SetBox box = BoxSetter(maker_.setter(), type_, nullptr).Set(content, width_);
-  if (box.rows.empty()) {
-    if (box.Height() > Left()) NextColumn();
-    return Put(box, 0, 0);
-  }
-  constexpr std::size_t kFewest = 2;
-  std::size_t first = 0;
-  int tries = 0;
-  while (first < box.rows.size()) {
-    const std::size_t fit = RowsThatFit(box, first);
-    const bool isEnough = fit >= std::min(kFewest, box.rows.size() - first);
-    if (!isEnough && y_ > top_) {
-      NextColumn();
-      continue;
-    }
-    if (fit == 0 && tries++ == 0) {
-      BeginPage();  // below what stands above the columns of the first page there may be too little room
-      continue;
-    }
-    const std::size_t last = first + std::max<std::size_t>(1, fit);
-    Put(box, first, last);
-    tries = 0;
-    if (last < box.rows.size()) NextColumn();
-    first = last;
   }
 }
 

@@ -45,6 +45,7 @@ class PageMaker {
   enum class Side { Left, Right };
   /// In as many lines as it needs; says where the next one begins.
   double PutFitted(Sheet& onto, const std::string& text, Area where, Style style, Side side) const;
+  void PutRule(Sheet& onto, double y, Colour colour) const;
   double PutHead(Sheet& onto, const PageHead& head) const;
   [[nodiscard]] Sheet LegendOf(const Legend& legend) const;
   /// Says where it begins.
@@ -59,36 +60,10 @@ class PageMaker {
 };
 
 /// Boxes below each other, column by column and page by page. A box that is too long goes on in the next
-/// column.
-class Flow {
- public:
-  /// `first` stands above the columns of the first page.
-  Flow(const PageMaker& maker, PageHead head, Legend legend, const Sheet& first = {});
-
-  void Add(const BoxContent& content);
-  [[nodiscard]] std::vector<Page> Finish() { return std::move(pages_); }
-
- private:
-  void BeginPage();
-  void NextColumn();
-  [[nodiscard]] double Left() const { return page().body.Bottom() - y_; }
-  [[nodiscard]] Page& page() { return pages_.back(); }
-  [[nodiscard]] const Page& page() const { return pages_.back(); }
-  /// How many rows from `first` on go into what is left of the column.
-  [[nodiscard]] std::size_t RowsThatFit(const SetBox& box, std::size_t first) const;
-  void Put(const SetBox& box, std::size_t first, std::size_t last);
-
-  const PageMaker& maker_;
-  PageHead head_;
-  Legend legend_;
-  double type_;
-  std::vector<Page> pages_;
-  double width_ = 0;  ///< of a column
-  double top_ = 0;
-  double y_ = 0;
-  int column_ = 0;
-  int columns_ = 1;
-};
+/// column. `first` stands above the columns of the first page. What goes on one page has columns of about the
+/// same height.
+[[nodiscard]] std::vector<Page> FlowPages(const PageMaker& maker, const PageHead& head, const Legend& legend,
+                                          const std::vector<BoxContent>& boxes, const Sheet& first = {});
 
 /// Between boxes, columns and the drawing, for that size of type.
 [[nodiscard]] constexpr double SpaceBetween(double type) { return type * 0.7 * kPoint; }

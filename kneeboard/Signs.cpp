@@ -113,11 +113,11 @@ Sign SignOf(char position) {
 std::string_view MeaningOf(Sign sign) {
   switch (sign) {
     case Sign::SwitchUp:
-      return "dogfight switch up";
+      return "dogfight up";
     case Sign::SwitchMiddle:
-      return "in the middle";
+      return "dogfight middle";
     case Sign::SwitchDown:
-      return "down";
+      return "dogfight down";
     case Sign::ShiftIn:
       return "S3 held in";
     case Sign::ShiftOut:

@@ -1,5 +1,6 @@
 #include "screen/kneeboard/DeviceDrawings.h"
 
+#include <QColor>
 #include <QFile>
 #include <QImage>
 #include <QRegularExpression>
@@ -96,13 +97,12 @@ QSvgRenderer& DeviceDrawings::RendererOf(const kneeboard::Drawing& drawing, bool
   return *renderer;
 }
 
-void DeviceDrawings::Paint(QPainter& painter, const kneeboard::Drawing& drawing,
-                           const Palette& palette) const {
-  QSvgRenderer& renderer = RendererOf(drawing, palette.isGrey);
+void DeviceDrawings::Paint(QPainter& painter, const kneeboard::Drawing& drawing, const QRectF& place,
+                           bool isGrey) const {
+  QSvgRenderer& renderer = RendererOf(drawing, isGrey);
   const kneeboard::Area& part = drawing.part;
-  const kneeboard::Area& area = drawing.area;
   renderer.setViewBox(QRectF(part.x, part.y, part.width, part.height));
-  renderer.render(&painter, QRectF(area.x, area.y, area.width, area.height));
+  renderer.render(&painter, place);
 }
 
 }  // namespace tarvik::screen

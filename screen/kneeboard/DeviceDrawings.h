@@ -7,7 +7,6 @@
 #include <memory>
 
 #include "kneeboard/Layout.h"
-#include "screen/kneeboard/Palette.h"
 
 namespace tarvik::screen {
 
@@ -17,8 +16,8 @@ class DeviceDrawings : public kneeboard::DrawingPlans {
 
   [[nodiscard]] const kneeboard::DrawingPlan* Find(const std::string& drawing) const override;
 
-  /// Paints it on a painter whose unit is the millimetre.
-  void Paint(QPainter& painter, const kneeboard::Drawing& drawing, const Palette& palette) const;
+  /// Paints it into that place.
+  void Paint(QPainter& painter, const kneeboard::Drawing& drawing, const QRectF& place, bool isGrey) const;
 
  private:
   using Key = std::pair<QByteArray, bool>;

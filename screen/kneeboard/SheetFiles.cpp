@@ -28,7 +28,7 @@ QString Numbered(const QString& path, std::size_t index, std::size_t all) {
 
 void Paint(QPainter& painter, const PaintedSheets& painted, const kneeboard::Sheet& sheet,
            double unitsPerMillimetre) {
-  painter.scale(unitsPerMillimetre, unitsPerMillimetre);
+  painter.scale(unitsPerMillimetre / kUnits, unitsPerMillimetre / kUnits);
   PaintSheet(painter, sheet, painted.palette, painted.drawings);
 }
 

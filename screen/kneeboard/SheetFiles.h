@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "screen/kneeboard/DeviceDrawings.h"
+#include "screen/kneeboard/Palette.h"
 
 namespace tarvik::screen {
 

@@ -4,10 +4,14 @@
 #include <QPainter>
 
 #include "screen/kneeboard/DeviceDrawings.h"
+#include "screen/kneeboard/Palette.h"
 
 namespace tarvik::screen {
 
-/// On whatever the painter paints, in its units of a millimetre: scale the painter before.
+/// Units of a millimetre in which sheets are painted: Qt makes curves of few units angular.
+inline constexpr int kUnits = 100;
+
+/// On whatever the painter paints: scale the painter before so that it has as many units.
 void PaintSheet(QPainter& painter, const kneeboard::Sheet& sheet, const Palette& palette,
                 const DeviceDrawings& drawings);
 

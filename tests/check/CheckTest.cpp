@@ -10,8 +10,8 @@
 #include <sstream>
 
 #include "check/Arguments.h"
-#include "check/PairFiles.h"
 #include "language/Rules.h"
+#include "pairs/PairFiles.h"
 #include "support/TemporaryFolder.h"
 
 namespace tarvik::check {
@@ -141,23 +141,23 @@ TEST_F(Check, TheMacroFileIsTheOneThatMdefNamesInAnyCase) {
   Put("STRIKE.M50", "Gun = SPC\r\n");
   Put("other.m50", "Flare = f\r\n");
   EXPECT_EQ(Called({Put("other.b50", "MDEF strike\r\nBTN S1 Gun\r\n")}).out, "");
-  EXPECT_EQ(MacroFileOf(Folder() + "/other.b50", "MDEF Strike.m50").filename(), "STRIKE.M50");
-  EXPECT_EQ(MacroFileOf(Folder() + "/other.b50", "").filename(), "other.m50");
-  EXPECT_EQ(MacroFileOf(Folder() + "/other.b50", "MDEF a\nMDEF strike\n").filename(), "STRIKE.M50");
-  EXPECT_EQ(MacroFileOf(Folder() + "/other.adv", "MDEF strike"), fs::path());
+  EXPECT_EQ(pairs::MacroFileOf(Folder() + "/other.b50", "MDEF Strike.m50").filename(), "STRIKE.M50");
+  EXPECT_EQ(pairs::MacroFileOf(Folder() + "/other.b50", "").filename(), "other.m50");
+  EXPECT_EQ(pairs::MacroFileOf(Folder() + "/other.b50", "MDEF a\nMDEF strike\n").filename(), "STRIKE.M50");
+  EXPECT_EQ(pairs::MacroFileOf(Folder() + "/other.adv", "MDEF strike"), fs::path());
 }
 
 TEST_F(Check, OfNamesThatDifferInCaseTheFirstIsTaken) {
   for (const char* name : {"b.m50", "a.M50", "A.m50", "A.M50", "a.m50"}) Put(name, "");
-  EXPECT_EQ(MacroFileOf(Folder() + "/c.b50", "MDEF a").filename(), "A.M50");
+  EXPECT_EQ(pairs::MacroFileOf(Folder() + "/c.b50", "MDEF a").filename(), "A.M50");
   fs::remove(Folder() + "/A.M50");
-  EXPECT_EQ(MacroFileOf(Folder() + "/c.b50", "MDEF a").filename(), "A.m50");
+  EXPECT_EQ(pairs::MacroFileOf(Folder() + "/c.b50", "MDEF a").filename(), "A.m50");
 }
 
 TEST_F(Check, NoMacroFileIsFoundOutsideTheFolder) {
   Put("gun.m50", "Gun = SPC\r\n");
   Put("deep/a.b50", "MDEF ../gun\r\nBTN S1 Gun\r\n");
-  EXPECT_EQ(MacroFileOf(Folder() + "/deep/a.b50", "MDEF ../gun\r\n"), fs::path());
+  EXPECT_EQ(pairs::MacroFileOf(Folder() + "/deep/a.b50", "MDEF ../gun\r\n"), fs::path());
   EXPECT_THAT(Called({Folder() + "/deep/a.b50"}).out, HasSubstr("[macro-file-missing]"));
 }
 

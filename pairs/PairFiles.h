@@ -7,7 +7,7 @@
 
 #include "platform/Outcome.h"
 
-namespace tarvik::check {
+namespace tarvik::pairs {
 
 /// What a file is by its ending, in either case.
 enum class Role { Joystick, Macros, None };
@@ -23,4 +23,4 @@ enum class Role { Joystick, Macros, None };
 /// The joystick and macro files in a folder and those below it, sorted.
 [[nodiscard]] Outcome<std::vector<std::filesystem::path>> FilesIn(const std::filesystem::path& folder);
 
-}  // namespace tarvik::check
+}  // namespace tarvik::pairs

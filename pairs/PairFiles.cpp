@@ -1,4 +1,4 @@
-#include "check/PairFiles.h"
+#include "pairs/PairFiles.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -12,7 +12,7 @@
 #include "platform/Descriptor.h"
 #include "text/Encoding.h"
 
-namespace tarvik::check {
+namespace tarvik::pairs {
 namespace {
 
 namespace fs = std::filesystem;
@@ -96,4 +96,4 @@ Outcome<std::vector<fs::path>> FilesIn(const fs::path& folder) {
   return files;
 }
 
-}  // namespace tarvik::check
+}  // namespace tarvik::pairs
