@@ -87,6 +87,7 @@ QString WriteSvg(const PaintedSheets& painted, const QString& path) {
     generator.setSize((SizeOf(sheet) * kSvgScale).toSize());
     generator.setViewBox(QRectF(QPointF(), SizeOf(sheet) * kSvgScale));
     QPainter painter(&generator);
+    painter.fillRect(generator.viewBoxF(), painted.palette.Of({kneeboard::Ink::Paper}));
     Paint(painter, painted, sheet, kSvgScale);
   });
 }

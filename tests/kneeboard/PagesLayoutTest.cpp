@@ -128,6 +128,14 @@ TEST(PagesLayout, KeysStandForWordsThatThereAreNot) {
               Contains("CTL g"));
 }
 
+TEST(PagesLayout, WordsOfTheCodePageCanBePainted) {
+  Contents contents = StickWith({Button("S1", "BTN-0", {Does("H\xF6he halten", {}, "\xE4")})});
+  contents.title.title =
+      "\xDC"
+      "bung";
+  EXPECT_THAT(WordsOn(Laid(contents)), AllOf(Contains("Höhe halten"), Contains("ä"), Contains("Übung")));
+}
+
 TEST(PagesLayout, WordsThatNoBoxCanHoldAreANoteAtTheFoot) {
   std::string all;
   for (int i = 0; i < 60; ++i) all.append("word").append(std::to_string(i)).append(" ");

@@ -82,8 +82,13 @@ TEST_F(SheetFiles, AnSvgIsWrittenForEachSheet) {
   ASSERT_GT(sheets_.size(), 1U);
   ASSERT_EQ(WriteSvg(Painted(), Path("board.svg")), QString());
   EXPECT_EQ(static_cast<std::size_t>(Names().size()), sheets_.size());
-  const QSvgRenderer renderer(Path("board-1.svg"));
+  QSvgRenderer renderer(Path("board-1.svg"));
   EXPECT_TRUE(renderer.isValid());
+  QImage image(210, 297, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  renderer.render(&painter);
+  EXPECT_EQ(image.pixel(2, 2), qRgb(255, 255, 255)) << "on any ground it is as on paper";
   EXPECT_NEAR(renderer.viewBoxF().width() / renderer.viewBoxF().height(), 210.0 / 297, 0.001);
   QFile file(Path("board-1.svg"));
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
