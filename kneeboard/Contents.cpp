@@ -68,8 +68,7 @@ class DeviceWriter {
       AddHat(page, row, label);
     } else if (row.array == "TRIG") {
       for (const std::string_view name : tables::kTriggers) {
-        AddControl(page, name, Said({row.place, name == "TG1" ? ", first stage" : ", second stage"}), label,
-                   0);
+        AddControl(page, name, std::string(row.place), label, 0);
       }
     } else if (row.array == "ROTARY") {
       AddRotary(page, row, label);

@@ -35,8 +35,8 @@ class SheetCanvas : public QWidget {
     const kneeboard::Sheet& sheet = form_.Sheet();
     QPainter painter(this);
     painter.translate(kDesk, kDesk);
-    painter.scale(scale_, scale_);
-    painter.fillRect(QRectF(0, 0, sheet.width, sheet.height), Qt::white);
+    painter.fillRect(QRectF(0, 0, sheet.width * scale_, sheet.height * scale_), Qt::white);
+    painter.scale(scale_ / kUnits, scale_ / kUnits);
     PaintSheet(painter, sheet, Palette::Of(form_.Colouring()), drawings_);
   }
 

@@ -36,6 +36,7 @@ Outcome<> QtPress::Print(const kneeboard::Job& job) {
   for (const kneeboard::Sheet& sheet : job.sheets) sizes.emplace_back(sheet.width, sheet.height);
   const Palette palette = Palette::Of(job.colouring);
   return printer_.PrintPages(sizes, [&](QPainter& painter, std::size_t page) {
+    painter.scale(1.0 / kUnits, 1.0 / kUnits);
     PaintSheet(painter, job.sheets[page], palette, drawings_);
   });
 }
