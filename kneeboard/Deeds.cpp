@@ -13,8 +13,7 @@ using model::Item;
 using model::ItemKind;
 using model::Said;
 
-/// Macros in macros are followed so deep, and no more keys of one deed are told.
-constexpr int kDeepest = 8;
+/// No more keys of one deed are told.
 constexpr std::size_t kMostKeys = 12;
 
 bool IsCapital(char letter) { return letter >= 'A' && letter <= 'Z'; }
@@ -128,48 +127,55 @@ const model::Sequence* DeedWriter::SequenceOf(const model::MacroNames& macro, st
   return definition == nullptr ? nullptr : std::get_if<model::Sequence>(&definition->sends);
 }
 
+std::vector<PressedKey> DeedWriter::KeysAt(std::string_view lines, std::span<const Item> items,
+                                           std::size_t at) const {
+  const std::string_view word = model::In(lines, items[at].range);
+  std::vector<PressedKey> keys;
+  if (items[at].kind == ItemKind::Raw) {
+    for (const std::string_view key : model::KeysPressedBy(lines, items[at]))
+      keys.push_back({{}, std::string(key)});
+  }
+  const std::string with = HeldWith(lines, items, at);
+  if (items[at].kind != ItemKind::Key || (with.empty() && speaker_.IsNullSign(word))) return keys;
+  PressedKey key = KeyOf(word);
+  const bool hasBoth = !with.empty() && !key.with.empty() && with.find(key.with) == std::string::npos;
+  if (!with.empty()) key.with = hasBoth ? Said({with, " ", key.with}) : with;
+  keys.push_back(std::move(key));
+  return keys;
+}
+
 std::vector<PressedKey> DeedWriter::KeysIn(std::string_view lines, std::span<const Item> items) const {
   std::vector<PressedKey> keys;
   for (std::size_t i = 0; i < items.size(); ++i) {
-    const std::string_view word = model::In(lines, items[i].range);
-    if (items[i].kind == ItemKind::Raw) {
-      for (const std::string_view key : model::KeysPressedBy(lines, items[i]))
-        keys.push_back({{}, std::string(key)});
-    }
-    if (items[i].kind != ItemKind::Key || speaker_.IsNullSign(word)) continue;
-    PressedKey key = KeyOf(word);
-    const std::string with = HeldWith(lines, items, i);
-    if (!with.empty())
-      key.with = key.with.empty() || with.find("SHF") != std::string::npos ? with : with + " " + key.with;
-    keys.push_back(std::move(key));
+    for (PressedKey& key : KeysAt(lines, items, i)) keys.push_back(std::move(key));
   }
   return keys;
 }
 
-void DeedWriter::AddKeysOf(std::string_view lines, const model::Sequence& sequence, int depth,
+void DeedWriter::AddKeysOf(std::string_view lines, const model::Sequence& sequence, Chain& open,
                            std::vector<std::string>& keys) const {
-  for (std::size_t i = 0; i < sequence.items.size() && keys.size() <= kMostKeys; ++i) {
-    const Item& item = sequence.items[i];
-    if (item.kind == ItemKind::Name) {
-      const model::MacroNames* const inner = speaker_.Names().FindMacro(model::In(lines, item.range));
-      if (inner) AddKeysOf(*inner, depth + 1, keys);
-    } else if (item.kind == ItemKind::Key || item.kind == ItemKind::Raw) {
-      const std::span<const Item> before = std::span(sequence.items).first(i + 1);
-      const std::size_t first = item.kind == ItemKind::Raw ? i : i - std::min(i, std::size_t{3});
-      const auto pressed = KeysIn(lines, before.subspan(first));
-      if (item.kind == ItemKind::Key && !pressed.empty()) keys.push_back(Shown(pressed.back()));
-      if (item.kind == ItemKind::Raw) {
-        for (const PressedKey& key : pressed) keys.push_back(Shown(key));
-      }
+  const std::span<const Item> items = sequence.items;
+  for (std::size_t i = 0; i < items.size() && keys.size() <= kMostKeys; ++i) {
+    if (items[i].kind == ItemKind::Name) {
+      const model::MacroNames* const inner = speaker_.Names().FindMacro(model::In(lines, items[i].range));
+      if (inner) AddKeysOf(*inner, open, keys);
+    } else {
+      for (const PressedKey& key : KeysAt(lines, items, i)) keys.push_back(Shown(key));
     }
   }
-  for (const model::Branch& branch : sequence.branches) AddKeysOf(lines, branch.sequence, depth, keys);
+  for (const model::Branch& branch : sequence.branches) AddKeysOf(lines, branch.sequence, open, keys);
 }
 
-void DeedWriter::AddKeysOf(const model::MacroNames& macro, int depth, std::vector<std::string>& keys) const {
+/// A macro in itself adds nothing.
+void DeedWriter::AddKeysOf(const model::MacroNames& macro, Chain& open,
+                           std::vector<std::string>& keys) const {
   std::string_view lines;
-  const model::Sequence* const sequence = depth > kDeepest ? nullptr : SequenceOf(macro, lines);
-  if (sequence) AddKeysOf(lines, *sequence, depth, keys);
+  const bool isOpen = std::ranges::find(open, &macro) != open.end();
+  const model::Sequence* const sequence = isOpen ? nullptr : SequenceOf(macro, lines);
+  if (!sequence) return;
+  open.push_back(&macro);
+  AddKeysOf(lines, *sequence, open, keys);
+  open.pop_back();
 }
 
 void DeedWriter::TakeName(std::string_view word, Pieces& pieces) const {
@@ -181,7 +187,8 @@ void DeedWriter::TakeName(std::string_view word, Pieces& pieces) const {
   }
   pieces.words.push_back(WordsOf(*macro));
   pieces.hasNames = true;
-  AddKeysOf(*macro, 0, pieces.keys);
+  Chain open;
+  AddKeysOf(*macro, open, pieces.keys);
   if (pieces.heading.empty()) pieces.heading = HeadingOf(*macro);
 }
 
@@ -194,14 +201,14 @@ void DeedWriter::Take(std::string_view lines, std::span<const Item> items, std::
     case ItemKind::Name:
       return TakeName(word, pieces);
     case ItemKind::Key: {
-      const PressedKey key = KeysIn(lines, items.first(at + 1)).back();
+      const PressedKey key = KeysAt(lines, items, at).back();
       pieces.words.push_back(InWords(key.with) + model::KeyInWords(key.key));
       pieces.keys.push_back(Shown(key));
       return;
     }
     case ItemKind::Raw:
       for (std::string& code : model::CodesInWords(lines, item)) pieces.words.push_back(std::move(code));
-      for (const PressedKey& key : KeysIn(lines, items.subspan(at, 1))) pieces.keys.push_back(Shown(key));
+      for (const PressedKey& key : KeysAt(lines, items, at)) pieces.keys.push_back(Shown(key));
       return;
     case ItemKind::Repeat:
       if (item.number) pieces.words.push_back(Said({std::to_string(*item.number), " times:"}));

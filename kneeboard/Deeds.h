@@ -42,6 +42,9 @@ class DeedWriter {
   [[nodiscard]] const model::Speaker& speaker() const { return speaker_; }
 
  private:
+  /// Those of one item.
+  [[nodiscard]] std::vector<PressedKey> KeysAt(std::string_view lines, std::span<const model::Item> items,
+                                               std::size_t at) const;
   struct Pieces {
     std::vector<std::string> words = {};
     std::vector<std::string> keys = {};
@@ -51,9 +54,11 @@ class DeedWriter {
 
   void Take(std::string_view lines, std::span<const model::Item> items, std::size_t at, Pieces& pieces) const;
   void TakeName(std::string_view word, Pieces& pieces) const;
+  /// Those that stand in one another.
+  using Chain = std::vector<const model::MacroNames*>;
   /// All keys of a macro and of those in it.
-  void AddKeysOf(const model::MacroNames& macro, int depth, std::vector<std::string>& keys) const;
-  void AddKeysOf(std::string_view lines, const model::Sequence& sequence, int depth,
+  void AddKeysOf(const model::MacroNames& macro, Chain& open, std::vector<std::string>& keys) const;
+  void AddKeysOf(std::string_view lines, const model::Sequence& sequence, Chain& open,
                  std::vector<std::string>& keys) const;
 
   model::Speaker speaker_;

@@ -47,19 +47,24 @@ void Take(std::string_view words, TitleBlock& title) {
   }
 }
 
-/// The remarks before the first statement.
+/// The remarks before the first statement. Words that are ruled off and say nothing of who or when are a
+/// heading.
 template <class File>
 TitleBlock TitleOf(const File& file, std::string_view text) {
   TitleBlock title;
+  bool isRuledOff = false;
   for (std::size_t i = 0; i < file.size(); ++i) {
     const auto* remark = std::get_if<model::Remark>(&file[i].body);
     if (remark != nullptr) {
-      Take(WordsOf(model::In(file.LinesOf(i, text), remark->comment)), title);
+      const std::string_view words = WordsOf(model::In(file.LinesOf(i, text), remark->comment));
+      isRuledOff = isRuledOff || (words.empty() && title.title.empty());
+      Take(words, title);
     } else if (!std::holds_alternative<model::Blank>(file[i].body) || !title.title.empty()) {
       break;  // the title ends at the first blank line below it
     }
   }
-  return title;
+  const bool isHeading = isRuledOff && title.game.empty() && title.author.empty() && title.date.empty();
+  return isHeading ? TitleBlock() : title;
 }
 
 }  // namespace

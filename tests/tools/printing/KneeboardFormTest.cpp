@@ -1,0 +1,91 @@
+// The kneeboard's window without a screen: where its pages go, and where they lead.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/Program.h"
+#include "tools/printing/KneeboardForm.h"
+
+namespace tarvik {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class KneeboardFormTest : public testing::Test {
+ protected:
+  KneeboardFormTest() {
+    Workbench& bench = program.application.workbench;
+    bench.documents.joystickText.SetContent(RichText("BTN S2 x\r\nBTN S1 Gear_Toggle\r\n"));
+    bench.documents.macroText.SetContent(RichText("Gear_Toggle = CTL g\r\n"));
+    program.application.Show(ToolId::Kneeboard);
+  }
+
+  [[nodiscard]] KneeboardForm& form() { return program.application.Tool<KneeboardForm>(); }
+  void Choose(const std::string& path) { program.outside.dialogs.choices = {path}; }
+  [[nodiscard]] std::string Status() { return program.application.mum().StatusBar.Panels(1).Text; }
+
+  Program program;
+};
+
+TEST_F(KneeboardFormTest, ThePageIsReadOutInWords) {
+  EXPECT_THAT(form().Page.Caption.Get(), HasSubstr("Gear toggle"));
+}
+
+TEST_F(KneeboardFormTest, AllPagesGoToTheFileThatIsChosen) {
+  program.files().PutFolder("c:\\my");
+  Choose("c:\\my\\board.PDF");
+  form().SaveAs_Click();
+  ASSERT_EQ(program.press.wanted.size(), 1u);
+  EXPECT_THAT(program.press.wanted[0], HasSubstr("board.PDF"));
+  EXPECT_GT(program.press.jobs[0].sheets.size(), 1u);
+}
+
+TEST_F(KneeboardFormTest, WhatCannotBeWrittenIsTold) {
+  program.press.failure = error::kPathAccess;
+  Choose("c:\\my\\board.pdf");
+  form().SaveAs_Click();
+  EXPECT_THAT(program.application.workbench.errors.ErrorText.Get(), HasSubstr("Scripted failure"));
+}
+
+TEST_F(KneeboardFormTest, PrintingIsSaidAndWhoeverCancelsHearsNothing) {
+  form().Print_Click();
+  program.press.failure = error::kDialogCancelled;
+  form().Print_Click();
+  form().Copy_Click();
+  EXPECT_THAT(program.press.wanted, ElementsAre("print", "print", "copy 1"));
+}
+
+TEST_F(KneeboardFormTest, ColoursAndResolutionGoWithTheJob) {
+  form().BlackAndWhite.Value = 1;
+  form().Resolution.Select(0);
+  form().Print_Click();
+  EXPECT_EQ(program.press.jobs[0].colouring, kneeboard::Colouring::BlackAndWhite);
+  EXPECT_EQ(program.press.jobs[0].dotsPerInch, 100);
+}
+
+TEST_F(KneeboardFormTest, APlaceOnThePageLeadsToItsStatement) {
+  const auto& targets = form().Sheet().targets;
+  const auto leads = [](const kneeboard::Target& target) {
+    return target.source && target.source->statement == 1;
+  };
+  const auto target = std::ranges::find_if(targets, leads);
+  ASSERT_NE(target, targets.end());
+  const kneeboard::Spot middle = target->area.Middle();
+  EXPECT_TRUE(form().LeadsSomewhere(middle));
+  form().GoTo(middle);
+  EXPECT_GE(program.application.workbench.documents.joystickText.SelStart, 10u);
+  EXPECT_FALSE(form().LeadsSomewhere({-5, -5}));
+}
+
+TEST_F(KneeboardFormTest, SettingsThatNobodyWroteDoNoHarm) {
+  Settings& settings = program.application.workbench.settings;
+  settings.KneeboardPaper = 99;
+  settings.KneeboardResolution = -7;
+  settings.KneeboardLayers = 1000;
+  form().List.Value = 0;  // lays the pages anew
+  form().Print_Click();
+  EXPECT_EQ(program.press.jobs[0].dotsPerInch, 100);
+}
+
+}  // namespace
+}  // namespace tarvik
