@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "FilePair.h"
-#include "Names.h"
+#include "language/FilePair.h"
+#include "language/Names.h"
 
 namespace tarvik::kneeboard {
 
