@@ -88,19 +88,6 @@ std::string SignInWords(char sign) {
   return isCapital ? Said({"Shift+", {&sign, 1}}) : std::string(1, isSmall ? ToUpper(sign) : sign);
 }
 
-/// What kKeys has for a code, and the key "m", whose codes stand in each other's place there.
-std::string KeyOfCode(std::uint8_t code, bool extended) {
-  constexpr std::string_view kDigits = "0123456789ABCDEF";
-  std::string make(extended ? "#E0 #" : "#");
-  make.push_back(kDigits[code >> 4U]);
-  make.push_back(kDigits[code & 15U]);
-  for (const KeyRow& row : kKeys) {
-    const bool isExchanged = row.make.starts_with("#F0");
-    if ((isExchanged ? row.breaks : row.make) == make) return KeyInWords(row.name);
-  }
-  return {};
-}
-
 /// Puts the keys of a RAW into words, code by code.
 class CodeWords {
  public:
@@ -114,7 +101,8 @@ class CodeWords {
     } else if (value == kBreak) {
       released_ = true;
     } else {
-      const std::string key = value ? KeyOfCode(*value, extended_) : std::string();
+      const KeyRow* const row = value ? KeyOfCode(*value, extended_) : nullptr;
+      const std::string key = row == nullptr ? std::string() : KeyInWords(row->name);
       if (key.empty()) {
         words_.push_back(Shown(seen_));
       } else {
@@ -150,6 +138,18 @@ class CodeWords {
 };
 
 }  // namespace
+
+const KeyRow* KeyOfCode(std::uint8_t code, bool extended) {
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string make(extended ? "#E0 #" : "#");
+  make.push_back(kDigits[code >> 4U]);
+  make.push_back(kDigits[code & 15U]);
+  for (const KeyRow& row : kKeys) {
+    const bool isExchanged = row.make.starts_with("#F0");
+    if ((isExchanged ? row.breaks : row.make) == make) return &row;
+  }
+  return nullptr;
+}
 
 std::string KeyInWords(std::string_view word) {
   if (word.size() == 1 && codepage::Byte(word.front()) >= ' ') return SignInWords(word.front());

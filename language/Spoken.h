@@ -3,8 +3,14 @@
 
 #include "language/Names.h"
 
+namespace tarvik {
+struct KeyRow;
+}
+
 namespace tarvik::model {
 
+/// What kKeys has for a code, and the key "m", whose codes stand in each other's place there; null for none.
+[[nodiscard]] const KeyRow* KeyOfCode(std::uint8_t code, bool extended);
 /// A key's name in words, as in "keypad +" or "Shift+A"; the word itself in quotation marks for what is no
 /// key's name.
 [[nodiscard]] std::string KeyInWords(std::string_view word);
