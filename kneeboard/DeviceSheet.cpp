@@ -18,8 +18,8 @@ constexpr double kLargestType = 9;
 constexpr double kTypeStep = 0.5;
 /// How much words that are broken or shrink, smaller type and a smaller drawing cost.
 constexpr double kStrainCost = 8;
-constexpr double kTypeCost = 3;
-constexpr double kShareCost = 5;
+constexpr double kTypeCost = 7;
+constexpr double kShareCost = 3;
 /// Notes that need more of a page go overleaf.
 constexpr double kMostNotes = 0.25;
 /// For a size of type of 1.
