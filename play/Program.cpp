@@ -4,6 +4,7 @@
 #include <charconv>
 #include <set>
 
+#include "language/Abilities.h"
 #include "language/ComposerTables.h"
 #include "play/Writer.h"
 #include "text/CodePage.h"
@@ -12,8 +13,8 @@ namespace tarvik::play {
 namespace {
 
 using model::ConditionKind;
-using model::JoystickStatement;
 using model::In;
+using model::JoystickStatement;
 using model::SameWord;
 
 constexpr double kPerCent = 100;
@@ -30,6 +31,9 @@ class Compiler {
       : pair_(pair), program_(program), writer_(pair, program) {}
 
   void Run() {
+    for (const model::Ability& each : model::AllAbilities()) {
+      if (each.kind == model::AbilityKind::Control) Control(each.name);
+    }
     for (const std::string_view name : {"S3", "MT", "TG1", "TG2", "T7", "T8"}) Control(name);
     for (std::size_t i = 0; i < pair_.joystick.size(); ++i) Take(i);
     TellCircles();

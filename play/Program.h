@@ -41,7 +41,7 @@ struct Source {
   model::FileKind file = model::FileKind::Joystick;
   std::uint32_t statement = 0;  ///< of the joystick file, also for what a macro says
   std::int32_t macro = -1;      ///< the statement of the macro file; -1 where there is none
-  Range range = {};      ///< in the whole text of its file
+  Range range = {};             ///< in the whole text of its file
   std::string layer = {};       ///< the modifiers that it stands behind, such as "/U /I"
 };
 

@@ -114,8 +114,7 @@ class Reader {
     const auto control = program_.FindControl(name);
     const bool down = SameWord(does, "down");
     if (!down && !SameWord(does, "up")) return "A control goes down or up: " + std::string(words);
-    // What the files have nothing for sends nothing, but must be a control's name.
-    if (!control) return "The files have nothing for this control: " + std::string(name);
+    if (!control) return "No controller has this control: " + std::string(name);
     step.event = {down ? EventKind::Down : EventKind::Up, *control, 0};
     return {};
   }
@@ -140,7 +139,7 @@ class Player {
     run_.outputs.resize(trace.lines.size() + 1);
   }
 
-  Run Do(const Trace& trace) {
+  Outcomes Do(const Trace& trace) {
     // A file says something of time alone, too.
     Keep(engine_.Step({}, now_));
     for (const TraceStep& step : trace.steps) {
@@ -174,7 +173,7 @@ class Player {
   const Program& program_;
   const PlayedFiles& files_;
   Engine engine_;
-  Run run_;
+  Outcomes run_;
   Time now_ = {};
   std::optional<Time> deadline_;
   std::size_t line_ = 0;
@@ -220,17 +219,17 @@ std::variant<Trace, TraceError> ReadTrace(std::string_view text, const Program& 
   return Reader(program).Read(text);
 }
 
-std::vector<std::string> Run::All() const {
+std::vector<std::string> Outcomes::All() const {
   std::vector<std::string> all;
   for (const auto& each : outputs) all.insert(all.end(), each.begin(), each.end());
   return all;
 }
 
-Run Play(const Trace& trace, const Program& program, const PlayedFiles& files) {
+Outcomes Play(const Trace& trace, const Program& program, const PlayedFiles& files) {
   return Player(trace, program, files).Do(trace);
 }
 
-std::string Printed(const Trace& trace, const Run& run) {
+std::string Printed(const Trace& trace, const Outcomes& run) {
   std::string text;
   for (std::size_t i = 0; i < run.outputs.size(); ++i) {
     if (i < trace.lines.size()) text.append(trace.lines[i]).push_back('\n');

@@ -51,7 +51,7 @@ struct PlayedFiles {
 [[nodiscard]] std::variant<Trace, TraceError> ReadTrace(std::string_view text, const Program& program);
 
 /// What came, by the lines of the trace.
-struct Run {
+struct Outcomes {
   std::vector<std::vector<std::string>> outputs;  ///< one list for each of Trace::lines
   bool keysLeft = false;                          ///< a key was down after the end
 
@@ -59,9 +59,9 @@ struct Run {
 };
 
 /// Plays on for a second after the last line, and lets go of all then.
-[[nodiscard]] Run Play(const Trace& trace, const Program& program, const PlayedFiles& files);
+[[nodiscard]] Outcomes Play(const Trace& trace, const Program& program, const PlayedFiles& files);
 /// The trace with what came below its lines.
-[[nodiscard]] std::string Printed(const Trace& trace, const Run& run);
+[[nodiscard]] std::string Printed(const Trace& trace, const Outcomes& run);
 /// An output as a line: the time in seconds, the control, its layer, the key or button, and the line of the
 /// file.
 [[nodiscard]] std::string Printed(const Output& output, const Program& program, const PlayedFiles& files);

@@ -93,9 +93,7 @@ Entry Writer::Write(const Text& text, const model::Sequence& sequence, std::size
   keyEnd_ = 0;
   work_ = 1;
   Walk(text, sequence, {});
-  if (Here() == begin_) return 0;
-  Add({});
-  return begin_;
+  return Finish();
 }
 
 Entry Writer::WriteKeys(const Text& text, std::span<const Item> items) {
@@ -105,7 +103,13 @@ Entry Writer::WriteKeys(const Text& text, std::span<const Item> items) {
   keyEnd_ = 0;
   work_ = 1;
   WalkItems(text, items, {.named = true});
+  return Finish();
+}
+
+Entry Writer::Finish() {
   if (Here() == begin_) return 0;
+  // What is sent next for the same control does not come in the same moment.
+  Add({OpKind::Wait, 0, 0, 0, program_.timing.gap.count()});
   Add({});
   return begin_;
 }
@@ -216,6 +220,11 @@ void Writer::WalkTurns(const Text& text, std::span<const Branch> turns, const Ma
   }
   for (const Entry end : ends) program_.ops[end].target = Here();
   keyEnd_ = 0;
+  const auto written = std::span(program_.ops).subspan(table);
+  const bool isEmpty = std::ranges::all_of(
+      written, [](const Op& op) { return op.kind == OpKind::Jump || op.kind == OpKind::SameTurn; });
+  // Most turns have nothing for the release.
+  if (!press_ && isEmpty) program_.ops.resize(table - 1);
 }
 
 void Writer::WalkItems(const Text& text, std::span<const Item> items, const Manner& manner) {
@@ -240,8 +249,10 @@ void Writer::WriteRepeated(const Text& text, std::span<const Item> items, const 
     TellCut(text, items[0].range, "So many repetitions would take too long, and some are left out");
   }
   if (times == 0) return;
+  if (times == 1) return WalkItems(text, items.subspan(1), manner);
   const std::int64_t outer = work_;
   work_ *= times;
+  if (items.size() > 1 && items[1].kind != ItemKind::Delay) BeginKey();
   const Entry from = Here();
   Add({OpKind::LoopBegin, 0, 0, 0, times});
   Manner here = manner;
@@ -249,7 +260,7 @@ void Writer::WriteRepeated(const Text& text, std::span<const Item> items, const 
   keyEnd_ = 0;
   WalkItems(text, items.subspan(1), here);
   work_ = outer;
-  if (Here() == from + 1) return program_.ops.pop_back();
+  if (Here() == from + 1) return program_.ops.resize(from);
   if (keyEnd_ == Here()) Add({OpKind::Wait, 0, 0, 0, program_.timing.gap.count()});
   Add({OpKind::LoopEnd, 0, 0, from + 1, 0});
 }

@@ -53,6 +53,7 @@ class Writer {
   void WriteMacro(const Text& text, const model::Item& item, const Manner& manner);
   void WriteDelay(const model::Item& item);
   void WriteRepeated(const Text& text, std::span<const model::Item> items, const Manner& manner);
+  [[nodiscard]] Entry Finish();
   void BeginKey();
   void Add(Op op);
   [[nodiscard]] Entry Here() const { return static_cast<Entry>(program_.ops.size()); }
