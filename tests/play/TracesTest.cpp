@@ -45,14 +45,17 @@ TEST(Traces, AreTheGoldenOnes) {
     const std::string text = model::Read(path);
     const fs::path file = FileOf(path, text);
     ASSERT_TRUE(fs::exists(file)) << path;
-    const Played played(model::Read(file), model::Read(MacrosOf(file)));
+    const std::string joystick = model::Read(file);
+    const std::string macros = model::Read(MacrosOf(file));
+    const Played played(joystick, macros);
+    const PlayedFiles files{file.filename(), joystick, MacrosOf(file).filename(), macros};
     const auto read = ReadTrace(text, played.program);
     ASSERT_TRUE(std::holds_alternative<Trace>(read)) << path << ": " << std::get<TraceError>(read).text;
     const auto& trace = std::get<Trace>(read);
-    const Outcomes run = Play(trace, played.program, played.Files());
+    const Outcomes run = Play(trace, played.program, files);
     EXPECT_FALSE(run.keysLeft) << path;
     const std::string printed = Printed(trace, run);
-    EXPECT_EQ(printed, Printed(trace, Play(trace, played.program, played.Files()))) << path;
+    EXPECT_EQ(printed, Printed(trace, Play(trace, played.program, files))) << path;
     if (std::getenv("TARVIK_PROMOTE") != nullptr) std::ofstream(path, std::ios::binary) << printed;
     EXPECT_EQ(printed, model::Read(path)) << path;
   }
