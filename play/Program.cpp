@@ -25,6 +25,12 @@ std::string Capitals(std::string_view word) {
   return capitals;
 }
 
+/// There are 48 of them.
+bool IsFlag(std::string_view word) {
+  constexpr std::uint32_t kMostFlags = 48;
+  return model::FlagNumber(word).value_or(kMostFlags + 1) <= kMostFlags;
+}
+
 class Compiler {
  public:
   Compiler(const model::FilePair& pair, Program& program)
@@ -65,7 +71,7 @@ class Compiler {
     if (const auto* button = std::get_if<model::Button>(&each.body)) return TakeButton(each, *button, at);
     if (const auto* axis = std::get_if<model::Axis>(&each.body)) return TakeAxis(*axis, at.AsText());
     if (const auto* definition = std::get_if<model::Definition>(&each.body)) {
-      if (definition->flag.length == 0) return;
+      if (!IsFlag(at.Words(definition->flag))) return;
       const std::uint32_t flag = Control(at.Words(definition->flag));
       program_.flags.push_back({flag, TestOf(definition->condition, at)});
     } else if (const auto* port = std::get_if<model::Port>(&each.body)) {
@@ -245,7 +251,8 @@ class Compiler {
     std::size_t flag = 0;
     for (std::size_t i = 0; i < pair_.joystick.size(); ++i) {
       const auto* definition = std::get_if<model::Definition>(&pair_.joystick[i].body);
-      if (definition == nullptr || definition->flag.length == 0) continue;
+      if (definition == nullptr) continue;
+      if (!IsFlag(In(pair_.joystick.LinesOf(i, pair_.joystickText), definition->flag))) continue;
       const FlagProgram& each = program_.flags[flag++];
       std::set<std::uint32_t> seen;
       if (!Reaches(each.test, each.control, seen)) continue;

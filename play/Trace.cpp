@@ -11,8 +11,8 @@ namespace {
 using model::SameWord;
 
 constexpr Time kAfterwards = std::chrono::seconds(1);
-/// A condition that changes every thousandth of a second for an hour, and no more.
-constexpr std::size_t kMostSteps = 4000000;
+/// What is written of a run, though its conditions change every thousandth of a second.
+constexpr std::size_t kMostSteps = 200000;
 constexpr double kPerCent = 100;
 constexpr std::string_view kSwitchPlaces[] = {"up", "middle", "down"};
 

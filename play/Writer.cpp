@@ -16,6 +16,7 @@ using model::SlashGroup;
 
 /// What one press may be written to, and how often its instructions may be done.
 constexpr std::size_t kMostOps = 4096;
+constexpr std::size_t kMostItems = 8192;
 constexpr std::size_t kMostOpsAtAll = 400000;
 constexpr std::int64_t kMostTimes = 10000;
 constexpr int kMostDepth = 40;
@@ -91,6 +92,7 @@ Entry Writer::Write(const Text& text, const model::Sequence& sequence, std::size
   press_ = press;
   begin_ = Here();
   keyEnd_ = 0;
+  walked_ = 0;
   work_ = 1;
   Walk(text, sequence, {});
   return Finish();
@@ -101,6 +103,7 @@ Entry Writer::WriteKeys(const Text& text, std::span<const Item> items) {
   layer_.clear();
   begin_ = Here();
   keyEnd_ = 0;
+  walked_ = 0;
   work_ = 1;
   WalkItems(text, items, {.named = true});
   return Finish();
@@ -231,28 +234,34 @@ void Writer::WalkItems(const Text& text, std::span<const Item> items, const Mann
   held_.clear();
   for (std::size_t i = 0; i < items.size(); ++i) {
     const Item& item = items[i];
-    if (Here() - begin_ > kMostOps || program_.ops.size() > kMostOpsAtAll) {
+    if (++walked_ > kMostItems || Here() - begin_ > kMostOps || program_.ops.size() > kMostOpsAtAll) {
       return TellCut(text, item.range,
                      "This is too much for one press, and what comes from here on is left out");
     }
-    if (item.kind == ItemKind::Repeat && item.number) return WriteRepeated(text, items.subspan(i), manner);
+    if (item.kind == ItemKind::Repeat && item.number) {
+      const std::int64_t times = TimesOf(text, item);
+      if (times == 1) continue;
+      if (times > 1) WriteRepeated(text, items.subspan(i), manner, times);
+      return;
+    }
     Manner here = manner;
     here.last = manner.last && i + 1 == items.size();
     WriteItem(text, item, here);
   }
 }
 
-void Writer::WriteRepeated(const Text& text, std::span<const Item> items, const Manner& manner) {
-  std::int64_t times = *items[0].number;
-  if (work_ * times > kMostTimes) {
-    times = kMostTimes / work_;
-    TellCut(text, items[0].range, "So many repetitions would take too long, and some are left out");
-  }
-  if (times == 0) return;
-  if (times == 1) return WalkItems(text, items.subspan(1), manner);
+std::int64_t Writer::TimesOf(const Text& text, const Item& item) {
+  const std::int64_t times = *item.number;
+  if (work_ * times <= kMostTimes) return times;
+  TellCut(text, item.range, "So many repetitions would take too long, and some are left out");
+  return kMostTimes / work_;
+}
+
+void Writer::WriteRepeated(const Text& text, std::span<const Item> items, const Manner& manner,
+                           std::int64_t times) {
+  if (items.size() > 1 && items[1].kind != ItemKind::Delay) BeginKey();
   const std::int64_t outer = work_;
   work_ *= times;
-  if (items.size() > 1 && items[1].kind != ItemKind::Delay) BeginKey();
   const Entry from = Here();
   Add({OpKind::LoopBegin, 0, 0, 0, times});
   Manner here = manner;

@@ -52,7 +52,9 @@ class Writer {
   void WriteRawCode(std::uint32_t source, std::uint8_t code, Key extended, bool released);
   void WriteMacro(const Text& text, const model::Item& item, const Manner& manner);
   void WriteDelay(const model::Item& item);
-  void WriteRepeated(const Text& text, std::span<const model::Item> items, const Manner& manner);
+  void WriteRepeated(const Text& text, std::span<const model::Item> items, const Manner& manner,
+                     std::int64_t times);
+  [[nodiscard]] std::int64_t TimesOf(const Text& text, const model::Item& item);
   [[nodiscard]] Entry Finish();
   void BeginKey();
   void Add(Op op);
@@ -69,9 +71,10 @@ class Writer {
   std::vector<Key> held_;  // by SHF, CTL and ALT, for the key that follows
   std::size_t layerNumber_ = 0;
   bool press_ = true;
-  Entry begin_ = 0;        // of what is being written
-  Entry keyEnd_ = 0;       // behind the key written last, for the gap
-  std::int64_t work_ = 1;  // how often what is written now is done
+  Entry begin_ = 0;         // of what is being written
+  Entry keyEnd_ = 0;        // behind the key written last, for the gap
+  std::size_t walked_ = 0;  // items, also those that send nothing
+  std::int64_t work_ = 1;   // how often what is written now is done
   std::int64_t hold_ = 0;
 };
 

@@ -56,6 +56,22 @@ TEST(Engine, CutsMillionsOfRepetitions) {
   EXPECT_THAT(played.program.cuts, testing::Not(IsEmpty()));
 }
 
+TEST(Engine, CutsMacrosThatDoubleEachOther) {
+  std::string macros = "M0 = ^\n";
+  for (int i = 1; i < 60; ++i) {
+    const std::string below = "M" + std::to_string(i - 1);
+    macros.append("M")
+        .append(std::to_string(i))
+        .append(" = ")
+        .append(below)
+        .append(" ")
+        .append(below)
+        .append("\n");
+  }
+  const Played played("BTN S1 M30\nBTN S2 /P RPT(9) RPT(9) RPT(9) RPT(9) RPT(9) RPT(9) RPT(9) a\n", macros);
+  EXPECT_THAT(played.program.cuts, testing::Not(IsEmpty()));
+}
+
 TEST(Engine, LetsGoOfCodesWithTheirButton) {
   EXPECT_THAT(Played("BTN S1 RAW (#1C)\n").Outputs("S1 down\n100ms\nS1 up\n"),
               ElementsAre("0.000 S1 a down joystick:1", "0.100 S1 a up joystick:1"));
