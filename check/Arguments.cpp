@@ -3,12 +3,14 @@
 #include <CLI/CLI.hpp>
 
 #include "check/CheckFiles.h"
+#include "check/PlayTrace.h"
 
 namespace tarvik::check {
 namespace {
 
 constexpr Job kJobs[] = {
     {"--check", "Tell what is wrong in the files; done where nothing else is asked for", CheckFiles},
+    {"--play", "Play a joystick file by a trace, which is the second FILE", PlayTrace},
 };
 
 }  // namespace

@@ -1,6 +1,6 @@
 // What a kneeboard says: the controls of each device with what they do in each layer, the scales of the axes,
 // the flags, the mouse and the ports, and which keys are on the stick. A value, made from a pair of files
-// alone.
+// alone, with all words in UTF-8.
 #pragma once
 
 #include <cstdint>

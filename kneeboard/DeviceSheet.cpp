@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -11,13 +12,14 @@ namespace tarvik::kneeboard {
 namespace {
 
 /// The drawing's share of the width of a page: as much as the boxes leave.
-constexpr double kShares[] = {0.52, 0.46, 0.4, 0.35, 0.3, 0.24};
+constexpr double kShares[] = {0.24, 0.3, 0.35, 0.4, 0.46, 0.52};
+constexpr double kLargestShare = kShares[std::size(kShares) - 1];
 constexpr double kLargestType = 9;
 constexpr double kTypeStep = 0.5;
 /// How much words that are broken or shrink, smaller type and a smaller drawing cost.
 constexpr double kStrainCost = 8;
-constexpr double kTypeCost = 3;
-constexpr double kShareCost = 5;
+constexpr double kTypeCost = 7;
+constexpr double kShareCost = 3;
 /// Notes that need more of a page go overleaf.
 constexpr double kMostNotes = 0.25;
 /// For a size of type of 1.
@@ -39,6 +41,10 @@ struct Attempt {
   std::size_t rows = 0;
   std::size_t strained = 0;
 
+  /// The part of the rows that shrank or were broken.
+  [[nodiscard]] double Strain() const {
+    return rows == 0 ? 0 : static_cast<double>(strained) / static_cast<double>(rows);
+  }
   [[nodiscard]] double Space() const { return SpaceBetween(type); }
   [[nodiscard]] bool Fits() const {
     return HeightOf(left, Space()) <= body.height && HeightOf(right, Space()) <= body.height;
@@ -102,18 +108,18 @@ class DeviceSheet {
     for (double type = largest; type >= kSmallest; type -= kTypeStep) {
       const double typeCost = kTypeCost * (largest - type) / largest;
       if (best && typeCost >= lowest) break;
+      // What has no room beside a small drawing has none beside a larger one.
       for (const double share : kShares) {
+        const double shareCost = kShareCost * (kLargestShare - share);
         Attempt attempt = Try(body, type, share);
-        if (!attempt.Fits()) continue;
-        const double cost = typeCost + kShareCost * (kShares[0] - share) +
-                            kStrainCost * static_cast<double>(attempt.strained) /
-                                static_cast<double>(std::max<std::size_t>(1, attempt.rows));
+        if (!attempt.Fits()) break;
+        const double cost = typeCost + shareCost + kStrainCost * attempt.Strain();
         if (best && cost >= lowest) continue;
         lowest = cost;
         best = std::move(attempt);
       }
     }
-    return best ? std::move(*best) : Try(body, kSmallest, kShares[std::size(kShares) - 1]);
+    return best ? std::move(*best) : Try(body, kSmallest, kShares[0]);
   }
 
   [[nodiscard]] Attempt Try(const Area& body, double type, double share) const {

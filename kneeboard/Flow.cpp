@@ -11,6 +11,8 @@ constexpr double kFlowType = 8;
 constexpr double kColumn = 9.2;
 /// By how much columns become higher until all boxes go on one page.
 constexpr double kStep = 0.08;
+/// To level columns one box of so many may go on in another column.
+constexpr int kBoxesToSplit = 3;
 
 /// Puts boxes into the columns of pages.
 class Flow {
@@ -21,6 +23,8 @@ class Flow {
   void Add(const SetBox& box);
   [[nodiscard]] double ColumnWidth() const { return width_; }
   [[nodiscard]] std::vector<Page> Finish() { return std::move(pages_); }
+  /// How often a box went on in another column.
+  [[nodiscard]] int Splits() const { return splits_; }
 
  private:
   void BeginPage();
@@ -42,6 +46,7 @@ class Flow {
   double y_ = 0;
   int column_ = 0;
   int columns_ = 1;
+  int splits_ = 0;
 };
 
 Flow::Flow(const PageMaker& maker, const PageHead& head, const Legend& legend, const Sheet& first,
@@ -109,7 +114,10 @@ void Flow::Add(const SetBox& box) {
     const std::size_t last = first + std::max<std::size_t>(1, fit);
     Put(box, first, last);
     tries = 0;
-    if (last < box.rows.size()) NextColumn();
+    if (last < box.rows.size()) {
+      ++splits_;
+      NextColumn();
+    }
     first = last;
   }
 }
@@ -123,15 +131,19 @@ std::vector<Page> FlowPages(const PageMaker& maker, const PageHead& head, const 
   std::vector<SetBox> set;
   set.reserve(boxes.size());
   for (const BoxContent& box : boxes) set.push_back(setter.Set(box, width));
-  const auto pagesOf = [&](double share) {
+  const auto flowOf = [&](double share) {
     Flow flow(maker, head, legend, first, share);
     for (const SetBox& box : set) flow.Add(box);
-    return flow.Finish();
+    return flow;
   };
-  std::vector<Page> pages = pagesOf(1);
+  Flow full = flowOf(1);
+  const int splits = full.Splits();
+  std::vector<Page> pages = full.Finish();
   for (double share = kStep; pages.size() == 1 && share < 1; share += kStep) {
-    std::vector<Page> lower = pagesOf(share);
-    if (lower.size() == 1) return lower;
+    Flow lower = flowOf(share);
+    const bool isWhole = lower.Splits() <= std::max(splits, static_cast<int>(set.size()) / kBoxesToSplit);
+    std::vector<Page> lowerPages = lower.Finish();
+    if (isWhole && lowerPages.size() == 1) return lowerPages;
   }
   return pages;
 }

@@ -8,7 +8,6 @@
 #include "kneeboard/DeviceSheet.h"
 #include "kneeboard/KeyboardSheet.h"
 #include "kneeboard/ListSheet.h"
-#include "kneeboard/Utf8.h"
 
 namespace tarvik::kneeboard {
 namespace {
@@ -154,9 +153,8 @@ std::vector<Sheet> SheetsOf(const Contents& contents, const Options& options, co
   Spot size = paper;
   if (options.twoOnASheet) (paper.x < paper.y ? size.y : size.x) /= 2;
   Typesetter setter(measure);
-  const Contents readable = InUtf8(contents);
-  PageMaker maker(readable, size, setter);
-  const std::vector<Page> pages = Kneeboard(readable, options, plans, maker).Pages();
+  PageMaker maker(contents, size, setter);
+  const std::vector<Page> pages = Kneeboard(contents, options, plans, maker).Pages();
   if (options.twoOnASheet) return InPairs(pages, paper);
   std::vector<Sheet> sheets;
   sheets.reserve(pages.size());

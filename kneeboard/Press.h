@@ -14,7 +14,7 @@ enum class Colouring : std::uint8_t { Colours, BlackAndWhite };
 struct Job {
   std::vector<Sheet> sheets = {};
   Colouring colouring = Colouring::Colours;
-  std::string title = {};  ///< of the document, in the code page
+  std::string title = {};  ///< of the document, in UTF-8
   int dotsPerInch = 200;   ///< of pictures
 };
 

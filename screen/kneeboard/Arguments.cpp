@@ -55,7 +55,7 @@ struct Flags {
 void Apply(const Flags& flags, Arguments& arguments) {
   Options& options = arguments.options;
   if (flags.isLandscape) options.turned = Turned::Landscape;
-  if (flags.isBlackAndWhite) arguments.inks = Inks::BlackAndWhite;
+  if (flags.isBlackAndWhite) arguments.inks = kneeboard::Colouring::BlackAndWhite;
   options.hasKeys = !flags.isWithoutKeys;
   if (flags.pages.empty()) return;
   const auto isWanted = [&](const char* kind) {

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "kneeboard/Options.h"
+#include "kneeboard/Press.h"
 
 namespace tarvik::screen {
 
@@ -17,7 +18,6 @@ enum Status : int {
 };
 
 enum class Format { Pdf, Svg, Png, Text };
-enum class Inks { Colours, BlackAndWhite };
 
 /// Where the program writes: what it was asked for, and what went wrong.
 struct Streams {
@@ -30,7 +30,7 @@ struct Arguments {
   std::string output;           ///< the file to write
   Format format = Format::Pdf;  ///< by the ending of `output`
   kneeboard::Options options;
-  Inks inks = Inks::Colours;
+  kneeboard::Colouring inks = kneeboard::Colouring::Colours;
   int dotsPerInch = 150;
 };
 

@@ -28,7 +28,7 @@ bool HasErrors(const model::FilePair& pair) {
 /// Says what could not be written, and nothing where all is well.
 QString WriteText(const kneeboard::Contents& contents, kneeboard::ListOrder order, const QString& path) {
   QSaveFile file(path);
-  const std::string text = ToUtf8(kneeboard::ListAsText(contents, order));
+  const std::string text = kneeboard::ListAsText(contents, order);
   const bool isWritten = file.open(QIODevice::WriteOnly) &&
                          file.write(text.data(), static_cast<qint64>(text.size())) >= 0 && file.commit();
   return isWritten ? QString() : QStringLiteral("%1: %2").arg(path, file.errorString());
@@ -40,8 +40,8 @@ QString Write(const kneeboard::Contents& contents, const Arguments& arguments) {
   const DeviceDrawings drawings;
   const auto sheets = kneeboard::SheetsOf(contents, arguments.options, FontMeasure(), drawings);
   PaintedSheets painted = {sheets, drawings};
-  painted.title = QString::fromStdString(ToUtf8(contents.title.title));
-  if (arguments.inks == Inks::BlackAndWhite) painted.palette = Palette::BlackAndWhite();
+  painted.title = QString::fromStdString(contents.title.title);
+  if (arguments.inks == kneeboard::Colouring::BlackAndWhite) painted.palette = Palette::BlackAndWhite();
   switch (arguments.format) {
     case Format::Svg:
       return WriteSvg(painted, path);

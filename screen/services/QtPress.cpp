@@ -5,7 +5,6 @@
 #include <QFileInfo>
 
 #include "screen/kneeboard/SheetPainter.h"
-#include "screen/widgets/Conversions.h"
 
 namespace tarvik::screen {
 
@@ -15,7 +14,7 @@ const kneeboard::TextMeasure& QtPress::Measure() const {
 }
 
 PaintedSheets QtPress::Painted(const kneeboard::Job& job) const {
-  return {job.sheets, drawings_, Palette::Of(job.colouring), ToScreen(job.title)};
+  return {job.sheets, drawings_, Palette::Of(job.colouring), QString::fromStdString(job.title)};
 }
 
 Outcome<> QtPress::Write(const kneeboard::Job& job, const std::string& hostPath) {

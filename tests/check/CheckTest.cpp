@@ -114,6 +114,35 @@ TEST_F(Check, AFileWithNamesAndWithoutAnyMacroFileWantsAnMdef) {
   EXPECT_THAT(Called({Put("a.b50", "BTN S1 Gun\r\n")}).out, HasSubstr("[no-mdef]"));
 }
 
+TEST_F(Check, PlaysATrace) {
+  const std::string file = Put("a.b50", "BTN S1 a\r\n");
+  const Result outcome = Called({"--play", file, Put("run.trace", "S1 down\n50ms\nS1 up\n")});
+  EXPECT_EQ(outcome.status, kFine);
+  EXPECT_EQ(outcome.out, "0.000 S1 a down a.b50:1\n0.050 S1 a up a.b50:1\n");
+}
+
+TEST_F(Check, ATraceThatComesOtherwiseIsAnError) {
+  const std::string file = Put("a.b50", "BTN S1 a\r\n");
+  const std::string fine = "S1 down\n> 0.000 S1 a down a.b50:1\n50ms\nS1 up\n> 0.050 S1 a up a.b50:1\n";
+  EXPECT_EQ(Called({"--play", file, Put("fine.trace", fine)}).status, kFine);
+  const std::string wrong = "S1 down\n> 0.000 S1 b down a.b50:1\n";
+  const Result outcome = Called({"--play", file, Put("wrong.trace", wrong)});
+  EXPECT_EQ(outcome.status, kErrors);
+  EXPECT_EQ(WithoutFolder(outcome.out),
+            "wrong.trace:2: expected 0.000 S1 b down a.b50:1, came 0.000 S1 a down a.b50:1\n");
+  EXPECT_EQ(Called({"--play", file, Put("short.trace", "S1 down\n> 0.000 S1 a down a.b50:1\n")}).status,
+            kErrors);
+}
+
+TEST_F(Check, ATraceThatCannotBeReadTellsItsLine) {
+  const std::string file = Put("a.b50", "BTN S1 a\r\n");
+  const Result outcome = Called({"--play", file, Put("run.trace", "S1 down\nS1 sideways\n")});
+  EXPECT_EQ(outcome.status, kUnreadable);
+  EXPECT_THAT(outcome.error, HasSubstr("run.trace:2: "));
+  EXPECT_EQ(Called({"--play", file}).status, kUnreadable);
+  EXPECT_EQ(Called({"--play", file, Folder() + "/none.trace"}).status, kUnreadable);
+}
+
 TEST_F(Check, HelpAndVersionAreWritten) {
   const Result help = Called({"--help"});
   EXPECT_EQ(help.status, kFine);

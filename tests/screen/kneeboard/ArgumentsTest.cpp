@@ -47,7 +47,7 @@ TEST(KneeboardArguments, AFileAndWhereToWriteAreEnough) {
   EXPECT_EQ(result.arguments().file, "strike.b50");
   EXPECT_EQ(result.arguments().output, "out.pdf");
   EXPECT_EQ(result.arguments().options, Options());
-  EXPECT_EQ(result.arguments().inks, Inks::Colours);
+  EXPECT_EQ(result.arguments().inks, kneeboard::Colouring::Colours);
   EXPECT_EQ(Read({"strike.b50"}).error.find("--output is required"), 0U);
   EXPECT_EQ(Read({"-o", "out.pdf"}).error.find("FILE is required"), 0U);
 }
@@ -85,7 +85,8 @@ TEST(KneeboardArguments, WhatIsShownIsChosen) {
 }
 
 TEST(KneeboardArguments, HowItIsPaintedIsChosen) {
-  EXPECT_EQ(Read({"a.b50", "-o", "a.png", "--black-and-white"}).arguments().inks, Inks::BlackAndWhite);
+  EXPECT_EQ(Read({"a.b50", "-o", "a.png", "--black-and-white"}).arguments().inks,
+            kneeboard::Colouring::BlackAndWhite);
   EXPECT_EQ(Read({"a.b50", "-o", "a.png", "--resolution", "300"}).arguments().dotsPerInch, 300);
   EXPECT_THAT(ErrorOf({"--resolution", "5"}), HasSubstr("5"));
   EXPECT_THAT(ErrorOf({"--resolution", "fine"}), HasSubstr("fine"));

@@ -33,10 +33,10 @@ TEST_F(KneeboardFormTest, ThePageIsReadOutInWords) {
 
 TEST_F(KneeboardFormTest, AllPagesGoToTheFileThatIsChosen) {
   program.files().PutFolder("c:\\my");
-  Choose("c:\\my\\board.PDF");
+  Choose("c:\\my\\board.pdf");
   form().SaveAs_Click();
   ASSERT_EQ(program.press.wanted.size(), 1u);
-  EXPECT_THAT(program.press.wanted[0], HasSubstr("board.PDF"));
+  EXPECT_THAT(program.press.wanted[0], HasSubstr("my/board.pdf"));
   EXPECT_GT(program.press.jobs[0].sheets.size(), 1u);
 }
 

@@ -1,0 +1,88 @@
+// The kneeboards of the samples and of all pairs in tests/pairs/: that everything on them can be read, on
+// every paper, in the real type. Where everything stands on those of the samples is kept in
+// tests/kneeboard/sheets/NAME.txt, by letters of one width; TARVIK_PROMOTE=1 in the environment writes it
+// anew.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "pairs/PairFiles.h"
+#include "pairs/PairOnDisk.h"
+#include "screen/kneeboard/DeviceDrawings.h"
+#include "screen/kneeboard/Fonts.h"
+#include "support/Geometry.h"
+#include "support/HandMade.h"
+#include "support/Told.h"
+
+namespace tarvik::screen {
+namespace {
+
+namespace fs = std::filesystem;
+using kneeboard::Options;
+using kneeboard::Sheet;
+
+std::vector<fs::path> JoystickFilesIn(const std::string& folder) {
+  std::vector<fs::path> files = *pairs::FilesIn(folder);
+  std::erase_if(files, [](const fs::path& file) { return pairs::RoleOf(file) != pairs::Role::Joystick; });
+  EXPECT_FALSE(files.empty()) << folder;
+  return files;
+}
+
+kneeboard::Contents ContentsOfFile(const fs::path& file) {
+  const auto pair = pairs::PairOnDisk::Read(file);
+  EXPECT_TRUE(pair) << file;
+  const model::FilePair view = pair->View();
+  const model::NameIndex names(view.joystick, view.joystickText, view.macros, view.macroText);
+  return kneeboard::ContentsOf(view, names);
+}
+
+std::vector<Options> AllWays() {
+  std::vector<Options> all;
+  for (const auto paper : {kneeboard::Paper::A4, kneeboard::Paper::Letter, kneeboard::Paper::A5}) {
+    for (const auto turned : {kneeboard::Turned::Portrait, kneeboard::Turned::Landscape}) {
+      all.push_back({.paper = paper, .turned = turned});
+      all.push_back({.paper = paper, .turned = turned, .twoOnASheet = true});
+      all.push_back({.paper = paper, .turned = turned, .layers = kneeboard::Layers::PageEach});
+    }
+  }
+  return all;
+}
+
+void LookAt(const fs::path& file) {
+  const DeviceDrawings drawings;
+  const kneeboard::Contents contents = ContentsOfFile(file);
+  for (const Options& options : AllWays()) {
+    kneeboard::Spot size = kneeboard::SizeOf(options);
+    if (options.twoOnASheet) (size.x < size.y ? size.y : size.x) /= 2;
+    for (const Sheet& sheet : kneeboard::SheetsOf(contents, options, FontMeasure(), drawings))
+      ASSERT_EQ(Faults(sheet, kneeboard::MarginOf(size)), "") << file << ' ' << size.x << 'x' << size.y;
+  }
+}
+
+TEST(KneeboardCorpus, TheSamplesCanBeRead) {
+  for (const fs::path& file : JoystickFilesIn(TARVIK_DATA "/samples")) LookAt(file);
+}
+
+TEST(KneeboardCorpus, AllPairsCanBeRead) {
+  for (const fs::path& file : JoystickFilesIn(TARVIK_DATA "/../tests/pairs")) LookAt(file);
+}
+
+TEST(KneeboardCorpus, OnThoseOfTheSamplesEverythingStandsWhereItStood) {
+  const kneeboard::RealPlans plans(TARVIK_DATA "/devices");
+  for (const fs::path& file : JoystickFilesIn(TARVIK_DATA "/samples")) {
+    std::string told;
+    for (const Sheet& sheet : kneeboard::SheetsOf(ContentsOfFile(file), {}, kneeboard::EvenMeasure(), plans))
+      told.append(Told(sheet));
+    const std::string golden =
+        std::string(TARVIK_DATA "/../tests/kneeboard/sheets/").append(file.stem().string()).append(".txt");
+    if (std::getenv("TARVIK_PROMOTE") != nullptr) std::ofstream(golden, std::ios::binary) << told;
+    std::ifstream in(golden, std::ios::binary);
+    EXPECT_EQ(told, std::string(std::istreambuf_iterator<char>(in), {})) << file;
+  }
+}
+
+}  // namespace
+}  // namespace tarvik::screen
