@@ -181,11 +181,11 @@ void DeedWriter::AddKeysOf(const model::MacroNames& macro, Chain& open,
 void DeedWriter::TakeName(std::string_view word, Pieces& pieces) const {
   const model::MacroNames* const macro = speaker_.Names().FindMacro(word);
   if (!macro || macro->definitions.empty()) {
-    pieces.words.push_back(ReadableName(word));
+    pieces.Say(ReadableName(word));
     pieces.hasNames = true;
     return;
   }
-  pieces.words.push_back(WordsOf(*macro));
+  pieces.Say(WordsOf(*macro));
   pieces.hasNames = true;
   Chain open;
   AddKeysOf(*macro, open, pieces.keys);
@@ -202,19 +202,19 @@ void DeedWriter::Take(std::string_view lines, std::span<const Item> items, std::
       return TakeName(word, pieces);
     case ItemKind::Key: {
       const PressedKey key = KeysAt(lines, items, at).back();
-      pieces.words.push_back(InWords(key.with) + model::KeyInWords(key.key));
+      pieces.Say(InWords(key.with) + model::KeyInWords(key.key));
       pieces.keys.push_back(Shown(key));
       return;
     }
     case ItemKind::Raw:
-      for (std::string& code : model::CodesInWords(lines, item)) pieces.words.push_back(std::move(code));
+      for (std::string& code : model::CodesInWords(lines, item)) pieces.Say(std::move(code));
       for (const PressedKey& key : KeysAt(lines, items, at)) pieces.keys.push_back(Shown(key));
       return;
     case ItemKind::Repeat:
-      if (item.number) pieces.words.push_back(Said({std::to_string(*item.number), " times:"}));
+      if (item.number) pieces.before = Said({std::to_string(*item.number), "x "});
       return;
     case ItemKind::Reset:
-      pieces.words.emplace_back("reset the stick");
+      pieces.Say("reset the stick");
       return;
     default:
       return;

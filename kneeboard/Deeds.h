@@ -49,7 +49,13 @@ class DeedWriter {
     std::vector<std::string> words = {};
     std::vector<std::string> keys = {};
     std::string heading = {};
+    std::string before = {};  ///< what comes next: "2x "
     bool hasNames = false;
+
+    void Say(std::string said) {
+      words.push_back(before.append(said));
+      before.clear();
+    }
   };
 
   void Take(std::string_view lines, std::span<const model::Item> items, std::size_t at, Pieces& pieces) const;

@@ -97,7 +97,9 @@ class BoxBuilder {
   /// Steps that send the same. Where they do so only on the way up, or in both directions, that is one row.
   void TakeStretch(const Scale& scale, StepPlace first, StepPlace last) {
     const auto steps = last - first;
-    std::string where = Percent(first->from) + "–" + Percent((last - 1)->to) + " %";
+    const bool isPoint = first->from == (last - 1)->to;
+    std::string where = isPoint ? "at " + Percent(first->from) + " %"
+                                : Percent(first->from) + "–" + Percent((last - 1)->to) + " %";
     if (steps > 1) where.append(" in ").append(std::to_string(steps)).append(" steps");
     const Colour colour = first->isAfterburner ? kAlarm : kText;
     const auto put = [&](const Lead& lead, const Deed& deed) {

@@ -88,6 +88,10 @@ TEST(KneeboardContents, KeysByThemselvesAreTheirOwnWords) {
   EXPECT_EQ(ActionsOfS1("RAW (#1C #F0 #1C)").at(0).deed.words, "A");
 }
 
+TEST(KneeboardContents, ARepetitionStandsBeforeWhatIsRepeated) {
+  EXPECT_EQ(ActionsOfS1("a RPT(3) b DLY(20)").at(0).deed.words, "A, 3x B");
+}
+
 TEST(KneeboardContents, MacrosInCirclesEnd) {
   const auto actions = ActionsOfS1("One", "One = a Two\nTwo = b One\n");
   ASSERT_EQ(actions.size(), 1u);
