@@ -43,13 +43,10 @@ Layout::Layout(Documents& documents, LayoutControls controls) : documents_(docum
     const float width = upper ? kButtonWidth : kWideButtonWidth;
     controls_.buttons(i).Move(kMargin + column * (width + kGap / 2), 0, width, kButtonHeight);
   }
-  for (Frame* const bar : {&controls_.notice.frame, &controls_.find.frame, &controls_.problems.frame,
-                           &controls_.explain.frame}) {
+  for (Frame* const bar : {&controls_.find.frame, &controls_.problems.frame, &controls_.explain.frame}) {
     connections_.push_back(bar->Visible.Changed.Connect([this] { Place(); }));
   }
-  connections_.push_back(controls_.notice.HeightChanged.Connect([this] {
-    if (controls_.notice.frame.Visible) Place();
-  }));
+  connections_.push_back(controls_.notice.Resized.Connect([this] { Place(); }));
 }
 
 void Layout::Place() {

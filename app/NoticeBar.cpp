@@ -24,11 +24,13 @@ void NoticeBar::Show() {
     commands(i).Visible = any;
     if (any) commands(i).Caption = notice->actions[static_cast<std::size_t>(i)].caption;
   }
+  if (frame.Visible == (notice != nullptr)) return;
   frame.Visible = notice != nullptr;
+  Resized();
 }
 
 void NoticeBar::Need(Pixels height) {
-  if (std::exchange(height_, height) != height) HeightChanged();
+  if (std::exchange(height_, height) != height && frame.Visible) Resized();
 }
 
 /// The action may take the notice away in which it stands.

@@ -15,7 +15,8 @@ class NoticeBar {
   Frame frame;
   Label text;
   ControlArray<CommandButton> commands;
-  Signal<> HeightChanged;
+  /// It has come or gone, and whoever shows it knows; or it wants another height.
+  Signal<> Resized;
 
   /// Shows the bar while there is a notice for the file on top, and hides it otherwise.
   void Show();

@@ -32,5 +32,16 @@ TEST_F(NoticeViewTest, TheTextBeginsBelowItHoweverWideTheWindowBecomes) {
   }
 }
 
+TEST_F(NoticeViewTest, AllOfItIsSeenAsSoonAsItComes) {
+  Resize(1200);
+  const Document& joystick = application.workbench.documents.joystick;
+  application.workbench.notices.Show(Matter::NotKept, &joystick,
+                                     {"Something is to be told.", {{"Do it", [] {}}}});
+  QApplication::processEvents();
+  const auto& bar = Find<NoticeView>(application.editor().notice.frame);
+  EXPECT_EQ(bar.geometry().bottom() + 1, Find<PaneView>(joystick.text).geometry().top());
+  EXPECT_GE(bar.height(), bar.minimumSizeHint().height());
+}
+
 }  // namespace
 }  // namespace tarvik::screen
