@@ -67,6 +67,16 @@ Value Chosen(const Property<int>& setting, Value last) {
   return static_cast<Value>(std::clamp(setting.Get(), 0, static_cast<int>(last)));
 }
 
+/// The text with line ends as in the user's own files.
+std::string WithDosEnds(std::string_view text) {
+  std::string dos;
+  for (const char byte : text) {
+    if (byte == '\n') dos.push_back('\r');
+    dos.push_back(byte);
+  }
+  return dos;
+}
+
 bool Contains(const kneeboard::Area& area, kneeboard::Spot spot) {
   return spot.x >= area.x && spot.x < area.Right() && spot.y >= area.y && spot.y < area.Bottom();
 }
@@ -212,7 +222,7 @@ void KneeboardForm::SaveAs_Click() {
 Outcome<> KneeboardForm::SaveTo(const std::string& path) {
   if (EndingOf(path) == ".txt") {
     const auto order = Chosen(bench_.settings.KneeboardOrder, kneeboard::ListOrder::ByHeading);
-    return bench_.platform.files.Write(path, kneeboard::ListAsText(contents_, order));
+    return bench_.platform.files.Write(path, WithDosEnds(kneeboard::ListAsText(contents_, order)));
   }
   const std::string host = bench_.platform.drives.ToHost(path);
   if (host.empty()) return Failure{error::kPathNotFound, "Path not found", 0};
