@@ -71,7 +71,7 @@ class ActionWalk {
 
 /// Whether two actions say the same, but for where they stand and for one part of them.
 template <class Part>
-bool AreAlike(Action one, Action other, Part Layer::*part) {
+bool AreAlike(Action one, const Action& other, Part Layer::*part) {
   one.source = other.source;
   one.layer.*part = other.layer.*part;
   return one == other;

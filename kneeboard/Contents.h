@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "language/FilePair.h"
@@ -22,7 +23,10 @@ struct Layer {
   Dogfight dogfight = Dogfight::Any;
   Shift shift = Shift::Any;
 
-  friend auto operator<=>(const Layer&, const Layer&) = default;
+  friend bool operator==(const Layer&, const Layer&) = default;
+  friend bool operator<(const Layer& one, const Layer& other) {
+    return std::pair(one.dogfight, one.shift) < std::pair(other.dogfight, other.shift);
+  }
 };
 
 /// What is sent, in words and in keys.

@@ -207,7 +207,7 @@ void DeedWriter::Take(std::string_view lines, std::span<const Item> items, std::
       return;
     }
     case ItemKind::Raw:
-      for (std::string& code : model::CodesInWords(lines, item)) pieces.Say(std::move(code));
+      for (const std::string& code : model::CodesInWords(lines, item)) pieces.Say(code);
       for (const PressedKey& key : KeysAt(lines, items, at)) pieces.keys.push_back(Shown(key));
       return;
     case ItemKind::Repeat:

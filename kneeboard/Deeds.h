@@ -52,7 +52,7 @@ class DeedWriter {
     std::string before = {};  ///< what comes next: "2x "
     bool hasNames = false;
 
-    void Say(std::string said) {
+    void Say(const std::string& said) {
       words.push_back(before.append(said));
       before.clear();
     }

@@ -1,6 +1,7 @@
 // The list of all actions as plain text.
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "kneeboard/Contents.h"
 
@@ -36,7 +37,7 @@ std::string LayerOf(const Action& action) {
   return layer;
 }
 
-std::string Percent(double value) { return std::to_string(static_cast<int>(value + 0.5)); }
+std::string Percent(double value) { return std::to_string(std::lround(value)); }
 
 std::string StretchOf(const Step& step) {
   std::string stretch =

@@ -279,68 +279,89 @@ void Engine::Run(Slot& slot, std::uint32_t index) {
 
 bool Engine::Do(Slot& slot, std::uint32_t index, const Op& op) {
   if (op.source != 0) slot.source = op.source;
-  const bool released = slot.count > 0;
   ++slot.at;
   switch (op.kind) {
     case OpKind::Make:
-      Press(op.key, slot);
-      return true;
     case OpKind::Break:
-      LetGo(op.key, slot);
-      return true;
     case OpKind::RawMake:
-      PressRaw(op.key, slot, index);
-      return true;
     case OpKind::RawBreak:
-      LetGoRaw(op.key, slot);
+      DoKey(slot, index, op);
       return true;
     case OpKind::Wait:
       slot.wake += Time(op.value);
       return slot.wake <= now_;
     case OpKind::AwaitRelease:
-      slot.awaits = !released;
-      if (slot.awaits) --slot.at;
-      return released;
     case OpKind::RepeatIfHeld:
-      if (released) {
-        slot.repeats = false;
-        return true;
-      }
-      if (!slot.repeats) slot.wake += Time(op.value);
-      slot.repeats = slot.wake > now_;
-      slot.at = slot.repeats ? slot.at - 1 : op.target;
-      return !slot.repeats;
-    case OpKind::LoopBegin:
-      slot.loops[slot.depth++] = op.value;
-      return true;
-    case OpKind::LoopEnd:
-      if (--slot.loops[slot.depth - 1] > 0) {
-        slot.at = op.target;
-      } else {
-        --slot.depth;
-      }
-      return true;
-    case OpKind::Turn:
-      slot.at += turns_[op.target]++ % static_cast<std::uint32_t>(op.value);
-      return true;
-    case OpKind::SameTurn:
-      slot.at += (turns_[op.target] + static_cast<std::uint32_t>(op.value) - 1) %
-                 static_cast<std::uint32_t>(op.value);
-      return true;
-    case OpKind::Jump:
-      slot.at = op.target;
-      return true;
-    case OpKind::Latch:
-      slot.latched = true;
-      return true;
+      return DoHold(slot, op);
     case OpKind::Reset:
       Emit(OutputKind::Reset, 0, true, slot.control, op.source);
       resets_ = true;
       return false;
     case OpKind::End:
       return false;
+    default:
+      Go(slot, op);
+      return true;
   }
-  return false;
+}
+
+void Engine::DoKey(const Slot& slot, std::uint32_t index, const Op& op) {
+  switch (op.kind) {
+    case OpKind::Make:
+      return Press(op.key, slot);
+    case OpKind::Break:
+      return LetGo(op.key, slot);
+    case OpKind::RawMake:
+      return PressRaw(op.key, slot, index);
+    default:
+      return LetGoRaw(op.key, slot);
+  }
+}
+
+/// What goes on as long as the control is held. Says whether the next instruction comes at once.
+bool Engine::DoHold(Slot& slot, const Op& op) {
+  const bool released = slot.count > 0;
+  if (op.kind == OpKind::AwaitRelease) {
+    slot.awaits = !released;
+    if (slot.awaits) --slot.at;
+    return released;
+  }
+  if (released) {
+    slot.repeats = false;
+    return true;
+  }
+  if (!slot.repeats) slot.wake += Time(op.value);
+  slot.repeats = slot.wake > now_;
+  slot.at = slot.repeats ? slot.at - 1 : op.target;
+  return !slot.repeats;
+}
+
+/// Loops, turns and jumps.
+void Engine::Go(Slot& slot, const Op& op) {
+  const auto turns = static_cast<std::uint32_t>(op.value);
+  switch (op.kind) {
+    case OpKind::LoopBegin:
+      slot.loops[slot.depth++] = op.value;
+      return;
+    case OpKind::LoopEnd:
+      if (--slot.loops[slot.depth - 1] > 0) {
+        slot.at = op.target;
+      } else {
+        --slot.depth;
+      }
+      return;
+    case OpKind::Turn:
+      slot.at += turns_[op.target]++ % turns;
+      return;
+    case OpKind::SameTurn:
+      slot.at += (turns_[op.target] + turns - 1) % turns;
+      return;
+    case OpKind::Jump:
+      slot.at = op.target;
+      return;
+    default:
+      slot.latched = true;
+  }
 }
 
 }  // namespace tarvik::play

@@ -107,6 +107,9 @@ class Engine {
   void EndPart(Slot& slot, std::uint32_t index);
   /// Whether the next instruction comes at once.
   bool Do(Slot& slot, std::uint32_t index, const Op& op);
+  void DoKey(const Slot& slot, std::uint32_t index, const Op& op);
+  bool DoHold(Slot& slot, const Op& op);
+  void Go(Slot& slot, const Op& op);
   void Press(Key key, const Slot& slot);
   void LetGo(Key key, const Slot& slot);
   void PressRaw(Key key, const Slot& slot, std::uint32_t index);

@@ -189,15 +189,13 @@ class Compiler {
     return static_cast<std::uint32_t>(program_.tests.size() - 1);
   }
 
+  static std::optional<std::uint32_t> ArgumentOf(const model::Condition& call, const Statement& at,
+                                                 std::size_t i) {
+    if (i >= call.arguments.size()) return std::nullopt;
+    return model::NumberIn(at.Words(call.arguments[i]));
+  }
+
   void FillTest(const model::Condition& condition, const Statement& at, Test& test) {
-    const auto argument = [&](std::size_t i) -> std::optional<std::uint32_t> {
-      if (i >= condition.arguments.size()) return std::nullopt;
-      return model::NumberIn(at.Words(condition.arguments[i]));
-    };
-    const auto time = [&](std::size_t i) {
-      constexpr std::uint32_t kLongest = 3600000;
-      return Time(std::chrono::milliseconds(std::min(argument(i).value_or(0), kLongest)));
-    };
     switch (condition.kind) {
       case ConditionKind::Control:
         test.kind = TestKind::Control;
@@ -214,25 +212,34 @@ class Compiler {
         return;
       case ConditionKind::Pulse:
       case ConditionKind::Delay:
-        test.kind = condition.kind == ConditionKind::Pulse ? TestKind::Pulse : TestKind::Delay;
-        test.timed = true;
-        test.subject = program_.timers++;
-        test.on = time(0);
-        test.off = time(1);
-        return;
+        return FillTimer(condition, at, test);
       case ConditionKind::Below:
-      case ConditionKind::Above: {
-        const auto axis =
-            condition.arguments.empty() ? std::nullopt : FindAxis(at.Words(condition.arguments[0]));
-        if (!axis || !argument(1)) return;
-        test.kind = condition.kind == ConditionKind::Below ? TestKind::Below : TestKind::Above;
-        test.subject = *axis;
-        test.limit = *argument(1) / kPerCent;
-        return;
-      }
+      case ConditionKind::Above:
+        return FillComparison(condition, at, test);
       case ConditionKind::Missing:
         return;
     }
+  }
+
+  void FillTimer(const model::Condition& call, const Statement& at, Test& test) {
+    const auto time = [&](std::size_t i) {
+      constexpr std::uint32_t kLongest = 3600000;
+      return Time(std::chrono::milliseconds(std::min(ArgumentOf(call, at, i).value_or(0), kLongest)));
+    };
+    test.kind = call.kind == ConditionKind::Pulse ? TestKind::Pulse : TestKind::Delay;
+    test.timed = true;
+    test.subject = program_.timers++;
+    test.on = time(0);
+    test.off = time(1);
+  }
+
+  static void FillComparison(const model::Condition& call, const Statement& at, Test& test) {
+    const auto axis = call.arguments.empty() ? std::nullopt : FindAxis(at.Words(call.arguments[0]));
+    const auto limit = ArgumentOf(call, at, 1);
+    if (!axis || !limit) return;
+    test.kind = call.kind == ConditionKind::Below ? TestKind::Below : TestKind::Above;
+    test.subject = *axis;
+    test.limit = *limit / kPerCent;
   }
 
   /// Whether a flag's condition comes back to it.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 
 #include "text/CodePage.h"
 
@@ -46,7 +47,7 @@ std::optional<Time> WaitIn(std::string_view word) {
     if (micros) *micros *= kSecond;
   }
   if (!micros || *micros > kLongest) return std::nullopt;
-  return Time(static_cast<std::int64_t>(*micros + 0.5));
+  return Time(std::llround(*micros));
 }
 
 class Reader {
