@@ -119,14 +119,14 @@ void KneeboardForm::FollowChoices() {
     ComboBox& box = this->*row.box;
     box.Click = [this, &box, &setting = settings.*row.setting] {
       bench_.settings.Change(setting, box.ListIndex);
-      Renew();
+      LayOut();
     };
   }
   for (const SwitchRow& row : kSwitches) {
     CheckBox& box = this->*row.box;
     box.Click = [this, &box, &setting = settings.*row.setting] {
       bench_.settings.Change(setting, box.Value);
-      Renew();
+      LayOut();
     };
   }
 }
@@ -159,10 +159,14 @@ kneeboard::Options KneeboardForm::Wanted() const {
 }
 
 void KneeboardForm::Renew() {
-  const Settings& settings = bench_.settings;
-  const kneeboard::Press& press = shell_.Press();
   pause.Cancel();
   contents_ = kneeboard::ContentsOf(bench_.models.Pair(), bench_.models.Names());
+  LayOut();
+}
+
+void KneeboardForm::LayOut() {
+  const Settings& settings = bench_.settings;
+  const kneeboard::Press& press = shell_.Press();
   job_.sheets = kneeboard::SheetsOf(contents_, Wanted(), press.Measure(), press.Plans());
   job_.colouring = settings.KneeboardBlackAndWhite != 0 ? kneeboard::Colouring::BlackAndWhite
                                                         : kneeboard::Colouring::Colours;

@@ -59,7 +59,10 @@ class KneeboardForm : public ToolForm {
   void FillChoices();
   void FollowChoices();
   void FollowFiles();
+  /// The files have changed.
   void Renew();
+  /// The pages anew, of what the files say already.
+  void LayOut();
   [[nodiscard]] const kneeboard::Target* TargetAt(kneeboard::Spot spot) const;
   void Turn(int pages);
   void ShowPage();
