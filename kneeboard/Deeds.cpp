@@ -48,12 +48,6 @@ std::string JoinedBy(const std::vector<std::string>& pieces, std::string_view be
   return joined;
 }
 
-std::string Capitals(std::string_view word) {
-  std::string capitals(word);
-  std::ranges::transform(capitals, capitals.begin(), ToUpper);
-  return capitals;
-}
-
 /// The row of a key's name: that of the letter for a capital one, and of the key whose face has the sign with
 /// Shift.
 PressedKey KeyOf(std::string_view word) {
@@ -78,7 +72,7 @@ std::string HeldWith(std::string_view lines, std::span<const Item> items, std::s
   std::string with;
   for (std::size_t i = first; i < at; ++i) {
     if (!with.empty()) with.push_back(' ');
-    with.append(Capitals(model::In(lines, items[i].range)));
+    with.append(UpperCase(model::In(lines, items[i].range)));
   }
   return with;
 }

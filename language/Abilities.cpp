@@ -27,12 +27,6 @@ unsigned DevicesOn(Picture picture) {
   }
 }
 
-std::string Capitals(std::string_view word) {
-  std::string capitals(word);
-  std::ranges::transform(capitals, capitals.begin(), ToUpper);
-  return capitals;
-}
-
 /// Puts the rows together. One that several tables have gets the devices of each.
 class AbilityTable {
  public:
@@ -65,9 +59,9 @@ class AbilityTable {
   void Add(AbilityKind kind, std::string_view name, unsigned devices) {
     if (name.empty()) return;
     const auto same = std::ranges::find_if(
-        rows_, [&](const Ability& each) { return each.kind == kind && each.name == Capitals(name); });
+        rows_, [&](const Ability& each) { return each.kind == kind && each.name == UpperCase(name); });
     if (same == rows_.end()) {
-      rows_.push_back({kind, Capitals(name), devices});
+      rows_.push_back({kind, UpperCase(name), devices});
     } else {
       same->devices |= devices;
     }
@@ -158,7 +152,7 @@ Abilities::Abilities(const Hardware& hardware) : devices_(StickOf(hardware)) {
 
 unsigned DevicesWith(AbilityKind kind, std::string_view name) {
   const std::span<const Ability> all = AllAbilities();
-  const std::string capitals = Capitals(name);
+  const std::string capitals = UpperCase(name);
   const std::pair wanted(kind, std::string_view(capitals));
   const auto row = std::ranges::lower_bound(
       all, wanted, {}, [](const Ability& each) { return std::pair(each.kind, std::string_view(each.name)); });

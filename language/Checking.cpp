@@ -8,7 +8,6 @@ namespace tarvik::model {
 namespace {
 
 constexpr std::size_t kLongestShown = 40;
-constexpr std::string_view kUsualNullSign = "^";
 constexpr std::string_view kBracketWords[] = {"RAW", "DLY", "RPT"};
 constexpr std::string_view kLogicWords[] = {"AND", "OR", "NOT", "PULSE", "DELAY", "CMPLT", "CMPGT"};
 /// These words are coloured wherever they stand; only the manuals of the sticks tell what they mean.
@@ -130,24 +129,14 @@ Checked::Checked(const FilePair& pair)
     : pair(pair),
       names(pair.joystick, pair.joystickText, pair.macros, pair.macroText),
       abilities(AttachedHardware(pair.joystick, pair.joystickText, pair.hardware)),
-      hasMacros_(!names.Macros().empty() && !names.Macros().front().definitions.empty()) {
-  nullSigns_.push_back(kUsualNullSign);
-  for (std::size_t i = 0; i < pair.joystick.size(); ++i) {
-    const JoystickStatement& statement = pair.joystick[i];
-    if (statement.row == nullptr || statement.row->word != "NULLCHR") continue;
-    const std::string_view lines = pair.joystick.LinesOf(i, pair.joystickText);
-    for (const Range& value : std::get<Setting>(statement.body).values)
-      nullSigns_.push_back(In(lines, value));
-  }
-}
+      hasMacros_(!names.Macros().empty() && !names.Macros().front().definitions.empty()),
+      nullSigns_(pair.joystick, pair.joystickText) {}
 
 Place Checked::PlaceOf(const Mention& mention) const {
   const Range range = mention.file == FileKind::Joystick ? pair.joystick.RangeOf(mention.statement)
                                                          : pair.macros.RangeOf(mention.statement);
   return {mention.file, range.start, In(TextOf(mention.file), range)};
 }
-
-bool Checked::IsNullSign(std::string_view word) const { return IsAmong(nullSigns_, word); }
 
 const JoystickStatement* Checked::LastSetting(std::string_view word, Place& place) const {
   for (std::size_t i = pair.joystick.size(); i-- > 0;) {

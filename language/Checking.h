@@ -5,6 +5,7 @@
 
 #include "language/Abilities.h"
 #include "language/Names.h"
+#include "language/NullSigns.h"
 #include "language/Problems.h"
 
 namespace tarvik::model {
@@ -56,8 +57,7 @@ class Checked {
   /// Whether the macro file defines macros at all. Without any, nothing is known of the names in the joystick
   /// file.
   [[nodiscard]] bool HasMacros() const { return hasMacros_; }
-  /// The sign for no key: ^, or what NULLCHR says.
-  [[nodiscard]] bool IsNullSign(std::string_view word) const;
+  [[nodiscard]] bool IsNullSign(std::string_view word) const { return nullSigns_.Hold(word); }
   /// Whether a word that no macro is called by means something by itself, which other rules judge.
   [[nodiscard]] bool HasMeaning(std::string_view word) const;
   /// The last statement of the joystick file with that word; null where there is none.
@@ -71,10 +71,10 @@ class Checked {
 
  private:
   bool hasMacros_ = false;
+  NullSigns nullSigns_;
   mutable std::optional<Graph> macroGraph_;
   mutable std::optional<GraphOrder> macroOrder_;
   mutable std::optional<std::vector<KeyLeftDown>> leftDown_;
-  std::vector<std::string_view> nullSigns_;
 };
 
 /// Takes the problems, each for the rule that runs.

@@ -4,13 +4,13 @@
 
 #include "language/Checking.h"
 #include "language/KeyTable.h"
+#include "language/LogicLines.h"
 #include "language/Spoken.h"
 #include "text/CodePage.h"
 
 namespace tarvik::model {
 namespace {
 
-constexpr std::uint32_t kMostFlags = 48;
 constexpr std::string_view kRocker = "RKR ";
 constexpr std::string_view kSequenceWords[] = {"SHF", "CTL", "ALT", "RAW", "DLY", "RPT"};
 constexpr std::string_view kJoiningWords[] = {"AND", "OR"};
@@ -221,7 +221,7 @@ class CandidateSearch {
   }
 
   void AddNewFlags() {
-    for (std::uint32_t number = 1; number <= kMostFlags; ++number) {
+    for (std::uint32_t number = 1; number <= tables::kLogicLines; ++number) {
       const FlagNames* flag = names_.FindFlag(number);
       if (flag == nullptr || flag->definitions.empty()) AddFlag(number);
     }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "language/LogicLines.h"
+
 namespace tarvik::model {
 namespace {
 
@@ -95,5 +97,7 @@ std::optional<std::uint32_t> FlagNumber(std::string_view word) {
   if (!word.starts_with('X') && !word.starts_with('x')) return std::nullopt;
   return NumberIn(word.substr(1));
 }
+
+bool IsFlag(std::uint32_t number) { return number >= 1 && number <= tables::kLogicLines; }
 
 }  // namespace tarvik::model

@@ -31,5 +31,7 @@ struct Condition {
 [[nodiscard]] Condition ReadCondition(TokenCursor& cursor);
 /// The number of a flag such as X12, in either case; none for any other word.
 [[nodiscard]] std::optional<std::uint32_t> FlagNumber(std::string_view word);
+/// Whether there is a flag of that number: they are X1 to X48.
+[[nodiscard]] bool IsFlag(std::uint32_t number);
 
 }  // namespace tarvik::model

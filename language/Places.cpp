@@ -9,7 +9,6 @@ namespace tarvik::model {
 namespace {
 
 /// The largest number of a flag.
-constexpr std::uint32_t kMostFlags = 48;
 
 using Mentions = std::vector<Mention>;
 
@@ -129,7 +128,7 @@ std::optional<std::string> WhyNoMacro(const NameIndex& names, std::string_view o
 std::optional<std::string> WhyNoFlag(const NameIndex& names, std::string_view oldName,
                                      std::string_view name) {
   const auto number = FlagNumber(name);
-  if (!number || *number == 0 || *number > kMostFlags) return "A flag is called X1 to X48.";
+  if (!number || !IsFlag(*number)) return "A flag is called X1 to X48.";
   if (number != FlagNumber(oldName) && names.FindFlag(*number) != nullptr) {
     return Said({"There is a flag ", FlagName(*number), " already."});
   }

@@ -10,8 +10,6 @@ namespace {
 
 constexpr std::uint32_t kMostPerCent = 100;
 
-bool IsFlag(std::uint32_t number) { return number >= 1 && number <= tables::kLogicLines; }
-
 // What is wrong with a condition.
 
 struct Flaw {

@@ -6,7 +6,6 @@
 namespace tarvik::model {
 namespace {
 
-constexpr std::string_view kUsualNullSign = "^";
 constexpr std::size_t kLongestBrief = 200;
 constexpr std::string_view kSends = "sends ";
 constexpr std::string_view kOtherwise = "otherwise";
@@ -311,20 +310,8 @@ Defined FirstDefinition(const FilePair& pair, const MacroNames& macro) {
 Speaker::Speaker(const FilePair& pair, const NameIndex& names)
     : pair_(pair),
       names_(names),
-      hasMacros_(!names.Macros().empty() && !names.Macros().front().definitions.empty()) {
-  for (std::size_t i = 0; i < pair.joystick.size(); ++i) {
-    const JoystickStatement& statement = pair.joystick[i];
-    if (statement.row == nullptr || statement.row->word != "NULLCHR") continue;
-    const std::string_view lines = pair.joystick.LinesOf(i, pair.joystickText);
-    for (const Range& value : std::get<Setting>(statement.body).values)
-      nullSigns_.push_back(In(lines, value));
-  }
-  if (nullSigns_.empty()) nullSigns_.push_back(kUsualNullSign);
-}
-
-bool Speaker::IsNullSign(std::string_view word) const {
-  return std::ranges::find(nullSigns_, word) != nullSigns_.end();
-}
+      hasMacros_(!names.Macros().empty() && !names.Macros().front().definitions.empty()),
+      nullSigns_(pair.joystick, pair.joystickText) {}
 
 std::string Speaker::Sentence(std::string_view subject, std::string_view lines,
                               const Sequence& sequence) const {

@@ -70,12 +70,6 @@ constexpr Saying kHatPlaces[] = {
 constexpr std::string_view kKeypad = "KP";
 constexpr std::string_view kAux = "AUX";
 
-std::string Capitals(std::string_view word) {
-  std::string capitals(word);
-  std::ranges::transform(capitals, capitals.begin(), ToUpper);
-  return capitals;
-}
-
 std::string_view WithoutAux(std::string_view word) {
   const bool hasAux = word.size() > kAux.size() && SameWord(word.substr(0, kAux.size()), kAux);
   return hasAux ? word.substr(kAux.size()) : word;
@@ -162,11 +156,11 @@ std::string KeyInWords(std::string_view word) {
   if (SameWord(name.substr(0, kKeypad.size()), kKeypad)) {
     return Said({"keypad ", name.substr(kKeypad.size())});
   }
-  return Capitals(name);
+  return UpperCase(name);
 }
 
 std::string ControlInWords(std::string_view name) {
-  std::string capitals = Capitals(name);
+  std::string capitals = UpperCase(name);
   if (const std::string_view said = SaidFor(kControlWords, capitals); !said.empty()) return std::string(said);
   if (FlagNumber(capitals)) return Said({"flag ", capitals});
   if (DevicesWith(AbilityKind::Control, capitals) == 0) return Shown(name);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "language/Names.h"
+#include "language/NullSigns.h"
 
 namespace tarvik::model {
 
@@ -46,7 +47,7 @@ class Speaker {
   [[nodiscard]] std::string CommentOf(const MacroNames& macro) const;
   /// A condition in words: "S3 is pressed and flag X2 is off".
   [[nodiscard]] std::string InWords(std::string_view lines, const Condition& condition) const;
-  [[nodiscard]] bool IsNullSign(std::string_view word) const;
+  [[nodiscard]] bool IsNullSign(std::string_view word) const { return nullSigns_.Hold(word); }
   [[nodiscard]] const FilePair& Pair() const { return pair_; }
   [[nodiscard]] const NameIndex& Names() const { return names_; }
 
@@ -56,7 +57,7 @@ class Speaker {
   const FilePair& pair_;
   const NameIndex& names_;
   bool hasMacros_ = false;
-  std::vector<std::string_view> nullSigns_;
+  NullSigns nullSigns_;
 };
 
 /// An axis statement as a sentence without its full stop.

@@ -19,17 +19,7 @@ using model::SameWord;
 
 constexpr double kPerCent = 100;
 
-std::string Capitals(std::string_view word) {
-  std::string capitals(word);
-  std::ranges::transform(capitals, capitals.begin(), ToUpper);
-  return capitals;
-}
-
-/// There are 48 of them.
-bool IsFlag(std::string_view word) {
-  constexpr std::uint32_t kMostFlags = 48;
-  return model::FlagNumber(word).value_or(kMostFlags + 1) <= kMostFlags;
-}
+bool IsFlag(std::string_view word) { return model::IsFlag(model::FlagNumber(word).value_or(0)); }
 
 class Compiler {
  public:
@@ -59,7 +49,7 @@ class Compiler {
 
   std::uint32_t Control(std::string_view name) {
     if (const auto known = program_.FindControl(name)) return *known;
-    program_.controls.push_back(Capitals(name));
+    program_.controls.push_back(UpperCase(name));
     return static_cast<std::uint32_t>(program_.controls.size() - 1);
   }
 
@@ -112,7 +102,7 @@ class Compiler {
     if (SameWord(word, "NOMOUSE"))
       std::erase_if(program_.links, [](const Link& each) { return each.kind == LinkKind::Mouse; });
     if (!SameWord(word, "MTYPE") || setting.values.size() < 2) return;
-    const std::string type = Capitals(at.Words(setting.values[1]));
+    const std::string type = UpperCase(at.Words(setting.values[1]));
     for (const tables::MouseListRow& list : tables::kMouseLists) {
       const auto number = model::NumberIn(std::string_view(type).substr(1));
       if (type.front() != list.letter || !number || *number < 1 || *number > list.types.size()) continue;

@@ -52,20 +52,8 @@ Writer::Writer(const model::FilePair& pair, Program& program)
     : pair_(pair),
       program_(program),
       names_(pair.joystick, pair.joystickText, pair.macros, pair.macroText),
-      hold_(RateOf(pair, program.timing)) {
-  nullSigns_.push_back("^");
-  for (std::size_t i = 0; i < pair.joystick.size(); ++i) {
-    const auto& each = pair.joystick[i];
-    if (each.row == nullptr || each.row->word != "NULLCHR") continue;
-    for (const Range& value : std::get<model::Setting>(each.body).values) {
-      nullSigns_.push_back(In(pair.joystick.LinesOf(i, pair.joystickText), value));
-    }
-  }
-}
-
-bool Writer::IsNullSign(std::string_view word) const {
-  return std::ranges::any_of(nullSigns_, [&](std::string_view sign) { return model::SameWord(sign, word); });
-}
+      nullSigns_(pair.joystick, pair.joystickText),
+      hold_(RateOf(pair, program.timing)) {}
 
 std::uint32_t Writer::AddSource(const Text& text, Range range) {
   Source source = text.source;
@@ -276,7 +264,7 @@ void Writer::WriteRepeated(const Text& text, std::span<const Item> items, const 
 
 void Writer::WriteItem(const Text& text, const Item& item, const Manner& manner) {
   const std::string_view word = In(text.lines, item.range);
-  if (IsNullSign(word)) return held_.clear();
+  if (nullSigns_.Hold(word)) return held_.clear();
   // A macro may have branches for the other of the two.
   if (manner.press != press_ && item.kind != ItemKind::Name) return;
   switch (item.kind) {

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "language/Names.h"
+#include "language/NullSigns.h"
 #include "play/Program.h"
 
 namespace tarvik::play {
@@ -23,7 +24,6 @@ class Writer {
   [[nodiscard]] Entry Write(const Text& text, const model::Sequence& sequence, std::size_t layer, bool press);
   /// What one key of an axis sends.
   [[nodiscard]] Entry WriteKeys(const Text& text, std::span<const model::Item> items);
-  [[nodiscard]] bool IsNullSign(std::string_view word) const;
   std::uint32_t AddSource(const Text& text, Range range);
 
  private:
@@ -64,7 +64,7 @@ class Writer {
   const model::FilePair& pair_;
   Program& program_;
   model::NameIndex names_;
-  std::vector<std::string_view> nullSigns_;
+  model::NullSigns nullSigns_;
   std::map<std::pair<std::size_t, std::size_t>, std::uint32_t> turns_;  // by the place of the first turn
   std::vector<std::size_t> open_;                                       // the macros that are being written
   std::string layer_;      // of the sequence that is being walked over

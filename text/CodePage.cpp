@@ -155,6 +155,12 @@ std::string LowerCase(std::string_view text) {
   return result;
 }
 
+std::string UpperCase(std::string_view text) {
+  std::string result(text);
+  std::transform(result.begin(), result.end(), result.begin(), ToUpper);
+  return result;
+}
+
 bool SortsBefore(std::string_view left, std::string_view right) {
   return std::lexicographical_compare(left.begin(), left.end(), right.begin(), right.end(),
                                       [](char a, char b) { return Byte(ToLower(a)) < Byte(ToLower(b)); });

@@ -87,6 +87,7 @@ struct Converted {
 [[nodiscard]] inline char ToLower(char character) { return codepage::kLower[codepage::Byte(character)]; }
 [[nodiscard]] inline char ToUpper(char character) { return codepage::kUpper[codepage::Byte(character)]; }
 [[nodiscard]] std::string LowerCase(std::string_view text);
+[[nodiscard]] std::string UpperCase(std::string_view text);
 
 /// Letters, accented ones included, digits and the underscore: two of them side by side are inside one word.
 [[nodiscard]] inline bool IsWordCharacter(char character) {
