@@ -18,6 +18,7 @@
 #include "tools/templates/TemplateForm.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
+#include "tools/testing/TryOut.h"
 #include "tools/viewers/LogForm.h"
 #include "tools/viewers/Tips.h"
 #include "tools/viewers/ViewImage.h"
@@ -54,6 +55,12 @@ void ShowKeyTest(Workbench& /*bench*/, Shell& shell) {
 
 void ShowAnalyser(Workbench& /*bench*/, Shell& shell) { shell.Tool<JoyPlot>().PicJoy.SetFocus(); }
 
+void ShowTryOut(Workbench& /*bench*/, Shell& shell) {
+  auto& form = shell.Tool<TryOut>();
+  form.Show();
+  form.Controls.SetFocus();
+}
+
 void ShowImageViewer(Workbench& /*bench*/, Shell& shell) {
   auto& form = shell.Tool<ViewImage>();
   form.Show();
@@ -89,6 +96,7 @@ constexpr ToolRow kTools[] = {
                          Modal<EarlierVersions>),
     Row<RenameForm>(ToolId::Rename, "RenameForm", EndsWith::Editor, AskForName),
     Row<KneeboardForm>(ToolId::Kneeboard, "Kneeboard", EndsWith::Editor, Raise<KneeboardForm>),
+    Row<TryOut>(ToolId::TryOut, "TryOut", EndsWith::Editor, ShowTryOut),
     Row<ColourSelector>(ToolId::ColourSelector, "ColourSelector", EndsWith::Frame, ShowColours),
     Row<KeyTestForm>(ToolId::KeyTest, "KeyTestForm", EndsWith::Frame, ShowKeyTest),
     Row<ProgramWait>(ToolId::ProgramWait, "ProgramWait", EndsWith::Frame),

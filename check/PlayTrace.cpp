@@ -16,20 +16,6 @@ Status Complain(const Streams& streams, std::string_view why) {
   return kUnreadable;
 }
 
-/// The first line that came otherwise than expected.
-Status Compare(const play::Trace& trace, const std::vector<std::string>& came, const std::string& path,
-               const Arguments& arguments, const Streams& streams) {
-  const auto [expected, got] = std::ranges::mismatch(trace.expected, came);
-  if (expected == trace.expected.end() && got == came.end()) return kFine;
-  if (arguments.quiet) return kErrors;
-  const auto index = static_cast<std::size_t>(expected - trace.expected.begin());
-  const bool isMore = expected == trace.expected.end();
-  streams.out << path << ':' << (isMore ? trace.expectedLine.back() : trace.expectedLine[index])
-              << ": expected " << (isMore ? "nothing more" : *expected) << ", came "
-              << (got == came.end() ? "nothing more" : *got) << '\n';
-  return kErrors;
-}
-
 Status PlayFiles(const fs::path& joystickPath, const fs::path& tracePath, const Arguments& arguments,
                  const Streams& streams) {
   const auto pair = pairs::PairOnDisk::Read(joystickPath);
@@ -44,13 +30,17 @@ Status PlayFiles(const fs::path& joystickPath, const fs::path& tracePath, const 
     return kUnreadable;
   }
   const auto& trace = std::get<play::Trace>(read);
-  const std::vector<std::string> came = play::Play(trace, program,
-                                                   {std::string(view.names.joystick), view.joystickText,
-                                                    std::string(view.names.macros), view.macroText})
-                                            .All();
-  if (!trace.expected.empty()) return Compare(trace, came, tracePath.string(), arguments, streams);
-  for (const std::string& each : came) {
-    if (!arguments.quiet) streams.out << each << '\n';
+  const play::Outcomes run = play::Play(
+      trace, program,
+      {std::string(view.names.joystick), view.joystickText, std::string(view.names.macros), view.macroText});
+  const auto other = play::DifferenceOf(trace, run);
+  if (other && !arguments.quiet) {
+    streams.out << tracePath.string() << ':' << other->line << ": expected " << other->expected << ", came "
+                << other->came << '\n';
+  }
+  if (other) return kErrors;
+  for (const std::string& each : run.All()) {
+    if (trace.expected.empty() && !arguments.quiet) streams.out << each << '\n';
   }
   return kFine;
 }

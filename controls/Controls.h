@@ -2,6 +2,7 @@
 // the forms' code uses; positions and sizes are in the unit of the form.
 #pragma once
 
+#include <algorithm>
 #include <memory>
 
 #include "controls/ControlArrays.h"
@@ -253,6 +254,14 @@ class ProgressBar : public Control {
   Property<int> Value{*this, "Value", 0};
 };
 
+/// A lever that is moved between 0 and Max.
+class Slider : public Control {
+ public:
+  using Control::Control;
+  Property<int> Max{*this, "Max", 100};
+  Property<int> Value{*this, "Value", 0};
+};
+
 /// A list of texts, sorted or in an order of their own, each of which can bear a tick or stand beside a
 /// colour.
 class ListBox : public Control {
@@ -412,6 +421,9 @@ class Timer : public Component {
   using Component::Component;
   Property<int> Interval{*this, "Interval", 0};  ///< milliseconds
   Property<bool> Enabled{*this, "Enabled", false};
+  /// Milliseconds that have passed since it began or elapsed last: Interval, or what it was late by more.
+  [[nodiscard]] int Passed() const { return std::max(passed, Interval.Get()); }
+  int passed = 0;  ///< as a clock has measured it
   Event<> Elapsed{*this, "Timer"};
 };
 

@@ -10,9 +10,6 @@ constexpr std::size_t kWaitingSteps = 1024;
 constexpr std::size_t kUsualOutputs = 4096;
 /// What one step may do, whatever the files say.
 constexpr int kMostOpsAStep = 20000;
-constexpr std::size_t kUp = 0;
-constexpr std::size_t kMiddle = 1;
-constexpr std::size_t kDown = 2;
 
 }  // namespace
 
@@ -68,7 +65,7 @@ StepResult Engine::Stop(Time now) {
   }
   std::ranges::fill(down_, std::uint8_t{0});
   for (Slot& slot : slots_) slot.passesOver = false;
-  switch_ = kMiddle;
+  switch_ = kSwitchInMiddle;
   flagDeadline_.reset();
   return {outputs_, std::nullopt};
 }
@@ -103,24 +100,24 @@ void Engine::Take(const Event& event) {
     }
     case EventKind::Switch:
       if (!program_.switchOnButtons) {
-        switch_ = std::min<std::size_t>(event.index, kDown);
+        switch_ = std::min(event.index, kSwitchDown);
         return;
       }
-      Put(t7_, event.index == kUp);
-      return Put(t8_, event.index == kDown);
+      Put(t7_, event.index == kSwitchUp);
+      return Put(t8_, event.index == kSwitchDown);
     case EventKind::Move:
       if (event.index < positions_.size()) Move(event.index, std::clamp(event.position, 0.0, 1.0));
       return;
   }
 }
 
-std::size_t Engine::LayerNow() const { return switch_ * 2 + (down_[s3_] != 0 ? 1 : 0); }
+std::size_t Engine::LayerNow() const { return std::size_t{switch_} * 2 + (down_[s3_] != 0 ? 1 : 0); }
 
 void Engine::Put(std::uint32_t control, bool down) {
   if ((down_[control] != 0) == down && isFlag_[control] == 0) return;
   down_[control] = down ? 1 : 0;
   if (program_.switchOnButtons && (control == t7_ || control == t8_)) {
-    switch_ = down_[t7_] != 0 ? kUp : down_[t8_] != 0 ? kDown : kMiddle;
+    switch_ = down_[t7_] != 0 ? kSwitchUp : down_[t8_] != 0 ? kSwitchDown : kSwitchInMiddle;
   }
   for (const Link& link : program_.links) {
     if (link.control != control) continue;

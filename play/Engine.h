@@ -12,9 +12,14 @@ enum class EventKind : std::uint8_t {
   Nothing,  ///< time has passed
   Down,
   Up,
-  Switch,  ///< the dogfight switch; `index` is 0 up, 1 in the middle, 2 down
+  Switch,  ///< the dogfight switch; `index` is where it goes
   Move,    ///< an axis; `index` is one of kAxisNames
 };
+
+/// The places of the dogfight switch.
+inline constexpr std::uint32_t kSwitchUp = 0;
+inline constexpr std::uint32_t kSwitchInMiddle = 1;
+inline constexpr std::uint32_t kSwitchDown = 2;
 
 struct Event {
   EventKind kind = EventKind::Nothing;
@@ -136,7 +141,7 @@ class Engine {
   std::array<std::uint16_t, 5> mouse_ = {};
   std::vector<Output> outputs_;
   std::optional<Time> flagDeadline_;
-  std::size_t switch_ = 1;
+  std::uint32_t switch_ = kSwitchInMiddle;
   std::uint64_t lost_ = 0;
   bool resets_ = false;
   std::uint32_t s3_, mt_, tg1_, tg2_, t7_, t8_;

@@ -2,7 +2,6 @@
 
 #include <charconv>
 
-#include "language/KeyTable.h"
 #include "language/Tokens.h"
 
 namespace tarvik::play {
@@ -17,18 +16,6 @@ struct TrueCode {
 };
 constexpr TrueCode kTrueCodes[] = {{"m", 0x3A}, {"w", 0x1D}};
 
-Key KeyOf(const KeyRow& row) {
-  for (const TrueCode& each : kTrueCodes) {
-    if (each.name == row.name) return each.key;
-  }
-  if (row.make.starts_with("#E1")) return kPause;
-  const bool extended = row.make.starts_with("#E0");
-  const std::string_view digits = row.make.substr(row.make.size() - 2);
-  unsigned code = 0;
-  std::from_chars(digits.data(), digits.data() + digits.size(), code, 16);
-  return static_cast<Key>(code + (extended ? kExtended : 0U));
-}
-
 std::optional<NamedKey> KeyOfSign(char sign) {
   const bool isCapital = sign >= 'A' && sign <= 'Z';
   for (const KeyRow& row : kKeys) {
@@ -40,6 +27,18 @@ std::optional<NamedKey> KeyOfSign(char sign) {
 }
 
 }  // namespace
+
+Key KeyOf(const KeyRow& row) {
+  for (const TrueCode& each : kTrueCodes) {
+    if (each.name == row.name) return each.key;
+  }
+  if (row.make.starts_with("#E1")) return kPause;
+  const bool extended = row.make.starts_with("#E0");
+  const std::string_view digits = row.make.substr(row.make.size() - 2);
+  unsigned code = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), code, 16);
+  return static_cast<Key>(code + (extended ? kExtended : 0U));
+}
 
 std::optional<NamedKey> KeyNamed(std::string_view word) {
   if (word.size() == 1) return KeyOfSign(word.front());

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "language/KeyTable.h"
 #include "play/Program.h"
 
 namespace tarvik::play {
@@ -17,6 +18,8 @@ struct NamedKey {
   bool shifted = false;
 };
 
+/// The key that sends what the keyboard on screen tells of it, but where the table errs.
+[[nodiscard]] Key KeyOf(const KeyRow& row);
 /// None for a word that names no key.
 [[nodiscard]] std::optional<NamedKey> KeyNamed(std::string_view word);
 

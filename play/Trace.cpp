@@ -17,6 +17,15 @@ constexpr std::size_t kMostSteps = 200000;
 constexpr double kPerCent = 100;
 constexpr std::string_view kSwitchPlaces[] = {"up", "middle", "down"};
 
+constexpr double kMilli = 1000;
+
+/// A number of parts of one, such as 1250 thousandths, without zeros at its end: 1.25
+std::string Decimal(std::int64_t parts, double ofOne) {
+  std::array<char, 32> digits = {};
+  const double value = static_cast<double>(parts) / ofOne;
+  return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr};
+}
+
 std::string_view Trimmed(std::string_view line) {
   while (!line.empty() && model::IsBlank(line.front())) line.remove_prefix(1);
   while (!line.empty() && model::IsBlank(line.back())) line.remove_suffix(1);
@@ -36,7 +45,6 @@ std::optional<double> Measure(std::string_view word, std::string_view unit) {
 
 /// Up to an hour.
 std::optional<Time> WaitIn(std::string_view word) {
-  constexpr double kMilli = 1000;
   constexpr double kSecond = 1000000;
   constexpr double kLongest = 3600 * kSecond;
   std::optional<double> micros = Measure(word, "ms");
@@ -224,6 +232,40 @@ std::vector<std::string> Outcomes::All() const {
   std::vector<std::string> all;
   for (const auto& each : outputs) all.insert(all.end(), each.begin(), each.end());
   return all;
+}
+
+std::string LineOf(const Event& event, const Program& program) {
+  constexpr double kTenths = 10;
+  std::string line;
+  switch (event.kind) {
+    case EventKind::Nothing:
+      return line;
+    case EventKind::Down:
+    case EventKind::Up:
+      return line.append(program.controls[event.index])
+          .append(event.kind == EventKind::Down ? " down" : " up");
+    case EventKind::Switch:
+      return line.append("DOGFIGHT ").append(kSwitchPlaces[event.index]);
+    case EventKind::Move:
+      return line.append(kAxisNames[event.index])
+          .append(" ")
+          .append(Decimal(std::llround(event.position * kPerCent * kTenths), kTenths))
+          .append("%");
+  }
+  return line;
+}
+
+std::string LineOf(Time wait) { return Decimal(wait.count(), kMilli).append("ms"); }
+
+std::optional<TraceDifference> DifferenceOf(const Trace& trace, const Outcomes& run) {
+  constexpr const char* kNoMore = "nothing more";
+  const std::vector<std::string> all = run.All();
+  const auto [expected, came] = std::ranges::mismatch(trace.expected, all);
+  const bool isMore = expected == trace.expected.end();
+  if (trace.expected.empty() || (isMore && came == all.end())) return std::nullopt;
+  const auto index = static_cast<std::size_t>(expected - trace.expected.begin());
+  return TraceDifference{isMore ? trace.expectedLine.back() : trace.expectedLine[index],
+                         isMore ? kNoMore : *expected, came == all.end() ? kNoMore : *came};
 }
 
 Outcomes Play(const Trace& trace, const Program& program, const PlayedFiles& files) {

@@ -50,6 +50,10 @@ struct PlayedFiles {
 /// `program` knows the controls.
 [[nodiscard]] std::variant<Trace, TraceError> ReadTrace(std::string_view text, const Program& program);
 
+/// What `ReadTrace` reads as this event, or as so much time to pass.
+[[nodiscard]] std::string LineOf(const Event& event, const Program& program);
+[[nodiscard]] std::string LineOf(Time wait);
+
 /// What came, by the lines of the trace.
 struct Outcomes {
   std::vector<std::vector<std::string>> outputs;  ///< one list for each of Trace::lines
@@ -57,6 +61,15 @@ struct Outcomes {
 
   [[nodiscard]] std::vector<std::string> All() const;
 };
+
+/// The first line that came otherwise than expected.
+struct TraceDifference {
+  std::size_t line = 0;  ///< of the trace, from 1
+  std::string expected;
+  std::string came;
+};
+/// None for a trace that expects nothing.
+[[nodiscard]] std::optional<TraceDifference> DifferenceOf(const Trace& trace, const Outcomes& run);
 
 /// Plays on for a second after the last line, and lets go of all then.
 [[nodiscard]] Outcomes Play(const Trace& trace, const Program& program, const PlayedFiles& files);

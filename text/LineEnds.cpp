@@ -83,4 +83,13 @@ std::string LineEnds::PutBackInto(std::string_view text) const {
   return bytes;
 }
 
+std::string WithDosEnds(std::string_view text) {
+  std::string dos;
+  for (const char byte : text) {
+    if (byte == '\n') dos.push_back('\r');
+    dos.push_back(byte);
+  }
+  return dos;
+}
+
 }  // namespace tarvik

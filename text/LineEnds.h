@@ -28,4 +28,7 @@ class LineEnds {
   End usual_ = End::CrLf;
 };
 
+/// A text of lines that end in LF with the line ends of the user's own files, CR LF.
+[[nodiscard]] std::string WithDosEnds(std::string_view text);
+
 }  // namespace tarvik

@@ -26,10 +26,15 @@ FileModels::FileModels(Documents& documents)
     : documents_(documents),
       joystick_(documents.joystick.text.Characters()),
       macros_(documents.macro.text.Characters()) {
-  for (const Document* const document : {&documents.joystick, &documents.macro}) {
+  for (Document* const document : {&documents.joystick, &documents.macro}) {
     connections_.push_back(document->text.Edited.Connect([this, document](const PaneEdit& edit) {
       if (!edit.OnlyColours()) Follow(*document, edit);
     }));
+    connections_.push_back(document->Name.Changed.Connect([this] { Changed(); }));
+  }
+  Settings& settings = documents.settings;
+  for (Property<int>* const part : {&settings.JoyName, &settings.ThrottleName, &settings.RudderName}) {
+    connections_.push_back(part->Changed.Connect([this] { Changed(); }));
   }
 }
 
@@ -43,6 +48,7 @@ void FileModels::Follow(const Document& document, const PaneEdit& edit) {
   } else {
     follow(macros_);
   }
+  Changed();
 }
 
 const model::NameIndex& FileModels::Names() const {

@@ -24,6 +24,8 @@ class FileModels {
   [[nodiscard]] model::FilePair Pair() const;
   /// Its names, until the next edit too.
   [[nodiscard]] const model::NameIndex& Names() const;
+  /// One of the files, its name, or what is attached has changed.
+  Signal<> Changed;
 
  private:
   [[nodiscard]] model::Hardware Chosen() const;

@@ -93,6 +93,12 @@ QWidget* ShowButton(CommandButton& button, Bindings& bindings) {
   return widget;
 }
 
+QWidget* ShowSlider(Slider& slider, Bindings& bindings) {
+  auto* const widget = new QSlider(Qt::Horizontal);
+  bindings.Bind(slider, *widget);
+  return widget;
+}
+
 QWidget* ShowList(ListBox& list, Bindings& bindings) {
   auto* const view = new ListStack(bindings, ToScreen(list.FullName()), Ticks::None);
   view->Add(list);
@@ -134,6 +140,7 @@ constexpr ShowKind kKinds[] = {
     Only<ToggleLabel, ShowOn<Button>>,
     Only<Label, ShowOn<QLabel>>,
     Only<ComboBox, ShowOn<QComboBox>>,
+    Only<Slider, ShowSlider>,
     Only<ListBox, ShowList>,
     Only<Pane, ShowPane>,
     Only<PlotBox, ShowPlot>,

@@ -5,21 +5,16 @@
 #include <limits>
 
 #include "screen/pages/FormLayout.h"
+#include "screen/pages/KeyFaces.h"
 #include "screen/widgets/Conversions.h"
+#include "screen/widgets/Keys.h"
 
 namespace tarvik::screen {
 namespace {
 
-constexpr double kUsualScale = 1 / 12.5;  // pixels to the twip
+// Pixels to the twip.
+constexpr double kUsualScale = 1 / 12.5;
 constexpr double kSmallestScale = 1 / 15.0;
-constexpr int kFontHeight = 175;  // twips, as all below
-constexpr int kSignHeight = 215;  // of a face with one character
-constexpr int kGap = 14;          // around each cap
-constexpr int kCorner = 50;
-constexpr int kSide = 28;
-constexpr int kFront = 70;  // more of the cap's side is seen below its face
-
-constexpr QColor kHeld{0xFF, 0xC0, 0x80};
 
 struct SpokenKey {
   int key;
@@ -90,37 +85,6 @@ QString Spoken(int key, const QString& face) {
   return face;
 }
 
-constexpr QSize Extent() {
-  int width = 0;
-  int height = 0;
-  for (const KeyRow& row : kKeys) {
-    width = std::max(width, row.place.left + row.place.width);
-    height = std::max(height, row.place.top + row.place.height);
-  }
-  return {width, height};
-}
-
-QPoint Direction(int key) {
-  switch (key) {
-    case Qt::Key_Left:
-      return {-1, 0};
-    case Qt::Key_Right:
-      return {1, 0};
-    case Qt::Key_Up:
-      return {0, -1};
-    case Qt::Key_Down:
-      return {0, 1};
-    default:
-      return {};
-  }
-}
-
-QColor Mixed(const QColor& one, const QColor& other, double part) {
-  const auto mix = [part](float a, float b) { return static_cast<float>(a + (b - a) * part); };
-  return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
-                          mix(one.blueF(), other.blueF()));
-}
-
 }  // namespace
 
 // One key.
@@ -135,47 +99,22 @@ void KeyCap::SayFace() { setAccessibleName(Spoken(row_.key, text())); }
 
 /// A key that cannot be pressed is held by its toggle.
 QColor KeyCap::FaceColour() const {
-  if (!isEnabled()) return kHeld;
+  if (!isEnabled()) return kHeldKey;
   const QColor face = palette().color(QPalette::Button);
   if (isDown()) return Mixed(face, palette().color(QPalette::Highlight), 0.45);
   return underMouse() ? Mixed(face, palette().color(QPalette::Highlight), 0.15) : face;
 }
 
 void KeyCap::paintEvent(QPaintEvent*) {
-  const double scale = keyboard_.Scale();
-  const bool down = isDown() || !isEnabled();
-  const QColor face = FaceColour();
-  const QColor ink = isEnabled() ? palette().color(QPalette::ButtonText) : QColor(Qt::black);
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-
-  const double gap = kGap * scale;
-  const QRectF cap = QRectF(rect()).adjusted(gap, gap, -gap, -gap);
-  const bool focused = hasFocus();
-  painter.setPen(focused ? QPen(palette().color(QPalette::Highlight), 2) : QPen(Mixed(face, ink, 0.45), 1));
-  painter.setBrush(Mixed(face, Qt::black, 0.16));
-  painter.drawRoundedRect(focused ? cap.adjusted(0.5, 0.5, -0.5, -0.5) : cap, kCorner * scale,
-                          kCorner * scale);
-
-  const double side = kSide * scale;
-  const double above = down ? side * 2 : side;  // pressed, it sinks
-  const QRectF top = cap.adjusted(side, above, -side, above - kFront * scale - side);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(Mixed(face, Qt::white, 0.12));
-  painter.drawRoundedRect(top, kCorner * scale, kCorner * scale);
-
-  QFont letters = font();
-  letters.setPixelSize(
-      static_cast<int>((text().size() > 1 && text()[0] != u'&' ? kFontHeight : kSignHeight) * scale));
-  const int wide = QFontMetrics(letters).horizontalAdvance(text());
-  if (wide > top.width()) letters.setStretch(static_cast<int>(100 * top.width() / wide));
-  painter.setFont(letters);
-  painter.setPen(ink);
-  painter.drawText(top, Qt::AlignCenter | Qt::TextShowMnemonic, text());
+  const QColor ink = isEnabled() ? palette().color(QPalette::ButtonText) : QColor(Qt::black);
+  PaintKey(painter, QRectF(rect()), keyboard_.Scale(), text(),
+           {palette(), font(), FaceColour(), ink, isDown() || !isEnabled(), hasFocus()});
 }
 
 void KeyCap::keyPressEvent(QKeyEvent* event) {
-  const QPoint direction = Direction(event->key());
+  const QPoint direction = WayOf(event->key());
   if (!direction.isNull()) {
     keyboard_.Go(*this, direction);
   } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
@@ -220,19 +159,15 @@ KeyboardView::KeyboardView(RAWform& form, Bindings& bindings) {
   LeaveStop();
 }
 
-double KeyboardView::Scale() const {
-  const QSize extent = Extent();
-  return std::min(static_cast<double>(width()) / extent.width(),
-                  static_cast<double>(height()) / extent.height());
-}
+double KeyboardView::Scale() const { return KeyScaleIn(size()); }
 
-QSize KeyboardView::sizeHint() const { return Extent() * kUsualScale; }
-QSize KeyboardView::minimumSizeHint() const { return Extent() * kSmallestScale; }
+QSize KeyboardView::sizeHint() const { return KeyboardExtent() * kUsualScale; }
+QSize KeyboardView::minimumSizeHint() const { return KeyboardExtent() * kSmallestScale; }
 
 void KeyboardView::resizeEvent(QResizeEvent*) {
   const double scale = Scale();
-  const double left = (width() - Extent().width() * scale) / 2;
-  const double top = (height() - Extent().height() * scale) / 2;
+  const double left = (width() - KeyboardExtent().width() * scale) / 2;
+  const double top = (height() - KeyboardExtent().height() * scale) / 2;
   for (KeyCap* const cap : caps_) {
     const Place& place = cap->row().place;
     cap->setGeometry(

@@ -7,6 +7,7 @@
 #include "tools/composer/InsertOptions.h"
 #include "tools/preferences/Preferences.h"
 #include "tools/printing/KneeboardForm.h"
+#include "tools/testing/TryOut.h"
 #include "tools/wizards/Speedy.h"
 #include "tools/wizards/Wizard.h"
 
@@ -23,5 +24,6 @@ using MakePage = std::function<QLayout*(const FormLayout&)>;
 [[nodiscard]] QLayout* Page(Wizard& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(Speedy& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(KneeboardForm& form, const FormLayout& in);
+[[nodiscard]] QLayout* Page(TryOut& form, const FormLayout& in);
 
 }  // namespace tarvik::screen

@@ -409,7 +409,7 @@ MakePage PageOf(Form& form) {
   return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, Wizard, Speedy, Title, Heading,
                    SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
                    EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, CompareTexts, UnsavedTexts,
-                   EarlierVersions, RenameForm, KneeboardForm, ViewImage, SelectPictureForm>(form);
+                   EarlierVersions, RenameForm, KneeboardForm, TryOut, ViewImage, SelectPictureForm>(form);
 }
 
 }  // namespace tarvik::screen

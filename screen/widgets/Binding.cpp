@@ -1,10 +1,12 @@
 #include "screen/widgets/Binding.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <cmath>
+#include <memory>
 
 #include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
@@ -452,18 +454,30 @@ void Bindings::Bind(ProgressBar& bar, QProgressBar& widget) {
   Bind(bar.Value, [&] { widget.setValue(bar.Value); });
 }
 
+void Bindings::Bind(Slider& slider, QSlider& widget) {
+  BindControl(slider, widget);
+  Bind(slider.Max, [&] { widget.setMaximum(slider.Max); });
+  Bind(slider.Value, [&] { widget.setValue(slider.Value); });
+  QObject::connect(&widget, &QSlider::valueChanged, &widget, [&](int value) { slider.Value = value; });
+}
+
 void Bindings::Bind(Timer& timer, QTimer& clock) {
   Shows(timer, clock);
-  const auto show = [&] {
+  const auto began = std::make_shared<QElapsedTimer>();
+  const auto show = [&timer, &clock, began] {
     if (timer.Enabled && timer.Interval > 0) {
       clock.start(std::max(timer.Interval.Get(), kScreenPace));
+      began->start();
     } else {
       clock.stop();
     }
   };
   Bind(timer.Interval, show);
   Bind(timer.Enabled, show);
-  QObject::connect(&clock, &QTimer::timeout, &clock, [&] { timer.Elapsed(); });
+  QObject::connect(&clock, &QTimer::timeout, &clock, [&timer, began] {
+    timer.passed = static_cast<int>(began->restart());
+    timer.Elapsed();
+  });
 }
 
 }  // namespace tarvik::screen

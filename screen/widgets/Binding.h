@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QSlider>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -81,6 +82,7 @@ class Bindings {
   void Bind(TabPages& pages, QTabWidget& widget);
   void Bind(TabStrip& strip, QTabBar& widget);
   void Bind(ProgressBar& bar, QProgressBar& widget);
+  void Bind(Slider& slider, QSlider& widget);
   void Bind(Timer& timer, QTimer& clock);
 
  private:

@@ -6,9 +6,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <algorithm>
 #include <cmath>
 
 #include "screen/widgets/Conversions.h"
+#include "screen/widgets/Keys.h"
 
 // A static library's resources are linked only when they are asked for, from outside any namespace.
 static void InitialiseDevices() { Q_INIT_RESOURCE(devices); }
@@ -26,7 +28,7 @@ constexpr qreal kSmallestFont = 9;      // in pixels
 constexpr int kSmallestWithWords = 22;  // the height of a label, in pixels
 constexpr QColor kLight(0x1F, 0x66, 0xA8);
 constexpr QColor kDark(0x7C, 0xBC, 0xF0);
-constexpr const char* kHint = "Click on a hat/switch to insert into your file";
+constexpr const char* kUsualHint = "Click on a hat/switch to insert into your file";
 
 QByteArray Content(const QString& name) {
   QFile file(QLatin1String(":/devices/") + name);
@@ -48,6 +50,12 @@ QFont FontOf(const QWidget& widget, qreal height) {
   QFont font = widget.font();
   font.setPixelSize(static_cast<int>(std::lround(std::max(kSmallestFont, height))));
   return font;
+}
+
+/// With 1 and -1 at the edges.
+QPointF FromMiddle(const QPointF& place, const QRectF& area) {
+  const QPointF way = place - area.center();
+  return {2 * way.x() / area.width(), 2 * way.y() / area.height()};
 }
 
 void ShowTip(const QHelpEvent& rests, const QString& tip, QWidget& widget) {
@@ -123,22 +131,31 @@ void DeviceLabel::PaintWords(QPainter& painter) const {
   painter.drawText(line(kWords), Qt::AlignCenter | Qt::TextDontClip, place_);
 }
 
-void DeviceLabel::keyPressEvent(QKeyEvent* event) {
-  switch (event->key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return click();
-    case Qt::Key_Left:
-      return device_.MoveFocus(*this, {-1, 0});
-    case Qt::Key_Right:
-      return device_.MoveFocus(*this, {1, 0});
-    case Qt::Key_Up:
-      return device_.MoveFocus(*this, {0, -1});
-    case Qt::Key_Down:
-      return device_.MoveFocus(*this, {0, 1});
-    default:
-      QAbstractButton::keyPressEvent(event);
+void DeviceLabel::mousePressEvent(QMouseEvent* event) {
+  const bool isHeld =
+      event->button() == Qt::LeftButton && device_.Hold(*this, FromMiddle(event->position(), QRectF(rect())));
+  if (isHeld) {
+    setFocus(Qt::MouseFocusReason);
+  } else {
+    QAbstractButton::mousePressEvent(event);
   }
+}
+
+void DeviceLabel::mouseReleaseEvent(QMouseEvent* event) {
+  if (!device_.LetGo()) QAbstractButton::mouseReleaseEvent(event);
+}
+
+void DeviceLabel::keyPressEvent(QKeyEvent* event) {
+  const QPoint way = WayOf(event->key());
+  const bool presses = event->key() == Qt::Key_Space || event->modifiers() == Qt::ControlModifier;
+  if (presses && !event->isAutoRepeat() && device_.Hold(*this, way)) return;
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return click();
+  if (!way.isNull()) return device_.MoveFocus(*this, way);
+  QAbstractButton::keyPressEvent(event);
+}
+
+void DeviceLabel::keyReleaseEvent(QKeyEvent* event) {
+  if (event->isAutoRepeat() || !device_.LetGo()) QAbstractButton::keyReleaseEvent(event);
 }
 
 void DeviceLabel::focusInEvent(QFocusEvent* event) {
@@ -164,7 +181,8 @@ void DeviceLabel::leaveEvent(QEvent* event) {
 
 // The drawing.
 
-DeviceView::DeviceView(const QString& drawing, Bindings& bindings) : bindings_(bindings) {
+DeviceView::DeviceView(const QString& drawing, Bindings& bindings)
+    : bindings_(bindings), hint_(QString::fromLatin1(kUsualHint)) {
   InitialiseDevices();
   drawing_ = Content(drawing);
   setMouseTracking(true);
@@ -279,7 +297,7 @@ void DeviceView::paintEvent(QPaintEvent*) {
   painter.setPen(palette().color(QPalette::WindowText));
   const QRectF hint = RectOf(QStringLiteral("hint"));
   painter.setFont(FontOf(*this, kHintHeight * hint.height() / 40));
-  painter.drawText(hint, Qt::AlignCenter, QString::fromLatin1(kHint));
+  painter.drawText(hint, Qt::AlignCenter, hint_);
 }
 
 void DeviceView::resizeEvent(QResizeEvent*) {
@@ -322,7 +340,27 @@ void DeviceView::mousePressEvent(QMouseEvent* event) {
   DeviceLabel* const label = LabelAt(event->position());
   if (!label || event->button() != Qt::LeftButton) return;
   label->setFocus(Qt::MouseFocusReason);
-  label->click();
+  const auto spot = std::ranges::find(spots_, label, &Spot::label);
+  if (!Hold(*label, FromMiddle(event->position(), ControlOf(*spot)))) label->click();
+}
+
+void DeviceView::mouseReleaseEvent(QMouseEvent*) { LetGo(); }
+
+void DeviceView::HoldDown(Press press, std::function<void()> release) {
+  press_ = std::move(press);
+  release_ = std::move(release);
+}
+
+bool DeviceView::Hold(const DeviceLabel& label, QPointF place) {
+  const auto spot = std::ranges::find(spots_, &label, &Spot::label);
+  if (!press_ || spot == spots_.end()) return false;
+  press_(*spot->shown, place);
+  return true;
+}
+
+bool DeviceView::LetGo() {
+  if (release_) release_();
+  return release_ != nullptr;
 }
 
 void DeviceView::leaveEvent(QEvent*) { Point(nullptr); }

@@ -28,7 +28,10 @@ class DeviceLabel : public QAbstractButton {
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void enterEvent(QEnterEvent* event) override;
@@ -57,6 +60,16 @@ class DeviceView : public QWidget {
   void ForgetAssigned();
   void TakeAssigned();
 
+  /// Controls are held down and let go instead of being clicked. `press` hears where: from the middle of the
+  /// control or its label, with 1 and -1 at the edges.
+  using Press = std::function<void(const Label& label, QPointF place)>;
+  void HoldDown(Press press, std::function<void()> release);
+  /// The line below the device.
+  void SetHint(const QString& hint) { hint_ = hint; }
+  /// Whether the label is held down now, because controls are.
+  bool Hold(const DeviceLabel& label, QPointF place);
+  bool LetGo();
+
   [[nodiscard]] QSize sizeHint() const override;
   /// The label that is to look as if the pointer were on it: it is on its control.
   [[nodiscard]] const DeviceLabel* Pointed() const { return pointed_; }
@@ -73,6 +86,7 @@ class DeviceView : public QWidget {
   void changeEvent(QEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void leaveEvent(QEvent* event) override;
 
  private:
@@ -98,6 +112,9 @@ class DeviceView : public QWidget {
   std::function<Assigned()> ask_ = [] { return Assigned(); };
   bool isTaken_ = false;
   DeviceLabel* pointed_ = nullptr;
+  QString hint_;
+  Press press_;
+  std::function<void()> release_;
 };
 
 }  // namespace tarvik::screen

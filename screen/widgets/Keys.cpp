@@ -135,6 +135,21 @@ int VirtualKey(const QKeyEvent& event) {
   return code == 0 ? kCharacterAlone : code;
 }
 
+QPoint WayOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return {-1, 0};
+    case Qt::Key_Right:
+      return {1, 0};
+    case Qt::Key_Up:
+      return {0, -1};
+    case Qt::Key_Down:
+      return {0, 1};
+    default:
+      return {};
+  }
+}
+
 bool TypesNothing(const QKeyEvent& event) {
   return !event.text().isEmpty() && (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier));
 }

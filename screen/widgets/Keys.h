@@ -15,6 +15,9 @@ namespace tarvik::screen {
 /// 108, and Print Screen has 42. Keys without a code get that of a character which comes from no key, 231.
 [[nodiscard]] int VirtualKey(const QKeyEvent& event);
 
+/// Where an arrow key of the toolkit leads: one step right or left, down or up; nowhere with any other key.
+[[nodiscard]] QPoint WayOf(int key);
+
 /// With Alt, or the desktop's own modifier, a key that would type is a command, or nothing.
 [[nodiscard]] bool TypesNothing(const QKeyEvent& event);
 

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "text/CodePage.h"
+#include "text/LineEnds.h"
 
 namespace tarvik {
 namespace {
@@ -67,16 +68,6 @@ Value Chosen(const Property<int>& setting, Value last) {
   return static_cast<Value>(std::clamp(setting.Get(), 0, static_cast<int>(last)));
 }
 
-/// The text with line ends as in the user's own files.
-std::string WithDosEnds(std::string_view text) {
-  std::string dos;
-  for (const char byte : text) {
-    if (byte == '\n') dos.push_back('\r');
-    dos.push_back(byte);
-  }
-  return dos;
-}
-
 bool Contains(const kneeboard::Area& area, kneeboard::Spot spot) {
   return spot.x >= area.x && spot.x < area.Right() && spot.y >= area.y && spot.y < area.Bottom();
 }
@@ -95,7 +86,7 @@ KneeboardForm::KneeboardForm(Workbench& bench, Shell& shell) : ToolForm("Kneeboa
   Done.Cancel = true;
   FillChoices();
   FollowChoices();
-  FollowFiles();
+  connections_.push_back(bench.models.Changed.Connect([this] { pause.Begin(); }));
   Renew();
 }
 
@@ -128,20 +119,6 @@ void KneeboardForm::FollowChoices() {
       bench_.settings.Change(setting, box.Value);
       LayOut();
     };
-  }
-}
-
-void KneeboardForm::FollowFiles() {
-  const auto follow = [this] { pause.Begin(); };
-  for (Document* const document : {&bench_.documents.joystick, &bench_.documents.macro}) {
-    connections_.push_back(document->Name.Changed.Connect(follow));
-    connections_.push_back(document->text.Edited.Connect([follow](const PaneEdit& edit) {
-      if (!edit.OnlyColours()) follow();
-    }));
-  }
-  Settings& settings = bench_.settings;
-  for (Property<int>* const part : {&settings.JoyName, &settings.ThrottleName, &settings.RudderName}) {
-    connections_.push_back(part->Changed.Connect(follow));
   }
 }
 

@@ -58,7 +58,6 @@ class KneeboardForm : public ToolForm {
  private:
   void FillChoices();
   void FollowChoices();
-  void FollowFiles();
   /// The files have changed.
   void Renew();
   /// The pages anew, of what the files say already.
