@@ -45,6 +45,7 @@ enum class ToolId {
   EarlierVersions,
   Rename,
   Kneeboard,
+  Sticks,
 };
 
 /// The pages of the preferences.

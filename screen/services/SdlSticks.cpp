@@ -21,10 +21,9 @@ using sdl::Sdl;
 namespace {
 
 namespace fs = std::filesystem;
-using std::chrono_literals::operator""ms;
 
-constexpr auto kLookForOthers = 1000ms;
-constexpr auto kWithoutFile = 10ms;
+constexpr std::chrono::milliseconds kLookForOthers(1000);
+constexpr std::chrono::milliseconds kWithoutFile(10);
 constexpr const char* kSockets = "/dev/input/by-path";
 
 /// The name of the socket, which stays when a stick is plugged in again; the file itself where there is none.
@@ -239,6 +238,7 @@ void SdlSticks::TellStart(const Stick& stick) {
   SDL_Joystick* const handle = stick.handle;
   const StickInfo info = InfoOf(stick);
   std::vector<StickChange> state;
+  state.reserve(static_cast<std::size_t>(info.buttons + info.hats + info.axes));
   for (int i = 0; i < info.buttons; ++i) {
     state.push_back({info.number, StickChangeKind::Button, i, Sdl().JoystickGetButton(handle, i), true});
   }

@@ -164,7 +164,8 @@ void DeviceLabel::leaveEvent(QEvent* event) {
 
 // The drawing.
 
-DeviceView::DeviceView(const QString& drawing, Bindings& bindings) : bindings_(bindings) {
+DeviceView::DeviceView(const QString& drawing, Bindings& bindings)
+    : bindings_(bindings), hint_(QString::fromLatin1(kHint)) {
   InitialiseDevices();
   drawing_ = Content(drawing);
   setMouseTracking(true);
@@ -263,6 +264,20 @@ void DeviceView::PaintPicture() {
   renderer_.render(&painter, ToWidget().mapRect(QRectF({}, kDrawing)));
 }
 
+/// The control glows, and its label is framed.
+void DeviceView::PaintLit(QPainter& painter, const Spot& spot) const {
+  constexpr QColor kLit(0xFF, 0x96, 0x00);
+  constexpr int kGlow = 130;
+  constexpr int kFrame = 3;
+  QColor glow = kLit;
+  glow.setAlpha(kGlow);
+  painter.setPen(QPen(kLit, kFrame));
+  painter.setBrush(glow);
+  painter.drawEllipse(ControlOf(spot));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(QRectF(spot.label->geometry()).adjusted(-kFrame, -kFrame, kFrame, kFrame));
+}
+
 void DeviceView::paintEvent(QPaintEvent*) {
   TakeAssigned();
   PaintPicture();
@@ -270,6 +285,7 @@ void DeviceView::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.drawPixmap(0, 0, picture_);
   for (const Spot& spot : spots_) {
+    if (isLit_(*spot.shown)) PaintLit(painter, spot);
     const bool shown = spot.label == pointed_ || (spot.label->hasFocus() && !spot.label->isHidden());
     if (!shown) continue;
     painter.setPen(QPen(Accent(*this, 200), 2));
@@ -279,7 +295,7 @@ void DeviceView::paintEvent(QPaintEvent*) {
   painter.setPen(palette().color(QPalette::WindowText));
   const QRectF hint = RectOf(QStringLiteral("hint"));
   painter.setFont(FontOf(*this, kHintHeight * hint.height() / 40));
-  painter.drawText(hint, Qt::AlignCenter, QString::fromLatin1(kHint));
+  painter.drawText(hint, Qt::AlignCenter, hint_);
 }
 
 void DeviceView::resizeEvent(QResizeEvent*) {

@@ -200,6 +200,12 @@ const kneeboard::Target* KneeboardForm::TargetAt(kneeboard::Spot spot) const {
   return found == Sheet().targets.end() ? nullptr : &*found;
 }
 
+bool KneeboardForm::Glows(const kneeboard::Target& target) const {
+  const Range glow = bench_.follow.Glow();
+  return glow.length > 0 && target.source && target.source->file == model::FileKind::Joystick &&
+         target.source->range.start >= glow.start && target.source->range.End() <= glow.End();
+}
+
 void KneeboardForm::GoTo(kneeboard::Spot spot) {
   const kneeboard::Target* const target = TargetAt(spot);
   if (!target) return;
