@@ -146,6 +146,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuViewExplainLine", "Explain t&his line", "Ctrl+E"},
     {1, "mnuViewOutline", "Outline by hea&dings", "Ctrl+Shift+O"},
     {1, "mnuViewSuggestAsYouType", "Su&ggest words as you type"},
+    {1, "mnuViewFollowStick", "Follow the stic&k"},
 
     {0, "mnuWindow", "&Window"},
     MenuArray<Editor>(1, "mnuWindowCascade", kArrangements),
@@ -264,6 +265,7 @@ inline constexpr ViewSwitchRow kViewSwitches[] = {
     {"mnuViewExplainLine", &Settings::ExplainLine},
     {"mnuViewOutline", &Settings::Outline},
     {"mnuViewSuggestAsYouType", &Settings::SuggestAsYouType},
+    {"mnuViewFollowStick", &Settings::FollowStick},
     {"mnuAppsErrorsFirst", &Settings::ErrorsBeforeDownload},
 };
 

@@ -81,9 +81,9 @@ Mum::Mum(Application& application)
       menus(*this, kMenus),
       application_(application),
       bench_(application.workbench) {
-  for (Component* const control :
-       std::initializer_list<Component*>{&StatusBar, &ProgressBar1, &Picture1, &bench_.journals.timer,
-                                         &bench_.liveColours.pause.timer, &bench_.problems.pause.timer}) {
+  for (Component* const control : std::initializer_list<Component*>{
+           &StatusBar, &ProgressBar1, &Picture1, &bench_.journals.timer, &bench_.liveColours.pause.timer,
+           &bench_.problems.pause.timer, &bench_.follow.typing.timer, &bench_.follow.resting.timer}) {
     Adopt(*control);
   }
   busy_ = bench_.documents.Busy.Changed.Connect(

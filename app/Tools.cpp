@@ -9,6 +9,7 @@
 #include "tools/pimlet/RAWform.h"
 #include "tools/preferences/DrivesForm.h"
 #include "tools/preferences/Preferences.h"
+#include "tools/preferences/StickForm.h"
 #include "tools/printing/KneeboardForm.h"
 #include "tools/programs/Games.h"
 #include "tools/programs/ProgramWait.h"
@@ -85,6 +86,7 @@ constexpr ToolRow kTools[] = {
     Row<EnterFavouritename>(ToolId::Favourite, "EnterFavouritename", EndsWith::Editor, AddToFavourites),
     Row<EnterGameName>(ToolId::Game, "EnterGameName", EndsWith::Editor, AddGame),
     Row<DrivesForm>(ToolId::Drives, "DrivesForm", EndsWith::Editor),
+    Row<StickForm>(ToolId::Sticks, "StickForm", EndsWith::Editor),
     Row<Preferences>(ToolId::Preferences, "Preferences", EndsWith::Editor, Modal<Preferences>),
     Row<MacroWizard>(ToolId::MacroWizard, "MacroWizard", EndsWith::Editor, Raise<MacroWizard>),
     Row<JoystickWiz>(ToolId::JoystickWizard, "JoystickWiz", EndsWith::Editor, Raise<JoystickWiz>),

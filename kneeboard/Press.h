@@ -4,16 +4,27 @@
 
 #include "kneeboard/Layout.h"
 #include "platform/Outcome.h"
+#include "text/Colour.h"
 
 namespace tarvik::kneeboard {
 
 /// Whether a kneeboard is painted in colours, or for a printer that has none.
 enum class Colouring : std::uint8_t { Colours, BlackAndWhite };
 
+/// The user's own colours for some inks. They can be read on white paper.
+struct UserInks {
+  tarvik::Colour accent = kBlack;
+  tarvik::Colour alarm = kBlack;
+  tarvik::Colour dim = kBlack;
+
+  friend bool operator==(const UserInks&, const UserInks&) = default;
+};
+
 /// What is painted.
 struct Job {
   std::vector<Sheet> sheets = {};
   Colouring colouring = Colouring::Colours;
+  std::optional<UserInks> inks = {};  ///< in the place of ours, where it is in colours
   std::string title = {};  ///< of the document, in UTF-8
   int dotsPerInch = 200;   ///< of pictures
 };

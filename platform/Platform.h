@@ -14,6 +14,7 @@
 #include "platform/Outcome.h"
 #include "platform/Printer.h"
 #include "platform/Programs.h"
+#include "platform/Sticks.h"
 #include "text/CodePage.h"
 #include "text/Colour.h"
 
@@ -180,6 +181,7 @@ struct Platform {
   Printer& printer;
   Desktop& desktop;
   Joystick& joystick;
+  Sticks& sticks;
   Keyboard& keyboard;
   Programs& programs;
   DriveFolders& drives;

@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QToolTip>
 #include <algorithm>
@@ -49,6 +50,7 @@ EditorPane::EditorPane(Editor& editor, Workbench& workbench, Document& document,
       search_(workbench.search),
       problems_(workbench.problems),
       models_(workbench.models),
+      stick_(workbench.follow),
       margin_(new Margin(*this)),
       head_(new Head(*this)) {
   FollowSettings(bindings);
@@ -93,6 +95,10 @@ void EditorPane::FollowWorkbench(Workbench& workbench, Bindings& bindings) {
   bindings.Keep(workbench.liveColours.Changed.Connect([this](const Document& document) {
     if (&document == &document_) viewport()->update();
   }));
+  if (document_.IsJoystick()) {
+    bindings.Keep(workbench.follow.Changed.Connect([this] { viewport()->update(); }));
+    bindings.Keep(workbench.follow.Shows.Connect([this](Range place) { BringIntoView(place); }));
+  }
   bindings.Keep(workbench.search.Changed.Connect([this] { viewport()->update(); }));
   bindings.Keep(workbench.problems.Changed.Connect([this] {
     viewport()->update();
@@ -271,6 +277,7 @@ void EditorPane::PaintBehind(QPainter& painter, const QTextBlock& block, const Q
     band.setRight(viewport()->width());
     painter.fillRect(band, Tint(InkOf(kBlack), kLineTint));
   }
+  if (document_.IsJoystick() && stick_.Glow().length > 0) PaintGlow(painter, block, offset);
   if (!word_.empty() && settings_.OtherPlaces != 0) PaintPlaces(painter, block, offset);
   if (search_.Count() > 0) PaintHits(painter, block, offset);
   if (settings_.MarkProblems != 0) PaintProblems(painter, block, offset);
@@ -306,6 +313,24 @@ void EditorPane::PaintHits(QPainter& painter, const QTextBlock& block, const QPo
     if (*hit < start) continue;
     PaintMark(painter, block, offset, {*hit - start, length}, ToScreenColour(kHit));
   }
+}
+
+/// The statement of what was pressed on the stick.
+void EditorPane::PaintGlow(QPainter& painter, const QTextBlock& block, const QPointF& offset) const {
+  const Range glow = stick_.Glow();
+  const std::size_t start = PanePosition(block.position());
+  const std::size_t end = start + static_cast<std::size_t>(block.length() - 1);
+  const std::size_t from = std::max(glow.start, start);
+  const std::size_t to = std::min(glow.End(), end);
+  if (from < to) PaintMark(painter, block, offset, {from - start, to - from}, ToScreenColour(kHit));
+}
+
+void EditorPane::BringIntoView(Range place) {
+  const QTextBlock block = document()->findBlock(DocumentPosition(place.start));
+  const QRectF shown = blockBoundingGeometry(block).translated(contentOffset());
+  if (!block.isValid() || (shown.top() >= 0 && shown.bottom() <= viewport()->height())) return;
+  const int room = verticalScrollBar()->pageStep();
+  verticalScrollBar()->setValue(block.firstLineNumber() - room / 3);
 }
 
 void EditorPane::PaintProblems(QPainter& painter, const QTextBlock& block, const QPointF& offset) const {

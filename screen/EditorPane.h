@@ -68,6 +68,9 @@ class EditorPane : public PaneView {
   /// Frames a part of a block, and tints it a little.
   void PaintMark(QPainter& painter, const QTextBlock& block, const QPointF& offset, Range range,
                  const QColor& ink) const;
+  void PaintGlow(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
+  /// Scrolls until the place is to be seen, as little as possible; the caret stays.
+  void BringIntoView(Range place);
   void PaintProblems(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
   static void PaintWave(QPainter& painter, const QRectF& place, const QColor& colour);
   /// What is told of the letter that the pointer rests on.
@@ -87,6 +90,7 @@ class EditorPane : public PaneView {
   const IncrementalSearch& search_;
   const Problems& problems_;
   const FileModels& models_;
+  const FollowStick& stick_;
   Margin* margin_;
   Head* head_;
   QColor barColour_;  // of changed lines

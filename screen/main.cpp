@@ -27,6 +27,7 @@
 #include "screen/services/QtPress.h"
 #include "screen/services/QtPrinter.h"
 #include "screen/services/SdlJoystick.h"
+#include "screen/services/SdlSticks.h"
 #include "screen/widgets/Conversions.h"
 #include "screen/widgets/Icons.h"
 #include "screen/widgets/Picture.h"
@@ -107,6 +108,7 @@ struct Services {
   screen::QtCalendar calendar;
   screen::QtDesktop desktop{drives};
   screen::SdlJoystick joystick;
+  screen::SdlSticks sticks;
   screen::QtKeyboard keyboard;
   HostPrograms programs{drives};
   Platform platform{files,
@@ -118,6 +120,7 @@ struct Services {
                     printer,
                     desktop,
                     joystick,
+                    sticks,
                     keyboard,
                     programs,
                     driveFolders,

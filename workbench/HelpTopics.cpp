@@ -9,7 +9,7 @@ int topic::Of(const model::Rule& rule) {
 std::vector<int> topic::All() {
   std::vector<int> topics = {kContents, kMacroLists,       kSlashModifiers, kPimlet,
                              kDrives,   kJoystickAnalyser, kTemplateEditor, kImageViewer,
-                             kRawCodes, kSpiking,          kProblems};
+                             kRawCodes, kSpiking,          kProblems,       kSticks};
   const auto add = [&topics](const auto& pages) {
     topics.insert(topics.end(), std::begin(pages), std::end(pages));
   };

@@ -76,6 +76,7 @@ constexpr Option kOptions[] = {
     {section::kView, &Settings::SuggestAsYouType, "0"},
     {section::kView, &Settings::FileHeads, "1"},
     {section::kView, &Settings::FilterLines, "1"},
+    {section::kView, &Settings::FollowStick, "0"},
     {section::kView, &Settings::FixedPitch, "0"},
     {section::kView, &Settings::Zoom, "100"},
     {section::kView, &Settings::TileShare, "500"},

@@ -18,6 +18,7 @@ inline constexpr const char* kFavourites = "Favourites";
 inline constexpr const char* kGames = "Games";
 inline constexpr const char* kView = "View";
 inline constexpr const char* kKneeboard = "Kneeboard";
+inline constexpr const char* kSticks = "Sticks";
 }  // namespace section
 
 /// How large the text is shown, in per cent of its own size.
@@ -109,6 +110,7 @@ class Settings : public Component {
   Property<int> SuggestAsYouType{*this, "SuggestAsYouType"};          ///< what the word may become
   Property<int> FileHeads{*this, "FileHeads"};                        ///< above the text in the tiled view
   Property<int> FilterLines{*this, "FilterLines"};                    ///< above the lists of macros
+  Property<int> FollowStick{*this, "FollowStick"};                    ///< light what is pressed on a stick
   Property<int> FixedPitch{*this, "FixedPitch"};
   Property<int> Zoom{*this, "Zoom"};            ///< per cent
   Property<int> TileShare{*this, "TileShare"};  ///< of the joystick file in the tiled view, in thousandths

@@ -4,9 +4,10 @@ namespace tarvik {
 namespace {
 
 Platform With(Programs& programs, Desktop& desktop, const Platform& services) {
-  return {services.files,    services.dialogs,    services.instance, services.clipboard, services.help,
-          services.calendar, services.printer,    desktop,           services.joystick,  services.keyboard,
-          programs,          services.drives,     services.journals, services.libraries, services.screen,
+  return {services.files,    services.dialogs,    services.instance,  services.clipboard,
+          services.help,     services.calendar,   services.printer,   desktop,
+          services.joystick, services.sticks,     services.keyboard,  programs,
+          services.drives,   services.journals,   services.libraries, services.screen,
           services.folder,   services.commandLine};
 }
 

@@ -6,6 +6,7 @@
 #include "workbench/ChangedLines.h"
 #include "workbench/Definitions.h"
 #include "workbench/EditCommands.h"
+#include "workbench/FollowStick.h"
 #include "workbench/ForeignEncodings.h"
 #include "workbench/IncrementalSearch.h"
 #include "workbench/JumpHistory.h"
@@ -58,6 +59,8 @@ class Workbench {
   Problems problems{documents, models};
   Definitions definitions{documents, models};
   Rewriting rewriting{documents, models, insertion};
+  StickFeed sticks{platform, settings, errors};
+  FollowStick follow{documents, models, sticks};
   Notices notices;
   Preflight preflight{documents, problems, notices};
   ForeignChanges foreign{documents, files, insertion, notices};

@@ -7,6 +7,20 @@ QColor Palette::Of(kneeboard::Colour colour) const {
   return inks.at(static_cast<std::size_t>(colour.ink));
 }
 
+Palette Palette::Of(const kneeboard::Job& job) {
+  if (job.colouring == kneeboard::Colouring::BlackAndWhite) return BlackAndWhite();
+  Palette palette = Colours();
+  if (!job.inks) return palette;
+  const auto put = [&palette](kneeboard::Ink ink, tarvik::Colour colour) {
+    palette.inks.at(static_cast<std::size_t>(ink)) = QColor::fromRgb(qRgb(static_cast<int>(RedOf(colour)), static_cast<int>(GreenOf(colour)),
+                              static_cast<int>(BlueOf(colour))));
+  };
+  put(kneeboard::Ink::Accent, job.inks->accent);
+  put(kneeboard::Ink::Alarm, job.inks->alarm);
+  put(kneeboard::Ink::Dim, job.inks->dim);
+  return palette;
+}
+
 Palette Palette::Colours() {
   return {
       {QColor(0x16, 0x1b, 0x20), QColor(0x54, 0x5f, 0x6a), QColor(0x15, 0x5a, 0x9c), QColor(0xb3, 0x26, 0x1e),

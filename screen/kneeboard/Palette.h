@@ -15,9 +15,7 @@ struct Palette {
 
   [[nodiscard]] QColor Of(kneeboard::Colour colour) const;
 
-  [[nodiscard]] static Palette Of(kneeboard::Colouring colouring) {
-    return colouring == kneeboard::Colouring::Colours ? Colours() : BlackAndWhite();
-  }
+  [[nodiscard]] static Palette Of(const kneeboard::Job& job);
   [[nodiscard]] static Palette Colours();
   [[nodiscard]] static Palette BlackAndWhite();
 };

@@ -1,4 +1,7 @@
 // The page of the Composer's window.
+#include <algorithm>
+
+#include "language/PicturedControls.h"
 #include "screen/pages/Pages.h"
 #include "screen/widgets/Conversions.h"
 #include "screen/widgets/DeviceView.h"
@@ -48,11 +51,23 @@ DeviceView::Assigned AssignedOn(const InsertOptions& form, tables::Picture pictu
   return assigned;
 }
 
+bool IsLit(const InsertOptions& form, const Label& label) {
+  if (!form.Following().IsOn()) return false;
+  for (const tables::HardwareRow& row : tables::kHardware) {
+    if (&form.LabelOf(row) != &label) continue;
+    const std::vector<std::string> controls = ControlsOf(row, label.Caption.Get());
+    return std::ranges::any_of(controls, [&](const auto& each) { return form.Following().Lights(each); });
+  }
+  return false;
+}
+
 QLayout* Picture(InsertOptions& form, const FormLayout& in, tables::Picture picture, const char* drawing) {
   auto* const view = new DeviceView(QString::fromLatin1(drawing), in.bindings());
   for (const tables::HardwareRow& row : tables::kHardware) {
     if (row.picture == picture) view->Add(form.LabelOf(row), ToScreen(std::string(row.place)));
   }
+  view->AskForLit([&form](const Label& label) { return IsLit(form, label); });
+  in.bindings().Keep(form.Following().Changed.Connect([view] { view->Relight(); }));
   view->AskForAssigned([&form, picture] { return AssignedOn(form, picture); });
   in.bindings().Keep(form.AssignedChanged.Connect([view] { view->ForgetAssigned(); }));
   return Column({view});

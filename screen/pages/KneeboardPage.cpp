@@ -37,7 +37,8 @@ class SheetCanvas : public QWidget {
     painter.translate(kDesk, kDesk);
     painter.fillRect(QRectF(0, 0, sheet.width * scale_, sheet.height * scale_), Qt::white);
     painter.scale(scale_ / kUnits, scale_ / kUnits);
-    PaintSheet(painter, sheet, Palette::Of(form_.Colouring()), drawings_);
+    PaintSheet(painter, sheet, Palette::Of(form_.Job()), drawings_);
+    PaintGlow(painter, sheet);
   }
 
   void mouseMoveEvent(QMouseEvent* event) override {
@@ -49,6 +50,17 @@ class SheetCanvas : public QWidget {
   }
 
  private:
+  /// What is pressed on the stick.
+  void PaintGlow(QPainter& painter, const kneeboard::Sheet& sheet) const {
+    constexpr QColor kGlow(0xFF, 0x96, 0x00, 90);
+    for (const kneeboard::Target& each : sheet.targets) {
+      if (!form_.Glows(each)) continue;
+      const kneeboard::Area& area = each.area;
+      painter.fillRect(QRectF(area.x * kUnits, area.y * kUnits, area.width * kUnits, area.height * kUnits),
+                       kGlow);
+    }
+  }
+
   [[nodiscard]] kneeboard::Spot SpotOf(const QMouseEvent& event) const {
     return {(event.position().x() - kDesk) / scale_, (event.position().y() - kDesk) / scale_};
   }
@@ -72,6 +84,7 @@ class SheetView : public QScrollArea {
     bindings.Bind(form.Page.Caption,
                   [this] { setAccessibleDescription(ToScreen(form_.Page.Caption.Get())); });
     bindings.Keep(form.Changed.Connect([this] { Fit(); }));
+    bindings.Keep(form.Following().Changed.Connect([this] { canvas_->update(); }));
     Fit();
   }
 

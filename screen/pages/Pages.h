@@ -6,6 +6,7 @@
 #include "screen/pages/FormLayout.h"
 #include "tools/composer/InsertOptions.h"
 #include "tools/preferences/Preferences.h"
+#include "tools/preferences/StickForm.h"
 #include "tools/printing/KneeboardForm.h"
 #include "tools/testing/TryOut.h"
 #include "tools/wizards/Speedy.h"
@@ -25,5 +26,6 @@ using MakePage = std::function<QLayout*(const FormLayout&)>;
 [[nodiscard]] QLayout* Page(Speedy& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(KneeboardForm& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(TryOut& form, const FormLayout& in);
+[[nodiscard]] QLayout* Page(StickForm& form, const FormLayout& in);
 
 }  // namespace tarvik::screen

@@ -55,8 +55,10 @@ QLayout* FileLocations(Preferences& form, const FormLayout& in) {
                                        {"Throttle", in.Show(form.ComboThrottle)},
                                        {"Rudders", in.Show(form.ComboRudders)}};
   hardware.front().label->setMinimumWidth(labelWidth);
-  return Column({Group("Files", Column({paths, Row({Stretch(), in.Show(form.CommandDrives)})})),
-                 Group("Hardware", Fields(hardware)), Wrapped(Words(kMayStayEmpty)), Stretch()});
+  return Column(
+      {Group("Files",
+             Column({paths, Row({Stretch(), in.Show(form.CommandStick), in.Show(form.CommandDrives)})})),
+       Group("Hardware", Fields(hardware)), Wrapped(Words(kMayStayEmpty)), Stretch()});
 }
 
 QLayout* Colours(Preferences& form, const FormLayout& in) {

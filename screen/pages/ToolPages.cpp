@@ -406,8 +406,8 @@ MakePage PageAmong(Form& form) {
 }  // namespace
 
 MakePage PageOf(Form& form) {
-  return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, Wizard, Speedy, Title, Heading,
-                   SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
+  return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, StickForm, Wizard, Speedy, Title,
+                   Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
                    EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, CompareTexts, UnsavedTexts,
                    EarlierVersions, RenameForm, KneeboardForm, TryOut, ViewImage, SelectPictureForm>(form);
 }

@@ -14,7 +14,7 @@ const kneeboard::TextMeasure& QtPress::Measure() const {
 }
 
 PaintedSheets QtPress::Painted(const kneeboard::Job& job) const {
-  return {job.sheets, drawings_, Palette::Of(job.colouring), QString::fromStdString(job.title)};
+  return {job.sheets, drawings_, Palette::Of(job), QString::fromStdString(job.title)};
 }
 
 Outcome<> QtPress::Write(const kneeboard::Job& job, const std::string& hostPath) {
@@ -33,7 +33,7 @@ Outcome<> QtPress::Print(const kneeboard::Job& job) {
   std::vector<QSizeF> sizes;
   sizes.reserve(job.sheets.size());
   for (const kneeboard::Sheet& sheet : job.sheets) sizes.emplace_back(sheet.width, sheet.height);
-  const Palette palette = Palette::Of(job.colouring);
+  const Palette palette = Palette::Of(job);
   return printer_.PrintPages(sizes, [&](QPainter& painter, std::size_t page) {
     painter.scale(1.0 / kUnits, 1.0 / kUnits);
     PaintSheet(painter, job.sheets[page], palette, drawings_);

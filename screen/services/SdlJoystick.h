@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
 #include "platform/Joystick.h"
 
@@ -9,11 +10,15 @@ struct _SDL_Joystick;  // NOLINT(bugprone-reserved-identifier): the library's ow
 
 namespace tarvik::screen {
 
+namespace sdl {
+class Running;
+}
+
 /// Device 0 is the first stick that is found. One that is unplugged keeps its place, for itself or another
 /// that is plugged in for it; a stick that was there all along does not take it over unasked.
 class SdlJoystick : public Joystick {
  public:
-  SdlJoystick() = default;
+  SdlJoystick();
   ~SdlJoystick() override;
   SdlJoystick(const SdlJoystick&) = delete;
   SdlJoystick& operator=(const SdlJoystick&) = delete;
@@ -30,8 +35,8 @@ class SdlJoystick : public Joystick {
   void Open(int newerThan);
   void Close();
 
+  std::unique_ptr<sdl::Running> running_;
   _SDL_Joystick* stick_ = nullptr;
-  bool started_ = false;
   bool had_ = false;  // a stick, since one was asked for last
   int newest_ = -1;   // of the sticks that were there when it was lost, by the order of their coming
 };

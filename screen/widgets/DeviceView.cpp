@@ -281,6 +281,20 @@ void DeviceView::PaintPicture() {
   renderer_.render(&painter, ToWidget().mapRect(QRectF({}, kDrawing)));
 }
 
+/// The control glows, and its label is framed.
+void DeviceView::PaintLit(QPainter& painter, const Spot& spot) const {
+  constexpr QColor kLit(0xFF, 0x96, 0x00);
+  constexpr int kGlow = 130;
+  constexpr int kFrame = 3;
+  QColor glow = kLit;
+  glow.setAlpha(kGlow);
+  painter.setPen(QPen(kLit, kFrame));
+  painter.setBrush(glow);
+  painter.drawEllipse(ControlOf(spot));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(QRectF(spot.label->geometry()).adjusted(-kFrame, -kFrame, kFrame, kFrame));
+}
+
 void DeviceView::paintEvent(QPaintEvent*) {
   TakeAssigned();
   PaintPicture();
@@ -288,6 +302,7 @@ void DeviceView::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.drawPixmap(0, 0, picture_);
   for (const Spot& spot : spots_) {
+    if (isLit_(*spot.shown)) PaintLit(painter, spot);
     const bool shown = spot.label == pointed_ || (spot.label->hasFocus() && !spot.label->isHidden());
     if (!shown) continue;
     painter.setPen(QPen(Accent(*this, 200), 2));

@@ -56,6 +56,11 @@ class DeviceView : public QWidget {
   /// Whom to ask for the lines that assign the controls, by label, whenever they may have changed.
   using Assigned = std::map<const Label*, QStringList>;
   void AskForAssigned(std::function<Assigned()> ask) { ask_ = std::move(ask); }
+  /// What the drawing says below the device.
+  void SetHint(const QString& hint) { hint_ = hint; }
+  /// Whether a control lights, because of a stick or of the caret; asked after each `Relight`.
+  void AskForLit(std::function<bool(const Label&)> ask) { isLit_ = std::move(ask); }
+  void Relight() { update(); }
   /// The answer may be another one from now on; it is asked for when it is needed.
   void ForgetAssigned();
   void TakeAssigned();
@@ -64,8 +69,6 @@ class DeviceView : public QWidget {
   /// control or its label, with 1 and -1 at the edges.
   using Press = std::function<void(const Label& label, QPointF place)>;
   void HoldDown(Press press, std::function<void()> release);
-  /// The line below the device.
-  void SetHint(const QString& hint) { hint_ = hint; }
   /// Whether the label is held down now, because controls are.
   bool Hold(const DeviceLabel& label, QPointF place);
   bool LetGo();
@@ -102,6 +105,7 @@ class DeviceView : public QWidget {
   [[nodiscard]] QRectF RectOf(const QString& element) const;
   [[nodiscard]] QRectF ControlOf(const Spot& spot) const;
   [[nodiscard]] QTransform ToWidget() const;
+  void PaintLit(QPainter& painter, const Spot& spot) const;
   [[nodiscard]] DeviceLabel* LabelAt(const QPointF& place) const;
 
   Bindings& bindings_;
@@ -110,6 +114,7 @@ class DeviceView : public QWidget {
   QPixmap picture_;
   std::vector<Spot> spots_;
   std::function<Assigned()> ask_ = [] { return Assigned(); };
+  std::function<bool(const Label&)> isLit_ = [](const Label&) { return false; };
   bool isTaken_ = false;
   DeviceLabel* pointed_ = nullptr;
   QString hint_;

@@ -1,49 +1,11 @@
 // The real joystick on sticks that exist within the library alone.
-#define SDL_MAIN_HANDLED
-#include <SDL.h>
-#include <gtest/gtest.h>
-
+#include "VirtualStick.h"
 #include "screen/services/SdlJoystick.h"
 
 namespace tarvik::screen {
 namespace {
 
-/// A stick that is plugged in for as long as it lives.
-class Stick {
- public:
-  Stick(Uint16 axes, Uint16 buttons, const char* name = "Stick") {
-    SDL_VirtualJoystickDesc description;
-    SDL_zero(description);
-    description.version = SDL_VIRTUAL_JOYSTICK_DESC_VERSION;
-    description.type = SDL_JOYSTICK_TYPE_FLIGHT_STICK;
-    description.naxes = axes;
-    description.nbuttons = buttons;
-    description.name = name;
-    const int index = SDL_JoystickAttachVirtualEx(&description);
-    EXPECT_GE(index, 0);
-    id_ = SDL_JoystickGetDeviceInstanceID(index);
-    handle_ = SDL_JoystickOpen(index);
-  }
-  ~Stick() {
-    for (int i = 0; i < SDL_NumJoysticks(); ++i) {
-      if (SDL_JoystickGetDeviceInstanceID(i) == id_) SDL_JoystickDetachVirtual(i);
-    }
-    SDL_JoystickClose(handle_);
-    SDL_JoystickUpdate();
-  }
-  Stick(const Stick&) = delete;
-  Stick& operator=(const Stick&) = delete;
-
-  void Move(std::initializer_list<Sint16> axes) {
-    int axis = 0;
-    for (const Sint16 value : axes) SDL_JoystickSetVirtualAxis(handle_, axis++, value);
-  }
-  void Press(int button) { SDL_JoystickSetVirtualButton(handle_, button, 1); }
-
- private:
-  SDL_JoystickID id_ = -1;
-  SDL_Joystick* handle_ = nullptr;
-};
+using Stick = VirtualStick;
 
 class SdlJoystickTest : public testing::Test {
  protected:

@@ -66,6 +66,9 @@ class Runner {
   void SetJoystick(const Line& line);
   void SetJoystickAxes(const Line& line);
   void MoveJoystick(const Line& line);
+  void PlugStick(const Line& line);
+  void UnplugStick(const Line& line);
+  void MoveStick(const Line& line);
   void SetLock(const Line& line);
   void SetProgram(const Line& line);
   void DarkenDesktop(const Line& line);

@@ -93,6 +93,42 @@ void Runner::MoveJoystick(const Line& line) {
   for (std::size_t i = 1; i + 1 < line.words.size(); i += 2) parts.at(line.words[i])(Number(line, i + 1));
 }
 
+/// stick plug NAME AXES BUTTONS HATS
+void Runner::PlugStick(const Line& line) {
+  StickInfo stick;
+  stick.name = ToUtf8(Word(line, 2));
+  stick.guid = stick.name;
+  stick.path = "port of " + stick.name;
+  stick.axes = Number(line, 3);
+  stick.buttons = Number(line, 4);
+  stick.hats = Number(line, 5);
+  outside_.sticks.Plug(stick);
+}
+
+void Runner::UnplugStick(const Line& line) {
+  outside_.sticks.Unplug(outside_.sticks.Named(ToUtf8(Word(line, 2))));
+}
+
+/// stick button|hat|axis NAME NUMBER PLACE: the number counts from 1, the place of an axis is per cent.
+void Runner::MoveStick(const Line& line) {
+  constexpr int kPerCent = 100;
+  constexpr int kWay = 65535;
+  const std::map<std::string, int> places = {{"up", 1}, {"right", 2}, {"down", 4}, {"left", 8}};
+  const std::string& part = Word(line, 1);
+  const int stick = outside_.sticks.Named(ToUtf8(Word(line, 2)));
+  if (stick == 0) throw Stop{"no such stick is plugged in"};
+  const int number = Number(line, 3) - 1;
+  if (part == "button") {
+    outside_.sticks.Move(stick, StickChangeKind::Button, number, Word(line, 4) == "down" ? 1 : 0);
+  } else if (part == "hat") {
+    const auto place = places.find(Word(line, 4));
+    outside_.sticks.Move(stick, StickChangeKind::Hat, number, place == places.end() ? 0 : place->second);
+  } else {
+    outside_.sticks.Move(stick, StickChangeKind::Axis, number,
+                         Number(line, 4) * kWay / kPerCent - kWay / 2 - 1);
+  }
+}
+
 /// lock caps|num NUMBER|unknown
 void Runner::SetLock(const Line& line) {
   const int code = Word(line, 1) == "caps" ? kCapsLock : kNumLock;

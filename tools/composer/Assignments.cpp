@@ -1,6 +1,7 @@
 #include "tools/composer/Assignments.h"
 
 #include "language/Lines.h"
+#include "language/PicturedControls.h"
 
 namespace tarvik {
 namespace {
@@ -8,34 +9,13 @@ namespace {
 constexpr std::size_t kLongestLine = 80;
 constexpr std::string_view kPort = "PortB";
 
-std::string_view WithoutBlanks(std::string_view caption) {
-  const std::size_t first = std::min(caption.find_first_not_of(' '), caption.size());
-  return caption.substr(first, caption.find_last_not_of(' ') + 1 - first);
-}
-
-/// What the statements of a control call it, by position.
-std::vector<std::string> TokensOf(const tables::HardwareRow& row, std::string_view caption) {
-  if (row.array == "TRIG") return {std::begin(tables::kTriggers), std::end(tables::kTriggers)};
-  if (row.array == "ROTARY") return {std::string(WithoutBlanks(tables::kRotaries[row.index].search))};
-  if (row.array == "BTN") return {std::string(WithoutBlanks(caption))};
-  std::vector<std::string> tokens;
-  const auto add = [&](const auto& positions) {
-    for (const std::string_view position : positions) {
-      tokens.push_back(std::string(tables::kHats[row.index]).append(position));
-    }
-  };
-  add(tables::kHatPositions);
-  add(tables::kHatCorners);
-  return tokens;
-}
-
 }  // namespace
 
 std::vector<std::string> Assignments::Of(const tables::HardwareRow& row, std::string_view caption) const {
   const bool isRotary = row.array == "ROTARY";
   if (isRotary && row.index == tables::kPortLatch) return OfWord(kPort);
   std::vector<std::string> lines;
-  for (const std::string& token : TokensOf(row, caption)) {
+  for (const std::string& token : ControlsOf(row, caption)) {
     const bool isWord = isRotary && row.index == tables::kSwapTriggers;
     for (std::string& line : isWord ? OfWord(token) : OfControl(token)) lines.push_back(std::move(line));
   }

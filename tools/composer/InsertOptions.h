@@ -185,6 +185,8 @@ class InsertOptions : public ToolForm {
   /// What the joystick file assigns just now, and the signal that it may be something else from now on.
   [[nodiscard]] Assignments Assigned() const { return Assignments(bench_.models.Pair()); }
   Signal<> AssignedChanged;
+  /// Which controls light because of the stick, or of the caret.
+  [[nodiscard]] FollowStick& Following() const { return bench_.follow; }
   /// The tabs within a page that builds statements.
   [[nodiscard]] TabPages& StripOf(const tables::StatementTabRow& row) const;
 

@@ -7,6 +7,7 @@
 #include "text/CodePage.h"
 #include "tools/preferences/CommandLines.h"
 #include "tools/preferences/DrivesForm.h"
+#include "tools/preferences/StickForm.h"
 #include "workbench/FileTypes.h"
 #include "workbench/HelpTopics.h"
 
@@ -88,6 +89,7 @@ void Preferences::NameControls() {
   TxtUndoLevels.ToolTipText = "10 to 30,000 - high values slow down Tarvik";
   CheckShowTooltips.ToolTipText = "To be implemented at a later date";
   CommandDrives.ToolTipText = "Which folder each drive letter stands for";
+  CommandStick.ToolTipText = "Which control each button and axis of your stick stands for";
   DLYText.ToolTipText = "Default delay value for Editor's DLY button";
   Command3.ToolTipText = "Saves the Preferences";
   NoFavourites.Caption =
@@ -115,6 +117,7 @@ void Preferences::AttachHandlers() {
          &settings_.ImageFilePath);
   Browse(Command7, Text6, "Locate text file", {"Text files|*.txt;*.rtf;*.ini;*.bat", filetypes::kAll},
          &settings_.TextFilePath);
+  CommandStick.Click = [this] { shell_.ShowModal(shell_.Tool<StickForm>()); };
   CommandDrives.Click = [this] { shell_.ShowModal(shell_.Tool<DrivesForm>()); };
   ComboJoystick.Click = [this] { ComboJoystick_Click(); };
   ComboThrottle.Click = [this] { settings_.ThrottleName = ComboThrottle.ListIndex; };

@@ -25,6 +25,7 @@ class Preferences : public ToolForm {
   CommandButton Command2{*this, "Command2", "Browse"};
   CommandButton Command8{*this, "Command8", "Browse"};
   CommandButton CommandDrives{*this, "CommandDrives", "&Drives ..."};
+  CommandButton CommandStick{*this, "CommandStick", "&Stick ..."};
   ComboBox ComboJoystick{*this, "ComboJoystick"};
   ComboBox ComboThrottle{*this, "ComboThrottle"};
   ComboBox ComboRudders{*this, "ComboRudders"};

@@ -4,6 +4,7 @@
 #include <initializer_list>
 
 #include "text/CodePage.h"
+#include "text/Contrast.h"
 #include "text/LineEnds.h"
 
 namespace tarvik {
@@ -68,6 +69,12 @@ Value Chosen(const Property<int>& setting, Value last) {
   return static_cast<Value>(std::clamp(setting.Get(), 0, static_cast<int>(last)));
 }
 
+/// The colours of the text, as they can be read on paper.
+kneeboard::UserInks InksOf(const Settings& settings) {
+  const auto onPaper = [](Colour colour) { return WithContrast(colour, kWhite, kReadable); };
+  return {onPaper(settings.BTNColour), onPaper(settings.SlashColour), onPaper(settings.RemStatements)};
+}
+
 bool Contains(const kneeboard::Area& area, kneeboard::Spot spot) {
   return spot.x >= area.x && spot.x < area.Right() && spot.y >= area.y && spot.y < area.Bottom();
 }
@@ -86,6 +93,10 @@ KneeboardForm::KneeboardForm(Workbench& bench, Shell& shell) : ToolForm("Kneeboa
   Done.Cancel = true;
   FillChoices();
   FollowChoices();
+  for (Property<Colour>* const ink :
+       {&bench.settings.BTNColour, &bench.settings.SlashColour, &bench.settings.RemStatements}) {
+    connections_.push_back(ink->Changed.Connect([this] { pause.Begin(); }));
+  }
   connections_.push_back(bench.models.Changed.Connect([this] { pause.Begin(); }));
   Renew();
 }
@@ -147,6 +158,7 @@ void KneeboardForm::LayOut() {
   job_.sheets = kneeboard::SheetsOf(contents_, Wanted(), press.Measure(), press.Plans());
   job_.colouring = settings.KneeboardBlackAndWhite != 0 ? kneeboard::Colouring::BlackAndWhite
                                                         : kneeboard::Colouring::Colours;
+  job_.inks = InksOf(settings);
   job_.title = contents_.title.title;
   job_.dotsPerInch = kDots[Chosen(settings.KneeboardResolution, std::size(kDots) - 1)];
   ShowPage();
@@ -175,6 +187,12 @@ const kneeboard::Target* KneeboardForm::TargetAt(kneeboard::Spot spot) const {
   };
   const auto found = std::ranges::find_if(Sheet().targets, leads);
   return found == Sheet().targets.end() ? nullptr : &*found;
+}
+
+bool KneeboardForm::Glows(const kneeboard::Target& target) const {
+  const Range glow = bench_.follow.Glow();
+  return glow.length > 0 && target.source && target.source->file == model::FileKind::Joystick &&
+         target.source->range.start >= glow.start && target.source->range.End() <= glow.End();
 }
 
 void KneeboardForm::GoTo(kneeboard::Spot spot) {

@@ -49,9 +49,14 @@ class KneeboardForm : public ToolForm {
   /// Goes in the editor to the statement that stands at that place of the page, if there is one.
   void GoTo(kneeboard::Spot spot);
 
+  /// Whether it stands for the statement that glows because of the stick, and what tells when another one
+  /// does.
+  [[nodiscard]] bool Glows(const kneeboard::Target& target) const;
+  [[nodiscard]] FollowStick& Following() const { return bench_.follow; }
+
   /// There is always one.
   [[nodiscard]] const kneeboard::Sheet& Sheet() const { return job_.sheets[page_]; }
-  [[nodiscard]] kneeboard::Colouring Colouring() const { return job_.colouring; }
+  [[nodiscard]] const kneeboard::Job& Job() const { return job_; }
   /// Another page is on show, or it has changed.
   Signal<> Changed;
 

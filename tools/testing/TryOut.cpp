@@ -108,6 +108,9 @@ TryOut::TryOut(Workbench& bench, Shell& shell)
   AttachHandlers();
   connections_.push_back(bench.models.Changed.Connect([this] { pause.Begin(); }));
   TakeFiles();
+  connections_.push_back(
+      bench.sticks.Happened.Connect([this](const play::ControlEvent& event) { Take(event); }));
+  listening_ = bench.sticks.Listen();
 }
 
 void TryOut::AttachHandlers() {
@@ -259,6 +262,13 @@ void TryOut::MoveAxis(int axis) {
   if (isShowing_) return;
   const double position = static_cast<double>(Axes(axis).Value.Get()) / kPerCent;
   run_.Do({EventKind::Move, static_cast<std::uint32_t>(axis), position});
+  hasNews_ = true;
+  ShowNews();
+}
+
+void TryOut::Take(const play::ControlEvent& event) {
+  const auto known = play::EventFor(event, run_.program());
+  if (known) run_.Do(*known);
   hasNews_ = true;
   ShowNews();
 }

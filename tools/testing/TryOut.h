@@ -91,6 +91,8 @@ class TryOut : public ToolForm {
   void Put(const std::string& name, play::EventKind kind);
   void Latch(const std::string& name);
   void MoveAxis(int axis);
+  /// What a stick that is plugged in does.
+  void Take(const play::ControlEvent& event);
   void TurnDogfight(int place);
   void Sent(const play::Output& output);
   /// Shows what has come since.
@@ -112,6 +114,7 @@ class TryOut : public ToolForm {
   bool hasNews_ = true;
   std::vector<Connection> connections_;
   play::DryRun run_;  // behind all that it tells of
+  std::unique_ptr<StickFeed::Listening> listening_;
 };
 
 }  // namespace tarvik

@@ -143,4 +143,50 @@ void ScriptedDrives::Give(char letter, const std::string& folder) {
   files->PutFolder(root);
 }
 
+bool ScriptedSticks::Start() {
+  listens_ = true;
+  const std::vector<Stick> there = there_;
+  for (const Stick& each : there) Tell(each);
+  return true;
+}
+
+void ScriptedSticks::Tell(const Stick& stick) {
+  if (!listens_) return;
+  plugged(stick.info);
+  for (const auto& [part, value] : stick.values) {
+    if (listens_) changed({stick.info.number, part.first, part.second, value, true});
+  }
+}
+
+int ScriptedSticks::Plug(StickInfo info) {
+  info.number = ++last_;
+  Stick stick{std::move(info), {}};
+  const auto add = [&stick](StickChangeKind kind, int count) {
+    for (int i = 0; i < count; ++i) stick.values[{kind, i}] = 0;
+  };
+  add(StickChangeKind::Button, stick.info.buttons);
+  add(StickChangeKind::Hat, stick.info.hats);
+  add(StickChangeKind::Axis, stick.info.axes);
+  there_.push_back(stick);
+  Tell(stick);
+  return last_;
+}
+
+void ScriptedSticks::Unplug(int stick) {
+  std::erase_if(there_, [stick](const Stick& each) { return each.info.number == stick; });
+  if (listens_) unplugged(stick);
+}
+
+void ScriptedSticks::Move(int stick, StickChangeKind kind, int number, int value) {
+  for (Stick& each : there_) {
+    if (each.info.number == stick) each.values[{kind, number}] = value;
+  }
+  if (listens_) changed({stick, kind, number, value, false});
+}
+
+int ScriptedSticks::Named(const std::string& name) const {
+  const auto found = std::ranges::find_if(there_, [&](const Stick& each) { return each.info.name == name; });
+  return found == there_.end() ? 0 : found->info.number;
+}
+
 }  // namespace tarvik::session

@@ -120,6 +120,34 @@ class ScriptedJoystick : public Joystick {
   int error = 0;  ///< of reading; 0 for none
 };
 
+/// Sticks that a script plugs in and moves.
+class ScriptedSticks : public Sticks {
+ public:
+  bool Start() override;
+  void Stop() override { listens_ = false; }
+
+  /// Plugs a stick in; its number is what it gets.
+  int Plug(StickInfo info);
+  void Unplug(int stick);
+  /// Moves a part of it, whether somebody listens or not.
+  void Move(int stick, StickChangeKind kind, int number, int value);
+  /// The number of the stick of that name, or 0.
+  [[nodiscard]] int Named(const std::string& name) const;
+  [[nodiscard]] bool IsListening() const { return listens_; }
+
+ private:
+  struct Stick {
+    StickInfo info;
+    std::map<std::pair<StickChangeKind, int>, int> values;
+  };
+
+  void Tell(const Stick& stick);
+
+  std::vector<Stick> there_;
+  int last_ = 0;
+  bool listens_ = false;
+};
+
 class ScriptedKeyboard : public Keyboard {
  public:
   std::optional<int> GetKeyState(int code) override {
@@ -199,6 +227,7 @@ struct ScriptedPlatform {
   ScriptedPrinter printer;
   ScriptedDesktop desktop;
   ScriptedJoystick joystick;
+  ScriptedSticks sticks;
   ScriptedKeyboard keyboard;
   ScriptedPrograms programs;
   ScriptedDrives drives;
@@ -218,6 +247,7 @@ struct ScriptedPlatform {
             given(instead.printer, static_cast<Printer&>(printer)),
             desktop,
             joystick,
+            sticks,
             keyboard,
             given(instead.programs, static_cast<Programs&>(programs)),
             drives,

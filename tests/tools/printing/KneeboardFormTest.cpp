@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Program.h"
+#include "text/Contrast.h"
 #include "tools/printing/KneeboardForm.h"
 
 namespace tarvik {
@@ -61,6 +62,18 @@ TEST_F(KneeboardFormTest, ColoursAndResolutionGoWithTheJob) {
   form().Print_Click();
   EXPECT_EQ(program.press.jobs[0].colouring, kneeboard::Colouring::BlackAndWhite);
   EXPECT_EQ(program.press.jobs[0].dotsPerInch, 100);
+}
+
+TEST_F(KneeboardFormTest, TakesTheUsersColoursAsTheyCanBeReadOnPaper) {
+  Settings& settings = program.application.workbench.settings;
+  settings.BTNColour = Rgb(0, 90, 0);
+  settings.RemStatements = Rgb(255, 255, 0);
+  form().pause.timer.Elapsed();
+  const auto& inks = form().Job().inks;
+  ASSERT_TRUE(inks.has_value());
+  EXPECT_EQ(inks->accent, Rgb(0, 90, 0));
+  EXPECT_GE(ContrastOf(inks->dim, kWhite), 4.5);
+  EXPECT_NE(inks->dim, Rgb(255, 255, 0));
 }
 
 TEST_F(KneeboardFormTest, APlaceOnThePageLeadsToItsStatement) {

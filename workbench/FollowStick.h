@@ -1,0 +1,54 @@
+// Press to find: what is pressed on a stick lights, and its statement glows; and the control of the statement
+// at the caret lights, too. All of it is painted by those who ask here, and nothing takes the focus.
+#pragma once
+
+#include <set>
+
+#include "workbench/FileModels.h"
+#include "workbench/Pause.h"
+#include "workbench/StickFeed.h"
+
+namespace tarvik {
+
+class FollowStick {
+ public:
+  FollowStick(Documents& documents, const FileModels& models, StickFeed& feed);
+  FollowStick(const FollowStick&) = delete;
+  FollowStick& operator=(const FollowStick&) = delete;
+
+  Pause typing;   ///< after a key
+  Pause resting;  ///< after an axis has moved
+
+  [[nodiscard]] bool IsOn() const { return listening_ != nullptr; }
+  /// Whether a control, by its name in the files, is pressed or moved, or assigned at the caret.
+  [[nodiscard]] bool Lights(std::string_view control) const;
+  /// The statement of the control that was pressed last, in the joystick file; empty for none.
+  [[nodiscard]] Range Glow() const { return glow_; }
+
+  /// Another control lights, or another statement glows.
+  Signal<> Changed;
+  /// The statement that glows is to be seen. Not while the user types.
+  Signal<Range> Shows;
+
+ private:
+  void Switch();
+  void Follow(const play::ControlEvent& event);
+  void Press(std::string_view control);
+  void MoveAxis(std::string_view axis, double position);
+  void FollowCaret();
+  void Edited(const PaneEdit& edit);
+
+  Documents& documents_;
+  const FileModels& models_;
+  StickFeed& feed_;
+  bool isTyping_ = false;
+  std::set<std::string, std::less<>> pressed_;
+  std::set<std::string, std::less<>> moving_;
+  std::vector<std::pair<std::string, double>> positions_;  // of axes, when they last counted as moved
+  std::string atCaret_;
+  Range glow_;
+  std::vector<Connection> connections_;
+  std::unique_ptr<StickFeed::Listening> listening_;
+};
+
+}  // namespace tarvik
