@@ -62,6 +62,7 @@ TEST_F(FollowStickViewTest, ThePaneScrollsToTheStatementAndTheCaretStays) {
 
 TEST_F(FollowStickViewTest, ThePaneStaysWhereItIsWhileTheUserTypes) {
   pane.SelText = std::string("R");
+  QApplication::processEvents();
   Button(2, true);
   EXPECT_EQ(Top(), 0);
 }
