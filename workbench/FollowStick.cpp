@@ -50,7 +50,8 @@ void FollowStick::Switch() {
 }
 
 bool FollowStick::Lights(std::string_view control) const {
-  return IsOn() && (pressed_.contains(control) || moving_.contains(control) || control == atCaret_);
+  return IsOn() && !control.empty() &&
+         (pressed_.contains(control) || moving_.contains(control) || control == atCaret_);
 }
 
 void FollowStick::Follow(const play::ControlEvent& event) {

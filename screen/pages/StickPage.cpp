@@ -39,9 +39,10 @@ QLayout* Page(StickForm& form, const FormLayout& in) {
   about->setAutoFillBackground(false);
   QWidget* const sticks = in.Show(form.Sticks);
   sticks->setMinimumSize(kSticks);
-  sticks->setMaximumHeight(kSticks.height());
+  sticks->setFixedHeight(kSticks.height());
   QWidget* const inputs = in.Show(form.Inputs);
   inputs->setMinimumSize(kInputs);
+  inputs->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
   auto* const side = new QWidget;
   side->setLayout(
       Framed({}, Column({about, Above("Sticks", sticks), Above("Buttons, hats and axes", inputs),

@@ -238,7 +238,8 @@ void SdlSticks::TellStart(const Stick& stick) {
   SDL_Joystick* const handle = stick.handle;
   const StickInfo info = InfoOf(stick);
   std::vector<StickChange> state;
-  state.reserve(static_cast<std::size_t>(info.buttons + info.hats + info.axes));
+  constexpr std::size_t kUsual = 64;
+  state.reserve(kUsual);
   for (int i = 0; i < info.buttons; ++i) {
     state.push_back({info.number, StickChangeKind::Button, i, Sdl().JoystickGetButton(handle, i), true});
   }

@@ -302,7 +302,7 @@ void DeviceView::paintEvent(QPaintEvent*) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.drawPixmap(0, 0, picture_);
   for (const Spot& spot : spots_) {
-    if (isLit_(*spot.shown)) PaintLit(painter, spot);
+    if (!spot.label->isHidden() && isLit_(*spot.shown)) PaintLit(painter, spot);
     const bool shown = spot.label == pointed_ || (spot.label->hasFocus() && !spot.label->isHidden());
     if (!shown) continue;
     painter.setPen(QPen(Accent(*this, 200), 2));

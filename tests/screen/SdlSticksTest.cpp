@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "VirtualStick.h"
+#include "play/StickReader.h"
 #include "screen/services/SdlJoystick.h"
 #include "screen/services/SdlSticks.h"
 
@@ -105,6 +106,41 @@ TEST_F(SdlSticksTest, TellsOfSticksThatComeAndGo) {
   const VirtualStick again(1, 1, "One");
   ASSERT_TRUE(QTest::qWaitFor([&] { return found.size() == 3; }));
   EXPECT_NE(found.back().number, number);
+}
+
+TEST_F(SdlSticksTest, TwoSticksPlayTheControlsOfAMapUntilOneIsUnplugged) {
+  std::vector<std::string> heard;
+  play::StickReader reader([&heard](const play::ControlEvent& event) {
+    heard.push_back(std::string(event.control).append(event.kind == play::EventKind::Down ? " down" : " up"));
+  });
+  std::vector<std::unique_ptr<VirtualStick>> plugged;
+  plugged.push_back(std::make_unique<VirtualStick>(0, 2, "One"));
+  plugged.push_back(std::make_unique<VirtualStick>(0, 2, "Two"));
+  play::StickMap map;
+  sticks.plugged = [&](const StickInfo& info) {
+    const play::StickId id{info.guid, info.name, info.name};
+    map.Set(id, play::InputIn("button 1").value(), info.name == "One" ? "S1" : "T1");
+    reader.Use(map);
+    reader.Plug(info.number, id);
+  };
+  sticks.unplugged = [&](int stick) { reader.Unplug(stick); };
+  sticks.changed = [&](const StickChange& change) {
+    reader.Change(change.stick, play::StickPart::Button, change.number, change.value,
+                  change.atStart ? play::StickReader::Moment::Start : play::StickReader::Moment::Now);
+  };
+  ASSERT_TRUE(sticks.Start());
+  const auto comes = [&heard](std::size_t count) {
+    return QTest::qWaitFor([&heard, count] { return heard.size() >= count; });
+  };
+  plugged[0]->Press(0);
+  ASSERT_TRUE(comes(1));
+  plugged[1]->Press(0);
+  ASSERT_TRUE(comes(2));
+  plugged.erase(plugged.begin());
+  ASSERT_TRUE(comes(3));
+  plugged[0]->Press(0, false);
+  ASSERT_TRUE(comes(4));
+  EXPECT_THAT(heard, ElementsAre("S1 down", "T1 down", "S1 up", "T1 up"));
 }
 
 TEST_F(SdlSticksTest, StoppedItTellsNothingAndStartsAnew) {

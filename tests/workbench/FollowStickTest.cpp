@@ -100,6 +100,7 @@ TEST_F(FollowStickTest, LightsTheControlOfTheStatementAtTheCaret) {
   bare.joystick.text.Select({0, 0});
   Follow();
   EXPECT_FALSE(follow.Lights("H1U"));
+  EXPECT_FALSE(follow.Lights(""));
   bare.joystick.text.Select({bare.joystick.text.Characters().find("H1U"), 0});
   EXPECT_TRUE(follow.Lights("H1U"));
   EXPECT_EQ(follow.Glow().length, 0U);
