@@ -40,6 +40,7 @@ QLayout* Page(StickForm& form, const FormLayout& in) {
   QWidget* const sticks = in.Show(form.Sticks);
   sticks->setMinimumSize(kSticks);
   sticks->setFixedHeight(kSticks.height());
+  sticks->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   QWidget* const inputs = in.Show(form.Inputs);
   inputs->setMinimumSize(kInputs);
   inputs->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
