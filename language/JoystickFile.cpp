@@ -10,61 +10,58 @@ constexpr std::string_view kIs = "IS";
 
 /// Whether a line set in by blanks belongs to what stands above it. A statement of its own does not, though
 /// it should begin its line.
-bool IsContinuation(std::string_view line) {
-  if (line.empty() || !IsBlank(line.front())) return false;
-  const std::string_view words = WithoutIndent(line);
-  return !words.empty() && FindStatementWord(FirstWord(words)) == nullptr;
-}
+bool IsContinuation(std::string_view words) { return FindStatementWord(FirstWord(words)) == nullptr; }
 
 using Body = JoystickStatement::Body;
 
 // Each reads on from behind the statement's word, but that of an axis, which takes that too.
 
-Body ReadButton(TokenCursor& cursor) {
-  const Range control = cursor.TakeWord();
-  return Button{control, ReadSequence(cursor)};
+void ReadButton(TokenCursor& cursor, Button& button) {
+  button.control = cursor.TakeWord();
+  button.sends = ReadSequence(cursor);
 }
 
 /// The place belongs to the name of the control, as in "RKR UP".
-Body ReadRocker(TokenCursor& cursor, Range word) {
+void ReadRocker(TokenCursor& cursor, Range word, Button& button) {
   const Range place = cursor.TakeWord();
-  const Range control = place.length == 0 ? place : Range{word.start, place.End() - word.start};
-  return Button{control, ReadSequence(cursor)};
+  button.control = place.length == 0 ? place : Range{word.start, place.End() - word.start};
+  button.sends = ReadSequence(cursor);
 }
 
-Body ReadDefinition(TokenCursor& cursor) {
-  const Range flag = cursor.Is(TokenKind::Logic) ? Range{cursor.End(), 0} : cursor.TakeWord();
-  return Definition{flag, ReadCondition(cursor)};
+void ReadDefinition(TokenCursor& cursor, Definition& definition) {
+  definition.flag = cursor.Is(TokenKind::Logic) ? Range{cursor.End(), 0} : cursor.TakeWord();
+  definition.condition = ReadCondition(cursor);
 }
 
-Body ReadSetting(TokenCursor& cursor) {
-  Setting setting;
+void ReadSetting(TokenCursor& cursor, Setting& setting) {
   while (cursor.IsWord()) setting.values.push_back(cursor.Take());
-  return setting;
 }
 
-Body ReadPort(TokenCursor& cursor) {
+void ReadPort(TokenCursor& cursor, Port& port) {
   const bool hasIs = cursor.IsWord() && SameWord(cursor.Words(), kIs);
-  const Range is = hasIs ? cursor.Take() : Range{cursor.End(), 0};
-  return Port{is, cursor.TakeWord()};
+  port.is = hasIs ? cursor.Take() : Range{cursor.End(), 0};
+  port.control = cursor.TakeWord();
 }
 
-Body ReadBody(TokenCursor& cursor, StatementForm form) {
-  if (form == StatementForm::Axis) return ReadAxis(cursor, *FindAxis(cursor.Words()));
+void ReadBody(TokenCursor& cursor, StatementForm form, Body& body) {
+  if (form == StatementForm::Axis) {
+    body = ReadAxis(cursor, *FindAxis(cursor.Words()));
+    return;
+  }
   const Range word = cursor.Take();
   switch (form) {
     case StatementForm::Button:
-      return ReadButton(cursor);
+      return ReadButton(cursor, body.emplace<Button>());
     case StatementForm::Rocker:
-      return ReadRocker(cursor, word);
+      return ReadRocker(cursor, word, body.emplace<Button>());
     case StatementForm::Definition:
-      return ReadDefinition(cursor);
+      return ReadDefinition(cursor, body.emplace<Definition>());
     case StatementForm::Values:
-      return ReadSetting(cursor);
+      return ReadSetting(cursor, body.emplace<Setting>());
     case StatementForm::Port:
-      return ReadPort(cursor);
+      return ReadPort(cursor, body.emplace<Port>());
     default:
-      return Command{};
+      body.emplace<Command>();
   }
 }
 
@@ -74,18 +71,16 @@ std::size_t JoystickStatement::EndOf(std::string_view text, std::size_t start) {
   return StatementEnd(text, start, IsContinuation);
 }
 
-JoystickStatement JoystickStatement::Read(std::string_view lines, std::vector<Token>& tokens) {
-  if (auto remark = ReadRemark<Body>(lines)) return {.body = *remark};
-  JoystickStatement statement;
-  ReadWords(lines, FirstEquals::IsKey, tokens, statement.comments);
+void JoystickStatement::Read(std::string_view lines, std::vector<Token>& tokens) {
+  if (ReadRemark(lines, body)) return;
+  ReadWords(lines, FirstEquals::IsKey, tokens, comments);
   TokenCursor cursor(lines, tokens);
-  statement.row = FindStatementWord(cursor.Words());
-  if (statement.row != nullptr) {
-    statement.word = cursor.Peek();
-    statement.body = ReadBody(cursor, statement.row->form);
+  row = FindStatementWord(cursor.Words());
+  if (row != nullptr) {
+    word = cursor.Peek();
+    ReadBody(cursor, row->form, body);
   }
-  statement.rest = cursor.TakeRest();
-  return statement;
+  rest = cursor.TakeRest();
 }
 
 const StatementWord* FindStatementWord(std::string_view word) {

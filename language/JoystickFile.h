@@ -62,12 +62,17 @@ struct Remark {
   friend bool operator==(const Remark&, const Remark&) = default;
 };
 
-/// A line that is nothing, or nothing but a comment, as the body of its statement; none for any other line.
+/// Makes a line that is nothing, or nothing but a comment, the body of its statement; false for any other.
 template <class Body>
-[[nodiscard]] std::optional<Body> ReadRemark(std::string_view line) {
+bool ReadRemark(std::string_view line, Body& body) {
   const auto remark = RemarkIn(line);
-  if (!remark) return std::nullopt;
-  return remark->length == 0 ? Body(Blank{}) : Body(Remark{*remark});
+  if (!remark) return false;
+  if (remark->length == 0) {
+    body.template emplace<Blank>();
+  } else {
+    body = Remark{*remark};
+  }
+  return true;
 }
 
 /// A button, a place of a hat, a flag, or a place of the rocker, which is told with its word.
@@ -123,7 +128,8 @@ struct JoystickStatement {
   [[nodiscard]] bool IsSetIn() const { return row != nullptr && word.start > 0; }
 
   [[nodiscard]] static std::size_t EndOf(std::string_view text, std::size_t start);
-  [[nodiscard]] static JoystickStatement Read(std::string_view lines, std::vector<Token>& tokens);
+  /// Fills in a new statement.
+  void Read(std::string_view lines, std::vector<Token>& tokens);
 
   friend bool operator==(const JoystickStatement&, const JoystickStatement&) = default;
 };

@@ -13,7 +13,9 @@ std::string_view LineAt(std::string_view text, std::size_t start) {
 }  // namespace
 
 std::string_view WithoutIndent(std::string_view line) {
-  return line.substr(static_cast<std::size_t>(std::ranges::find_if_not(line, IsBlank) - line.begin()));
+  std::size_t indent = 0;
+  while (indent < line.size() && IsBlank(line[indent])) ++indent;
+  return line.substr(indent);
 }
 
 std::optional<Range> RemarkIn(std::string_view lines) {
@@ -30,14 +32,15 @@ std::string_view FirstWord(std::string_view line) {
 }
 
 std::size_t StatementEnd(std::string_view text, std::size_t start,
-                         bool (*isContinuation)(std::string_view line)) {
+                         bool (*isContinuation)(std::string_view words)) {
   std::string_view line = LineAt(text, start);
   const std::string_view words = WithoutIndent(line);
   const bool hasOneLine = words.empty() || BeginsComment(words);
   std::size_t end = std::min(start + line.size() + 1, text.size());
-  while (!hasOneLine && end < text.size()) {
+  while (!hasOneLine && end < text.size() && IsBlank(text[end])) {
     line = LineAt(text, end);
-    if (!isContinuation(line)) break;
+    const std::string_view below = WithoutIndent(line);
+    if (below.empty() || !isContinuation(below)) break;
     end = std::min(end + line.size() + 1, text.size());
   }
   return end;

@@ -14,8 +14,9 @@ namespace tarvik::model {
 /// What a line that is not set in begins with, up to a blank or a bracket.
 [[nodiscard]] std::string_view FirstWord(std::string_view line);
 /// The end of the statement whose first line begins at `start`. A blank line and a comment are statements of
-/// one line. `isContinuation` is asked of each line below, which it is handed without its line end.
+/// one line. `isContinuation` is asked of each line below that begins with a blank, which it is handed from
+/// its first word on, without its line end.
 [[nodiscard]] std::size_t StatementEnd(std::string_view text, std::size_t start,
-                                       bool (*isContinuation)(std::string_view line));
+                                       bool (*isContinuation)(std::string_view words));
 
 }  // namespace tarvik::model

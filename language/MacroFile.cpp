@@ -13,11 +13,7 @@ bool IsDefinition(std::string_view words) {
   return WithoutIndent(behindName).starts_with('=');
 }
 
-bool IsContinuation(std::string_view line) {
-  if (line.empty() || !IsBlank(line.front())) return false;
-  const std::string_view words = WithoutIndent(line);
-  return !words.empty() && !IsDefinition(words);
-}
+bool IsContinuation(std::string_view words) { return !IsDefinition(words); }
 
 /// All that stands before the "=", blanks inside it included.
 Range ReadName(TokenCursor& cursor) {
@@ -27,14 +23,14 @@ Range ReadName(TokenCursor& cursor) {
   return {start, cursor.End() - start};
 }
 
-MacroDefinition ReadDefinition(TokenCursor& cursor) {
-  MacroDefinition definition{.name = ReadName(cursor), .equals = cursor.Take(), .sends = {}};
+void ReadDefinition(TokenCursor& cursor, MacroDefinition& definition) {
+  definition.name = ReadName(cursor);
+  definition.equals = cursor.Take();
   if (const AxisShape* shape = FindAxis(cursor.Words())) {
     definition.sends = ReadAxis(cursor, *shape);
   } else {
-    definition.sends = ReadSequence(cursor);
+    definition.sends.emplace<Sequence>(ReadSequence(cursor));
   }
-  return definition;
 }
 
 /// The line of a comment from its first word on.
@@ -49,16 +45,14 @@ std::size_t MacroStatement::EndOf(std::string_view text, std::size_t start) {
   return StatementEnd(text, start, IsContinuation);
 }
 
-MacroStatement MacroStatement::Read(std::string_view lines, std::vector<Token>& tokens) {
-  if (auto remark = ReadRemark<Body>(lines)) return {.body = *remark};
-  MacroStatement statement;
-  ReadWords(lines, FirstEquals::EndsName, tokens, statement.comments);
+void MacroStatement::Read(std::string_view lines, std::vector<Token>& tokens) {
+  if (ReadRemark(lines, body)) return;
+  ReadWords(lines, FirstEquals::EndsName, tokens, comments);
   TokenCursor cursor(lines, tokens);
   if (std::ranges::find(tokens, TokenKind::Equals, &Token::kind) != tokens.end()) {
-    statement.body = ReadDefinition(cursor);
+    ReadDefinition(cursor, body.emplace<MacroDefinition>());
   }
-  statement.rest = cursor.TakeRest();
-  return statement;
+  rest = cursor.TakeRest();
 }
 
 std::string HeadingOver(const MacroFile& file, std::string_view text, std::size_t statement) {

@@ -23,7 +23,8 @@ struct MacroStatement {
   Body body = Unknown{};
 
   [[nodiscard]] static std::size_t EndOf(std::string_view text, std::size_t start);
-  [[nodiscard]] static MacroStatement Read(std::string_view lines, std::vector<Token>& tokens);
+  /// Fills in a new statement.
+  void Read(std::string_view lines, std::vector<Token>& tokens);
 
   friend bool operator==(const MacroStatement&, const MacroStatement&) = default;
 };

@@ -51,6 +51,7 @@ const SlashLetter* SlashOf(std::string_view modifier) {
 }
 
 ItemKind KindOf(std::string_view word) {
+  if (word.size() == 1) return ItemKind::Key;
   if (std::ranges::any_of(kPrefixes, [word](std::string_view each) { return SameWord(each, word); })) {
     return ItemKind::Prefix;
   }
@@ -69,8 +70,8 @@ const BracketWord* BracketWordAt(const TokenCursor& cursor) {
 
 /// A bracket that does not close ends at the next slash modifier. DLY and RPT hold one word, so that without
 /// the closing bracket what follows is read as usual.
-Item ReadBracketItem(TokenCursor& cursor, ItemKind kind) {
-  Item item{.kind = kind};
+void ReadBracketItem(TokenCursor& cursor, ItemKind kind, Item& item) {
+  item.kind = kind;
   const std::size_t start = cursor.Take().start;
   cursor.Take();
   if (kind != ItemKind::Raw) {
@@ -83,14 +84,14 @@ Item ReadBracketItem(TokenCursor& cursor, ItemKind kind) {
   }
   item.closed = cursor.Is(TokenKind::Closing);
   if (item.closed) cursor.Take();
-  item.range = {start, cursor.End() - start};
-  return item;
+  item.range.start = start;
+  item.range.length = cursor.End() - start;
 }
 
-Item ReadItem(TokenCursor& cursor) {
-  if (const BracketWord* row = BracketWordAt(cursor)) return ReadBracketItem(cursor, row->kind);
-  const ItemKind kind = KindOf(cursor.Words());
-  return {.kind = kind, .range = cursor.Take()};
+void ReadItem(TokenCursor& cursor, Item& item) {
+  if (const BracketWord* row = BracketWordAt(cursor)) return ReadBracketItem(cursor, row->kind, item);
+  item.kind = KindOf(cursor.Words());
+  item.range = cursor.Take();
 }
 
 /// The modifiers that a sequence stands behind. One of a group that is open ends the branches inside that
@@ -120,24 +121,27 @@ class OpenModifiers {
 
 bool IsManner(const SlashLetter* slash) { return slash == nullptr || slash->group == SlashGroup::Manner; }
 
-Sequence ReadSequenceBehind(TokenCursor& cursor, OpenModifiers open) {
-  Sequence sequence;
+void ReadSequenceBehind(TokenCursor& cursor, OpenModifiers open, Sequence& sequence) {
   sequence.items.reserve(cursor.CountUpTo(TokenKind::Modifier));
-  while (!cursor.AtEnd() && !cursor.Is(TokenKind::Modifier)) sequence.items.push_back(ReadItem(cursor));
+  while (!cursor.AtEnd() && !cursor.Is(TokenKind::Modifier)) ReadItem(cursor, sequence.items.emplace_back());
   while (!cursor.AtEnd()) {
     const SlashLetter* slash = SlashOf(cursor.Words());
     const bool beside = IsManner(slash) && open.HoldsManner() && !sequence.IsEmpty();
     if (open.Holds(slash) || beside) break;
     if (sequence.branches.empty()) sequence.branches.reserve(kUsualBranches);
     const Range modifier = cursor.Take();
-    sequence.branches.push_back({modifier, slash, ReadSequenceBehind(cursor, open.With(slash))});
+    sequence.branches.push_back({modifier, slash});
+    ReadSequenceBehind(cursor, open.With(slash), sequence.branches.back().sequence);
   }
-  return sequence;
 }
 
 }  // namespace
 
-Sequence ReadSequence(TokenCursor& cursor) { return ReadSequenceBehind(cursor, {}); }
+Sequence ReadSequence(TokenCursor& cursor) {
+  Sequence sequence;
+  ReadSequenceBehind(cursor, {}, sequence);
+  return sequence;
+}
 
 std::optional<std::uint32_t> NumberIn(std::string_view word) {
   std::uint32_t number = 0;

@@ -11,17 +11,13 @@
 namespace tarvik::model {
 
 /// `Statement` tells where one ends, by `EndOf(text, start)`, which looks at nothing before `start`, and
-/// reads one by `Read(lines, tokens)` of its own lines alone; `tokens` is room that is used again. The
+/// becomes one by `Read(lines, tokens)` of its own lines alone; `tokens` is room that is used again. The
 /// statements cover the text without gaps.
 template <class Statement>
 class StatementList {
  public:
   StatementList() = default;
   explicit StatementList(std::string_view text) : size_(text.size()) {
-    // A statement has at least a line. Moving them all while there come more would take longer than counting.
-    const auto lines = static_cast<std::size_t>(std::ranges::count(text, '\n')) + 1;
-    starts_.reserve(lines);
-    statements_.reserve(lines);
     ReadWhile(text, 0, [](std::size_t) { return true; });
   }
 
@@ -76,12 +72,13 @@ class StatementList {
   /// Reads statements from `at` on, as long as one is wanted there, and tells where it stopped.
   template <class Wanted>
   std::size_t ReadWhile(std::string_view text, std::size_t at, const Wanted& wanted) {
+    for (; at < text.size() && wanted(at); at = Statement::EndOf(text, at)) starts_.push_back(at);
+    // Each is read in its place, for moving one takes about as long.
+    statements_ = std::vector<Statement>(starts_.size());
     std::vector<Token> tokens;
-    while (at < text.size() && wanted(at)) {
-      const std::size_t end = Statement::EndOf(text, at);
-      starts_.push_back(at);
-      statements_.push_back(Statement::Read(text.substr(at, end - at), tokens));
-      at = end;
+    for (std::size_t i = 0; i < size(); ++i) {
+      const std::size_t end = i + 1 < size() ? starts_[i + 1] : at;
+      statements_[i].Read(text.substr(starts_[i], end - starts_[i]), tokens);
     }
     return at;
   }

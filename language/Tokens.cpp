@@ -2,36 +2,76 @@
 
 #include <algorithm>
 #include <array>
-
-#include "text/CodePage.h"
+#include <utility>
 
 namespace tarvik::model {
 namespace {
 
 constexpr std::string_view kRem = "rem";
 
-bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
-bool IsLetter(char byte) { return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z'); }
+constexpr bool IsDigit(char byte) { return byte >= '0' && byte <= '9'; }
+constexpr bool IsLetter(char byte) { return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z'); }
+
+/// What a token may be by its first byte.
+enum class Beginning : std::uint8_t {
+  Word,
+  Blank,
+  Return,
+  LineFeed,
+  Opening,
+  Closing,
+  Equals,
+  Remark,
+  Slash,
+  Code
+};
+
+/// Every token's first byte is asked this.
+constexpr auto kBeginnings = [] {
+  using enum Beginning;
+  std::array<Beginning, 256> beginnings{};
+  for (std::size_t byte = 0; byte < beginnings.size(); ++byte) {
+    beginnings[byte] = IsBlank(static_cast<char>(byte)) ? Blank : Word;
+  }
+  constexpr std::pair<char, Beginning> kOthers[] = {
+      {'\r', Return}, {'\n', LineFeed}, {'(', Opening}, {')', Closing}, {'=', Equals},
+      {'~', Remark},  {'r', Remark},    {'R', Remark},  {'/', Slash},   {'#', Code}};
+  for (const auto& [byte, beginning] : kOthers) beginnings[codepage::Byte(byte)] = beginning;
+  return beginnings;
+}();
 
 /// What stands behind a word, whatever the word is. Most bytes of a file are asked this.
-constexpr std::array<bool, 256> kEndsWord = [] {
-  std::array<bool, 256> ends{};
+using Ends = std::array<bool, 256>;
+constexpr Ends kEndsWord = [] {
+  Ends ends{};
   for (std::size_t byte = 0; byte < ends.size(); ++byte) ends[byte] = IsBlank(static_cast<char>(byte));
-  for (const char byte : {'\n', '(', ')', '~'}) ends[static_cast<unsigned char>(byte)] = true;
+  for (const char byte : {'\n', '(', ')', '~'}) ends[codepage::Byte(byte)] = true;
+  return ends;
+}();
+/// The same within the name of a macro.
+constexpr Ends kEndsNameWord = [] {
+  Ends ends = kEndsWord;
+  ends[codepage::Byte('=')] = true;
   return ends;
 }();
 
 /// Reads one token after another from a text.
 class TokenReader {
  public:
-  TokenReader(std::string_view text, FirstEquals equals) : text_(text), equals_(equals) {}
+  TokenReader(std::string_view text, FirstEquals equals)
+      : text_(text), ends_(equals == FirstEquals::EndsName ? &kEndsNameWord : &kEndsWord) {}
 
   [[nodiscard]] bool AtEnd() const { return at_ >= text_.size(); }
 
-  Token Next() {
-    const std::size_t start = at_;
-    const TokenKind kind = Skip();
-    return {kind, {start, at_ - start}};
+  /// Reads into the token's own place: a copy of what was only just written waits for it.
+  void Next(Token& token) {
+    token.range.start = at_;
+    token.kind = Skip();
+    token.range.length = at_ - token.range.start;
+  }
+  /// Goes on to what is shown.
+  void SkipUnseen() {
+    while (!AtEnd() && (IsBlank(text_[at_]) || text_[at_] == '\n')) ++at_;
   }
 
  private:
@@ -39,7 +79,6 @@ class TokenReader {
   [[nodiscard]] char Peek(std::size_t ahead = 0) const {
     return at_ + ahead < text_.size() ? text_[at_ + ahead] : ' ';
   }
-  [[nodiscard]] bool AtLineEnd() const { return Peek() == '\n' || (Peek() == '\r' && Peek(1) == '\n'); }
 
   TokenKind Take(std::size_t length, TokenKind kind) {
     at_ += length;
@@ -47,31 +86,48 @@ class TokenReader {
   }
 
   TokenKind Skip() {
-    if (AtLineEnd()) return Take(Peek() == '\r' ? 2 : 1, TokenKind::LineEnd);
-    if (IsBlank(Peek())) return SkipBlanks();
-    if (Peek() == '(') return Take(1, TokenKind::Opening);
-    if (Peek() == ')') return Take(1, TokenKind::Closing);
-    if (AtEquals()) {
-      equals_ = FirstEquals::IsKey;
-      return Take(1, TokenKind::Equals);
+    switch (kBeginnings[codepage::Byte(Peek())]) {
+      case Beginning::LineFeed:
+        return Take(1, TokenKind::LineEnd);
+      case Beginning::Return:
+        return Peek(1) == '\n' ? Take(2, TokenKind::LineEnd) : SkipBlanks();
+      case Beginning::Blank:
+        return SkipBlanks();
+      case Beginning::Opening:
+        return Take(1, TokenKind::Opening);
+      case Beginning::Closing:
+        return Take(1, TokenKind::Closing);
+      case Beginning::Equals:
+        return EndsName() ? SkipEquals() : SkipWord();
+      case Beginning::Remark:
+        return BeginsComment(text_.substr(at_)) ? SkipComment() : SkipWord();
+      case Beginning::Slash:
+        return AtModifier() ? Take(2, TokenKind::Modifier) : SkipWord();
+      case Beginning::Code:
+        return IsWordCharacter(Peek(1)) ? SkipCode() : SkipWord();
+      case Beginning::Word:
+        break;
     }
-    if (BeginsComment(text_.substr(at_))) return SkipComment();
-    if (AtModifier()) return Take(2, TokenKind::Modifier);
-    if (Peek() == '#' && IsWordCharacter(Peek(1))) return SkipCode();
     return SkipWord();
   }
 
-  [[nodiscard]] bool AtEquals() const { return equals_ == FirstEquals::EndsName && Peek() == '='; }
+  [[nodiscard]] bool EndsName() const { return ends_ == &kEndsNameWord; }
 
   /// A slash anywhere else, or before a longer word, is part of that word.
   [[nodiscard]] bool AtModifier() const {
     const bool behindBlank = at_ == 0 || IsBlank(text_[at_ - 1]) || text_[at_ - 1] == '\n';
-    return behindBlank && Peek() == '/' && IsLetter(Peek(1)) && !IsWordCharacter(Peek(2));
+    return behindBlank && IsLetter(Peek(1)) && !IsWordCharacter(Peek(2));
   }
 
   TokenKind SkipBlanks() {
-    while (!AtEnd() && IsBlank(Peek()) && !AtLineEnd()) ++at_;
+    while (!AtEnd() && IsBlank(text_[at_]) && (text_[at_] != '\r' || Peek(1) != '\n')) ++at_;
     return TokenKind::Blank;
+  }
+
+  /// Any further "=" is a key.
+  TokenKind SkipEquals() {
+    ends_ = &kEndsWord;
+    return Take(1, TokenKind::Equals);
   }
 
   TokenKind SkipComment() {
@@ -82,25 +138,20 @@ class TokenReader {
 
   TokenKind SkipCode() {
     ++at_;
-    while (!AtEnd() && IsWordCharacter(Peek())) ++at_;
+    while (!AtEnd() && IsWordCharacter(text_[at_])) ++at_;
     return TokenKind::Code;
   }
 
   TokenKind SkipWord() {
     const std::size_t start = at_++;
-    const auto first = text_.begin() + static_cast<std::ptrdiff_t>(at_);
-    const bool endsName = equals_ == FirstEquals::EndsName;
-    const auto end = std::find_if(first, text_.end(), [endsName](char byte) {
-      return kEndsWord[static_cast<unsigned char>(byte)] || (endsName && byte == '=');
-    });
-    at_ = static_cast<std::size_t>(end - text_.begin());
+    while (!AtEnd() && !(*ends_)[codepage::Byte(text_[at_])]) ++at_;
     const std::string_view word = text_.substr(start, at_ - start);
-    if (std::ranges::all_of(word, IsDigit)) return TokenKind::Number;
+    if (IsDigit(word.front()) && std::ranges::all_of(word, IsDigit)) return TokenKind::Number;
     return word == "AND" || word == "OR" || word == "NOT" ? TokenKind::Logic : TokenKind::Word;
   }
 
   std::string_view text_;
-  FirstEquals equals_;
+  const Ends* ends_;
   std::size_t at_ = 0;
 };
 
@@ -109,21 +160,20 @@ class TokenReader {
 std::vector<Token> TokensOf(std::string_view text, FirstEquals equals) {
   std::vector<Token> tokens;
   TokenReader reader(text, equals);
-  while (!reader.AtEnd()) tokens.push_back(reader.Next());
+  while (!reader.AtEnd()) reader.Next(tokens.emplace_back());
   return tokens;
 }
 
 void ReadWords(std::string_view text, FirstEquals equals, std::vector<Token>& words,
                std::vector<Range>& comments) {
-  using enum TokenKind;
   words.clear();
   TokenReader reader(text, equals);
-  while (!reader.AtEnd()) {
-    const Token token = reader.Next();
-    if (token.kind == Comment) {
+  for (reader.SkipUnseen(); !reader.AtEnd(); reader.SkipUnseen()) {
+    Token& token = words.emplace_back();
+    reader.Next(token);
+    if (token.kind == TokenKind::Comment) {
       comments.push_back(token.range);
-    } else if (token.kind != Blank && token.kind != LineEnd) {
-      words.push_back(token);
+      words.pop_back();
     }
   }
 }
@@ -133,10 +183,6 @@ bool BeginsComment(std::string_view text) {
   return text.size() >= kRem.size() && ToLower(text[0]) == kRem[0] &&
          SameWord(text.substr(0, kRem.size()), kRem) &&
          (text.size() == kRem.size() || !IsWordCharacter(text[kRem.size()]));
-}
-
-bool SameWord(std::string_view one, std::string_view other) {
-  return one.size() == other.size() && std::ranges::equal(one, other, {}, ToLower, ToLower);
 }
 
 }  // namespace tarvik::model

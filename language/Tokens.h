@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "text/CodePage.h"
 #include "text/RichText.h"
 
 namespace tarvik::model {
@@ -47,7 +48,13 @@ void ReadWords(std::string_view text, FirstEquals equals, std::vector<Token>& wo
 /// The word beginning with "Rem", or "~", makes the rest of its line a comment.
 [[nodiscard]] bool BeginsComment(std::string_view text);
 /// Equal but for the case of the letters.
-[[nodiscard]] bool SameWord(std::string_view one, std::string_view other);
+[[nodiscard]] inline bool SameWord(std::string_view one, std::string_view other) {
+  if (one.size() != other.size()) return false;
+  for (std::size_t i = 0; i < one.size(); ++i) {
+    if (ToLower(one[i]) != ToLower(other[i])) return false;
+  }
+  return true;
+}
 /// What the range covers.
 [[nodiscard]] inline std::string_view In(std::string_view text, Range range) {
   return text.substr(range.start, range.length);
