@@ -25,8 +25,8 @@ struct Job {
   std::vector<Sheet> sheets = {};
   Colouring colouring = Colouring::Colours;
   std::optional<UserInks> inks = {};  ///< in the place of ours, where it is in colours
-  std::string title = {};  ///< of the document, in UTF-8
-  int dotsPerInch = 200;   ///< of pictures
+  std::string title = {};             ///< of the document, in UTF-8
+  int dotsPerInch = 200;              ///< of pictures
 };
 
 class Press {

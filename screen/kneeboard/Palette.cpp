@@ -12,8 +12,9 @@ Palette Palette::Of(const kneeboard::Job& job) {
   Palette palette = Colours();
   if (!job.inks) return palette;
   const auto put = [&palette](kneeboard::Ink ink, tarvik::Colour colour) {
-    palette.inks.at(static_cast<std::size_t>(ink)) = QColor::fromRgb(qRgb(static_cast<int>(RedOf(colour)), static_cast<int>(GreenOf(colour)),
-                              static_cast<int>(BlueOf(colour))));
+    palette.inks.at(static_cast<std::size_t>(ink)) =
+        QColor::fromRgb(qRgb(static_cast<int>(RedOf(colour)), static_cast<int>(GreenOf(colour)),
+                             static_cast<int>(BlueOf(colour))));
   };
   put(kneeboard::Ink::Accent, job.inks->accent);
   put(kneeboard::Ink::Alarm, job.inks->alarm);
