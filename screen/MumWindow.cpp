@@ -77,10 +77,8 @@ void MumWindow::ShowCloseChild() {
 
 /// A session winds these timers by itself.
 void MumWindow::BindTimers() {
-  Workbench& bench = application_.workbench;
-  for (Timer* const timer :
-       {&bench.journals.timer, &bench.liveColours.pause.timer, &bench.problems.pause.timer}) {
-    bindings_.Bind(*timer, *new QTimer(this));
+  for (Component* const child : application_.mum().Children()) {
+    if (auto* const timer = dynamic_cast<Timer*>(child)) bindings_.Bind(*timer, *new QTimer(this));
   }
 }
 

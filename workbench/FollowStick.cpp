@@ -16,6 +16,11 @@ std::string_view SwitchButton(std::uint32_t place) {
   return place < std::size(kButtons) ? kButtons[place] : std::string_view();
 }
 
+/// A hat or a rocker that comes back to its middle is let go of, though a file can say what that sends.
+bool IsMiddle(std::string_view control) {
+  return control == "RKR MD" || (control.starts_with('H') && control.ends_with('M'));
+}
+
 }  // namespace
 
 FollowStick::FollowStick(Documents& documents, const FileModels& models, StickFeed& feed)
@@ -59,7 +64,8 @@ void FollowStick::Follow(const play::ControlEvent& event) {
   if (documents_.settings.FollowStick == 0) return;
   switch (event.kind) {
     case play::EventKind::Down:
-      return Press(event.control);
+      if (!IsMiddle(event.control)) Press(event.control);
+      return;
     case play::EventKind::Up:
       if (const auto found = pressed_.find(event.control); found != pressed_.end()) pressed_.erase(found);
       return Changed();

@@ -116,7 +116,7 @@ void Runner::MoveStick(const Line& line) {
   const std::map<std::string, int> places = {{"up", 1}, {"right", 2}, {"down", 4}, {"left", 8}};
   const std::string& part = Word(line, 1);
   const int stick = outside_.sticks.Named(ToUtf8(Word(line, 2)));
-  if (stick == 0) throw Stop{"no such stick is plugged in"};
+  if (stick < 0) throw Stop{"no such stick is plugged in"};
   const int number = Number(line, 3) - 1;
   if (part == "button") {
     outside_.sticks.Move(stick, StickChangeKind::Button, number, Word(line, 4) == "down" ? 1 : 0);

@@ -67,6 +67,16 @@ TEST_F(FollowStickTest, LightsWhatIsPressedAndShowsItsStatement) {
   EXPECT_THAT(Glowing(), testing::StartsWith("BTN S1"));
 }
 
+TEST_F(FollowStickTest, AHatThatComesBackLightsNoMore) {
+  Follow();
+  bare.outside.sticks.Move(stick, StickChangeKind::Hat, 0, 1);
+  EXPECT_TRUE(follow.Lights("H1U"));
+  bare.outside.sticks.Move(stick, StickChangeKind::Hat, 0, 0);
+  EXPECT_FALSE(follow.Lights("H1U"));
+  EXPECT_FALSE(follow.Lights("H1M"));
+  EXPECT_THAT(Glowing(), testing::StartsWith("BTN H1U"));
+}
+
 TEST_F(FollowStickTest, WithoutAStatementNothingGlows) {
   Follow();
   Button(1);

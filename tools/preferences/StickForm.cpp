@@ -129,7 +129,7 @@ void StickForm::ShowSticks() {
   }
   for (const StickMap::Stick& each : bench_.sticks.Map().Sticks()) {
     if (std::ranges::find(sticks_, each.id, &Stick::id) != sticks_.end()) continue;
-    sticks_.push_back({each.id, {}, 0});
+    sticks_.push_back({each.id, {}, std::nullopt});
     names.push_back(FromUtf8(each.id.name).append("  (not plugged in)"));
   }
   const auto same = std::ranges::find(sticks_, before, &Stick::id);
@@ -142,7 +142,7 @@ void StickForm::ShowSticks() {
 void StickForm::Sticks_Click() {
   const Stick* const stick = InHand();
   ClearAll.Enabled = stick != nullptr;
-  Ready.Enabled = stick != nullptr && stick->number != 0;
+  Ready.Enabled = stick != nullptr && stick->number.has_value();
   Ready.ToolTipText =
       stick == nullptr
           ? std::string()

@@ -49,7 +49,7 @@ class StickForm : public ToolForm {
   struct Stick {
     play::StickId id;
     play::StickShape shape;
-    int number = 0;  ///< 0 where it is not plugged in
+    std::optional<int> number = {};  ///< none where it is not plugged in
   };
   struct InputRow {
     play::StickInput input;

@@ -186,7 +186,7 @@ void ScriptedSticks::Move(int stick, StickChangeKind kind, int number, int value
 
 int ScriptedSticks::Named(const std::string& name) const {
   const auto found = std::ranges::find_if(there_, [&](const Stick& each) { return each.info.name == name; });
-  return found == there_.end() ? 0 : found->info.number;
+  return found == there_.end() ? -1 : found->info.number;
 }
 
 }  // namespace tarvik::session

@@ -144,7 +144,7 @@ class ScriptedSticks : public Sticks {
   void Tell(const Stick& stick);
 
   std::vector<Stick> there_;
-  int last_ = 0;
+  int last_ = -1;  // so that the first is 0, as the real one is
   bool listens_ = false;
 };
 
