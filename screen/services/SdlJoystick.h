@@ -6,7 +6,7 @@
 
 #include "platform/Joystick.h"
 
-struct _SDL_Joystick;  // NOLINT(bugprone-reserved-identifier): the library's own name for it
+struct _SDL_Joystick;
 
 namespace tarvik::screen {
 

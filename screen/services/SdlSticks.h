@@ -9,7 +9,7 @@
 
 #include "platform/Sticks.h"
 
-struct _SDL_Joystick;  // NOLINT(bugprone-reserved-identifier): the library's own names
+struct _SDL_Joystick;
 union SDL_Event;
 
 namespace tarvik::screen {

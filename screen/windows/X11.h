@@ -2,7 +2,7 @@
 #pragma once
 
 // By the name that Xlib gives it.
-using Display = struct _XDisplay;  // NOLINT(bugprone-reserved-identifier)
+using Display = struct _XDisplay;
 
 namespace tarvik::screen {
 
