@@ -411,10 +411,9 @@ void TryOut::ShowButtons() {
   }
   KeysDown.Caption = keys;
   std::string buttons;
-  for (std::uint16_t number = 1; number <= std::size(kMouseButtons); ++number) {
-    if (run_.IsDown(OutputKind::Mouse, number)) {
-      AddWord(buttons, std::string("mouse ").append(kMouseButtons[number - 1]));
-    }
+  std::uint16_t button = 0;
+  for (const std::string_view name : kMouseButtons) {
+    if (run_.IsDown(OutputKind::Mouse, ++button)) AddWord(buttons, std::string("mouse ").append(name));
   }
   constexpr std::uint16_t kPorts = 4;
   for (std::uint16_t number = 1; number <= kPorts; ++number) {
