@@ -15,35 +15,20 @@ bool IsButton(OutputKind kind) { return kind == OutputKind::Mouse || kind == Out
 }  // namespace
 
 DryRun::DryRun(Program program, std::function<void(const Output&)> sent)
-    : run_(std::make_unique<Run>(std::move(program))), sent_(std::move(sent)) {
-  Take(run_->engine.Step({}, now_));
+    : run_(std::move(program), [this](const StepResult& result) { Take(result); }), sent_(std::move(sent)) {
+  run_.Step({}, now_);
 }
 
 void DryRun::Exchange(Program program, std::span<const std::string> held) {
-  Take(run_->engine.Stop(now_));
   ahead_.clear();
   due_ = {};
-  buttons_ = {};
-  run_ = std::make_unique<Run>(std::move(program));
-  Engine& engine = run_->engine;
-  Take(engine.Step({EventKind::Switch, switch_, 0}, now_));
-  for (std::uint32_t axis = 0; axis < positions_.size(); ++axis) {
-    if (positions_[axis]) Take(engine.Step({EventKind::Move, axis, *positions_[axis]}, now_));
-  }
-  for (const std::string& name : held) {
-    const auto control = run_->program.FindControl(name);
-    if (control) Take(engine.Step({EventKind::Down, *control, 0}, now_));
-  }
+  run_.Exchange(std::move(program), held, now_);
 }
 
 void DryRun::Do(Event event) {
-  if (event.kind == EventKind::Move) {
-    event.position = std::round(event.position * kFinest) / kFinest;
-    positions_[event.index] = event.position;
-  }
-  if (event.kind == EventKind::Switch) switch_ = event.index;
+  if (event.kind == EventKind::Move) event.position = std::round(event.position * kFinest) / kFinest;
   Note(LineOf(event, program()));
-  Take(run_->engine.Step(event, now_));
+  run_.Step(event, now_);
 }
 
 std::optional<Time> DryRun::Next() const {
@@ -73,7 +58,7 @@ void DryRun::GoOn(Time to) {
   now_ = to;
   const bool isEngineDue = deadline_ && *deadline_ <= now_;
   if (!isEngineDue && !ahead_.empty() && due_ <= now_) return TakeStep();
-  Take(run_->engine.Step({}, now_));
+  run_.Step({}, now_);
 }
 
 void DryRun::TakeStep() {
@@ -86,8 +71,7 @@ void DryRun::TakeStep() {
 
 void DryRun::Stop() {
   if (!lines_.empty()) Note("stop");
-  switch_ = kSwitchInMiddle;
-  Take(run_->engine.Stop(now_));
+  run_.Stop(now_);
 }
 
 void DryRun::LetGo() {
@@ -101,9 +85,7 @@ void DryRun::Begin() {
   lines_.clear();
   unnoted_ = {};
   now_ = {};
-  positions_ = {};
-  run_ = std::make_unique<Run>(std::move(run_->program));
-  Take(run_->engine.Step({}, now_));
+  run_.Renew(now_);
 }
 
 void DryRun::Play(const Trace& trace) {

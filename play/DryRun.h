@@ -4,8 +4,8 @@
 
 #include <deque>
 #include <functional>
-#include <memory>
 
+#include "play/Run.h"
 #include "play/Trace.h"
 
 namespace tarvik::play {
@@ -31,25 +31,19 @@ class DryRun {
   /// From now on the steps of a trace for this program come by themselves.
   void Play(const Trace& trace);
 
-  [[nodiscard]] const Program& program() const { return run_->program; }
-  [[nodiscard]] const Engine& engine() const { return run_->engine; }
+  [[nodiscard]] const Program& program() const { return run_.program(); }
+  [[nodiscard]] const Engine& engine() const { return run_.engine(); }
   /// Since the run began.
   [[nodiscard]] Time now() const { return now_; }
   [[nodiscard]] bool IsDown(OutputKind kind, std::uint16_t number) const;
   [[nodiscard]] bool IsPlaying() const { return !ahead_.empty() || due_ > now_; }
   /// Where an axis was put last, from 0 to 1.
-  [[nodiscard]] std::optional<double> PositionOf(std::uint32_t axis) const { return positions_[axis]; }
-  [[nodiscard]] std::uint32_t SwitchPlace() const { return switch_; }
+  [[nodiscard]] std::optional<double> PositionOf(std::uint32_t axis) const { return run_.PositionOf(axis); }
+  [[nodiscard]] std::uint32_t SwitchPlace() const { return run_.SwitchPlace(); }
   /// What was done, a line each, as `ReadTrace` reads it.
   [[nodiscard]] const std::vector<std::string>& Lines() const { return lines_; }
 
  private:
-  struct Run {
-    explicit Run(Program made) : program(std::move(made)), engine(program) {}
-    Program program;
-    Engine engine;
-  };
-
   [[nodiscard]] std::optional<Time> Next() const;
   void GoOn(Time to);
   void TakeStep();
@@ -57,16 +51,14 @@ class DryRun {
   void Take(const StepResult& result);
   void Note(std::string line);
 
-  std::unique_ptr<Run> run_;
+  Run run_;
   std::function<void(const Output&)> sent_;
   Time now_ = {};
   std::optional<Time> deadline_;
   std::deque<TraceStep> ahead_;
   Time due_ = {};  // of the first one ahead
   std::vector<std::string> lines_;
-  Time unnoted_ = {};  // since the last line
-  std::array<std::optional<double>, kAxisNames.size()> positions_ = {};
-  std::uint32_t switch_ = kSwitchInMiddle;
+  Time unnoted_ = {};                          // since the last line
   std::array<std::uint32_t, 2> buttons_ = {};  // of the mouse and of the ports that are down, a bit each
 };
 
