@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
@@ -30,7 +31,8 @@ Failure FailureOf(int code) {
 /// Everything that the child needs, made before the fork: behind it nothing may be allocated.
 class Image {
  public:
-  explicit Image(const ProcessStart& start) : file_(start.file), folder_(start.folder) {
+  explicit Image(const ProcessStart& start)
+      : file_(start.file), folder_(start.folder), standard_{start.input, start.output, -1} {
     arguments_.push_back(file_.native());
     arguments_.insert(arguments_.end(), start.arguments.begin(), start.arguments.end());
     for (const std::string& each : start.environment) {
@@ -47,7 +49,10 @@ class Image {
   void Run() const {
     if (!folder_.empty() && ::chdir(folder_.c_str()) != 0) return;
     const int nothing = ::open("/dev/null", O_RDWR);
-    for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) ::dup2(nothing, standard);
+    for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+      const int file = standard_[static_cast<std::size_t>(standard)];
+      ::dup2(file < 0 ? nothing : file, standard);
+    }
     for (const int ignored : {SIGPIPE, SIGXFSZ}) ::signal(ignored, SIG_DFL);
     ::execve(file_.c_str(), argv_.data(), envp_.data());
   }
@@ -55,6 +60,7 @@ class Image {
  private:
   fs::path file_;
   fs::path folder_;
+  std::array<int, 3> standard_;
   std::vector<std::string> arguments_;
   std::vector<std::string> environment_;
   std::vector<char*> argv_;
@@ -153,6 +159,10 @@ ProgramState ChildProcess::State() {
   id_ = 0;
   if (found < 0 || WIFSIGNALED(status)) ended_ = ProgramState::Abandoned;
   return ended_;
+}
+
+void ChildProcess::Tell(int number) const {
+  if (id_ != 0) ::kill(id_, number);
 }
 
 /// The child is asked to end first, and ended when it does not.

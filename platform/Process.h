@@ -14,13 +14,15 @@ namespace tarvik {
 /// From now on writing beyond the limit for the size of a file is a failure, and does not end this process.
 void IgnoreFileSizeSignal();
 
-/// What to run: the file, its arguments (without the file itself), where, and what its environment has beside
-/// ours where that says nothing of it.
+/// What to run: the file, its arguments (without the file itself), where, what its environment has beside
+/// ours where that says nothing of it, and what it reads from and writes to; nothing where that is -1.
 struct ProcessStart {
   std::filesystem::path file;
   std::vector<std::string> arguments{};
   std::filesystem::path folder{};
   std::vector<std::string> environment{};  ///< "NAME=value"
+  int input = -1;
+  int output = -1;
 };
 
 /// Starts a process that lives on by itself and that nobody has to wait for.
@@ -37,6 +39,8 @@ class ChildProcess : public RunningProgram {
 
   ProgramState State() override;
   void Stop() override;
+  /// Sends it a signal.
+  void Tell(int number) const;
 
  private:
   explicit ChildProcess(int id) : id_(id) {}
