@@ -157,6 +157,7 @@ inline constexpr MenuRow<Editor> kMenus[] = {
     {1, "mnuAppsTemplate", "&Template Editor", "F11", &Editor::mnuAppsTemplate_Click},
     {1, "mnuAppsJoyAnalyser", "Joystick &analyser", "", &Editor::ShowTool<ToolId::JoystickAnalyser>},
     {1, "mnuAppsTryOut", "Tr&y it out ...", "Ctrl+Shift+T", &Editor::ShowTool<ToolId::TryOut>},
+    {1, "mnuAppsFly", "&Fly ...", "Ctrl+Shift+Y", &Editor::ShowTool<ToolId::Fly>},
     {1, "mnuAppsDivider1", "-"},
     {1, "mnuAppsTMScope", "TMSco&pe", "", &Editor::mnuAppsTMScope_Click},
     {1, "mnuAppsCandCC", "Thrustmaster &Control Centre", "", &Editor::mnuAppsCandCC_Click},

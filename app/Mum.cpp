@@ -89,7 +89,8 @@ Mum::Mum(Application& application)
   busy_ = bench_.documents.Busy.Changed.Connect(
       [this] { MousePointer = bench_.documents.Busy ? pointer::kHourglass : pointer::kDefault; });
   problems_ = bench_.problems.Changed.Connect([this] { ShowProblemCount(); });
-  Caption = "Tarvik";
+  flight_ = bench_.flight.Changed.Connect([this] { ShowFlight(); });
+  ShowFlight();
   EmptyText.Caption = "The editor is closed; no file is open.";
   EmptyText.BackColor = ToggleLabel::kOff;
   BeginStatus();
@@ -106,6 +107,10 @@ void Mum::ShowProblemCount() {
   const std::string words = InWords(bench_.problems);
   ProblemCount.Visible = !words.empty();
   ProblemCount.Caption = words;
+}
+
+void Mum::ShowFlight() {
+  Caption = bench_.flight.Now() == Flight::Phase::Flying ? "Tarvik is flying" : "Tarvik";
 }
 
 void Mum::ProblemCount_Click() {

@@ -53,11 +53,13 @@ class Mum : public Form {
  private:
   void SetPaths();
   void ShowProblemCount();
+  void ShowFlight();
 
   Application& application_;
   Workbench& bench_;
   Connection busy_;
   Connection problems_;
+  Connection flight_;
 };
 
 }  // namespace tarvik

@@ -17,6 +17,7 @@
 #include "tools/recovery/EarlierVersions.h"
 #include "tools/recovery/UnsavedTexts.h"
 #include "tools/templates/TemplateForm.h"
+#include "tools/testing/Fly.h"
 #include "tools/testing/JoyPlot.h"
 #include "tools/testing/KeyTestForm.h"
 #include "tools/testing/TryOut.h"
@@ -86,7 +87,7 @@ constexpr ToolRow kTools[] = {
     Row<EnterFavouritename>(ToolId::Favourite, "EnterFavouritename", EndsWith::Editor, AddToFavourites),
     Row<EnterGameName>(ToolId::Game, "EnterGameName", EndsWith::Editor, AddGame),
     Row<DrivesForm>(ToolId::Drives, "DrivesForm", EndsWith::Editor),
-    Row<StickForm>(ToolId::Sticks, "StickForm", EndsWith::Editor),
+    Row<StickForm>(ToolId::Sticks, "StickForm", EndsWith::Editor, Modal<StickForm>),
     Row<Preferences>(ToolId::Preferences, "Preferences", EndsWith::Editor, Modal<Preferences>),
     Row<MacroWizard>(ToolId::MacroWizard, "MacroWizard", EndsWith::Editor, Raise<MacroWizard>),
     Row<JoystickWiz>(ToolId::JoystickWizard, "JoystickWiz", EndsWith::Editor, Raise<JoystickWiz>),
@@ -99,6 +100,7 @@ constexpr ToolRow kTools[] = {
     Row<RenameForm>(ToolId::Rename, "RenameForm", EndsWith::Editor, AskForName),
     Row<KneeboardForm>(ToolId::Kneeboard, "Kneeboard", EndsWith::Editor, Raise<KneeboardForm>),
     Row<TryOut>(ToolId::TryOut, "TryOut", EndsWith::Editor, ShowTryOut),
+    Row<Fly>(ToolId::Fly, "Fly", EndsWith::Editor, Raise<Fly>),
     Row<ColourSelector>(ToolId::ColourSelector, "ColourSelector", EndsWith::Frame, ShowColours),
     Row<KeyTestForm>(ToolId::KeyTest, "KeyTestForm", EndsWith::Frame, ShowKeyTest),
     Row<ProgramWait>(ToolId::ProgramWait, "ProgramWait", EndsWith::Frame),

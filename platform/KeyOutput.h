@@ -27,11 +27,12 @@ struct KeyOutputState {
 class KeyOutput {
  public:
   virtual ~KeyOutput() = default;
-  /// Looks for a way; `answered` tells what was found, not before this returns. It has been stopped before.
+  /// Looks for a way; `answered` tells what was found. It has been stopped before.
   virtual void Start() = 0;
   /// Everything goes up. Nothing is told from now on.
   virtual void Stop() = 0;
   /// Once it has answered with a way. `position` is a KEY_ or BTN_ number of linux/input-event-codes.h.
+  /// Nobody is told anything before it returns.
   virtual void Send(std::uint16_t position, bool down) = 0;
 
   // Who listens; set before the start. Each may stop it.

@@ -7,13 +7,16 @@
 #include <string>
 #include <vector>
 
+#include "platform/Alarm.h"
 #include "platform/Files.h"
 #include "platform/Journals.h"
 #include "platform/Joystick.h"
+#include "platform/KeyOutput.h"
 #include "platform/Keyboard.h"
 #include "platform/Outcome.h"
 #include "platform/Printer.h"
 #include "platform/Programs.h"
+#include "platform/Seat.h"
 #include "platform/Sticks.h"
 #include "text/CodePage.h"
 #include "text/Colour.h"
@@ -182,6 +185,9 @@ struct Platform {
   Desktop& desktop;
   Joystick& joystick;
   Sticks& sticks;
+  KeyOutput& keys;
+  Alarm& alarm;
+  Seat& seat;
   Keyboard& keyboard;
   Programs& programs;
   DriveFolders& drives;

@@ -46,16 +46,6 @@ void Player::Stop(Time now) {
   LetGo();
 }
 
-void Player::Exchange(Program program, Time now) {
-  now_ = std::max(now, now_);
-  std::vector<std::string> held;
-  const auto s3 = run_.program().FindControl("S3");
-  if (s3 && run_.engine().IsControlDown(*s3)) held.emplace_back("S3");
-  LetGo();
-  run_.Exchange(std::move(program), held, now_);
-  SendDue();
-}
-
 void Player::Take(const StepResult& result) {
   deadline_ = result.deadline;
   for (const Output& each : result.outputs) {

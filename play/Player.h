@@ -35,10 +35,6 @@ class Player {
   /// Lets go of everything at once, and forgets what was to be sent. Controls that are held count from their
   /// next press.
   void Stop(Time now);
-  /// The files have changed: everything goes up, and what they say now is played. Axes and the dogfight
-  /// switch stay where they are, and so does S3.
-  void Exchange(Program program, Time now);
-
   [[nodiscard]] bool AnyDown() const { return down_ > 0; }
   [[nodiscard]] bool IsDown(Position position) const { return keys_[position].isDown; }
   [[nodiscard]] const Program& program() const { return run_.program(); }

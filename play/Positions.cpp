@@ -50,6 +50,15 @@ std::optional<Position> PositionOf(const Output& output) {
   return static_cast<Position>(button);
 }
 
+std::string NameAt(Position position) {
+  constexpr std::array<const char*, 3> kButtons = {"left", "right", "middle"};
+  if (position >= kFirstMouseButton && position < kPositions) {
+    return std::string("mouse ").append(kButtons.at(position - kFirstMouseButton));
+  }
+  const Row* const row = std::ranges::find(kRows, position, &Row::position);
+  return row == std::end(kRows) ? std::string() : NameOf(row->key);
+}
+
 bool IsModifier(Position position) {
   constexpr Position kModifiers[] = {29, 42, 54, 56, 97, 100, 125, 126};
   return std::ranges::find(kModifiers, position) != std::end(kModifiers);

@@ -20,7 +20,9 @@ namespace tarvik::screen {
 namespace {
 
 constexpr int kPanelInterval = 250;  // milliseconds
-constexpr int kSettlingTime = 200;   // milliseconds
+/// While the user is at another program, whose machine this is then.
+constexpr int kPanelIntervalElsewhere = 1000;
+constexpr int kSettlingTime = 200;  // milliseconds
 constexpr QSize kSmallest(480, 320);
 
 }  // namespace
@@ -114,7 +116,11 @@ void MumWindow::KeepPanels() {
     }
   };
   connect(timer, &QTimer::timeout, this, show);
-  timer->start(kPanelInterval);
+  const auto start = [timer](Qt::ApplicationState state) {
+    timer->start(state == Qt::ApplicationActive ? kPanelInterval : kPanelIntervalElsewhere);
+  };
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, timer, start);
+  start(QGuiApplication::applicationState());
   show();
 }
 

@@ -12,7 +12,8 @@
 
 namespace tarvik::screen {
 
-Screen::Screen(Application& application, Clock clock) : application_(application), clock_(clock) {
+Screen::Screen(Application& application, Clock clock)
+    : application_(application), clock_(clock), flightSign_(application.workbench.flight) {
   connections_ = {
       application.Loaded.Connect([this](Form& form) { Show(form); }),
       application.Unloading.Connect([this](Form& form) { Unload(form); }),

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "app/Application.h"
+#include "screen/FlightSign.h"
 #include "screen/FormView.h"
 #include "screen/widgets/FileDrop.h"
 #include "screen/windows/WindowOrder.h"
@@ -41,6 +42,7 @@ class Screen {
   std::vector<Connection> connections_;
   WindowOrder order_;
   DropGuard dropGuard_;
+  FlightSign flightSign_;
   QObject context_;
 };
 

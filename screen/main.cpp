@@ -19,9 +19,12 @@
 #include "platform/ProgramFolder.h"
 #include "screen/Screen.h"
 #include "screen/Toolkit.h"
+#include "screen/services/DesktopSeat.h"
 #include "screen/services/EndSignals.h"
+#include "screen/services/KeysProcess.h"
 #include "screen/services/Libraries.h"
 #include "screen/services/LockKeys.h"
+#include "screen/services/QtAlarm.h"
 #include "screen/services/QtDesktop.h"
 #include "screen/services/QtDialogs.h"
 #include "screen/services/QtPress.h"
@@ -109,6 +112,9 @@ struct Services {
   screen::QtDesktop desktop{drives};
   screen::SdlJoystick joystick;
   screen::SdlSticks sticks;
+  screen::KeysProcess keys;
+  screen::QtAlarm alarm;
+  screen::DesktopSeat seat;
   screen::QtKeyboard keyboard;
   HostPrograms programs{drives};
   Platform platform{files,
@@ -121,6 +127,9 @@ struct Services {
                     desktop,
                     joystick,
                     sticks,
+                    keys,
+                    alarm,
+                    seat,
                     keyboard,
                     programs,
                     driveFolders,

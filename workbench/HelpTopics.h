@@ -18,6 +18,7 @@ inline constexpr int kPimlet = 5210;
 inline constexpr int kPreferencesPages[] = {5305, 5310, 5315, 5320, 5325, 5330};
 inline constexpr int kDrives = 5335;
 inline constexpr int kSticks = 5340;
+inline constexpr int kFly = 7016;
 inline constexpr int kComposerPages[] = {5355, 5360, 5365, 5370, 5375, 5380, 5385, 5390};
 inline constexpr int kJoystickAnalyser = 7021;
 inline constexpr int kTemplateEditor = 7030;

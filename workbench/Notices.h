@@ -21,6 +21,7 @@ enum class Matter {
   VersionKept,
   NoVersion,
   TextsLeft,
+  Flying,
   OffersDark,
   OffersColours,
   ErrorsInFiles

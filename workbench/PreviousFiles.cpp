@@ -18,7 +18,7 @@ constexpr RecordKey kFavouriteKeys[] = {
 constexpr RecordKey kGameKeys[] = {
     {"GameName", "GameName", kShortBuffer},          {"GamePath", "GamePath", kShortBuffer},
     {"GameDIRPath", "GameDIRPath", kShortBuffer},    {"GameJF", "GameJF", kShortBuffer, PartKind::File},
-    {"GameUseJF", "GameUseJF", 0, PartKind::Number},
+    {"GameUseJF", "GameUseJF", 0, PartKind::Number}, {"GameFly", "GameFly", 0, PartKind::Number},
 };
 
 constexpr ListTraits kJoystickList = {"PreviousJoystickFiles", "JFArrayNum", kJoystickKeys};

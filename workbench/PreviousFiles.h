@@ -38,6 +38,7 @@ class PreviousFiles : public Component {
   Property<std::string>& GameDIRPath = Games.InHand("GameDIRPath");
   Property<std::string>& GameJF = Games.InHand("GameJF");
   Property<std::string>& GameUseJF = Games.InHand("GameUseJF");  ///< "1": download GameJF first
+  Property<std::string>& GameFly = Games.InHand("GameFly");      ///< "1": fly while the game runs
   /// It is 1 when the window for a game has ended with OK.
   Property<int> GameDialogOK{*this, "GameDialogOK", 0};
   Property<int> FavLoadOnStart{*this, "FavLoadOnStart", 0};

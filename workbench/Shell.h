@@ -46,6 +46,7 @@ enum class ToolId {
   Rename,
   Kneeboard,
   TryOut,
+  Fly,
   Sticks,
 };
 

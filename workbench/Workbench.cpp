@@ -4,11 +4,12 @@ namespace tarvik {
 namespace {
 
 Platform With(Programs& programs, Desktop& desktop, const Platform& services) {
-  return {services.files,    services.dialogs,    services.instance,  services.clipboard,
-          services.help,     services.calendar,   services.printer,   desktop,
-          services.joystick, services.sticks,     services.keyboard,  programs,
-          services.drives,   services.journals,   services.libraries, services.screen,
-          services.folder,   services.commandLine};
+  return {services.files,      services.dialogs,   services.instance, services.clipboard,
+          services.help,       services.calendar,  services.printer,  desktop,
+          services.joystick,   services.sticks,    services.keys,     services.alarm,
+          services.seat,       services.keyboard,  programs,          services.drives,
+          services.journals,   services.libraries, services.screen,   services.folder,
+          services.commandLine};
 }
 
 }  // namespace
@@ -38,6 +39,7 @@ void Workbench::Reset() {
   documents.Reset();
   jumps.Forget();
   problems.Renew();
+  flight.End("The editor was closed.");
 }
 
 void Workbench::NewFile(Document& document) {

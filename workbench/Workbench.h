@@ -6,6 +6,7 @@
 #include "workbench/ChangedLines.h"
 #include "workbench/Definitions.h"
 #include "workbench/EditCommands.h"
+#include "workbench/Flight.h"
 #include "workbench/FollowStick.h"
 #include "workbench/ForeignEncodings.h"
 #include "workbench/IncrementalSearch.h"
@@ -62,6 +63,7 @@ class Workbench {
   StickFeed sticks{platform, settings, errors};
   FollowStick follow{documents, models, sticks};
   Notices notices;
+  Flight flight{platform, models, sticks, notices};
   Preflight preflight{documents, problems, notices};
   ForeignChanges foreign{documents, files, insertion, notices};
   ForeignEncodings encodings{documents, files, insertion, notices};

@@ -8,6 +8,7 @@
 #include "tools/preferences/Preferences.h"
 #include "tools/preferences/StickForm.h"
 #include "tools/printing/KneeboardForm.h"
+#include "tools/testing/Fly.h"
 #include "tools/testing/TryOut.h"
 #include "tools/wizards/Speedy.h"
 #include "tools/wizards/Wizard.h"
@@ -25,6 +26,7 @@ using MakePage = std::function<QLayout*(const FormLayout&)>;
 [[nodiscard]] QLayout* Page(Wizard& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(Speedy& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(KneeboardForm& form, const FormLayout& in);
+[[nodiscard]] QLayout* Page(Fly& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(TryOut& form, const FormLayout& in);
 [[nodiscard]] QLayout* Page(StickForm& form, const FormLayout& in);
 

@@ -121,7 +121,8 @@ QLayout* Games(Preferences& form, const FormLayout& in) {
                                      {"Working directory", form.Text4, form.Command15},
                                      {"Joystick file", form.Text13, form.Command4}})
                               .grid,
-                          in.Show(form.Check5), Row({Stretch(), in.Show(form.Command12)}), Stretch()}));
+                          in.Show(form.Check5), in.Show(form.CheckFly),
+                          Row({Stretch(), in.Show(form.Command12)}), Stretch()}));
 }
 
 QLayout* Miscellaneous(Preferences& form, const FormLayout& in) {

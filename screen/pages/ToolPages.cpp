@@ -255,8 +255,9 @@ QLayout* Page(EnterGameName& form, const FormLayout& in) {
   }
   auto* const grid = Grid(cells, 4);
   grid->setColumnStretch(1, 1);
-  return Column({grid, in.Show(form.Check1), Words("Note: you can edit these later in Preferences"),
-                 Stretch(), Row({Stretch(), in.Show(form.Command3), in.Show(form.Command4)})});
+  return Column({grid, in.Show(form.Check1), in.Show(form.CheckFly),
+                 Words("Note: you can edit these later in Preferences"), Stretch(),
+                 Row({Stretch(), in.Show(form.Command3), in.Show(form.Command4)})});
 }
 
 QLayout* Page(JoyPlot& form, const FormLayout& in) {
@@ -409,7 +410,8 @@ MakePage PageOf(Form& form) {
   return PageAmong<FindAndReplace, InsertOptions, Preferences, DrivesForm, StickForm, Wizard, Speedy, Title,
                    Heading, SingleTextForm, RAWform, KeyTestForm, JoyPlot, ProgramWait, EnterFavouritename,
                    EnterGameName, TemplateForm, frmTip, frmAbout, LogForm, CompareTexts, UnsavedTexts,
-                   EarlierVersions, RenameForm, KneeboardForm, TryOut, ViewImage, SelectPictureForm>(form);
+                   EarlierVersions, RenameForm, KneeboardForm, Fly, TryOut, ViewImage, SelectPictureForm>(
+      form);
 }
 
 }  // namespace tarvik::screen

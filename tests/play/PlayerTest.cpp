@@ -137,11 +137,7 @@ TEST(Player, LeavesNothingDownHoweverItEnds) {
     if (kind == 7) machine.Pass(Time(random() % 40000));
     if (random() % 200 != 0) continue;
     machine.isStopping = true;
-    if (random() % 2 == 0) {
-      machine.player.Stop(machine.now);
-    } else {
-      machine.player.Exchange(played.program, machine.now);
-    }
+    machine.player.Stop(machine.now);
     machine.isStopping = false;
     machine.Pass(milliseconds(50));
     ASSERT_THAT(machine.wrong, IsEmpty());
@@ -176,27 +172,6 @@ TEST(Player, ItsEndLetsGo) {
     player.Feed({EventKind::Down, "S1"}, Time{});
   }
   EXPECT_THAT(sent, ElementsAre(std::pair(kA, true), std::pair(kA, false)));
-}
-
-TEST(Player, OtherFilesLetGoAndKeepS3AndTheThrottle) {
-  Machine machine(Played("BTN S1 /H /I a /O b\nTHR 2 2 (1 2)\n").program);
-  machine.Do({EventKind::Move, 0, 0.9});
-  machine.Do(EventKind::Down, "S3");
-  machine.Do(EventKind::Down, "S1");
-  machine.Pass(milliseconds(5));
-  EXPECT_EQ(machine.sent.back(), std::pair(kA, true));
-  machine.isStopping = true;
-  machine.player.Exchange(Played("BTN S1 /H /I b /O a\nTHR 2 2 (1 2)\n").program, machine.now);
-  EXPECT_FALSE(machine.AnyDown());
-  machine.isStopping = false;
-  machine.sent.clear();
-  machine.Pass(milliseconds(100));
-  EXPECT_THAT(machine.sent, IsEmpty())
-      << "S1 counts from its next press, and the throttle stands where it is";
-  machine.Do(EventKind::Up, "S1");
-  machine.Do(EventKind::Down, "S1");
-  machine.Pass(milliseconds(5));
-  EXPECT_THAT(machine.sent, ElementsAre(std::pair(kB, true)));
 }
 
 TEST(Player, TwoKeysOfOnePlaceAreOneKey) {

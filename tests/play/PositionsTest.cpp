@@ -48,6 +48,13 @@ TEST(Positions, ButtonsOfTheMouseHaveThemAndPortsDoNot) {
   EXPECT_FALSE(PositionOf(output));
 }
 
+TEST(Positions, HaveTheNamesOfTheirKeys) {
+  EXPECT_EQ(NameAt(30), "a");
+  EXPECT_EQ(NameAt(42), NameOf(kShift));
+  EXPECT_EQ(NameAt(0x111), "mouse right");
+  EXPECT_EQ(NameAt(0), "");
+}
+
 TEST(Positions, TellModifiers) {
   for (const Key key : {kShift, kControl, kAlt, Key{0x59}}) EXPECT_TRUE(IsModifier(*PositionOf(key)));
   EXPECT_FALSE(IsModifier(*PositionOf(Key{0x1C})));

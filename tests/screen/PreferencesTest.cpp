@@ -135,6 +135,7 @@ constexpr SettingRow kRows[] = {
     {kGames, "set Preferences.Text13.Text c:\\x.b50", "Games", "GameJF1", "c:\\x.b50", "Text13.Text", nullptr,
      ""},
     {kGames, "click Preferences.Check5", "Games", "GameUseJF1", "1", "Check5.Value", nullptr, ""},
+    {kGames, "click Preferences.CheckFly", "Games", "GameFly1", "1", "CheckFly.Value", nullptr, ""},
 };
 
 /// As a word of a session, in which a quotation mark behind a backslash ends nothing.

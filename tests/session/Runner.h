@@ -69,6 +69,11 @@ class Runner {
   void PlugStick(const Line& line);
   void UnplugStick(const Line& line);
   void MoveStick(const Line& line);
+  void SetKeys(const Line& line);
+  void StopKeys(const Line& line);
+  void BreakKeys(const Line& line);
+  void TurnUser(const Line& line);
+  void LoseUser(const Line& line);
   void SetLock(const Line& line);
   void SetProgram(const Line& line);
   void DarkenDesktop(const Line& line);
@@ -116,6 +121,8 @@ class Runner {
   void ExpectOpened(const Line& line);
   void ExpectPopUp(const Line& line);
   void ExpectPoint(const Line& line);
+  void ExpectSent(const Line& line);
+  void ExpectNothingSent(const Line& line);
   void ExpectLock(const Line& line);
   void ExpectRun(const Line& line);
   void ExpectFocus(const Line& line);
@@ -134,6 +141,7 @@ class Runner {
   void ExpectEnded(const Line& line);
   void ExpectRunning(const Line& line);
 
+  [[nodiscard]] int UntilAlarm() const;
   [[nodiscard]] const std::string& Word(const Line& line, std::size_t index);
   [[nodiscard]] int Number(const Line& line, std::size_t index);
   [[nodiscard]] std::string Wanted(const Line& line, std::size_t index);

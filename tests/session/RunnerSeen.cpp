@@ -1,6 +1,7 @@
 // The runner: what is seen.
 #include <algorithm>
 
+#include "play/Positions.h"
 #include "session/RunnerParts.h"
 #include "tools/help/HelpFile.h"
 
@@ -51,6 +52,21 @@ void Runner::ExpectPoint(const Line& line) {
   auto* const picture = FindAs<PlotBox>(Word(line, 2));
   Compare(Word(line, 5),
           TextOf(driver_->ColourAt(*picture, std::stof(Word(line, 3)), std::stof(Word(line, 4)))));
+}
+
+/// expect sent "a down, a up": all that was really sent since last asked.
+void Runner::ExpectSent(const Line& line) {
+  std::string found;
+  for (const auto& [position, down] : std::exchange(outside_.keys.sent, {})) {
+    found.append(found.empty() ? "" : ", ").append(play::NameAt(position)).append(down ? " down" : " up");
+  }
+  Compare(Word(line, 2), found);
+}
+
+/// Nor is a key down.
+void Runner::ExpectNothingSent(const Line&) {
+  if (!outside_.keys.sent.empty()) Fail("keys were sent");
+  if (!outside_.keys.down.empty()) Fail("a key is down");
 }
 
 /// expect lock caps|num NUMBER

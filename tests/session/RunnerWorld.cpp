@@ -1,5 +1,7 @@
 // The runner: the world before the start, and the process.
 #include <algorithm>
+#include <chrono>
+#include <limits>
 
 #include "app/Editor.h"
 #include "session/RunnerParts.h"
@@ -129,6 +131,27 @@ void Runner::MoveStick(const Line& line) {
   }
 }
 
+/// keys uinput|xtest|none [TEXT [TEXT]]: how keys can be sent, why not better, and what mends that.
+void Runner::SetKeys(const Line& line) {
+  const std::map<std::string, KeyWay> ways = {
+      {"uinput", KeyWay::Uinput}, {"xtest", KeyWay::Xtest}, {"none", KeyWay::None}};
+  const auto text = [&](std::size_t index) {
+    return index < line.words.size() ? line.words[index] : std::string();
+  };
+  const KeyWay way = ways.at(Word(line, 1));
+  outside_.keys.state = {way, text(2), text(3), way != KeyWay::None};
+}
+
+/// keys stop: Ctrl+Alt+End, in whatever program.
+void Runner::StopKeys(const Line&) { outside_.keys.PressHotKey(); }
+
+/// keys break TEXT
+void Runner::BreakKeys(const Line& line) { outside_.keys.Break(Word(line, 2)); }
+
+/// user leaves|returns, user gone TEXT
+void Runner::TurnUser(const Line& line) { outside_.seat.Turn(Word(line, 1) == "returns"); }
+void Runner::LoseUser(const Line& line) { outside_.seat.LeaveMachine(Word(line, 2)); }
+
 /// lock caps|num NUMBER|unknown
 void Runner::SetLock(const Line& line) {
   const int code = Word(line, 1) == "caps" ? kCapsLock : kNumLock;
@@ -202,6 +225,13 @@ void Runner::Killed(const Line&) {
   outside_.instance.held = false;
 }
 
+/// In milliseconds; more than anybody waits where none is set.
+int Runner::UntilAlarm() const {
+  if (!outside_.alarm.due) return std::numeric_limits<int>::max();
+  const auto left = std::chrono::ceil<std::chrono::milliseconds>(*outside_.alarm.due - outside_.alarm.Now());
+  return static_cast<int>(std::max(left.count(), std::chrono::milliseconds::rep{0}));
+}
+
 void Runner::Wait(const Line& line) {
   const std::string& time = Word(line, 1);
   int left = std::stoi(time) * (time.ends_with("ms") ? 1 : 1000);
@@ -219,7 +249,9 @@ void Runner::Wait(const Line& line) {
     std::erase_if(elapsed_, [&](const auto& each) {
       return std::find(running.begin(), running.end(), each.first) == running.end();
     });
+    next = std::min(next, UntilAlarm());
     left -= next;
+    outside_.alarm.Pass(std::chrono::milliseconds(next));
     for (Timer* timer : running) elapsed_[timer] += next;
     for (Timer* timer : running) {
       if (elapsed_[timer] < timer->Interval) continue;

@@ -25,9 +25,10 @@ void KeptListPage::Attach() {
     TextBox& box = *traits_.parts[part];
     box.Change = [store, &box, part] { store(part, box.Text); };
   }
-  if (traits_.tick != nullptr) {
-    traits_.tick->Click = [this, store] {
-      store(traits_.parts.size(), traits_.tick->Value.ToText());
+  for (std::size_t i = 0; i < traits_.ticks.size(); ++i) {
+    CheckBox& tick = *traits_.ticks[i];
+    tick.Click = [this, store, &tick, part = traits_.parts.size() + i] {
+      store(part, tick.Value.ToText());
       if (!filling_ && traits_.rows.ListIndex >= 0) traits_.save();
     };
   }
@@ -58,9 +59,9 @@ void KeptListPage::ShowRecord() {
     traits_.parts[i]->Text = any ? part(i) : std::string();
     traits_.parts[i]->Enabled = any;
   }
-  if (traits_.tick != nullptr) {
-    if (any) traits_.tick->Value = part(traits_.parts.size()) == "1" ? 1 : 0;
-    traits_.tick->Enabled = any;
+  for (std::size_t i = 0; i < traits_.ticks.size(); ++i) {
+    if (any) traits_.ticks[i]->Value = part(traits_.parts.size() + i) == "1" ? 1 : 0;
+    traits_.ticks[i]->Enabled = any;
   }
   traits_.remove.Enabled = any;
   for (Control* const other : traits_.others) other->Enabled = any;

@@ -19,8 +19,8 @@ class KeptListPage {
     ListBox& rows;
     Label& hint;  ///< how one comes to a first record
     std::function<void()> save;
-    std::vector<TextBox*> parts;  ///< the boxes of a record's parts, in their order
-    CheckBox* tick;               ///< for the part behind them, or null
+    std::vector<TextBox*> parts;   ///< the boxes of a record's parts, in their order
+    std::vector<CheckBox*> ticks;  ///< those of the parts behind them
     CommandButton& remove;
     std::vector<Control*> others;  ///< what else goes grey without a row
     const char* menu;              ///< what a record is removed from

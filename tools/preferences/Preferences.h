@@ -73,6 +73,7 @@ class Preferences : public ToolForm {
   TextBox Text4{*this, "Text4"};    ///< the folder
   TextBox Text13{*this, "Text13"};  ///< the joystick file
   CheckBox Check5{*this, "Check5", "Transfer joystick file to joystick when game is run"};
+  CheckBox CheckFly{*this, "CheckFly", "Fly while the game runs"};
   CommandButton Command16{*this, "Command16", "Browse"};
   CommandButton Command15{*this, "Command15", "Browse"};
   CommandButton Command4{*this, "Command4", "Browse"};

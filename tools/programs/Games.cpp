@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "tools/programs/Download.h"
+#include "tools/programs/Shell32.h"
 #include "workbench/FileTypes.h"
 
 namespace tarvik {
@@ -56,6 +57,15 @@ Outcome<> Transfer(Workbench& bench, Shell& shell) {
   });
 }
 
+/// Starts the game of the record in hand, plays the two files for it, and waits until it has ended.
+Outcome<> FlyWith(Workbench& bench, Shell& shell) {
+  bench.flight.Begin();
+  const auto ended = ShellAndWait(bench, shell, bench.lists.GamePath);
+  bench.flight.End();
+  if (!ended) return ended.failure();
+  return Done{};
+}
+
 /// Starts the game of the record in hand.
 Outcome<> Run(Workbench& bench, Shell& shell) {
   Files& files = bench.platform.files;
@@ -64,7 +74,11 @@ Outcome<> Run(Workbench& bench, Shell& shell) {
       [&] { return lists.GameUseJF.Get() == "1" ? Transfer(bench, shell) : Done{}; },
       [&] { return files.ChangeDrive(lists.GameDIRPath.Get()); },
       [&] { return files.ChangeFolder(lists.GameDIRPath.Get()); },
-      [&] { return bench.platform.programs.Start(lists.GamePath, WindowStyle::Normal); },
+      [&] {
+        return lists.GameFly.Get() == "1"
+                   ? FlyWith(bench, shell)
+                   : bench.platform.programs.Start(lists.GamePath, WindowStyle::Normal);
+      },
   });
 }
 
@@ -126,6 +140,7 @@ void EnterGameName::AttachHandlers() {
     Command1(i).Click = [this, i] { Command1_Click(i); };
   }
   Check1.Click = [this] { Check1_Click(); };
+  CheckFly.Click = [this] { CheckFly_Click(); };
   Command2.Click = [this] { Command2_Click(); };
   Command3.MakeDefault();
   Command3.Click = [this] { Command3_Click(); };
@@ -144,6 +159,7 @@ void EnterGameName::CopyToRecord() {
   lists.GameDIRPath = Text3.Text.Get();
   lists.GameJF = Text4.Text.Get();
   Check1_Click();
+  CheckFly_Click();
 }
 
 void EnterGameName::Text_Change() {

@@ -16,6 +16,7 @@ class EnterGameName : public ToolForm {
   TextBox Text3{*this, "Text3"};  ///< the folder to start in
   TextBox Text4{*this, "Text4"};  ///< the joystick file
   CheckBox Check1{*this, "Check1", "Transfer joystick file to joystick before starting game"};
+  CheckBox CheckFly{*this, "CheckFly", "Fly while the game runs: what the stick does is sent to it as keys"};
   ControlArray<CommandButton> Command1{*this, "Command1", 2};
   CommandButton Command2{*this, "Command2", "Select"};
   CommandButton Command3{*this, "Command3", "OK"};
@@ -25,6 +26,7 @@ class EnterGameName : public ToolForm {
 
   void Text_Change();
   void Check1_Click() { bench_.lists.GameUseJF = Check1.Value.ToText(); }
+  void CheckFly_Click() { bench_.lists.GameFly = CheckFly.Value.ToText(); }
   void Command1_Click(int index);
   void Command2_Click();
   void Command3_Click();

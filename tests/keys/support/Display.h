@@ -65,11 +65,11 @@ class Client {
 /// tarvik-keys with a pipe either way.
 class Keys {
  public:
-  Keys() {
+  explicit Keys(const char* program = TARVIK_KEYS) {
     std::array<int, 2> in = {};
     std::array<int, 2> out = {};
     if (pipe2(in.data(), O_CLOEXEC) != 0 || pipe2(out.data(), O_CLOEXEC) != 0) return;
-    auto started = ChildProcess::Start({.file = TARVIK_KEYS, .input = in[0], .output = out[1]});
+    auto started = ChildProcess::Start({.file = program, .input = in[0], .output = out[1]});
     close(in[0]);
     close(out[1]);
     strokes_ = in[1];

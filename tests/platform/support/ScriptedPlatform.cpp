@@ -189,4 +189,44 @@ int ScriptedSticks::Named(const std::string& name) const {
   return found == there_.end() ? -1 : found->info.number;
 }
 
+// Keys that are sent.
+
+void ScriptedKeys::Send(std::uint16_t position, bool goesDown) {
+  if (!isOn_) return;
+  sent.emplace_back(position, goesDown);
+  if (goesDown) {
+    down.insert(position);
+  } else {
+    down.erase(position);
+  }
+}
+
+void ScriptedKeys::PressHotKey() {
+  if (isOn_ && hotKeyPressed) hotKeyPressed();
+}
+
+void ScriptedKeys::Break(const std::string& why) {
+  if (isOn_ && lost) lost(why);
+}
+
+void ScriptedAlarm::Pass(Time time) {
+  const Time until = now_ + time;
+  while (due && *due <= until) {
+    now_ = std::max(now_, *due);
+    due.reset();
+    if (rung) rung();
+  }
+  now_ = until;
+}
+
+void ScriptedSeat::Turn(bool inProgram) {
+  if (inProgram == isInProgram_) return;
+  isInProgram_ = inProgram;
+  if (isWatched && turned) turned();
+}
+
+void ScriptedSeat::LeaveMachine(const std::string& why) {
+  if (isWatched && left) left(why);
+}
+
 }  // namespace tarvik::session

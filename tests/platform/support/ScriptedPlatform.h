@@ -148,6 +148,62 @@ class ScriptedSticks : public Sticks {
   bool listens_ = false;
 };
 
+/// Keys that are sent are kept.
+class ScriptedKeys : public KeyOutput {
+ public:
+  void Start() override {
+    isOn_ = true;
+    answered(state);
+  }
+  void Stop() override {
+    isOn_ = false;
+    down.clear();
+  }
+  void Send(std::uint16_t position, bool goesDown) override;
+  /// The user presses the hot key, or keys can be sent no longer.
+  void PressHotKey();
+  void Break(const std::string& why);
+  [[nodiscard]] bool IsOn() const { return isOn_; }
+
+  KeyOutputState state{KeyWay::Uinput, "", "", true};
+  std::deque<std::pair<std::uint16_t, bool>> sent;  ///< and not yet expected
+  std::set<std::uint16_t> down;
+
+ private:
+  bool isOn_ = false;
+};
+
+/// Time passes when somebody lets it.
+class ScriptedAlarm : public Alarm {
+ public:
+  [[nodiscard]] Time Now() const override { return now_; }
+  void RingAt(Time time) override { due = time; }
+  void Cancel() override { due.reset(); }
+  /// Lets time pass, and rings when it is due.
+  void Pass(Time time);
+
+  std::optional<Time> due;
+
+ private:
+  Time now_ = {};
+};
+
+class ScriptedSeat : public Seat {
+ public:
+  void Watch() override { isWatched = true; }
+  void Leave() override { isWatched = false; }
+  [[nodiscard]] bool IsInProgram() const override { return isInProgram_; }
+  /// The user goes to another program, or comes back.
+  void Turn(bool inProgram);
+  /// Tells that the user leaves the machine.
+  void LeaveMachine(const std::string& why);
+
+  bool isWatched = false;
+
+ private:
+  bool isInProgram_ = true;
+};
+
 class ScriptedKeyboard : public Keyboard {
  public:
   std::optional<int> GetKeyState(int code) override {
@@ -215,6 +271,9 @@ struct Instead {
   Printer* printer = nullptr;
   Programs* programs = nullptr;
   Journals* journals = nullptr;
+  Sticks* sticks = nullptr;
+  KeyOutput* keys = nullptr;
+  Alarm* alarm = nullptr;
 };
 
 /// All of it.
@@ -228,6 +287,9 @@ struct ScriptedPlatform {
   ScriptedDesktop desktop;
   ScriptedJoystick joystick;
   ScriptedSticks sticks;
+  ScriptedKeys keys;
+  ScriptedAlarm alarm;
+  ScriptedSeat seat;
   ScriptedKeyboard keyboard;
   ScriptedPrograms programs;
   ScriptedDrives drives;
@@ -247,7 +309,10 @@ struct ScriptedPlatform {
             given(instead.printer, static_cast<Printer&>(printer)),
             desktop,
             joystick,
-            sticks,
+            given(instead.sticks, static_cast<Sticks&>(sticks)),
+            given(instead.keys, static_cast<KeyOutput&>(keys)),
+            given(instead.alarm, static_cast<Alarm&>(alarm)),
+            seat,
             keyboard,
             given(instead.programs, static_cast<Programs&>(programs)),
             drives,

@@ -12,8 +12,9 @@ class BareWorkbench {
   MemoryFiles own_;
 
  public:
-  /// `disk` takes the place of the disk in memory.
-  explicit BareWorkbench(MemoryFiles* disk = nullptr) : files(disk ? *disk : own_) {
+  /// `disk` takes the place of the disk in memory, and `instead` that of what is scripted.
+  explicit BareWorkbench(MemoryFiles* disk = nullptr, const session::Instead& instead = {})
+      : files(disk ? *disk : own_), platform(outside.Process(files, "", instead)) {
     files.PutFolder("c:\\tarvik");
     workbench.settings.GetOptions();
     workbench.settings.GetColours();
@@ -22,7 +23,7 @@ class BareWorkbench {
 
   MemoryFiles& files;
   session::ScriptedPlatform outside;
-  Platform platform = outside.Process(files);
+  Platform platform;
   Workbench workbench{platform};
   Document& joystick = workbench.documents.joystick;
   Document& macro = workbench.documents.macro;
