@@ -2,6 +2,7 @@
 
 #include <X11/Xlib.h>
 #include <X11/extensions/XTest.h>
+#include <poll.h>
 
 #include <bitset>
 
@@ -37,9 +38,11 @@ Client::~Client() { XCloseDisplay(connection_->display); }
 
 keypipe::Stroke Client::Next() {
   Display* const display = connection_->display;
-  constexpr int kLooks = 1000;
-  for (int look = 0; look < kLooks && XPending(display) == 0; ++look) usleep(1000);
-  if (XPending(display) == 0) return {};
+  constexpr int kLongest = 1000;
+  pollfd wait = {ConnectionNumber(display), POLLIN, 0};
+  while (XPending(display) == 0) {
+    if (poll(&wait, 1, kLongest) == 0) return {};
+  }
   XEvent event;
   XNextEvent(display, &event);
   if (event.type == KeyPress || event.type == KeyRelease) {
