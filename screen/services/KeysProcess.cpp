@@ -83,7 +83,8 @@ void KeysProcess::Send(std::uint16_t position, bool down) {
   if (strokes_ < 0) return;
   const keypipe::Record record = keypipe::Packed({position, down});
   const ssize_t written = write(strokes_, record.data(), record.size());
-  if (written != static_cast<ssize_t>(record.size())) return Lose(std::generic_category().message(errno) + ".");
+  if (written != static_cast<ssize_t>(record.size()))
+    return Lose(std::generic_category().message(errno) + ".");
   if (down) {
     down_.insert(position);
   } else {
