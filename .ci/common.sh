@@ -6,7 +6,7 @@ say() { printf '\n== %s\n' "$*"; }
 BUILD_PACKAGES=(g++ cmake ninja-build qt6-base-dev qt6-svg-dev libqt6svg6 libsdl2-dev libwmf-dev breeze-icon-theme
   fonts-liberation cmark-gfm libxxhash-dev libdtl-dev libutf8proc-dev nlohmann-json3-dev libcli11-dev libevdev-dev libxtst-dev)
 PICTURE_PACKAGES=(xvfb openbox xdotool imagemagick x11-utils faketime xz-utils fonts-dejavu-core fonts-liberation)
-TEST_PACKAGES=(libgtest-dev libgmock-dev fiu-utils poppler-utils dosbox libsm-dev xvfb dbus-daemon)
+TEST_PACKAGES=(libgtest-dev libgmock-dev fiu-utils poppler-utils dosbox libsm-dev xvfb dbus-daemon nasm)
 BENCH_PACKAGES=(libbenchmark-dev)
 CHECK_PACKAGES=(clang-format clang-tidy clang libclang-rt-14-dev)
 PACKAGE_PACKAGES=(dpkg-dev file librsvg2-bin desktop-file-utils appstream lintian man-db shared-mime-info libglib2.0-bin)

@@ -70,4 +70,29 @@ void Client::PressByHand(std::initializer_list<unsigned> positions) {
   XFlush(connection_->display);
 }
 
+void FocusTopWindow() {
+  Display* const display = XOpenDisplay(nullptr);
+  Window largest = None;
+  int area = 0;
+  constexpr int kLooks = 100;
+  for (int look = 0; look < kLooks && largest == None; ++look) {
+    Window ignored = 0;
+    Window* children = nullptr;
+    unsigned count = 0;
+    XQueryTree(display, DefaultRootWindow(display), &ignored, &ignored, &children, &count);
+    for (unsigned i = 0; i < count; ++i) {
+      XWindowAttributes found;
+      if (XGetWindowAttributes(display, children[i], &found) == 0 || found.map_state != IsViewable) continue;
+      if (found.width * found.height <= area) continue;
+      area = found.width * found.height;
+      largest = children[i];
+    }
+    if (children) XFree(children);
+    if (largest == None) usleep(100000);
+  }
+  XSetInputFocus(display, largest, RevertToParent, CurrentTime);
+  XSync(display, False);
+  XCloseDisplay(display);
+}
+
 }  // namespace tarvik::keys

@@ -62,6 +62,9 @@ class Client {
   std::unique_ptr<Connection> connection_;
 };
 
+/// Gives the focus to the largest window there is, once there is one.
+void FocusTopWindow();
+
 /// tarvik-keys with a pipe either way.
 class Keys {
  public:
