@@ -1,6 +1,7 @@
 #include "kneeboard/Deeds.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "language/Checking.h"
 #include "language/KeyTable.h"
@@ -13,8 +14,8 @@ using model::Item;
 using model::ItemKind;
 using model::Said;
 
-/// No more keys of one deed are told.
-constexpr std::size_t kMostKeys = 12;
+/// Nobody reads more keys of one deed; macros in macros could make millions.
+constexpr std::size_t kMostKeys = 400;
 
 bool IsCapital(char letter) { return letter >= 'A' && letter <= 'Z'; }
 bool IsSmall(char letter) { return letter >= 'a' && letter <= 'z'; }
@@ -75,6 +76,11 @@ std::string HeldWith(std::string_view lines, std::span<const Item> items, std::s
     with.append(UpperCase(model::In(lines, items[i].range)));
   }
   return with;
+}
+
+/// Empty where the number cannot be read.
+std::string TimesOf(const Item& repeat) {
+  return repeat.number ? Said({std::to_string(*repeat.number), "x "}) : std::string();
 }
 
 std::string InWords(std::string_view with) {
@@ -146,30 +152,39 @@ std::vector<PressedKey> DeedWriter::KeysIn(std::string_view lines, std::span<con
   return keys;
 }
 
+bool DeedWriter::Keys::IsFull() const { return list.size() > kMostKeys; }
+
 void DeedWriter::AddKeysOf(std::string_view lines, const model::Sequence& sequence, Chain& open,
-                           std::vector<std::string>& keys) const {
+                           Keys& keys) const {
   const std::span<const Item> items = sequence.items;
-  for (std::size_t i = 0; i < items.size() && keys.size() <= kMostKeys; ++i) {
+  for (std::size_t i = 0; i < items.size() && !keys.IsFull(); ++i) {
     if (items[i].kind == ItemKind::Name) {
       const model::MacroNames* const inner = speaker_.Names().FindMacro(model::In(lines, items[i].range));
       if (inner) AddKeysOf(*inner, open, keys);
+    } else if (items[i].kind == ItemKind::Repeat) {
+      keys.times = TimesOf(items[i]);
     } else {
-      for (const PressedKey& key : KeysAt(lines, items, i)) keys.push_back(Shown(key));
+      for (const PressedKey& key : KeysAt(lines, items, i)) keys.Add(Shown(key));
     }
   }
   for (const model::Branch& branch : sequence.branches) AddKeysOf(lines, branch.sequence, open, keys);
 }
 
-/// A macro in itself adds nothing.
-void DeedWriter::AddKeysOf(const model::MacroNames& macro, Chain& open,
-                           std::vector<std::string>& keys) const {
+/// A macro in itself adds nothing. Several keys that are repeated stand in brackets.
+void DeedWriter::AddKeysOf(const model::MacroNames& macro, Chain& open, Keys& keys) const {
   std::string_view lines;
   const bool isOpen = std::ranges::find(open, &macro) != open.end();
   const model::Sequence* const sequence = isOpen ? nullptr : SequenceOf(macro, lines);
   if (!sequence) return;
+  const std::string times = std::exchange(keys.times, {});
+  const std::size_t first = keys.list.size();
   open.push_back(&macro);
   AddKeysOf(lines, *sequence, open, keys);
   open.pop_back();
+  const std::size_t count = keys.list.size() - first;
+  if (times.empty() || count == 0) return;
+  keys.list[first].insert(0, count > 1 ? times + "(" : times);
+  if (count > 1) keys.list.back().append(")");
 }
 
 void DeedWriter::TakeName(std::string_view word, Pieces& pieces) const {
@@ -197,15 +212,15 @@ void DeedWriter::Take(std::string_view lines, std::span<const Item> items, std::
     case ItemKind::Key: {
       const PressedKey key = KeysAt(lines, items, at).back();
       pieces.Say(InWords(key.with) + model::KeyInWords(key.key));
-      pieces.keys.push_back(Shown(key));
+      pieces.keys.Add(Shown(key));
       return;
     }
     case ItemKind::Raw:
       for (const std::string& code : model::CodesInWords(lines, item)) pieces.Say(code);
-      for (const PressedKey& key : KeysAt(lines, items, at)) pieces.keys.push_back(Shown(key));
+      for (const PressedKey& key : KeysAt(lines, items, at)) pieces.keys.Add(Shown(key));
       return;
     case ItemKind::Repeat:
-      if (item.number) pieces.before = Said({std::to_string(*item.number), "x "});
+      pieces.before = pieces.keys.times = TimesOf(item);
       return;
     case ItemKind::Reset:
       pieces.Say("reset the stick");
@@ -218,13 +233,14 @@ void DeedWriter::Take(std::string_view lines, std::span<const Item> items, std::
 Deed DeedWriter::DeedOf(std::string_view lines, std::span<const Item> items) const {
   Pieces pieces;
   for (std::size_t i = 0; i < items.size(); ++i) Take(lines, items, i, pieces);
-  if (pieces.keys.size() > kMostKeys) {
-    pieces.keys.resize(kMostKeys);
-    pieces.keys.emplace_back("...");
+  std::vector<std::string>& keys = pieces.keys.list;
+  if (pieces.keys.IsFull()) {
+    keys.resize(kMostKeys);
+    keys.emplace_back("and more than can be told");
   }
   // Words that are nothing but keys have said them.
   return {.words = ToUtf8(JoinedBy(pieces.words, ", ")),
-          .keys = pieces.hasNames ? ToUtf8(JoinedBy(pieces.keys, " ")) : std::string(),
+          .keys = pieces.hasNames ? ToUtf8(JoinedBy(keys, " ")) : std::string(),
           .heading = ToUtf8(pieces.heading)};
 }
 

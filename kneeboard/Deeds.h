@@ -45,9 +45,20 @@ class DeedWriter {
   /// Those of one item.
   [[nodiscard]] std::vector<PressedKey> KeysAt(std::string_view lines, std::span<const model::Item> items,
                                                std::size_t at) const;
+  /// Keys one after another, and how often what comes next is pressed.
+  struct Keys {
+    std::vector<std::string> list = {};
+    std::string times = {};  ///< "2x "
+
+    void Add(const std::string& key) {
+      list.push_back(times.append(key));
+      times.clear();
+    }
+    [[nodiscard]] bool IsFull() const;
+  };
   struct Pieces {
     std::vector<std::string> words = {};
-    std::vector<std::string> keys = {};
+    Keys keys = {};
     std::string heading = {};
     std::string before = {};  ///< what comes next: "2x "
     bool hasNames = false;
@@ -63,9 +74,8 @@ class DeedWriter {
   /// Those that stand in one another.
   using Chain = std::vector<const model::MacroNames*>;
   /// All keys of a macro and of those in it.
-  void AddKeysOf(const model::MacroNames& macro, Chain& open, std::vector<std::string>& keys) const;
-  void AddKeysOf(std::string_view lines, const model::Sequence& sequence, Chain& open,
-                 std::vector<std::string>& keys) const;
+  void AddKeysOf(const model::MacroNames& macro, Chain& open, Keys& keys) const;
+  void AddKeysOf(std::string_view lines, const model::Sequence& sequence, Chain& open, Keys& keys) const;
 
   model::Speaker speaker_;
 };

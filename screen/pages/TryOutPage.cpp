@@ -124,7 +124,7 @@ QLayout* Page(TryOut& form, const FormLayout& in) {
                  Row({LabelOf("Time", speed), speed, in.Show(form.StepOn), in.Show(form.LetGo),
                       in.Show(form.Begin), Filling(in.Show(form.Told))}),
                  Row({in.Show(form.OpenRun), in.Show(form.PlayAgain), in.Show(form.SaveRun), Stretch(),
-                      in.Show(form.Done)})});
+                      in.Show(form.FlyButton), in.Show(form.Done)})});
 }
 
 }  // namespace tarvik::screen

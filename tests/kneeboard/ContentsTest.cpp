@@ -92,6 +92,28 @@ TEST(KneeboardContents, ARepetitionStandsBeforeWhatIsRepeated) {
   EXPECT_EQ(ActionsOfS1("a RPT(3) b DLY(20)").at(0).deed.words, "A, 3x B");
 }
 
+TEST(KneeboardContents, KeysTellHowOftenTheyArePressed) {
+  EXPECT_EQ(ActionsOfS1("One", "One = a RPT(3) b\n").at(0).deed.keys, "a 3x b");
+  EXPECT_EQ(ActionsOfS1("RPT(2) One", "One = a b\n").at(0).deed.keys, "2x (a b)");
+  EXPECT_EQ(ActionsOfS1("One", "One = RPT(2) Two c\nTwo = b\n").at(0).deed.keys, "2x b c");
+}
+
+TEST(KneeboardContents, ManyKeysAreAllTold) {
+  const std::string keys = "a b c d e f g h i j k l m n o p q r s t u v w x y z";
+  EXPECT_EQ(ActionsOfS1("One", "One = " + keys + "\n").at(0).deed.keys, keys);
+}
+
+TEST(KneeboardContents, MacrosThatMultiplyAreToldAsFarAsAnybodyReads) {
+  std::string macros = "M0 = a b\n";
+  for (int i = 1; i < 40; ++i) {
+    const std::string before = "M" + std::to_string(i - 1);
+    macros.append("M" + std::to_string(i) + " = " + before + " " + before + "\n");
+  }
+  const std::string told = ActionsOfS1("M39", macros).at(0).deed.keys;
+  EXPECT_TRUE(told.starts_with("a b a b")) << told;
+  EXPECT_TRUE(told.ends_with("and more than can be told")) << told;
+}
+
 TEST(KneeboardContents, MacrosInCirclesEnd) {
   const auto actions = ActionsOfS1("One", "One = a Two\nTwo = b One\n");
   ASSERT_EQ(actions.size(), 1u);

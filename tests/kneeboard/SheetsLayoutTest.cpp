@@ -90,6 +90,16 @@ TEST_P(SheetsLayout, CanBeReadWithAPageForEachLayer) {
   }
 }
 
+TEST_P(SheetsLayout, CanBeReadWithManyKeys) {
+  std::string keys;
+  for (int i = 0; i < 120; ++i) keys.append(i == 0 ? "" : " ").append("SHF F12");
+  Contents contents = MadeOf(Amount::Full, 12);
+  for (DevicePage& device : contents.devices) {
+    for (Control& control : device.controls) control.actions.front().deed.keys = keys;
+  }
+  for (const Sheet& sheet : Laid(contents, GetParam())) ASSERT_EQ(Faults(sheet, MarginFor(GetParam())), "");
+}
+
 TEST_P(SheetsLayout, LeavesNoWordsOut) {
   Contents contents = MadeOf(Amount::Crowded, 20);
   Options options = GetParam();

@@ -98,6 +98,7 @@ TryOut::TryOut(Workbench& bench, Shell& shell)
   OpenRun.ToolTipText = "Plays a run that was saved, and tells whether the same comes of it";
   SaveRun.ToolTipText = "Saves what was pressed and moved, with what came of it";
   PlayAgain.ToolTipText = "Plays the run that was opened, or the one so far, once more";
+  FlyButton.ToolTipText = "Plays the files for real, with a stick, in other programs";
   Controls.ToolTipText = "Space presses the control; Enter or a double click holds it down";
   Log.ToolTipText = "What was sent; a click goes to the line of the file";
   for (Label* const label : {&KeysDown, &ButtonsDown, &Told}) label->BackColor = ToggleLabel::kOff;

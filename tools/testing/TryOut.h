@@ -43,6 +43,7 @@ class TryOut : public ToolForm {
   CommandButton OpenRun{*this, "OpenRun", "Open run ...", &TryOut::OpenRun_Click};
   CommandButton SaveRun{*this, "SaveRun", "Save run ...", &TryOut::SaveRun_Click};
   CommandButton PlayAgain{*this, "PlayAgain", "Play again", &TryOut::PlayAgain_Click};
+  CommandButton FlyButton{*this, "FlyButton", "Fly ...", &TryOut::FlyButton_Click};
   CommandButton Done{*this, "Done", "Close", &TryOut::Close};
   Timer TimerTryOut{*this, "TimerTryOut"};
   Pause pause{*this, "TimerTryOutFiles", 10, [this] { TakeFiles(); }};
@@ -56,6 +57,7 @@ class TryOut : public ToolForm {
   void OpenRun_Click();
   void SaveRun_Click();
   void PlayAgain_Click();
+  void FlyButton_Click() { shell_.Show(ToolId::Fly); }
   void TimerTryOut_Timer();
 
   [[nodiscard]] Label& LabelOf(const tables::HardwareRow& row) const;
