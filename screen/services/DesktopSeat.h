@@ -20,11 +20,10 @@ class DesktopSeat : public QObject, public Seat {
   void Leave() override;
   [[nodiscard]] bool IsInProgram() const override;
 
- private Q_SLOTS:
   // Names of the methods that the bus calls.
-  void PrepareForSleep(bool begins);
-  void Lock();
-  void ActiveChanged(bool isActive);
+  Q_SLOT void PrepareForSleep(bool begins);
+  Q_SLOT void Lock();
+  Q_SLOT void ActiveChanged(bool isActive);
 
  private:
   void TellLeft(const char* why);

@@ -29,9 +29,9 @@ std::string WayOf(const std::optional<KeyOutputState>& state) {
                                                     : "";
   if (!state->why.empty()) words.append(words.empty() ? "" : " ").append(state->why);
   if (state->way != KeyWay::None) words.append(state->hotKey ? kStops : kStopsWithoutHotKey);
-  if (!state->mend.empty())
-    words.append(state->way == KeyWay::None ? " This command mends it:"
-                                            : " This command gives a better way:");
+  const char* const mends =
+      state->way == KeyWay::None ? " This command mends it:" : " This command gives a better way:";
+  if (!state->mend.empty()) words.append(mends);
   return words;
 }
 
