@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 #include <QTimer>
+#include <cmath>
+#include <functional>
 #include <random>
 #include <thread>
 
@@ -20,6 +22,11 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kEvents = 400;
 constexpr std::chrono::milliseconds kPoll(10);
+constexpr const char* kHeld = "BTN S1 /H a\r\n";
+
+Seconds Since(Clock::time_point start) {
+  return std::chrono::duration<Seconds>(Clock::now() - start).count();
+}
 
 /// A stick whose button goes down and up when bytes come through a pipe.
 class PipedStick {
@@ -58,8 +65,9 @@ class PipedStick {
 /// Everything but the stick is the real thing.
 class Flown {
  public:
-  Flown() : bare_(nullptr, {.keys = &keys_, .alarm = &alarm_}), stick(bare_.outside.sticks) {
-    bare_.joystick.text.Text = "BTN S1 /H a\r\n";
+  explicit Flown(const std::string& joystick)
+      : bare_(nullptr, {.keys = &keys_, .alarm = &alarm_}), stick(bare_.outside.sticks) {
+    bare_.joystick.text.Text = joystick;
     bare_.outside.seat.Turn(false);
     play::StickMap map;
     map.Set(stick.Id(), {play::StickPart::Button, 0, play::StickWay::Whole}, "S1");
@@ -69,11 +77,22 @@ class Flown {
       QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }
 
-  /// The times from button to key.
-  std::vector<Seconds> Measure() {
+  /// The times that `work` measures with a program on the server, as the user's hand.
+  std::vector<Seconds> Measure(const std::function<void(keys::Client&, std::vector<Seconds>&)>& work) {
     std::vector<Seconds> times;
     std::thread hand([&] {
       keys::Client client;
+      work(client, times);
+      QMetaObject::invokeMethod(qApp, [] { qApp->exit(); });
+    });
+    QCoreApplication::exec();
+    hand.join();
+    std::ranges::sort(times);
+    return times;
+  }
+  /// The times from button to key.
+  std::vector<Seconds> FromButtonToKey() {
+    return Measure([this](keys::Client& client, std::vector<Seconds>& times) {
       std::mt19937 random(3);
       for (int i = 0; i < kEvents; ++i) {
         // Longer than a key is held at least.
@@ -81,14 +100,9 @@ class Flown {
         const auto start = Clock::now();
         stick.Press(i % 2 == 0);
         client.Next();
-        times.push_back(std::chrono::duration<Seconds>(Clock::now() - start).count());
+        times.push_back(Since(start));
       }
-      QMetaObject::invokeMethod(qApp, [] { qApp->exit(); });
     });
-    QCoreApplication::exec();
-    hand.join();
-    std::ranges::sort(times);
-    return times;
   }
 
  private:
@@ -100,20 +114,51 @@ class Flown {
   PipedStick stick;
 };
 
+/// The stick's file wakes the program.
+class Waker {
+ public:
+  explicit Waker(PipedStick& stick) : notifier_(stick.File(), QSocketNotifier::Read) {
+    QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [&stick] { stick.Read(); });
+  }
+
+ private:
+  QSocketNotifier notifier_;
+};
+
 std::vector<Seconds> Woken() {
-  Flown flown;
-  QSocketNotifier notifier(flown.stick.File(), QSocketNotifier::Read);
-  QObject::connect(&notifier, &QSocketNotifier::activated, &notifier, [&] { flown.stick.Read(); });
-  return flown.Measure();
+  Flown flown(kHeld);
+  const Waker waker(flown.stick);
+  return flown.FromButtonToKey();
 }
 
 std::vector<Seconds> Polled() {
-  Flown flown;
+  Flown flown(kHeld);
   QTimer timer;
   timer.setTimerType(Qt::PreciseTimer);
   QObject::connect(&timer, &QTimer::timeout, &timer, [&] { flown.stick.Read(); });
   timer.start(kPoll);
-  return flown.Measure();
+  return flown.FromButtonToKey();
+}
+
+/// How far a macro's delay is off, on 50 presses.
+std::vector<Seconds> Delays() {
+  constexpr int kPresses = 50;
+  constexpr Seconds kDelay = 0.1;
+  Flown flown("BTN S1 a DLY(100) b\r\n");
+  const Waker waker(flown.stick);
+  return flown.Measure([&](keys::Client& client, std::vector<Seconds>& times) {
+    for (int i = 0; i < kPresses; ++i) {
+      flown.stick.Press(true);
+      client.Next();
+      client.Next();
+      const auto up = Clock::now();
+      client.Next();
+      times.push_back(std::abs(Since(up) - kDelay));
+      flown.stick.Press(false);
+      client.Next();
+      std::this_thread::sleep_for(kPoll);
+    }
+  });
 }
 
 }  // namespace
@@ -131,5 +176,8 @@ int main(int argc, char* argv[]) {
   holds &= Report("the same at the 99th percentile", {woken[kLate], polled[kLate]}, Goal::AtMost, 0.5);
   holds &= Report("the median beside 1 ms", {woken[kEvents / 2], 1e-3}, Goal::AtMost, 1);
   holds &= Report("the 99th percentile beside 3 ms", {woken[kLate], 3e-3}, Goal::AtMost, 1);
+  const std::vector<Seconds> delays = Delays();
+  holds &= Report("a macro's delay of 100 ms is off by, beside 2 ms",
+                  {delays[delays.size() * 98 / 100], 2e-3}, Goal::AtMost, 1);
   return holds ? 0 : 1;
 }

@@ -10,7 +10,8 @@ namespace {
 constexpr std::string_view kThrottle = "THR";
 constexpr std::string_view kDigitalThrottle = "@digitalthrottle";
 
-/// The control's name in capital letters, with one blank for those between its words.
+}  // namespace
+
 std::string NameOfControl(std::string_view words) {
   std::string name;
   for (const char byte : words) {
@@ -20,8 +21,6 @@ std::string NameOfControl(std::string_view words) {
   }
   return name;
 }
-
-}  // namespace
 
 std::size_t WordHash::operator()(std::string_view word) const {
   std::uint64_t hash = 0xCBF29CE484222325U;

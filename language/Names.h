@@ -55,6 +55,9 @@ struct WordsAreSame {
 };
 using WordMap = std::unordered_map<std::string, std::size_t, WordHash, WordsAreSame>;
 
+/// A control's name in capital letters, with one blank for those between its words: "RKR UP".
+[[nodiscard]] std::string NameOfControl(std::string_view words);
+
 class NameIndex {
  public:
   NameIndex(const JoystickFile& joystick, std::string_view joystickText, const MacroFile& macros,

@@ -45,9 +45,12 @@ std::optional<Position> PositionOf(Key key) {
 
 std::optional<Position> PositionOf(const Output& output) {
   if (output.kind == OutputKind::Key) return PositionOf(output.number);
-  const std::size_t button = kFirstMouseButton + output.number - std::size_t{1};
-  if (output.kind != OutputKind::Mouse || output.number == 0 || button >= kPositions) return std::nullopt;
-  return static_cast<Position>(button);
+  // The system counts the one in the middle behind the right one.
+  constexpr std::array<Position, 3> kButtons = {kFirstMouseButton, kFirstMouseButton + 2,
+                                                kFirstMouseButton + 1};
+  const bool isButton =
+      output.kind == OutputKind::Mouse && output.number > 0 && output.number <= kButtons.size();
+  return isButton ? std::optional(kButtons[output.number - std::size_t{1}]) : std::nullopt;
 }
 
 std::string NameAt(Position position) {

@@ -6,6 +6,7 @@
 
 #include "language/Abilities.h"
 #include "language/ComposerTables.h"
+#include "language/Names.h"
 #include "play/Writer.h"
 #include "text/CodePage.h"
 
@@ -49,7 +50,7 @@ class Compiler {
 
   std::uint32_t Control(std::string_view name) {
     if (const auto known = program_.FindControl(name)) return *known;
-    program_.controls.push_back(UpperCase(name));
+    program_.controls.push_back(model::NameOfControl(name));
     return static_cast<std::uint32_t>(program_.controls.size() - 1);
   }
 
@@ -58,7 +59,7 @@ class Compiler {
     if (each.row == nullptr) return;
     const Statement at{pair_.joystick.LinesOf(index, pair_.joystickText), pair_.joystick.RangeOf(index).start,
                        index};
-    if (const auto* button = std::get_if<model::Button>(&each.body)) return TakeButton(each, *button, at);
+    if (const auto* button = std::get_if<model::Button>(&each.body)) return TakeButton(*button, at);
     if (const auto* axis = std::get_if<model::Axis>(&each.body)) return TakeAxis(*axis, at.AsText());
     if (const auto* definition = std::get_if<model::Definition>(&each.body)) {
       if (!IsFlag(at.Words(definition->flag))) return;
@@ -75,12 +76,9 @@ class Compiler {
     }
   }
 
-  void TakeButton(const JoystickStatement& statement, const model::Button& button, const Statement& at) {
+  void TakeButton(const model::Button& button, const Statement& at) {
     if (button.control.length == 0) return;
-    const bool isRocker = statement.row->form == model::StatementForm::Rocker;
-    std::string name(isRocker ? "RKR " : "");
-    name.append(at.Words(button.control));
-    ButtonProgram made{.control = Control(name)};
+    ButtonProgram made{.control = Control(model::NameOfControl(at.Words(button.control)))};
     for (std::size_t layer = 0; layer < kLayers; ++layer) {
       made.press[layer] = writer_.Write(at.AsText(), button.sends, layer, true);
       made.release[layer] = writer_.Write(at.AsText(), button.sends, layer, false);

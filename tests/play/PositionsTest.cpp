@@ -39,8 +39,11 @@ TEST(Positions, ButtonsOfTheMouseHaveThemAndPortsDoNot) {
   output.number = 1;
   output.kind = OutputKind::Mouse;
   EXPECT_EQ(PositionOf(output), 0x110);
+  output.number = 2;
+  EXPECT_EQ(NameAt(PositionOf(output).value_or(0)), "mouse middle");
   output.number = 3;
-  EXPECT_EQ(PositionOf(output), 0x112);
+  EXPECT_EQ(PositionOf(output), 0x111);
+  EXPECT_EQ(NameAt(PositionOf(output).value_or(0)), "mouse right");
   output.number = 4;
   EXPECT_FALSE(PositionOf(output));
   output.kind = OutputKind::Port;

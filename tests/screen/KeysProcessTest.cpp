@@ -65,6 +65,11 @@ TEST_F(KeysProcessOnX, TellsOfTheHotKey) {
   constexpr unsigned kControl = 29;
   constexpr unsigned kAlt = 56;
   constexpr unsigned kEnd = 107;
+  // As a flight does.
+  keys.hotKeyPressed = [this] {
+    keys.Stop();
+    hasStopped = true;
+  };
   client->PressByHand({kControl, kAlt, kEnd});
   EXPECT_TRUE(Within([this] { return hasStopped; }));
   EXPECT_TRUE(reason.empty());
