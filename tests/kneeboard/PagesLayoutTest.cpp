@@ -115,6 +115,16 @@ TEST(PagesLayout, TheLegendTellsTheSignsThatThereAre) {
   EXPECT_THAT(words, AllOf(Contains("S3 held in"), Not(Contains("S3 out")), Not(Contains("pressed"))));
 }
 
+TEST(PagesLayout, TheLegendTellsOnlyWhatStandsOnItsPage) {
+  Contents contents = StickWith({Button("S1", "BTN-0", {Does("Inside", {{}, Shift::In})})});
+  contents.devices.push_back(contents.devices.front());
+  contents.devices.back().controls = {Button("S1", "BTN-0", {Does("Outside", {{}, Shift::Out})})};
+  const std::vector<Sheet> sheets = Laid(contents, DevicesAlone());
+  ASSERT_EQ(sheets.size(), 2u);
+  EXPECT_THAT(WordsOn({sheets[0]}), AllOf(Contains("S3 held in"), Not(Contains("S3 out"))));
+  EXPECT_THAT(WordsOn({sheets[1]}), AllOf(Contains("S3 out"), Not(Contains("S3 held in"))));
+}
+
 TEST(PagesLayout, KeysAreShownWhereTheyAreWanted) {
   const Contents contents = StickWith({Button("S1", "BTN-0", {Does("Gear toggle", {}, "CTL g")})});
   Options options = DevicesAlone();
@@ -230,7 +240,7 @@ TEST(PagesLayout, AKeyThatNoControlSendsIsToldByAStroke) {
     const Sheet sheet = Laid(contents).front();
     return std::ranges::count(sheet.lines, LineKind::Plain, &Line::kind);
   };
-  EXPECT_EQ(strokesOn({}) - strokesOn({"S1"}), 2) << "on the key and in the table";
+  EXPECT_EQ(strokesOn({}) - strokesOn({"S1"}), 3) << "on the key, in the table and in the legend";
 }
 
 TEST(PagesLayout, TwoPagesOnASheetAreHalfAsManySheets) {
