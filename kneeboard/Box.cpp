@@ -195,6 +195,7 @@ void BoxSetter::PutRow(SetBox& box, const Row& row, const BoxContent& content,
       const Spot to = {part.width - Padding(), y / 2};
       part.lines.push_back({{from, to}, size_ * kThin, {Ink::Rule}});
     }
+    for (const char letter : row.keys.empty() ? "" : row.manner) part.marks |= MarkOf(letter);
     part.targets.push_back({{0, 0, part.width, part.height}, content.label, row.source});
     box.rows.push_back(std::move(part));
     box.breaks.push_back(first == 0 && row.beginsGroup);

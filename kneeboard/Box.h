@@ -28,6 +28,7 @@ struct Row {
   Colour colour = {};
   bool beginsGroup = false;  ///< a thin line goes above it
   std::optional<model::Mention> source = {};
+  std::string manner = {};  ///< the letters among the keys that the legend explains
 };
 
 /// A stretch of a scale, in percent.

@@ -14,7 +14,8 @@ class BesideBox {
   std::vector<Spot> leader =
       {};  ///< from the edge of the drawing, on the sheet; none for a box of no control
   Sheet box = {};
-  double y = 0;  ///< of the upper edge of the box
+  double y = 0;           ///< of the upper edge of the box
+  std::size_t noted = 0;  ///< letters of its notes
 
   /// Boxes without a leader come last.
   [[nodiscard]] double Entry() const { return leader.empty() ? kFarBelow : leader.front().y; }

@@ -165,7 +165,7 @@ void AddFlags(const DeedWriter& writer, Contents& contents) {
       const std::string_view lines = pair.joystick.LinesOf(row.source.statement, pair.joystickText);
       if (body != nullptr) row.condition = ToUtf8(writer.speaker().InWords(lines, body->condition));
     }
-    for (Action& action : ActionsOf(writer, flag.buttons)) row.sends.push_back(std::move(action.deed));
+    row.sends = ActionsOf(writer, flag.buttons);
     if (!row.condition.empty() || !row.sends.empty()) contents.flags.push_back(std::move(row));
   }
 }

@@ -102,7 +102,7 @@ struct DevicePage {
 struct FlagRow {
   std::string name = {};       ///< "X12"
   std::string condition = {};  ///< "S2 is pressed and the dogfight switch is up"
-  std::vector<Deed> sends = {};
+  std::vector<Action> sends = {};
   model::Mention source = {};
 
   friend bool operator==(const FlagRow&, const FlagRow&) = default;

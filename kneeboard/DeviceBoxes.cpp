@@ -55,6 +55,7 @@ class BoxBuilder {
       row.leads.push_back({SignOf(action.moment), {}, false, kText});
       row.leads.push_back({Sign::None, OrdinalOf(action.turn), false, kDim});
       row.source = action.source;
+      row.manner = action.manner;
       box_.rows.push_back(std::move(row));
       isFirst = false;
     }
@@ -108,10 +109,10 @@ class BoxBuilder {
     const bool goesUp = first->up != Deed();
     const bool goesDown = first->down != Deed() && first->down != first->up;
     if (goesUp != goesDown && steps == 1)
-      return put({goesUp ? Sign::None : Sign::Down, where, false, kDim}, goesUp ? first->up : first->down);
+      return put({goesUp ? Sign::None : Sign::WayDown, where, false, kDim}, goesUp ? first->up : first->down);
     box_.rows.push_back({{}, where, {}, first->isAfterburner ? kAlarm : kDim, true, scale.source});
-    if (goesUp) put({goesDown ? Sign::Up : Sign::None, {}, false, colour}, first->up);
-    if (goesDown) put({Sign::Down, {}, false, colour}, first->down);
+    if (goesUp) put({goesDown ? Sign::WayUp : Sign::None, {}, false, colour}, first->up);
+    if (goesDown) put({Sign::WayDown, {}, false, colour}, first->down);
     if (!goesUp && !goesDown) box_.rows.back().words.append(": nothing");
   }
 
@@ -170,8 +171,14 @@ BoxContent FlagBoxOf(const std::vector<FlagRow>& flags, const Options& options) 
   for (const FlagRow& flag : flags) {
     Row row = {{{Sign::None, flag.name, true, kAccent}}, flag.condition, {}, kText, true, flag.source};
     box.rows.push_back(row);
-    for (const Deed& deed : flag.sends) {
-      box.rows.push_back({{{}}, WordsOf(deed), KeysOf(deed, {}, options), kDim, false, flag.source});
+    for (const Action& action : flag.sends) {
+      row = {{{}},  WordsOf(action.deed), KeysOf(action.deed, action.manner, options), kDim,
+             false, flag.source};
+      row.manner = action.manner;
+      PutLayer(row.leads, action.layer);
+      row.leads.push_back({SignOf(action.moment), {}, false, kDim});
+      row.leads.push_back({Sign::None, OrdinalOf(action.turn), false, kDim});
+      box.rows.push_back(row);
     }
   }
   return box;

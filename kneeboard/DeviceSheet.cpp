@@ -20,7 +20,7 @@ constexpr double kTypeStep = 0.5;
 constexpr double kStrainCost = 8;
 constexpr double kTypeCost = 7;
 constexpr double kShareCost = 3;
-/// Notes that need more of a page go overleaf.
+/// Where notes need more of a page, boxes that have some go overleaf.
 constexpr double kMostNotes = 0.25;
 /// For a size of type of 1.
 constexpr double kLeaderWidth = 0.035;
@@ -32,12 +32,12 @@ struct Attempt {
   Column left = {};
   Column right = {};
   Notes notes = {};
-  Sheet noteBox = {};  ///< empty where they go overleaf
-  Area body = {};      ///< without the notes
+  Sheet noteBox = {};
+  Area body = {};  ///< without the notes
   Area drawing = {};
   double channel = 0;  ///< between a column and the drawing
   double columnWidth = 0;
-  bool areNotesOverleaf = false;
+  bool hasRoomForNotes = true;
   std::size_t rows = 0;
   std::size_t strained = 0;
 
@@ -77,7 +77,7 @@ class DeviceSheet {
     Page page = maker_.Begin(head, legend);
     Attempt attempt = Best(page.body);
     std::vector<BoxContent> overleaf;
-    MoveOverleaf(attempt, overleaf);
+    Settle(attempt, page.body, overleaf);
     Sheet below;
     std::vector<BoxContent> loose = subject_.loose;
     for (std::vector<BoxContent>* boxes : {&loose, &more}) {
@@ -85,7 +85,6 @@ class DeviceSheet {
       PutBeside(attempt, *boxes);
     }
     std::ranges::move(loose, std::back_inserter(overleaf));
-    if (attempt.areNotesOverleaf) overleaf.push_back(NoteBoxOf(attempt.notes));
     Put(page.sheet, attempt, below);
     std::vector<Page> pages = {std::move(page)};
     if (overleaf.empty()) return pages;
@@ -142,15 +141,22 @@ class DeviceSheet {
       for (BesideBox& each : *column) SetBox(each, attempt);
     }
     SetNotes(attempt);
+    FitDrawing(attempt);
+    return attempt;
+  }
+
+  void FitDrawing(Attempt& attempt) const {
     attempt.drawing.width = std::min(attempt.drawing.width, attempt.body.height * part_.width / part_.height);
     attempt.drawing.height = attempt.drawing.width * part_.height / part_.width;
-    return attempt;
   }
 
   void SetBox(BesideBox& each, Attempt& attempt) const {
     const BoxSetter setter(maker_.setter(), attempt.type, &attempt.notes);
+    const std::size_t first = attempt.notes.size();
     const kneeboard::SetBox box = setter.Set(*each.content, attempt.columnWidth);
     each.box = Assembled(box, 0, box.rows.size());
+    each.noted = 0;
+    for (std::size_t i = first; i < attempt.notes.size(); ++i) each.noted += attempt.notes[i].size();
     attempt.rows += box.rows.size();
     attempt.strained += box.strained;
   }
@@ -159,15 +165,56 @@ class DeviceSheet {
     if (attempt.notes.empty()) return;
     const BoxSetter setter(maker_.setter(), std::max(kSmallest, attempt.type * 0.85), nullptr);
     const kneeboard::SetBox box = setter.Set(NoteBoxOf(attempt.notes), attempt.body.width);
-    attempt.areNotesOverleaf = box.Height() > attempt.body.height * kMostNotes;
-    if (attempt.areNotesOverleaf) return;
+    attempt.hasRoomForNotes = box.Height() <= attempt.body.height * kMostNotes;
+    if (!attempt.hasRoomForNotes) return;
     attempt.noteBox = Assembled(box, 0, box.rows.size());
     attempt.body.height -= attempt.noteBox.height + attempt.Space();
   }
 
-  /// Boxes, until the others have room: the shortest one that makes enough, or else the longest. What stays
-  /// of them says where they are.
-  void MoveOverleaf(Attempt& attempt, std::vector<BoxContent>& overleaf) const {
+  /// Moves boxes overleaf until the others have room, and all their notes. The notes of those that are moved
+  /// go with them.
+  void Settle(Attempt& attempt, const Area& body, std::vector<BoxContent>& overleaf) const {
+    for (;;) {
+      const bool moved =
+          attempt.hasRoomForNotes ? MoveOverleaf(attempt, overleaf) : MoveNoted(attempt, overleaf);
+      if (!moved) return;
+      attempt.notes.clear();
+      attempt.noteBox = {};
+      attempt.hasRoomForNotes = true;
+      attempt.body = body;
+      for (Column* column : {&attempt.left, &attempt.right}) {
+        for (BesideBox& each : *column) {
+          if (each.content != nullptr) SetBox(each, attempt);
+        }
+      }
+      SetNotes(attempt);
+      FitDrawing(attempt);
+    }
+  }
+
+  /// The box with the longest notes.
+  bool MoveNoted(Attempt& attempt, std::vector<BoxContent>& overleaf) const {
+    BesideBox* longest = nullptr;
+    for (Column* column : {&attempt.left, &attempt.right}) {
+      for (BesideBox& each : *column) {
+        if (each.noted > 0 && (longest == nullptr || each.noted > longest->noted)) longest = &each;
+      }
+    }
+    if (longest != nullptr) Move(*longest, attempt, overleaf);
+    return longest != nullptr;
+  }
+
+  /// What stays of it says where it is.
+  void Move(BesideBox& each, const Attempt& attempt, std::vector<BoxContent>& overleaf) const {
+    overleaf.push_back(*each.content);
+    each.box = StubOf(*std::exchange(each.content, nullptr), attempt);
+    each.noted = 0;
+  }
+
+  /// Boxes, until the others have room: the shortest one that makes enough, or else the longest. Whether
+  /// there was one.
+  bool MoveOverleaf(Attempt& attempt, std::vector<BoxContent>& overleaf) const {
+    const std::size_t before = overleaf.size();
     for (Column* column : {&attempt.left, &attempt.right}) {
       for (double missing = 1; missing > 0;) {
         missing = HeightOf(*column, attempt.Space()) - attempt.body.height;
@@ -181,10 +228,10 @@ class DeviceSheet {
           if (moved == nullptr || rank(each) > rank(*moved)) moved = &each;
         }
         if (moved == nullptr) break;
-        overleaf.push_back(*moved->content);
-        moved->box = StubOf(*std::exchange(moved->content, nullptr), attempt);
+        Move(*moved, attempt, overleaf);
       }
     }
+    return overleaf.size() > before;
   }
 
   [[nodiscard]] Sheet StubOf(const BoxContent& content, const Attempt& attempt) const {

@@ -173,8 +173,8 @@ class Keyboard {
 }  // namespace
 
 std::vector<Page> KeyboardPagesOf(const Contents& contents, const PageMaker& maker) {
-  const Legend legend = {{Sign::OnStick, std::string(MeaningOf(Sign::OnStick))},
-                         {Sign::OffStick, std::string(MeaningOf(Sign::OffStick))}};
+  const Legend legend = {{Sign::OnStick, std::string(MeaningOf(Sign::OnStick)), MarkOf(Sign::OnStick)},
+                         {Sign::OffStick, std::string(MeaningOf(Sign::OffStick)), MarkOf(Sign::OffStick)}};
   const PageHead head = {"Keyboard", "What each key does, and which control presses it"};
   const Keyboard keyboard(contents, maker);
   const Sheet drawn = keyboard.Drawn(maker.Begin(head, legend).body.width);

@@ -21,30 +21,34 @@ constexpr std::pair<char, const char*> kManners[] = {
     {'Q', "/Q without a first delay"},
 };
 
-/// The signs and letters that the devices need. On pages of single layers these have no signs.
+/// The signs and letters that the pages may need; a page tells of them what stands on it. On pages of single
+/// layers these have no signs.
 Legend LegendOf(const Contents& contents, const Options& options, Layers layers) {
   std::set<Sign> signs;
   std::set<char> letters;
   const auto put = [&](const Layer& layer) {
     if (layers == Layers::Together) signs.insert({SignOf(layer.dogfight), SignOf(layer.shift)});
   };
+  const auto putAll = [&](const std::vector<Action>& actions) {
+    for (const Action& action : actions) {
+      put(action.layer);
+      signs.insert(SignOf(action.moment));
+      letters.insert(action.manner.begin(), action.manner.end());
+    }
+  };
   for (const DevicePage& device : contents.devices) {
     for (const Scale& scale : device.scales) put(scale.layer);
-    for (const Control& control : device.controls) {
-      for (const Action& action : control.actions) {
-        put(action.layer);
-        signs.insert(SignOf(action.moment));
-        letters.insert(action.manner.begin(), action.manner.end());
-      }
-    }
+    if (!device.scales.empty()) signs.insert({Sign::WayUp, Sign::WayDown});
+    for (const Control& control : device.controls) putAll(control.actions);
   }
+  for (const FlagRow& flag : contents.flags) putAll(flag.sends);
   Legend legend;
   for (const Sign sign : signs) {
     const std::string_view meaning = MeaningOf(sign);
-    if (!meaning.empty()) legend.push_back({sign, std::string(meaning)});
+    if (!meaning.empty()) legend.push_back({sign, std::string(meaning), MarkOf(sign)});
   }
   for (const auto& [letter, meaning] : kManners) {
-    if (options.hasKeys && letters.contains(letter)) legend.push_back({Sign::None, meaning});
+    if (options.hasKeys && letters.contains(letter)) legend.push_back({Sign::None, meaning, MarkOf(letter)});
   }
   return legend;
 }
@@ -66,7 +70,7 @@ class Kneeboard {
     if (options_.hasList && hasContents)
       Take(ListPagesOf(contents_, options_, maker_, LegendOf(contents_, options_, Layers::Together)));
     if (pages_.empty()) pages_.push_back(maker_.Begin({"Nothing to show", {}}, {}));
-    maker_.PutNumbers(pages_);
+    maker_.PutFeet(pages_);
     return std::move(pages_);
   }
 
@@ -85,7 +89,7 @@ class Kneeboard {
       for (const Layer& layer : LayersOf(device)) PutDevice(device, layer, more);
     }
     if (more.empty()) return;
-    Take(FlowPages(maker_, {"Flags and settings", {}}, {}, more));
+    Take(FlowPages(maker_, {"Flags and settings", {}}, legend_, more));
   }
 
   void PutDevice(const DevicePage& device, const std::optional<Layer>& layer, std::vector<BoxContent>& more) {

@@ -9,7 +9,13 @@ namespace tarvik::kneeboard {
 namespace {
 
 Row RowOf(const Control& control, const Action& action, const Options& options) {
-  Row row = {{}, WordsOf(action.deed), KeysOf(action.deed, action.manner, options), {}, true, action.source};
+  Row row = {{},
+             WordsOf(action.deed),
+             KeysOf(action.deed, action.manner, options),
+             {},
+             true,
+             action.source,
+             action.manner};
   row.leads.push_back({Sign::None, control.name, true, {Ink::Accent}});
   PutLayer(row.leads, action.layer);
   row.leads.push_back({SignOf(action.moment)});

@@ -37,6 +37,11 @@ std::string LayerOf(const Action& action) {
   return layer;
 }
 
+std::string SentBy(const Action& action) {
+  const std::string layer = LayerOf(action);
+  return layer.empty() ? action.deed.words : layer + ": " + action.deed.words;
+}
+
 std::string Percent(double value) { return std::to_string(std::lround(value)); }
 
 std::string StretchOf(const Step& step) {
@@ -154,7 +159,7 @@ void WriteFlags(const Contents& contents, TextWriter& writer) {
   writer.Heading("Flags");
   for (const FlagRow& flag : contents.flags) {
     std::string sends;
-    for (const Deed& deed : flag.sends) Append(sends, deed.words);
+    for (const Action& action : flag.sends) Append(sends, SentBy(action));
     writer.Add({flag.name, flag.condition, sends});
   }
 }

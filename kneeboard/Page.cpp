@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "kneeboard/Layout.h"
 
@@ -103,7 +104,8 @@ double PageMaker::PutFoot(Page& page, const Legend& legend) const {
   PutWords(page.sheet, setter_, ProblemsIn(problems_), {margin_, last}, alarm);
   const Sheet signs = LegendOf(legend);
   const double top = last - signs.height;
-  Place(page.sheet, signs, {margin_, top});
+  page.legend = legend;
+  page.legendAt = {margin_, top};
   const double rule = top - 0.25 * style.size * kPoint;
   PutRule(page.sheet, rule, {Ink::Rule});
   return rule - 0.7 * style.size * kPoint;
@@ -118,11 +120,15 @@ Page PageMaker::Begin(const PageHead& head, const Legend& legend) const {
   return page;
 }
 
-void PageMaker::PutNumbers(std::vector<Page>& pages) const {
+void PageMaker::PutFeet(std::vector<Page>& pages) const {
   const Style style = {Sized(6.5), false, {Ink::Dim}};
   for (std::size_t i = 0; i < pages.size(); ++i) {
     const std::string number = std::to_string(i + 1) + " / " + std::to_string(pages.size());
     const Spot right = pages[i].number;
+    Legend told;
+    std::ranges::copy_if(pages[i].legend, std::back_inserter(told),
+                         [&](const LegendItem& item) { return (pages[i].sheet.marks & item.mark) != 0; });
+    Place(pages[i].sheet, LegendOf(told), pages[i].legendAt);
     PutWords(pages[i].sheet, setter_, number, {right.x - setter_.Width(number, style), right.y}, style);
   }
 }

@@ -13,6 +13,7 @@ namespace tarvik::kneeboard {
 struct LegendItem {
   Sign sign = Sign::None;
   std::string text;
+  std::uint64_t mark = 0;  ///< it is told on the pages that have this one
 };
 using Legend = std::vector<LegendItem>;
 
@@ -26,6 +27,8 @@ struct Page {
   Sheet sheet;
   Area body;    ///< what is free between head and foot
   Spot number;  ///< the right end of the page's number
+  Legend legend = {};
+  Spot legendAt = {};  ///< there is room for all of it
 };
 
 class PageMaker {
@@ -34,8 +37,9 @@ class PageMaker {
   PageMaker(const Contents& contents, Spot size, Typesetter& setter);
 
   [[nodiscard]] Page Begin(const PageHead& head, const Legend& legend) const;
-  /// Writes "2 / 5" and the like at the foot of each.
-  void PutNumbers(std::vector<Page>& pages) const;
+  /// Writes what was not known as a page began at the foot of each: "2 / 5" and the like, and of the legend
+  /// what stands on that page.
+  void PutFeet(std::vector<Page>& pages) const;
 
   /// A size of type in points, less on small pages, and never less than what can be read.
   [[nodiscard]] double Sized(double points) const;

@@ -29,6 +29,10 @@ struct Job {
   int dotsPerInch = 200;              ///< of pictures
 };
 
+/// Where each of so many sheets goes that are saved at a path: one PDF for all, and of pictures one for each,
+/// which have numbers before the ending where they are several.
+[[nodiscard]] std::vector<std::string> FilesOf(const std::string& path, std::size_t sheets);
+
 class Press {
  public:
   Press() = default;
@@ -39,9 +43,8 @@ class Press {
   [[nodiscard]] virtual const TextMeasure& Measure() const = 0;
   [[nodiscard]] virtual const DrawingPlans& Plans() const = 0;
 
-  /// Writes all sheets to a file of the host, in UTF-8, of the kind that its ending tells: one PDF, or an SVG
-  /// or PNG for each sheet, which have numbers before the ending where they are several. Any other ending is
-  /// a failure.
+  /// Writes all sheets to a file of the host, in UTF-8, of the kind that its ending tells: a PDF, or those
+  /// of FilesOf as SVG or PNG. Any other ending is a failure.
   virtual Outcome<> Write(const Job& job, const std::string& hostPath) = 0;
   /// Prints all sheets. Failure 32755 when the user cancels.
   virtual Outcome<> Print(const Job& job) = 0;

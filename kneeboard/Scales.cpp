@@ -47,7 +47,7 @@ void FillSteps(Scale& scale, const Axis& axis, const std::vector<Deed>& keys) {
   const double gate = isThrottle && burner > 0 ? kWhole * below / (below + burner) : kWhole;
   scale.kind = Counted(below, "step");
   if (isThrottle && burner > 0)
-    scale.kind.append(model::Said({", ", std::to_string(burner), " in the afterburner"}));
+    scale.kind.append(model::Said({" below the afterburner, ", std::to_string(burner), " in it"}));
   scale.steps.push_back({0, gate, At(keys, 0), At(keys, 1)});
   if (isThrottle) {
     if (burner == 0) return;

@@ -30,6 +30,7 @@ void Place(Sheet& onto, const Sheet& part, Spot at) {
   Append(onto.lines, part.lines, &Line::corners, at);
   Append(onto.words, part.words, &Words::area, at);
   Append(onto.targets, part.targets, &Target::area, at);
+  onto.marks |= part.marks;
 }
 
 }  // namespace tarvik::kneeboard

@@ -130,6 +130,7 @@ struct Sheet {
   std::vector<Line> lines = {};
   std::vector<Words> words = {};
   std::vector<Target> targets = {};
+  std::uint64_t marks = 0;  ///< which signs and letters stand on it that a legend may explain
 
   friend bool operator==(const Sheet&, const Sheet&) = default;
 };

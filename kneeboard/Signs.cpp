@@ -126,6 +126,10 @@ std::string_view MeaningOf(Sign sign) {
       return "pressed";
     case Sign::Release:
       return "released";
+    case Sign::WayUp:
+      return "on the way up";
+    case Sign::WayDown:
+      return "on the way down";
     case Sign::OnStick:
       return "on the stick";
     case Sign::OffStick:
@@ -137,6 +141,7 @@ std::string_view MeaningOf(Sign sign) {
 
 void PutSign(Sheet& onto, Sign sign, Spot at, double size, Colour colour) {
   Square square(onto, at, size, colour);
+  onto.marks |= MarkOf(sign);
   switch (sign) {
     case Sign::None:
       return;
@@ -161,6 +166,10 @@ void PutSign(Sheet& onto, Sign sign, Spot at, double size, Colour colour) {
     case Sign::Press:
     case Sign::Release:
       return PutWay(square, sign);
+    case Sign::WayUp:
+      return square.Fill({{5, 1}, {9.6, 9}, {0.4, 9}});
+    case Sign::WayDown:
+      return square.Fill({{5, 9}, {9.6, 1}, {0.4, 1}});
     case Sign::OnStick:
       return square.Round({0.5, 0.5, 9, 9}, 1, Body::Full);
     case Sign::OffStick:

@@ -1,11 +1,11 @@
 #include "screen/kneeboard/SheetFiles.h"
 
-#include <QFileInfo>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QSvgGenerator>
 #include <cmath>
 
+#include "kneeboard/Press.h"
 #include "screen/kneeboard/SheetPainter.h"
 
 namespace tarvik::screen {
@@ -17,14 +17,6 @@ constexpr int kPdfResolution = 1200;
 constexpr int kSvgScale = 100;
 
 QSizeF SizeOf(const kneeboard::Sheet& sheet) { return {sheet.width, sheet.height}; }
-
-/// The path of one of several files.
-QString Numbered(const QString& path, std::size_t index, std::size_t all) {
-  if (all == 1) return path;
-  const QFileInfo file(path);
-  return QStringLiteral("%1/%2-%3.%4")
-      .arg(file.path(), file.completeBaseName(), QString::number(index + 1), file.suffix());
-}
 
 void Paint(QPainter& painter, const PaintedSheets& painted, const kneeboard::Sheet& sheet,
            double unitsPerMillimetre) {
@@ -44,8 +36,9 @@ void SetPage(QPdfWriter& writer, const kneeboard::Sheet& sheet) {
 /// Writes a file for each sheet by what makes its bytes.
 template <class Write>
 QString WriteEach(const PaintedSheets& painted, const QString& path, Write write) {
+  const std::vector<std::string> files = kneeboard::FilesOf(path.toStdString(), painted.sheets.size());
   for (std::size_t i = 0; i < painted.sheets.size(); ++i) {
-    QSaveFile file(Numbered(path, i, painted.sheets.size()));
+    QSaveFile file(QString::fromStdString(files[i]));
     if (!file.open(QIODevice::WriteOnly)) return Failure(file);
     write(file, painted.sheets[i]);
     if (!file.commit()) return Failure(file);

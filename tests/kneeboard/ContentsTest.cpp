@@ -141,7 +141,7 @@ TEST(KneeboardContents, AThrottleIsAScale) {
   EXPECT_EQ(scales[0].steps[0].up.words, "L");  // from the lower end up, and nothing for no key
   EXPECT_EQ(scales[0].steps[0].from, 0);
   ASSERT_EQ(scales[1].steps.size(), 3u);
-  EXPECT_EQ(scales[1].kind, "10 steps, 5 in the afterburner");
+  EXPECT_EQ(scales[1].kind, "10 steps below the afterburner, 5 in it");
   EXPECT_EQ(scales[1].steps[1].up.words, "C");
   EXPECT_TRUE(scales[1].steps[2].isAfterburner);
   EXPECT_NEAR(scales[1].steps[0].to, 66.7, 0.1);
@@ -159,7 +159,10 @@ TEST(KneeboardContents, FlagsPortsAndTheMouseAreInWords) {
   const Contents contents = Told("USE MTYPE A3\nPortB1 IS TG1\nSWAPTG\nDEF X1 S2\nBTN X1 /P a /R b\n");
   ASSERT_EQ(contents.flags.size(), 1u);
   EXPECT_EQ(contents.flags[0].condition, "S2 is pressed");
-  EXPECT_EQ(contents.flags[0].sends.size(), 2u);
+  ASSERT_EQ(contents.flags[0].sends.size(), 2u);
+  EXPECT_EQ(contents.flags[0].sends[0].moment, Moment::Press);
+  EXPECT_EQ(contents.flags[0].sends[1].moment, Moment::Release);
+  EXPECT_THAT(ListAsText(contents, ListOrder::ByControl), testing::HasSubstr("press: A, release: B"));
   EXPECT_THAT(contents.facts, ElementsAre(Fact{"Mouse", "type A3"}, Fact{"Game port 1", "TG1"},
                                           Fact{"Trigger", "both stages exchanged"}));
 }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 #include "support/HandMade.h"
 
@@ -115,6 +116,16 @@ TEST(PagesLayout, TheLegendTellsTheSignsThatThereAre) {
   EXPECT_THAT(words, AllOf(Contains("S3 held in"), Not(Contains("S3 out")), Not(Contains("pressed"))));
 }
 
+TEST(PagesLayout, TheLegendTellsOnlyWhatStandsOnItsPage) {
+  Contents contents = StickWith({Button("S1", "BTN-0", {Does("Inside", {{}, Shift::In})})});
+  contents.devices.push_back(contents.devices.front());
+  contents.devices.back().controls = {Button("S1", "BTN-0", {Does("Outside", {{}, Shift::Out})})};
+  const std::vector<Sheet> sheets = Laid(contents, DevicesAlone());
+  ASSERT_EQ(sheets.size(), 2u);
+  EXPECT_THAT(WordsOn({sheets[0]}), AllOf(Contains("S3 held in"), Not(Contains("S3 out"))));
+  EXPECT_THAT(WordsOn({sheets[1]}), AllOf(Contains("S3 out"), Not(Contains("S3 held in"))));
+}
+
 TEST(PagesLayout, KeysAreShownWhereTheyAreWanted) {
   const Contents contents = StickWith({Button("S1", "BTN-0", {Does("Gear toggle", {}, "CTL g")})});
   Options options = DevicesAlone();
@@ -143,6 +154,44 @@ TEST(PagesLayout, WordsThatNoBoxCanHoldAreANoteAtTheFoot) {
   EXPECT_THAT(words,
               AllOf(Contains("see note 1"), Contains("Notes"), Contains(StartsWith("S1: word0 word1"))));
   EXPECT_THAT(words, Contains(HasSubstr("word59")));
+}
+
+/// That many words, each with its number.
+std::string ManyWords(int count) {
+  std::string all;
+  for (int i = 0; i < count; ++i) all.append("word").append(std::to_string(i)).append(" ");
+  return all;
+}
+
+/// Numbers of notes that a sheet refers to, and those that it tells, must be the same.
+std::string WrongNotesOf(const Sheet& sheet) {
+  std::set<std::string> wanted;
+  std::set<std::string> told;
+  const auto notes = std::ranges::find(sheet.words, "Notes", &Words::text);
+  for (auto each = sheet.words.begin(); each != sheet.words.end(); ++each) {
+    const bool isNumber = std::ranges::all_of(each->text, [](char c) { return c >= '0' && c <= '9'; });
+    if (each->text.starts_with("see note ")) wanted.insert(each->text.substr(9));
+    if (each > notes && isNumber && each->bold) told.insert(each->text);
+  }
+  return wanted == told ? "" : std::to_string(wanted.size()) + " wanted, " + std::to_string(told.size());
+}
+
+TEST(PagesLayout, ANoteStandsOnThePageOfItsNumber) {
+  for (int controls = 1; controls <= 12; ++controls) {
+    std::vector<Control> made;
+    for (int i = 0; i < controls; ++i) {
+      const std::string number = std::to_string(i % 4);
+      const std::string words = ManyWords(20 + 30 * (i % 3));
+      made.push_back(Button(("S" + number).c_str(), ("BTN-" + number).c_str(), {Does(words.c_str())}));
+    }
+    for (const Paper paper : {Paper::A4, Paper::A5}) {
+      Options options = DevicesAlone();
+      options.paper = paper;
+      const std::vector<Sheet> sheets = SheetsOf(StickWith(made), options, EvenMeasure(), Plans());
+      for (const Sheet& sheet : sheets) EXPECT_EQ(WrongNotesOf(sheet), "") << controls << " controls";
+      EXPECT_THAT(WordsOn(sheets), Contains(HasSubstr("word19")));
+    }
+  }
 }
 
 TEST(PagesLayout, EqualStepsOfAScaleAreOneStretch) {
@@ -230,7 +279,7 @@ TEST(PagesLayout, AKeyThatNoControlSendsIsToldByAStroke) {
     const Sheet sheet = Laid(contents).front();
     return std::ranges::count(sheet.lines, LineKind::Plain, &Line::kind);
   };
-  EXPECT_EQ(strokesOn({}) - strokesOn({"S1"}), 2) << "on the key and in the table";
+  EXPECT_EQ(strokesOn({}) - strokesOn({"S1"}), 3) << "on the key, in the table and in the legend";
 }
 
 TEST(PagesLayout, TwoPagesOnASheetAreHalfAsManySheets) {

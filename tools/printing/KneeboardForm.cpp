@@ -206,16 +206,49 @@ void KneeboardForm::Copy_Click() {
   Say("The page is on the clipboard");
 }
 
+/// Beside the joystick file and with its name, where it has one.
+FileRequest KneeboardForm::Question() const {
+  const std::string& path = bench_.documents.joystick.Path.Get();
+  const std::size_t name = path.rfind('\\') + 1;
+  FileRequest request = {FileDialogKind::Save,
+                         "Save the kneeboard",
+                         "PDF (*.pdf)|*.pdf|SVG (*.svg)|*.svg|PNG (*.png)|*.png|Text (*.txt)|*.txt",
+                         bench_.settings.ProgramFilesPath,
+                         "kneeboard.pdf",
+                         "pdf"};
+  if (name == 0) return request;
+  request.folder = path.substr(0, name);
+  request.fileName = path.substr(name, path.find('.', name) - name) + ".pdf";
+  return request;
+}
+
+std::vector<std::string> KneeboardForm::FilesAt(const std::string& path) const {
+  return EndingOf(path) == ".txt" ? std::vector{path} : kneeboard::FilesOf(path, job_.sheets.size());
+}
+
+/// The dialog has asked about the path itself, but not about the pages that have numbers.
+bool KneeboardForm::MayReplace(const std::vector<std::string>& files) {
+  if (files.size() < 2) return true;
+  std::string there;
+  for (const std::string& file : files) {
+    if (bench_.platform.files.FileExists(file)) there.append("\r\n").append(file);
+  }
+  if (there.empty()) return true;
+  const MessageBox box = {"Save the kneeboard",
+                          "These files are there already:" + there + "\r\n\r\nDo you want to replace them?",
+                          BoxIcon::Question, BoxButtons::YesNo, Answer::No};
+  return bench_.platform.dialogs.Show(box) == Answer::Yes;
+}
+
 void KneeboardForm::SaveAs_Click() {
   const Trap trap{bench_.errors, "Kneeboard SaveAs_Click"};
-  const std::string& folder = bench_.settings.ProgramFilesPath;
-  const auto path = Ignore(bench_.platform.dialogs.AskForFile(
-      {FileDialogKind::Save, "Save the kneeboard",
-       "PDF (*.pdf)|*.pdf|SVG (*.svg)|*.svg|PNG (*.png)|*.png|Text (*.txt)|*.txt", folder, "kneeboard.pdf",
-       "pdf"}));
+  const auto path = Ignore(bench_.platform.dialogs.AskForFile(Question()));
   if (!path) return;
+  const std::vector<std::string> files = FilesAt(*path);
+  if (!MayReplace(files)) return;
+  const std::string names = files.size() < 2 ? files.front() : files.front() + " to " + files.back();
   const bool saved = trap(SaveTo(*path)).has_value();
-  Say(saved ? "The kneeboard is saved as " + *path : *path + " can't be written");
+  Say(saved ? "The kneeboard is saved as " + names : *path + " can't be written");
 }
 
 Outcome<> KneeboardForm::SaveTo(const std::string& path) {

@@ -34,7 +34,7 @@ class KneeboardForm : public ToolForm {
   CommandButton Next{*this, "Next", "Next", &KneeboardForm::Next_Click};
   CommandButton Copy{*this, "Copy", "Copy page", &KneeboardForm::Copy_Click};
   CommandButton SaveAs{*this, "SaveAs", "Save as ...", &KneeboardForm::SaveAs_Click};
-  CommandButton Print{*this, "Print", "Print ...", &KneeboardForm::Print_Click};
+  CommandButton Print{*this, "Print", "&Print ...", &KneeboardForm::Print_Click};
   CommandButton Done{*this, "Done", "Close", &KneeboardForm::Close};
   Pause pause{*this, "TimerKneeboard", 10, [this] { Renew(); }};
 
@@ -71,6 +71,10 @@ class KneeboardForm : public ToolForm {
   void Turn(int pages);
   void ShowPage();
   [[nodiscard]] kneeboard::Options Wanted() const;
+  [[nodiscard]] FileRequest Question() const;
+  /// That are written for that path.
+  [[nodiscard]] std::vector<std::string> FilesAt(const std::string& path) const;
+  bool MayReplace(const std::vector<std::string>& files);
   Outcome<> SaveTo(const std::string& path);
 
   kneeboard::Contents contents_;

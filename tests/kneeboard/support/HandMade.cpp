@@ -138,7 +138,7 @@ Contents MadeOf(Amount amount, std::size_t letters) {
   contents.headings = {"FLIGHT", "WEAPONS", NameOfLength(letters)};
   const std::size_t rows = ActionsOf(amount) * 2;
   for (std::size_t i = 0; i < rows; ++i) {
-    contents.flags.push_back({"X" + std::to_string(i), NameOfLength(letters), {make.Next()}, {}});
+    contents.flags.push_back({"X" + std::to_string(i), NameOfLength(letters), {{.deed = make.Next()}}, {}});
     contents.facts.push_back({"mouse", NameOfLength(letters)});
   }
   for (const char* key : {"g", "F1", "KP7", "ESC", "SPC", "LAROW", "#45", "\\"}) {

@@ -41,6 +41,36 @@ TEST_F(KneeboardFormTest, AllPagesGoToTheFileThatIsChosen) {
   EXPECT_GT(program.press.jobs[0].sheets.size(), 1u);
 }
 
+TEST_F(KneeboardFormTest, PagesThatWouldReplaceFilesAreAskedAboutOnce) {
+  program.files().PutFolder("c:\\my");
+  program.files().Put("c:\\my\\board-1.png", "a");
+  program.files().Put("c:\\my\\board-2.png", "b");
+  Choose("c:\\my\\board.png");
+  program.outside.dialogs.answers = {Answer::No};
+  form().SaveAs_Click();
+  EXPECT_TRUE(program.press.wanted.empty());
+  ASSERT_EQ(program.outside.dialogs.boxes.size(), 1u);
+  EXPECT_THAT(program.outside.dialogs.boxes[0].text, HasSubstr("c:\\my\\board-1.png\r\nc:\\my\\board-2.png"));
+  Choose("c:\\my\\board.png");
+  program.outside.dialogs.answers = {Answer::Yes};
+  form().SaveAs_Click();
+  EXPECT_EQ(program.press.wanted.size(), 1u);
+  EXPECT_THAT(Status(), HasSubstr("c:\\my\\board-1.png to c:\\my\\board-"));
+  Choose("c:\\my\\other.png");  // and nobody is asked where nothing is replaced
+  form().SaveAs_Click();
+  EXPECT_EQ(program.outside.dialogs.boxes.size(), 2u);
+}
+
+TEST_F(KneeboardFormTest, IsSavedBesideTheJoystickFile) {
+  Choose("cancel");
+  form().SaveAs_Click();
+  EXPECT_EQ(program.outside.dialogs.requests.back().fileName, "kneeboard.pdf");
+  program.application.workbench.documents.joystick.Path = std::string("c:\\my\\strike.b50");
+  form().SaveAs_Click();
+  EXPECT_EQ(program.outside.dialogs.requests.back().folder, "c:\\my\\");
+  EXPECT_EQ(program.outside.dialogs.requests.back().fileName, "strike.pdf");
+}
+
 TEST_F(KneeboardFormTest, WhatCannotBeWrittenIsTold) {
   program.press.failure = error::kPathAccess;
   Choose("c:\\my\\board.pdf");
