@@ -259,6 +259,14 @@ TEST(PagesLayout, EachPageHasTheTitleAndTheProblems) {
   EXPECT_THAT(WordsOn(Laid(contents)), Not(Contains(HasSubstr("in the files"))));
 }
 
+TEST(PagesLayout, ThatThereAreNoMacrosIsToldBesideTheProblems) {
+  Contents contents = StickWith({Button("S1", "BTN-0", {Does("Gear toggle")})});
+  EXPECT_THAT(WordsOn(Laid(contents)), Not(Contains(HasSubstr("No keys"))));
+  contents.lacksMacros = true;
+  contents.problems = 2;
+  EXPECT_THAT(WordsOn(Laid(contents)), Contains("2 problems in the files · No keys: there are no macros"));
+}
+
 TEST(PagesLayout, TheKindsOfPagesAreThoseThatAreWanted) {
   const Contents contents = MadeOf(Amount::Sparse, 9);
   Options options;
