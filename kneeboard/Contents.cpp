@@ -209,6 +209,13 @@ std::size_t ProblemsOf(const model::FilePair& pair) {
       problems, [](const model::Problem& each) { return each.rule->severity != model::Severity::Hint; }));
 }
 
+/// Whether the macro file is missing rather than one of its macros.
+bool LacksMacros(const model::NameIndex& names) {
+  const auto& macros = names.Macros();
+  return !macros.empty() &&
+         std::ranges::all_of(macros, [](const model::MacroNames& each) { return each.definitions.empty(); });
+}
+
 }  // namespace
 
 Contents ContentsOf(const model::FilePair& pair, const model::NameIndex& names) {
@@ -221,6 +228,7 @@ Contents ContentsOf(const model::FilePair& pair, const model::NameIndex& names) 
   AddHeadings(writer, contents);
   contents.keys = KeyUsesOf(writer);
   contents.problems = ProblemsOf(pair);
+  contents.lacksMacros = LacksMacros(names);
   return contents;
 }
 

@@ -149,6 +149,7 @@ struct Contents {
   std::vector<KeyUse> keys = {};           ///< in the order of the keyboard
   std::vector<std::string> headings = {};  ///< of the macro file, each once, in its order
   std::size_t problems = 0;                ///< errors and warnings of both files
+  bool lacksMacros = false;                ///< names are sent, and none of them is a macro's
 
   friend bool operator==(const Contents&, const Contents&) = default;
 };

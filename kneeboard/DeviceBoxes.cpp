@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
+#include <utility>
 
 namespace tarvik::kneeboard {
 namespace {
@@ -11,6 +12,9 @@ constexpr Colour kText = {Ink::Text};
 constexpr Colour kDim = {Ink::Dim};
 constexpr Colour kAccent = {Ink::Accent};
 constexpr Colour kAlarm = {Ink::Alarm};
+
+/// Layers share a page that have no more boxes than these all in all.
+constexpr std::size_t kBoxesTogether = 6;
 
 /// What the words have in common at their beginning.
 std::string CommonBeginning(const std::string& one, const std::string& other) {
@@ -36,7 +40,7 @@ std::string Percent(double value) { return std::to_string(std::lround(value)); }
 /// Gathers the rows of one box.
 class BoxBuilder {
  public:
-  BoxBuilder(std::optional<Layer> only, const Options& options) : only_(only), options_(options) {}
+  BoxBuilder(LayerSet only, const Options& options) : only_(std::move(only)), options_(options) {}
 
   void Name(const std::string& label, const std::string& name, const std::string& place) {
     box_.name = isNamed_ ? CommonBeginning(box_.name, name) : name;
@@ -48,10 +52,10 @@ class BoxBuilder {
   void Take(const Control& control, bool isAlone) {
     bool isFirst = true;
     for (const Action& action : control.actions) {
-      if (only_ && action.layer != *only_) continue;
+      if (!Tells(action.layer)) continue;
       Row row = {{}, WordsOf(action.deed), KeysOf(action.deed, action.manner, options_), kText, isFirst};
       row.leads.push_back(isFirst && !isAlone ? WhichOf(control) : Lead{});
-      if (!only_) PutLayer(row.leads, action.layer);
+      if (only_.size() != 1) PutLayer(row.leads, action.layer);
       row.leads.push_back({SignOf(action.moment), {}, false, kText});
       row.leads.push_back({Sign::None, OrdinalOf(action.turn), false, kDim});
       row.source = action.source;
@@ -62,9 +66,9 @@ class BoxBuilder {
   }
 
   void Take(const Scale& scale) {
-    if (only_ && scale.layer != *only_) return;
+    if (!Tells(scale.layer)) return;
     Row kind = {{}, scale.kind, {}, kDim, true, scale.source};
-    if (!only_ && scale.layer != Layer()) PutLayer(kind.leads, scale.layer);
+    if (only_.size() != 1 && scale.layer != Layer()) PutLayer(kind.leads, scale.layer);
     if (!scale.kind.empty() || scale.steps.empty()) box_.rows.push_back(std::move(kind));
     if (box_.bar.empty()) {
       for (const Step& step : scale.steps) box_.bar.push_back({step.from, step.to, step.isAfterburner});
@@ -88,6 +92,10 @@ class BoxBuilder {
   }
 
  private:
+  [[nodiscard]] bool Tells(const Layer& layer) const {
+    return only_.empty() || std::ranges::find(only_, layer) != only_.end();
+  }
+
   using StepPlace = std::vector<Step>::const_iterator;
 
   static Lead WhichOf(const Control& control) {
@@ -116,7 +124,7 @@ class BoxBuilder {
     if (!goesUp && !goesDown) box_.rows.back().words.append(": nothing");
   }
 
-  std::optional<Layer> only_;
+  LayerSet only_;
   const Options& options_;
   BoxContent box_;
   bool isNamed_ = false;
@@ -133,7 +141,7 @@ std::vector<std::string> LabelsOf(const DevicePage& device) {
   return labels;
 }
 
-BoxContent BoxOf(const std::string& label, const DevicePage& device, const std::optional<Layer>& only,
+BoxContent BoxOf(const std::string& label, const DevicePage& device, const LayerSet& only,
                  const Options& options) {
   BoxBuilder builder(only, options);
   const auto isHere = [&](const auto& each) { return each.label == label; };
@@ -152,7 +160,7 @@ BoxContent BoxOf(const std::string& label, const DevicePage& device, const std::
   return builder.Finish();
 }
 
-void PutLoose(std::vector<BoxContent>& boxes, const DevicePage& device, const std::optional<Layer>& only,
+void PutLoose(std::vector<BoxContent>& boxes, const DevicePage& device, const LayerSet& only,
               const Options& options) {
   const auto put = [&](const auto& each, auto... isAlone) {
     if (!each.label.empty()) return;
@@ -208,12 +216,11 @@ void PutLayer(std::vector<Lead>& leads, const Layer& layer) {
   leads.push_back({SignOf(layer.shift), {}, false, kText});
 }
 
-std::vector<BoxContent> BoxesOf(const DevicePage& device, const std::optional<Layer>& only,
-                                const Options& options) {
+std::vector<BoxContent> BoxesOf(const DevicePage& device, const LayerSet& only, const Options& options) {
   std::vector<BoxContent> boxes;
   for (const std::string& label : LabelsOf(device)) {
     BoxContent box = BoxOf(label, device, only, options);
-    if (!only || !box.isFaint) boxes.push_back(std::move(box));
+    if (only.empty() || !box.isFaint) boxes.push_back(std::move(box));
   }
   PutLoose(boxes, device, only, options);
   return boxes;
@@ -237,6 +244,25 @@ std::vector<Layer> LayersOf(const DevicePage& device) {
   }
   for (const Scale& scale : device.scales) layers.insert(scale.layer);
   return {layers.begin(), layers.end()};
+}
+
+std::vector<LayerSet> PagesOfLayers(const DevicePage& device, const Options& options) {
+  std::vector<LayerSet> pages;
+  std::size_t boxes = 0;
+  for (const Layer& layer : LayersOf(device)) {
+    const std::size_t more = BoxesOf(device, {layer}, options).size();
+    const bool sharesPage = !pages.empty() && boxes + more <= kBoxesTogether;
+    if (!sharesPage) pages.emplace_back();
+    boxes = sharesPage ? boxes + more : more;
+    pages.back().push_back(layer);
+  }
+  return pages;
+}
+
+std::string NameOf(const LayerSet& layers) {
+  std::string names;
+  for (const Layer& layer : layers) names.append(names.empty() ? "" : "; ").append(NameOf(layer));
+  return names;
 }
 
 std::string NameOf(const Layer& layer) {

@@ -1,7 +1,6 @@
 // What stands in the boxes of a kneeboard: the controls and scales of a device, the flags, the settings.
 #pragma once
 
-#include <optional>
 #include <vector>
 
 #include "kneeboard/Box.h"
@@ -9,16 +8,23 @@
 
 namespace tarvik::kneeboard {
 
+/// Layers that are told together; none stands for all.
+using LayerSet = std::vector<Layer>;
+
 /// A box for each label of the drawing, in the order of the controls, and one for each control and scale
-/// without a label. Of a single layer there is what this layer alone does, and no control that does nothing.
-[[nodiscard]] std::vector<BoxContent> BoxesOf(const DevicePage& device, const std::optional<Layer>& only,
+/// without a label. Of some layers there is what these alone do, and no control that does nothing.
+[[nodiscard]] std::vector<BoxContent> BoxesOf(const DevicePage& device, const LayerSet& only,
                                               const Options& options);
 
 /// The layers in which the device does something, each once, the common one first.
 [[nodiscard]] std::vector<Layer> LayersOf(const DevicePage& device);
 
+/// The same, as they share pages: layers with few boxes stand together.
+[[nodiscard]] std::vector<LayerSet> PagesOfLayers(const DevicePage& device, const Options& options);
+
 /// "S3 held in, dogfight switch up"; "All layers" for what they share.
 [[nodiscard]] std::string NameOf(const Layer& layer);
+[[nodiscard]] std::string NameOf(const LayerSet& layers);
 
 /// A box for each scale.
 [[nodiscard]] std::vector<BoxContent> ScaleBoxesOf(const DevicePage& device, const Options& options);

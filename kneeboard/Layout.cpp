@@ -21,14 +21,11 @@ constexpr std::pair<char, const char*> kManners[] = {
     {'Q', "/Q without a first delay"},
 };
 
-/// The signs and letters that the pages may need; a page tells of them what stands on it. On pages of single
-/// layers these have no signs.
-Legend LegendOf(const Contents& contents, const Options& options, Layers layers) {
+/// The signs and letters that the pages may need; a page tells of them what stands on it.
+Legend LegendOf(const Contents& contents, const Options& options) {
   std::set<Sign> signs;
   std::set<char> letters;
-  const auto put = [&](const Layer& layer) {
-    if (layers == Layers::Together) signs.insert({SignOf(layer.dogfight), SignOf(layer.shift)});
-  };
+  const auto put = [&](const Layer& layer) { signs.insert({SignOf(layer.dogfight), SignOf(layer.shift)}); };
   const auto putAll = [&](const std::vector<Action>& actions) {
     for (const Action& action : actions) {
       put(action.layer);
@@ -60,7 +57,7 @@ class Kneeboard {
         options_(options),
         plans_(plans),
         maker_(maker),
-        legend_(LegendOf(contents, options, options.layers)) {}
+        legend_(LegendOf(contents, options)) {}
 
   std::vector<Page> Pages() {
     if (options_.hasDevices) PutDevices();
@@ -68,7 +65,7 @@ class Kneeboard {
     const bool hasContents =
         !contents_.devices.empty() || !contents_.flags.empty() || !contents_.facts.empty();
     if (options_.hasList && hasContents)
-      Take(ListPagesOf(contents_, options_, maker_, LegendOf(contents_, options_, Layers::Together)));
+      Take(ListPagesOf(contents_, options_, maker_, LegendOf(contents_, options_)));
     if (pages_.empty()) pages_.push_back(maker_.Begin({"Nothing to show", {}}, {}));
     maker_.PutFeet(pages_);
     return std::move(pages_);
@@ -86,16 +83,16 @@ class Kneeboard {
         PutDevice(device, {}, more);
         continue;
       }
-      for (const Layer& layer : LayersOf(device)) PutDevice(device, layer, more);
+      for (const LayerSet& layers : PagesOfLayers(device, options_)) PutDevice(device, layers, more);
     }
     if (more.empty()) return;
     Take(FlowPages(maker_, {"Flags and settings", {}}, legend_, more));
   }
 
-  void PutDevice(const DevicePage& device, const std::optional<Layer>& layer, std::vector<BoxContent>& more) {
+  void PutDevice(const DevicePage& device, const LayerSet& layers, std::vector<BoxContent>& more) {
     const DrawingPlan* plan = plans_.Find(device.drawing);
-    const PageHead head = {device.title, layer ? NameOf(*layer) : ""};
-    std::vector<BoxContent> boxes = BoxesOf(device, layer, options_);
+    const PageHead head = {device.title, NameOf(layers)};
+    std::vector<BoxContent> boxes = BoxesOf(device, layers, options_);
     if (plan == nullptr) return Take(FlowPages(maker_, head, legend_, boxes));
     DeviceSubject subject = {*plan, device.drawing, HiddenIn(device, *plan)};
     for (BoxContent& box : boxes) {

@@ -22,16 +22,18 @@ std::string Joined(const std::vector<std::string>& parts) {
   return all;
 }
 
-std::string ProblemsIn(std::size_t problems) {
-  if (problems == 0) return {};
-  return std::to_string(problems) + (problems == 1 ? " problem" : " problems") + " in the files";
+std::string ProblemsIn(const Contents& contents) {
+  const std::string count = std::to_string(contents.problems);
+  const char* const what = contents.problems == 1 ? " problem in the files" : " problems in the files";
+  return Joined({contents.problems == 0 ? std::string() : count + what,
+                 contents.lacksMacros ? "No keys: there are no macros" : ""});
 }
 
 }  // namespace
 
 PageMaker::PageMaker(const Contents& contents, Spot size, Typesetter& setter)
     : title_(contents.title),
-      problems_(contents.problems),
+      problems_(ProblemsIn(contents)),
       size_(size),
       margin_(MarginOf(size)),
       factor_(std::min(1.0, std::sqrt(size.x * size.y / kUsualPage))),
@@ -101,7 +103,7 @@ double PageMaker::PutFoot(Page& page, const Legend& legend) const {
   Style alarm = style;
   alarm.bold = true;
   alarm.colour = {Ink::Alarm};
-  PutWords(page.sheet, setter_, ProblemsIn(problems_), {margin_, last}, alarm);
+  PutWords(page.sheet, setter_, problems_, {margin_, last}, alarm);
   const Sheet signs = LegendOf(legend);
   const double top = last - signs.height;
   page.legend = legend;

@@ -56,7 +56,7 @@ class PageMaker {
   double PutFoot(Page& page, const Legend& legend) const;
 
   const TitleBlock& title_;
-  std::size_t problems_;
+  std::string problems_;
   Spot size_;
   double margin_;
   double factor_;

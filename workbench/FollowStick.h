@@ -22,6 +22,10 @@ class FollowStick {
   [[nodiscard]] bool IsOn() const { return listening_ != nullptr; }
   /// Whether a control, by its name in the files, is pressed or moved, or assigned at the caret.
   [[nodiscard]] bool Lights(std::string_view control) const;
+  /// Whether it is pressed or moved just now.
+  [[nodiscard]] bool IsHeld(std::string_view control) const {
+    return IsOn() && (pressed_.contains(control) || moving_.contains(control));
+  }
   /// The statement of the control that was pressed last, in the joystick file; empty for none.
   [[nodiscard]] Range Glow() const { return glow_; }
 

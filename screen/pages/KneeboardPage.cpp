@@ -22,6 +22,12 @@ class SheetCanvas : public QWidget {
  public:
   explicit SheetCanvas(KneeboardForm& form) : form_(form) { setMouseTracking(true); }
 
+  /// In pixels.
+  [[nodiscard]] QRect PlaceOf(const kneeboard::Area& area) const {
+    return QRectF(area.x * scale_ + kDesk, area.y * scale_ + kDesk, area.width * scale_, area.height * scale_)
+        .toAlignedRect();
+  }
+
   void SetScale(double pixelsPerMillimetre) {
     scale_ = pixelsPerMillimetre;
     const kneeboard::Sheet& sheet = form_.Sheet();
@@ -39,6 +45,7 @@ class SheetCanvas : public QWidget {
     painter.scale(scale_ / kUnits, scale_ / kUnits);
     PaintSheet(painter, sheet, Palette::Of(form_.Job()), drawings_);
     PaintGlow(painter, sheet);
+    PaintChosen(painter);
   }
 
   void mouseMoveEvent(QMouseEvent* event) override {
@@ -61,6 +68,18 @@ class SheetCanvas : public QWidget {
     }
   }
 
+  /// The line that the Enter key leads from.
+  void PaintChosen(QPainter& painter) const {
+    if (form_.ChosenLine() == nullptr) return;
+    QPen pen(Qt::black);
+    pen.setCosmetic(true);
+    pen.setWidth(2);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    const kneeboard::Area& area = form_.ChosenLine()->area;
+    painter.drawRect(QRectF(area.x * kUnits, area.y * kUnits, area.width * kUnits, area.height * kUnits));
+  }
+
   [[nodiscard]] kneeboard::Spot SpotOf(const QMouseEvent& event) const {
     return {(event.position().x() - kDesk) / scale_, (event.position().y() - kDesk) / scale_};
   }
@@ -70,7 +89,7 @@ class SheetCanvas : public QWidget {
   double scale_ = 1;
 };
 
-/// Page Up and Page Down turn the pages, and the arrow keys move what is seen of one.
+/// Page Up and Page Down turn the pages, the arrow keys choose a line, and Enter goes to its statement.
 class SheetView : public QScrollArea {
  public:
   SheetView(KneeboardForm& form, Bindings& bindings) : form_(form), canvas_(new SheetCanvas(form)) {
@@ -99,10 +118,21 @@ class SheetView : public QScrollArea {
   void keyPressEvent(QKeyEvent* event) override {
     if (event->key() == Qt::Key_PageDown) return form_.Next_Click();
     if (event->key() == Qt::Key_PageUp) return form_.Previous_Click();
+    if (event->key() == Qt::Key_Down) return Choose(1);
+    if (event->key() == Qt::Key_Up) return Choose(-1);
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && form_.ChosenLine() != nullptr) return form_.GoToChosenLine();
     QScrollArea::keyPressEvent(event);
   }
 
  private:
+  void Choose(int by) {
+    form_.ChooseLine(by);
+    if (form_.ChosenLine() == nullptr) return;
+    const QRect place = canvas_->PlaceOf(form_.ChosenLine()->area);
+    ensureVisible(place.center().x(), place.center().y(), place.width() / 2, place.height());
+  }
+
   void Fit() { canvas_->SetScale(ScaleOf(static_cast<PageZoom>(form_.Zoom.ListIndex.Get()))); }
 
   /// The room counts without scroll bars, which come where it is not enough.

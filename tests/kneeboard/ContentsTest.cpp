@@ -120,6 +120,12 @@ TEST(KneeboardContents, MacrosInCirclesEnd) {
   EXPECT_EQ(actions[0].deed.keys, "a b");
 }
 
+TEST(KneeboardContents, AFileWithoutItsMacrosIsKnown) {
+  EXPECT_TRUE(Told("BTN S1 Gear_Toggle\n").lacksMacros);
+  EXPECT_FALSE(Told("BTN S1 Gear_Toggle\nBTN S2 Flaps\n", "Flaps = f\n").lacksMacros);
+  EXPECT_FALSE(Told("BTN S1 g\n").lacksMacros);
+}
+
 TEST(KneeboardContents, EachDeviceHasItsPage) {
   const Contents contents = Told("USE TQS\nBTN T1 a\nBTN H1U b\nBTN H1UL c\n");
   ASSERT_EQ(contents.devices.size(), 2u);

@@ -99,15 +99,32 @@ TEST(PagesLayout, PositionsOfAHatShareABox) {
 TEST(PagesLayout, OnPagesOfLayersNothingIsRepeated) {
   Options options = DevicesAlone();
   options.layers = Layers::PageEach;
-  const Contents contents =
-      StickWith({Button("S1", "BTN-0", {Does("Common"), Does("Inside", {{}, Shift::In})}),
-                 Button("S4", "BTN-3", {Does("High", {Dogfight::Up, Shift::In})})});
+  std::vector<Control> controls = {Button("S1", "BTN-0", {Does("Common"), Does("Inside", {{}, Shift::In})}),
+                                   Button("S4", "BTN-3", {Does("High", {Dogfight::Up, Shift::In})})};
+  for (const char* loose : {"S5", "S6", "S7"}) {
+    controls.push_back(Button(loose, "", {Does("Common"), Does("Inside", {{}, Shift::In})}));
+    controls.push_back(Button(loose, "", {Does("High", {Dogfight::Up, Shift::In})}));
+  }
+  const Contents contents = StickWith(controls);
   const auto sheets = Laid(contents, options);
   ASSERT_EQ(sheets.size(), 3U);
   EXPECT_THAT(WordsOn(sheets[0]), AllOf(Contains("All layers"), Contains("Common"), Not(Contains("Inside")),
                                         Not(Contains("S4"))));
   EXPECT_THAT(WordsOn(sheets[1]), AllOf(Contains("S3 held in"), Contains("Inside"), Not(Contains("Common"))));
   EXPECT_THAT(WordsOn(sheets[2]), AllOf(Contains("S3 held in, dogfight switch up"), Contains("High")));
+}
+
+TEST(PagesLayout, LayersOfFewBoxesShareAPage) {
+  Options options = DevicesAlone();
+  options.layers = Layers::PageEach;
+  const Contents contents =
+      StickWith({Button("S1", "BTN-0", {Does("Common"), Does("Inside", {{}, Shift::In})}),
+                 Button("S4", "BTN-3", {Does("High", {Dogfight::Up, Shift::In})})});
+  const auto sheets = Laid(contents, options);
+  ASSERT_EQ(sheets.size(), 1U);
+  EXPECT_THAT(WordsOn(sheets[0]),
+              AllOf(Contains("All layers; S3 held in; S3 held in, dogfight switch up"), Contains("Common"),
+                    Contains("Inside"), Contains("High"), Contains("dogfight up")));
 }
 
 TEST(PagesLayout, TheLegendTellsTheSignsThatThereAre) {
@@ -240,6 +257,14 @@ TEST(PagesLayout, EachPageHasTheTitleAndTheProblems) {
   EXPECT_THAT(WordsOn(Laid(contents)), Contains("1 problem in the files"));
   contents.problems = 0;
   EXPECT_THAT(WordsOn(Laid(contents)), Not(Contains(HasSubstr("in the files"))));
+}
+
+TEST(PagesLayout, ThatThereAreNoMacrosIsToldBesideTheProblems) {
+  Contents contents = StickWith({Button("S1", "BTN-0", {Does("Gear toggle")})});
+  EXPECT_THAT(WordsOn(Laid(contents)), Not(Contains(HasSubstr("No keys"))));
+  contents.lacksMacros = true;
+  contents.problems = 2;
+  EXPECT_THAT(WordsOn(Laid(contents)), Contains("2 problems in the files · No keys: there are no macros"));
 }
 
 TEST(PagesLayout, TheKindsOfPagesAreThoseThatAreWanted) {

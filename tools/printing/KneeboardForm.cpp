@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <iterator>
 
 #include "text/CodePage.h"
 #include "text/Contrast.h"
@@ -97,6 +98,7 @@ KneeboardForm::KneeboardForm(Workbench& bench, Shell& shell) : ToolForm("Kneeboa
        {&bench.settings.BTNColour, &bench.settings.SlashColour, &bench.settings.RemStatements}) {
     connections_.push_back(ink->Changed.Connect([this] { pause.Begin(); }));
   }
+  connections_.push_back(bench.follow.Changed.Connect([this] { TurnToPressed(); }));
   connections_.push_back(bench.models.Changed.Connect([this] { pause.Begin(); }));
   Renew();
 }
@@ -178,6 +180,7 @@ void KneeboardForm::ShowPage() {
 void KneeboardForm::Turn(int pages) {
   const int last = static_cast<int>(job_.sheets.size()) - 1;
   page_ = static_cast<std::size_t>(std::clamp(static_cast<int>(page_) + pages, 0, last));
+  chosen_.reset();
   ShowPage();
 }
 
@@ -189,16 +192,92 @@ const kneeboard::Target* KneeboardForm::TargetAt(kneeboard::Spot spot) const {
   return found == Sheet().targets.end() ? nullptr : &*found;
 }
 
+template <class Has>
+bool KneeboardForm::StandsFor(const kneeboard::Target& target, Has has) const {
+  const auto stands = [&target](const auto& each, const auto& sources) {
+    if (target.source) return std::ranges::find(sources, *target.source) != sources.end();
+    return sources.empty() && !each.label.empty() && target.label == each.label;
+  };
+  for (const kneeboard::DevicePage& device : contents_.devices) {
+    for (const kneeboard::Control& control : device.controls) {
+      if (!has(control.name)) continue;
+      std::vector<model::Mention> sources;
+      for (const kneeboard::Action& action : control.actions) sources.push_back(action.source);
+      if (stands(control, sources)) return true;
+    }
+    for (const kneeboard::Scale& scale : device.scales) {
+      if (has(scale.name) && stands(scale, std::vector{scale.source})) return true;
+    }
+  }
+  return false;
+}
+
 bool KneeboardForm::Glows(const kneeboard::Target& target) const {
-  const Range glow = bench_.follow.Glow();
-  return glow.length > 0 && target.source && target.source->file == model::FileKind::Joystick &&
-         target.source->range.start >= glow.start && target.source->range.End() <= glow.End();
+  if (!bench_.follow.IsOn()) return false;
+  return StandsFor(target, [this](const std::string& name) { return bench_.follow.IsHeld(name); });
+}
+
+void KneeboardForm::TurnToPressed() {
+  std::set<std::string> held;
+  const auto take = [&](const auto& each) {
+    if (bench_.follow.IsHeld(each.name)) held.insert(each.name);
+  };
+  for (const kneeboard::DevicePage& device : contents_.devices) {
+    std::ranges::for_each(device.controls, take);
+    std::ranges::for_each(device.scales, take);
+  }
+  std::vector<std::string> pressed;
+  std::ranges::set_difference(held, held_, std::back_inserter(pressed));
+  held_ = std::move(held);
+  if (!pressed.empty()) TurnTo(pressed.front());
+}
+
+void KneeboardForm::TurnTo(const std::string& control) {
+  const auto shows = [&](const kneeboard::Sheet& sheet) {
+    return std::ranges::any_of(sheet.targets, [&](const kneeboard::Target& target) {
+      return StandsFor(target, [&](const std::string& name) { return name == control; });
+    });
+  };
+  if (shows(Sheet())) return;
+  const auto found = std::ranges::find_if(job_.sheets, shows);
+  if (found == job_.sheets.end()) return;
+  page_ = static_cast<std::size_t>(found - job_.sheets.begin());
+  chosen_.reset();
+  ShowPage();
 }
 
 void KneeboardForm::GoTo(kneeboard::Spot spot) {
   const kneeboard::Target* const target = TargetAt(spot);
   if (!target) return;
   bench_.documents.GoTo(DocumentOf(bench_.documents, target->source->file), target->source->range);
+}
+
+void KneeboardForm::ChooseLine(int by) {
+  const auto& targets = Sheet().targets;
+  const std::ptrdiff_t step = by < 0 ? -1 : 1;
+  const auto count = static_cast<std::ptrdiff_t>(targets.size());
+  std::ptrdiff_t at = chosen_ ? static_cast<std::ptrdiff_t>(*chosen_) + step : (by < 0 ? count - 1 : 0);
+  while (at >= 0 && at < count && !targets[static_cast<std::size_t>(at)].source) at += step;
+  if (at < 0 || at >= count) return;
+  chosen_ = static_cast<std::size_t>(at);
+  const kneeboard::Area& area = targets[*chosen_].area;
+  std::string words;
+  for (const kneeboard::Words& each : Sheet().words) {
+    if (Contains(area, each.area.Middle()))
+      words.append(words.empty() ? "" : " ").append(FromUtf8(each.text));
+  }
+  Say(words);
+  Changed();
+}
+
+const kneeboard::Target* KneeboardForm::ChosenLine() const {
+  const auto& targets = Sheet().targets;
+  const bool isThere = chosen_ && *chosen_ < targets.size() && targets[*chosen_].source;
+  return isThere ? &targets[*chosen_] : nullptr;
+}
+
+void KneeboardForm::GoToChosenLine() {
+  if (const kneeboard::Target* const target = ChosenLine()) GoTo(target->area.Middle());
 }
 
 void KneeboardForm::Copy_Click() {

@@ -2,6 +2,8 @@
 // will be printed, and follows the files.
 #pragma once
 
+#include <set>
+
 #include "kneeboard/Press.h"
 #include "workbench/ToolForm.h"
 
@@ -48,9 +50,14 @@ class KneeboardForm : public ToolForm {
   [[nodiscard]] bool LeadsSomewhere(kneeboard::Spot spot) const { return TargetAt(spot) != nullptr; }
   /// Goes in the editor to the statement that stands at that place of the page, if there is one.
   void GoTo(kneeboard::Spot spot);
+  /// Chooses the next line of the page that leads to a statement, or the one before; says what stands there.
+  void ChooseLine(int by);
+  /// Null where none is chosen.
+  [[nodiscard]] const kneeboard::Target* ChosenLine() const;
+  void GoToChosenLine();
 
-  /// Whether it stands for the statement that glows because of the stick, and what tells when another one
-  /// does.
+  /// Whether it stands for a control that is pressed on the stick, and what tells when another one is. Of a
+  /// control that does nothing it is the box, and of others the rows.
   [[nodiscard]] bool Glows(const kneeboard::Target& target) const;
   [[nodiscard]] FollowStick& Following() const { return bench_.follow; }
 
@@ -68,6 +75,12 @@ class KneeboardForm : public ToolForm {
   /// The pages anew, of what the files say already.
   void LayOut();
   [[nodiscard]] const kneeboard::Target* TargetAt(kneeboard::Spot spot) const;
+  /// Whether it stands for a control of which `has` is true, by its name.
+  template <class Has>
+  [[nodiscard]] bool StandsFor(const kneeboard::Target& target, Has has) const;
+  /// The page turns to where a control stands that is pressed only now.
+  void TurnToPressed();
+  void TurnTo(const std::string& control);
   void Turn(int pages);
   void ShowPage();
   [[nodiscard]] kneeboard::Options Wanted() const;
@@ -80,6 +93,8 @@ class KneeboardForm : public ToolForm {
   kneeboard::Contents contents_;
   kneeboard::Job job_;
   std::size_t page_ = 0;
+  std::optional<std::size_t> chosen_;  ///< of the targets of the page
+  std::set<std::string> held_;         ///< controls, as far as they stand on pages
   std::vector<Connection> connections_;
 };
 

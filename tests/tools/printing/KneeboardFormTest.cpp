@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "app/Program.h"
 #include "text/Contrast.h"
 #include "tools/printing/KneeboardForm.h"
@@ -118,6 +120,77 @@ TEST_F(KneeboardFormTest, APlaceOnThePageLeadsToItsStatement) {
   form().GoTo(middle);
   EXPECT_GE(program.application.workbench.documents.joystickText.SelStart, 10u);
   EXPECT_FALSE(form().LeadsSomewhere({-5, -5}));
+}
+
+TEST_F(KneeboardFormTest, ALineIsChosenByKeysAndLeadsToItsStatement) {
+  EXPECT_EQ(form().ChosenLine(), nullptr);
+  form().ChooseLine(1);
+  ASSERT_NE(form().ChosenLine(), nullptr);
+  const kneeboard::Target* const first = form().ChosenLine();
+  form().ChooseLine(-1);
+  EXPECT_EQ(form().ChosenLine(), first);  // there is none before
+  form().ChooseLine(1);
+  ASSERT_NE(form().ChosenLine(), first);
+  form().ChooseLine(-1);
+  EXPECT_EQ(form().ChosenLine(), first);
+  EXPECT_THAT(Status(), HasSubstr("Gear toggle"));
+  form().GoToChosenLine();
+  EXPECT_GE(program.application.workbench.documents.joystickText.SelStart, 10u);
+  form().Next_Click();
+  EXPECT_EQ(form().ChosenLine(), nullptr);
+}
+
+class FollowedKneeboardTest : public KneeboardFormTest {
+ protected:
+  FollowedKneeboardTest() {
+    stick_ = program.outside.sticks.Plug({0, "0300", "Stick", "port", 0, 3, 0});
+    play::StickMap map;
+    for (int i = 1; i <= 3; ++i) {
+      const std::string number = std::to_string(i);
+      map.Set({"0300", "Stick", "port"}, play::InputIn("button " + number).value(), "S" + number);
+    }
+    program.application.workbench.sticks.Use(map);
+    program.application.workbench.settings.FollowStick = 1;
+    program.application.workbench.documents.joystickText.Select({0, 0});
+  }
+  void Button(int number, bool down) {
+    program.outside.sticks.Move(stick_, StickChangeKind::Button, number - 1, down ? 1 : 0);
+  }
+  /// The labels of boxes, and the statements of lines.
+  [[nodiscard]] std::set<std::string> Lit() {
+    std::set<std::string> lit;
+    for (const kneeboard::Target& each : form().Sheet().targets) {
+      if (!form().Glows(each)) continue;
+      lit.insert(each.source ? "line " + std::to_string(each.source->statement) : each.label);
+    }
+    return lit;
+  }
+
+ private:
+  int stick_ = 0;
+};
+
+TEST_F(FollowedKneeboardTest, EachControlLightsAsLongAsItIsHeld) {
+  Button(1, true);
+  EXPECT_THAT(Lit(), ElementsAre("line 1"));
+  Button(3, true);
+  EXPECT_EQ(Lit().size(), 2u) << "a box for a control that does nothing";
+  program.application.workbench.documents.joystickText.SelText = std::string("Rem\r\n");
+  form().pause.timer.Elapsed();
+  EXPECT_TRUE(Lit().contains("line 2")) << "also once it stands elsewhere";
+  Button(1, false);
+  EXPECT_FALSE(Lit().contains("line 2"));
+  Button(3, false);
+  EXPECT_TRUE(Lit().empty());
+}
+
+TEST_F(FollowedKneeboardTest, ThePageTurnsToWhatIsPressed) {
+  form().List.Value = 0;
+  form().Next_Click();
+  ASSERT_TRUE(form().PageNumber.Caption.Get().starts_with("2 "));
+  Button(1, true);
+  EXPECT_TRUE(form().PageNumber.Caption.Get().starts_with("1 "));
+  EXPECT_TRUE(Lit().contains("line 1"));
 }
 
 TEST_F(KneeboardFormTest, SettingsThatNobodyWroteDoNoHarm) {
