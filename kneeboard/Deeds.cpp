@@ -16,6 +16,7 @@ using model::Said;
 
 /// Nobody reads more keys of one deed; macros in macros could make millions.
 constexpr std::size_t kMostKeys = 400;
+constexpr int kMostSteps = 4000;
 
 bool IsCapital(char letter) { return letter >= 'A' && letter <= 'Z'; }
 bool IsSmall(char letter) { return letter >= 'a' && letter <= 'z'; }
@@ -152,12 +153,13 @@ std::vector<PressedKey> DeedWriter::KeysIn(std::string_view lines, std::span<con
   return keys;
 }
 
-bool DeedWriter::Keys::IsFull() const { return list.size() > kMostKeys; }
+bool DeedWriter::Keys::IsFull() const { return list.size() > kMostKeys || steps > kMostSteps; }
 
 void DeedWriter::AddKeysOf(std::string_view lines, const model::Sequence& sequence, Chain& open,
                            Keys& keys) const {
   const std::span<const Item> items = sequence.items;
   for (std::size_t i = 0; i < items.size() && !keys.IsFull(); ++i) {
+    ++keys.steps;
     if (items[i].kind == ItemKind::Name) {
       const model::MacroNames* const inner = speaker_.Names().FindMacro(model::In(lines, items[i].range));
       if (inner) AddKeysOf(*inner, open, keys);
@@ -235,7 +237,7 @@ Deed DeedWriter::DeedOf(std::string_view lines, std::span<const Item> items) con
   for (std::size_t i = 0; i < items.size(); ++i) Take(lines, items, i, pieces);
   std::vector<std::string>& keys = pieces.keys.list;
   if (pieces.keys.IsFull()) {
-    keys.resize(kMostKeys);
+    keys.resize(std::min(keys.size(), kMostKeys));
     keys.emplace_back("and more than can be told");
   }
   // Words that are nothing but keys have said them.

@@ -49,6 +49,7 @@ class DeedWriter {
   struct Keys {
     std::vector<std::string> list = {};
     std::string times = {};  ///< "2x "
+    int steps = 0;           ///< that were looked at
 
     void Add(const std::string& key) {
       list.push_back(times.append(key));
