@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "text/CodePage.h"
+
 namespace tarvik {
 namespace {
 
@@ -19,6 +21,15 @@ std::string_view SwitchButton(std::uint32_t place) {
 /// A hat or a rocker that comes back to its middle is let go of, though a file can say what that sends.
 bool IsMiddle(std::string_view control) {
   return control == "RKR MD" || (control.starts_with('H') && control.ends_with('M'));
+}
+
+/// Where a stick, or what its buttons stand for, is.
+void TellWhatIsMissing(const Documents& documents, StickFeed& feed) {
+  if (feed.Present().empty()) return documents.Say("No stick is plugged in yet: plug one in and press it.");
+  for (const StickInfo& stick : feed.Present()) {
+    if (feed.Map().StickOf(StickFeed::IdOf(stick))) continue;
+    documents.Say(FromUtf8(stick.name) + " is not mapped yet: that is done in Preferences, Stick.");
+  }
 }
 
 }  // namespace
@@ -50,7 +61,10 @@ void FollowStick::Switch() {
   glow_ = {};
   atCaret_.clear();
   listening_ = on ? feed_.Listen() : nullptr;
-  if (on) FollowCaret();
+  if (on) {
+    FollowCaret();
+    TellWhatIsMissing(documents_, feed_);
+  }
   Changed();
 }
 

@@ -17,6 +17,9 @@ using play::StickWay;
 constexpr const char* kHint =
     "Press a button of the stick or move an axis, then click the control in the drawing, or choose it from "
     "the list.";
+constexpr const char* kNoStick =
+    "No stick is plugged in. Plug one in: it stands here at once, and one of its buttons that is pressed is "
+    "chosen below.";
 constexpr int kMeant = 20000;  // how far an axis goes when its user means it
 
 struct WayRow {
@@ -68,7 +71,6 @@ char LetterOf(StickWay way) {
 
 StickForm::StickForm(Workbench& bench, Shell& shell) : ToolForm("StickForm", bench, shell) {
   Caption = "Stick";
-  Label1.Caption = kHint;
   Label1.BackColor = ToggleLabel::kOff;
   Assign.ToolTipText = "Let the input in hand stand for the control that is chosen";
   Remove.ToolTipText = "Let the input in hand stand for nothing";
@@ -132,6 +134,7 @@ void StickForm::ShowSticks() {
     sticks_.push_back({each.id, {}, std::nullopt});
     names.push_back(FromUtf8(each.id.name).append("  (not plugged in)"));
   }
+  Label1.Caption = bench_.sticks.Present().empty() ? kNoStick : kHint;
   const auto same = std::ranges::find(sticks_, before, &Stick::id);
   Sticks.FillInOrder(std::move(names));
   const int row = same == sticks_.end() ? 0 : static_cast<int>(same - sticks_.begin());
