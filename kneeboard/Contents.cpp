@@ -1,6 +1,7 @@
 #include "kneeboard/Contents.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "kneeboard/Actions.h"
 #include "kneeboard/KeyUses.h"
@@ -20,13 +21,13 @@ using tables::Picture;
 
 constexpr std::string_view kBackStop = "MT";
 
-struct Place {
+struct HatPlace {
   std::string_view name;  ///< in the language
   char position;          ///< in the drawing
   std::string_view words;
 };
 
-constexpr Place kHatPlaces[] = {
+constexpr HatPlace kHatPlaces[] = {
     {"U", 'U', "up"},      {"R", 'R', "right"},         {"D", 'D', "down"},
     {"L", 'L', "left"},    {"M", 'M', "in the middle"}, {"UL", 0, "up left"},
     {"UR", 0, "up right"}, {"DL", 0, "down left"},      {"DR", 0, "down right"},
@@ -87,7 +88,7 @@ class DeviceWriter {
 
   void AddHat(DevicePage& page, const HardwareRow& row, const std::string& label) const {
     const std::string_view hat = WithoutBlank(row.caption);
-    for (const Place& place : kHatPlaces) {
+    for (const HatPlace& place : kHatPlaces) {
       const std::string name = Said({hat, place.name});
       // Corners are for those who use them, and the middle, which does nothing by itself.
       const bool isRare = place.position == 0 || place.position == 'M';
@@ -217,6 +218,8 @@ bool LacksMacros(const model::NameIndex& names) {
 }
 
 }  // namespace
+
+std::string Percent(double value) { return std::to_string(std::lround(value)); }
 
 Contents ContentsOf(const model::FilePair& pair, const model::NameIndex& names) {
   const DeedWriter writer(pair, names);

@@ -62,6 +62,9 @@ struct Control {
   friend bool operator==(const Control&, const Control&) = default;
 };
 
+/// A place on the way of an axis as a number to read.
+[[nodiscard]] std::string Percent(double value);
+
 /// A stretch of an axis, in percent of its way, and what is sent as the axis comes into it.
 struct Step {
   double from = 0;

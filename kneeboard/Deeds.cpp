@@ -53,8 +53,7 @@ std::string JoinedBy(const std::vector<std::string>& pieces, std::string_view be
 /// The row of a key's name: that of the letter for a capital one, and of the key whose face has the sign with
 /// Shift.
 PressedKey KeyOf(std::string_view word) {
-  const std::string_view name =
-      word.size() > 3 && model::SameWord(word.substr(0, 3), "AUX") ? word.substr(3) : word;
+  const std::string_view name = model::WithoutAux(word);
   for (const KeyRow& row : kKeys) {
     if (row.name == name || (name.size() > 1 && model::SameWord(row.name, name)))
       return {{}, std::string(row.name)};

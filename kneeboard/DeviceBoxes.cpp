@@ -1,7 +1,6 @@
 #include "kneeboard/DeviceBoxes.h"
 
 #include <algorithm>
-#include <cmath>
 #include <set>
 #include <utility>
 
@@ -34,8 +33,6 @@ std::string CommonWords(const std::string& one, const std::string& other) {
   common.erase(common.find_last_not_of(' ') + 1);
   return common;
 }
-
-std::string Percent(double value) { return std::to_string(std::lround(value)); }
 
 /// Gathers the rows of one box.
 class BoxBuilder {

@@ -1,7 +1,6 @@
 // The list of all actions as plain text.
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 #include "kneeboard/Contents.h"
 
@@ -10,7 +9,7 @@ namespace {
 
 constexpr std::size_t kColumns = 4;
 constexpr std::size_t kWidest = 48;  // letters of a column that others line up with
-using Line = std::array<std::string, kColumns>;
+using Cells = std::array<std::string, kColumns>;
 
 /// How many letters a text in UTF-8 has.
 std::size_t LettersOf(std::string_view text) {
@@ -42,8 +41,6 @@ std::string SentBy(const Action& action) {
   return layer.empty() ? action.deed.words : layer + ": " + action.deed.words;
 }
 
-std::string Percent(double value) { return std::to_string(std::lround(value)); }
-
 std::string StretchOf(const Step& step) {
   std::string stretch =
       step.from == step.to ? "at " + Percent(step.from) : Percent(step.from) + " to " + Percent(step.to);
@@ -58,7 +55,7 @@ class TextWriter {
     if (!text_.empty()) text_.push_back('\n');
     text_.append(words).append("\n").append(std::string(LettersOf(words), '-')).append("\n");
   }
-  void Add(Line line) { lines_.push_back(std::move(line)); }
+  void Add(Cells line) { lines_.push_back(std::move(line)); }
   [[nodiscard]] bool HasNone() const { return lines_.empty(); }
 
   std::string Finish() {
@@ -69,16 +66,16 @@ class TextWriter {
  private:
   void Flush() {
     std::array<std::size_t, kColumns> widths{};
-    for (const Line& line : lines_) {
+    for (const Cells& line : lines_) {
       for (std::size_t i = 0; i < kColumns; ++i) {
         widths[i] = std::max(widths[i], std::min(LettersOf(line[i]), kWidest));
       }
     }
-    for (const Line& line : lines_) Write(line, widths);
+    for (const Cells& line : lines_) Write(line, widths);
     lines_.clear();
   }
 
-  void Write(const Line& line, const std::array<std::size_t, kColumns>& widths) {
+  void Write(const Cells& line, const std::array<std::size_t, kColumns>& widths) {
     std::string written;
     for (std::size_t i = 0; i < kColumns; ++i) {
       if (widths[i] == 0) continue;
@@ -89,7 +86,7 @@ class TextWriter {
   }
 
   std::string text_;
-  std::vector<Line> lines_;
+  std::vector<Cells> lines_;
 };
 
 void WriteTitle(const Contents& contents, TextWriter& writer) {

@@ -12,8 +12,6 @@ namespace {
 
 using tables::Picture;
 
-constexpr int kNoRudders = 0;
-
 unsigned DevicesOn(Picture picture) {
   switch (picture) {
     case Picture::Stick:

@@ -8,7 +8,6 @@ namespace tarvik::model {
 namespace {
 
 constexpr std::size_t kLongestShown = 40;
-constexpr std::string_view kBracketWords[] = {"RAW", "DLY", "RPT"};
 constexpr std::string_view kLogicWords[] = {"AND", "OR", "NOT", "PULSE", "DELAY", "CMPLT", "CMPGT"};
 /// These words are coloured wherever they stand; only the manuals of the sticks tell what they mean.
 constexpr std::string_view kForeignWords[] = {"GAME1", "GAME2"};
@@ -215,7 +214,6 @@ std::string OneOf(const std::vector<std::string>& things) {
   return words;
 }
 
-bool IsBracketWord(std::string_view word) { return IsAmong(kBracketWords, word); }
 bool IsLogicWord(std::string_view word) { return IsAmong(kLogicWords, word); }
 bool IsForeignWord(std::string_view word) { return IsAmong(kForeignWords, word); }
 

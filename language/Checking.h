@@ -103,9 +103,7 @@ class Report {
 /// Things in a row: "a", "a or b", "a, b or c".
 [[nodiscard]] std::string OneOf(const std::vector<std::string>& things);
 
-/// Words that mean something by themselves and are no macro's name, as long as no macro has them: BTN and its
-/// like, RAW, DLY, RPT.
-[[nodiscard]] bool IsBracketWord(std::string_view word);
+// Words that mean something by themselves and are no macro's name, as long as no macro has them.
 [[nodiscard]] bool IsLogicWord(std::string_view word);
 [[nodiscard]] bool IsForeignWord(std::string_view word);
 

@@ -70,6 +70,8 @@ inline constexpr PartRow kThrottles[] = {
 inline constexpr PartRow kRudders[] = {
     {"None", ", no rudders."}, {"Elite", ", Elite rudders."}, {"RCS", ", RCS."}};
 
+enum RudderNumber { kNoRudders, kEliteRudders, kRcs };
+
 /// The row of a number in the settings, which may be any; null where there is none.
 template <class Row, std::size_t N>
 [[nodiscard]] constexpr const Row* RowOf(const Row (&rows)[N], int number) {

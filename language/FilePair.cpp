@@ -15,8 +15,6 @@ struct AttachedRow {
 };
 
 constexpr int kContradicted = -1;
-constexpr int kNoRudders = 0;
-constexpr int kRcs = 2;
 constexpr AttachedRow kAttached[] = {
     {"TQS", &Hardware::throttle, kTqs},          {"WCS", &Hardware::throttle, kWcs},
     {"NOTHR", &Hardware::throttle, kNoThrottle}, {"RCS", &Hardware::rudders, kRcs},

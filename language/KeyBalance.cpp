@@ -6,12 +6,6 @@
 namespace tarvik::model {
 namespace {
 
-constexpr std::uint8_t kExtended = 0xE0;
-constexpr std::uint8_t kPause = 0xE1;
-constexpr std::uint8_t kBreak = 0xF0;
-/// Behind E1 stand two codes, with which Pause goes down and up at once.
-constexpr int kCodesOfPause = 2;
-
 /// A key by its code, 256 and more for those with E0 before it.
 constexpr std::size_t kKeyCodes = 512;
 using KeySet = std::bitset<kKeyCodes>;
@@ -26,10 +20,10 @@ void ForEachKey(const Place& place, const Item& item, const Tell& tell) {
   int passedOver = 0;
   for (const RawCode& code : RawCodesOf(place.lines, item)) {
     const std::uint8_t value = code.value.value_or(0);
-    if (value == kExtended) extended = true;
-    if (value == kBreak) released = true;
-    if (value == kPause) passedOver = kCodesOfPause;
-    if (value == kExtended || value == kBreak || value == kPause) continue;
+    if (value == kExtendedCode) extended = true;
+    if (value == kBreakCode) released = true;
+    if (value == kPauseCode) passedOver = kCodesOfPause;
+    if (value == kExtendedCode || value == kBreakCode || value == kPauseCode) continue;
     if (passedOver > 0) {
       --passedOver;
     } else if (code.value) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "text/Blanks.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -16,12 +17,6 @@ constexpr std::string_view kBoxTop = "~\xC9\xCD\xCD\xCD\xCD";
 constexpr std::string_view kBoxBottom = "~\xC8\xCD\xCD\xCD\xCD";
 constexpr char kBoxSide = '\xBA';
 constexpr std::string_view kRule = "rem --";
-
-std::string_view WithoutBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
 
 /// Takes one field off the front of `rest`, with the comma or line end behind it.
 std::string TakeField(std::string_view& rest) {

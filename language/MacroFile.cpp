@@ -13,7 +13,7 @@ bool IsDefinition(std::string_view words) {
   return WithoutIndent(behindName).starts_with('=');
 }
 
-bool IsContinuation(std::string_view words) { return !IsDefinition(words); }
+bool GoesOn(std::string_view words) { return !IsDefinition(words); }
 
 /// All that stands before the "=", blanks inside it included.
 Range ReadName(TokenCursor& cursor) {
@@ -42,7 +42,7 @@ std::string_view RemarkAt(const MacroFile& file, std::string_view text, std::siz
 }  // namespace
 
 std::size_t MacroStatement::EndOf(std::string_view text, std::size_t start) {
-  return StatementEnd(text, start, IsContinuation);
+  return StatementEnd(text, start, GoesOn);
 }
 
 void MacroStatement::Read(std::string_view lines, std::vector<Token>& tokens) {

@@ -1,16 +1,8 @@
 #include "language/PicturedControls.h"
 
-#include <algorithm>
+#include "text/Blanks.h"
 
 namespace tarvik {
-namespace {
-
-std::string_view WithoutBlanks(std::string_view caption) {
-  const std::size_t first = std::min(caption.find_first_not_of(' '), caption.size());
-  return caption.substr(first, caption.find_last_not_of(' ') + 1 - first);
-}
-
-}  // namespace
 
 std::vector<std::string> ControlsOf(const tables::HardwareRow& row, std::string_view caption) {
   if (row.array == "TRIG") return {std::begin(tables::kTriggers), std::end(tables::kTriggers)};

@@ -170,10 +170,16 @@ std::vector<RawCode> RawCodesOf(std::string_view statement, const Item& item) {
   return codes;
 }
 
-bool IsKeyName(std::string_view word) {
-  if (word.size() == 1 || IsLongKeyName(word)) return true;
-  return word.size() > kAux.size() && SameWord(word.substr(0, kAux.size()), kAux) &&
-         IsLongKeyName(word.substr(kAux.size()));
+bool IsKeyName(std::string_view word) { return word.size() == 1 || IsLongKeyName(WithoutAux(word)); }
+
+std::string_view WithoutAux(std::string_view word) {
+  const bool hasAux = word.size() > kAux.size() && SameWord(word.substr(0, kAux.size()), kAux);
+  return hasAux ? word.substr(kAux.size()) : word;
+}
+
+bool IsBracketWord(std::string_view word) {
+  return std::ranges::any_of(kBracketWords,
+                             [word](const BracketWord& each) { return SameWord(each.word, word); });
 }
 
 }  // namespace tarvik::model

@@ -34,6 +34,13 @@ struct Item {
   friend bool operator==(const Item&, const Item&) = default;
 };
 
+/// Bytes of scan code set 2 that are no key's own.
+inline constexpr std::uint8_t kExtendedCode = 0xE0;  ///< before those of the keys that came later
+inline constexpr std::uint8_t kPauseCode = 0xE1;
+inline constexpr std::uint8_t kBreakCode = 0xF0;  ///< before that of a key that goes up
+/// Behind E1 stand two codes, with which Pause goes down and up at once.
+inline constexpr int kCodesOfPause = 2;
+
 /// A byte of a RAW statement. What is no pair of hexadecimal digits has no value.
 struct RawCode {
   Range range;
@@ -129,5 +136,9 @@ class TokenCursor {
 /// Whether a word names a key, in either case: a single character, or a name of the keyboard, also behind
 /// AUX.
 [[nodiscard]] bool IsKeyName(std::string_view word);
+/// The key's name behind AUX, or the word itself.
+[[nodiscard]] std::string_view WithoutAux(std::string_view word);
+/// Whether brackets follow the word: RAW, DLY, RPT.
+[[nodiscard]] bool IsBracketWord(std::string_view word);
 
 }  // namespace tarvik::model

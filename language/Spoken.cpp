@@ -68,12 +68,6 @@ constexpr Saying kHatPlaces[] = {
 };
 
 constexpr std::string_view kKeypad = "KP";
-constexpr std::string_view kAux = "AUX";
-
-std::string_view WithoutAux(std::string_view word) {
-  const bool hasAux = word.size() > kAux.size() && SameWord(word.substr(0, kAux.size()), kAux);
-  return hasAux ? word.substr(kAux.size()) : word;
-}
 
 /// Pimlet writes a letter that Shift is held for as a capital one.
 std::string SignInWords(char sign) {
@@ -96,18 +90,15 @@ std::string_view KeyOfCode(std::uint8_t code, bool extended) {
   return {};
 }
 
-constexpr std::uint8_t kExtended = 0xE0;
-constexpr std::uint8_t kBreak = 0xF0;
-
 /// Puts the keys of a RAW into words, code by code.
 class CodeWords {
  public:
   void Take(std::string_view word, std::optional<std::uint8_t> value) {
     if (!seen_.empty()) seen_.push_back(' ');
     seen_.append(word);
-    if (value == kExtended && !released_) {
+    if (value == kExtendedCode && !released_) {
       extended_ = true;
-    } else if (value == kBreak) {
+    } else if (value == kBreakCode) {
       released_ = true;
     } else {
       const std::string_view name = value ? KeyOfCode(*value, extended_) : std::string_view{};
@@ -183,8 +174,8 @@ std::vector<std::string_view> KeysPressedBy(std::string_view statement, const It
   bool extended = false;
   bool released = false;
   for (const RawCode& code : RawCodesOf(statement, item)) {
-    if (code.value == kExtended || code.value == kBreak) {
-      (code.value == kBreak ? released : extended) = true;
+    if (code.value == kExtendedCode || code.value == kBreakCode) {
+      (code.value == kBreakCode ? released : extended) = true;
       continue;
     }
     const std::string_view key =

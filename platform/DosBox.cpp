@@ -88,11 +88,6 @@ std::string On(char drive, std::string_view path) {
   return std::string{drive, ':', '\\'} + std::string(path);
 }
 
-bool IsFolder(const fs::path& path) {
-  std::error_code error;
-  return fs::is_directory(path, error);
-}
-
 /// The letters of the drives that are there.
 std::string DrivesThere(const Drives& drives) {
   std::string letters;

@@ -31,11 +31,6 @@ Outcome<fs::path> Existing(const fs::path& path, fs::file_status (*look)(const f
   return missing ? Missing() : SystemFailure(error.value());
 }
 
-bool IsFolder(const fs::path& path) {
-  std::error_code ignored;
-  return fs::is_directory(path, ignored);
-}
-
 /// The path, if something has it, a link without a target included.
 Outcome<fs::path> Taken(const fs::path& path) { return Existing(path, fs::symlink_status); }
 
@@ -135,6 +130,11 @@ std::optional<fs::path> LookUp(const std::map<std::string, fs::path>& known, con
 }
 
 }  // namespace
+
+bool IsFolder(const fs::path& host) {
+  std::error_code ignored;
+  return fs::is_directory(host, ignored);
+}
 
 Drives::Drives(const Folders& folders) {
   for (const auto& [letter, folder] : folders) SetFolder(letter, folder);

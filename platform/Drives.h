@@ -14,6 +14,9 @@
 
 namespace tarvik {
 
+/// Whether a folder lies there; false where nobody can tell.
+[[nodiscard]] bool IsFolder(const std::filesystem::path& host);
+
 /// Logical paths are in the code page and mean the same in either case; host paths are UTF-8. Each name of a
 /// host's folder has a logical name of its own (`LogicalNames`).
 class Drives {

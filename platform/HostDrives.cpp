@@ -16,9 +16,8 @@ constexpr std::size_t kLongestPath = 4096;
 
 /// A folder whose name the settings file cannot hold counts as none.
 bool CanBeDrive(const fs::path& folder) {
-  std::error_code ignored;
   const std::string& text = folder.native();
-  return folder.is_absolute() && fs::is_directory(folder, ignored) && text.size() < kLongestPath &&
+  return folder.is_absolute() && IsFolder(folder) && text.size() < kLongestPath &&
          std::none_of(text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; });
 }
 
@@ -36,8 +35,7 @@ HostDrives::HostDrives(const fs::path& own) : ownDrive_(own / "drive_c") {
 std::vector<Drive> HostDrives::All() const {
   std::vector<Drive> drives;
   for (const auto& [letter, folder] : drives_.HostFolders()) {
-    std::error_code ignored;
-    drives.push_back({letter, folder.string(), fs::is_directory(folder, ignored)});
+    drives.push_back({letter, folder.string(), IsFolder(folder)});
   }
   return drives;
 }

@@ -24,7 +24,7 @@ constexpr mode_t kPermissions = 07777;
 constexpr mode_t kAnyMayWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t kReadWriteAll = 0666;
 constexpr mode_t kOwnerOnly = 0600;
-constexpr mode_t kFolder = 0777;
+constexpr mode_t kFolderMode = 0777;
 
 /// Temporary files are called so, with the process and a number behind it: .tarvik-1234-0
 constexpr std::string_view kTemporary = ".tarvik-";
@@ -395,7 +395,7 @@ Outcome<> HostFiles::MakeFolder(std::string_view path) {
   if (!host) return host.failure();
   const auto parent = StatusOf(host->parent_path());
   if (parent && !MayWrite(host->parent_path(), *parent)) return SystemFailure(EACCES);
-  if (mkdir(host->c_str(), kFolder) != 0) return SystemFailure(errno);
+  if (mkdir(host->c_str(), kFolderMode) != 0) return SystemFailure(errno);
   return Done{};
 }
 

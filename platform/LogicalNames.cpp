@@ -13,7 +13,7 @@ namespace tarvik {
 namespace {
 
 constexpr std::size_t kLetters = 2;
-constexpr std::size_t kMark = 4;
+constexpr std::size_t kMarkLength = 4;
 
 /// The beginning of a name without its ending; all of it where it has none.
 std::string_view BaseOf(std::string_view name) { return name.substr(0, name.rfind('.')); }
@@ -23,7 +23,7 @@ std::string MarkOf(std::string_view hostName, std::size_t number) {
   constexpr std::string_view kDigits = "0123456789abcdefghijklmnopqrstuvwxyz";
   std::string mark;
   auto hash = XXH3_64bits_withSeed(hostName.data(), hostName.size(), number);
-  for (; mark.size() < kMark; hash /= kDigits.size()) mark += kDigits[hash % kDigits.size()];
+  for (; mark.size() < kMarkLength; hash /= kDigits.size()) mark += kDigits[hash % kDigits.size()];
   return mark;
 }
 

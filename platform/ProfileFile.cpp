@@ -70,14 +70,14 @@ bool IsKey(std::string_view line, std::string_view key) {
 }
 
 /// Where a key stands, or where it has to go.
-struct Place {
+struct KeyPlace {
   bool sectionFound = false;
   std::optional<Line> line{};
   std::size_t insertAt = 0;
 };
 
-Place Find(std::string_view text, std::string_view section, std::string_view key) {
-  Place place{.insertAt = text.size()};
+KeyPlace Find(std::string_view text, std::string_view section, std::string_view key) {
+  KeyPlace place{.insertAt = text.size()};
   std::size_t next = FirstLine(text);
   while (next < text.size()) {
     const Line line = LineAt(text, next);
@@ -123,7 +123,7 @@ std::string Beside(const std::string& path, std::string_view ending) {
 }  // namespace
 
 std::optional<std::string_view> Profile::Value(std::string_view section, std::string_view key) const {
-  const Place place = Find(text_, section, key);
+  const KeyPlace place = Find(text_, section, key);
   if (!place.line) return std::nullopt;
   const auto [begin, end] = ValueRange(text_, *place.line);
   return WithoutQuotes(Trim(std::string_view(text_).substr(begin, end - begin)));
@@ -149,7 +149,7 @@ int Profile::GetInt(std::string_view section, std::string_view key, int fallback
 
 void Profile::Set(std::string_view section, std::string_view key, std::string_view value) {
   value = value.substr(0, value.find_first_of(std::string_view("\r\n\0", 3)));
-  const Place place = Find(text_, section, key);
+  const KeyPlace place = Find(text_, section, key);
   if (place.line) {
     const auto [begin, end] = ValueRange(text_, *place.line);
     text_.replace(begin, end - begin, value);

@@ -6,7 +6,7 @@ namespace tarvik::play {
 namespace {
 
 /// What happens at once, whatever the files say.
-constexpr int kMostSteps = 20000;
+constexpr int kMostDeadlines = 20000;
 constexpr double kFinest = 1000;
 
 std::size_t IndexOf(OutputKind kind) { return kind == OutputKind::Mouse ? 0 : 1; }
@@ -41,7 +41,7 @@ void DryRun::Pass(Time time) {
   if (!hasBegun) return;
   const Time until = now_ + time;
   int steps = 0;
-  for (auto next = Next(); next && *next <= until && ++steps < kMostSteps; next = Next()) GoOn(*next);
+  for (auto next = Next(); next && *next <= until && ++steps < kMostDeadlines; next = Next()) GoOn(*next);
   unnoted_ += until - now_;
   now_ = until;
 }

@@ -7,8 +7,6 @@
 namespace tarvik::play {
 namespace {
 
-constexpr std::string_view kAux = "AUX";
-
 /// Where the table of keys has a code that no keyboard sends: "m" and "w".
 struct TrueCode {
   std::string_view name;
@@ -43,8 +41,7 @@ Key KeyOf(const KeyRow& row) {
 std::optional<NamedKey> KeyNamed(std::string_view word) {
   if (word.size() == 1) return KeyOfSign(word.front());
   if (word == kNotSupported) return std::nullopt;
-  const bool hasAux = word.size() > kAux.size() && model::SameWord(word.substr(0, kAux.size()), kAux);
-  const std::string_view name = hasAux ? word.substr(kAux.size()) : word;
+  const std::string_view name = model::WithoutAux(word);
   for (const KeyRow& row : kKeys) {
     if (row.name.size() > 1 && model::SameWord(row.name, name)) return NamedKey{KeyOf(row), false};
   }

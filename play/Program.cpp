@@ -18,8 +18,6 @@ using model::In;
 using model::JoystickStatement;
 using model::SameWord;
 
-constexpr double kPerCent = 100;
-
 bool IsFlag(std::string_view word) { return model::IsFlag(model::FlagNumber(word).value_or(0)); }
 
 class Compiler {

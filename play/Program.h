@@ -15,6 +15,7 @@
 namespace tarvik::play {
 
 using Time = std::chrono::microseconds;
+inline constexpr double kPerCent = 100;
 
 /// The times that the files leave open.
 struct Timing {

@@ -14,7 +14,6 @@ using model::SameWord;
 constexpr Time kAfterwards = std::chrono::seconds(1);
 /// What is written of a run, though its conditions change every thousandth of a second.
 constexpr std::size_t kMostSteps = 200000;
-constexpr double kPerCent = 100;
 constexpr std::string_view kSwitchPlaces[] = {"up", "middle", "down"};
 
 constexpr double kMilli = 1000;
@@ -141,9 +140,9 @@ class Reader {
   Trace trace_;
 };
 
-class Player {
+class TracePlayer {
  public:
-  Player(const Trace& trace, const Program& program, const PlayedFiles& files)
+  TracePlayer(const Trace& trace, const Program& program, const PlayedFiles& files)
       : program_(program), files_(files), engine_(program) {
     run_.outputs.resize(trace.lines.size() + 1);
   }
@@ -269,7 +268,7 @@ std::optional<TraceDifference> DifferenceOf(const Trace& trace, const Outcomes& 
 }
 
 Outcomes Play(const Trace& trace, const Program& program, const PlayedFiles& files) {
-  return Player(trace, program, files).Do(trace);
+  return TracePlayer(trace, program, files).Do(trace);
 }
 
 std::string Printed(const Trace& trace, const Outcomes& run) {

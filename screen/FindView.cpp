@@ -7,7 +7,7 @@
 namespace tarvik::screen {
 namespace {
 
-constexpr int kMargin = 8;
+constexpr int kBarMargin = 8;
 constexpr int kTextWidth = 320;
 constexpr int kCountWidth = 110;
 
@@ -30,7 +30,7 @@ FindView::FindView(FindBar& find, Bindings& bindings, QWidget* parent)
     row.emplace_back(part);
     if (part == line) row.emplace_back(count);
   }
-  setLayout(Framed({kMargin, 2, kMargin, 2}, Row(row)));
+  setLayout(Framed({kBarMargin, 2, kBarMargin, 2}, Row(row)));
 }
 
 void FindView::keyPressEvent(QKeyEvent* event) {

@@ -9,7 +9,7 @@
 namespace tarvik::screen {
 namespace {
 
-constexpr int kMargin = 8;
+constexpr int kNoticeMargin = 8;
 constexpr int kIcon = 22;
 constexpr int kNarrow = 720;  // pixels: the buttons go below the words
 
@@ -30,7 +30,7 @@ NoticeView::NoticeView(NoticeBar& notice, Bindings& bindings, QWidget* parent)
     commands.emplace_back(buttons_.back());
   }
   parts_ = Row({Filling(Row({picture, Filling(Wrapped(in.Show(notice.text)))})), Row(commands)});
-  setLayout(Framed({kMargin, 2, kMargin, 2}, parts_));
+  setLayout(Framed({kNoticeMargin, 2, kNoticeMargin, 2}, parts_));
 }
 
 bool NoticeView::event(QEvent* event) {

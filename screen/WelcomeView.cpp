@@ -11,7 +11,7 @@ namespace {
 constexpr int kMargin = 20;
 constexpr int kFirstLines = 60;  // pixels of the files that stay free above the page
 
-constexpr int kNarrowest = 110;  // of a column
+constexpr int kNarrowestColumn = 110;  // of a column
 
 // Its buttons look like links.
 constexpr const char* kStyle =
@@ -21,12 +21,12 @@ constexpr const char* kStyle =
 
 QWidget* AsLink(QWidget* button) {
   button->setCursor(Qt::PointingHandCursor);
-  button->setMinimumWidth(kNarrowest);
+  button->setMinimumWidth(kNarrowestColumn);
   return button;
 }
 
 QWidget* AsHint(QWidget* label) {
-  label->setMinimumWidth(kNarrowest);
+  label->setMinimumWidth(kNarrowestColumn);
   label->setContentsMargins(10, 4, 10, 4);
   return label;
 }

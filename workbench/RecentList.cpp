@@ -13,12 +13,12 @@ bool SaysSomething(const std::string& part) { return !part.empty() && part != "0
 /// changed by hand, or by a version that knows nothing of this, the two paths differ, and the host's counts
 /// no more.
 constexpr const char* kHostFiles = "HostFiles";
-constexpr char kMark = '|';
+constexpr char kParting = '|';
 constexpr std::size_t kHostBuffer = 5000;
 
 /// The path as it stands before what is known of its file.
 std::string Marked(std::string path) {
-  path += kMark;
+  path += kParting;
   return path;
 }
 

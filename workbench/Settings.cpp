@@ -4,6 +4,7 @@
 #include <charconv>
 #include <variant>
 
+#include "text/Blanks.h"
 #include "text/Contrast.h"
 
 namespace tarvik {
@@ -129,9 +130,7 @@ std::string Decimal(Colour value) { return TextOf(static_cast<int>(NumberOf(valu
 }  // namespace
 
 Outcome<int> ToLong(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return Failure{error::kTypeMismatch, "Type mismatch", 0};
-  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
+  text = WithoutBlanks(text);
   int value = 0;
   const auto [end, status] = std::from_chars(text.data(), text.data() + text.size(), value);
   if (status == std::errc::result_out_of_range) return Failure{error::kOverflow, "Overflow", 0};

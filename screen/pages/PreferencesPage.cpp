@@ -5,7 +5,7 @@
 namespace tarvik::screen {
 namespace {
 
-constexpr int kNumberWidth = 64;
+constexpr int kShownWidth = 64;
 constexpr int kKerning = 4;  // of a label, which its underlined letter breaks
 
 /// A path in a row of its own: what it is, the box, the button that looks for it.
@@ -128,7 +128,7 @@ QLayout* Games(Preferences& form, const FormLayout& in) {
 QLayout* Miscellaneous(Preferences& form, const FormLayout& in) {
   const auto number = [&in](TextBox& box, const char* name) {
     QWidget* const shown = Named(in.Show(box), QString::fromUtf8(name));
-    shown->setFixedWidth(kNumberWidth);
+    shown->setFixedWidth(kShownWidth);
     return shown;
   };
   QLayout* const left = Column(

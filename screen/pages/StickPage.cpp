@@ -7,9 +7,9 @@
 namespace tarvik::screen {
 namespace {
 
-constexpr int kSideWidth = 260;
-constexpr QSize kSticks(kSideWidth, 70);
-constexpr QSize kInputs(kSideWidth, 160);
+constexpr int kListsWidth = 260;
+constexpr QSize kSticks(kListsWidth, 70);
+constexpr QSize kInputs(kListsWidth, 160);
 
 DeviceView::Assigned MappedOn(const StickForm& form, tables::Picture picture) {
   DeviceView::Assigned mapped;

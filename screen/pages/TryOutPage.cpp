@@ -10,10 +10,10 @@
 namespace tarvik::screen {
 namespace {
 
-constexpr int kSideWidth = 380;
+constexpr int kWatchedWidth = 380;
 // Pixels to the twip of the keyboard.
-constexpr double kUsualScale = 1 / 15.0;
-constexpr double kSmallestScale = 1 / 19.0;
+constexpr double kUsualKeys = 1 / 15.0;
+constexpr double kSmallestKeys = 1 / 19.0;
 constexpr int kControlsWidth = 210;
 constexpr int kFlagsWidth = 90;
 
@@ -29,8 +29,8 @@ class PlayedKeyboard : public QWidget {
     });
   }
 
-  [[nodiscard]] QSize sizeHint() const override { return KeyboardExtent() * kUsualScale; }
-  [[nodiscard]] QSize minimumSizeHint() const override { return KeyboardExtent() * kSmallestScale; }
+  [[nodiscard]] QSize sizeHint() const override { return KeyboardExtent() * kUsualKeys; }
+  [[nodiscard]] QSize minimumSizeHint() const override { return KeyboardExtent() * kSmallestKeys; }
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -95,7 +95,7 @@ QWidget* Side(TryOut& form, const FormLayout& in) {
                              Device(form, in, tables::Picture::Tqs, "throttle-tqs.svg"),
                              Device(form, in, tables::Picture::Wcs, "throttle-wcs.svg")});
   auto* const side = new QWidget;
-  side->setFixedWidth(kSideWidth);
+  side->setFixedWidth(kWatchedWidth);
   side->setLayout(Framed(
       {}, Column({Filling(devices),
                   Row({in.Show(form.S3), Stretch(), Words("Dogfight switch"), in.Show(form.Dogfight(0)),

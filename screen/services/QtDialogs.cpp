@@ -19,7 +19,7 @@ namespace tarvik::screen {
 namespace {
 
 constexpr int kSidebarWidth = 130;
-constexpr int kListWidth = 500;
+constexpr int kFoundWidth = 500;
 
 struct ButtonsRow {
   QMessageBox::StandardButtons buttons;
@@ -163,7 +163,7 @@ QList<QUrl> QtDialogs::Places() const {
 Outcome<std::string> QtDialogs::Run(QFileDialog& dialog) {
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setSidebarUrls(Places());
-  if (auto* const parts = dialog.findChild<QSplitter*>()) parts->setSizes({kSidebarWidth, kListWidth});
+  if (auto* const parts = dialog.findChild<QSplitter*>()) parts->setSizes({kSidebarWidth, kFoundWidth});
   LeaveCommandsUntyped(dialog);
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return Cancelled();
   const QString chosen = dialog.selectedFiles().constFirst();

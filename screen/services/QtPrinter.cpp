@@ -62,12 +62,12 @@ QFont FontOf(const std::string& name, float points, bool bold) {
 }
 
 /// A part of a line of the text: the rest of it, or as much of a very long one as is taken at once.
-struct Piece {
+struct LinePiece {
   std::size_t start;
   std::size_t length;
   bool cut;
 
-  Piece(std::string_view text, std::size_t at) : start(at) {
+  LinePiece(std::string_view text, std::size_t at) : start(at) {
     const std::string_view window = text.substr(at, kLongestPiece + 1);
     const std::size_t end = window.find("\r\n");
     length = std::min({end, window.size(), kLongestPiece});
@@ -75,7 +75,7 @@ struct Piece {
   }
 };
 
-QList<QTextLayout::FormatRange> Colours(const FormattedText& text, const Piece& piece) {
+QList<QTextLayout::FormatRange> Colours(const FormattedText& text, const LinePiece& piece) {
   QList<QTextLayout::FormatRange> colours;
   const std::size_t end = std::min(piece.start + piece.length, text.colours.size());
   for (std::size_t at = piece.start; at < end;) {
@@ -91,7 +91,7 @@ QList<QTextLayout::FormatRange> Colours(const FormattedText& text, const Piece& 
 
 /// Wraps a piece at `width`. The last visual line of a piece that is cut may not be whole: it belongs to the
 /// next piece.
-int LayOut(QTextLayout& layout, const Piece& piece, qreal width) {
+int LayOut(QTextLayout& layout, const LinePiece& piece, qreal width) {
   QTextOption option;
   option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
   option.setTabStopDistance(kTabWidth);
@@ -221,7 +221,7 @@ Outcome<std::size_t> QtPrinter::FormatRange(const FormattedText& text, std::size
   const qreal left = area.left + text.indent;
   qreal y = area.top;
   while (from < text.text.size()) {
-    const Piece piece(text.text, from);
+    const LinePiece piece(text.text, from);
     QTextLayout layout(ToScreen(text.text.substr(piece.start, piece.length)), font);
     layout.setFormats(Colours(text, piece));
     const int lines = LayOut(layout, piece, area.right - left);

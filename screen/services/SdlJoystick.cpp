@@ -12,7 +12,7 @@ using sdl::Sdl;
 namespace {
 
 enum Axis { kX, kY, kZ, kR };
-constexpr int kButtons = 32;
+constexpr int kMostButtons = 32;
 
 Failure NoDevice() { return {joystick::kNoDevice, "There is no joystick", 0}; }
 
@@ -69,7 +69,7 @@ Outcome<JoyInfo> SdlJoystick::GetPosEx() {
   }
   if (!stick_) return Failure{joystick::kUnplugged, "The joystick is unplugged", 0};
   JoyInfo info{AxisOf(stick_, kX), AxisOf(stick_, kY), AxisOf(stick_, kZ), AxisOf(stick_, kR), 0};
-  for (int i = 0; i < std::min(kButtons, Sdl().JoystickNumButtons(stick_)); ++i) {
+  for (int i = 0; i < std::min(kMostButtons, Sdl().JoystickNumButtons(stick_)); ++i) {
     if (Sdl().JoystickGetButton(stick_, i)) info.buttons |= 1U << i;
   }
   return info;

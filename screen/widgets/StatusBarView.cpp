@@ -11,7 +11,7 @@ namespace tarvik::screen {
 namespace {
 
 constexpr int kPadding = 7;
-constexpr int kIcon = 16;
+constexpr int kSmallIcon = 16;
 constexpr int kProgressWidth = 160;
 constexpr int kProgressHeight = 14;
 
@@ -47,7 +47,7 @@ PanelView::PanelView(Panel& panel, Bindings& bindings, QWidget* parent) : QWidge
 QSize PanelView::sizeHint() const {
   const char* const widest = RowOf(panel_).widest;
   const int text = widest ? fontMetrics().horizontalAdvance(QLatin1String(widest)) : 0;
-  return {std::max(text + 2, kIcon) + 2 * kPadding, std::max(fontMetrics().height(), kIcon) + 4};
+  return {std::max(text + 2, kSmallIcon) + 2 * kPadding, std::max(fontMetrics().height(), kSmallIcon) + 4};
 }
 
 QSize PanelView::minimumSizeHint() const { return sizeHint(); }
@@ -68,7 +68,7 @@ void PanelView::paintEvent(QPaintEvent*) {
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawLine(0, 3, 0, height() - 4);
   }
-  QRect place(0, 0, kIcon, kIcon);
+  QRect place(0, 0, kSmallIcon, kSmallIcon);
   place.moveCenter(rect().center());
   picture_.paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
   painter.setPen(palette().color(QPalette::WindowText));

@@ -53,7 +53,6 @@ class ToolbarView : public QWidget {
   Toolbar& toolbar_;
   std::vector<Position> positions_;
   std::vector<QRect> dividers_;
-  SwatchView* swatch_ = nullptr;
   QToolButton* overflow_;
 };
 

@@ -6,18 +6,20 @@
 namespace tarvik {
 namespace {
 
-struct Place {
+struct KeptPlace {
   float left;
   float top;
   float width;
   float height;
-  friend bool operator==(const Place&, const Place&) = default;
-  friend std::ostream& operator<<(std::ostream& out, const Place& place) {
+  friend bool operator==(const KeptPlace&, const KeptPlace&) = default;
+  friend std::ostream& operator<<(std::ostream& out, const KeptPlace& place) {
     return out << place.left << " " << place.top << " " << place.width << " " << place.height;
   }
 };
 
-Place PlaceOf(const Control& control) { return {control.Left, control.Top, control.Width, control.Height}; }
+KeptPlace PlaceOf(const Control& control) {
+  return {control.Left, control.Top, control.Width, control.Height};
+}
 
 class LayoutTest : public testing::Test {
  protected:
@@ -32,37 +34,37 @@ class LayoutTest : public testing::Test {
 };
 
 TEST_F(LayoutTest, TheTabStripStandsRightOfTheMacroFrame) {
-  EXPECT_EQ(PlaceOf(editor.FrameMacros), (Place{0, 0, 185, 600}));
-  EXPECT_EQ(PlaceOf(editor.TabStrip1), (Place{185, 0, 815, 600}));
+  EXPECT_EQ(PlaceOf(editor.FrameMacros), (KeptPlace{0, 0, 185, 600}));
+  EXPECT_EQ(PlaceOf(editor.TabStrip1), (KeptPlace{185, 0, 815, 600}));
 }
 
 TEST_F(LayoutTest, WithoutTheFrameTheTabStripHasTheWholeForm) {
   editor.mnuViewMacros_Click();
-  EXPECT_EQ(PlaceOf(editor.TabStrip1), (Place{0, 0, 1000, 600}));
-  EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{3, 23, 994, 578}));
+  EXPECT_EQ(PlaceOf(editor.TabStrip1), (KeptPlace{0, 0, 1000, 600}));
+  EXPECT_EQ(PlaceOf(editor.JoystickText), (KeptPlace{3, 23, 994, 578}));
 }
 
 TEST_F(LayoutTest, BothPanesStandOnOnePlaceInsideTheStrip) {
-  EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 809, 578}));
+  EXPECT_EQ(PlaceOf(editor.JoystickText), (KeptPlace{188, 23, 809, 578}));
   EXPECT_EQ(PlaceOf(editor.MacroText), PlaceOf(editor.JoystickText));
 }
 
 TEST_F(LayoutTest, TiledThePanesShareTheStrip) {
   editor.mnuViewTileVertically_Click();
-  EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 403.5, 578}));
-  EXPECT_EQ(PlaceOf(editor.MacroText), (Place{592.5, 23, 403.5, 578}));
+  EXPECT_EQ(PlaceOf(editor.JoystickText), (KeptPlace{188, 23, 403.5, 578}));
+  EXPECT_EQ(PlaceOf(editor.MacroText), (KeptPlace{592.5, 23, 403.5, 578}));
   editor.ScaleWidth = 585;
   editor.Form_Resize();
-  EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 196, 578}));
+  EXPECT_EQ(PlaceOf(editor.JoystickText), (KeptPlace{188, 23, 196, 578}));
   editor.mnuViewTileVertically_Click();
-  EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 394, 578}));
+  EXPECT_EQ(PlaceOf(editor.JoystickText), (KeptPlace{188, 23, 394, 578}));
 }
 
 TEST_F(LayoutTest, TiledTheUserChoosesHowMuchEachFileGets) {
   editor.mnuViewTileVertically_Click();
   editor.TileTo(Pixels{185 + 815 * 0.25F});
-  EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 199.75, 578}));
-  EXPECT_EQ(PlaceOf(editor.MacroText), (Place{388.75, 23, 607.25, 578}));
+  EXPECT_EQ(PlaceOf(editor.JoystickText), (KeptPlace{188, 23, 199.75, 578}));
+  EXPECT_EQ(PlaceOf(editor.MacroText), (KeptPlace{388.75, 23, 607.25, 578}));
   Settings& settings = program.application.workbench.settings;
   EXPECT_EQ(settings.TileShare, 250);
   editor.KeepTiles();
@@ -71,7 +73,7 @@ TEST_F(LayoutTest, TiledTheUserChoosesHowMuchEachFileGets) {
   editor.TileTo(Pixels{-1000});
   EXPECT_EQ(settings.TileShare, 150);
   editor.TileEvenly();
-  EXPECT_EQ(PlaceOf(editor.JoystickText), (Place{188, 23, 403.5, 578}));
+  EXPECT_EQ(PlaceOf(editor.JoystickText), (KeptPlace{188, 23, 403.5, 578}));
   settings.TileShare = 32000;
   editor.Form_Resize();
   EXPECT_GT(PlaceOf(editor.MacroText).width, 100);

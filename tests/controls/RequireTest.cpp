@@ -11,11 +11,11 @@
 namespace tarvik {
 namespace {
 
-struct Window : Form {
-  Window() : Form("Window") {}
+struct FullWindow : Form {
+  FullWindow() : Form("FullWindow") {}
   void Entry_Click() {}
 
-  static constexpr MenuRow<Window> kMenus[] = {{0, "mnuFile", "&File", "", &Window::Entry_Click}};
+  static constexpr MenuRow<FullWindow> kMenus[] = {{0, "mnuFile", "&File", "", &FullWindow::Entry_Click}};
   ControlArray<Label> labels{*this, "Label1", 2};
   NamedControls<TextBox> boxes{*this};
   TabStrip tabs{*this, "TabStrip1", 2};
@@ -41,21 +41,21 @@ void ExpectTold(const std::string& text, Lookup lookup) {
 }
 
 TEST(Require, TellsFormNameAndIndexOfWhatIsNotThere) {
-  const Window window;
-  ExpectTold("Window.Label1(2)", [&] { (void)window.labels(2); });
-  ExpectTold("Window.Text1(7)", [&] { (void)window.boxes("Text1(7)"); });
-  ExpectTold("Window.TabStrip1.Tabs(0)", [&] { (void)window.tabs.Tabs(0); });
-  ExpectTold("Window.TabStrip1.Tabs(3)", [&] { (void)window.tabs.Tabs(3); });
-  ExpectTold("Window.SSTab1.Pages(1)", [&] { (void)window.pages.Pages(1); });
-  ExpectTold("Window.SSTab1.Pages(-1)", [&] { (void)window.pages.Pages(-1); });
-  ExpectTold("Window.Toolbar1.Buttons(4)", [&] { (void)window.toolbar.Buttons(4); });
-  ExpectTold("Window.StatusBar.Panels(5)", [&] { (void)window.status.Panels(5); });
-  ExpectTold("Window.mnuEdit", [&] { (void)window.menus("mnuEdit"); });
-  ExpectTold("Window.mnuFile(1)", [&] { (void)window.menus("mnuFile", 1); });
+  const FullWindow window;
+  ExpectTold("FullWindow.Label1(2)", [&] { (void)window.labels(2); });
+  ExpectTold("FullWindow.Text1(7)", [&] { (void)window.boxes("Text1(7)"); });
+  ExpectTold("FullWindow.TabStrip1.Tabs(0)", [&] { (void)window.tabs.Tabs(0); });
+  ExpectTold("FullWindow.TabStrip1.Tabs(3)", [&] { (void)window.tabs.Tabs(3); });
+  ExpectTold("FullWindow.SSTab1.Pages(1)", [&] { (void)window.pages.Pages(1); });
+  ExpectTold("FullWindow.SSTab1.Pages(-1)", [&] { (void)window.pages.Pages(-1); });
+  ExpectTold("FullWindow.Toolbar1.Buttons(4)", [&] { (void)window.toolbar.Buttons(4); });
+  ExpectTold("FullWindow.StatusBar.Panels(5)", [&] { (void)window.status.Panels(5); });
+  ExpectTold("FullWindow.mnuEdit", [&] { (void)window.menus("mnuEdit"); });
+  ExpectTold("FullWindow.mnuFile(1)", [&] { (void)window.menus("mnuFile", 1); });
 }
 
 TEST(Require, GivesWhatIsThere) {
-  const Window window;
+  const FullWindow window;
   EXPECT_EQ(window.labels(1).FullName(), "Label1(1)");
   EXPECT_EQ(window.tabs.Tabs(2).FullName(), "Tabs(2)");
   EXPECT_EQ(window.menus("mnuFile").Caption.Get(), "&File");

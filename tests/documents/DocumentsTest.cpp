@@ -18,14 +18,14 @@ namespace fs = std::filesystem;
 
 const fs::path kRoot = fs::path(TARVIK_DATA).parent_path();
 
-struct Document {
+struct WrittenDocument {
   fs::path path;
   std::string text;
 };
 
 /// Those for people who work on the program, and the guide.
-std::vector<Document> Documents() {
-  std::vector<Document> documents;
+std::vector<WrittenDocument> WrittenDocuments() {
+  std::vector<WrittenDocument> documents;
   const auto add = [&documents](const fs::directory_entry& entry) {
     if (entry.path().extension() == ".md")
       documents.push_back({entry.path(), TemporaryFolder::Content(entry.path())});
@@ -66,7 +66,7 @@ bool IsThere(const std::string& path) {
 
 TEST(Documents, AreAllLookedAt) {
   std::vector<std::string> names;
-  for (const Document& document : Documents()) names.push_back(document.path.filename());
+  for (const WrittenDocument& document : WrittenDocuments()) names.push_back(document.path.filename());
   EXPECT_THAT(names, testing::IsSupersetOf({"README.md", "CHANGELOG.md", "SECURITY.md", "architecture.md",
                                             "decisions.md", "first-hour.md", "CONTRIBUTING.md", "12-keys.md",
                                             "pull_request_template.md", "defect.md", "wish.md"}));
@@ -74,7 +74,7 @@ TEST(Documents, AreAllLookedAt) {
 
 TEST(Documents, LinkToWhatIsThere) {
   const std::regex link(R"(\]\(([^)#\s]+)[^)]*\))");
-  for (const Document& document : Documents()) {
+  for (const WrittenDocument& document : WrittenDocuments()) {
     for (const std::string& target : FirstGroups(document.text, link)) {
       if (target.starts_with("http")) continue;
       EXPECT_TRUE(fs::exists(document.path.parent_path() / target))
@@ -87,7 +87,7 @@ TEST(Documents, LinkToWhatIsThere) {
 TEST(Documents, NamePathsThatAreThere) {
   const std::regex path(
       R"(`((?:[a-z.][\w.-]*/)+(?:[\w.-]+\.(?:h|cpp|md|session|hlp|qrc|css|txt|ini)|[A-Z]\w+|))`)");
-  for (const Document& document : Documents()) {
+  for (const WrittenDocument& document : WrittenDocuments()) {
     if (document.path.parent_path().filename() == "guide") continue;  // which tells of the user's folders
     for (const std::string& named : FirstGroups(document.text, path)) {
       if (named.find("NAME") != std::string::npos || named.starts_with("build/")) continue;
@@ -100,7 +100,7 @@ TEST(Documents, NameSessionsThatAreThere) {
   const std::set<std::string> names = FileNames();
   const std::regex session(R"(`([a-z][\w-]*\.session)`)");
   int count = 0;
-  for (const Document& document : Documents()) {
+  for (const WrittenDocument& document : WrittenDocuments()) {
     for (const std::string& named : FirstGroups(document.text, session)) {
       EXPECT_TRUE(names.contains(named)) << document.path << " names " << named;
       ++count;

@@ -19,15 +19,6 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-const RealPlans& Plans() {
-  static const RealPlans plans(TARVIK_DATA "/devices");
-  return plans;
-}
-
-std::vector<Sheet> Laid(const Contents& contents, const Options& options = {}) {
-  return SheetsOf(contents, options, EvenMeasure(), Plans());
-}
-
 std::vector<std::string> WordsOn(const Sheet& sheet) {
   std::vector<std::string> all;
   for (const Words& words : sheet.words) all.push_back(words.text);
@@ -204,7 +195,7 @@ TEST(PagesLayout, ANoteStandsOnThePageOfItsNumber) {
     for (const Paper paper : {Paper::A4, Paper::A5}) {
       Options options = DevicesAlone();
       options.paper = paper;
-      const std::vector<Sheet> sheets = SheetsOf(StickWith(made), options, EvenMeasure(), Plans());
+      const std::vector<Sheet> sheets = Laid(StickWith(made), options);
       for (const Sheet& sheet : sheets) EXPECT_EQ(WrongNotesOf(sheet), "") << controls << " controls";
       EXPECT_THAT(WordsOn(sheets), Contains(HasSubstr("word19")));
     }

@@ -10,15 +10,6 @@
 namespace tarvik::kneeboard {
 namespace {
 
-const RealPlans& Plans() {
-  static const RealPlans plans(TARVIK_DATA "/devices");
-  return plans;
-}
-
-std::vector<Sheet> Laid(const Contents& contents, const Options& options) {
-  return SheetsOf(contents, options, EvenMeasure(), Plans());
-}
-
 double MarginFor(const Options& options) {
   Spot size = SizeOf(options);
   if (options.twoOnASheet) (size.x < size.y ? size.y : size.x) /= 2;

@@ -10,49 +10,51 @@
 namespace tarvik::model {
 namespace {
 
-using enum AbilityKind;
+constexpr AbilityKind kControl = AbilityKind::Control;
+constexpr AbilityKind kAxis = AbilityKind::Axis;
+constexpr AbilityKind kSlash = AbilityKind::Slash;
 using enum Abilities::Place;
 
 TEST(Abilities, AnF22ProHasWhatAPlainStickLacks) {
   const Abilities f22({kF22Pro});
   const Abilities topGun({kTopGun});
   for (const char* control : {"S1", "s4", "TG2", "H4UL", "H1M"}) {
-    EXPECT_EQ(f22.Of(Control, control), Here) << control;
-    EXPECT_EQ(topGun.Of(Control, control), Elsewhere) << control;
+    EXPECT_EQ(f22.Of(kControl, control), Here) << control;
+    EXPECT_EQ(topGun.Of(kControl, control), Elsewhere) << control;
   }
   for (const char* control : {"UB", "TG", "HU", "1", "RKR MD"}) {
-    EXPECT_EQ(f22.Of(Control, control), Elsewhere) << control;
-    EXPECT_EQ(topGun.Of(Control, control), Here) << control;
+    EXPECT_EQ(f22.Of(kControl, control), Elsewhere) << control;
+    EXPECT_EQ(topGun.Of(kControl, control), Here) << control;
   }
   for (const char* control : {"S5", "HUL", "TG3", "T15", "7", "", "RKR"}) {
-    EXPECT_EQ(f22.Of(Control, control), Nowhere) << control;
+    EXPECT_EQ(f22.Of(kControl, control), Nowhere) << control;
   }
 }
 
 TEST(Abilities, TheSlashesOfAnF22ProAreItsOwn) {
-  EXPECT_TRUE(Abilities({kF22Pro}).Has(Slash, "F"));
-  EXPECT_TRUE(Abilities({kF22Pro}).Has(Slash, "q"));
-  EXPECT_FALSE(Abilities({kF22Pro}).Has(Slash, "A"));
+  EXPECT_TRUE(Abilities({kF22Pro}).Has(kSlash, "F"));
+  EXPECT_TRUE(Abilities({kF22Pro}).Has(kSlash, "q"));
+  EXPECT_FALSE(Abilities({kF22Pro}).Has(kSlash, "A"));
   for (const int other : {kFlcs, kPfcs, kTopGun, kFcs}) {
-    EXPECT_FALSE(Abilities({other}).Has(Slash, "F"));
-    EXPECT_FALSE(Abilities({other}).Has(Slash, "Q"));
-    EXPECT_TRUE(Abilities({other}).Has(Slash, "A"));
+    EXPECT_FALSE(Abilities({other}).Has(kSlash, "F"));
+    EXPECT_FALSE(Abilities({other}).Has(kSlash, "Q"));
+    EXPECT_TRUE(Abilities({other}).Has(kSlash, "A"));
   }
-  EXPECT_TRUE(Abilities({}).Has(Slash, "F"));
-  EXPECT_EQ(Abilities({}).Of(Slash, "X"), Nowhere);
+  EXPECT_TRUE(Abilities({}).Has(kSlash, "F"));
+  EXPECT_EQ(Abilities({}).Of(kSlash, "X"), Nowhere);
 }
 
 TEST(Abilities, AThrottleBringsItsButtonsAxesAndTheDogfightSwitch) {
   const Abilities tqs({kFlcs, kTqs});
   const Abilities wcs({kFlcs, kWcs});
   const Abilities none({kFlcs, kNoThrottle});
-  EXPECT_TRUE(tqs.Has(Control, "T14") && tqs.Has(Axis, "RNG") && tqs.HasDogfightSwitch());
-  EXPECT_TRUE(wcs.Has(Control, "T8") && wcs.Has(Axis, "THR") && wcs.HasDogfightSwitch());
-  EXPECT_FALSE(wcs.Has(Control, "T9") || wcs.Has(Axis, "RNG"));
-  EXPECT_FALSE(none.Has(Control, "T1") || none.Has(Control, "MT") || none.Has(Axis, "THR"));
+  EXPECT_TRUE(tqs.Has(kControl, "T14") && tqs.Has(kAxis, "RNG") && tqs.HasDogfightSwitch());
+  EXPECT_TRUE(wcs.Has(kControl, "T8") && wcs.Has(kAxis, "THR") && wcs.HasDogfightSwitch());
+  EXPECT_FALSE(wcs.Has(kControl, "T9") || wcs.Has(kAxis, "RNG"));
+  EXPECT_FALSE(none.Has(kControl, "T1") || none.Has(kControl, "MT") || none.Has(kAxis, "THR"));
   EXPECT_FALSE(none.HasDogfightSwitch());
-  EXPECT_TRUE(none.Has(Axis, "JSX") && none.Has(Axis, "RDDR"));
-  EXPECT_FALSE(Abilities({kFlcs, kTqs, 0}).Has(Axis, "RDDR"));
+  EXPECT_TRUE(none.Has(kAxis, "JSX") && none.Has(kAxis, "RDDR"));
+  EXPECT_FALSE(Abilities({kFlcs, kTqs, 0}).Has(kAxis, "RDDR"));
 }
 
 TEST(Abilities, PortsAreForAnF22Pro) {
@@ -63,7 +65,7 @@ TEST(Abilities, PortsAreForAnF22Pro) {
 }
 
 TEST(Abilities, EveryControlOfTheComposerIsKnown) {
-  const auto expectKnown = [](std::string_view name) { EXPECT_NE(DevicesWith(Control, name), 0u) << name; };
+  const auto expectKnown = [](std::string_view name) { EXPECT_NE(DevicesWith(kControl, name), 0u) << name; };
   for (const tables::HardwareRow& row : tables::kHardware) {
     if (row.array == "BTN" && !row.caption.empty()) expectKnown(row.caption);
   }
@@ -82,9 +84,9 @@ TEST(Abilities, EveryControlOfTheComposerIsKnown) {
 }
 
 TEST(Abilities, EveryAxisAndModifierOfTheLanguageIsSomebodys) {
-  for (const AxisShape& axis : kAxisShapes) EXPECT_NE(DevicesWith(Axis, axis.word), 0u) << axis.word;
+  for (const AxisShape& axis : kAxisShapes) EXPECT_NE(DevicesWith(kAxis, axis.word), 0u) << axis.word;
   for (const SlashLetter& slash : kSlashLetters) {
-    EXPECT_NE(DevicesWith(Slash, {&slash.letter, 1}), 0u) << slash.letter;
+    EXPECT_NE(DevicesWith(kSlash, {&slash.letter, 1}), 0u) << slash.letter;
   }
 }
 

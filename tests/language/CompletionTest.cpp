@@ -16,14 +16,14 @@ using testing::Not;
 
 constexpr Hardware kF22{kF22Pro, kTqs, 0};
 constexpr Hardware kBare{kTopGun, kNoThrottle, 0};
-constexpr std::string_view kMacros =
+constexpr std::string_view kKnownMacros =
     "Gear_Down = g   Rem the lever\r\nGun = SPC\r\nBig_Gun = SHF SPC\r\nFireGun = f\r\n";
 
 /// The candidates at the bar in a joystick file.
 std::vector<Candidate> At(std::string text, Hardware hardware = kF22) {
   const std::size_t bar = text.find('|');
   text.erase(bar, 1);
-  const IndexedPair pair(text, std::string(kMacros), hardware);
+  const IndexedPair pair(text, std::string(kKnownMacros), hardware);
   return CandidatesAt(pair.pair, pair.names, Abilities(hardware), FileKind::Joystick, bar);
 }
 

@@ -18,7 +18,7 @@ namespace {
 
 using testing::HasSubstr;
 
-constexpr std::string_view kMacros =
+constexpr std::string_view kSpokenMacros =
     "Chaff_Single = c\r\n"
     "Jammer_On = j\r\n"
     "Jammer_Off = SHF j\r\n"
@@ -28,7 +28,7 @@ constexpr std::string_view kMacros =
     "lower = g\r\n";
 
 std::string Explained(std::string_view joystick) {
-  const IndexedPair pair{std::string(joystick), std::string(kMacros)};
+  const IndexedPair pair{std::string(joystick), std::string(kSpokenMacros)};
   return Explain(pair.pair, pair.names, FileKind::Joystick, 0);
 }
 
@@ -38,7 +38,7 @@ std::string ExplainedMacro(std::string_view macros) {
 }
 
 std::string HoveredOver(std::string_view joystick, std::string_view word) {
-  const IndexedPair pair{std::string(joystick), std::string(kMacros)};
+  const IndexedPair pair{std::string(joystick), std::string(kSpokenMacros)};
   return Hover(pair.pair, pair.names, FileKind::Joystick, pair.At(FileKind::Joystick, word));
 }
 

@@ -9,13 +9,13 @@
 namespace tarvik::model {
 namespace {
 
-std::string TreeOf(std::string_view text) { return Printed(JoystickFile(text), text); }
+std::string JoystickTree(std::string_view text) { return Printed(JoystickFile(text), text); }
 
 TEST(JoystickFile, ModifiersOfOneMatterStandBesideEachOther) {
-  EXPECT_EQ(TreeOf("BTN S1 /U /I Gun\n"
-                   "          /O Missile\n"
-                   "       /D /T a\n"
-                   "          /T b\n"),
+  EXPECT_EQ(JoystickTree("BTN S1 /U /I Gun\n"
+                         "          /O Missile\n"
+                         "       /D /T a\n"
+                         "          /T b\n"),
             "1: BTN\n"
             "    control S1\n"
             "    /U\n"
@@ -31,7 +31,7 @@ TEST(JoystickFile, ModifiersOfOneMatterStandBesideEachOther) {
 }
 
 TEST(JoystickFile, MannersOneBehindTheOtherCountTogether) {
-  EXPECT_EQ(TreeOf("BTN S1 /N /F a /H b"),
+  EXPECT_EQ(JoystickTree("BTN S1 /N /F a /H b"),
             "1: BTN\n"
             "    control S1\n"
             "    /N\n"
@@ -42,7 +42,7 @@ TEST(JoystickFile, MannersOneBehindTheOtherCountTogether) {
 }
 
 TEST(JoystickFile, NotBindsMoreThanAndAndThatMoreThanOr) {
-  EXPECT_EQ(TreeOf("DEF X1 S1 OR NOT T2 AND X3"),
+  EXPECT_EQ(JoystickTree("DEF X1 S1 OR NOT T2 AND X3"),
             "1: DEF\n"
             "    flag X1\n"
             "    OR\n"

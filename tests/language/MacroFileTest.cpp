@@ -8,7 +8,7 @@
 namespace tarvik::model {
 namespace {
 
-std::string TreeOf(std::string_view text) { return Printed(MacroFile(text), text); }
+std::string MacroTree(std::string_view text) { return Printed(MacroFile(text), text); }
 
 /// The definition that a text of one line is, of which the ranges are.
 MacroDefinition Only(std::string_view text) {
@@ -24,10 +24,10 @@ TEST(MacroFile, TheNameIsAllBeforeTheEqualsWithoutTheBlanksAround) {
   EXPECT_EQ(Only("= SPC").name.length, 0u);
 }
 
-TEST(MacroFile, ASecondEqualsIsAKey) { EXPECT_EQ(TreeOf("Zoom = ="), "1:\n    macro Zoom\n    key =\n"); }
+TEST(MacroFile, ASecondEqualsIsAKey) { EXPECT_EQ(MacroTree("Zoom = ="), "1:\n    macro Zoom\n    key =\n"); }
 
 TEST(MacroFile, ADefinitionHoldsAllThatAButtonSends) {
-  EXPECT_EQ(TreeOf("Look = /P RAW (#0C) DLY(60) Other /R SHF F1"),
+  EXPECT_EQ(MacroTree("Look = /P RAW (#0C) DLY(60) Other /R SHF F1"),
             "1:\n"
             "    macro Look\n"
             "    /P\n"

@@ -12,9 +12,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-constexpr FileKind kJoystick = FileKind::Joystick;
-constexpr FileKind kMacros = FileKind::Macros;
-
 TEST(NameAt, IsTheWordUnderAPositionAndJustBehindIt) {
   const IndexedPair pair("BTN S1 Gun /R x\r\n", "Gun = SPC\r\n");
   for (const std::size_t position : {7U, 9U, 10U}) {

@@ -8,9 +8,6 @@
 namespace tarvik::model {
 namespace {
 
-constexpr FileKind kJoystick = FileKind::Joystick;
-constexpr FileKind kMacros = FileKind::Macros;
-
 std::string Tidied(const std::string& text, FileKind file, std::optional<Range> lines = {}) {
   const bool inJoystick = file == kJoystick;
   const IndexedPair pair(inJoystick ? text : "", inJoystick ? "" : text);

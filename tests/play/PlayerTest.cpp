@@ -19,7 +19,6 @@ using testing::IsEmpty;
 using Strokes = std::vector<std::pair<Position, bool>>;
 
 constexpr Position kA = 30;
-constexpr Position kB = 48;
 constexpr Position kLeftShift = 42;
 
 std::string_view NameOfEvent(const Event& event, const Program& program) {

@@ -10,7 +10,7 @@
 namespace tarvik::screen {
 namespace {
 
-std::string Lines(int count) {
+std::string EmptyLines(int count) {
   std::string lines;
   for (int i = 0; i < count; ++i) lines += "\r\n";
   return lines;
@@ -19,7 +19,7 @@ std::string Lines(int count) {
 class SuggestionViewTest : public testing::Test, public ProgramOnScreen {
  protected:
   SuggestionViewTest() {
-    pane.SetContent(RichText("BTN S1 " + Lines(200)));
+    pane.SetContent(RichText("BTN S1 " + EmptyLines(200)));
     view.setFocus();
   }
   void OpenAt(std::size_t position) {

@@ -23,11 +23,11 @@ struct Hands {
 constexpr Hands kHands[] = {{"OnTheForms", session::MakeFormDriver, true},
                             {"OnWidgets", session::MakeScreenDriver, false}};
 
-constexpr const char* kKeys[] = {"Return", "Escape", "Delete", "F1",     "F2",     "F3",     "F4",
-                                 "F5",     "F6",     "F7",     "F8",     "F9",     "F11",    "F12",
-                                 "Ctrl+A", "Ctrl+B", "Ctrl+C", "Ctrl+F", "Ctrl+G", "Ctrl+H", "Ctrl+I",
-                                 "Ctrl+K", "Ctrl+L", "Ctrl+N", "Ctrl+O", "Ctrl+P", "Ctrl+R", "Ctrl+S",
-                                 "Ctrl+U", "Ctrl+V", "Ctrl+X", "Ctrl+Z"};
+constexpr const char* kPressedKeys[] = {"Return", "Escape", "Delete", "F1",     "F2",     "F3",     "F4",
+                                        "F5",     "F6",     "F7",     "F8",     "F9",     "F11",    "F12",
+                                        "Ctrl+A", "Ctrl+B", "Ctrl+C", "Ctrl+F", "Ctrl+G", "Ctrl+H", "Ctrl+I",
+                                        "Ctrl+K", "Ctrl+L", "Ctrl+N", "Ctrl+O", "Ctrl+P", "Ctrl+R", "Ctrl+S",
+                                        "Ctrl+U", "Ctrl+V", "Ctrl+X", "Ctrl+Z"};
 
 /// What leads to the tools, each by its path from its form.
 struct Way {
@@ -117,10 +117,10 @@ class Afternoon : private UnstartedProgram {
       Use(places[deed]);
       return true;
     }
-    if (deed - places.size() >= std::size(kKeys)) return false;
+    if (deed - places.size() >= std::size(kPressedKeys)) return false;
     for (const Place& place : places) {
       Component* const control = Find(place);
-      if (dynamic_cast<Control*>(control)) driver_->PressKey(*control, kKeys[deed - places.size()]);
+      if (dynamic_cast<Control*>(control)) driver_->PressKey(*control, kPressedKeys[deed - places.size()]);
     }
     return true;
   }

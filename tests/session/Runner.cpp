@@ -4,6 +4,7 @@
 
 #include "session/Grammar.h"
 #include "session/RunnerParts.h"
+#include "text/Blanks.h"
 
 namespace tarvik::session {
 namespace {
@@ -15,8 +16,7 @@ std::string Legible(const std::string& caption) {
     if (caption[i] == '&' && i + 1 < caption.size()) ++i;
     text += caption[i];
   }
-  const std::size_t first = std::min(text.find_first_not_of(' '), text.size());
-  return text.substr(first, text.find_last_not_of(' ') + 1 - first);
+  return std::string(WithoutBlanks(text));
 }
 
 bool IsVisible(Component& component) {

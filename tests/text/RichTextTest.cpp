@@ -10,7 +10,7 @@ namespace {
 
 using Model = std::vector<Colour>;
 
-constexpr Colour kRed{255};
+constexpr Colour kThree{255};
 constexpr Colour kOne{1};
 constexpr Colour kTwo{2};
 
@@ -95,17 +95,17 @@ TEST(ColourRuns, NoColoursAtAllAreBlackEverywhere) {
   EXPECT_EQ(none.size(), 0U);
   EXPECT_EQ(none.At(0), kBlack);
   EXPECT_TRUE(none.Slice({0, 0}) == none);
-  EXPECT_TRUE(ColourRuns(0, kRed) == none);
+  EXPECT_TRUE(ColourRuns(0, kThree) == none);
 }
 
 TEST(ColourRuns, FromTheEndOnIsBlack) {
-  const ColourRuns red(3, kRed);
-  EXPECT_EQ(red.At(2), kRed);
+  const ColourRuns red(3, kThree);
+  EXPECT_EQ(red.At(2), kThree);
   EXPECT_EQ(red.At(3), kBlack);
 }
 
 TEST(ColourRuns, ReplacingAllByNothingLeavesNothing) {
-  ColourRuns runs = RunsOf({kOne, kOne, kTwo, kRed});
+  ColourRuns runs = RunsOf({kOne, kOne, kTwo, kThree});
   runs.Replace({0, 4}, {});
   EXPECT_TRUE(runs == ColourRuns());
   runs.Replace({0, 0}, ColourRuns(2, kTwo));
@@ -120,9 +120,9 @@ TEST(ColourRuns, NeighboursOfOneColourBecomeOneRun) {
 }
 
 TEST(RichText, PlainTextHasOneColour) {
-  const RichText text("abc", kRed);
+  const RichText text("abc", kThree);
   EXPECT_EQ(text.size(), 3U);
-  EXPECT_TRUE(text.colours == ColourRuns(3, kRed));
+  EXPECT_TRUE(text.colours == ColourRuns(3, kThree));
   EXPECT_TRUE(RichText("") == RichText());
   EXPECT_FALSE(RichText("abc") == text);
 }

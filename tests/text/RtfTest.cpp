@@ -45,7 +45,7 @@ void ExpectSound(const RichText& read) {
   EXPECT_TRUE(ReadRtf(WriteRtf(read)) == read);
 }
 
-std::string TextOf(const std::string& body) { return ReadRtf("{\\rtf1\\ansi " + body + "}").text; }
+std::string TextOfBody(const std::string& body) { return ReadRtf("{\\rtf1\\ansi " + body + "}").text; }
 
 TEST(WriteRtf, EmptyContentIsTheDesignDefaultInAnyFont) {
   const std::string expected =
@@ -180,36 +180,36 @@ TEST(ReadRtf, AWordProcessorsDocumentIsItsTextAndColours) {
 }
 
 TEST(ReadRtf, CharacterWordsAreTheirCharacters) {
-  EXPECT_EQ(TextOf("\\emdash\\endash\\bullet\\lquote\\rquote\\ldblquote\\rdblquote x"),
+  EXPECT_EQ(TextOfBody("\\emdash\\endash\\bullet\\lquote\\rquote\\ldblquote\\rdblquote x"),
             "\x97\x96\x95\x91\x92\x93\x94x");
-  EXPECT_EQ(TextOf("a\\~b\\_c\\-d\\\\\\{\\}"), "a\xA0"s + "b-c\xAD" + "d\\{}");
-  EXPECT_EQ(TextOf("a\\tab b\\cell c\\row d\\emspace e\tf\\\tg"), "a\tb\tc\r\nd e\tf\tg");
-  EXPECT_EQ(TextOf("a\\line b\\par c\\\nd\\\r\ne\\sect\\page f"), "a\r\nb\r\nc\r\nd\r\ne\r\n\r\nf");
+  EXPECT_EQ(TextOfBody("a\\~b\\_c\\-d\\\\\\{\\}"), "a\xA0"s + "b-c\xAD" + "d\\{}");
+  EXPECT_EQ(TextOfBody("a\\tab b\\cell c\\row d\\emspace e\tf\\\tg"), "a\tb\tc\r\nd e\tf\tg");
+  EXPECT_EQ(TextOfBody("a\\line b\\par c\\\nd\\\r\ne\\sect\\page f"), "a\r\nb\r\nc\r\nd\r\ne\r\n\r\nf");
 }
 
 TEST(ReadRtf, HexBytesAreCodePageCharacters) {
-  EXPECT_EQ(TextOf("\\'e9\\'E9\\'80\\'00\\'7d"), "\xE9\xE9\x80\0}"s);
-  EXPECT_EQ(TextOf("\\'0d\\'0a\\'0d\\'0a\\'0a\\'0d"), "\r\n\r\n\r\n\r\n");
-  EXPECT_EQ(TextOf("a\\'zzb\\'4zc"), "azzb4zc");
+  EXPECT_EQ(TextOfBody("\\'e9\\'E9\\'80\\'00\\'7d"), "\xE9\xE9\x80\0}"s);
+  EXPECT_EQ(TextOfBody("\\'0d\\'0a\\'0d\\'0a\\'0a\\'0d"), "\r\n\r\n\r\n\r\n");
+  EXPECT_EQ(TextOfBody("a\\'zzb\\'4zc"), "azzb4zc");
 }
 
-TEST(ReadRtf, RawLineEndsAndZerosAreNoText) { EXPECT_EQ(TextOf("a\r\nb\nc\0d\r"s), "abcd"); }
+TEST(ReadRtf, RawLineEndsAndZerosAreNoText) { EXPECT_EQ(TextOfBody("a\r\nb\nc\0d\r"s), "abcd"); }
 
 TEST(ReadRtf, TheFallbackOfAUnicodeCharacterIsSkipped) {
-  EXPECT_EQ(TextOf("\\u233?\\u8364 \\'80\\u8211\\endash x"), "\xE9\x80\x96x");
-  EXPECT_EQ(TextOf("\\u233xyz"), "\xE9yz");
-  EXPECT_EQ(TextOf("\\uc0\\u233\\u233 x"), "\xE9\xE9x");
-  EXPECT_EQ(TextOf("\\uc3\\u233 a\\'62\\cf0 c{\\uc2\\u233 abc}\\u233 abcd"),
+  EXPECT_EQ(TextOfBody("\\u233?\\u8364 \\'80\\u8211\\endash x"), "\xE9\x80\x96x");
+  EXPECT_EQ(TextOfBody("\\u233xyz"), "\xE9yz");
+  EXPECT_EQ(TextOfBody("\\uc0\\u233\\u233 x"), "\xE9\xE9x");
+  EXPECT_EQ(TextOfBody("\\uc3\\u233 a\\'62\\cf0 c{\\uc2\\u233 abc}\\u233 abcd"),
             "\xE9"s + "c\xE9" + "c\xE9" + "d");
-  EXPECT_EQ(TextOf("\\uc2\\u233\\bin3 }}}ab"), "\xE9"s + "b");
-  EXPECT_EQ(TextOf("{\\uc9\\u233 a}b\\u233 {c}"), "\xE9"s + "b\xE9" + "c");
-  EXPECT_EQ(TextOf("\\uc2\\u233 a\r\nbc"), "\xE9"s + "c");
+  EXPECT_EQ(TextOfBody("\\uc2\\u233\\bin3 }}}ab"), "\xE9"s + "b");
+  EXPECT_EQ(TextOfBody("{\\uc9\\u233 a}b\\u233 {c}"), "\xE9"s + "b\xE9" + "c");
+  EXPECT_EQ(TextOfBody("\\uc2\\u233 a\r\nbc"), "\xE9"s + "c");
 }
 
 TEST(ReadRtf, AUnicodeCharacterOutsideTheCodePageIsAQuestionMark) {
-  EXPECT_EQ(TextOf("\\u322 l\\u-3913 x\\u-10179 ?\\u-8704 ?|"), "???|");
-  EXPECT_EQ(TextOf("\\u128512 ?\\u99999999999 ?\\u-99999999999 ?\\u ?|"), "????|");
-  EXPECT_EQ(TextOf("\\u13 ?\\u10 ?|"), "\r\n|");
+  EXPECT_EQ(TextOfBody("\\u322 l\\u-3913 x\\u-10179 ?\\u-8704 ?|"), "???|");
+  EXPECT_EQ(TextOfBody("\\u128512 ?\\u99999999999 ?\\u-99999999999 ?\\u ?|"), "????|");
+  EXPECT_EQ(TextOfBody("\\u13 ?\\u10 ?|"), "\r\n|");
 }
 
 TEST(ReadRtf, ColoursFollowGroupsAndPlain) {
@@ -235,13 +235,13 @@ TEST(ReadRtf, ABrokenColourTableGivesTheColoursItHas) {
 }
 
 TEST(ReadRtf, UnknownAndSkippedGroupsGiveNoText) {
-  EXPECT_EQ(TextOf("a{\\*\\unknown b{c}\\}\\{{\\par d}}e{\\pict\\bin4 {{{{00}f{\\object{\\result g}}h"),
+  EXPECT_EQ(TextOfBody("a{\\*\\unknown b{c}\\}\\{{\\par d}}e{\\pict\\bin4 {{{{00}f{\\object{\\result g}}h"),
             "aefh");
-  EXPECT_EQ(TextOf("a{\\*}b{\\*\\x\\bin99999 c}d"), "ab");
-  EXPECT_EQ(TextOf("a{\\footnote b}{\\footerf c}{\\private d}{\\listtable{e}}f{\\unknown g}"), "afg");
+  EXPECT_EQ(TextOfBody("a{\\*}b{\\*\\x\\bin99999 c}d"), "ab");
+  EXPECT_EQ(TextOfBody("a{\\footnote b}{\\footerf c}{\\private d}{\\listtable{e}}f{\\unknown g}"), "afg");
 }
 
-TEST(ReadRtf, AStrayStarOrDestinationSwallowsNoText) { EXPECT_EQ(TextOf("a\\*\\pict b\\info c"), "abc"); }
+TEST(ReadRtf, AStrayStarOrDestinationSwallowsNoText) { EXPECT_EQ(TextOfBody("a\\*\\pict b\\info c"), "abc"); }
 
 TEST(ReadRtf, WhatIsNoRtfIsTakenAsText) {
   EXPECT_EQ(ReadRtf("").text, "");
@@ -254,10 +254,10 @@ TEST(ReadRtf, WhatIsNoRtfIsTakenAsText) {
 
 TEST(ReadRtf, HugeNumbersAreTakenAsTheLargest) {
   const std::string nines(1000, '9');
-  EXPECT_EQ(TextOf("a\\cf" + nines + " b\\li-" + nines + " c\\fs" + nines + "d"), "abcd");
-  EXPECT_EQ(TextOf("a\\bin-" + nines + " b\\bin" + nines + " c"), "ab");
-  EXPECT_EQ(TextOf("a\\uc" + nines + "\\u233 b{c}d"), "a\xE9"s + "cd");
-  EXPECT_EQ(TextOf("a\\" + Repeat(1000, "word") + " b\\x--5 c"), "ab--5 c");
+  EXPECT_EQ(TextOfBody("a\\cf" + nines + " b\\li-" + nines + " c\\fs" + nines + "d"), "abcd");
+  EXPECT_EQ(TextOfBody("a\\bin-" + nines + " b\\bin" + nines + " c"), "ab");
+  EXPECT_EQ(TextOfBody("a\\uc" + nines + "\\u233 b{c}d"), "a\xE9"s + "cd");
+  EXPECT_EQ(TextOfBody("a\\" + Repeat(1000, "word") + " b\\x--5 c"), "ab--5 c");
 }
 
 TEST(ReadRtf, AHundredThousandNestedBracesAreQuick) {

@@ -6,13 +6,13 @@
 namespace tarvik {
 namespace {
 
-constexpr Colour kRed{255};
+constexpr Colour kSwatch{255};
 
 class ColouredInsertionTest : public testing::Test {
  protected:
-  ColouredInsertionTest() { swatch.BackColor = kRed; }
+  ColouredInsertionTest() { swatch.BackColor = kSwatch; }
   void Put(const std::string& text, std::size_t caret) {
-    pane.SetContent(RichText(text, kRed));
+    pane.SetContent(RichText(text, kSwatch));
     pane.SelStart = caret;
   }
   std::string Spaced(const std::string& text, std::size_t caret) {
@@ -53,7 +53,7 @@ TEST_F(ColouredInsertionTest, APieceHasItsColourAndWhatIsTypedNextIsBlackInTheFo
   EXPECT_EQ(joystick.Caret, 3U);
   pane.UserReplaced({3, 0}, "z");
   EXPECT_EQ(At(3), kBlack);
-  EXPECT_EQ(At(4), kRed);
+  EXPECT_EQ(At(4), kSwatch);
   EXPECT_EQ(pane.SelFontName.Get(), "Liberation Sans");
   EXPECT_EQ(pane.SelFontSize, 12.0F);
   EXPECT_EQ(pane.SelIndent, 20);
@@ -123,13 +123,13 @@ TEST_F(ColouredInsertionTest, UndoOfAGroupShowsThePaneAsTheGroupFoundIt) {
   insertion.InsertColouredString("abc", kBlack);
   insertion.EndColInsert();
   pane.Select({0, 3});
-  workbench.highlighter.ColourSelection(kRed);
+  workbench.highlighter.ColourSelection(kSwatch);
   pane.SelStart = 1;
   insertion.BeginColInsert();
   insertion.InsertColouredString("x", Colour{77});
   insertion.EndColInsert();
   joystick.Undo.Undo();
-  EXPECT_EQ(pane.Content(), RichText("abc", kRed));
+  EXPECT_EQ(pane.Content(), RichText("abc", kSwatch));
   EXPECT_EQ(pane.SelStart.Get(), 1U);
 }
 

@@ -11,9 +11,9 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr RecordKey kKeys[] = {
+constexpr RecordKey kThingKeys[] = {
     {"Name", "NameInHand", 10}, {"Path", "PathInHand", 20}, {"Use", "UseInHand", 0, PartKind::Number}};
-constexpr ListTraits kTraits = {"Things", "ThingNum", kKeys};
+constexpr ListTraits kThings = {"Things", "ThingNum", kThingKeys};
 
 class RecentListOnDisk : public testing::Test {
  protected:
@@ -35,7 +35,7 @@ class RecentListOnDisk : public testing::Test {
   ProfileFile file{files, "c:\\t\\a.ini"};
   Component owner{"Owner"};
   session::ScriptedDrives drives;
-  RecentList list{owner, kTraits, file, drives};
+  RecentList list{owner, kThings, file, drives};
 };
 
 TEST_F(RecentListOnDisk, PutsTheLastUsedFirst) {

@@ -14,7 +14,7 @@ namespace {
 
 enum class Kind { Text, Number, Colour };
 
-struct Key {
+struct KeyRow {
   const char* section;
   const char* name;
   const char* fallback;
@@ -22,9 +22,9 @@ struct Key {
   bool savedWithTheOptions;
 };
 
-void PrintTo(const Key& key, std::ostream* out) { *out << key.section << " " << key.name; }
+void PrintTo(const KeyRow& key, std::ostream* out) { *out << key.section << " " << key.name; }
 
-constexpr Key kKeys[] = {
+constexpr KeyRow kKeys[] = {
     {"FileLocations", "B50LoadPath", "", Kind::Text, true},
     {"FileLocations", "ProgramFilesPath", "", Kind::Text, true},
     {"FileLocations", "JoystickExtension", "b50", Kind::Text, true},
@@ -97,23 +97,23 @@ class SettingsTest : public testing::Test {
   Settings settings{file, errors};
 };
 
-class EverySetting : public SettingsTest, public testing::WithParamInterface<Key> {
+class EverySetting : public SettingsTest, public testing::WithParamInterface<KeyRow> {
  protected:
-  const Key& key = GetParam();
+  const KeyRow& key = GetParam();
 };
 
 class EveryTextSetting : public EverySetting {};
 class EveryNumberSetting : public EverySetting {};
 class EveryNumericSetting : public EverySetting {};
 
-std::vector<Key> Of(std::set<Kind> kinds) {
-  std::vector<Key> keys;
+std::vector<KeyRow> Of(std::set<Kind> kinds) {
+  std::vector<KeyRow> keys;
   std::copy_if(std::begin(kKeys), std::end(kKeys), std::back_inserter(keys),
-               [&](const Key& key) { return kinds.contains(key.kind); });
+               [&](const KeyRow& key) { return kinds.contains(key.kind); });
   return keys;
 }
 
-std::string NameOf(const testing::TestParamInfo<Key>& info) { return info.param.name; }
+std::string NameOf(const testing::TestParamInfo<KeyRow>& info) { return info.param.name; }
 
 INSTANTIATE_TEST_SUITE_P(All, EverySetting, testing::ValuesIn(kKeys), NameOf);
 INSTANTIATE_TEST_SUITE_P(All, EveryTextSetting, testing::ValuesIn(Of({Kind::Text})), NameOf);

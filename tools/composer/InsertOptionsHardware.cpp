@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "language/Controllers.h"
+#include "text/Blanks.h"
 #include "tools/composer/InsertOptions.h"
 
 namespace tarvik {
@@ -25,11 +26,7 @@ std::string FullNameOf(const tables::HardwareRow& row) {
 }
 
 /// What is written, without the blanks around it.
-std::string NameOf(const Statement& statement) {
-  const std::string name = statement.Text();
-  const std::size_t first = std::min(name.find_first_not_of(' '), name.size());
-  return name.substr(first, name.find_last_not_of(' ') + 1 - first);
-}
+std::string NameOf(const Statement& statement) { return std::string(WithoutBlanks(statement.Text())); }
 
 bool Holds(Pane& pane, const std::string& word) {
   return pane.Find(word, 0, pane.Characters().size(), find::kKeepSelection).has_value();

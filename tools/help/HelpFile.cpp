@@ -4,6 +4,7 @@
 #include <cctype>
 
 #include "controls/Component.h"
+#include "text/Blanks.h"
 #include "text/CodePage.h"
 
 namespace tarvik {
@@ -14,11 +15,7 @@ constexpr std::string_view kNoteStart = "<!--";
 constexpr std::string_view kNoteEnd = "-->";
 constexpr std::string_view kGroup = "group:";
 
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t\r\n");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t\r\n") + 1 - first);
-}
+std::string_view Trimmed(std::string_view text) { return WithoutBlanks(text, " \t\r\n"); }
 
 /// Takes the text up to the separator, and the separator, off the front.
 std::string_view TakeUpTo(std::string_view& text, char separator) {

@@ -24,7 +24,7 @@ constexpr Colour kGridColour = Rgb(85, 128, 151);
 
 constexpr float kInside = 6000;  // twips, until the window says otherwise
 
-constexpr MenuRow<JoyPlot> kMenus[] = {
+constexpr MenuRow<JoyPlot> kPlotMenus[] = {
     {0, "mnuFile", "&File"},
     {1, "mnuexit", "E&xit joystick analyser", "", &JoyPlot::mnuexit_Click},
     {0, "mnuDisplay", "&Display options"},
@@ -50,7 +50,8 @@ Colour CentreColour(int position) {
 
 }  // namespace
 
-JoyPlot::JoyPlot(Workbench& bench, Shell& shell) : ToolForm("JoyPlot", bench, shell), menus(*this, kMenus) {
+JoyPlot::JoyPlot(Workbench& bench, Shell& shell)
+    : ToolForm("JoyPlot", bench, shell), menus(*this, kPlotMenus) {
   Caption = "Joystick motion analayser";
   ScaleWidth = kInside;
   ScaleHeight = kInside;

@@ -29,7 +29,7 @@ constexpr int kPointWidth = 5;  // pixels
 constexpr Colour kLightGrey{0xE0E0E0};
 constexpr Colour kGrey{0xC0C0C0};
 
-constexpr MenuRow<KeyTestForm> kMenus[] = {
+constexpr MenuRow<KeyTestForm> kKeyTestMenus[] = {
     {0, "mnuClose", "Exit", "", &KeyTestForm::mnuClose_Click},
     {0, "mnuClear", "Clear"},
     {1, "mnuClearAll", "All", "", &KeyTestForm::mnuClearAll_Click},
@@ -85,7 +85,7 @@ int BarLength(int value, float longest) {
 
 KeyTestForm::KeyTestForm(Workbench& bench, Shell& shell)
     : ToolForm("KeyTestForm", bench, shell),
-      menus(*this, kMenus),
+      menus(*this, kKeyTestMenus),
       RTFKeysText(*this, "RTFKeysText", bench.platform.files),
       RTFKeysDownText(*this, "RTFKeysDownText", bench.platform.files),
       RTFKeysUpText(*this, "RTFKeysUpText", bench.platform.files) {

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int kMacroPage = 12;
 
-constexpr Wizard::Traits kTraits = {
+constexpr Wizard::Traits kMacroWizard = {
     "MacroWizard", "Tarvik Macro file wizard", "MacroWizFrame", "CommandAll", "Finish",
     kMacroPage,    words::kMacroWizard};
 
@@ -20,7 +20,7 @@ constexpr MacroMaker::Command kOwnCommands[] = {
 }  // namespace
 
 MacroWizard::MacroWizard(Workbench& bench, Shell& shell)
-    : Wizard(kTraits, bench, shell), MacroMaker(*this, bench, shell, kOwnCommands) {}
+    : Wizard(kMacroWizard, bench, shell), MacroMaker(*this, bench, shell, kOwnCommands) {}
 
 void MacroWizard::Turned() {
   if (Page != kMacroPage) return Wizard::Turned();

@@ -7,7 +7,7 @@ namespace {
 
 constexpr int kMacroTab = 2;
 
-constexpr MacroMaker::Command kOwnCommands[] = {
+constexpr MacroMaker::Command kSpeedyCommands[] = {
     {"OK", &MacroMaker::CloseForm},
     {"New macro file please", &MacroMaker::CreateFile},
     {"Insert a title please", &MacroMaker::InsertTitle},
@@ -16,7 +16,7 @@ constexpr MacroMaker::Command kOwnCommands[] = {
 }  // namespace
 
 Speedy::Speedy(Workbench& bench, Shell& shell)
-    : GuidedForm("Speedy", words::kSpeedy, bench, shell), MacroMaker(*this, bench, shell, kOwnCommands) {
+    : GuidedForm("Speedy", words::kSpeedy, bench, shell), MacroMaker(*this, bench, shell, kSpeedyCommands) {
   Caption = "Speedy - for fast macro files";
   SSTab1.Click = [this] { SSTab1_Click(); };
 }

@@ -107,8 +107,8 @@ double EvenMeasure::Width(std::string_view text, bool bold) const {
   return static_cast<double>(letters) * (bold ? 0.56 : 0.52) * kPoint;
 }
 
-RealPlans::RealPlans(const std::string& folder) {
-  for (const auto& file : std::filesystem::directory_iterator(folder)) {
+RealPlans::RealPlans() {
+  for (const auto& file : std::filesystem::directory_iterator(TARVIK_DATA "/devices")) {
     if (file.path().extension() != ".svg") continue;
     std::ifstream in(file.path());
     const std::string svg((std::istreambuf_iterator<char>(in)), {});
@@ -119,6 +119,11 @@ RealPlans::RealPlans(const std::string& folder) {
 const DrawingPlan* RealPlans::Find(const std::string& drawing) const {
   const auto found = plans_.find(drawing);
   return found == plans_.end() ? nullptr : &found->second;
+}
+
+std::vector<Sheet> Laid(const Contents& contents, const Options& options) {
+  static const RealPlans kPlans;
+  return SheetsOf(contents, options, EvenMeasure(), kPlans);
 }
 
 std::string NameOfLength(std::size_t letters) {

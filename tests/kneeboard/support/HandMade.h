@@ -16,13 +16,15 @@ class EvenMeasure : public TextMeasure {
 /// The leaders of the real drawings.
 class RealPlans : public DrawingPlans {
  public:
-  /// `folder` has the drawings.
-  explicit RealPlans(const std::string& folder);
+  RealPlans();
   [[nodiscard]] const DrawingPlan* Find(const std::string& drawing) const override;
 
  private:
   std::map<std::string, DrawingPlan> plans_;
 };
+
+/// The sheets of a kneeboard with the real drawings and even letters.
+[[nodiscard]] std::vector<Sheet> Laid(const Contents& contents, const Options& options = {});
 
 /// A name of so many letters, in one word or, by the number, in several.
 [[nodiscard]] std::string NameOfLength(std::size_t letters);

@@ -8,6 +8,9 @@
 
 namespace tarvik::model {
 
+inline constexpr FileKind kJoystick = FileKind::Joystick;
+inline constexpr FileKind kMacros = FileKind::Macros;
+
 class IndexedPair {
  public:
   explicit IndexedPair(std::string joystick, std::string macros = {}, Hardware hardware = {})

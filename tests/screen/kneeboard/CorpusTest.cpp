@@ -71,11 +71,9 @@ TEST(KneeboardCorpus, AllPairsCanBeRead) {
 }
 
 TEST(KneeboardCorpus, OnThoseOfTheSamplesEverythingStandsWhereItStood) {
-  const kneeboard::RealPlans plans(TARVIK_DATA "/devices");
   for (const fs::path& file : JoystickFilesIn(TARVIK_DATA "/samples")) {
     std::string told;
-    for (const Sheet& sheet : kneeboard::SheetsOf(ContentsOfFile(file), {}, kneeboard::EvenMeasure(), plans))
-      told.append(Told(sheet));
+    for (const Sheet& sheet : kneeboard::Laid(ContentsOfFile(file))) told.append(Told(sheet));
     const std::string golden =
         std::string(TARVIK_DATA "/../tests/kneeboard/sheets/").append(file.stem().string()).append(".txt");
     if (std::getenv("TARVIK_PROMOTE") != nullptr) std::ofstream(golden, std::ios::binary) << told;
