@@ -12,6 +12,10 @@ using model::Branch;
 using model::In;
 using model::Item;
 using model::ItemKind;
+using model::kBreakCode;
+using model::kCodesOfPause;
+using model::kExtendedCode;
+using model::kPauseCode;
 using model::SlashGroup;
 
 /// What one press may be written to, and how often its instructions may be done.
@@ -21,11 +25,6 @@ constexpr std::size_t kMostOpsAtAll = 400000;
 constexpr std::int64_t kMostTimes = 10000;
 constexpr int kMostDepth = 40;
 constexpr std::int64_t kMicrosInMilli = 1000;
-
-constexpr std::uint8_t kExtendedCode = 0xE0;
-constexpr std::uint8_t kPauseCode = 0xE1;
-constexpr std::uint8_t kBreakCode = 0xF0;
-constexpr int kCodesOfPause = 2;
 
 struct PrefixKey {
   std::string_view word;
@@ -88,7 +87,6 @@ Entry Writer::Write(const Text& text, const model::Sequence& sequence, std::size
 
 Entry Writer::WriteKeys(const Text& text, std::span<const Item> items) {
   press_ = true;
-  layer_.clear();
   begin_ = Here();
   keyEnd_ = 0;
   walked_ = 0;
@@ -98,6 +96,7 @@ Entry Writer::WriteKeys(const Text& text, std::span<const Item> items) {
 }
 
 Entry Writer::Finish() {
+  layer_.clear();
   if (Here() == begin_) return 0;
   // What is sent next for the same control does not come in the same moment.
   Add({OpKind::Wait, 0, 0, 0, program_.timing.gap.count()});
