@@ -68,12 +68,14 @@ class Machine {
   std::vector<Position> wrong;
   std::vector<Position> close;
   bool isStopping = false;
-  Player player;
 
  private:
   std::map<Position, bool> isDown_;
   std::map<Position, Time> changed_;
   Time modifierChanged_ = milliseconds(-1);
+
+ public:
+  Player player;  // which is heard until its end
 };
 
 /// What the engine says, where each position is down as long as one of its codes is.
