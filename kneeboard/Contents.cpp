@@ -151,8 +151,10 @@ void AddDevices(const DeedWriter& writer, Contents& contents) {
                                               tqs ? Picture::Tqs : Picture::Wcs));
     return;  // with the pedals
   }
-  const PartRow* const rudders = RowOf(kRudders, hardware.rudders.value_or(0));
-  DevicePage pedals = devices.PedalsPage(rudders == nullptr ? "Rudders" : rudders->name);
+  const int number = hardware.rudders.value_or(kNoRudders);
+  const PartRow* const rudders = RowOf(kRudders, number);
+  DevicePage pedals =
+      devices.PedalsPage(rudders == nullptr || number == kNoRudders ? "Rudders" : rudders->name);
   if (!pedals.scales.empty()) contents.devices.push_back(std::move(pedals));
 }
 

@@ -35,7 +35,8 @@ void TakeFirst(std::string_view words, TitleBlock& title) {
 }
 
 void Take(std::string_view words, TitleBlock& title) {
-  if (words.empty()) return;
+  const bool tellsOfDevices = !Behind(words, "for:").empty();
+  if (words.empty() || tellsOfDevices) return;
   std::string author = Behind(words, "by ");
   std::string date = Behind(words, "last modified:");
   if (title.author.empty() && !author.empty()) {

@@ -1,6 +1,7 @@
 #include "pairs/PairOnDisk.h"
 
 #include "language/Controllers.h"
+#include "language/Lines.h"
 #include "pairs/PairFiles.h"
 #include "text/CodePage.h"
 
@@ -15,6 +16,34 @@ Outcome<FileOnDisk> ReadFile(const std::filesystem::path& path) {
   Failure failure = text.failure();
   failure.text.insert(0, path.string() + ": ");
   return failure;
+}
+
+/// Whether a remark of a title says that the file is for a stick: "For: Top Gun, no throttle".
+bool IsFor(std::string_view remark, std::string_view stick) {
+  constexpr std::string_view kFor = "for:";
+  const std::string words = LowerCase(remark);
+  const std::size_t at = words.find(kFor);
+  if (at == std::string::npos) return false;
+  const std::string_view named = model::WithoutIndent(std::string_view(words).substr(at + kFor.size()));
+  if (!named.starts_with(LowerCase(stick))) return false;
+  return named.size() == stick.size() ||
+         std::string_view(" ,.+").find(named[stick.size()]) != std::string_view::npos;
+}
+
+/// The stick that the ending of a joystick file tells; of those with this ending the one in its title.
+int StickOf(const FileOnDisk& file, const model::JoystickFile& model) {
+  const int first = JoystickOf(LowerCase(file.path.extension().string()).substr(1));
+  for (std::size_t i = 0; i < model.size(); ++i) {
+    const auto* remark = std::get_if<model::Remark>(&model[i].body);
+    if (remark == nullptr && !std::holds_alternative<model::Blank>(model[i].body)) break;
+    if (remark == nullptr) continue;
+    const std::string_view words = model::In(model.LinesOf(i, file.text), remark->comment);
+    for (const JoystickRow& row : kJoysticks) {
+      const bool isPossible = &row.endings == &kJoysticks[first].endings;
+      if (isPossible && IsFor(words, row.inTitle)) return static_cast<int>(&row - kJoysticks);
+    }
+  }
+  return first;
 }
 
 }  // namespace
@@ -42,7 +71,7 @@ model::FilePair PairOnDisk::View() const {
   model::FilePair pair = {joystickModel_, joystick_.text, macroModel_, macros_.text};
   // Of a macro file alone nobody knows what it is for.
   if (joystick_.path.empty()) return pair;
-  pair.hardware.joystick = JoystickOf(LowerCase(joystick_.path.extension().string()).substr(1));
+  pair.hardware.joystick = StickOf(joystick_, joystickModel_);
   pair.names = {joystickName_, macroName_, macros_.path.empty()};
   return pair;
 }

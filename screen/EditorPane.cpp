@@ -95,10 +95,8 @@ void EditorPane::FollowWorkbench(Workbench& workbench, Bindings& bindings) {
   bindings.Keep(workbench.liveColours.Changed.Connect([this](const Document& document) {
     if (&document == &document_) viewport()->update();
   }));
-  if (document_.IsJoystick()) {
-    bindings.Keep(workbench.follow.Changed.Connect([this] { viewport()->update(); }));
-    bindings.Keep(workbench.follow.Shows.Connect([this](Range place) { BringIntoView(place); }));
-  }
+  bindings.Keep(workbench.follow.Changed.Connect([this] { viewport()->update(); }));
+  bindings.Keep(workbench.follow.Shows.Connect([this] { ShowGlow(); }));
   bindings.Keep(workbench.search.Changed.Connect([this] { viewport()->update(); }));
   bindings.Keep(workbench.problems.Changed.Connect([this] {
     viewport()->update();
@@ -277,7 +275,7 @@ void EditorPane::PaintBehind(QPainter& painter, const QTextBlock& block, const Q
     band.setRight(viewport()->width());
     painter.fillRect(band, Tint(InkOf(kBlack), kLineTint));
   }
-  if (document_.IsJoystick() && stick_.Glow().length > 0) PaintGlow(painter, block, offset);
+  PaintGlow(painter, block, offset);
   if (!word_.empty() && settings_.OtherPlaces != 0) PaintPlaces(painter, block, offset);
   if (search_.Count() > 0) PaintHits(painter, block, offset);
   if (settings_.MarkProblems != 0) PaintProblems(painter, block, offset);
@@ -315,14 +313,20 @@ void EditorPane::PaintHits(QPainter& painter, const QTextBlock& block, const QPo
   }
 }
 
-/// The statement of what was pressed on the stick.
 void EditorPane::PaintGlow(QPainter& painter, const QTextBlock& block, const QPointF& offset) const {
-  const Range glow = stick_.Glow();
   const std::size_t start = PanePosition(block.position());
   const std::size_t end = start + static_cast<std::size_t>(block.length() - 1);
-  const std::size_t from = std::max(glow.start, start);
-  const std::size_t to = std::min(glow.End(), end);
-  if (from < to) PaintMark(painter, block, offset, {from - start, to - from}, ToScreenColour(kHit));
+  for (const model::Mention& glow : stick_.Glow()) {
+    if (glow.file != FileKindOf(document_)) continue;
+    const std::size_t from = std::max(glow.range.start, start);
+    const std::size_t to = std::min(glow.range.End(), end);
+    if (from < to) PaintMark(painter, block, offset, {from - start, to - from}, ToScreenColour(kHit));
+  }
+}
+
+void EditorPane::ShowGlow() {
+  const auto here = std::ranges::find(stick_.Glow(), FileKindOf(document_), &model::Mention::file);
+  if (here != stick_.Glow().end()) BringIntoView(here->range);
 }
 
 void EditorPane::BringIntoView(Range place) {

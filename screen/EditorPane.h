@@ -68,9 +68,11 @@ class EditorPane : public PaneView {
   /// Frames a part of a block, and tints it a little.
   void PaintMark(QPainter& painter, const QTextBlock& block, const QPointF& offset, Range range,
                  const QColor& ink) const;
+  /// What is behind what was pressed on the stick.
   void PaintGlow(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
   /// Scrolls until the place is to be seen, as little as possible; the caret stays.
   void BringIntoView(Range place);
+  void ShowGlow();
   void PaintProblems(QPainter& painter, const QTextBlock& block, const QPointF& offset) const;
   static void PaintWave(QPainter& painter, const QRectF& place, const QColor& colour);
   /// What is told of the letter that the pointer rests on.

@@ -58,7 +58,7 @@ void FollowStick::Switch() {
   pressed_.clear();
   moving_.clear();
   positions_.clear();
-  glow_ = {};
+  glow_.clear();
   atCaret_.clear();
   listening_ = on ? feed_.Listen() : nullptr;
   if (on) {
@@ -98,13 +98,27 @@ void FollowStick::Follow(const play::ControlEvent& event) {
 void FollowStick::Press(std::string_view control) {
   pressed_.emplace(control);
   const model::ControlNames* const known = models_.Names().FindControl(control);
-  if (known && !known->assignments.empty()) {
-    glow_ = models_.Pair().joystick.RangeOf(known->assignments.front().statement);
-    if (!isTyping_) Shows(glow_);
-  } else {
-    glow_ = {};
-  }
+  const bool isAssigned = known != nullptr && !known->assignments.empty();
+  glow_ = isAssigned ? GlowOf(known->assignments.front()) : std::vector<model::Mention>();
+  if (isAssigned && !isTyping_) Shows();
   Changed();
+}
+
+std::vector<model::Mention> FollowStick::GlowOf(const model::Mention& assignment) const {
+  const model::FilePair pair = models_.Pair();
+  std::vector<model::Mention> glow;
+  for (const model::MacroNames& macro : models_.Names().Macros()) {
+    const auto isHere = [&](const model::Mention& use) {
+      return use.file == assignment.file && use.statement == assignment.statement;
+    };
+    if (!macro.definitions.empty() && std::ranges::any_of(macro.uses, isHere))
+      glow.push_back(macro.definitions.front());
+  }
+  std::ranges::sort(glow, {}, &model::Mention::statement);
+  for (model::Mention& each : glow) each.range = pair.macros.RangeOf(each.statement);
+  glow.insert(glow.begin(), assignment);
+  glow.front().range = pair.joystick.RangeOf(assignment.statement);
+  return glow;
 }
 
 /// An axis trembles, and counts when it has gone some way. Where it is at first is no move.
@@ -138,7 +152,7 @@ void FollowStick::Edited(const PaneEdit& edit) {
   isTyping_ = true;
   typing.Begin();
   // Nobody knows where the statement stands now.
-  if (std::exchange(glow_, {}).length > 0) Changed();
+  if (!std::exchange(glow_, {}).empty()) Changed();
 }
 
 }  // namespace tarvik

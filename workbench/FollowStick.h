@@ -26,18 +26,20 @@ class FollowStick {
   [[nodiscard]] bool IsHeld(std::string_view control) const {
     return IsOn() && (pressed_.contains(control) || moving_.contains(control));
   }
-  /// The statement of the control that was pressed last, in the joystick file; empty for none.
-  [[nodiscard]] Range Glow() const { return glow_; }
+  /// The statement of the control that was pressed last and the macros that it names, where they are defined:
+  /// all of each statement. Empty for none.
+  [[nodiscard]] const std::vector<model::Mention>& Glow() const { return glow_; }
 
   /// Another control lights, or another statement glows.
   Signal<> Changed;
-  /// The statement that glows is to be seen. Not while the user types.
-  Signal<Range> Shows;
+  /// What glows is to be seen, the first of it in each file. Not while the user types.
+  Signal<> Shows;
 
  private:
   void Switch();
   void Follow(const play::ControlEvent& event);
   void Press(std::string_view control);
+  [[nodiscard]] std::vector<model::Mention> GlowOf(const model::Mention& assignment) const;
   void MoveAxis(std::string_view axis, double position);
   void FollowCaret();
   void Edited(const PaneEdit& edit);
@@ -50,7 +52,7 @@ class FollowStick {
   std::set<std::string, std::less<>> moving_;
   std::vector<std::pair<std::string, double>> positions_;  // of axes, when they last counted as moved
   std::string atCaret_;
-  Range glow_;
+  std::vector<model::Mention> glow_;
   std::vector<Connection> connections_;
   std::unique_ptr<StickFeed::Listening> listening_;
 };

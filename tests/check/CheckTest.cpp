@@ -18,7 +18,6 @@ namespace tarvik::check {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::StartsWith;
 

@@ -76,6 +76,29 @@ TEST_F(FollowStickViewTest, TheStatementGlowsAsLongAsItIsFollowed) {
   EXPECT_EQ(ColourIn("BTN S1"), before);
 }
 
+TEST_F(FollowStickViewTest, WithTheMacroFileInFrontTheMacroGlows) {
+  Pane& macros = application.workbench.documents.macroText;
+  std::string text;
+  for (int i = 0; i < 200; ++i) text.append("Rem\r\n");
+  pane.SetContent(RichText("BTN S1 Fire\r\nBTN S2 a\r\n"));
+  macros.SelText = text.append("Fire = SPC\r\n");
+  macros.Select({0, 0});
+  application.editor().TabStrip1.Select(2);
+  QApplication::processEvents();
+  application.workbench.follow.typing.timer.Elapsed();
+  auto& lower = Find<EditorPane>(macros);
+  Button(1, true);
+  EXPECT_GT(lower.verticalScrollBar()->value(), 100);
+  EXPECT_EQ(macros.Selection(), (Range{0, 0}));
+  const auto colour = [&] {
+    const QRect caret = lower.CaretAt(macros.Characters().find("Fire") + 1);
+    return lower.viewport()->grab().toImage().pixelColor(caret.center().x(), caret.top() + 1);
+  };
+  const QColor lit = colour();
+  Button(2, true);
+  EXPECT_NE(colour(), lit);
+}
+
 TEST_F(FollowStickViewTest, WhatIsPressedLightsInTheComposer) {
   auto& composer = Show<InsertOptions>();
   pane.Select({pane.Characters().find("Rem"), 0});

@@ -6,8 +6,10 @@
 namespace tarvik {
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
+using testing::StartsWith;
 
 class FollowStickTest : public testing::Test {
  protected:
@@ -21,7 +23,7 @@ class FollowStickTest : public testing::Test {
       map.Set({"0300", "Stick", "port"}, play::InputIn(input).value(), control);
     }
     bare.workbench.sticks.Use(map);
-    connection_ = follow.Shows.Connect([this](Range place) { shown.push_back(Words(place)); });
+    connection_ = follow.Shows.Connect([this] { ++shown; });
   }
 
   void Follow(bool on = true) { bare.workbench.settings.FollowStick = on ? 1 : 0; }
@@ -32,15 +34,19 @@ class FollowStickTest : public testing::Test {
     bare.joystick.text.Select({0, 0});
     bare.joystick.text.SelText = "x";
   }
-  std::string Words(Range place) const {
-    return std::string(bare.joystick.text.Characters().substr(place.start, place.length));
+  std::vector<std::string> Glowing() {
+    std::vector<std::string> words;
+    for (const model::Mention& each : follow.Glow()) {
+      const Document& document = DocumentOf(bare.workbench.documents, each.file);
+      words.emplace_back(document.text.Characters().substr(each.range.start, each.range.length));
+    }
+    return words;
   }
-  std::string Glowing() const { return Words(follow.Glow()); }
 
   BareWorkbench bare;
   FollowStick& follow = bare.workbench.follow;
   int stick = 0;
-  std::vector<std::string> shown;
+  int shown = 0;
 
  private:
   Connection connection_;
@@ -60,11 +66,23 @@ TEST_F(FollowStickTest, LightsWhatIsPressedAndShowsItsStatement) {
   Follow();
   Button(1);
   EXPECT_TRUE(follow.Lights("S1"));
-  EXPECT_THAT(Glowing(), testing::StartsWith("BTN S1 a\r\n       b"));
-  EXPECT_THAT(shown, SizeIs(1));
+  EXPECT_THAT(Glowing(), ElementsAre(StartsWith("BTN S1 a\r\n       b")));
+  EXPECT_EQ(shown, 1);
   Button(1, false);
   EXPECT_FALSE(follow.Lights("S1"));
-  EXPECT_THAT(Glowing(), testing::StartsWith("BTN S1"));
+  EXPECT_THAT(Glowing(), ElementsAre(StartsWith("BTN S1")));
+}
+
+TEST_F(FollowStickTest, WhatTheStatementSendsGlowsInTheMacroFile) {
+  bare.joystick.text.SetContent(RichText("BTN S2 Zoom\r\nBTN S1 /U Fire /M Gear Nowhere /D Fire\r\n"));
+  bare.macro.text.SetContent(RichText("Gear = g\r\nZoom = z\r\nFire = SPC Zoom\r\n       b\r\n"));
+  Follow();
+  Button(1);
+  EXPECT_THAT(Glowing(), ElementsAre(StartsWith("BTN S1"), StartsWith("Gear = g"),
+                                     StartsWith("Fire = SPC Zoom\r\n       b")));
+  bare.macro.text.Select({0, 0});
+  bare.macro.text.SelText = "x";
+  EXPECT_THAT(follow.Glow(), IsEmpty());
 }
 
 TEST_F(FollowStickTest, AHatThatComesBackLightsNoMore) {
@@ -74,7 +92,7 @@ TEST_F(FollowStickTest, AHatThatComesBackLightsNoMore) {
   bare.outside.sticks.Move(stick, StickChangeKind::Hat, 0, 0);
   EXPECT_FALSE(follow.Lights("H1U"));
   EXPECT_FALSE(follow.Lights("H1M"));
-  EXPECT_THAT(Glowing(), testing::StartsWith("BTN H1U"));
+  EXPECT_THAT(Glowing(), ElementsAre(StartsWith("BTN H1U")));
 }
 
 TEST_F(FollowStickTest, WithoutAStatementNothingGlows) {
@@ -82,8 +100,8 @@ TEST_F(FollowStickTest, WithoutAStatementNothingGlows) {
   Button(1);
   Button(2);
   EXPECT_TRUE(follow.Lights("S4"));
-  EXPECT_EQ(follow.Glow().length, 0U);
-  EXPECT_THAT(shown, SizeIs(1));
+  EXPECT_THAT(follow.Glow(), IsEmpty());
+  EXPECT_EQ(shown, 1);
 }
 
 TEST_F(FollowStickTest, NeverScrollsWhileTheUserTypes) {
@@ -91,19 +109,19 @@ TEST_F(FollowStickTest, NeverScrollsWhileTheUserTypes) {
   Type();
   Button(1);
   EXPECT_TRUE(follow.Lights("S1"));
-  EXPECT_THAT(shown, IsEmpty());
+  EXPECT_EQ(shown, 0);
   EXPECT_TRUE(follow.typing.timer.Enabled);
   follow.typing.timer.Elapsed();
   Button(1, false);
   Button(1);
-  EXPECT_THAT(shown, SizeIs(1));
+  EXPECT_EQ(shown, 1);
 }
 
 TEST_F(FollowStickTest, AnEditEndsTheGlow) {
   Follow();
   Button(1);
   Type();
-  EXPECT_EQ(follow.Glow().length, 0U);
+  EXPECT_THAT(follow.Glow(), IsEmpty());
 }
 
 TEST_F(FollowStickTest, LightsTheControlOfTheStatementAtTheCaret) {
@@ -113,8 +131,8 @@ TEST_F(FollowStickTest, LightsTheControlOfTheStatementAtTheCaret) {
   EXPECT_FALSE(follow.Lights(""));
   bare.joystick.text.Select({bare.joystick.text.Characters().find("H1U"), 0});
   EXPECT_TRUE(follow.Lights("H1U"));
-  EXPECT_EQ(follow.Glow().length, 0U);
-  EXPECT_THAT(shown, IsEmpty());
+  EXPECT_THAT(follow.Glow(), IsEmpty());
+  EXPECT_EQ(shown, 0);
   bare.joystick.text.Select({0, 0});
   EXPECT_FALSE(follow.Lights("H1U"));
 }
@@ -126,7 +144,7 @@ TEST_F(FollowStickTest, AnAxisLightsForAWhileWhenItHasGoneSomeWay) {
   EXPECT_FALSE(follow.Lights("THR"));
   move(12000);
   EXPECT_TRUE(follow.Lights("THR"));
-  EXPECT_THAT(Glowing(), testing::StartsWith("THR 1"));
+  EXPECT_THAT(Glowing(), ElementsAre(StartsWith("THR 1")));
   follow.resting.timer.Elapsed();
   EXPECT_FALSE(follow.Lights("THR"));
 }

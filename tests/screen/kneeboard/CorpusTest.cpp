@@ -1,6 +1,6 @@
 // The kneeboards of the samples and of all pairs in tests/pairs/: that everything on them can be read, on
-// every paper, in the real type. Where everything stands on those of the samples is kept in
-// tests/kneeboard/sheets/NAME.txt, by letters of one width; TARVIK_PROMOTE=1 in the environment writes it
+// every paper, in the real type. Where everything stands on those of the samples and of the tidy pairs is
+// kept in tests/kneeboard/sheets/, by letters of one width; TARVIK_PROMOTE=1 in the environment writes it
 // anew.
 #include <gtest/gtest.h>
 
@@ -70,15 +70,26 @@ TEST(KneeboardCorpus, AllPairsCanBeRead) {
   for (const fs::path& file : JoystickFilesIn(TARVIK_DATA "/../tests/pairs")) LookAt(file);
 }
 
+/// Compares where everything stands on the kneeboard with tests/kneeboard/sheets/NAME.txt.
+void CompareWithGolden(const fs::path& file, const std::string& name, const Options& options) {
+  std::string told;
+  for (const Sheet& sheet : kneeboard::Laid(ContentsOfFile(file), options)) told.append(Told(sheet));
+  const std::string golden =
+      std::string(TARVIK_DATA "/../tests/kneeboard/sheets/").append(name).append(".txt");
+  if (std::getenv("TARVIK_PROMOTE") != nullptr) std::ofstream(golden, std::ios::binary) << told;
+  std::ifstream in(golden, std::ios::binary);
+  EXPECT_EQ(told, std::string(std::istreambuf_iterator<char>(in), {})) << file;
+}
+
 TEST(KneeboardCorpus, OnThoseOfTheSamplesEverythingStandsWhereItStood) {
-  for (const fs::path& file : JoystickFilesIn(TARVIK_DATA "/samples")) {
-    std::string told;
-    for (const Sheet& sheet : kneeboard::Laid(ContentsOfFile(file))) told.append(Told(sheet));
-    const std::string golden =
-        std::string(TARVIK_DATA "/../tests/kneeboard/sheets/").append(file.stem().string()).append(".txt");
-    if (std::getenv("TARVIK_PROMOTE") != nullptr) std::ofstream(golden, std::ios::binary) << told;
-    std::ifstream in(golden, std::ios::binary);
-    EXPECT_EQ(told, std::string(std::istreambuf_iterator<char>(in), {})) << file;
+  for (const fs::path& file : JoystickFilesIn(TARVIK_DATA "/samples"))
+    CompareWithGolden(file, file.stem().string(), {});
+}
+
+TEST(KneeboardCorpus, OnTheDevicesOfTidyPairsEverythingStandsWhereItStood) {
+  for (const fs::path& file : JoystickFilesIn(TARVIK_DATA "/../tests/pairs/tidy")) {
+    const std::string name = file.parent_path().filename().string();
+    CompareWithGolden(file, "tidy/" + name, {.hasKeyboard = false, .hasList = false});
   }
 }
 

@@ -57,6 +57,26 @@ TEST_F(MakeKneeboard, WritesPicturesAndText) {
   EXPECT_THAT(ContentOf("gun.txt"), HasSubstr("Gun trigger"));
 }
 
+TEST_F(MakeKneeboard, TheTitleTellsWhichOfTheSticksWithOneEndingItIs) {
+  const auto headed = [this](const std::string& title) {
+    const std::string file = folder_.Put("a.adv", title + "\r\nBTN TG SPC\r\n").string();
+    EXPECT_EQ(Make({file, "-o", Path("a.txt")}), kFine) << error_;
+    const std::string text = ContentOf("a.txt");
+    for (const char* const stick : {"PFCS", "Top Gun", "FCS", "F-22 Pro"}) {
+      if (text.find("\n" + std::string(stick) + "\n---") != std::string::npos) return std::string(stick);
+    }
+    return text;
+  };
+  EXPECT_EQ(headed("Rem"), "PFCS");
+  EXPECT_EQ(headed("Rem     For: Top Gun, WCS, RCS. combination"), "Top Gun");
+  EXPECT_EQ(headed("Rem\r\n~ for: fcs + WCS"), "FCS");
+  EXPECT_EQ(headed("Rem For: FCS"), "FCS");
+  EXPECT_EQ(headed("Rem For: P FCS, no throttle"), "PFCS");
+  EXPECT_EQ(headed("Rem For: FCSomething"), "PFCS");
+  EXPECT_EQ(headed("Rem For: F22 Pro"), "PFCS");
+  EXPECT_EQ(headed("BTN LB a\r\nRem For: Top Gun"), "PFCS");
+}
+
 TEST_F(MakeKneeboard, ErrorsInTheFilesAreToldByTheStatus) {
   const std::string wrong = folder_.Put("wrong.b50", "FIRE\r\nBTN S1 SPC\r\n").string();
   EXPECT_EQ(Make({wrong, "-o", Path("wrong.svg"), "--pages", "devices"}), kErrors);
