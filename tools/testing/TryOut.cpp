@@ -55,6 +55,17 @@ char DirectionOf(double x, double y) {
   return y > 0 ? 'D' : 'U';
 }
 
+/// The corner of a hat that is pressed there; empty on the straight ways and in the middle.
+std::string_view CornerOf(double x, double y) {
+  constexpr double kSteep = 2.414;  // the tangent of 67.5 degrees
+  const double across = std::abs(x);
+  const double along = std::abs(y);
+  const bool isStraight = DirectionOf(x, y) == 0 || across > kSteep * along || along > kSteep * across;
+  if (isStraight) return {};
+  if (y < 0) return x < 0 ? "UL" : "UR";
+  return x < 0 ? "DL" : "DR";
+}
+
 /// Where an axis is shown that nobody has moved: the throttle is idle, and the others are in the middle.
 double RestOf(int axis) { return axis == 0 ? 0 : 0.5; }
 
@@ -182,6 +193,8 @@ void TryOut::ShowControls(const std::vector<kneeboard::DevicePage>& pages) {
         if (IdOf(row) != control.label) continue;
         shown.label = &LabelOf(row);
         if (row.caption.empty()) shown.label->Caption = control.name;
+        if (row.array == "HAT" && control.position == 0)
+          shown.corner = control.name.substr(control.name.size() - 2);
       }
       items.push_back(InWords(control));
       std::string& tip = tips[shown.label];
@@ -224,10 +237,14 @@ Label& TryOut::LabelOf(const tables::HardwareRow& row) const { return hardware(N
 
 std::vector<std::string> TryOut::NamesAt(const Label& label, double x, double y) const {
   std::vector<std::string> names;
-  const char direction = DirectionOf(x, y);
+  const std::string_view corner = CornerOf(x, y);
+  const auto isCorner = [&](const Shown& each) { return each.label == &label && each.corner == corner; };
+  const bool isInCorner = !corner.empty() && std::ranges::any_of(shown_, isCorner);
+  const char direction = isInCorner ? '\0' : DirectionOf(x, y);
   for (const Shown& shown : shown_) {
     if (shown.label != &label) continue;
     if (shown.position != 0 && shown.position != direction) continue;
+    if (!shown.corner.empty() && shown.corner != corner) continue;
     const bool isSecondStage = shown.name == "TG2";
     if (isSecondStage && x <= 0) continue;
     names.push_back(shown.name);
@@ -238,12 +255,17 @@ std::vector<std::string> TryOut::NamesAt(const Label& label, double x, double y)
 void TryOut::Press(const Label& label, double x, double y) {
   Release();
   pressed_ = NamesAt(label, x, y);
+  const auto middle = std::ranges::find_if(
+      shown_, [&](const Shown& each) { return each.label == &label && each.position == 'M'; });
+  // A hat that is pressed leaves its middle, and comes back to it.
+  if (!pressed_.empty() && middle != shown_.end()) Put(middle_ = middle->name, EventKind::Up);
   for (const std::string& name : pressed_) Put(name, EventKind::Down);
 }
 
 void TryOut::Release() {
   const std::vector<std::string> names = std::exchange(pressed_, {});
   for (const std::string& name : names) Put(name, EventKind::Up);
+  if (const std::string middle = std::exchange(middle_, {}); !middle.empty()) Put(middle, EventKind::Down);
 }
 
 void TryOut::Latch(const std::string& name) {

@@ -74,6 +74,7 @@ class TryOut : public ToolForm {
     Label* label = nullptr;  // null for one that the drawing does not have
     char position = 0;
     std::uint32_t control = 0;  // of the program
+    std::string corner = {};    // of a hat: "UL"; empty for what is none
   };
   struct Place {
     model::FileKind file = model::FileKind::Joystick;
@@ -109,6 +110,7 @@ class TryOut : public ToolForm {
 
   std::vector<Shown> shown_;
   std::vector<std::string> pressed_;  // by the mouse or a key, until it is let go
+  std::string middle_ = {};           // of the hat that is pressed there, where it sends anything
   std::vector<std::string> latched_;  // down until they are put again
   std::deque<Line> lines_;
   std::string opened_;  // the text of the run that was opened last
